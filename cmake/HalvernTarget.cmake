@@ -1,0 +1,42 @@
+# What every target of ours has in common. No flag is set globally: a target opts in with halvern_target().
+
+option(HALVERN_BUILD_TESTS "Build the tests" ON)
+option(HALVERN_FUZZ "Build the fuzz targets (clang only)" OFF)
+set(HALVERN_SANITIZE "" CACHE STRING "Sanitizers to compile with, as -fsanitize takes them")
+
+function(halvern_target target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Werror)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        target_compile_options(${target} PRIVATE -Wno-unknown-warning-option)
+    endif()
+    target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII)
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
+    if(HALVERN_SANITIZE)
+        target_compile_options(${target} PUBLIC -fsanitize=${HALVERN_SANITIZE} -fno-sanitize-recover=all
+                               -fno-omit-frame-pointer)
+        target_link_options(${target} PUBLIC -fsanitize=${HALVERN_SANITIZE})
+    endif()
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+endfunction()
+
+# Precompiles the Qt headers that almost every source includes.
+function(halvern_precompile target)
+    target_precompile_headers(${target} PRIVATE
+        <memory> <optional> <functional> <vector>
+        <QString> <QStringList> <QVariant> <QMap> <QWidget>)
+endfunction()
+
+# A test program: its sources are compiled together, and ctest lists each of its cases.
+#   halvern_test(NAME SOURCES a.cpp b.cpp LIBS target... [LABELS label...])
+function(halvern_test name)
+    cmake_parse_arguments(T "" "" "SOURCES;LIBS;LABELS" ${ARGN})
+    add_executable(${name} ${T_SOURCES})
+    halvern_target(${name})
+    target_link_libraries(${name} PRIVATE halvern-test-support ${T_LIBS})
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 4
+                          RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/tsan.supp"
+        TIMEOUT 240 LABELS "${T_LABELS}")
+endfunction()

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QtPlugin>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QWidget;
+
+namespace halvern {
+
+class Bundle;
+class HostCallback;
+
+/// What a panel reports when saving or restoring fails. The panels that we ship never fill it.
+struct PanelError {
+    QString message;
+};
+
+/// A page of options in the print dialog, as the dialog sees it. Main thread only. The last reference may
+/// drop on a background queue: the panel hands its widgets back to the main thread by itself.
+class Panel {
+public:
+    virtual ~Panel() = default;
+
+    /// panelView: loads the view when first asked; null if it cannot be loaded (asked again, it tries again).
+    /// The panel owns the widget; the dialog may lend it a parent, and must take that parent back
+    /// (setParent(nullptr)) before the parent is deleted.
+    virtual QWidget* panelView() = 0;
+
+    /// panelName: the title for the dialog's panel list, in the user's language.
+    virtual std::optional<QString> panelName() = 0;
+
+    /// panelKind: a reverse-domain identifier, the same in every language.
+    virtual std::optional<QString> panelKind() = 0;
+
+    /// summaryInfo: option title -> choice title, both in the user's language.
+    virtual QMap<QString, QString> summaryInfo() = 0;
+
+    /// willShow: the dialog is about to show the view.
+    virtual void willShow() = 0;
+
+    /// shouldHide: the dialog is about to hide the view; true lets it.
+    virtual bool shouldHide() = 0;
+
+    /// printWindowWillClose: called once before the dialog closes; `printing` is true when it closes to
+    /// print.
+    virtual void printWindowWillClose(bool printing) = 0;
+
+    /// saveValuesAndReturnError: called before the job is made. `error` may be null.
+    virtual bool saveValuesAndReturnError(PanelError* error) = 0;
+
+    /// restoreValuesAndReturnError: called when the dialog wants the panel to take the current values.
+    virtual bool restoreValuesAndReturnError(PanelError* error) = 0;
+
+    /// PPDOptionKeyValueDidChange:ppdChoice: an option changed outside this panel.
+    virtual void PPDOptionKeyValueDidChange_ppdChoice(const std::optional<QString>& key,
+                                                      const QVariant& choice) = 0;
+
+    /// shouldShowHelp: true when the dialog shall show help itself; false when the panel has opened its help
+    /// book.
+    virtual bool shouldShowHelp() = 0;
+
+    /// supportedPPDOptionKeys: the PPD keywords that the panel owns, in its order.
+    virtual QStringList supportedPPDOptionKeys() = 0;
+};
+
+using PanelList = std::vector<std::shared_ptr<Panel>>;
+
+/// The principal object of a plug-in bundle. Main thread only.
+class PrincipalClass {
+public:
+    virtual ~PrincipalClass() = default;
+
+    /// initWithBundle: false refuses the bundle; the dialog then drops the plug-in.
+    virtual bool initWithBundle(const Bundle& bundle) = 0;
+
+    /// PDEPanelsForType:withHostInfo: a fresh list of panels for a known type, no list for another one. The
+    /// caller owns the panels.
+    virtual std::optional<PanelList>
+    PDEPanelsForType_withHostInfo(const QString& type, const std::shared_ptr<HostCallback>& host) = 0;
+};
+
+/// The root object of the loadable module: makes the principal object.
+class PlugInModule {
+public:
+    virtual ~PlugInModule() = default;
+    virtual std::unique_ptr<PrincipalClass> makePrincipalObject() = 0;
+};
+
+/// The type string under which the print dialog asks for its panels.
+inline constexpr char kPrintDialogExtensionType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
+
+} // namespace halvern
+
+#define HalvernPlugInModule_iid "com.halvern.print.PlugInModule/1.0"
+Q_DECLARE_INTERFACE(halvern::PlugInModule, HalvernPlugInModule_iid)

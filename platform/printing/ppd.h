@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+struct ppd_file_s;
+using ppd_file_t = ppd_file_s;
+
+/// Reading PPD files through libcups. A handle belongs to one thread at a time; different threads use
+/// different handles. All texts are UTF-8 in the file and QString here. Keywords that are not ASCII are never
+/// found.
+namespace halvern::ppd {
+
+struct Closer {
+    void operator()(ppd_file_t* file) const;
+};
+
+/// An open PPD, closed by its owner.
+using File = std::unique_ptr<ppd_file_t, Closer>;
+
+/// Opens a PPD, null if it cannot be read or parsed. No choice is marked. `why`, if given, is filled with
+/// libcups's reason and the line number.
+File open(const QString& path, QString* why = nullptr);
+
+/// cupsGetPPD: asks the CUPS server for the queue's current PPD on the calling thread's own default
+/// connection; blocks. The answer is the path of a temporary file that the caller removes; nothing if it
+/// cannot be had.
+std::optional<QString> fetch(const QString& destination);
+
+/// The value of the first attribute with the keyword, whatever its spec; nothing if there is none or it has
+/// no value. `file` may be null.
+std::optional<QString> attribute(ppd_file_t* file, const QString& keyword);
+
+struct Choice {
+    QString keyword;
+    QString text;
+};
+
+/// The option's default choice keyword; nothing if `file` is null or has no such option.
+std::optional<QString> defaultChoice(ppd_file_t* file, const QString& option);
+
+/// The choice marked for the option; nothing if there is none.
+std::optional<Choice> markedChoice(ppd_file_t* file, const QString& option);
+
+/// The option's choices in the PPD's order; nothing if there is no such option.
+std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option);
+
+/// httpDecode64_2 on the text: nothing if decoding fails or yields no byte.
+std::optional<QByteArray> decodeBase64(const QByteArray& text);
+
+} // namespace halvern::ppd

@@ -1,0 +1,23 @@
+#include "platform/printing/printer.h"
+
+#include <utility>
+
+namespace halvern {
+
+Printer::Printer(QString id, QUrl deviceUri) : id_(std::move(id)), deviceUri_(std::move(deviceUri)) {}
+
+std::optional<QString> Printer::id() const
+{
+    if (id_.isEmpty())
+        return std::nullopt;
+    return id_;
+}
+
+std::optional<QUrl> Printer::copyDeviceURI() const
+{
+    if (deviceUri_.isEmpty())
+        return std::nullopt;
+    return deviceUri_;
+}
+
+} // namespace halvern
