@@ -74,6 +74,21 @@ std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option)
     return result;
 }
 
+void markDefaults(ppd_file_t* file)
+{
+    ppdMarkDefaults(file);
+}
+
+bool mark(ppd_file_t* file, const QString& option, const QString& choice)
+{
+    // libcups ignores what it does not know without a word.
+    ppd_option_t* found = ppdFindOption(file, option.toUtf8().constData());
+    if (!found || !ppdFindChoice(found, choice.toUtf8().constData()))
+        return false;
+    ppdMarkOption(file, option.toUtf8().constData(), choice.toUtf8().constData());
+    return true;
+}
+
 std::optional<QByteArray> decodeBase64(const QByteArray& text)
 {
     QByteArray bytes(text.size(), '\0');

@@ -49,6 +49,12 @@ std::optional<Choice> markedChoice(ppd_file_t* file, const QString& option);
 /// The option's choices in the PPD's order; nothing if there is no such option.
 std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option);
 
+/// Marks every option's default.
+void markDefaults(ppd_file_t* file);
+
+/// Marks a listed choice. False, with nothing marked, if the PPD has no such option or choice.
+bool mark(ppd_file_t* file, const QString& option, const QString& choice);
+
 /// httpDecode64_2 on the text: nothing if decoding fails or yields no byte.
 std::optional<QByteArray> decodeBase64(const QByteArray& text);
 

@@ -97,6 +97,8 @@ std::optional<double> floatValue(const QWidget* widget)
 
 std::optional<int> intValue(const QWidget* widget)
 {
+    if (qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QLabel*>(widget))
+        return leadingInteger(*stringValue(widget));
     const std::optional<double> value = floatValue(widget);
     return value ? std::optional<int>(truncatedToInt(*value)) : std::nullopt;
 }

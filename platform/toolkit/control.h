@@ -31,7 +31,7 @@ std::optional<double> maxValue(const QWidget* widget);
 std::optional<double> minValue(const QWidget* widget);
 std::optional<double> floatValue(const QWidget* widget);
 
-/// The value cut to an integer.
+/// The value cut to an integer; of a text, the integer that it starts with.
 std::optional<int> intValue(const QWidget* widget);
 bool answersSetIntValue(const QWidget* widget);
 void setIntValue(QWidget* widget, int value);
