@@ -6,7 +6,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QMutex>
-#include <QStandardPaths>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <cstring>
@@ -74,7 +75,8 @@ void useBuiltBundle(const QString& language)
 {
     QLocale::setDefault(QLocale(language));
     // The user's own settings stay as they are.
-    QStandardPaths::setTestModeEnabled(true);
+    static const QTemporaryDir settingsFolder;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsFolder.path());
     QString why;
     auto bundle = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE), &why);
     if (!bundle)
