@@ -72,7 +72,8 @@ bool RZUnavailablePDEHalvern::saveValuesAndReturnError(PanelError*)
 
 bool RZUnavailablePDEHalvern::restoreValuesAndReturnError(PanelError* error)
 {
-    return saveValuesAndReturnError(error);
+    saveValuesAndReturnError(error);
+    return true;
 }
 
 } // namespace halvern
