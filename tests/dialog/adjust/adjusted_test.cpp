@@ -39,6 +39,8 @@ TEST(ColourPreview, NeutralValuesChangeNoPixel)
     ColorAdjustments almost = only(&ColorAdjustments::brightness, 1e-9);
     almost.gamma = 1.0 + 1e-9;
     EXPECT_EQ(adjusted(chart(), almost), chart());
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(adjusted(chart(), {nan, nan, nan, nan, nan, nan, nan}), chart());
     EXPECT_TRUE(adjusted(QImage(), only(&ColorAdjustments::red, 50)).isNull());
 }
 
@@ -126,12 +128,6 @@ TEST(ColourPreview, KeepsTransparencyColourSpaceAndSizeOfAnyFormat)
     EXPECT_EQ(seeThrough.pixel(0, 0), qRgba(10, 20, 30, 77)) << "the original stays as it is";
 }
 
-TEST(ColourPreview, WhatIsNoNumberChangesNothing)
-{
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(adjusted(chart(), {nan, nan, nan, nan, nan, nan, nan}), chart());
-}
-
 TEST(ChoicesOfThePreview, AreReadByTheNumberThatTheyStartWith)
 {
     QMap<QString, QString> choices{
@@ -148,15 +144,6 @@ TEST(ChoicesOfThePreview, AreReadByTheNumberThatTheyStartWith)
     EXPECT_EQ(colorAdjustments(choices), ColorAdjustments());
     choices.remove(QStringLiteral("AdjustmentsEnabled"));
     EXPECT_EQ(colorAdjustments(choices), ColorAdjustments());
-}
-
-TEST(ChoicesOfThePreview, SharpenOnlyWithTheToggleOn)
-{
-    QMap<QString, QString> choices{{QStringLiteral("SharpnessRadius"), QStringLiteral("3")},
-                                   {QStringLiteral("SharpnessIntensity"), QStringLiteral("1.24")}};
-    EXPECT_EQ(sharpening(choices), Sharpening());
-    choices[QStringLiteral("SharpnessEnabled")] = QStringLiteral("True");
-    EXPECT_EQ(sharpening(choices), (Sharpening{3.0, 1.24}));
 }
 
 } // namespace

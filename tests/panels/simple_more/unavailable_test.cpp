@@ -84,13 +84,6 @@ TEST_F(CoverPagePanel, LeavesSettingsAloneThatAskForNoCoverPage)
     EXPECT_EQ(log.lines(), QStringList());
 }
 
-TEST_F(CoverPagePanel, TakesOnlyTheTextNoneForNone)
-{
-    settings->PrintSettings::setValue(kSheets, 0, false);
-    makePanel<RZUnavailablePDEHalvern>(host);
-    EXPECT_EQ(settings->values().value(kSheets), QVariant(QStringLiteral("None")));
-}
-
 TEST_F(CoverPagePanel, SaysWhatWentWrong)
 {
     ask(QStringLiteral("standard"));
@@ -115,15 +108,6 @@ TEST_F(CoverPagePanel, DoesNothingForAHostThatCannotCheckConstraints)
     const auto panel = makePanel<Legacy>(host);
     ASSERT_NE(panel, nullptr);
     panel->saveValuesAndReturnError(nullptr);
-    EXPECT_EQ(settings->writes, 0);
-}
-
-TEST_F(CoverPagePanel, IsNotOfferedAndChangesNothingWithoutAPpd)
-{
-    const auto without = std::make_shared<FakeHost>(QByteArray());
-    without->settings = settings;
-    ask(QStringLiteral("standard"));
-    EXPECT_EQ(makePanel<RZUnavailablePDEHalvern>(without), nullptr);
     EXPECT_EQ(settings->writes, 0);
 }
 
