@@ -36,7 +36,8 @@ QWidget* KSTRVLBasePDEHalvern::view_controlForTag(QWidget* view, int tag)
 
 QWidget* KSTRVLBasePDEHalvern::controlBeside(QWidget* control, int tag)
 {
-    return control && control->parentWidget() ? view_controlForTag(control->parentWidget(), tag) : nullptr;
+    // A control without a parent stands in the panel's own view.
+    return control ? view_controlForTag(control->parentWidget(), tag) : nullptr;
 }
 
 bool KSTRVLBasePDEHalvern::isControlSupportedForTag(int)

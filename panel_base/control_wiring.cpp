@@ -100,7 +100,8 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
 {
     QObject::connect(field, &QLineEdit::textEdited, field, [weak = weak_from_this(), field] {
         field->setProperty(kEdited, true);
-        if (const auto self = weak.lock())
+        const auto self = weak.lock();
+        if (self && field->property(kDelegate).toBool())
             self->controlTextDidChange(field);
     });
     // Return sends this and losing the focus sends it again: what was not edited since does not end editing
@@ -110,8 +111,10 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
         if (!self || !field->property(kEdited).toBool())
             return;
         field->setProperty(kEdited, false);
-        self->controlTextDidEndEditing(field);
-        if (field->hasFocus())
+        // A field whose keystrokes were proposed has nothing left to send.
+        if (field->property(kDelegate).toBool())
+            self->controlTextDidEndEditing(field);
+        else
             self->sendAction(field);
     });
 }
