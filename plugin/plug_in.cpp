@@ -1,6 +1,7 @@
 #include "plugin/plug_in.h"
 
 #include "panels/backprint/backprint_panel.h"
+#include "panels/simple/color_adjust_panel.h"
 #include "panels/simple/sharpness_panel.h"
 #include "platform/foundation/bundle.h"
 #include "platform/foundation/log.h"
@@ -22,6 +23,7 @@ const std::vector<PanelFactory>& roster()
 {
     static const std::vector<PanelFactory> factories{
         &make<RZBackprintPDEHalvern>,
+        &make<RZColorAdjustPDEHalvern>,
         &make<RZSharpnessPDEHalvern>,
     };
     return factories;
