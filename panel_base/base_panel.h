@@ -199,6 +199,9 @@ public:
     virtual void incrementControl(QWidget* button);
     virtual void decrementControl(QWidget* button);
 
+    /// sendUICommand: the action of a control that acts on the view itself. A hook for panels.
+    virtual void sendUICommand(QWidget* sender);
+
     /// The text-field delegate's operations; `field` is the notification's object.
     virtual void controlTextDidChange(QLineEdit* field);
     virtual void controlTextDidEndEditing(QLineEdit* field);

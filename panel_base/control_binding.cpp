@@ -186,6 +186,8 @@ void KSTRVLBasePDEHalvern::decrementControl(QWidget* button)
     stepControl(button, tags::kDecrement, -1);
 }
 
+void KSTRVLBasePDEHalvern::sendUICommand(QWidget*) {}
+
 void KSTRVLBasePDEHalvern::controlTextDidChange(QLineEdit* field)
 {
     changePrinterSetting(field);

@@ -35,6 +35,7 @@ constexpr Action kActions[] = {
     {QLatin1StringView("changePrinterSetting:"), &KSTRVLBasePDEHalvern::changePrinterSetting},
     {QLatin1StringView("incrementControl:"), &KSTRVLBasePDEHalvern::incrementControl},
     {QLatin1StringView("decrementControl:"), &KSTRVLBasePDEHalvern::decrementControl},
+    {QLatin1StringView("sendUICommand:"), &KSTRVLBasePDEHalvern::sendUICommand},
 };
 
 } // namespace
