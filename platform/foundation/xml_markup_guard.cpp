@@ -2,12 +2,14 @@
 
 #include "platform/foundation/property_list_object_table.h"
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
 
 /// Longer than any tag or document type of a property list.
-constexpr qsizetype kMaxTag = 512;
+constexpr qsizetype kMaxTag = 256;
 
 /// The position after the first `end` at or behind `from`; the end of the text if there is none.
 qsizetype after(QByteArrayView xml, QByteArrayView end, qsizetype from)

@@ -8,6 +8,8 @@
 #include <QDateTime>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -16,6 +18,25 @@ namespace halvern {
 namespace {
 
 constexpr std::size_t kMaxNesting = 64;
+
+enum class Element { unknown, dictionary, array, key, string, integer, real, isTrue, isFalse, date, data };
+
+Element elementOf(QStringView name)
+{
+    struct Name {
+        const char16_t* text;
+        Element element;
+    };
+
+    static constexpr std::array kNames{
+        Name{u"key", Element::key},       Name{u"dict", Element::dictionary}, Name{u"array", Element::array},
+        Name{u"string", Element::string}, Name{u"integer", Element::integer}, Name{u"real", Element::real},
+        Name{u"true", Element::isTrue},   Name{u"false", Element::isFalse},   Name{u"date", Element::date},
+        Name{u"data", Element::data},
+    };
+    const auto found = std::ranges::find_if(kNames, [name](const Name& known) { return name == known.text; });
+    return found == kNames.end() ? Element::unknown : found->element;
+}
 
 bool isBase64OrSpace(char c)
 {
@@ -41,7 +62,7 @@ private:
     void open(bool dictionary);
     void close();
     void add(quint32 object, bool isKey);
-    quint32 readScalar();
+    quint32 readScalar(Element element);
     quint32 addInteger(QString text);
     quint32 addReal(const QString& text);
     quint32 addDate(const QString& text);
@@ -93,19 +114,18 @@ QByteArray XmlPropertyListReader::read()
 
 void XmlPropertyListReader::startElement()
 {
-    const QStringView name = xml_.name();
     if (!inPropertyList_) {
-        if (name != QLatin1StringView("plist"))
+        if (xml_.name() != QLatin1StringView("plist"))
             throw CorruptArchive{"its XML is not a property list"};
         inPropertyList_ = true;
-    } else if (name == QLatin1StringView("dict")) {
-        open(true);
-    } else if (name == QLatin1StringView("array")) {
-        open(false);
+        return;
+    }
+    const Element element = elementOf(xml_.name());
+    if (element == Element::dictionary || element == Element::array) {
+        open(element == Element::dictionary);
     } else {
-        const bool isKey = name == QLatin1StringView("key");
-        const quint32 object = readScalar();
-        add(object, isKey);
+        const quint32 object = readScalar(element);
+        add(object, element == Element::key);
     }
 }
 
@@ -155,27 +175,31 @@ void XmlPropertyListReader::add(quint32 object, bool isKey)
     children_.push_back(object);
 }
 
-quint32 XmlPropertyListReader::readScalar()
+quint32 XmlPropertyListReader::readScalar(Element element)
 {
-    const QString name = xml_.name().toString();
     const QString content = text();
     lastNumber_.reset();
     lastIsUidKey_ = false;
-    if (name == QLatin1StringView("key") || name == QLatin1StringView("string")) {
+    switch (element) {
+    case Element::key:
         lastIsUidKey_ = content == QLatin1StringView("CF$UID");
+        [[fallthrough]];
+    case Element::string:
         return writer_.addUtf8String(content.toUtf8());
-    }
-    if (name == QLatin1StringView("integer"))
+    case Element::integer:
         return addInteger(content.trimmed());
-    if (name == QLatin1StringView("real"))
+    case Element::real:
         return addReal(content);
-    if (name == QLatin1StringView("true") || name == QLatin1StringView("false"))
-        return writer_.addBoolean(name == QLatin1StringView("true"));
-    if (name == QLatin1StringView("date"))
+    case Element::isTrue:
+    case Element::isFalse:
+        return writer_.addBoolean(element == Element::isTrue);
+    case Element::date:
         return addDate(content.trimmed());
-    if (name == QLatin1StringView("data"))
+    case Element::data:
         return addData(content.toLatin1());
-    throw CorruptArchive{"its XML has an unknown element"};
+    default:
+        throw CorruptArchive{"its XML has an unknown element"};
+    }
 }
 
 quint32 XmlPropertyListReader::addInteger(QString text)
