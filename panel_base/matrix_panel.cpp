@@ -1,0 +1,30 @@
+#include "panel_base/matrix_panel.h"
+
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/matrix.h"
+
+namespace halvern {
+
+QVariant KSTRVLMatrixPDEHalvern::newChoiceForSender(QWidget* sender)
+{
+    const auto* matrix = qobject_cast<Matrix*>(sender);
+    const std::optional<int> tag = matrix ? matrix->selectedTag() : control::tagOf(sender);
+    return tag ? ppdChoiceForTag(*tag) : QVariant();
+}
+
+void KSTRVLMatrixPDEHalvern::updateControl_withValue(QWidget* control, const QVariant& value)
+{
+    auto* matrix = qobject_cast<Matrix*>(control);
+    if (!matrix || !value.isValid())
+        return;
+    matrix->selectCellWithTag(tagForStringValue(value));
+    matrix->setToolTip(QString());
+}
+
+void KSTRVLMatrixPDEHalvern::setToolTip_fromSender(const QString&, QWidget* sender)
+{
+    if (sender)
+        sender->setToolTip(QString());
+}
+
+} // namespace halvern

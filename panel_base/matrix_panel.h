@@ -1,0 +1,18 @@
+#pragma once
+
+#include "panel_base/base_panel.h"
+
+namespace halvern {
+
+/// A base for panels whose options are all radio-button matrices. No panel of ours derives from it; it is
+/// there for those that will.
+class KSTRVLMatrixPDEHalvern : public KSTRVLBasePDEHalvern {
+public:
+    QVariant newChoiceForSender(QWidget* sender) override;
+    void updateControl_withValue(QWidget* control, const QVariant& value) override;
+
+    /// setToolTip:fromSender: clears the tool tip whatever text is given.
+    void setToolTip_fromSender(const QString& toolTip, QWidget* sender) override;
+};
+
+} // namespace halvern

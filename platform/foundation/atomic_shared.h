@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <mutex>
+#include <utility>
+
+namespace halvern {
+
+/// A shared reference that threads may read, replace and take without further arrangement.
+template <class T> class AtomicShared {
+public:
+    std::shared_ptr<T> get() const
+    {
+        const std::scoped_lock lock(mutex_);
+        return value_;
+    }
+
+    void set(std::shared_ptr<T> value) { exchange(std::move(value)); }
+
+    /// Stores `value` and answers what was there before.
+    std::shared_ptr<T> exchange(std::shared_ptr<T> value)
+    {
+        const std::scoped_lock lock(mutex_);
+        return std::exchange(value_, std::move(value));
+    }
+
+    explicit operator bool() const { return get() != nullptr; }
+
+private:
+    mutable std::mutex mutex_;
+    std::shared_ptr<T> value_;
+};
+
+} // namespace halvern

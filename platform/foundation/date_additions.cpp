@@ -1,0 +1,37 @@
+#include "platform/foundation/date_additions.h"
+
+#include <QLocale>
+#include <QTimeZone>
+
+#include <unicode/locid.h>
+#include <unicode/smpdtfmt.h>
+#include <unicode/timezone.h>
+
+namespace halvern::KSTRVL_NSDateAdditions {
+
+namespace {
+
+icu::UnicodeString toIcu(const QString& text)
+{
+    return icu::UnicodeString(reinterpret_cast<const char16_t*>(text.utf16()), int32_t(text.size()));
+}
+
+} // namespace
+
+std::optional<QString> stringWithUTSFormat(const QDateTime& date, const QString& pattern)
+{
+    if (!date.isValid())
+        return std::nullopt;
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Locale locale(QLocale().bcp47Name().toUtf8().constData());
+    icu::SimpleDateFormat format(toIcu(pattern), locale, status);
+    if (U_FAILURE(status))
+        return std::nullopt;
+    format.adoptTimeZone(
+        icu::TimeZone::createTimeZone(toIcu(QString::fromUtf8(QTimeZone::systemTimeZoneId()))));
+    icu::UnicodeString text;
+    format.format(UDate(date.toMSecsSinceEpoch()), text);
+    return QString::fromUtf16(text.getBuffer(), text.length());
+}
+
+} // namespace halvern::KSTRVL_NSDateAdditions

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace halvern {
+
+/// The number at the start of a text, after white space: an optional sign, digits, a point, an exponent. 0 if
+/// the text does not start with a number. The decimal sign is "." in every locale.
+double leadingDouble(QStringView text);
+
+/// The integer at the start of a text, after white space; 0 if there is none; held to the range of int.
+int leadingInteger(QStringView text);
+
+/// The number filled into a printf format that takes one double ("%.2f"), with "." in every locale.
+QString formatDouble(const char* format, double number);
+
+/// The shortest decimal text that reads back as the number.
+QString shortestDouble(double number);
+
+/// A number cut to an int, toward zero, held to the range of int; not-a-number gives 0.
+int truncatedToInt(double number);
+
+} // namespace halvern

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QVariantMap>
+
+namespace halvern {
+
+/// The user's preferences, kept in one settings file ("halvern/print.conf" in the user's configuration
+/// folder). Main thread only.
+class UserDefaults {
+public:
+    static UserDefaults& standardUserDefaults();
+
+    /// The name of the domain that all programs share.
+    static QString globalDomain();
+
+    /// All keys of a domain with their values; empty if the domain does not exist or the file cannot be read.
+    QVariantMap persistentDomain(const QString& domain) const;
+
+    /// Replaces the whole domain and writes it out. Logs a line if the file cannot be written.
+    void setPersistentDomain(const QVariantMap& values, const QString& domain);
+
+    /// A single value of the global domain, invalid if absent.
+    QVariant objectForKey(const QString& key) const;
+};
+
+} // namespace halvern

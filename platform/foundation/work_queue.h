@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace halvern {
+
+/// Work for the main thread, run from its event loop in the order of submission. async() may be called from
+/// any thread and never blocks. Work that is still queued when the application object goes is dropped with
+/// its captures.
+class MainQueue {
+public:
+    void async(std::function<void()> work) const;
+
+    /// Runs `work` once after `milliseconds`.
+    void after(int milliseconds, std::function<void()> work) const;
+};
+
+const MainQueue& mainQueue();
+
+/// An unlabelled serial queue: its work runs in order, on a thread of its own that exists while there is
+/// work. Letting go of the queue does not lose what was submitted. The thread is never joined, so one that is
+/// stuck in a system call holds up nobody's exit. Any thread.
+class WorkQueue {
+public:
+    WorkQueue();
+
+    void async(std::function<void()> work) const;
+
+private:
+    struct State;
+    std::shared_ptr<State> state_;
+};
+
+} // namespace halvern

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <functional>
+
+namespace halvern {
+
+/// The system's alert sound. Main thread only.
+void beep();
+
+/// Replaces the sound, for tests; an empty function brings the sound back.
+void setBeepHandler(std::function<void()> handler);
+
+} // namespace halvern

@@ -1,0 +1,98 @@
+#include "tests/support/observers.h"
+
+#include "platform/foundation/bundle.h"
+#include "platform/toolkit/beep.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QMutex>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstring>
+
+namespace halvern {
+
+namespace {
+
+QMutex captureMutex;
+QStringList* capturedLines = nullptr;
+QtMessageHandler handlerBefore = nullptr;
+
+void capture(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    {
+        const QMutexLocker lock(&captureMutex);
+        if (capturedLines && context.category && std::strcmp(context.category, "halvern.pde") == 0) {
+            capturedLines->append(text);
+            return;
+        }
+    }
+    handlerBefore(type, context, text);
+}
+
+} // namespace
+
+LogCapture::LogCapture()
+{
+    const QMutexLocker lock(&captureMutex);
+    capturedLines = new QStringList;
+    handlerBefore = qInstallMessageHandler(capture);
+}
+
+LogCapture::~LogCapture()
+{
+    qInstallMessageHandler(handlerBefore);
+    const QMutexLocker lock(&captureMutex);
+    delete capturedLines;
+    capturedLines = nullptr;
+}
+
+QStringList LogCapture::lines() const
+{
+    const QMutexLocker lock(&captureMutex);
+    return *capturedLines;
+}
+
+void LogCapture::clear()
+{
+    const QMutexLocker lock(&captureMutex);
+    capturedLines->clear();
+}
+
+BeepCounter::BeepCounter()
+{
+    setBeepHandler([this] { ++count; });
+}
+
+BeepCounter::~BeepCounter()
+{
+    setBeepHandler({});
+}
+
+void useBuiltBundle(const QString& language)
+{
+    QLocale::setDefault(QLocale(language));
+    // The user's own settings stay as they are.
+    static const QTemporaryDir settingsFolder;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsFolder.path());
+    QString why;
+    auto bundle = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE), &why);
+    if (!bundle)
+        qFatal("the built bundle does not load: %s", qPrintable(why));
+    Bundle::setMainBundle(std::move(bundle));
+}
+
+bool waitUntil(const std::function<bool()>& condition, int seconds)
+{
+    return QTest::qWaitFor(condition, seconds * 1000);
+}
+
+void drainMainQueue()
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace halvern

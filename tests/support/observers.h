@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+
+namespace halvern {
+
+/// Collects the lines of our log category while it exists. One at a time.
+class LogCapture {
+public:
+    LogCapture();
+    ~LogCapture();
+    LogCapture(const LogCapture&) = delete;
+    LogCapture& operator=(const LogCapture&) = delete;
+
+    QStringList lines() const;
+
+    int count(const QString& line) const { return int(lines().count(line)); }
+
+    void clear();
+};
+
+/// Counts the alert sounds instead of playing them.
+class BeepCounter {
+public:
+    BeepCounter();
+    ~BeepCounter();
+    BeepCounter(const BeepCounter&) = delete;
+    BeepCounter& operator=(const BeepCounter&) = delete;
+
+    int count = 0;
+};
+
+/// Makes the built bundle the main one, so that panels linked into the test find their layouts and
+/// translations; in `language` ("de_DE") until the next call.
+void useBuiltBundle(const QString& language = QStringLiteral("en_US"));
+
+/// Runs the event loop until the condition holds; false if it does not within `seconds`.
+bool waitUntil(const std::function<bool()>& condition, int seconds = 20);
+
+/// Delivers everything that is queued for the main thread, deletions included.
+void drainMainQueue();
+
+} // namespace halvern
