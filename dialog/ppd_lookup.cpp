@@ -1,5 +1,7 @@
 #include "dialog/ppd_lookup.h"
 
+#include "platform/printing/cups_ppd.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 

@@ -1,6 +1,7 @@
 #include "dialog/ppd_model.h"
 
 #include "dialog/ppd_lookup.h"
+#include "platform/printing/cups_ppd.h"
 
 #include <QLocale>
 

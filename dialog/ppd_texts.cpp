@@ -2,6 +2,8 @@
 #include "dialog/ppd_lookup.h"
 #include "dialog/ppd_model.h"
 
+#include "platform/printing/cups_ppd.h"
+
 #include <algorithm>
 
 namespace halvern {
