@@ -9,6 +9,7 @@
 
 #include <cstring>
 
+#include <syslog.h>
 #include <unistd.h>
 
 namespace halvern {
@@ -17,16 +18,26 @@ namespace {
 
 constexpr int kTakeBackMilliseconds = 3000;
 
-// Panels' trace lines: the journal (or wherever standard error goes) gets them all with their category; a
-// terminal shows warnings only, unless the user asks with QT_LOGGING_RULES.
+QtMessageHandler usualHandler = nullptr;
+
+void toSystemLog(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (context.category && std::strcmp(context.category, "halvern.pde") == 0)
+        syslog(LOG_INFO, "%s", qUtf8Printable(text));
+    else
+        usualHandler(type, context, text);
+}
+
+// Panels' trace lines go to the terminal if there is one, else to the journal, so that they do not mix with
+// what a script reads. Qt's own variable for that, QT_LOGGING_TO_CONSOLE, sends them to standard error all
+// the same.
 void routeLog()
 {
-    if (isatty(STDERR_FILENO)) {
-        if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES"))
-            qputenv("QT_LOGGING_RULES", "halvern.pde.info=false");
-    } else {
-        qSetMessagePattern(QStringLiteral("%{category}: %{message}"));
-    }
+    qSetMessagePattern(QStringLiteral("%{if-category}%{category}: %{endif}%{message}"));
+    if (isatty(STDERR_FILENO) || qEnvironmentVariableIntValue("QT_LOGGING_TO_CONSOLE") > 0)
+        return;
+    openlog("halvern-print", LOG_PID, LOG_USER);
+    usualHandler = qInstallMessageHandler(toSystemLog);
 }
 
 bool needsNoDisplay(int argc, char** argv)

@@ -206,9 +206,10 @@ bool isResting(JobStage stage)
 
 QString jobSentence(const JobStatus& status, const QString& printer, int jobId)
 {
-    // The reasons of a job that waits by request would mislead.
-    const bool namesReasons = status.stage != JobStage::cancelled && status.stage != JobStage::completed;
-    return pattern(status).arg(QString::number(jobId), printer, namesReasons ? why(status) : QString());
+    const QString text = pattern(status);
+    if (!text.contains(QLatin1StringView("%3")))
+        return text.arg(QString::number(jobId), printer);
+    return text.arg(QString::number(jobId), printer, why(status));
 }
 
 } // namespace halvern

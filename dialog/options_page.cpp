@@ -57,7 +57,7 @@ SummaryLines ownSummary(DialogSession& session)
         return lines;
     const QString size = QStringLiteral("PageSize");
     lines.append({OptionsPage::tr("Paper size"), model->choiceText(size, model->value(size))});
-    lines.append({OptionsPage::tr("Size of the photo"), scalingText(session.page().scaling)});
+    lines.append({OptionsPage::tr("Photo size"), scalingText(session.page().scaling)});
     if (!session.photos().empty()) {
         const PageLayout layout = session.layoutFor(session.photos().front());
         lines.append({OptionsPage::tr("Printed area"), pageSizeText(layout.visible().size())});

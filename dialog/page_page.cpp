@@ -39,17 +39,17 @@ PagePage::PagePage(DialogSession& session, QWidget* parent)
         label->setBuddy(buddy);
         form->addRow(label, field);
     };
-    addRow(tr("Paper si&ze:"), paper_, paper_);
+    addRow(tr("P&aper size:"), paper_, paper_);
     QWidget* turns = makeChoices(turn_, QStringLiteral("turn"),
                                  {{int(PageTurn::automatic), tr("As the photo")},
                                   {int(PageTurn::portrait), tr("Portrait")},
                                   {int(PageTurn::landscape), tr("Landscape")}});
-    addRow(tr("&Orientation:"), turns, turn_->button(int(PageTurn::automatic)));
+    addRow(tr("Or&ientation:"), turns, turn_->button(int(PageTurn::automatic)));
     QWidget* scalings = makeChoices(scaling_, QStringLiteral("scaling"),
-                                    {{int(Scaling::fit), tr("Fit: the whole photo")},
-                                     {int(Scaling::fill), tr("Fill: the whole page, edges cut away")},
+                                    {{int(Scaling::fit), tr("Fit the whole photo on the page")},
+                                     {int(Scaling::fill), tr("Fill the page, cut what is over")},
                                      {int(Scaling::actualSize), tr("Actual size")}});
-    addRow(tr("Si&ze of the photo:"), scalings, scaling_->button(int(Scaling::fit)));
+    addRow(tr("Photo si&ze:"), scalings, scaling_->button(int(Scaling::fit)));
     connect(paper_, &QComboBox::activated, this, &PagePage::choosePaper);
     connect(turn_, &QButtonGroup::idClicked, this, &PagePage::choosePage);
     connect(scaling_, &QButtonGroup::idClicked, this, &PagePage::choosePage);

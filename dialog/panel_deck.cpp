@@ -10,6 +10,8 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
@@ -17,6 +19,17 @@ namespace {
 const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
 const QString kSummary = QStringLiteral("summary");
+
+constexpr int kListWidth = 146;
+constexpr int kUsualPageWidth = 410;
+
+// Leaves a little room before the titles.
+QIcon indent()
+{
+    QPixmap nothing(4, 4);
+    nothing.fill(Qt::transparent);
+    return nothing;
+}
 
 QString tableRow(const QString& name, const QString& value)
 {
@@ -41,13 +54,16 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     list_->setAccessibleName(tr("Pages of options"));
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setSpacing(2);
-    list_->setFixedWidth(160);
+    list_->setFixedWidth(kListWidth);
+    list_->setIconSize(QSize(4, 4));
     area_->setObjectName(QStringLiteral("pageArea"));
     area_->setWidgetResizable(true);
     area_->setFrameShape(QFrame::NoFrame);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->viewport()->setAutoFillBackground(false);
     summary_->setObjectName(QStringLiteral("summaryPage"));
     summary_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    summary_->setMargin(9);
     summary_->setTextFormat(Qt::RichText);
     summary_->setWordWrap(true);
     summary_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -79,7 +95,7 @@ Panel* PanelDeck::panelFor(const QString& identifier) const
 
 void PanelDeck::addPage(const QString& identifier, const QString& title)
 {
-    auto* item = new QListWidgetItem(title, list_);
+    auto* item = new QListWidgetItem(indent(), title, list_);
     item->setData(Qt::UserRole, identifier);
     item->setSizeHint(QSize(0, fontMetrics().height() + 14));
 }
@@ -167,6 +183,10 @@ void PanelDeck::showRow(int row)
         refreshSummary();
     area_->setWidget(view ? view : empty_);
     area_->widget()->show();
+    // A page is never cut at its side; the window grows when a panel needs more.
+    const int wanted = area_->widget()->minimumSizeHint().expandedTo(area_->widget()->minimumSize()).width();
+    area_->setMinimumWidth(std::max(
+        {area_->minimumWidth(), kUsualPageWidth, wanted + area_->verticalScrollBar()->sizeHint().width()}));
     area_->verticalScrollBar()->setValue(0);
 }
 

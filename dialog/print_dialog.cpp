@@ -16,11 +16,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
-
-constexpr int kControlWidth = 540;
 
 QFrame* makeLine(QWidget* parent)
 {
@@ -60,14 +60,14 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     auto* sides = new QHBoxLayout;
     sides->setSpacing(0);
     sides->addWidget(makePreviewSide(), 1);
-    sides->addWidget(makeControlSide());
+    sides->addWidget(makeControlSide(), 0);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(message_);
     column->addLayout(sides, 1);
     setMinimumSize(900, 600);
-    resize(1180, 760);
+    resize(1240, 780);
     makeShortcuts();
     connectSession();
     fillPrinters();
@@ -112,7 +112,7 @@ QWidget* PrintDialog::makePreviewSide()
 QWidget* PrintDialog::makeControlSide()
 {
     auto* side = new QWidget(this);
-    side->setFixedWidth(kControlWidth);
+    side->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(20, 18, 20, 18);
     column->setSpacing(14);
