@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QtNumeric>
 
 namespace halvern::ppd_lookup {
 
@@ -25,9 +26,9 @@ QString numberProblem(const QString& optionText, const QString& value, double lo
 {
     bool isNumber = false;
     const double number = whole ? value.toInt(&isNumber) : QLocale::c().toDouble(value, &isNumber);
-    if (!isNumber || number < low || number > high)
-        return outsideLimits(optionText, low, high);
-    return {};
+    // The conversion takes blanks and "nan" for numbers; a printer's filter would not.
+    const bool isPlain = isNumber && qIsFinite(number) && value == value.trimmed();
+    return isPlain && number >= low && number <= high ? QString() : outsideLimits(optionText, low, high);
 }
 
 QString lengthProblem(const QString& optionText, const QString& value, int low, int high)
