@@ -91,7 +91,7 @@ void DialogSession::selectPrinter(const QString& name)
     stopFetching_ = cups::makeCancelFlag();
     Q_EMIT printerSelected(name);
     const PrinterInfo* info = printers_->find(name);
-    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri.toString() : QString();
+    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
     QPointer<DialogSession> self(this);
     WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
         QueuePpd ppd;
