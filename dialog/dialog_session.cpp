@@ -129,7 +129,8 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
     const PrinterInfo* info = printers_->find(name);
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QString()));
+    host_ =
+        std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QString()));
     applyOptions();
     loadPanels();
     Q_EMIT printerReady();
