@@ -354,7 +354,7 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
          },
          "its XML has a text of more than 4 MiB"},
         {"many values", [=] { return repeated("<plist><array>", "<true/>", most); },
-         "it has more than four million objects"},
+         "its XML has more than three million tags"},
         {"many short texts", [=] { return repeated("<plist><array>", "<string>ab</string>", most / 4); },
          broken},
     };
