@@ -332,6 +332,7 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
         {"key in an array", plist("<array><key>a</key></array>"), unpaired},
         {"key without value", plist("<dict><key>a</key></dict>"), "its XML has a key without a value"},
         {"number", plist("<integer>12x</integer>"), "its XML has a number that is none"},
+        {"real", plist("<real>1.5,</real>"), "its XML has a number that is none"},
         {"large number", plist("<integer>18446744073709551616</integer>"),
          "its XML has a number that is none"},
         {"data", plist("<data>A*==</data>"), "its XML has data that are not base64"},
