@@ -37,8 +37,8 @@ QColor colourAt(const QImage& page, double across, double down)
 
 } // namespace
 
-/// The whole road: a real server with the virtual printer, the real dialog with the real bundle, clicks and keys, and
-/// what the printer received.
+/// The whole road: a real server with the virtual printer, the real dialog with the real bundle, clicks and
+/// keys, and what the printer received.
 class PrintPhotoTest : public testing::Test {
 protected:
     void SetUp() override
