@@ -26,7 +26,7 @@ function(halvern_precompile target)
         <QString> <QStringList> <QVariant> <QMap> <QWidget>)
 endfunction()
 
-# A test program: its sources are compiled together, and ctest lists each of its cases.
+# A test program: its sources are compiled together, and ctest runs it as one test.
 #   halvern_test(NAME SOURCES a.cpp b.cpp LIBS target... [LABELS label...])
 function(halvern_test name)
     cmake_parse_arguments(T "" "" "SOURCES;LIBS;LABELS" ${ARGN})

@@ -214,6 +214,14 @@ protected:
     /// A key looked up in the bundle's default strings table; the key itself if that finds nothing.
     QString localized(const QString& key) const;
 
+    /// Where a slider's mark for the value that changes nothing goes.
+    enum class SliderMark { asLaidOut, atPPDDefault };
+
+    /// Gives the view's sliders the ranges that the PPD sets for their options' custom values, so that a
+    /// layout cannot offer what the printer refuses. A slider whose option has no such range stays as laid
+    /// out; so does its mark if the option has no number as its default. For enableCustom().
+    void takeSliderRangesFromPPD(SliderMark mark);
+
     /// Runs `work` after `milliseconds` on the main thread, with a counted reference to the panel.
     void performDelayed(int milliseconds, void (KSTRVLBasePDEHalvern::*work)());
 

@@ -100,6 +100,11 @@ QVariant RZSharpnessPDEHalvern::newChoiceForSender(QWidget* sender)
     return QString::number(control::intValue(sender).value_or(0));
 }
 
+void RZSharpnessPDEHalvern::enableCustom()
+{
+    takeSliderRangesFromPPD(SliderMark::asLaidOut);
+}
+
 void RZSharpnessPDEHalvern::controlTextDidEndEditing(QLineEdit* field)
 {
     KSTRVLBasePDEHalvern::controlTextDidEndEditing(field);

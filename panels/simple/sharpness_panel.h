@@ -16,6 +16,7 @@ public:
     QVariant ppdChoiceForTag(int tag) override;
     int tagForStringValue(const QVariant& value) override;
     QVariant newChoiceForSender(QWidget* sender) override;
+    void enableCustom() override;
     void controlTextDidEndEditing(QLineEdit* field) override;
 };
 

@@ -4,7 +4,38 @@
 
 #include <QFile>
 
+#include <charconv>
+#include <cmath>
+
 namespace halvern::ppd {
+
+namespace {
+
+// The number that the PPD writes: libcups keeps 0.1 as a float, which is a little more than a double's 0.1.
+double asWritten(float limit)
+{
+    char text[64];
+    const std::to_chars_result end = std::to_chars(text, text + sizeof text, limit);
+    return end.ec == std::errc() ? QByteArray(text, end.ptr - text).toDouble() : double(limit);
+}
+
+std::optional<Range> limits(const ppd_cparam_t& parameter)
+{
+    switch (parameter.type) {
+    case PPD_CUSTOM_INT:
+        return Range{double(parameter.minimum.custom_int), double(parameter.maximum.custom_int)};
+    case PPD_CUSTOM_REAL:
+    case PPD_CUSTOM_POINTS:
+    case PPD_CUSTOM_CURVE:
+    case PPD_CUSTOM_INVCURVE:
+        // One member of the union or another: all of these are floats.
+        return Range{asWritten(parameter.minimum.custom_real), asWritten(parameter.maximum.custom_real)};
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
 
 void Closer::operator()(ppd_file_t* file) const
 {
@@ -72,6 +103,18 @@ std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option)
         result.append(
             {QString::fromUtf8(found->choices[i].choice), QString::fromUtf8(found->choices[i].text)});
     return result;
+}
+
+std::optional<Range> customRange(ppd_file_t* file, const QString& option)
+{
+    const ppd_coption_t* custom = file ? ppdFindCustomOption(file, option.toUtf8().constData()) : nullptr;
+    if (!custom || cupsArrayCount(custom->params) != 1)
+        return std::nullopt;
+    const auto* parameter = static_cast<const ppd_cparam_t*>(cupsArrayIndex(custom->params, 0));
+    const std::optional<Range> range = limits(*parameter);
+    const bool usable = range && std::isfinite(range->minimum) && std::isfinite(range->maximum) &&
+                        range->minimum < range->maximum;
+    return usable ? range : std::nullopt;
 }
 
 void markDefaults(ppd_file_t* file)

@@ -49,6 +49,16 @@ std::optional<Choice> markedChoice(ppd_file_t* file, const QString& option);
 /// The option's choices in the PPD's order; nothing if there is no such option.
 std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option);
 
+/// The limits of a number, themselves included; the minimum is less than the maximum.
+struct Range {
+    double minimum;
+    double maximum;
+};
+
+/// The limits of the option's custom value; nothing if the PPD gives the option none, one that is not a
+/// single number, or limits that leave no choice. `file` may be null.
+std::optional<Range> customRange(ppd_file_t* file, const QString& option);
+
 /// Marks every option's default.
 void markDefaults(ppd_file_t* file);
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "panel_base/base_panel.h"
+
+namespace halvern {
+
+/// Chooses who matches the picture's colours to the printer. Complete, but not in the roster.
+class RZColorMatchingPDEHalvern : public KSTRVLBasePDEHalvern {
+public:
+    QStringList supportedPPDOptionKeys() override;
+    std::optional<QString> nibName() override;
+    std::optional<QString> panelName() override;
+    std::optional<QString> panelKind() override;
+    std::optional<QString> ppdOptionKeyForTag(int tag) override;
+};
+
+} // namespace halvern

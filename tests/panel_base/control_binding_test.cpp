@@ -1,0 +1,215 @@
+#include "panel_base/matrix_panel.h"
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/decimal_slider.h"
+#include "platform/toolkit/matrix.h"
+#include "platform/toolkit/stepper.h"
+#include "tests/panel_base/test_panel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+class ControlBindingTest : public testing::Test {
+protected:
+    ControlBindingTest()
+    {
+        useBuiltBundle();
+        panel->setPanelView(view);
+    }
+
+    ~ControlBindingTest() override
+    {
+        panel.reset();
+        drainMainQueue();
+    }
+
+    BeepCounter beeps;
+    LogCapture log;
+    std::shared_ptr<FakeHost> host = std::make_shared<FakeHost>(
+        ppdHeader() + ppdOption("A", {"On", "Plain/A plain choice", "SharpnessRadius/Text"}));
+    std::shared_ptr<TestPanel> panel = makePanel<TestPanel>(host);
+    QWidget* view = new QWidget;
+};
+
+TEST_F(ControlBindingTest, ShowsChoicesInTagOrderOverOneGapAndStopsAtTwo)
+{
+    QList<QLabel*> labels;
+    for (const int tag : {1, 2, 4, 7}) {
+        labels.append(addControl<QLabel>(view, tag));
+        panel->setChoice_forKey(QStringLiteral("v%1").arg(tag), panel->ppdOptionKeyForTag(tag));
+    }
+    auto* toggle = addControl<QCheckBox>(view, 0x201);
+    panel->setChoice_forKey(QStringLiteral("tRUE"), QStringLiteral("T"));
+    panel->updateUI();
+    EXPECT_EQ(labels[2]->text(), QStringLiteral("v4"));
+    EXPECT_EQ(labels[3]->text(), QString());
+    EXPECT_TRUE(toggle->isChecked());
+}
+
+TEST_F(ControlBindingTest, AViewThatIsNoControlEndsTheWalk)
+{
+    auto* first = addControl<QLabel>(view, 1);
+    addControl<QGroupBox>(view, 2);
+    auto* third = addControl<QLabel>(view, 3);
+    for (const char* key : {"A", "B", "C"})
+        panel->setChoice_forKey(QStringLiteral("v"), QString::fromLatin1(key));
+    panel->updateUI();
+    EXPECT_EQ(first->text(), QStringLiteral("v"));
+    EXPECT_EQ(third->text(), QString());
+}
+
+TEST_F(ControlBindingTest, AToggleReachesEveryGroupUpToItsFirstGap)
+{
+    QMap<int, QWidget*> controls;
+    for (const int tag : {1, 2, 4, 0x141, 0x142, 0x281, 0x1401})
+        controls.insert(tag, addControl<QLineEdit>(view, tag));
+    panel->unsupportedTags.insert(2);
+    auto* toggle = addControl<QCheckBox>(view, 0x201);
+    panel->updateControl_withValue(toggle, QStringLiteral("False"));
+    for (const int tag : {1, 2, 0x141, 0x142, 0x281, 0x1401})
+        EXPECT_FALSE(controls[tag]->isEnabled()) << tag;
+    EXPECT_TRUE(controls[4]->isEnabled());
+    EXPECT_TRUE(toggle->isEnabled());
+    toggle->setChecked(true);
+    panel->changePrinterSetting(toggle);
+    EXPECT_FALSE(controls[2]->isEnabled());
+    for (const int tag : {1, 0x141, 0x142, 0x281, 0x1401})
+        EXPECT_TRUE(controls[tag]->isEnabled()) << tag;
+    EXPECT_EQ(panel->stored("T"), QStringLiteral("True"));
+}
+
+TEST_F(ControlBindingTest, ALongFirstGroupSkipsTheCompanions)
+{
+    // The bit that decides is that of the number above the missing tag.
+    for (int tag = 1; tag <= 62; ++tag)
+        addControl<QLineEdit>(view, tag);
+    auto* companion = addControl<QLineEdit>(view, 0x141);
+    auto* decrement = addControl<QPushButton>(view, 0x281);
+    auto* toggle = addControl<QCheckBox>(view, 0x201);
+    panel->setControlsEnabledByToggle(toggle);
+    EXPECT_TRUE(companion->isEnabled());
+    EXPECT_FALSE(decrement->isEnabled());
+}
+
+TEST_F(ControlBindingTest, FillsMenusFromThePpdAndTranslatesKeywordsFirst)
+{
+    auto* popup = addControl<QComboBox>(view, 1);
+    popup->addItem(QStringLiteral("from the layout"));
+    auto* unknown = addControl<QComboBox>(view, 2);
+    unknown->addItem(QStringLiteral("from the layout"));
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    useBuiltBundle(QStringLiteral("de_DE"));
+    const auto german = makePanel<TestPanel>(host);
+    german->populateMenuObjectsInView(view);
+    ASSERT_EQ(popup->count(), 3);
+    EXPECT_EQ(popup->itemText(0), QStringLiteral("Ein"));
+    EXPECT_EQ(popup->itemText(1), QStringLiteral("A plain choice"));
+    EXPECT_EQ(popup->itemText(2), QStringLiteral("Schärferadius"));
+    EXPECT_EQ(popup->itemData(2).toString(), QStringLiteral("SharpnessRadius"));
+    EXPECT_EQ(popup->currentIndex(), 0);
+    EXPECT_EQ(unknown->itemText(0), QStringLiteral("from the layout"));
+    EXPECT_TRUE(host->asked.isEmpty());
+}
+
+TEST_F(ControlBindingTest, APopUpShowsNoItemForAnUnknownChoice)
+{
+    auto* popup = addControl<QComboBox>(view, 1);
+    panel->populateMenuObjectsInView(view);
+    panel->updateControl_withValue(popup, QStringLiteral("Plain"));
+    EXPECT_EQ(popup->currentIndex(), 1);
+    panel->updateControl_withValue(popup, 3);
+    EXPECT_EQ(popup->currentIndex(), 1);
+    panel->updateControl_withValue(popup, QStringLiteral("gone"));
+    EXPECT_EQ(popup->currentIndex(), -1);
+}
+
+TEST_F(ControlBindingTest, LocalizesTitlesLabelsTabsToolTipsAndAccessibleNames)
+{
+    auto* tabs = new QTabWidget(view);
+    auto* page = new QGroupBox(QStringLiteral("Sharpness"));
+    auto* column = new QVBoxLayout(page);
+    auto* label = new QLabel(QStringLiteral("Strong"));
+    label->setToolTip(QStringLiteral("None"));
+    label->setAccessibleName(QStringLiteral("Fine detail"));
+    column->addWidget(label);
+    auto* matrix = new Matrix;
+    matrix->setCellTitles({QStringLiteral("On"), QStringLiteral("no entry")});
+    column->addWidget(matrix);
+    tabs->addTab(page, QStringLiteral("Restore Defaults"));
+    useBuiltBundle(QStringLiteral("de_DE"));
+    const auto german = makePanel<TestPanel>(host);
+    // The answer is the last child's, and the view itself has no text.
+    EXPECT_TRUE(german->localizeStringsInView_andSubviews_resizeTofit(view, true, false));
+    EXPECT_EQ(page->title(), QStringLiteral("Schärfe"));
+    EXPECT_EQ(label->text(), QStringLiteral("Stark"));
+    EXPECT_EQ(label->toolTip(), QStringLiteral("Keine"));
+    EXPECT_EQ(label->accessibleName(), QStringLiteral("Feine Details"));
+    EXPECT_EQ(matrix->cellTitles(), (QStringList{QStringLiteral("Ein"), QStringLiteral("no entry")}));
+    EXPECT_EQ(tabs->tabText(0), QStringLiteral("Standardwerte"));
+    EXPECT_FALSE(german->localizeStringsInView_andSubviews_resizeTofit(view, true, false));
+}
+
+TEST_F(ControlBindingTest, StepsByOneWithinTheRange)
+{
+    DecimalSlider* slider = addSlider(view, 2, 0, 3.5, 0.01);
+    auto* up = addControl<QPushButton>(view, 0x1402);
+    auto* down = addControl<QPushButton>(view, 0x282);
+    slider->setRealValue(1.9);
+    panel->incrementControl(up);
+    EXPECT_EQ(panel->stored("B"), QStringLiteral("2"));
+    panel->incrementControl(up);
+    panel->incrementControl(up);
+    EXPECT_DOUBLE_EQ(slider->realValue(), 3.0);
+    EXPECT_EQ(host->asked.size(), 2);
+    slider->setRealValue(0.5);
+    panel->decrementControl(down);
+    EXPECT_DOUBLE_EQ(slider->realValue(), 0.5);
+    EXPECT_EQ(host->asked.size(), 2);
+    EXPECT_EQ(beeps.count, 0);
+}
+
+TEST_F(ControlBindingTest, AControlWithoutAnOptionIsRefused)
+{
+    auto* box = addControl<QCheckBox>(view, 99);
+    panel->changePrinterSetting(box);
+    EXPECT_EQ(beeps.count, 1);
+    panel->changePrinterSetting(addControl<QGroupBox>(view, 1));
+    EXPECT_EQ(beeps.count, 1);
+    EXPECT_TRUE(host->asked.isEmpty());
+}
+
+TEST_F(ControlBindingTest, AMatrixPanelReadsAndShowsCellsOnly)
+{
+    class Cells : public KSTRVLMatrixPDEHalvern {
+        QVariant ppdChoiceForTag(int tag) override { return QString::number(tag * 10); }
+
+        int tagForStringValue(const QVariant& value) override { return value.toInt() / 10; }
+    };
+
+    const auto cells = makePanel<Cells>(host);
+    auto* matrix = addControl<Matrix>(view, 1);
+    matrix->setCellTitles({QStringLiteral("a"), QStringLiteral("b")});
+    matrix->setToolTip(QStringLiteral("tip"));
+    cells->updateControl_withValue(matrix, QStringLiteral("20"));
+    EXPECT_EQ(matrix->selectedTag(), 2);
+    EXPECT_EQ(matrix->toolTip(), QString());
+    EXPECT_EQ(cells->newChoiceForSender(matrix).toString(), QStringLiteral("20"));
+    auto* label = addControl<QLabel>(view, 3);
+    cells->updateControl_withValue(label, QStringLiteral("20"));
+    EXPECT_EQ(label->text(), QString());
+    EXPECT_EQ(cells->newChoiceForSender(label).toString(), QStringLiteral("30"));
+}
+
+} // namespace halvern

@@ -1,0 +1,176 @@
+#include "platform/foundation/bundle.h"
+#include "platform/foundation/notification_center.h"
+#include "platform/foundation/semaphore.h"
+#include "platform/foundation/work_queue.h"
+#include "platform/toolkit/speech_synthesizer.h"
+#include "tests/panel_base/test_panel.h"
+
+#include <QDesktopServices>
+#include <QPointer>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <future>
+#include <thread>
+
+#include <unistd.h>
+
+namespace halvern {
+
+class LifecycleTest : public testing::Test {
+protected:
+    LifecycleTest() { useBuiltBundle(); }
+
+    LogCapture log;
+    std::shared_ptr<FakeHost> host =
+        std::make_shared<FakeHost>(ppdHeader() + ppdOption("A", {"SharpnessRadius/On"}));
+};
+
+TEST_F(LifecycleTest, AHostWithoutAPpdOrWithoutConstraintHandlingGetsNoPanel)
+{
+    EXPECT_EQ(makePanel<TestPanel>(std::make_shared<FakeHost>(QByteArray())), nullptr);
+    host->responds = false;
+    EXPECT_EQ(makePanel<TestPanel>(host), nullptr);
+    // The panel that said no was released in the ordinary way.
+    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in TestPanel")), 2);
+}
+
+TEST_F(LifecycleTest, TheUnloadFlagFollowsShowingHidingClosingAndSaving)
+{
+    const auto panel = makePanel<TestPanel>(host);
+    EXPECT_FALSE(panel->pdePluginDidUnload);
+    EXPECT_TRUE(panel->shouldHide());
+    EXPECT_TRUE(panel->pdePluginDidUnload);
+    panel->willShow();
+    EXPECT_FALSE(panel->pdePluginDidUnload);
+    EXPECT_EQ(panel->refreshes, 1);
+    panel->printWindowWillClose(true);
+    EXPECT_TRUE(panel->pdePluginDidUnload);
+    panel->willShow();
+    EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
+    EXPECT_TRUE(panel->pdePluginDidUnload);
+    EXPECT_TRUE(host->settings->values().isEmpty());
+    EXPECT_EQ(log.lines(), (QStringList{QStringLiteral("entered shouldHide in TestPanel"),
+                                        QStringLiteral("entered willShow in TestPanel"),
+                                        QStringLiteral("entered printWindowWillClose: in TestPanel"),
+                                        QStringLiteral("entered willShow in TestPanel"),
+                                        QStringLiteral("entered saveValuesAndReturnError: in TestPanel")}));
+}
+
+TEST_F(LifecycleTest, AFailedLayoutIsLoggedAndTriedAgain)
+{
+    const auto panel = makePanel<TestPanel>(host);
+    EXPECT_EQ(panel->panelView(), nullptr);
+    EXPECT_TRUE(log.lines().isEmpty());
+    panel->layout = QStringLiteral("NoSuchLayout");
+    EXPECT_EQ(panel->panelView(), nullptr);
+    EXPECT_EQ(panel->panelView(), nullptr);
+    EXPECT_EQ(log.count(QStringLiteral("Failed to load nib named NoSuchLayout")), 2);
+    panel->layout = QStringLiteral("TessarinSharpness");
+    QWidget* loaded = panel->panelView();
+    EXPECT_NE(loaded, nullptr);
+    EXPECT_EQ(panel->panelView(), loaded);
+    EXPECT_EQ(panel->customCalls, 1);
+}
+
+TEST_F(LifecycleTest, LastReferenceOnAnotherThreadLeavesTheViewToTheMainThread)
+{
+    auto panel = makePanel<TestPanel>(host);
+    panel->layout = QStringLiteral("TessarinSharpness");
+    const QPointer<QWidget> view = panel->panelView();
+    ASSERT_FALSE(view.isNull());
+    std::thread([panel = std::move(panel)]() mutable { panel.reset(); }).join();
+    EXPECT_FALSE(view.isNull());
+    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in TestPanel")), 1);
+    drainMainQueue();
+    EXPECT_TRUE(view.isNull());
+}
+
+TEST_F(LifecycleTest, DestructionWaitsForTheUnloadSemaphore)
+{
+    auto panel = makePanel<TestPanel>(host);
+    const auto semaphore = std::make_shared<Semaphore>();
+    panel->pdeUnloadSemaphore.set(semaphore);
+    auto released = std::async(std::launch::async, [panel = std::move(panel)]() mutable { panel.reset(); });
+    ASSERT_TRUE(waitUntil([this] { return log.count(QStringLiteral("entered dealloc in TestPanel")) == 1; }));
+    // Not woken yet: nothing after the wait has happened. The signal tells once somebody waits.
+    while (!semaphore->signal()) {
+        semaphore->wait();
+        std::this_thread::yield();
+    }
+    released.get();
+    EXPECT_EQ(log.lines().last(), QStringLiteral("continuing dealloc after waiting for unload semaphore"));
+}
+
+TEST_F(LifecycleTest, DestructionEndsAllNotifications)
+{
+    auto panel = makePanel<TestPanel>(host);
+    int received = 0;
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    center.addObserver(panel.get(), QStringLiteral("test.note"), nullptr,
+                       [&](const Notification&) { ++received; });
+    center.post(QStringLiteral("test.note"), nullptr);
+    panel.reset();
+    center.post(QStringLiteral("test.note"), nullptr);
+    EXPECT_EQ(received, 1);
+}
+
+TEST_F(LifecycleTest, ABrokenPipeEndsNobody)
+{
+    const auto panel = makePanel<TestPanel>(host);
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    close(ends[0]);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(write(ends[1], "x", 1), -1);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "caught a signal 13\n");
+    close(ends[1]);
+}
+
+TEST_F(LifecycleTest, TheSummaryHasTheMarkedChoicesInTheUsersLanguage)
+{
+    useBuiltBundle(QStringLiteral("de_DE"));
+    const auto panel = makePanel<TestPanel>(host);
+    EXPECT_EQ(panel->summaryInfo(), (QMap<QString, QString>{{QStringLiteral("A"), QStringLiteral("Ein")}}));
+    const auto bare = makePanel<TestPanel>(std::make_shared<FakeHost>());
+    EXPECT_TRUE(bare->summaryInfo().isEmpty());
+}
+
+class HelpHandler : public QObject {
+    Q_OBJECT
+public Q_SLOTS:
+
+    void open(const QUrl& url) { opened.append(url); }
+
+public:
+    QList<QUrl> opened;
+};
+
+TEST_F(LifecycleTest, HelpIsLeftToTheDialogOnlyIfTheBookDidNotOpen)
+{
+    HelpHandler handler;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &handler, "open");
+    const auto panel = makePanel<TestPanel>(host);
+    EXPECT_FALSE(panel->shouldShowHelp());
+    ASSERT_EQ(handler.opened.size(), 1);
+    EXPECT_TRUE(handler.opened.first().path().endsWith(QLatin1String("Resources/TessarinHelp/index.html")));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    panel->pdeBundle.reset();
+    EXPECT_TRUE(panel->shouldShowHelp());
+}
+
+TEST_F(LifecycleTest, SpeechIsSharedAndSilent)
+{
+    const auto panel = makePanel<TestPanel>(host);
+    const auto other = makePanel<TestPanel>(host);
+    EXPECT_EQ(panel->speaker(), other->speaker());
+    log.clear();
+    panel->speakString(QStringLiteral("hello"));
+    EXPECT_TRUE(log.lines().isEmpty());
+}
+
+} // namespace halvern
+
+#include "lifecycle_test.moc"

@@ -1,0 +1,101 @@
+#include "tests/panel_base/test_panel.h"
+
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+class PersistenceTest : public testing::Test {
+protected:
+    PersistenceTest() { useBuiltBundle(); }
+
+    std::shared_ptr<TestPanel> panelFor(const QByteArray& ppd)
+    {
+        host = std::make_shared<FakeHost>(ppdHeader() + ppd);
+        return makePanel<TestPanel>(host);
+    }
+
+    LogCapture log;
+    std::shared_ptr<FakeHost> host;
+};
+
+TEST_F(PersistenceTest, KeysAreThoseOfTheTagsUpToTheFirstWithoutOne)
+{
+    const auto panel = panelFor({});
+    EXPECT_EQ(panel->supportedPPDOptionKeys().join(QLatin1Char(' ')), QStringLiteral("A B C D E F G H I J"));
+}
+
+TEST_F(PersistenceTest, WithoutPrintSettingsAKeyTakesWhatTheKeyBeforeItLeft)
+{
+    const auto panel =
+        panelFor("*ADefault: \"a default\"\n" + ppdOption("B", {"X", "Y"}) + "*CDefault: \"c default\"\n");
+    host->settings.reset();
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    EXPECT_EQ(panel->stored("A"), QStringLiteral("a default"));
+    EXPECT_EQ(panel->stored("B"), QStringLiteral("X"));
+    EXPECT_EQ(panel->stored("C"), QStringLiteral("X"));
+}
+
+TEST_F(PersistenceTest, WithPrintSettingsTheLookUpClearsTheHolder)
+{
+    const auto panel = panelFor(ppdOption("A", {"X", "Y"}) + "*BDefault: \"b default\"\n");
+    host->settings->setValue(QStringLiteral("A"), QStringLiteral("not used"), false);
+    host->settings->setValue(QStringLiteral("C"), 7, false);
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_EQ(panel->stored("A"), QStringLiteral("X"));
+    EXPECT_EQ(panel->stored("B"), QStringLiteral("b default"));
+    // A number stays a number; a key with no value and no default has no entry.
+    EXPECT_EQ(panel->storedChoice(QStringLiteral("C")).typeId(), QMetaType::Int);
+    EXPECT_FALSE(panel->choices()->contains(QStringLiteral("D")));
+    EXPECT_EQ(panel->refreshes, 0);
+}
+
+TEST_F(PersistenceTest, WithoutAPpdNothingIsRestored)
+{
+    const auto panel = panelFor(ppdOption("A", {"X"}));
+    panel->ppd = nullptr;
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    EXPECT_TRUE(panel->choices()->isEmpty());
+}
+
+TEST_F(PersistenceTest, RestoringRefreshesALoadedViewOnly)
+{
+    const auto panel = panelFor(ppdOption("A", {"X", "Y"}));
+    auto* view = new QWidget;
+    auto* label = addControl<QLabel>(view, 1);
+    panel->setPanelView(view);
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_EQ(label->text(), QStringLiteral("X"));
+}
+
+TEST_F(PersistenceTest, FollowsTheHostsNoticesForItsOwnKeys)
+{
+    const auto panel = panelFor({});
+    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("Other"), QStringLiteral("1"));
+    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("A"), {});
+    panel->PPDOptionKeyValueDidChange_ppdChoice(std::nullopt, QStringLiteral("1"));
+    EXPECT_TRUE(panel->choices()->isEmpty());
+    EXPECT_EQ(panel->refreshes, 0);
+    // A notice loads the view, which restoring does not.
+    panel->layout = QStringLiteral("TessarinSharpness");
+    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("A"), QStringLiteral("1"));
+    EXPECT_EQ(panel->stored("A"), QStringLiteral("1"));
+    EXPECT_EQ(panel->customCalls, 1);
+    EXPECT_TRUE(host->asked.isEmpty());
+}
+
+TEST_F(PersistenceTest, TheCurrentValueIsTheMarkThenTheSetting)
+{
+    const auto panel = panelFor(ppdOption("A", {"X", "Y"}));
+    host->settings->setValue(QStringLiteral("A"), QStringLiteral("setting"), false);
+    host->settings->setValue(QStringLiteral("B"), QStringLiteral("setting"), false);
+    EXPECT_EQ(panel->printSystemValueForKey(QStringLiteral("A")).toString(), QStringLiteral("X"));
+    EXPECT_EQ(panel->printSystemValueForKey(QStringLiteral("B")).toString(), QStringLiteral("setting"));
+    EXPECT_FALSE(panel->printSystemValueForKey(QStringLiteral("C")).isValid());
+    EXPECT_FALSE(panel->printSystemValueForKey(std::nullopt).isValid());
+    host->settings.reset();
+    EXPECT_FALSE(panel->printSystemValueForKey(QStringLiteral("B")).isValid());
+}
+
+} // namespace halvern

@@ -1,0 +1,74 @@
+#include "tests/panel_base/test_panel.h"
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+class PpdAccessTest : public testing::Test {
+protected:
+    PpdAccessTest() { useBuiltBundle(); }
+
+    std::optional<QByteArray> decoded(const QByteArray& attributes)
+    {
+        host = std::make_shared<FakeHost>(ppdHeader() + attributes);
+        panel = makePanel<TestPanel>(host);
+        return panel->ppdSavedDataForAttribute_forPPD(QStringLiteral("X"), host->ppdFile());
+    }
+
+    LogCapture log;
+    std::shared_ptr<FakeHost> host;
+    std::shared_ptr<TestPanel> panel;
+};
+
+TEST_F(PpdAccessTest, JoinsThePiecesOfAnAttributeRun)
+{
+    EXPECT_EQ(decoded("*X00000: \"QUJD\"\n*X00001: \"REVG\"\n"), QByteArray("ABCDEF"));
+    EXPECT_EQ(decoded("*X00000: \"QUJD\"\n*X00001: \"\"\n*X00002: \"REVG\"\n"), QByteArray("ABC"));
+    EXPECT_EQ(decoded("*X00001: \"REVG\"\n"), std::nullopt);
+    EXPECT_EQ(decoded("*X00000: \"!!!!\"\n"), std::nullopt);
+}
+
+TEST_F(PpdAccessTest, CountsThePiecesInHexadecimal)
+{
+    QByteArray run;
+    for (int i = 0; i < 11; ++i)
+        run += QByteArray("*X") + QByteArray::number(i, 16).rightJustified(5, '0') + ": \"QUJD\"\n";
+    EXPECT_EQ(decoded(run + "*X00010: \"REVG\"\n"), QByteArray("ABC").repeated(11));
+}
+
+TEST_F(PpdAccessTest, FindsDefaultsUnderThePpdsOptionOrUnderTheKeywordWithDefaultAtItsEnd)
+{
+    decoded(ppdOption("A", {"first", "second"}) + "*BDefault: \"2.50\"\n*DefaultC: wrong\n");
+    EXPECT_EQ(panel->defaultValueForOptionKey(QStringLiteral("A")), QStringLiteral("first"));
+    EXPECT_EQ(panel->defaultValueForOptionKey(QStringLiteral("B")), QStringLiteral("2.50"));
+    EXPECT_EQ(panel->defaultValueForOptionKey(QStringLiteral("C")), std::nullopt);
+    EXPECT_EQ(panel->defaultValueForOptionKey(std::nullopt), std::nullopt);
+    ppd::mark(host->ppdFile(), QStringLiteral("A"), QStringLiteral("second"));
+    EXPECT_EQ(panel->cupsOptionValueForKey(QStringLiteral("A")), QStringLiteral("second"));
+    EXPECT_EQ(panel->cupsValueForAttribute_forPPD(QStringLiteral("bdefault"), host->ppdFile()),
+              QStringLiteral("2.50"));
+    EXPECT_EQ(panel->cupsValueForAttribute_forPPD(QStringLiteral("BDefault"), nullptr), std::nullopt);
+}
+
+TEST_F(PpdAccessTest, KeepsTheDeviceUriOnceItIsKnown)
+{
+    decoded({});
+    const auto printer = std::exchange(host->printer, nullptr);
+    EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("null://"));
+    EXPECT_EQ(panel->destinationName(), std::nullopt);
+    host->printer = printer;
+    EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
+    host->printer =
+        std::make_shared<Printer>(QStringLiteral("Other"), QUrl(QStringLiteral("ipp://elsewhere")));
+    EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
+    EXPECT_EQ(panel->destinationName(), QStringLiteral("Other"));
+}
+
+TEST_F(PpdAccessTest, AsksNoServerWhenNothingIsWanted)
+{
+    decoded({});
+    EXPECT_TRUE(panel->ppdValuesForAttributes({}).isEmpty());
+    EXPECT_TRUE(log.lines().isEmpty());
+}
+
+} // namespace halvern

@@ -1,0 +1,50 @@
+#include "panel_base/string_additions.h"
+
+#include <QLocale>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace halvern {
+
+TEST(StringAdditionsTest, SortsNumbersByValueAndIgnoresCaseInEveryLocale)
+{
+    for (const char* locale : {"C", "en_US", "tr_TR", "ja_JP"}) {
+        QLocale::setDefault(QLocale(QString::fromLatin1(locale)));
+        QStringList names{QStringLiteral("a10"),
+                          QStringLiteral("A2"),
+                          QStringLiteral("b1"),
+                          QStringLiteral("A"),
+                          QStringLiteral("a010x"),
+                          QStringLiteral("I3"),
+                          QStringLiteral("99999999999999999999"),
+                          QStringLiteral("100000000000000000000")};
+        std::sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
+            return KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(left, right) < 0;
+        });
+        EXPECT_EQ(names.join(QLatin1Char(' ')),
+                  QStringLiteral("99999999999999999999 100000000000000000000 A A2 a10 a010x b1 I3"))
+            << locale;
+    }
+    EXPECT_EQ(KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(QStringLiteral("Matt 7"),
+                                                                        QStringLiteral("mATT 07")),
+              0);
+}
+
+TEST(StringAdditionsTest, KeepsThePrefixBeforeEachDisallowedCharacter)
+{
+    const auto letters = [](QChar character) { return character.isLetter(); };
+    const QList<QPair<const char*, const char*>> cases{
+        {"abcd", "abcd"}, {"ab#cd", "ab"},  {"#ab", ""}, {"ab#", "ab"},    {"ab#cd#ef", "abab#cd"},
+        {"", ""},         {"ab##cd", "ab"}, {"#", ""},   {"a#b#c", "aa#b"}};
+    for (const auto& [text, expected] : cases) {
+        EXPECT_EQ(WMKastrovelExtras::stringWithOnlyCharactersInSet(QString::fromLatin1(text), letters),
+                  QString::fromLatin1(expected))
+            << text;
+    }
+    EXPECT_EQ(WMKastrovelExtras::stringWithOnlyCharactersInSet(QStringLiteral("ab"), nullptr), QString());
+}
+
+} // namespace halvern

@@ -1,0 +1,224 @@
+#include "panel_base/tags.h"
+#include "panels/simple/color_adjust_panel.h"
+#include "panels/simple/sharpness_panel.h"
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/decimal_slider.h"
+#include "platform/toolkit/view_search.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/observers.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+namespace {
+
+const char* const kSevenKeys[] = {"Red", "Green", "Blue", "Brightness", "Contrast", "Saturation", "Gamma"};
+
+QByteArray customNumber(const QByteArray& keyword, const QByteArray& range)
+{
+    return "*Custom" + keyword + " True: \"pop\"\n*ParamCustom" + keyword + " Value: 1 " + range + "\n";
+}
+
+QByteArray colorPpd()
+{
+    QByteArray text = ppdHeader() + ppdOption("AdjustmentsEnabled", {"False/No", "True/Yes"});
+    for (const QByteArray key : {"Red", "Green", "Blue", "Brightness", "Contrast", "Saturation"})
+        text += ppdOption(key, {"0", "25"}) + customNumber(key, "int -100 100");
+    return text + ppdOption("Gamma", {"1.0", "1.8"}) + customNumber("Gamma", "real 0 4.0");
+}
+
+class ColorAdjustPanel : public testing::Test {
+protected:
+    void SetUp() override { open(colorPpd()); }
+
+    void open(const QByteArray& ppdText)
+    {
+        useBuiltBundle();
+        host = std::make_shared<FakeHost>(ppdText);
+        panel = makePanel<RZColorAdjustPDEHalvern>(host);
+        panel->restoreValuesAndReturnError(nullptr);
+        panel->willShow();
+        view = panel->panelView();
+        ASSERT_NE(view, nullptr);
+        host->asked.clear();
+    }
+
+    QWidget* tagged(int tag) { return viewWithTag(view, tag); }
+
+    DecimalSlider* slider(int n) { return qobject_cast<DecimalSlider*>(tagged(n)); }
+
+    QLineEdit* field(int n) { return qobject_cast<QLineEdit*>(tagged(tags::kCompanion + n)); }
+
+    void click(int tag) { qobject_cast<QAbstractButton*>(tagged(tag))->click(); }
+
+    void type(int n, const QString& text)
+    {
+        field(n)->selectAll();
+        QTest::keyClicks(field(n), text);
+    }
+
+    QString stored(const char* key) { return panel->choices()->value(QLatin1StringView(key)).toString(); }
+
+    void switchOn()
+    {
+        click(tags::kToggle);
+        ASSERT_EQ(stored("AdjustmentsEnabled"), QStringLiteral("True"));
+    }
+
+    BeepCounter beeps;
+    std::shared_ptr<FakeHost> host;
+    std::shared_ptr<RZColorAdjustPDEHalvern> panel;
+    QWidget* view = nullptr;
+};
+
+TEST_F(ColorAdjustPanel, ANumberTypedIntoAFieldIsStoredAsTypedAndMovesItsSlider)
+{
+    switchOn();
+    for (int n = 1; n <= 6; ++n) {
+        type(n, QStringLiteral("12"));
+        EXPECT_EQ(stored(kSevenKeys[n - 1]), QStringLiteral("12"));
+        EXPECT_EQ(slider(n)->realValue(), 12.0) << n;
+    }
+    type(7, QStringLiteral("0.850 "));
+    EXPECT_EQ(stored("Gamma"), QStringLiteral("0.850 "));
+    EXPECT_EQ(field(7)->text(), QStringLiteral("0.850 "));
+    EXPECT_EQ(slider(7)->realValue(), 0.85);
+    EXPECT_EQ(host->asked.last(), qMakePair(QStringLiteral("Gamma"), QVariant(QStringLiteral("0.850 "))));
+    EXPECT_EQ(beeps.count, 0);
+}
+
+TEST_F(ColorAdjustPanel, TextThatIsNoNumberReadsAsZeroAndIsKeptAsTyped)
+{
+    switchOn();
+    type(4, QStringLiteral("abc"));
+    EXPECT_EQ(stored("Brightness"), QStringLiteral("abc"));
+    EXPECT_EQ(field(4)->text(), QStringLiteral("abc"));
+    EXPECT_EQ(slider(4)->realValue(), 0.0);
+    EXPECT_EQ(beeps.count, 0);
+}
+
+TEST_F(ColorAdjustPanel, SlidersAndStepButtonsWriteTheirNumberIntoTheField)
+{
+    switchOn();
+    QTest::keyClick(slider(2), Qt::Key_Left);
+    EXPECT_EQ(stored("Green"), QStringLiteral("-1"));
+    EXPECT_EQ(field(2)->text(), QStringLiteral("-1"));
+    click(tags::kIncrement + 3);
+    EXPECT_EQ(stored("Blue"), QStringLiteral("1"));
+    click(tags::kDecrement + 3);
+    EXPECT_EQ(field(3)->text(), QStringLiteral("0"));
+    QTest::keyClick(slider(7), Qt::Key_Right);
+    EXPECT_EQ(stored("Gamma"), QStringLiteral("1.05"));
+    EXPECT_EQ(field(7)->text(), QStringLiteral("1.05"));
+}
+
+TEST_F(ColorAdjustPanel, TheToggleSwitchesEveryControlThatBelongsToAnAdjustment)
+{
+    const auto allEnabled = [this](bool wanted) {
+        for (const int group : {0, tags::kCompanion, tags::kDecrement, tags::kIncrement}) {
+            for (int n = 1; n <= 7; ++n) {
+                if (!tagged(group + n) || tagged(group + n)->isEnabled() != wanted)
+                    return false;
+            }
+        }
+        return true;
+    };
+    EXPECT_TRUE(allEnabled(false)) << "the PPD's default is off";
+    switchOn();
+    EXPECT_TRUE(allEnabled(true));
+    click(tags::kToggle);
+    EXPECT_EQ(stored("AdjustmentsEnabled"), QStringLiteral("False"));
+    EXPECT_TRUE(allEnabled(false));
+    EXPECT_TRUE(tagged(tags::kToggle)->isEnabled());
+    EXPECT_TRUE(tagged(tags::kRestoreDefaults)->isEnabled());
+}
+
+TEST_F(ColorAdjustPanel, RestoringDefaultsOffersThemInTheSavingOrderAndShowsThem)
+{
+    switchOn();
+    type(4, QStringLiteral("40"));
+    type(7, QStringLiteral("3"));
+    host->asked.clear();
+    click(tags::kRestoreDefaults);
+    QStringList offered;
+    for (const auto& [key, choice] : host->asked)
+        offered.append(key + u'=' + choice.toString());
+    EXPECT_EQ(offered.join(u' '), QStringLiteral("Brightness=0 Contrast=0 Saturation=0 Gamma=1.0 Red=0 "
+                                                 "Green=0 Blue=0 AdjustmentsEnabled=False"));
+    EXPECT_EQ(field(4)->text(), QStringLiteral("0"));
+    EXPECT_EQ(slider(7)->realValue(), 1.0);
+    EXPECT_FALSE(control::asButton(tagged(tags::kToggle))->isChecked());
+}
+
+TEST_F(ColorAdjustPanel, TheSummaryIsInTheUsersLanguage)
+{
+    useBuiltBundle(QStringLiteral("de_DE"));
+    panel = makePanel<RZColorAdjustPDEHalvern>(host);
+    EXPECT_EQ(panel->panelName(), QStringLiteral("Farbanpassung"));
+    const QMap<QString, QString> summary = panel->summaryInfo();
+    EXPECT_EQ(summary.size(), 8);
+    EXPECT_EQ(summary.value(QStringLiteral("Helligkeit")), QStringLiteral("0"));
+    EXPECT_EQ(summary.value(QStringLiteral("Farbanpassung")), QStringLiteral("Nein"));
+}
+
+TEST_F(ColorAdjustPanel, TheSummaryNeverShowsTheInternalSwitch)
+{
+    class WithSwitch : public RZColorAdjustPDEHalvern {
+        QStringList supportedPPDOptionKeys() override
+        {
+            return {QStringLiteral("Red"), QStringLiteral("AllowCUPS11")};
+        }
+    };
+
+    const auto withSwitch = makePanel<WithSwitch>(
+        std::make_shared<FakeHost>(colorPpd() + ppdOption("AllowCUPS11", {"Yes", "No"})));
+    EXPECT_EQ(withSwitch->summaryInfo().keys(), QStringList{QStringLiteral("Red")});
+}
+
+struct RangeCase {
+    const char* what;
+    QByteArray ppd;
+    double minimum;
+    double maximum;
+    double neutral;
+};
+
+TEST_F(ColorAdjustPanel, TakesARangeAndItsMarkFromThePpdAsFarAsItGivesThem)
+{
+    const QByteArray option = ppdOption("Brightness", {"5", "0"});
+    const RangeCase cases[] = {
+        {"integers", option + customNumber("Brightness", "int -20 30"), -20, 30, 5},
+        {"reals", option + customNumber("Brightness", "real -0.1 0.7"), -0.1, 0.7, 5},
+        {"no custom value", option, -100, 100, 5},
+        {"no number as default", ppdOption("Brightness", {"Auto", "0"}), -100, 100, 0},
+        {"text", option + customNumber("Brightness", "string 1 9"), -100, 100, 5},
+        {"upside down", option + customNumber("Brightness", "int 30 -20"), -100, 100, 5},
+        {"two numbers",
+         option + customNumber("Brightness", "int 1 9") + "*ParamCustomBrightness More: 2 int 1 9\n", -100,
+         100, 5},
+    };
+    for (const RangeCase& c : cases) {
+        open(ppdHeader() + c.ppd);
+        EXPECT_EQ(slider(4)->minimumValue(), c.minimum) << c.what;
+        EXPECT_EQ(slider(4)->maximumValue(), c.maximum) << c.what;
+        EXPECT_EQ(slider(4)->neutralValue(), c.neutral) << c.what;
+        EXPECT_EQ(slider(1)->minimumValue(), -100) << c.what;
+    }
+}
+
+TEST(SharpnessRanges, ComeFromThePpdToo)
+{
+    useBuiltBundle();
+    const auto panel = makePanel<RZSharpnessPDEHalvern>(
+        std::make_shared<FakeHost>(ppdHeader() + ppdOption("SharpnessIntensity", {"1.00"}) +
+                                   customNumber("SharpnessIntensity", "real 0.2 3.3")));
+    EXPECT_EQ(control::minValue(viewWithTag(panel->panelView(), 2)), 0.2);
+    EXPECT_EQ(control::maxValue(viewWithTag(panel->panelView(), 2)), 3.3);
+}
+
+} // namespace
+} // namespace halvern

@@ -1,0 +1,97 @@
+#include "platform/foundation/bundle.h"
+#include "platform/toolkit/help_viewer.h"
+#include "platform/toolkit/layout_loader.h"
+#include "tests/support/observers.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+class BundleTest : public testing::Test {
+protected:
+    void write(const char* name, const QByteArray& content)
+    {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(file).absolutePath()));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    static QByteArray plist(const QByteArray& body)
+    {
+        return "<?xml version=\"1.0\"?><plist version=\"1.0\">" + body + "</plist>";
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(BundleTest, RefusesAFolderWithoutAReadablePropertyListAndSaysWhy)
+{
+    QString why;
+    EXPECT_EQ(Bundle::load(folder.path(), &why), nullptr);
+    EXPECT_TRUE(why.contains(QLatin1String("cannot be read"))) << qPrintable(why);
+    for (const QByteArray& broken :
+         {QByteArray(), QByteArray("garbage"), QByteArray("bplist00"), plist("<array/>"),
+          QByteArray("<?xml version=\"1.0\"?><plist><dict><key>a")}) {
+        write("Info.plist", broken);
+        why.clear();
+        EXPECT_EQ(Bundle::load(folder.path(), &why), nullptr) << broken.constData();
+        EXPECT_FALSE(why.isEmpty());
+    }
+}
+
+TEST_F(BundleTest, AnswersItsPropertiesAndKeepsPathsInside)
+{
+    write(
+        "Info.plist",
+        plist(
+            "<dict><key>CFBundleIdentifier</key><string>com.example</string><key>n</key><integer>7</integer>"
+            "<key>CFBundleExecutable</key><string>../../bin/sh</string></dict>"));
+    write("Resources/page.ui", "x");
+    const auto bundle = Bundle::load(folder.path());
+    ASSERT_NE(bundle, nullptr);
+    EXPECT_EQ(bundle->bundleIdentifier(), QStringLiteral("com.example"));
+    EXPECT_EQ(bundle->objectForInfoDictionaryKey(QStringLiteral("n")).toInt(), 7);
+    EXPECT_FALSE(bundle->objectForInfoDictionaryKey(QStringLiteral("absent")).isValid());
+    EXPECT_EQ(bundle->executablePath(), std::nullopt);
+    EXPECT_TRUE(bundle->pathForResource(QStringLiteral("page.ui")).has_value());
+    EXPECT_FALSE(bundle->pathForResource(QStringLiteral("../Info.plist")).has_value());
+    EXPECT_FALSE(bundle->pathForResource(QStringLiteral("absent.ui")).has_value());
+    EXPECT_NE(gotoHelpPage(*bundle, QStringLiteral("NoBook")), 0);
+}
+
+TEST_F(BundleTest, AMalformedLayoutIsReportedNotLoaded)
+{
+    write("Info.plist", plist("<dict/>"));
+    const auto bundle = Bundle::load(folder.path());
+    QString why;
+    EXPECT_EQ(loadLayout(*bundle, QStringLiteral("absent"), &why), nullptr);
+    EXPECT_TRUE(why.contains(QLatin1String("absent.ui")));
+    for (const char* broken :
+         {"", "garbage", "<ui version=\"4.0\"/>", "<ui version=\"4.0\"><widget class=\"QWidget\""}) {
+        write("Resources/broken.ui", broken);
+        EXPECT_EQ(loadLayout(*bundle, QStringLiteral("broken")), nullptr) << broken;
+    }
+}
+
+TEST_F(BundleTest, ALookUpFallsBackToEnglishThenToTheKey)
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    const auto german = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE));
+    EXPECT_EQ(german->localizedString(QStringLiteral("Sharpness")), QStringLiteral("Schärfe"));
+    EXPECT_EQ(german->localizedString(QStringLiteral("no such key")), QStringLiteral("no such key"));
+    EXPECT_EQ(german->localizedString(QStringLiteral("no such key"), QStringLiteral("else")),
+              QStringLiteral("else"));
+    QLocale::setDefault(QLocale(QStringLiteral("fi_FI")));
+    const auto finnish = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE));
+    EXPECT_EQ(finnish->localizedString(QStringLiteral("SharpnessRadius")),
+              QStringLiteral("Sharpening radius"));
+    EXPECT_EQ(finnish->localizedString(QStringLiteral("Sharpness")), QStringLiteral("Sharpness"));
+}
+
+} // namespace halvern

@@ -1,0 +1,183 @@
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/decimal_slider.h"
+#include "platform/toolkit/matrix.h"
+#include "platform/toolkit/stepper.h"
+#include "platform/toolkit/view_search.h"
+#include "tests/support/observers.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace halvern {
+
+TEST(DecimalSliderTest, KeepsTheProgramsValueExactlyAndTellsOnlyOfTheUsers)
+{
+    DecimalSlider slider;
+    slider.setMaximumValue(5.0);
+    slider.setSingleStepValue(0.01);
+    const QSignalSpy moved(&slider, &DecimalSlider::userMoved);
+    slider.setRealValue(1.237);
+    EXPECT_DOUBLE_EQ(slider.realValue(), 1.237);
+    slider.setRealValue(99);
+    EXPECT_DOUBLE_EQ(slider.realValue(), 5.0);
+    slider.setRealValue(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_DOUBLE_EQ(slider.realValue(), 5.0);
+    EXPECT_EQ(moved.count(), 0);
+    slider.setRealValue(0.29);
+    QTest::keyClick(&slider, Qt::Key_Right);
+    EXPECT_EQ(control::stringValue(&slider), QStringLiteral("0.3"));
+    QWheelEvent wheel(QPointF(5, 5), slider.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&slider, &wheel);
+    QTest::keyClick(&slider, Qt::Key_End);
+    EXPECT_EQ(moved.count(), 3);
+    EXPECT_DOUBLE_EQ(slider.realValue(), 5.0);
+    QTest::keyClick(&slider, Qt::Key_End);
+    EXPECT_EQ(moved.count(), 3);
+}
+
+TEST(DecimalSliderTest, ReachesAMaximumThatIsNoMultipleOfTheStep)
+{
+    DecimalSlider slider;
+    slider.setMinimumValue(-1.0);
+    slider.setMaximumValue(1.25);
+    slider.setSingleStepValue(0.5);
+    QTest::keyClick(&slider, Qt::Key_End);
+    EXPECT_DOUBLE_EQ(slider.realValue(), 1.25);
+    QTest::keyClick(&slider, Qt::Key_Left);
+    EXPECT_DOUBLE_EQ(slider.realValue(), 1.0);
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_DOUBLE_EQ(slider.realValue(), -1.0);
+}
+
+TEST(StepperTest, StepsWithinItsRange)
+{
+    Stepper stepper;
+    stepper.setMaximumValue(1.0);
+    stepper.setIncrement(0.4);
+    const QSignalSpy stepped(&stepper, &Stepper::userStepped);
+    const auto arrows = stepper.findChildren<QToolButton*>();
+    QTest::mouseClick(arrows[0], Qt::LeftButton);
+    EXPECT_DOUBLE_EQ(stepper.realValue(), 0.4);
+    QTest::keyClick(&stepper, Qt::Key_Up);
+    QTest::keyClick(&stepper, Qt::Key_Up);
+    QTest::keyClick(&stepper, Qt::Key_Up);
+    EXPECT_DOUBLE_EQ(stepper.realValue(), 1.0);
+    EXPECT_EQ(stepped.count(), 3);
+    EXPECT_FALSE(arrows[0]->isEnabled());
+    stepper.setRealValue(0.5);
+    EXPECT_EQ(stepped.count(), 3);
+}
+
+TEST(MatrixTest, SelectsCellsByTagAndTellsOnlyOfTheUsers)
+{
+    Matrix matrix;
+    matrix.setCellTitles({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
+    matrix.setCellTags({QStringLiteral("7"), QStringLiteral("8")});
+    EXPECT_EQ(matrix.cellTags(),
+              (QStringList{QStringLiteral("7"), QStringLiteral("8"), QStringLiteral("3")}));
+    const QSignalSpy selected(&matrix, &Matrix::userSelected);
+    EXPECT_EQ(matrix.selectedTag(), std::nullopt);
+    matrix.cells()[1]->setEnabled(false);
+    matrix.selectCellWithTag(8);
+    EXPECT_EQ(matrix.selectedTag(), 8);
+    matrix.selectCellWithTag(99);
+    EXPECT_EQ(matrix.selectedTag(), std::nullopt);
+    EXPECT_EQ(selected.count(), 0);
+    matrix.cells()[0]->click();
+    EXPECT_EQ(matrix.selectedTag(), 7);
+    EXPECT_EQ(selected.count(), 1);
+}
+
+TEST(ControlTest, AnswersCapabilitiesByKind)
+{
+    QLabel label(QStringLiteral("3.9 mm"));
+    QComboBox popup;
+    QGroupBox box;
+    Stepper stepper;
+    QWidget plain;
+    EXPECT_EQ(control::intValue(&label), 3);
+    EXPECT_EQ(control::floatValue(&label), 3.9);
+    EXPECT_EQ(control::maxValue(&label), std::nullopt);
+    EXPECT_EQ(control::maxValue(&stepper), 100.0);
+    EXPECT_FALSE(control::setStringValue(&popup, QStringLiteral("x")));
+    EXPECT_EQ(control::floatValue(&plain), std::nullopt);
+    EXPECT_FALSE(control::isControl(&box));
+    EXPECT_FALSE(control::isControl(nullptr));
+    EXPECT_EQ(control::tagOf(nullptr), 0);
+    EXPECT_EQ(control::maxValue(nullptr), std::nullopt);
+    EXPECT_FALSE(control::setStringValue(nullptr, QString()));
+    QCheckBox check;
+    check.setCheckState(Qt::PartiallyChecked);
+    EXPECT_EQ(control::state(&check), -1);
+}
+
+TEST(ControlTest, PopUpItemsKeepEnablingAndTagsInTheirModel)
+{
+    QComboBox popup;
+    popup.addItem(QStringLiteral("a"), 3000);
+    popup.addItem(QStringLiteral("b"), QStringLiteral("3000"));
+    EXPECT_EQ(control::indexOfItemWithRepresentedObject(&popup, QStringLiteral("3000")), 1);
+    control::setItemEnabled(&popup, 1, false);
+    control::setItemTag(&popup, 1, 7);
+    EXPECT_FALSE(control::isItemEnabled(&popup, 1));
+    EXPECT_TRUE(control::isItemEnabled(&popup, 0));
+    EXPECT_FALSE(control::isItemEnabled(&popup, 5));
+    EXPECT_EQ(control::itemTag(&popup, 1), 7);
+    popup.setCurrentIndex(1);
+    EXPECT_EQ(control::selectedRepresentedObject(&popup).toString(), QStringLiteral("3000"));
+}
+
+TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
+{
+    QWidget view;
+    auto* column = new QVBoxLayout(&view);
+    auto* tabs = new QTabWidget;
+    column->addWidget(tabs);
+    auto* page = new QWidget;
+    auto* inner = new QLabel(page);
+    inner->setProperty("tag", 5);
+    tabs->addTab(new QWidget, QStringLiteral("one"));
+    tabs->addTab(page, QStringLiteral("two"));
+    auto* outer = new QLabel;
+    outer->setProperty("tag", 5);
+    column->addWidget(outer);
+    auto* popup = new QComboBox;
+    popup->setProperty("tag", 6);
+    popup->view()->setProperty("tag", 9);
+    column->addWidget(popup);
+    EXPECT_EQ(viewWithTag(&view, 0), &view);
+    EXPECT_EQ(viewWithTag(&view, 5), inner);
+    EXPECT_EQ(viewWithTag(&view, 6), popup);
+    EXPECT_EQ(viewWithTag(&view, 9), nullptr);
+    EXPECT_EQ(viewWithTag(nullptr, 0), nullptr);
+}
+
+TEST(ControlTest, RewritingAFieldKeepsItsCaret)
+{
+    QLineEdit field(QStringLiteral("abcdef"));
+    field.setCursorPosition(2);
+    control::setStringValue(&field, QStringLiteral("abXcdef"));
+    EXPECT_EQ(field.cursorPosition(), 2);
+    field.setCursorPosition(7);
+    control::setStringValue(&field, QStringLiteral("abc"));
+    EXPECT_EQ(field.cursorPosition(), 3);
+}
+
+} // namespace halvern

@@ -1,0 +1,159 @@
+#include "platform/foundation/date_additions.h"
+#include "platform/foundation/notification_center.h"
+#include "platform/foundation/numbers.h"
+#include "platform/foundation/semaphore.h"
+#include "platform/foundation/work_queue.h"
+#include "tests/support/observers.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <clocale>
+#include <cmath>
+#include <future>
+#include <limits>
+#include <numeric>
+#include <thread>
+
+namespace halvern {
+
+TEST(NumbersTest, ReadsTheNumberAtTheStartOfAText)
+{
+    const QList<QPair<const char*, double>> cases{
+        {"3.7", 3.7}, {"12px", 12}, {" \t-4.5e1x", -45}, {"+2", 2},      {".5", 0.5},
+        {"5.", 5},    {"1e", 1},    {"1e+", 1},          {"abc", 0},     {"", 0},
+        {"-", 0},     {"--3", 0},   {"3,7", 3},          {"1.2.3", 1.2}, {".", 0},
+        {"e5", 0},    {"0x1F", 0},  {"1 000", 1}};
+    for (const auto& [text, number] : cases)
+        EXPECT_DOUBLE_EQ(leadingDouble(QString::fromLatin1(text)), number) << text;
+    EXPECT_EQ(leadingInteger(u"3.7"), 3);
+    EXPECT_EQ(leadingInteger(u"-12px"), -12);
+    EXPECT_EQ(leadingInteger(u"1e3"), 1);
+    EXPECT_EQ(leadingInteger(u"99999999999999999999"), std::numeric_limits<int>::max());
+    EXPECT_EQ(leadingInteger(u"-99999999999999999999"), std::numeric_limits<int>::min());
+    EXPECT_EQ(truncatedToInt(-2.9), -2);
+    EXPECT_EQ(truncatedToInt(1e300), std::numeric_limits<int>::max());
+    EXPECT_EQ(truncatedToInt(std::nan("")), 0);
+}
+
+TEST(NumbersTest, WritesAPointInEveryLocale)
+{
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
+    EXPECT_EQ(formatDouble("%.2f", 1.237), QStringLiteral("1.24"));
+    EXPECT_EQ(shortestDouble(0.1), QStringLiteral("0.1"));
+    EXPECT_EQ(shortestDouble(-0.0), QStringLiteral("0"));
+    EXPECT_DOUBLE_EQ(leadingDouble(u"2.5"), 2.5);
+    std::setlocale(LC_NUMERIC, before.c_str());
+}
+
+TEST(DateAdditionsTest, FormatsUnicodePatternsInTheUsersLocale)
+{
+    const QDateTime afternoon(QDate(2026, 3, 9), QTime(13, 5));
+    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(afternoon, QStringLiteral("h:mm a")),
+              QStringLiteral("1:05 PM"));
+    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(afternoon, QStringLiteral("yyyy/MM/dd")),
+              QStringLiteral("2026/03/09"));
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(afternoon, QStringLiteral("EEEE")),
+              QStringLiteral("Montag"));
+    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(QDateTime(), QStringLiteral("yyyy")), std::nullopt);
+}
+
+TEST(SemaphoreTest, TellsWhetherItsSignalWokeSomebody)
+{
+    Semaphore semaphore;
+    EXPECT_FALSE(semaphore.signal());
+    semaphore.wait();
+    auto waiter = std::async(std::launch::async, [&] { semaphore.wait(); });
+    // Whether the waiter has arrived yet is its own affair: a signal that woke nobody is taken back.
+    while (!semaphore.signal()) {
+        semaphore.wait();
+        std::this_thread::yield();
+    }
+    waiter.get();
+    EXPECT_FALSE(semaphore.signal());
+}
+
+TEST(SemaphoreTest, TwoSignalsDoNotBothWakeOneWaiter)
+{
+    for (int round = 0; round < 200; ++round) {
+        Semaphore semaphore;
+        auto waiter = std::async(std::launch::async, [&] { semaphore.wait(); });
+        const int woken = int(semaphore.signal()) + int(semaphore.signal());
+        waiter.get();
+        EXPECT_LE(woken, 1);
+    }
+}
+
+TEST(WorkQueueTest, RunsItsWorkInOrderOffTheMainThreadAndOutlivesItsHandle)
+{
+    std::vector<int> order;
+    std::promise<void> done;
+    {
+        const WorkQueue queue;
+        for (int i = 0; i < 100; ++i)
+            queue.async(
+                [&order, i] { order.push_back((QThread::currentThread() == qApp->thread()) ? -1 : i); });
+        queue.async([&done] { done.set_value(); });
+    }
+    done.get_future().get();
+    std::vector<int> expected(100);
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(order, expected);
+}
+
+TEST(WorkQueueTest, MainQueueRunsOnTheMainThreadInOrderAndDelayedWorkLater)
+{
+    std::vector<int> order;
+    mainQueue().after(1, [&] { order.push_back(3); });
+    std::thread([&] {
+        mainQueue().async([&] { order.push_back((QThread::currentThread() == qApp->thread()) ? 1 : -1); });
+        mainQueue().async([&] { order.push_back(2); });
+    }).join();
+    ASSERT_TRUE(waitUntil([&] { return order.size() == 3; }));
+    EXPECT_EQ(order, (std::vector<int>{1, 2, 3}));
+}
+
+TEST(NotificationCenterTest, DeliversByNameAndObjectAtOnceAndAsOftenAsRegistered)
+{
+    NotificationCenter center;
+    int self = 0;
+    int other = 0;
+    QStringList received;
+    const auto handler = [&](const char* who) {
+        return
+            [&received, who](const Notification& note) { received << QString::fromLatin1(who) + note.name; };
+    };
+    center.addObserver(&self, QStringLiteral("N"), &other, handler("filtered "));
+    center.addObserver(&self, QStringLiteral("N"), nullptr, handler("any "));
+    center.post(QStringLiteral("N"), &other);
+    center.post(QStringLiteral("N"), &self);
+    center.post(QStringLiteral("M"), &other);
+    EXPECT_EQ(received,
+              (QStringList{QStringLiteral("filtered N"), QStringLiteral("any N"), QStringLiteral("any N")}));
+    center.removeObserver(&self);
+    center.post(QStringLiteral("N"), &other);
+    EXPECT_EQ(received.size(), 3);
+}
+
+TEST(NotificationCenterTest, AHandlerMayRemoveTheNextOne)
+{
+    NotificationCenter center;
+    int first = 0;
+    int second = 0;
+    int delivered = 0;
+    center.addObserver(&first, QStringLiteral("N"), nullptr,
+                       [&](const Notification&) { center.removeObserver(&second); });
+    center.addObserver(&second, QStringLiteral("N"), nullptr, [&](const Notification&) { ++delivered; });
+    center.post(QStringLiteral("N"), nullptr);
+    EXPECT_EQ(delivered, 0);
+}
+
+} // namespace halvern
