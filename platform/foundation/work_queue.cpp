@@ -3,12 +3,38 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <chrono>
+#include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <thread>
 #include <utility>
 
 namespace halvern {
+
+namespace {
+
+struct BusyThreads {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int count = 0;
+
+    void add(int difference)
+    {
+        const std::scoped_lock lock(mutex);
+        count += difference;
+        changed.notify_all();
+    }
+};
+
+BusyThreads& busyThreads()
+{
+    // Never destroyed: a thread that is stuck may come back after main() has returned.
+    static BusyThreads* const threads = std::make_unique<BusyThreads>().release();
+    return *threads;
+}
+
+} // namespace
 
 void MainQueue::async(std::function<void()> work) const
 {
@@ -62,7 +88,20 @@ void WorkQueue::async(std::function<void()> work) const
     state_->work.push_back(std::move(work));
     if (std::exchange(state_->running, true))
         return;
-    std::thread([state = state_] { State::run(state); }).detach();
+    busyThreads().add(1);
+    std::thread([state = state_]() mutable {
+        State::run(state);
+        state.reset();
+        busyThreads().add(-1);
+    }).detach();
+}
+
+bool waitForWorkQueues(int milliseconds)
+{
+    BusyThreads& threads = busyThreads();
+    std::unique_lock lock(threads.mutex);
+    return threads.changed.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                                    [&] { return threads.count == 0; });
 }
 
 } // namespace halvern

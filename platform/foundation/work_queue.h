@@ -32,4 +32,8 @@ private:
     std::shared_ptr<State> state_;
 };
 
+/// Waits until no queue has work, `milliseconds` at most; false if one still has. For the end of a program
+/// whose windows are closed, so that waits which have seen their panel go can tidy up after themselves.
+bool waitForWorkQueues(int milliseconds);
+
 } // namespace halvern
