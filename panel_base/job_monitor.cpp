@@ -66,7 +66,9 @@ void KSTRVLBasePDEHalvern::waitForJobCompletion(int jobID)
     pdeUnloadSemaphore.set(std::make_shared<Semaphore>(0));
     const auto watched = std::make_shared<WatchedJob>(
         WatchedJob{shared_from_this(), &pdePluginDidUnload, std::move(destination), std::move(uri), jobID});
-    WorkQueue().async([watched] { watch(*watched); });
+    // A watch that never begins, for want of a thread, leaves the panel free.
+    if (!WorkQueue().async([watched] { watch(*watched); }))
+        pdeUnloadSemaphore.set(nullptr);
 }
 
 void KSTRVLBasePDEHalvern::watch(WatchedJob& job)

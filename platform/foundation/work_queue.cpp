@@ -1,5 +1,7 @@
 #include "platform/foundation/work_queue.h"
 
+#include "platform/foundation/log.h"
+
 #include <QCoreApplication>
 #include <QTimer>
 
@@ -7,6 +9,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -34,18 +37,40 @@ BusyThreads& busyThreads()
     return *threads;
 }
 
+// Where the main thread's work is posted to. It lives for ever: a worker that nobody joins may post while the
+// application object is going.
+QObject* makeMainTarget()
+{
+    QObject* target = std::make_unique<QObject>().release();
+    if (const QCoreApplication* app = QCoreApplication::instance())
+        target->moveToThread(app->thread());
+    return target;
+}
+
+QObject* mainTarget()
+{
+    static QObject* const target = makeMainTarget();
+    return target;
+}
+
+void settleMainTarget()
+{
+    mainTarget();
+}
+
+Q_COREAPP_STARTUP_FUNCTION(settleMainTarget)
+
 } // namespace
 
 void MainQueue::async(std::function<void()> work) const
 {
-    if (QCoreApplication* app = QCoreApplication::instance())
-        QMetaObject::invokeMethod(app, std::move(work), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(mainTarget(), std::move(work), Qt::QueuedConnection);
 }
 
 void MainQueue::after(int milliseconds, std::function<void()> work) const
 {
     async([milliseconds, work = std::move(work)]() mutable {
-        QTimer::singleShot(milliseconds, QCoreApplication::instance(), std::move(work));
+        QTimer::singleShot(milliseconds, mainTarget(), std::move(work));
     });
 }
 
@@ -82,18 +107,28 @@ void WorkQueue::State::run(const std::shared_ptr<State>& state)
 
 WorkQueue::WorkQueue() : state_(std::make_shared<State>()) {}
 
-void WorkQueue::async(std::function<void()> work) const
+bool WorkQueue::async(std::function<void()> work) const
 {
     const std::scoped_lock lock(state_->mutex);
     state_->work.push_back(std::move(work));
     if (std::exchange(state_->running, true))
-        return;
+        return true;
     busyThreads().add(1);
-    std::thread([state = state_]() mutable {
-        State::run(state);
-        state.reset();
+    try {
+        std::thread([state = state_]() mutable {
+            State::run(state);
+            state.reset();
+            busyThreads().add(-1);
+        }).detach();
+        return true;
+    } catch (const std::system_error& error) {
         busyThreads().add(-1);
-    }).detach();
+        state_->running = false;
+        state_->work.clear();
+        logLine(
+            QStringLiteral("no thread for background work: %1").arg(QString::fromLocal8Bit(error.what())));
+        return false;
+    }
 }
 
 bool waitForWorkQueues(int milliseconds)

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "printer/job_options.h"
+
+#include <QImage>
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace halvern {
+
+struct PageHeader;
+
+/// The two lines for the back of a sheet as they are printed: those that are switched on and not empty, with
+/// the substitutes for comma and apostrophe turned back. UTF-8.
+std::vector<std::string> backLines(const JobOptions& options);
+
+/// A sheet's back with lines of text near its upper edge. Only the rows with text are kept in memory. Needs a
+/// QGuiApplication; main thread only.
+class BackText {
+public:
+    BackText(const std::vector<std::string>& lines, const PageHeader& page);
+
+    /// Fills the row `y` of the page, three bytes a pixel.
+    void row(uint32_t y, std::span<uint8_t> pixels) const;
+
+private:
+    QImage strip_;
+    uint32_t top_ = 0;
+};
+
+} // namespace halvern

@@ -1,0 +1,53 @@
+// The back end of the virtual printer: halvern job user title copies options [file]
+
+#include "printer/cancellation.h"
+#include "printer/virtual_printer.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <cups/backend.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+std::string environment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+int refuse(const std::string& why)
+{
+    std::fprintf(stderr, "ERROR: %s\n", why.c_str());
+    return CUPS_BACKEND_STOP;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc == 1) {
+        std::puts("direct halvern://virtual/tessarin \"Halvern Tessarin\" \"Halvern Tessarin (virtual)\" "
+                  "\"MFG:Halvern;MDL:Tessarin;\"");
+        return CUPS_BACKEND_OK;
+    }
+    if (argc < 6 || argc > 7) {
+        std::fputs("usage: halvern job user title copies options [file]\n", stderr);
+        return CUPS_BACKEND_FAILED;
+    }
+    const bool commands = environment("CONTENT_TYPE") == "application/vnd.cups-command";
+    std::string error;
+    const auto plan = halvern::parseFaultPlan(environment("DEVICE_URI"), commands, error);
+    if (!plan)
+        return refuse(error);
+    const std::string jobs = environment("HALVERN_JOBS_DIR");
+    if (jobs.empty() || jobs.front() != '/')
+        return refuse(
+            "HALVERN_JOBS_DIR is not set: start the server with private-cups, or pass the variable to it.");
+    const int fd = argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
+    if (fd < 0)
+        return refuse(std::string("The print file cannot be opened: ") + std::strerror(errno) + ".");
+    halvern::cancellation::install();
+    return halvern::VirtualPrinter({argv[1], argv[2], argv[3], argv[4], commands}, *plan, jobs).run(fd);
+}
