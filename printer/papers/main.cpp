@@ -151,6 +151,11 @@ int main(int argc, char** argv)
         return complain(parser.errorText() + QStringLiteral(" See halvern-papers --help."), kMisused);
     const QStringList arguments = parser.positionalArguments();
     const QString command = arguments.value(0);
+    const qsizetype outputs = parser.optionNames().size();
+    if (outputs > (command == QStringLiteral("pack") ? 1 : 0))
+        return complain(
+            QStringLiteral("pack takes one of --ppd, --archive and --filter-lines; show takes none."),
+            kMisused);
     if (arguments.size() == 2 && command == QStringLiteral("pack"))
         return pack(arguments.at(1), parser);
     if (arguments.size() == 2 && command == QStringLiteral("show"))

@@ -1,7 +1,9 @@
-// Run it on a copy of the seeds, with the words of the format:
-//   cp -r tests/platform/fixtures build/fuzz/corpus
+// Run it on a copy of the seeds, with the words of the format. The small quarantine keeps the sanitizer's own
+// memory out of the limit:
+//   mkdir -p build/fuzz/corpus && cp tests/{platform/fixtures,fuzz/seeds}/*.plist build/fuzz/corpus
+//   export ASAN_OPTIONS=quarantine_size_mb=16
 //   build/fuzz/bin/fuzz-keyed-unarchiver -dict=tests/fuzz/keyed_archive.dict -max_total_time=600
-//   build/fuzz/corpus
+//       -rss_limit_mb=300 -max_len=65536 build/fuzz/corpus
 
 #include "platform/foundation/keyed_unarchiver.h"
 

@@ -267,6 +267,7 @@ TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
     } cases[] = {
         {{}, 2, "--help"},
         {{pack, json, QStringLiteral("--pdp"), text}, 2, "pdp"},
+        {{pack, json, ppd, text, QStringLiteral("--archive")}, 2, "one of --ppd"},
         {{pack, folder.filePath(QStringLiteral("none.json"))}, 1, "No such file"},
         {{pack, text}, 1, "line 1, near column 1: this is not JSON"},
         {{pack, json, ppd, text}, 1, "is not a PPD file"},

@@ -1,0 +1,98 @@
+#include "dialog/application.h"
+
+#include "dialog/print_run.h"
+
+#include <QEventLoop>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTimer>
+
+#include <cstring>
+
+#include <syslog.h>
+#include <unistd.h>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kTakeBackMilliseconds = 3000;
+
+QtMessageHandler usualHandler = nullptr;
+
+void toSystemLog(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (context.category && std::strcmp(context.category, "halvern.pde") == 0)
+        syslog(LOG_INFO, "%s", qUtf8Printable(text));
+    else
+        usualHandler(type, context, text);
+}
+
+// Panels' trace lines go to the terminal if there is one, else to the journal, so that they do not mix with
+// what a script reads. Qt's own variable for that, QT_LOGGING_TO_CONSOLE, sends them to standard error all
+// the same.
+void routeLog()
+{
+    qSetMessagePattern(QStringLiteral("%{if-category}%{category}: %{endif}%{message}"));
+    if (isatty(STDERR_FILENO) || qEnvironmentVariableIntValue("QT_LOGGING_TO_CONSOLE") > 0)
+        return;
+    openlog("halvern-print", LOG_PID, LOG_USER);
+    usualHandler = qInstallMessageHandler(toSystemLog);
+}
+
+bool needsNoDisplay(int argc, char** argv)
+{
+    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
+        for (const char* option : {"--no-dialog", "--dry-run", "--help", "-h", "--version", "-v"}) {
+            if (std::strcmp(argv[i], option) == 0)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+void prepareProcess(int argc, char** argv)
+{
+    routeLog();
+    const bool hasDisplay =
+        qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && (needsNoDisplay(argc, argv) || !hasDisplay)) {
+        if (!needsNoDisplay(argc, argv)) {
+            std::fputs("There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.\n",
+                       stderr);
+            std::exit(1);
+        }
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+QList<std::shared_ptr<QTranslator>> prepareApplication()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
+    QGuiApplication::setApplicationDisplayName(QString());
+    QList<std::shared_ptr<QTranslator>> translators;
+    const auto add = [&](const QString& name, const QString& folder) {
+        auto translator = std::make_shared<QTranslator>();
+        if (translator->load(QLocale(), name, QStringLiteral("_"), folder) &&
+            QCoreApplication::installTranslator(translator.get()))
+            translators.append(translator);
+    };
+    add(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    add(QStringLiteral("dialog"), QStringLiteral(":/halvern/translations"));
+    return translators;
+}
+
+void waitForUnfinishedRun(PrintRun* run)
+{
+    if (!run || run->isOver() || run->jobId() != 0)
+        return;
+    QEventLoop loop;
+    QObject::connect(run, &PrintRun::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kTakeBackMilliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+} // namespace halvern

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QApplication>
+#include <QTranslator>
+
+#include <memory>
+
+namespace halvern {
+
+class PrintRun;
+
+/// Before the application object is made: where the log goes, and no display is needed to print without a
+/// dialog.
+void prepareProcess(int argc, char** argv);
+
+/// After it is made: its name and the translations for the user's language, which the caller keeps.
+QList<std::shared_ptr<QTranslator>> prepareApplication();
+
+/// Gives a cancelled run's worker a moment to take a half-sent job back, after the window has gone.
+void waitForUnfinishedRun(PrintRun* run);
+
+} // namespace halvern

@@ -1,0 +1,118 @@
+#include "dialog/command_line.h"
+
+#include "dialog/photo.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace halvern {
+
+namespace {
+
+struct Switches {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
+    QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
+                               tr("Print on this queue."),
+                               QStringLiteral("QUEUE")};
+    QCommandLineOption option{{QStringLiteral("o"), QStringLiteral("option")},
+                              tr("Set a printer option. Can be given several times."),
+                              QStringLiteral("KEY=VALUE")};
+    QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
+                              tr("Print this many copies, 1 to %1.").arg(kMostCopies),
+                              QStringLiteral("N")};
+    QCommandLineOption noDialog{QStringLiteral("no-dialog"),
+                                tr("Print at once, and wait until the job has ended.")};
+    QCommandLineOption dryRun{
+        QStringLiteral("dry-run"),
+        tr("Write the options that would be sent, one KEY=VALUE a line, and send nothing.")};
+
+    static QString seeHelp() { return tr("See \"halvern-print --help\"."); }
+
+    static QString badOption(const QString& text)
+    {
+        return tr("\"%1\" is no option: write KEY=VALUE, for example PageSize=A4.").arg(text);
+    }
+
+    static QString badCopies(const QString& text)
+    {
+        return tr("\"%1\" is no number of copies: write a number from 1 to %2.").arg(text).arg(kMostCopies);
+    }
+
+    static QString noFile() { return tr("Name at least one photo to print (JPEG, PNG, TIFF or PDF)."); }
+
+    static QString emptyPrinter() { return tr("The queue's name is empty. \"lpstat -e\" lists the queues."); }
+
+    static QString about()
+    {
+        return tr("Prints photos, with a preview and the printer's own pages of options.");
+    }
+
+    static QString fileHelp() { return tr("JPEG, PNG, TIFF or PDF files; each photo becomes a page."); }
+};
+
+ParsedCommandLine wrong(const QString& sentence, int status = kExitUsage)
+{
+    return {std::nullopt, sentence, status};
+}
+
+QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
+{
+    for (const QString& text : parser.values(switches.option)) {
+        const std::optional<OptionValue> option = parseOption(text);
+        if (!option)
+            return Switches::badOption(text);
+        line.request.options.append(*option);
+    }
+    if (parser.isSet(switches.copies)) {
+        bool isNumber = false;
+        line.request.copies = parser.value(switches.copies).toInt(&isNumber);
+        if (!isNumber || line.request.copies < 1 || line.request.copies > kMostCopies)
+            return Switches::badCopies(parser.value(switches.copies));
+    }
+    line.request.printer = parser.value(switches.printer);
+    if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
+        return Switches::emptyPrinter();
+    return {};
+}
+
+} // namespace
+
+ParsedCommandLine parseCommandLine(const QStringList& arguments)
+{
+    const Switches switches;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(Switches::about());
+    parser.addOptions(
+        {switches.printer, switches.option, switches.copies, switches.noDialog, switches.dryRun});
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
+    if (!parser.parse(arguments))
+        return wrong(parser.errorText() + QLatin1Char(' ') + Switches::seeHelp());
+    if (parser.isSet(help))
+        return {std::nullopt, parser.helpText(), kExitPrinted};
+    if (parser.isSet(version))
+        return {std::nullopt,
+                QCoreApplication::applicationName() + QLatin1Char(' ') +
+                    QCoreApplication::applicationVersion(),
+                kExitPrinted};
+    CommandLine line;
+    line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
+    line.dryRun = parser.isSet(switches.dryRun);
+    const QString problem = readValues(parser, switches, line);
+    if (!problem.isEmpty())
+        return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
+    line.request.files = parser.positionalArguments();
+    if (line.request.files.isEmpty())
+        return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
+    for (const QString& path : line.request.files) {
+        const QString unusable = fileProblem(path);
+        if (!unusable.isEmpty())
+            return wrong(unusable, kExitFailed);
+    }
+    return {line, {}, kExitPrinted};
+}
+
+} // namespace halvern

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "dialog/dialog_session.h"
+
+#include <optional>
+
+namespace halvern {
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    SessionRequest request;
+    bool showDialog = true;
+    bool dryRun = false; ///< say what would be sent, and send nothing
+};
+
+/// How the program ends.
+enum ExitStatus { kExitPrinted = 0, kExitFailed = 1, kExitUsage = 2, kExitUnfinished = 3 };
+
+/// A command line, or what to say and the status to end with.
+struct ParsedCommandLine {
+    std::optional<CommandLine> commandLine;
+    QString text;
+    int status = kExitPrinted;
+};
+
+/// Reads the arguments; the first is the program's name. Looks at the files too, but decodes none.
+ParsedCommandLine parseCommandLine(const QStringList& arguments);
+
+} // namespace halvern

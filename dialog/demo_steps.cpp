@@ -1,0 +1,178 @@
+#include "dialog/demo_steps.h"
+
+#include "dialog/panel_deck.h"
+#include "dialog/print_dialog.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTest>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kPatienceMilliseconds = 30000;
+constexpr int kMostKeys = 5000;
+
+QString controlText(const QWidget& control)
+{
+    for (const char* property : {"text", "currentText", "value"}) {
+        const QVariant value = control.property(property);
+        if (value.isValid())
+            return value.toString();
+    }
+    return {};
+}
+
+} // namespace
+
+DemoSteps::DemoSteps(PrintDialog& dialog, DialogSession& session, QString screens, QTextStream& out)
+    : dialog_(dialog), session_(session), screens_(std::move(screens)), out_(out)
+{
+}
+
+QString DemoSteps::run(const QString& step)
+{
+    const QString verb = step.section(QLatin1Char(' '), 0, 0);
+    const QString first = step.section(QLatin1Char(' '), 1, 1);
+    if (verb == QLatin1StringView("ready"))
+        return waitReady();
+    if (verb == QLatin1StringView("page"))
+        return showPage(first);
+    if (verb == QLatin1StringView("screenshot"))
+        return screenshot(first);
+    if (verb == QLatin1StringView("print"))
+        return print();
+    if (verb == QLatin1StringView("close")) {
+        dialog_.close();
+        return {};
+    }
+    QWidget* target = find(first);
+    if (!target)
+        return QStringLiteral("there is no visible control %1").arg(first);
+    const QString problem = onTarget(verb, *target, step.section(QLatin1Char(' '), 2));
+    QCoreApplication::processEvents();
+    if (problem.isEmpty())
+        out_ << verb << ' ' << first << ": now \"" << controlText(*target) << '"' << Qt::endl;
+    return problem;
+}
+
+QWidget* DemoSteps::find(const QString& target) const
+{
+    const QString value = target.section(QLatin1Char(':'), 1);
+    const bool isTag = target.startsWith(QLatin1StringView("tag:"));
+    for (QWidget* widget : dialog_.findChildren<QWidget*>()) {
+        const bool isMeant = isTag ? widget->property("tag").toInt() == value.toInt(nullptr, 0) &&
+                                         widget->property("tag").isValid()
+                                   : widget->objectName() == value;
+        if (isMeant && widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+QString DemoSteps::waitReady()
+{
+    if (!QTest::qWaitFor([&] { return session_.canPrint(); }, kPatienceMilliseconds))
+        return QStringLiteral("the printer or the photo did not come");
+    out_ << "The dialog shows printer " << session_.printerName() << " with "
+         << dialog_.deck().identifiers().join(QStringLiteral(", ")) << Qt::endl;
+    return {};
+}
+
+QString DemoSteps::showPage(const QString& identifier)
+{
+    if (!dialog_.deck().showPage(identifier))
+        return QStringLiteral("there is no page %1").arg(identifier);
+    QCoreApplication::processEvents();
+    return {};
+}
+
+QString DemoSteps::onTarget(const QString& verb, QWidget& target, const QString& value)
+{
+    if (!target.isEnabled())
+        return QStringLiteral("the control is disabled");
+    if (verb == QLatin1StringView("click")) {
+        // A check box answers to clicks on its mark, at the start of its row.
+        QTest::mouseClick(&target, Qt::LeftButton, {}, QPoint(12, target.height() / 2));
+        return {};
+    }
+    if (verb == QLatin1StringView("type"))
+        return type(target, value);
+    if (verb == QLatin1StringView("choose"))
+        return choose(target, value);
+    if (verb == QLatin1StringView("slide"))
+        return slide(target, value);
+    return QStringLiteral("there is no such step");
+}
+
+QString DemoSteps::type(QWidget& target, const QString& text)
+{
+    target.setFocus();
+    QTest::keyClick(&target, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&target, text);
+    QTest::keyClick(&target, Qt::Key_Tab);
+    return {};
+}
+
+QString DemoSteps::choose(QWidget& target, const QString& choice)
+{
+    auto* box = qobject_cast<QComboBox*>(&target);
+    const int row = box ? std::max(box->findData(choice), box->findText(choice)) : -1;
+    if (row < 0)
+        return QStringLiteral("there is no choice %1").arg(choice);
+    box->showPopup();
+    box->view()->setCurrentIndex(box->model()->index(row, box->modelColumn()));
+    QTest::keyClick(box->view(), Qt::Key_Return);
+    return {};
+}
+
+QString DemoSteps::slide(QWidget& target, const QString& value)
+{
+    target.setFocus();
+    const double wanted = value.toDouble();
+    const auto now = [&] {
+        const QVariant real = target.property("realValue");
+        return real.isValid() ? real.toDouble() : target.property("value").toDouble();
+    };
+    for (int i = 0; i < kMostKeys && !qFuzzyCompare(now() + 1.0, wanted + 1.0); ++i) {
+        const double before = now();
+        QTest::keyClick(&target, before < wanted ? Qt::Key_Right : Qt::Key_Left);
+        if (qFuzzyCompare(before + 1.0, now() + 1.0) || (before < wanted) != (now() < wanted))
+            break;
+    }
+    return {};
+}
+
+QString DemoSteps::screenshot(const QString& name)
+{
+    // Two rounds: what a step queues may queue a repaint.
+    QTest::qWait(0);
+    QCoreApplication::processEvents();
+    const QString path = QStringLiteral("%1/%2.png").arg(screens_, name);
+    if (!dialog_.grab().save(path))
+        return QStringLiteral("%1 could not be written").arg(path);
+    out_ << "Screenshot: " << path << Qt::endl;
+    return {};
+}
+
+QString DemoSteps::print()
+{
+    auto* button = dialog_.findChild<QPushButton*>(QStringLiteral("printButton"));
+    if (!button->isEnabled())
+        return QStringLiteral("Print is disabled");
+    QTest::mouseClick(button, Qt::LeftButton);
+    if (!QTest::qWaitFor([&] { return dialog_.run() && dialog_.run()->isOver(); }, kPatienceMilliseconds))
+        return QStringLiteral("the job did not end");
+    const PrintOutcome outcome = dialog_.outcome();
+    if (!outcome.printed)
+        return outcome.sentence;
+    out_ << outcome.sentence << Qt::endl << "job-id=" << outcome.jobId << Qt::endl;
+    return {};
+}
+
+} // namespace halvern

@@ -1,0 +1,45 @@
+#include "dialog/host.h"
+
+#include "platform/printing/printer.h"
+
+namespace halvern {
+
+Host::Host(HostSource& source, std::shared_ptr<Printer> printer)
+    : source_(&source), printer_(std::move(printer))
+{
+}
+
+void Host::detach()
+{
+    source_ = nullptr;
+    const QMutexLocker lock(&printerMutex_);
+    printer_.reset();
+}
+
+ppd_file_t* Host::ppdFile()
+{
+    return source_ ? source_->hostPpdFile() : nullptr;
+}
+
+bool Host::willChangePPDOptionKeyValue_ppdChoice(const QString& key, const QVariant& choice)
+{
+    return source_ && source_->hostWillChange(key, choice);
+}
+
+std::shared_ptr<PrintSettings> Host::printSettings()
+{
+    return source_ ? source_->hostPrintSettings() : nullptr;
+}
+
+std::shared_ptr<PageFormat> Host::pageFormat()
+{
+    return source_ ? source_->hostPageFormat() : nullptr;
+}
+
+std::shared_ptr<Printer> Host::pmPrinter()
+{
+    const QMutexLocker lock(&printerMutex_);
+    return printer_;
+}
+
+} // namespace halvern

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/printing/host_callback.h"
+
+#include <QMutex>
+
+#include <functional>
+
+namespace halvern {
+
+/// What the dialog answers a panel's requests from. Main thread only; lives as long as its panels' printer is
+/// selected.
+class HostSource {
+public:
+    virtual ~HostSource() = default;
+    virtual ppd_file_t* hostPpdFile() = 0;
+    virtual bool hostWillChange(const QString& key, const QVariant& choice) = 0;
+    virtual std::shared_ptr<PrintSettings> hostPrintSettings() = 0;
+    virtual std::shared_ptr<PageFormat> hostPageFormat() = 0;
+};
+
+/// The callback object of one printer's panels. When the dialog goes, or another printer is selected, it is
+/// detached and answers null pointers and refusals from then on, however long the panels keep it.
+class Host : public HostCallback {
+public:
+    Host(HostSource& source, std::shared_ptr<Printer> printer);
+
+    /// Main thread only, before the source goes.
+    void detach();
+
+    ppd_file_t* ppdFile() override;
+
+    bool respondsToWillChangePPDOptionKeyValue() const override { return true; }
+
+    bool willChangePPDOptionKeyValue_ppdChoice(const QString& key, const QVariant& choice) override;
+    std::shared_ptr<PrintSettings> printSettings() override;
+    std::shared_ptr<PageFormat> pageFormat() override;
+    std::shared_ptr<Printer> pmPrinter() override;
+
+private:
+    HostSource* source_;
+    mutable QMutex printerMutex_; // pmPrinter() is asked by background waits too
+    std::shared_ptr<Printer> printer_;
+};
+
+} // namespace halvern

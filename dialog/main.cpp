@@ -1,0 +1,56 @@
+#include "dialog/application.h"
+#include "dialog/batch_print.h"
+#include "dialog/plugin_loader.h"
+#include "dialog/print_dialog.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+namespace {
+
+using namespace halvern;
+
+int runDialog(const CommandLine& line)
+{
+    PluginLoader panels;
+    DialogSession session(line.request, panels);
+    PrintDialog dialog(session);
+    dialog.show();
+    session.start();
+    QObject::connect(&dialog, &QDialog::finished, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    waitForUnfinishedRun(dialog.run());
+    return dialog.outcome().printed || dialog.outcome().sentence.isEmpty() ? kExitPrinted : kExitFailed;
+}
+
+int runBatch(const CommandLine& line)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    PluginLoader panels;
+    BatchPrint batch(line, panels, out, err);
+    int status = kExitFailed;
+    QEventLoop loop;
+    QObject::connect(&batch, &BatchPrint::finished, &loop, [&](int exitStatus) {
+        status = exitStatus;
+        loop.quit();
+    });
+    QTimer::singleShot(0, &batch, &BatchPrint::start);
+    loop.exec();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    prepareProcess(argc, argv);
+    QApplication app(argc, argv);
+    const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
+    const ParsedCommandLine parsed = parseCommandLine(QCoreApplication::arguments());
+    if (!parsed.commandLine) {
+        QTextStream(parsed.status == kExitPrinted ? stdout : stderr) << parsed.text << Qt::endl;
+        return parsed.status;
+    }
+    return parsed.commandLine->showDialog ? runDialog(*parsed.commandLine) : runBatch(*parsed.commandLine);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "dialog/dialog_session.h"
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QScrollArea;
+class QStackedWidget;
+
+namespace halvern {
+
+class OptionsPage;
+class PagePage;
+
+/// The list of pages, the dialog's own and the panels', and the page that is shown. It keeps the protocol of
+/// showing and hiding panels. Main thread only.
+class PanelDeck : public QWidget {
+    Q_OBJECT
+
+public:
+    PanelDeck(DialogSession& session, QWidget* parent);
+    ~PanelDeck() override;
+
+    /// Fills the list for the session's printer.
+    void rebuild();
+
+    /// Takes the current values into the dialog's own pages and the summary.
+    void refresh();
+
+    /// Hides the shown panel and hands all views back, before the panels go.
+    void releasePanels();
+
+    /// Tells the shown panel that it is shown, after saving has marked it as leaving.
+    void resumePanel();
+
+    /// Lets the shown panel open its help. False if no panel is shown or it leaves that to the dialog.
+    bool showHelpOfShownPanel();
+
+    /// Tells all panels, once, that the dialog closes.
+    void tellClosing(bool printing);
+
+    /// Shows the page with this identifier ("page", "options", "summary", or a panel's kind). False: no such
+    /// page.
+    bool showPage(const QString& identifier);
+
+    QStringList identifiers() const;
+
+private:
+    void addPage(const QString& identifier, const QString& title);
+    void showRow(int row);
+    bool hideShownPanel();
+    void takeShownView();
+    QWidget* viewFor(const QString& identifier);
+    Panel* panelFor(const QString& identifier) const;
+    void refreshSummary();
+
+    DialogSession& session_;
+    QListWidget* list_;
+    QScrollArea* area_;
+    QWidget* empty_;
+    PagePage* page_;
+    OptionsPage* options_;
+    QLabel* summary_;
+    Panel* shown_ = nullptr;
+    int shownRow_ = -1;
+    bool toldClosing_ = false;
+};
+
+} // namespace halvern

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/printing/panel.h"
+
+namespace halvern {
+
+/// Where the dialog gets a printer's panels from. Main thread only.
+class PanelSource {
+public:
+    virtual ~PanelSource() = default;
+
+    /// The panels of the bundle that a PPD names. Empty, with a sentence in `problem`, if it cannot be had.
+    /// The source outlives the panels.
+    virtual PanelList panels(const QString& bundleName, const std::shared_ptr<HostCallback>& host,
+                             QString* problem) = 0;
+};
+
+} // namespace halvern

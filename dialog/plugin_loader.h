@@ -1,0 +1,32 @@
+#pragma once
+
+#include "dialog/panel_source.h"
+
+#include <QCoreApplication>
+#include <QMap>
+
+namespace halvern {
+
+/// Finds bundles by name and loads them. A bundle is loaded once and stays loaded, since its panels' last
+/// references may drop on any thread at any time. Main thread only.
+class PluginLoader : public PanelSource {
+    Q_DECLARE_TR_FUNCTIONS(PluginLoader)
+
+public:
+    /// Looks in the folders of HALVERN_PLUGIN_PATH, then beside the program.
+    PluginLoader();
+    explicit PluginLoader(QStringList folders);
+    ~PluginLoader() override;
+
+    PanelList panels(const QString& bundleName, const std::shared_ptr<HostCallback>& host,
+                     QString* problem) override;
+
+private:
+    PrincipalClass* principalOf(const QString& bundleName, QString* problem);
+    std::unique_ptr<PrincipalClass> load(const QString& path, QString* problem);
+
+    QStringList folders_;
+    std::map<QString, std::unique_ptr<PrincipalClass>> principals_;
+};
+
+} // namespace halvern

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "dialog/cups_connection.h"
+#include "platform/printing/ppd.h"
+
+namespace halvern {
+
+/// A queue's PPD as fetched and parsed, or the sentence that says why there is none.
+struct QueuePpd {
+    std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
+    QString problem;
+};
+
+/// Fetches the PPD of a queue and parses it, on the calling worker. The file belongs to whoever takes it out.
+QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled);
+
+/// Makes a queue for a printer that was found on the network, on the calling worker. The sentence about a
+/// failure, empty on success.
+QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled);
+
+} // namespace halvern

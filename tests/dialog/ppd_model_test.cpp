@@ -1,0 +1,171 @@
+#include "tests/dialog/model_support.h"
+#include "tests/support/fake_host.h"
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+QString q(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+QByteArray smallPpd()
+{
+    return ppdHeader() + ppdOption("Feed", {"Sheet/Cut sheet", "Roll/Paper roll"}) +
+           ppdOption("Sides", {"One/One side", "Both/Both sides"}) +
+           ppdOption("Gloss", {"Off/No", "On/Yes"}) +
+           "*cupsUIConstraints NoResolver: \"*Feed Roll *Sides Both\"\n"
+           "*cupsUIConstraints GlossOnRoll: \"*Feed Roll *Gloss On\"\n"
+           "*cupsUIResolver GlossOnRoll: \"*Gloss Off *Feed Sheet\"\n";
+}
+
+} // namespace
+
+TEST(PpdModel, MarksTheDefaultsAndAnswersTheUsersWords)
+{
+    const auto model = tessarinModel();
+    ASSERT_TRUE(model);
+    EXPECT_EQ(model->value(q("PageSize")), q("4x6"));
+    EXPECT_EQ(model->optionText(q("PaperFeed")), q("Paper Feed"));
+    EXPECT_EQ(model->choiceText(q("Resolution"), q("610dpi")), q("610 dpi"));
+    EXPECT_EQ(model->choiceText(q("Resolution"), q("77dpi")), q("77dpi"));
+    EXPECT_EQ(model->resolution(), 300);
+    EXPECT_TRUE(model->kept().isEmpty());
+}
+
+TEST(PpdModel, AResolverChangesTheOtherOptionAndSaysSo)
+{
+    const auto model = tessarinModel();
+    ASSERT_TRUE(model->change(q("TwoSided"), q("LongEdge")).accepted);
+    const ChangeResult result = model->change(q("PaperFeed"), q("Roll"));
+    ASSERT_TRUE(result.accepted) << qPrintable(result.refusal);
+    EXPECT_TRUE(asTexts(result.sideChanges).contains(q("TwoSided=None")));
+    EXPECT_EQ(model->value(q("TwoSided")), q("None"));
+    EXPECT_EQ(model->value(q("PaperFeed")), q("Roll"));
+    EXPECT_EQ(model->value(q("PageSize")), q("4x6")) << "what has nothing to do with it stays";
+    for (const SideChange& change : result.sideChanges)
+        EXPECT_FALSE(change.optionText.isEmpty() || change.choiceText.isEmpty());
+}
+
+TEST(PpdModel, RefusesAClashWithoutResolverNamingBothSidesAndChangesNothing)
+{
+    const auto model = modelOf(smallPpd());
+    ASSERT_TRUE(model);
+    ASSERT_TRUE(model->change(q("Sides"), q("Both")).accepted);
+    const QMap<QString, QString> before = model->values();
+    const ChangeResult result = model->change(q("Feed"), q("Roll"));
+    EXPECT_FALSE(result.accepted);
+    for (const char* word : {"Feed title", "Paper roll", "Sides title", "Both sides"})
+        EXPECT_TRUE(result.refusal.contains(q(word))) << word << " in: " << qPrintable(result.refusal);
+    EXPECT_EQ(model->values(), before);
+    EXPECT_TRUE(ppd::markedChoice(model->file(), q("Feed"))->keyword == q("Sheet"));
+}
+
+TEST(PpdModel, AClashThatWasThereBeforeDoesNotBlockUnrelatedChoices)
+{
+    const auto model = modelOf(smallPpd());
+    model->restore({{q("Feed"), q("Roll")}, {q("Sides"), q("Both")}});
+    const ChangeResult result = model->change(q("PageSize"), q("A4"));
+    EXPECT_TRUE(result.accepted) << qPrintable(result.refusal);
+    EXPECT_TRUE(result.sideChanges.isEmpty());
+    EXPECT_EQ(model->value(q("Sides")), q("Both"));
+}
+
+TEST(PpdModel, OldStyleConstraintsBiteToo)
+{
+    const auto model =
+        modelOf(ppdHeader() + ppdOption("Feed", {"Sheet", "Roll"}) + ppdOption("Sides", {"One", "Both"}) +
+                "*UIConstraints: *Feed Roll *Sides Both\n" + "*UIConstraints: *Sides Both *Feed Roll\n");
+    ASSERT_TRUE(model->change(q("Feed"), q("Roll")).accepted);
+    EXPECT_FALSE(model->change(q("Sides"), q("Both")).accepted);
+}
+
+TEST(PpdModel, CustomValuesAreKeptWithinTheirLimitsAndLeaveNoMark)
+{
+    const auto model = tessarinModel();
+    const QString intensity = q("SharpnessIntensity");
+    ASSERT_TRUE(model->change(intensity, q("1.24")).accepted);
+    EXPECT_EQ(model->value(intensity), q("1.24"));
+    EXPECT_FALSE(ppd::markedChoice(model->file(), intensity)) << "no mark, not even \"Custom\"";
+    const ChangeResult tooMuch = model->change(intensity, q("5.01"));
+    EXPECT_FALSE(tooMuch.accepted);
+    EXPECT_TRUE(tooMuch.refusal.contains(q("Intensity")) && tooMuch.refusal.contains(q("5")));
+    for (const char* bad : {"-0.1", "abc", "", "1,5", "Custom", "1.24 ", "nan", "inf"})
+        EXPECT_FALSE(model->change(intensity, q(bad)).accepted) << bad;
+    EXPECT_EQ(model->value(intensity), q("1.24"));
+    ASSERT_TRUE(model->change(intensity, q("Custom.2.5")).accepted);
+    EXPECT_EQ(model->value(intensity), q("2.5"));
+    ASSERT_TRUE(model->change(q("SharpnessRadius"), 7).accepted) << "a number, as panels may hold it";
+    EXPECT_FALSE(model->change(q("SharpnessRadius"), q("7.5")).accepted) << "a whole number is asked for";
+}
+
+TEST(PpdModel, AListedChoiceReplacesAKeptValue)
+{
+    const auto model = tessarinModel();
+    const QString intensity = q("SharpnessIntensity");
+    model->change(intensity, q("1.24"));
+    ASSERT_TRUE(model->change(intensity, q("1.00")).accepted) << "also when it is the default";
+    EXPECT_FALSE(model->isKept(intensity));
+    EXPECT_EQ(ppd::markedChoice(model->file(), intensity)->keyword, q("1.00"));
+}
+
+TEST(PpdModel, WhatThePpdDoesNotKnowIsKept)
+{
+    const auto model = tessarinModel();
+    ASSERT_TRUE(model->change(q("CVP1"), q("true")).accepted);
+    ASSERT_TRUE(model->change(q("PaperTone"), q("Midnight")).accepted);
+    EXPECT_EQ(model->value(q("CVP1")), q("true"));
+    EXPECT_EQ(model->values().value(q("PaperTone")), q("Midnight"));
+    EXPECT_FALSE(ppd::markedChoice(model->file(), q("PaperTone")));
+    EXPECT_FALSE(model->change(q("CVP1"), QVariant()).accepted) << "nothing is no value";
+    EXPECT_FALSE(model->change(QString(), q("x")).accepted);
+}
+
+TEST(PpdModel, PageSizesThatThePrinterCannotTakeAreRefused)
+{
+    const auto model = tessarinModel();
+    EXPECT_FALSE(model->change(q("PageSize"), q("Tabloid")).accepted);
+    EXPECT_FALSE(model->change(q("PageSize"), q("Custom.20x20")).accepted);
+    ASSERT_TRUE(model->change(q("PageSize"), q("Custom.300x500")).accepted);
+    EXPECT_EQ(model->sheet().paper, QSizeF(300, 500));
+    ASSERT_TRUE(model->change(q("PageSize"), q("A4")).accepted);
+    EXPECT_NEAR(model->sheet().paper.height(), 841.89, 0.01);
+}
+
+TEST(PpdModel, SheetsHaveTheirImageableAreaFromTheTopLeft)
+{
+    const auto model = modelOf(ppdHeader().replace("\"9 9 586 833\"", "\"10 20 580 812\""));
+    ASSERT_TRUE(model);
+    EXPECT_EQ(model->sheet().imageable, QRectF(10, 30, 570, 792));
+    const auto tessarin = tessarinModel();
+    ASSERT_TRUE(tessarin->change(q("PageSize"), q("4x6.Fullbleed")).accepted);
+    EXPECT_EQ(tessarin->sheet().imageable, QRectF(0, 0, 288, 432)) << "borderless";
+}
+
+TEST(PpdModel, SavedOptionsAreAppliedInOrderAndTheBadOnesNamed)
+{
+    const auto model = tessarinModel();
+    const QStringList refusals = model->apply(
+        {{q("PaperTone"), q("Warm")}, {q("SharpnessIntensity"), q("99")}, {q("Resolution"), q("610dpi")}});
+    ASSERT_EQ(refusals.size(), 1);
+    EXPECT_TRUE(refusals.front().contains(q("Intensity")));
+    EXPECT_EQ(model->value(q("PaperTone")), q("Warm"));
+    EXPECT_EQ(model->resolution(), 610);
+}
+
+TEST(PpdModel, RestoringUndoesAResolversWork)
+{
+    const auto model = tessarinModel();
+    model->change(q("TwoSided"), q("LongEdge"));
+    model->change(q("SharpnessIntensity"), q("1.24"));
+    const QMap<QString, QString> before = model->values();
+    model->change(q("PaperFeed"), q("Roll"));
+    ASSERT_NE(model->values(), before);
+    model->restore(before);
+    EXPECT_EQ(model->values(), before);
+}
+
+} // namespace halvern
