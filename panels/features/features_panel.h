@@ -3,11 +3,15 @@
 #include "panel_base/base_panel.h"
 #include "panels/features/paper_index.h"
 
+#include <QDateTime>
+
 class QGroupBox;
 class QProgressBar;
 
 namespace halvern {
 
+class RunLoopTimer;
+struct DistributedNotification;
 struct Notification;
 
 /// Paper, feed, resolution, tone, binding and two-sided printing. Shows the papers that the printer reports
@@ -133,6 +137,62 @@ public:
     /// refuses.
     virtual bool setDuplexEnabled(bool enabled);
 
+    // The refresh of the printer's data. A check runs on a queue of its own: what the printer said last is
+    // shown, and if that is stale, a command job asks the printer again. Its end calls one of the two hooks,
+    // and no further check follows until the panel is shown again. A job that was never sent leaves the panel
+    // waiting until it is hidden, closed or unloaded.
+
+    /// startPPDUpdateTimer: starts the repeating check, the first one at once, unless it is started already.
+    /// Main thread only.
+    virtual void startPPDUpdateTimer();
+    virtual void ppdUpdateTimerDidFire();
+
+    /// waitForUpdatePPD: starts one check, unless the panel is waiting for the printer.
+    virtual void waitForUpdatePPD();
+
+    /// lastUpdateDate: when the printer's data were last updated, nothing if never; shows it in the status
+    /// line. Blocks on the CUPS server. Any thread.
+    virtual std::optional<QDateTime> lastUpdateDate();
+    virtual void pdelastRefreshTimeUpdateWithDate(const std::optional<QDateTime>& date);
+
+    /// ppdDataIsStale: calls lastUpdateDate. Any thread.
+    virtual bool ppdDataIsStale();
+
+    /// progressIndicator: a direct child of the view, null if there is none.
+    virtual QProgressBar* progressIndicator();
+
+    /// updatePaperDict: takes the catalogue from a fresh PPD. An empty or corrupt one changes nothing. Any
+    /// thread.
+    virtual void updatePaperDict();
+
+    /// The hooks of the job's end, on the watcher's queue.
+    void ppdDidUpdate() override;
+    void ppdUpdateDidAbort() override;
+    using KSTRVLBasePDEHalvern::ppdUpdateDidAbort;
+
+    /// stopUpdateCycle: no further checks; the waiting ends on the main thread. Any thread.
+    virtual void stopUpdateCycle();
+
+    virtual void newPaperDict(const DistributedNotification& notification);
+    virtual void printInfoDidChange(const DistributedNotification& notification);
+    virtual void shouldUnload(const Notification& notification);
+
+    /// Whether a refresh is outstanding. Any thread.
+    bool isWaitingOnPaper() const { return _waitingOnPaper; }
+
+    /// Seams that do nothing.
+    virtual void newPrinterInfo(const DistributedNotification&) {}
+
+    virtual void startPaperUpdating() {}
+
+    virtual void waitForHalvernPaper(QWidget*) {}
+
+    /// logfile: where a log of this user's would lie. Nothing writes it.
+    virtual QString logfile();
+
+    /// noteLog: traces a notification, except the windowing system's own. Nothing registers it.
+    virtual void noteLog(const Notification& notification);
+
 private:
     void logEnteredSelf(const char* operation) const;
     bool isFeedSheet() const;
@@ -149,6 +209,7 @@ private:
     void fillWidthMenu(bool hasNames);
     void showStoredFeed();
     void showSurfaceLegend();
+    void takeStepperRanges();
 
     std::optional<QStringList> sheetResolutions();
     bool findRollResolutions(std::optional<QStringList>& titles);
@@ -159,7 +220,13 @@ private:
     QString sortedPaperDescription() const;
     void selectBindingMargin(QComboBox* margins);
 
+    std::shared_ptr<RZFeaturesPDEHalvern> sharedSelf();
+    void registerNotifications();
+    void checkPrinterData();
+    void showStatusControl(bool shown);
+
     AtomicShared<const PaperCatalogue> paperDict;
+    AtomicShared<RunLoopTimer> ppdUpdateTimer;
     std::optional<PaperIndex> _sortedPaper;
     mutable std::optional<QString> sortedPaperText_;
     std::atomic<bool> _waitingOnPaper = false;

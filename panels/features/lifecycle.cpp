@@ -1,12 +1,15 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
 
+#include "platform/foundation/distributed_notification_center.h"
 #include "platform/foundation/log.h"
+#include "platform/foundation/run_loop_timer.h"
 #include "platform/printing/host_callback.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/stepper.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -46,11 +49,14 @@ bool RZFeaturesPDEHalvern::initWithCallback(const std::shared_ptr<HostCallback>&
         return false;
     logLine(QString::asprintf("initializing the printer features object with cb <HostCallback: %p>",
                               static_cast<const void*>(callback.get())));
+    registerNotifications();
     paperDict.set(nullptr);
     _sortedPaper.reset();
     sortedPaperText_.reset();
+    ppdUpdateTimer.set(nullptr);
     _waitingOnPaper = false;
     _firstRun = false;
+    startPPDUpdateTimer();
     restoreValuesAndReturnError(nullptr);
     return true;
 }
@@ -58,6 +64,10 @@ bool RZFeaturesPDEHalvern::initWithCallback(const std::shared_ptr<HostCallback>&
 void RZFeaturesPDEHalvern::dealloc()
 {
     logEnteredSelf("dealloc");
+    // Delayed requests hold the panel, so none is left by now.
+    DistributedNotificationCenter::defaultCenter().removeObserver(this);
+    if (const auto timer = ppdUpdateTimer.exchange(nullptr))
+        timer->invalidate();
     _sortedPaper.reset();
     sortedPaperText_.reset();
     paperDict.set(nullptr);
@@ -67,6 +77,7 @@ void RZFeaturesPDEHalvern::dealloc()
 void RZFeaturesPDEHalvern::willShow()
 {
     logEnteredSelf("willShow");
+    startPPDUpdateTimer();
     speakString(QStringLiteral("Choose the Tessarin paper and printing opp-shuns."));
     KSTRVLBasePDEHalvern::willShow();
 }
@@ -75,12 +86,14 @@ bool RZFeaturesPDEHalvern::shouldHide()
 {
     const QString name = className();
     logLine(QStringLiteral("entering %1 %2 ").arg(name, operationName("RZFeaturesPDEHalvern", "shouldHide")));
+    stopUpdateCycle();
     return KSTRVLBasePDEHalvern::shouldHide();
 }
 
 void RZFeaturesPDEHalvern::printWindowWillClose(bool printing)
 {
     logEnteredSelf("printWindowWillClose:");
+    stopUpdateCycle();
     KSTRVLBasePDEHalvern::printWindowWillClose(printing);
 }
 
@@ -95,9 +108,23 @@ QWidget* RZFeaturesPDEHalvern::panelView()
         control::setItemTag(resolutions, i, features::kResolutionTag);
     setAvailable(features::kToneTag, true, nullptr);
     // The menus enable no item by themselves: what the rules below say stands.
+    takeStepperRanges();
     showSurfaceLegend();
     updatePaperUI();
     return _panelView;
+}
+
+// A stepper goes no further than what the printer takes.
+void RZFeaturesPDEHalvern::takeStepperRanges()
+{
+    for (const int tag : {features::kOverspillStepperTag, features::kBindingWidthStepperTag}) {
+        auto* stepper = qobject_cast<Stepper*>(view_controlForTag(nullptr, tag));
+        const auto range = ppd::customRange(ppd, ppdOptionKeyForTag(tag).value_or(QString()));
+        if (!stepper || !range)
+            continue;
+        stepper->setMinimumValue(range->minimum);
+        stepper->setMaximumValue(range->maximum);
+    }
 }
 
 // The surface buttons show codes; what they mean is the PPD's to say.

@@ -61,17 +61,14 @@ TEST_F(BindingRules, ARollHasNoBackSide)
 
 TEST_F(BindingRules, TheDuplexUnitIsLookedForInTheFreshPpd)
 {
-    const QList<QPair<QString, bool>> cases{{QStringLiteral("TRUE"), true},
-                                            {QStringLiteral("true"), true},
-                                            {QStringLiteral("Yes"), false},
-                                            {QStringLiteral("True "), false},
-                                            {QStringLiteral(""), false}};
+    const QList<QPair<const char*, bool>> cases{
+        {"TRUE", true}, {"true", true}, {"Yes", false}, {"True ", false}, {"", false}};
     for (const auto& [value, available] : cases) {
-        FeaturesPanelWithPrinter::attributes().insert(QStringLiteral("VLXDuplex"), value);
+        TestPrinter::say("VLXDuplex", value);
         panel->setDuplexAvailable();
-        EXPECT_EQ(isAvailable(kTwoSidedTag), available) << qPrintable(value);
+        EXPECT_EQ(isAvailable(kTwoSidedTag), available) << value;
     }
-    FeaturesPanelWithPrinter::attributes().remove(QStringLiteral("VLXDuplex"));
+    TestPrinter::say("VLXDuplex", nullptr);
     EXPECT_FALSE(panel->hardwareSupportsDuplex());
 }
 

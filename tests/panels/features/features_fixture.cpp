@@ -4,7 +4,12 @@
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
 
+#include <QApplication>
+#include <QHash>
+#include <QMutex>
 #include <QRadioButton>
+#include <QThread>
+#include <QWaitCondition>
 
 namespace halvern {
 
@@ -51,28 +56,128 @@ PaperCatalogue catalogueOf(const QList<QVariantMap>& records)
     return catalogue;
 }
 
-QHash<QString, QString>& FeaturesPanelWithPrinter::attributes()
+namespace {
+
+struct PrinterState {
+    QMutex mutex;
+    QWaitCondition changed;
+    QHash<QString, QString> attributes;
+    QByteArray archive;
+    QStringList commands;
+    bool holding = false;
+    int held = 0;
+};
+
+PrinterState& printerState()
 {
-    static QHash<QString, QString> values;
-    return values;
+    static PrinterState state;
+    return state;
+}
+
+} // namespace
+
+void TestPrinter::reset()
+{
+    goOn();
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().attributes = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
+                                 {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
+    printerState().archive.clear();
+    printerState().commands.clear();
+}
+
+void TestPrinter::say(const char* attribute, const char* value)
+{
+    const QMutexLocker lock(&printerState().mutex);
+    if (value)
+        printerState().attributes.insert(QString::fromLatin1(attribute), QString::fromUtf8(value));
+    else
+        printerState().attributes.remove(QString::fromLatin1(attribute));
+}
+
+std::optional<QString> TestPrinter::attribute(const QString& keyword)
+{
+    PrinterState& state = printerState();
+    const QMutexLocker lock(&state.mutex);
+    ++state.held;
+    while (state.holding && QThread::currentThread() != qApp->thread())
+        state.changed.wait(&state.mutex);
+    --state.held;
+    const auto found = state.attributes.constFind(keyword);
+    return found == state.attributes.constEnd() ? std::nullopt : std::optional<QString>(*found);
+}
+
+void TestPrinter::load(const QByteArray& archive)
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().archive = archive;
+}
+
+QByteArray TestPrinter::loaded()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    return printerState().archive;
+}
+
+void TestPrinter::take(const QStringList& commands)
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().commands.append(commands.join(u','));
+}
+
+QStringList TestPrinter::taken()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    return printerState().commands;
+}
+
+void TestPrinter::hold()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().holding = true;
+}
+
+void TestPrinter::goOn()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().holding = false;
+    printerState().changed.wakeAll();
+}
+
+bool TestPrinter::isSomebodyHeld()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    return printerState().held > 0;
 }
 
 std::optional<QString> FeaturesPanelWithPrinter::ppdValueForAttribute(const QString& attribute)
 {
-    const auto found = attributes().constFind(attribute);
-    return found == attributes().constEnd() ? std::nullopt : std::optional<QString>(*found);
+    return TestPrinter::attribute(attribute);
+}
+
+std::optional<QByteArray> FeaturesPanelWithPrinter::ppdSavedDataForAttribute(const QString&)
+{
+    return TestPrinter::loaded();
+}
+
+void FeaturesPanelWithPrinter::sendPrinterCommands(const QStringList& commands)
+{
+    TestPrinter::take(commands);
 }
 
 void FeaturesPanelTest::SetUp()
 {
     useBuiltBundle();
-    FeaturesPanelWithPrinter::attributes() = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
-                                              {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
+    TestPrinter::reset();
 }
 
 void FeaturesPanelTest::TearDown()
 {
+    TestPrinter::goOn();
+    const std::weak_ptr<FeaturesPanelWithPrinter> weak = panel;
     panel.reset();
+    // What the panel has queued still holds it.
+    EXPECT_TRUE(waitUntil([&] { return weak.expired(); }));
     drainMainQueue();
 }
 

@@ -6,7 +6,6 @@
 #include "tests/support/observers.h"
 
 #include <QComboBox>
-#include <QHash>
 #include <QLineEdit>
 
 #include <gtest/gtest.h>
@@ -26,16 +25,41 @@ QVariantMap rollRecord(int width, int surface, int dotsPerInch, uint tones = 0);
 /// Some records as a catalogue, under the keys that a printer would give them.
 PaperCatalogue catalogueOf(const QList<QVariantMap>& records);
 
-/// The panel with a printer of the test's making instead of one behind a server.
+/// A printer of the test's making: what it writes into its PPD, and what it is sent. One at a time, shared by
+/// all panels; any thread.
+class TestPrinter {
+public:
+    static void reset();
+
+    /// Sets an attribute; null takes it away.
+    static void say(const char* attribute, const char* value);
+    static std::optional<QString> attribute(const QString& keyword);
+
+    /// The catalogue's bytes in the PPD.
+    static void load(const QByteArray& archive);
+    static QByteArray loaded();
+
+    /// The command jobs' commands, joined by commas.
+    static void take(const QStringList& commands);
+    static QStringList taken();
+
+    /// Holds up the reading of attributes, but for the main thread's, until it is let go on.
+    static void hold();
+    static void goOn();
+    static bool isSomebodyHeld();
+};
+
+/// The panel with that printer instead of one behind a server.
 class FeaturesPanelWithPrinter : public RZFeaturesPDEHalvern {
 public:
     std::optional<QString> ppdValueForAttribute(const QString& attribute) override;
-
-    /// The printer's attributes, the same for all panels of a test.
-    static QHash<QString, QString>& attributes();
+    std::optional<QByteArray> ppdSavedDataForAttribute(const QString& attribute) override;
+    void sendPrinterCommands(const QStringList& commands) override;
 
     // What the rules work on, for the tests to look at and to set.
     QVariant choice(const char* key) const { return storedChoice(QString::fromLatin1(key)); }
+
+    bool isUnloading() const { return pdePluginDidUnload; }
 
     void store(const char* key, const char* value)
     {
@@ -49,7 +73,7 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Makes the host and the panel; attributes set before are the printer's.
+    /// Makes the host and the panel.
     void make(const QByteArray& ppd = featuresPpd());
 
     /// Loads the view and hands the panel a catalogue as the refresh does.

@@ -268,7 +268,7 @@ TEST_F(PaperRules, RunWithoutAView)
 TEST_F(PaperRules, RefuseTheSheetByValueUnderAnyKey)
 {
     show(catalogueOf(kSheets + kRolls));
-    FeaturesPanelWithPrinter::attributes().remove(QStringLiteral("VLXExtraFeatures"));
+    TestPrinter::say("VLXExtraFeatures", nullptr);
     const LogCapture log;
     panel->store("PaperTone", "Sheet");
     EXPECT_EQ(choice("PaperTone"), QStringLiteral("Standard"));
@@ -283,7 +283,7 @@ TEST_F(PaperRules, RefuseTheSheetByValueUnderAnyKey)
 TEST_F(PaperRules, EndWhenTheHostRefusesTheRollTooAndKeepsTheSheet)
 {
     show(catalogueOf(kSheets + kRolls));
-    FeaturesPanelWithPrinter::attributes().remove(QStringLiteral("VLXExtraFeatures"));
+    TestPrinter::say("VLXExtraFeatures", nullptr);
     host->refusedKeys.insert(QStringLiteral("PaperFeed"));
     const LogCapture log;
     panel->store("PaperFeed", "Sheet");
