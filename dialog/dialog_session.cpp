@@ -91,7 +91,7 @@ void DialogSession::selectPrinter(const QString& name)
     stopFetching_ = cups::makeCancelFlag();
     Q_EMIT printerSelected(name);
     const PrinterInfo* info = printers_->find(name);
-    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri.toString() : QString();
+    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
     QPointer<DialogSession> self(this);
     WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
         QueuePpd ppd;
@@ -129,7 +129,7 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
     const PrinterInfo* info = printers_->find(name);
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QUrl()));
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QString()));
     applyOptions();
     loadPanels();
     Q_EMIT printerReady();

@@ -89,6 +89,9 @@ public:
 
     // Diagnostics. Built, silent and never called by the system itself.
 
+    /// initialize: does nothing.
+    virtual void initialize() {}
+
     /// speaker: the process's shared synthesizer, made on first use and never released.
     virtual SpeechSynthesizer* speaker();
 
@@ -100,7 +103,8 @@ public:
 
     // PPD access. The fresh-PPD operations block on the CUPS server and may run on any thread.
 
-    /// printerDeviceURI: "null://" while the printer or its URI cannot be had; once had, it is kept.
+    /// printerDeviceURI: "null://" while the printer or its URI cannot be had; once had, it is kept. Any
+    /// thread.
     virtual QString printerDeviceURI();
 
     /// destinationName: the CUPS queue of the host's printer. Any thread.
@@ -195,6 +199,9 @@ public:
     virtual void incrementControl(QWidget* button);
     virtual void decrementControl(QWidget* button);
 
+    /// sendUICommand: the action of a control that acts on the view itself. A hook for panels.
+    virtual void sendUICommand(QWidget* sender);
+
     /// The text-field delegate's operations; `field` is the notification's object.
     virtual void controlTextDidChange(QLineEdit* field);
     virtual void controlTextDidEndEditing(QLineEdit* field);
@@ -233,7 +240,7 @@ protected:
     bool useConstraintHandling = false;
     bool waitForCommandCompletion = false;
     std::atomic<bool> pdePluginDidUnload = false;
-    std::optional<QString> deviceURI;
+    AtomicShared<const QString> deviceURI;
     ppd_file_t* ppd = nullptr;
     QProcess* task = nullptr;
     QIODevice* streamIN = nullptr;

@@ -36,7 +36,8 @@ QWidget* KSTRVLBasePDEHalvern::view_controlForTag(QWidget* view, int tag)
 
 QWidget* KSTRVLBasePDEHalvern::controlBeside(QWidget* control, int tag)
 {
-    return control && control->parentWidget() ? view_controlForTag(control->parentWidget(), tag) : nullptr;
+    // A control without a parent stands in the panel's own view.
+    return control ? view_controlForTag(control->parentWidget(), tag) : nullptr;
 }
 
 bool KSTRVLBasePDEHalvern::isControlSupportedForTag(int)
@@ -184,6 +185,8 @@ void KSTRVLBasePDEHalvern::decrementControl(QWidget* button)
 {
     stepControl(button, tags::kDecrement, -1);
 }
+
+void KSTRVLBasePDEHalvern::sendUICommand(QWidget*) {}
 
 void KSTRVLBasePDEHalvern::controlTextDidChange(QLineEdit* field)
 {

@@ -35,6 +35,7 @@ constexpr Action kActions[] = {
     {QLatin1StringView("changePrinterSetting:"), &KSTRVLBasePDEHalvern::changePrinterSetting},
     {QLatin1StringView("incrementControl:"), &KSTRVLBasePDEHalvern::incrementControl},
     {QLatin1StringView("decrementControl:"), &KSTRVLBasePDEHalvern::decrementControl},
+    {QLatin1StringView("sendUICommand:"), &KSTRVLBasePDEHalvern::sendUICommand},
 };
 
 } // namespace
@@ -100,7 +101,8 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
 {
     QObject::connect(field, &QLineEdit::textEdited, field, [weak = weak_from_this(), field] {
         field->setProperty(kEdited, true);
-        if (const auto self = weak.lock())
+        const auto self = weak.lock();
+        if (self && field->property(kDelegate).toBool())
             self->controlTextDidChange(field);
     });
     // Return sends this and losing the focus sends it again: what was not edited since does not end editing
@@ -110,8 +112,10 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
         if (!self || !field->property(kEdited).toBool())
             return;
         field->setProperty(kEdited, false);
-        self->controlTextDidEndEditing(field);
-        if (field->hasFocus())
+        // A field whose keystrokes were proposed has nothing left to send.
+        if (field->property(kDelegate).toBool())
+            self->controlTextDidEndEditing(field);
+        else
             self->sendAction(field);
     });
 }

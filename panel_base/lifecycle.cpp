@@ -54,7 +54,7 @@ bool KSTRVLBasePDEHalvern::initWithCallback(const std::shared_ptr<HostCallback>&
     streamIN = nullptr;
     streamERR = nullptr;
     task = nullptr;
-    deviceURI.reset();
+    deviceURI.set(nullptr);
     pdeUnloadSemaphore.set(nullptr);
     pdePluginCallbackObject = callback;
     // The vtable of the object's own class lies in the module that defines it.
@@ -86,7 +86,7 @@ void KSTRVLBasePDEHalvern::dealloc()
     thePDEName.reset();
     choiceDict.reset();
     cachedSupportedPPDOptionKeys.reset();
-    deviceURI.reset();
+    deviceURI.set(nullptr);
 }
 
 void KSTRVLBasePDEHalvern::willShow()
@@ -133,6 +133,8 @@ void KSTRVLBasePDEHalvern::loadPanelView()
     }
     wireControlsInView(view.get());
     setPanelView(view.release());
+    if (!_panelView)
+        return;
     populateMenuObjectsInView(_panelView);
     localizeStringsInView_andSubviews_resizeTofit(_panelView, true, false);
     enableTextFieldsForEditingInView(_panelView);

@@ -45,9 +45,12 @@ bool KSTRVLBasePDEHalvern::localizeOwnText(QWidget* view) const
     // A pop-up button's title is its selected item's; its items are what has texts.
     if (auto* popup = qobject_cast<QComboBox*>(view)) {
         bool changed = false;
-        for (int i = 0; i < popup->count(); ++i)
-            changed |= replaceByLocalized(popup->itemText(i),
-                                          [=](const QString& text) { popup->setItemText(i, text); });
+        for (int i = 0; i < popup->count(); ++i) {
+            // Items with a represented object were titled when the menu was filled.
+            if (!popup->itemData(i).isValid())
+                changed |= replaceByLocalized(popup->itemText(i),
+                                              [=](const QString& text) { popup->setItemText(i, text); });
+        }
         return changed;
     }
     if (const auto title = control::title(view))
@@ -63,6 +66,8 @@ bool KSTRVLBasePDEHalvern::localizeOwnText(QWidget* view) const
 bool KSTRVLBasePDEHalvern::localizeStringsInView_andSubviews_resizeTofit(QWidget* view, bool recurse,
                                                                          bool resize)
 {
+    if (!view)
+        return false;
     bool changed = false;
     if (recurse) {
         // What the last child answers, not whether any child changed.

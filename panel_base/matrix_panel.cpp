@@ -8,8 +8,8 @@ namespace halvern {
 QVariant KSTRVLMatrixPDEHalvern::newChoiceForSender(QWidget* sender)
 {
     const auto* matrix = qobject_cast<Matrix*>(sender);
-    const std::optional<int> tag = matrix ? matrix->selectedTag() : control::tagOf(sender);
-    return tag ? ppdChoiceForTag(*tag) : QVariant();
+    const std::optional<int> selected = matrix ? matrix->selectedTag() : std::nullopt;
+    return ppdChoiceForTag(selected.value_or(control::tagOf(sender)));
 }
 
 void KSTRVLMatrixPDEHalvern::updateControl_withValue(QWidget* control, const QVariant& value)

@@ -6,21 +6,20 @@
 #include "platform/printing/printer.h"
 
 #include <QFile>
-#include <QUrl>
 #include <QWidget>
 
 namespace halvern {
 
 QString KSTRVLBasePDEHalvern::printerDeviceURI()
 {
-    if (deviceURI)
-        return *deviceURI;
+    if (const auto known = deviceURI.get())
+        return *known;
     const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->pmPrinter() : nullptr;
-    const std::optional<QUrl> url = printer ? printer->copyDeviceURI() : std::nullopt;
-    if (!url)
+    const std::optional<QString> uri = printer ? printer->copyDeviceURI() : std::nullopt;
+    if (!uri)
         return QStringLiteral("null://");
-    deviceURI = url->toString(QUrl::FullyEncoded);
-    return *deviceURI;
+    deviceURI.set(std::make_shared<const QString>(*uri));
+    return *uri;
 }
 
 std::optional<QString> KSTRVLBasePDEHalvern::destinationName()

@@ -3,6 +3,7 @@
 #include "printer/cancellation.h"
 #include "printer/virtual_printer.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <cups/backend.h>
@@ -15,12 +16,6 @@ std::string environment(const char* name)
 {
     const char* value = std::getenv(name);
     return value == nullptr ? "" : value;
-}
-
-int refuse(const std::string& why)
-{
-    std::fprintf(stderr, "ERROR: %s\n", why.c_str());
-    return CUPS_BACKEND_STOP;
 }
 
 } // namespace
@@ -36,18 +31,22 @@ int main(int argc, char** argv)
         std::fputs("usage: halvern job user title copies options [file]\n", stderr);
         return CUPS_BACKEND_FAILED;
     }
+    const int fd = argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
+    halvern::cancellation::install();
+    if (fd < 0)
+        return halvern::giveUp(fd,
+                               std::string("The print file cannot be opened: ") + std::strerror(errno) + ".",
+                               CUPS_BACKEND_STOP);
     const bool commands = environment("CONTENT_TYPE") == "application/vnd.cups-command";
     std::string error;
     const auto plan = halvern::parseFaultPlan(environment("DEVICE_URI"), commands, error);
     if (!plan)
-        return refuse(error);
+        return halvern::giveUp(fd, error, CUPS_BACKEND_STOP);
     const std::string jobs = environment("HALVERN_JOBS_DIR");
     if (jobs.empty() || jobs.front() != '/')
-        return refuse(
-            "HALVERN_JOBS_DIR is not set: start the server with private-cups, or pass the variable to it.");
-    const int fd = argc == 7 ? ::open(argv[6], O_RDONLY | O_CLOEXEC) : STDIN_FILENO;
-    if (fd < 0)
-        return refuse(std::string("The print file cannot be opened: ") + std::strerror(errno) + ".");
-    halvern::cancellation::install();
-    return halvern::VirtualPrinter({argv[1], argv[2], argv[3], argv[4], commands}, *plan, jobs).run(fd);
+        return halvern::giveUp(
+            fd,
+            "HALVERN_JOBS_DIR is not set: start the server with private-cups, or pass the variable to it.",
+            CUPS_BACKEND_STOP);
+    return halvern::VirtualPrinter({argv[1], argv[2], argv[3], argv[4], commands}, *plan, jobs, fd).run();
 }

@@ -43,7 +43,7 @@ void JobFolder::removeOldFiles()
     std::error_code ignored;
     for (const auto& entry : fs::directory_iterator(folder_, ignored)) {
         const std::string name = entry.path().filename();
-        if (name.starts_with("page-") || name == "options.txt" || name == "command")
+        if (name != "log.txt")
             fs::remove(entry.path(), ignored);
     }
 }
@@ -63,14 +63,20 @@ bool JobFolder::writeCommand(const std::string& file)
     return write("command", file);
 }
 
+// Who waits for the file sees the whole of it or nothing.
 bool JobFolder::write(const char* name, const std::string& content)
 {
-    std::ofstream file(folder_ / name, std::ios::binary);
+    const fs::path whole = folder_ / name;
+    const fs::path part = whole.string() + ".part";
+    std::ofstream file(part, std::ios::binary);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     file.close();
-    if (file.fail())
-        error_ = "The file " + (folder_ / name).string() + " cannot be written.";
-    return !file.fail();
+    std::error_code failure;
+    if (!file.fail())
+        fs::rename(part, whole, failure);
+    if (file.fail() || failure)
+        error_ = "The file " + whole.string() + " cannot be written.";
+    return !file.fail() && !failure;
 }
 
 void JobFolder::log(std::string_view text)

@@ -6,7 +6,8 @@ namespace halvern {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\n\r\v\f";
+// The blanks that the server escapes within values; other ones are bytes of a value.
+constexpr std::string_view kBlanks = " \t\n";
 
 bool isBlank(char c)
 {

@@ -3,8 +3,10 @@
 #include "printer/cancellation.h"
 #include "printer/png_page.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cups/backend.h>
+#include <unistd.h>
 
 namespace halvern {
 
@@ -30,73 +32,78 @@ std::string pageName(const PageHeader& page)
 
 } // namespace
 
-VirtualPrinter::VirtualPrinter(Job job, FaultPlan plan, std::string jobsDir)
-    : job_(std::move(job)), plan_(std::move(plan)), folder_(jobsDir, job_.id)
+int giveUp(int fd, const std::string& why, int status)
+{
+    std::vector<char> buffer(size_t{64} * 1024);
+    while (fd >= 0 && cancellation::waitReadable(fd) && ::read(fd, buffer.data(), buffer.size()) > 0) {
+    }
+    tell("ERROR", why);
+    return status;
+}
+
+VirtualPrinter::VirtualPrinter(Job job, FaultPlan plan, const std::string& jobsDir, int fd)
+    : job_(std::move(job)), plan_(std::move(plan)), folder_(jobsDir, job_.id), fd_(fd), in_(fd)
 {
 }
 
-int VirtualPrinter::run(int fd)
+int VirtualPrinter::run()
 {
     if (!folder_.error().empty())
         return unusable(folder_.error());
     folder_.log("job " + job_.id + " from " + job_.user + ": \"" + job_.title + "\", copies " + job_.copies);
     // What an earlier job complained about has been seen to.
     tell("STATE", "-offline-report," + plan_.reason);
-    if (const int status = waitForPrinter(); status != CUPS_BACKEND_OK)
-        return status;
+    if (plan_.offlineSeconds > 0.0 && !waitForPrinter())
+        return cancelled();
     if (plan_.reject) {
-        tell("ERROR", "The printer refuses this job.");
         folder_.log("refused");
-        return CUPS_BACKEND_CANCEL;
+        return giveUp(fd_, "The printer refuses this job.", CUPS_BACKEND_CANCEL);
     }
     if (plan_.hold) {
-        tell("ERROR", "The printer asks to hold this job until someone releases it.");
         folder_.log("held");
-        return CUPS_BACKEND_HOLD;
+        return giveUp(fd_, "The printer asks to hold this job until someone releases it.", CUPS_BACKEND_HOLD);
     }
-    PageStreamReader in(fd);
-    return receive(in);
+    return receive();
 }
 
-int VirtualPrinter::waitForPrinter()
+// False if the job was cancelled meanwhile.
+bool VirtualPrinter::waitForPrinter()
 {
-    if (plan_.offlineSeconds <= 0.0)
-        return CUPS_BACKEND_OK;
+    constexpr double kMessageSeconds = 1.0;
     tell("STATE", "+offline-report");
-    tell("INFO", "The printer is offline.");
     folder_.log("offline");
-    const bool forever = std::isinf(plan_.offlineSeconds);
-    const auto time =
-        std::chrono::milliseconds(std::llround(forever ? 1000.0 : plan_.offlineSeconds * 1000.0));
-    do {
-        if (!cancellation::pause(time))
-            return cancelled();
-    } while (forever);
+    for (double left = plan_.offlineSeconds; left > 0.0; left -= kMessageSeconds) {
+        // Again and again: the filters have messages, too.
+        tell("INFO", "The printer is offline.");
+        const double step = std::min(left, kMessageSeconds);
+        if (!cancellation::pause(std::chrono::milliseconds(std::llround(step * 1000.0))))
+            return false;
+    }
     tell("STATE", "-offline-report");
     tell("INFO", "The printer is online again.");
     folder_.log("online");
-    return CUPS_BACKEND_OK;
+    return true;
 }
 
-int VirtualPrinter::receive(PageStreamReader& in)
+int VirtualPrinter::receive()
 {
-    while (auto item = in.next()) {
+    while (auto item = in_.next()) {
         int status = CUPS_BACKEND_OK;
         if (auto* option = std::get_if<JobOption>(&*item))
             options_.push_back(std::move(*option));
         else if (const auto* command = std::get_if<StreamCommand>(&*item))
             status = keepCommand(command->file);
         else if (const auto* page = std::get_if<PageHeader>(&*item))
-            status = printPage(in, *page);
+            status = printPage(*page);
         else
             return finish();
         if (status != CUPS_BACKEND_OK)
             return status;
     }
-    return interrupted(in);
+    return interrupted();
 }
 
-int VirtualPrinter::printPage(PageStreamReader& in, const PageHeader& page)
+int VirtualPrinter::printPage(const PageHeader& page)
 {
     if (pages_ == 0 && !folder_.writeOptions(options_))
         return unusable(folder_.error());
@@ -107,8 +114,8 @@ int VirtualPrinter::printPage(PageStreamReader& in, const PageHeader& page)
     tell("INFO", "Printing " + pageName(page) + ".");
     int band = 0;
     for (uint32_t y = 0; y < page.height; ++y) {
-        if (!in.row(row))
-            return interrupted(in);
+        if (!in_.row(row))
+            return interrupted();
         if (!png.row(row))
             return unusable("A page cannot be written: " + png.error() + ".");
         if (int64_t{y + 1} * kBands < int64_t{band + 1} * page.height)
@@ -159,11 +166,11 @@ int VirtualPrinter::finish()
 int VirtualPrinter::breakDown(bool stop)
 {
     tell("STATE", "+" + plan_.reason);
-    tell("ERROR", stop ? "The printer has stopped; see to it and start the queue again."
-                       : "The printer has failed to print this job.");
     folder_.log(std::string(stop ? "stopped" : "failed") + " after " + std::to_string(pages_) + " pages, " +
                 plan_.reason);
-    return stop ? CUPS_BACKEND_STOP : CUPS_BACKEND_FAILED;
+    return stop ? giveUp(fd_, "The printer has stopped; see to it and start the queue again.",
+                         CUPS_BACKEND_STOP)
+                : giveUp(fd_, "The printer has failed to print this job.", CUPS_BACKEND_FAILED);
 }
 
 int VirtualPrinter::cancelled()
@@ -173,20 +180,19 @@ int VirtualPrinter::cancelled()
     return CUPS_BACKEND_OK;
 }
 
-int VirtualPrinter::interrupted(PageStreamReader& in)
+int VirtualPrinter::interrupted()
 {
-    if (in.error().empty())
+    if (in_.error().empty())
         return cancelled();
     // The filter's own exit status tells CUPS; a failure of the back end as well would stop the queue.
-    tell("ERROR", "The job is incomplete: " + in.error() + ".");
-    folder_.log("incomplete: " + in.error());
+    tell("ERROR", "The job is incomplete: " + in_.error() + ".");
+    folder_.log("incomplete: " + in_.error());
     return CUPS_BACKEND_OK;
 }
 
 int VirtualPrinter::unusable(const std::string& why)
 {
-    tell("ERROR", why);
-    return CUPS_BACKEND_STOP;
+    return giveUp(fd_, why, CUPS_BACKEND_STOP);
 }
 
 } // namespace halvern

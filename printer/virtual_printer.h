@@ -9,6 +9,10 @@
 
 namespace halvern {
 
+/// Ends a job that is not printed: lets the filters write the rest of their data to `fd`, so that CUPS does
+/// not replace the message by one of theirs, says `why` and answers `status`.
+int giveUp(int fd, const std::string& why, int status);
+
 /// One run of the back end: receives a job's page stream and leaves it in the job's folder, telling CUPS what
 /// happens in the lines that back ends write to standard error. Main thread only; cancellation must be
 /// installed.
@@ -22,18 +26,19 @@ public:
         bool commands = false;
     };
 
-    VirtualPrinter(Job job, FaultPlan plan, std::string jobsDir);
+    /// `fd` has the page stream and stays the caller's.
+    VirtualPrinter(Job job, FaultPlan plan, const std::string& jobsDir, int fd);
 
-    /// Receives the stream from `fd`; answers the exit status for CUPS (a cups_backend_t).
-    int run(int fd);
+    /// Receives the stream; answers the exit status for CUPS (a cups_backend_t).
+    int run();
 
 private:
-    int waitForPrinter();
-    int receive(PageStreamReader& in);
-    int printPage(PageStreamReader& in, const PageHeader& page);
+    bool waitForPrinter();
+    int receive();
+    int printPage(const PageHeader& page);
     int keepCommand(const std::string& file);
     int finish();
-    int interrupted(PageStreamReader& in);
+    int interrupted();
     int breakDown(bool stop);
     int cancelled();
     int unusable(const std::string& why);
@@ -42,6 +47,8 @@ private:
     Job job_;
     FaultPlan plan_;
     JobFolder folder_;
+    int fd_;
+    PageStreamReader in_;
     JobOptions options_;
     int pages_ = 0;
     int pictures_ = 0;

@@ -37,7 +37,7 @@ public:
     /// the folder.
     std::optional<QString> executablePath() const;
 
-    /// objectForInfoDictionaryKey: a string, number, boolean, date, data, list or map; invalid if absent.
+    /// objectForInfoDictionaryKey: a string, number, boolean, list or map; invalid if absent.
     QVariant objectForInfoDictionaryKey(const QString& key) const;
 
     /// The path of a file under Resources/; nothing if there is no such file or the name leaves the folder.

@@ -27,8 +27,12 @@ std::optional<QString> stringWithUTSFormat(const QDateTime& date, const QString&
     icu::SimpleDateFormat format(toIcu(pattern), locale, status);
     if (U_FAILURE(status))
         return std::nullopt;
-    format.adoptTimeZone(
-        icu::TimeZone::createTimeZone(toIcu(QString::fromUtf8(QTimeZone::systemTimeZoneId()))));
+    icu::TimeZone* zone =
+        icu::TimeZone::createTimeZone(toIcu(QString::fromUtf8(QTimeZone::systemTimeZoneId())));
+    // A zone that only the C library understands: what it makes of this date will do.
+    if (*zone == icu::TimeZone::getUnknown())
+        zone->setRawOffset(date.toLocalTime().offsetFromUtc() * 1000);
+    format.adoptTimeZone(zone);
     icu::UnicodeString text;
     format.format(UDate(date.toMSecsSinceEpoch()), text);
     return QString::fromUtf16(text.getBuffer(), text.length());

@@ -8,7 +8,7 @@
 namespace halvern::KSTRVL_NSDateAdditions {
 
 /// stringWithUTSFormat: the date by a Unicode date pattern (UTS #35, such as "yyyy/MM/dd" or "h:mm a"), in
-/// the user's locale and time zone. Nothing if the pattern is malformed or the date is invalid. Any thread.
+/// the user's locale and time zone. Nothing if the pattern is refused or the date is invalid. Any thread.
 std::optional<QString> stringWithUTSFormat(const QDateTime& date, const QString& pattern);
 
 } // namespace halvern::KSTRVL_NSDateAdditions

@@ -3,7 +3,11 @@
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <limits>
+#include <string>
+
+#include <locale.h>
 
 namespace halvern {
 
@@ -56,7 +60,11 @@ double leadingDouble(QStringView text)
 {
     text = withoutLeadingSpace(text);
     const qsizetype length = numberLength(text);
-    return length == 0 ? 0.0 : text.left(length).toDouble();
+    if (length == 0)
+        return 0.0;
+    // A number beyond the range stays a number, and a very large one.
+    constexpr double largest = std::numeric_limits<double>::max();
+    return std::clamp(text.left(length).toDouble(), -largest, largest);
 }
 
 int leadingInteger(QStringView text)
@@ -76,8 +84,14 @@ int leadingInteger(QStringView text)
 
 QString formatDouble(const char* format, double number)
 {
-    // QString's own formatting always uses the C locale; the C library's follows the process's.
-    return QString::asprintf(format, number);
+    // The C library rounds exactly, which QString's formatting does not; the thread's locale makes sure of
+    // the point.
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+    const locale_t before = uselocale(cLocale);
+    std::string text(size_t(std::max(0, std::snprintf(nullptr, 0, format, number))) + 1, '\0');
+    std::snprintf(text.data(), text.size(), format, number);
+    uselocale(before);
+    return QString::fromLatin1(text.c_str());
 }
 
 QString shortestDouble(double number)

@@ -5,7 +5,7 @@
 
 namespace halvern {
 
-/// The user's preferences, kept in one settings file ("halvern/print.conf" in the user's configuration
+/// The user's preferences, kept in one settings file ("halvern/print.ini" in the user's configuration
 /// folder). Main thread only.
 class UserDefaults {
 public:

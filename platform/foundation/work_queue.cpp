@@ -1,25 +1,54 @@
 #include "platform/foundation/work_queue.h"
 
+#include "platform/foundation/log.h"
+
 #include <QCoreApplication>
 #include <QTimer>
 
 #include <deque>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
 namespace halvern {
 
+namespace {
+
+// Where the main thread's work is posted to. It lives for ever: a worker that nobody joins may post while the
+// application object is going.
+QObject* makeMainTarget()
+{
+    QObject* target = std::make_unique<QObject>().release();
+    if (const QCoreApplication* app = QCoreApplication::instance())
+        target->moveToThread(app->thread());
+    return target;
+}
+
+QObject* mainTarget()
+{
+    static QObject* const target = makeMainTarget();
+    return target;
+}
+
+void settleMainTarget()
+{
+    mainTarget();
+}
+
+Q_COREAPP_STARTUP_FUNCTION(settleMainTarget)
+
+} // namespace
+
 void MainQueue::async(std::function<void()> work) const
 {
-    if (QCoreApplication* app = QCoreApplication::instance())
-        QMetaObject::invokeMethod(app, std::move(work), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(mainTarget(), std::move(work), Qt::QueuedConnection);
 }
 
 void MainQueue::after(int milliseconds, std::function<void()> work) const
 {
     async([milliseconds, work = std::move(work)]() mutable {
-        QTimer::singleShot(milliseconds, QCoreApplication::instance(), std::move(work));
+        QTimer::singleShot(milliseconds, mainTarget(), std::move(work));
     });
 }
 
@@ -62,7 +91,14 @@ void WorkQueue::async(std::function<void()> work) const
     state_->work.push_back(std::move(work));
     if (std::exchange(state_->running, true))
         return;
-    std::thread([state = state_] { State::run(state); }).detach();
+    try {
+        std::thread([state = state_] { State::run(state); }).detach();
+    } catch (const std::system_error& error) {
+        state_->running = false;
+        state_->work.clear();
+        logLine(
+            QStringLiteral("no thread for background work: %1").arg(QString::fromLocal8Bit(error.what())));
+    }
 }
 
 } // namespace halvern

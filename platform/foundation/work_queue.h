@@ -6,8 +6,8 @@
 namespace halvern {
 
 /// Work for the main thread, run from its event loop in the order of submission. async() may be called from
-/// any thread and never blocks. Work that is still queued when the application object goes is dropped with
-/// its captures.
+/// any thread and never blocks. Work that is still queued when the event loop has ended for good never runs;
+/// what it captured stays.
 class MainQueue {
 public:
     void async(std::function<void()> work) const;
@@ -19,8 +19,9 @@ public:
 const MainQueue& mainQueue();
 
 /// An unlabelled serial queue: its work runs in order, on a thread of its own that exists while there is
-/// work. Letting go of the queue does not lose what was submitted. The thread is never joined, so one that is
-/// stuck in a system call holds up nobody's exit. Any thread.
+/// work. Letting go of the queue does not lose what was submitted; only when the system has no thread left is
+/// it lost, with a log line. The thread is never joined, so one that is stuck in a system call holds up
+/// nobody's exit. Any thread.
 class WorkQueue {
 public:
     WorkQueue();

@@ -24,8 +24,8 @@ class HostCallback {
 public:
     virtual ~HostCallback() = default;
 
-    /// ppdFile: the open PPD of the selected printer with the dialog's marks, owned by the dialog; null if
-    /// none.
+    /// ppdFile: the open PPD of the selected printer with the dialog's marks; null if none. Panels keep the
+    /// pointer: what this has once answered stays open as long as the callback object lives.
     virtual ppd_file_t* ppdFile() = 0;
 
     /// Whether the host can check and mark choices itself, that is, answers

@@ -7,7 +7,22 @@
 #include <charconv>
 #include <cmath>
 
+#include <sys/socket.h>
+
 namespace halvern::ppd {
+
+namespace {
+
+constexpr int kConnectMs = 5000;
+constexpr double kAnswerSeconds = 5.0;
+
+struct HttpClose {
+    void operator()(http_t* http) const { httpClose(http); }
+};
+
+using Connection = std::unique_ptr<http_t, HttpClose>;
+
+} // namespace
 
 namespace {
 
@@ -55,7 +70,14 @@ File open(const QString& path, QString* why)
 
 std::optional<QString> fetch(const QString& destination)
 {
-    const char* path = cupsGetPPD(destination.toUtf8().constData());
+    const Connection http(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kConnectMs, nullptr));
+    if (!http)
+        return std::nullopt;
+    // A server that has stopped would otherwise hold the caller for ever.
+    httpSetTimeout(
+        http.get(), kAnswerSeconds, [](http_t*, void*) { return 0; }, nullptr);
+    const char* path = cupsGetPPD2(http.get(), destination.toUtf8().constData());
     if (!path)
         return std::nullopt;
     return QFile::decodeName(path);

@@ -6,12 +6,11 @@
 
 namespace halvern {
 
-/// Status codes of the printing platform. Zero is success.
+/// What the settings answer. Zero is success.
 inline constexpr int kPrintingOk = 0;
-inline constexpr int kPrintingKeyNotFound = -9541;
-inline constexpr int kPrintingKeyNotUnique = -9542;
-inline constexpr int kPrintingKeyLocked = -9543;
-inline constexpr int kPrintingGeneralError = -30870;
+inline constexpr int kPrintingKeyNotFound = 1;
+inline constexpr int kPrintingKeyLocked = 2;
+inline constexpr int kPrintingGeneralError = 3;
 
 /// The settings of one print job: PPD option keyword (or job attribute name) -> value, a string or a number.
 /// Main thread only.

@@ -4,7 +4,7 @@
 
 namespace halvern {
 
-Printer::Printer(QString id, QUrl deviceUri) : id_(std::move(id)), deviceUri_(std::move(deviceUri)) {}
+Printer::Printer(QString id, QString deviceUri) : id_(std::move(id)), deviceUri_(std::move(deviceUri)) {}
 
 std::optional<QString> Printer::id() const
 {
@@ -13,7 +13,7 @@ std::optional<QString> Printer::id() const
     return id_;
 }
 
-std::optional<QUrl> Printer::copyDeviceURI() const
+std::optional<QString> Printer::copyDeviceURI() const
 {
     if (deviceUri_.isEmpty())
         return std::nullopt;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QUrl>
 
 #include <optional>
 
@@ -10,19 +9,20 @@ namespace halvern {
 /// A printer that the dialog has selected: a CUPS queue. Immutable, any thread.
 class Printer {
 public:
-    /// `id` is the queue name; `deviceUri` may be empty when the queue has none.
-    Printer(QString id, QUrl deviceUri);
+    /// `id` is the queue name; `deviceUri` is the text that CUPS has for it, empty when the queue has none.
+    Printer(QString id, QString deviceUri);
     virtual ~Printer() = default;
 
     /// PMPrinterGetID: the queue name.
     virtual std::optional<QString> id() const;
 
-    /// PMPrinterCopyDeviceURI: the queue's device URI, nothing if it has none.
-    virtual std::optional<QUrl> copyDeviceURI() const;
+    /// PMPrinterCopyDeviceURI: the queue's device URI, to the letter, because others compare it as a text (a
+    /// host name in capitals or with escapes is common in them); nothing if it has none.
+    virtual std::optional<QString> copyDeviceURI() const;
 
 private:
     QString id_;
-    QUrl deviceUri_;
+    QString deviceUri_;
 };
 
 } // namespace halvern

@@ -45,7 +45,8 @@ int tagOf(const QWidget* widget)
 
 void setTag(QWidget* widget, int tag)
 {
-    widget->setProperty(kTag, tag);
+    if (widget)
+        widget->setProperty(kTag, tag);
 }
 
 bool isControl(const QWidget* widget)

@@ -10,8 +10,8 @@ namespace halvern {
 
 namespace {
 
-constexpr int kHelpBookMissing = -10790;
-constexpr int kHelpViewerFailed = -10791;
+constexpr int kHelpBookMissing = 1;
+constexpr int kHelpViewerFailed = 2;
 
 std::optional<QString> startPage(const Bundle& bundle, const QString& bookName)
 {

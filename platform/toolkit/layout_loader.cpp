@@ -50,6 +50,7 @@ std::unique_ptr<QWidget> loadLayout(const Bundle& bundle, const QString& name, Q
         return nullptr;
     }
     Loader loader;
+    loader.clearPluginPaths();
     loader.setLanguageChangeEnabled(false);
     std::unique_ptr<QWidget> view(loader.load(&file));
     if (!view && why)

@@ -1,4 +1,5 @@
 #include "panel_base/matrix_panel.h"
+#include "platform/foundation/bundle.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"
@@ -7,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
@@ -14,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -210,6 +213,61 @@ TEST_F(ControlBindingTest, AMatrixPanelReadsAndShowsCellsOnly)
     cells->updateControl_withValue(label, QStringLiteral("20"));
     EXPECT_EQ(label->text(), QString());
     EXPECT_EQ(cells->newChoiceForSender(label).toString(), QStringLiteral("30"));
+    matrix->selectCellWithTag(99);
+    EXPECT_EQ(cells->newChoiceForSender(matrix).toString(), QStringLiteral("10"));
+}
+
+/// A panel whose layout the test wrote: one field that the panel follows and one that only has an action.
+class WiredFieldsTest : public ControlBindingTest {
+protected:
+    WiredFieldsTest()
+    {
+        QFile info(folder.filePath(QStringLiteral("Info.plist")));
+        QFile layout(folder.filePath(QStringLiteral("Resources/Fields.ui")));
+        QDir(folder.path()).mkdir(QStringLiteral("Resources"));
+        if (!info.open(QIODevice::WriteOnly) || !layout.open(QIODevice::WriteOnly))
+            qFatal("the test's bundle could not be written");
+        info.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
+        layout.write(R"(<ui version="4.0"><widget class="QWidget" name="view"><layout class="QVBoxLayout">
+            <item><widget class="QLineEdit" name="quiet"><property name="tag" stdset="0"><number>2</number></property>
+            <property name="action" stdset="0"><string>changePrinterSetting:</string></property></widget></item>
+            <item><widget class="QLineEdit" name="typed"><property name="tag" stdset="0"><number>321</number>
+            </property></widget></item></layout></widget></ui>)");
+        info.close();
+        layout.close();
+        Bundle::setMainBundle(Bundle::load(folder.path()));
+        wired = makePanel<TestPanel>(host);
+        wired->layout = QStringLiteral("Fields");
+        shown = wired->panelView();
+    }
+
+    QLineEdit* field(const char* name) { return shown->findChild<QLineEdit*>(QString::fromLatin1(name)); }
+
+    QTemporaryDir folder;
+    std::shared_ptr<TestPanel> wired;
+    QWidget* shown = nullptr;
+};
+
+TEST_F(WiredFieldsTest, AFieldWithAnActionOnlyProposesOnceWhenEditingEnds)
+{
+    ASSERT_NE(shown, nullptr);
+    QTest::keyClicks(field("quiet"), QStringLiteral("123"));
+    EXPECT_TRUE(host->asked.isEmpty());
+    QTest::keyClick(field("quiet"), Qt::Key_Return);
+    QTest::keyClick(field("quiet"), Qt::Key_Return);
+    EXPECT_EQ(host->asked.size(), 1);
+    EXPECT_EQ(wired->stored("B"), QStringLiteral("123"));
+}
+
+TEST_F(WiredFieldsTest, AMinusLeftInAFieldBecomesZeroWithoutAChoice)
+{
+    ASSERT_NE(shown, nullptr);
+    QTest::keyClicks(field("typed"), QStringLiteral("-"));
+    EXPECT_EQ(wired->stored("A"), QStringLiteral("-"));
+    QTest::keyClick(field("typed"), Qt::Key_Return);
+    EXPECT_EQ(field("typed")->text(), QStringLiteral("0"));
+    EXPECT_EQ(wired->stored("A"), QStringLiteral("-"));
+    EXPECT_EQ(host->asked.size(), 1);
 }
 
 } // namespace halvern

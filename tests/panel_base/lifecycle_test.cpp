@@ -96,10 +96,12 @@ TEST_F(LifecycleTest, DestructionWaitsForTheUnloadSemaphore)
     auto released = std::async(std::launch::async, [panel = std::move(panel)]() mutable { panel.reset(); });
     ASSERT_TRUE(waitUntil([this] { return log.count(QStringLiteral("entered dealloc in TestPanel")) == 1; }));
     // Not woken yet: nothing after the wait has happened. The signal tells once somebody waits.
-    while (!semaphore->signal()) {
+    ASSERT_TRUE(waitUntil([&] {
+        if (semaphore->signal())
+            return true;
         semaphore->wait();
-        std::this_thread::yield();
-    }
+        return false;
+    }));
     released.get();
     EXPECT_EQ(log.lines().last(), QStringLiteral("continuing dealloc after waiting for unload semaphore"));
 }

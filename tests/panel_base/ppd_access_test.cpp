@@ -58,10 +58,19 @@ TEST_F(PpdAccessTest, KeepsTheDeviceUriOnceItIsKnown)
     EXPECT_EQ(panel->destinationName(), std::nullopt);
     host->printer = printer;
     EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
-    host->printer =
-        std::make_shared<Printer>(QStringLiteral("Other"), QUrl(QStringLiteral("ipp://elsewhere")));
+    host->printer = std::make_shared<Printer>(QStringLiteral("Other"), QStringLiteral("ipp://elsewhere"));
     EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
     EXPECT_EQ(panel->destinationName(), QStringLiteral("Other"));
+}
+
+TEST_F(PpdAccessTest, AnswersTheDeviceUriToTheLetter)
+{
+    for (const char* uri :
+         {"usb://HALVERN/VLX", "dnssd://Halvern%20VLX._ipp._tcp.local./?uuid=1", "serial:/dev/ttyS0"}) {
+        decoded({});
+        host->printer = std::make_shared<Printer>(QStringLiteral("Q"), QString::fromLatin1(uri));
+        EXPECT_EQ(panel->printerDeviceURI(), QString::fromLatin1(uri));
+    }
 }
 
 TEST_F(PpdAccessTest, AsksNoServerWhenNothingIsWanted)

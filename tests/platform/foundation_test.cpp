@@ -30,6 +30,8 @@ TEST(NumbersTest, ReadsTheNumberAtTheStartOfAText)
         {"e5", 0},    {"0x1F", 0},  {"1 000", 1}};
     for (const auto& [text, number] : cases)
         EXPECT_DOUBLE_EQ(leadingDouble(QString::fromLatin1(text)), number) << text;
+    EXPECT_EQ(leadingDouble(QString(400, QLatin1Char('9'))), std::numeric_limits<double>::max());
+    EXPECT_EQ(leadingDouble(u"-1e999"), -std::numeric_limits<double>::max());
     EXPECT_EQ(leadingInteger(u"3.7"), 3);
     EXPECT_EQ(leadingInteger(u"-12px"), -12);
     EXPECT_EQ(leadingInteger(u"1e3"), 1);
@@ -46,6 +48,10 @@ TEST(NumbersTest, WritesAPointInEveryLocale)
     const std::string before = std::setlocale(LC_NUMERIC, nullptr);
     std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
     EXPECT_EQ(formatDouble("%.2f", 1.237), QStringLiteral("1.24"));
+    EXPECT_EQ(formatDouble("%.2f", 0.125), QStringLiteral("0.12"));
+    EXPECT_EQ(formatDouble("%.2f", 2.675), QStringLiteral("2.67"));
+    EXPECT_EQ(formatDouble("%.1f", 0.25), QStringLiteral("0.2"));
+    EXPECT_EQ(formatDouble("%.2f", std::numeric_limits<double>::max()).size(), 312);
     EXPECT_EQ(shortestDouble(0.1), QStringLiteral("0.1"));
     EXPECT_EQ(shortestDouble(-0.0), QStringLiteral("0"));
     EXPECT_DOUBLE_EQ(leadingDouble(u"2.5"), 2.5);

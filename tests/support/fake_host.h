@@ -45,7 +45,7 @@ public:
     std::shared_ptr<PageFormat> format = std::make_shared<PageFormat>(
         PageRect{0, 0, 842, 595}, PageRect{9, 9, 833, 586}, PageOrientation::portrait);
     std::shared_ptr<Printer> printer =
-        std::make_shared<Printer>(QStringLiteral("Tessarin"), QUrl(QStringLiteral("halvern://virtual/test")));
+        std::make_shared<Printer>(QStringLiteral("Tessarin"), QStringLiteral("halvern://virtual/test"));
 
 private:
     QTemporaryDir folder_;

@@ -1,0 +1,150 @@
+#include "panels/backprint/back_preview.h"
+
+#include "panels/backprint/text/backprint_text.h"
+
+#include <QFontDatabase>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <utility>
+
+namespace halvern {
+
+namespace {
+
+constexpr qreal kSheetRatio = 2.0 / 3.0;
+
+// Parts of the sheet's width.
+constexpr qreal kMargin = 0.05;
+constexpr qreal kLargestFont = 0.034;
+constexpr qreal kFirstBaseline = 0.095;
+
+constexpr qreal kLineSpacing = 1.35;
+
+constexpr int kShadow = 3;
+constexpr qreal kCorner = 3.0;
+
+// Photo paper is the same in every colour scheme.
+constexpr QColor kPaper(252, 251, 247);
+constexpr QColor kInk(52, 58, 70);
+constexpr QColor kFaintInk(116, 120, 128);
+constexpr QColor kTokenTint(66, 120, 190, 44);
+
+// Tokens stand out, because something else will be printed in their place.
+void paintTokens(QPainter& painter, const QString& text, QPointF baseline)
+{
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kTokenTint);
+    for (const char* const row : backprint::kTokens) {
+        const QLatin1StringView token(row);
+        for (qsizetype at = text.indexOf(token); at >= 0; at = text.indexOf(token, at + token.size())) {
+            const qreal left = metrics.horizontalAdvance(text.left(at));
+            const qreal right = metrics.horizontalAdvance(text.left(at + token.size()));
+            painter.drawRoundedRect(
+                QRectF(baseline.x() + left, baseline.y() - metrics.ascent(), right - left, metrics.height()),
+                2.0, 2.0);
+        }
+    }
+}
+
+void paintSheet(QPainter& painter, const QRectF& sheet)
+{
+    painter.setPen(Qt::NoPen);
+    for (int spread = kShadow; spread > 0; --spread) {
+        painter.setBrush(QColor(0, 0, 0, 14));
+        painter.drawRoundedRect(sheet.adjusted(-spread + 1, 0, spread - 1, spread), kCorner, kCorner);
+    }
+    painter.setBrush(kPaper);
+    painter.setPen(QPen(QColor(0, 0, 0, 70), 1.0));
+    painter.drawRoundedRect(sheet.adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+}
+
+// The sheet goes on below: it fades into what is behind it.
+void paintFade(QPainter& painter, const QRectF& visible, const QColor& background)
+{
+    const QRectF band(visible.left(), visible.bottom() - 36, visible.width(), 37);
+    QColor clear = background;
+    clear.setAlpha(0);
+    QLinearGradient fade(band.topLeft(), band.bottomLeft());
+    fade.setColorAt(0.0, clear);
+    fade.setColorAt(1.0, background);
+    painter.fillRect(band, fade);
+}
+
+} // namespace
+
+BackPreview::BackPreview(QString emptyText, QWidget* parent)
+    : QWidget(parent), emptyText_(std::move(emptyText))
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void BackPreview::setLine(int index, const QString& text)
+{
+    if (std::exchange(lines_.at(size_t(index)), text) == text)
+        return;
+    setAccessibleDescription(lines_[0] + QLatin1Char('\n') + lines_[1]);
+    update();
+}
+
+QSize BackPreview::sizeHint() const
+{
+    return {480, 160};
+}
+
+QSize BackPreview::minimumSizeHint() const
+{
+    return {240, 110};
+}
+
+// One size for both lines: the largest at which the longer one fits.
+void BackPreview::paintLines(QPainter& painter, const QRectF& sheet) const
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(std::max(1, int(sheet.width() * kLargestFont)));
+    painter.save();
+    painter.setFont(font);
+    const QFontMetricsF metrics(font, this);
+    const qreal longest =
+        std::max(metrics.horizontalAdvance(lines_[0]), metrics.horizontalAdvance(lines_[1]));
+    const qreal fit = std::min(1.0, sheet.width() * (1.0 - 2.0 * kMargin) / longest);
+    painter.translate(sheet.topLeft() + QPointF(sheet.width() * kMargin, sheet.width() * kFirstBaseline));
+    painter.scale(fit, fit);
+    QPointF baseline;
+    for (const QString& line : lines_) {
+        paintTokens(painter, line, baseline);
+        painter.setPen(kInk);
+        painter.drawText(baseline, line);
+        baseline.ry() += metrics.height() * kLineSpacing;
+    }
+    painter.restore();
+}
+
+void BackPreview::paintEmptyText(QPainter& painter, const QRectF& sheet) const
+{
+    QFont italic = font();
+    italic.setItalic(true);
+    painter.setFont(italic);
+    painter.setPen(kFaintInk);
+    painter.drawText(sheet.intersected(QRectF(rect())), Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
+}
+
+void BackPreview::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const qreal sheetWidth = width() - 2 * kShadow;
+    const QRectF sheet(kShadow, 1.0, sheetWidth, sheetWidth * kSheetRatio);
+    paintSheet(painter, sheet);
+    if (lines_[0].isEmpty() && lines_[1].isEmpty())
+        paintEmptyText(painter, sheet);
+    else
+        paintLines(painter, sheet);
+    if (sheet.bottom() + kShadow > height())
+        paintFade(painter, QRectF(rect()), palette().color(backgroundRole()));
+}
+
+} // namespace halvern

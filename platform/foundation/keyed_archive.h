@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/foundation/property_list_object_table.h"
+
+#include <optional>
+#include <vector>
+
+namespace halvern {
+
+/// An archived value, not decoded: what it is and which objects of the table hold it.
+struct ArchivedValue {
+    enum class Kind : quint8 { nothing, plain, date, list, dictionary };
+    Kind kind = Kind::nothing;
+    /// The object that holds a plain value or a date's seconds; the array of a list's elements or a
+    /// dictionary's values.
+    quint32 content = 0;
+    /// The array of a dictionary's keys.
+    quint32 keys = 0;
+};
+
+/// The meaning of an object table as a keyed archive: its root, its references, its classes. One thread at a
+/// time. Every operation throws CorruptArchive where the archive breaks its own rules; an object of an
+/// unknown class is nothing, and no failure.
+class KeyedArchive {
+public:
+    /// `table` outlives the archive.
+    explicit KeyedArchive(const PropertyListObjectTable& table);
+
+    /// The table's object for the archive's root. Nothing if the root is nil.
+    std::optional<quint32> root() { return target(root_); }
+
+    /// Follows a reference to the object that it means, nothing for nil. An object that is no reference
+    /// means itself, as in archives that do not share values.
+    std::optional<quint32> target(quint32 reference) const;
+
+    /// What the object, an answer of target(), stands for. Takes time in proportion to the object's own
+    /// size, so callers remember what they have seen.
+    ArchivedValue value(quint32 target);
+
+private:
+    enum class Class : quint8 { unseen, unknown, dictionary, list, string, data, date, number };
+    Class classOfName(const PropertyListObjectTable::Object& name) const;
+    Class classOf(quint32 reference);
+    Class readClass(const PropertyListObjectTable::Object& entry) const;
+    ArchivedValue instance(const PropertyListObjectTable::Object& fields);
+    ArchivedValue dictionaryOf(const PropertyListObjectTable::Object& fields) const;
+    ArchivedValue scalar(const PropertyListObjectTable::Object& fields, Class type) const;
+    quint32 arrayField(const PropertyListObjectTable::Object& fields, QByteArrayView key) const;
+    quint32 required(const PropertyListObjectTable::Object& fields, QByteArrayView key,
+                     PropertyListObjectTable::Kind kind, const char* why) const;
+
+    const PropertyListObjectTable& table_;
+    PropertyListObjectTable::Object objects_;
+    quint32 root_ = 0;
+    std::vector<Class> classes_;
+};
+
+} // namespace halvern

@@ -1,0 +1,293 @@
+#include "platform/foundation/xml_property_list.h"
+
+#include "platform/foundation/binary_property_list_writer.h"
+#include "platform/foundation/property_list_object_table.h"
+#include "platform/foundation/xml_markup_guard.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace halvern {
+
+namespace {
+
+constexpr std::size_t kMaxNesting = 64;
+
+enum class Element { unknown, dictionary, array, key, string, integer, real, isTrue, isFalse, date, data };
+
+Element elementOf(QStringView name)
+{
+    struct Name {
+        const char16_t* text;
+        Element element;
+    };
+
+    static constexpr std::array kNames{
+        Name{u"key", Element::key},       Name{u"dict", Element::dictionary}, Name{u"array", Element::array},
+        Name{u"string", Element::string}, Name{u"integer", Element::integer}, Name{u"real", Element::real},
+        Name{u"true", Element::isTrue},   Name{u"false", Element::isFalse},   Name{u"date", Element::date},
+        Name{u"data", Element::data},
+    };
+    const auto found = std::ranges::find_if(kNames, [name](const Name& known) { return name == known.text; });
+    return found == kNames.end() ? Element::unknown : found->element;
+}
+
+bool isBase64OrSpace(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '+' ||
+           c == '/' || c == '=' || c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+class XmlPropertyListReader {
+public:
+    explicit XmlPropertyListReader(QIODevice* device) : xml_(device) { xml_.setNamespaceProcessing(false); }
+
+    QByteArray read();
+
+private:
+    struct Container {
+        bool dictionary = false;
+        bool keyIsUid = false;
+        quint32 firstObject = 0;
+        std::size_t firstChild = 0;
+    };
+
+    void startElement();
+    void open(bool dictionary);
+    void close();
+    void add(quint32 object, bool isKey);
+    quint32 readScalar(Element element);
+    quint32 addInteger(QString text);
+    quint32 addReal(const QString& text);
+    quint32 addDate(const QString& text);
+    quint32 addData(const QByteArray& text);
+    QString text();
+
+    QXmlStreamReader xml_;
+    BinaryPropertyListWriter writer_;
+    std::vector<Container> open_;
+    std::vector<quint32> children_;
+    std::optional<quint32> top_;
+    std::optional<quint64> lastNumber_;
+    bool lastIsUidKey_ = false;
+    bool inPropertyList_ = false;
+};
+
+QByteArray XmlPropertyListReader::read()
+{
+    while (!xml_.atEnd()) {
+        switch (xml_.readNext()) {
+        case QXmlStreamReader::StartDocument:
+            if (!xml_.documentEncoding().isEmpty() &&
+                xml_.documentEncoding().compare(QLatin1StringView("utf-8"), Qt::CaseInsensitive) != 0)
+                throw CorruptArchive{"its XML is not in UTF-8"};
+            break;
+        case QXmlStreamReader::StartElement:
+            startElement();
+            break;
+        case QXmlStreamReader::EndElement:
+            if (!open_.empty())
+                close();
+            break;
+        case QXmlStreamReader::Characters:
+            if (!xml_.isWhitespace())
+                throw CorruptArchive{"its XML has text outside the values"};
+            break;
+        case QXmlStreamReader::EntityReference:
+            throw CorruptArchive{"its XML uses an unknown entity"};
+        case QXmlStreamReader::Invalid:
+            throw CorruptArchive{"its XML is not well formed"};
+        default:
+            break;
+        }
+    }
+    if (!top_)
+        throw CorruptArchive{"its XML holds no value"};
+    return writer_.finish(*top_);
+}
+
+void XmlPropertyListReader::startElement()
+{
+    if (!inPropertyList_) {
+        if (xml_.name() != QLatin1StringView("plist"))
+            throw CorruptArchive{"its XML is not a property list"};
+        inPropertyList_ = true;
+        return;
+    }
+    const Element element = elementOf(xml_.name());
+    if (element == Element::dictionary || element == Element::array) {
+        open(element == Element::dictionary);
+    } else {
+        const quint32 object = readScalar(element);
+        add(object, element == Element::key);
+    }
+}
+
+void XmlPropertyListReader::open(bool dictionary)
+{
+    if (open_.size() >= kMaxNesting)
+        throw CorruptArchive{"its XML is nested too deeply"};
+    open_.push_back({dictionary, false, writer_.objectCount(), children_.size()});
+}
+
+void XmlPropertyListReader::close()
+{
+    const Container container = open_.back();
+    open_.pop_back();
+    const std::span<const quint32> children = std::span(children_).subspan(container.firstChild);
+    quint32 object = 0;
+    if (!container.dictionary) {
+        object = writer_.addArray(children);
+    } else if (container.keyIsUid && children.size() == 2 && lastNumber_) {
+        writer_.dropFrom(container.firstObject);
+        object = writer_.addUid(*lastNumber_);
+    } else if (children.size() % 2 == 0) {
+        object = writer_.addDictionary(children);
+    } else {
+        throw CorruptArchive{"its XML has a key without a value"};
+    }
+    children_.resize(container.firstChild);
+    lastNumber_.reset();
+    add(object, false);
+}
+
+/// Adds a finished object to the innermost open container.
+void XmlPropertyListReader::add(quint32 object, bool isKey)
+{
+    if (open_.empty()) {
+        if (top_ || isKey)
+            throw CorruptArchive{"its XML holds more than one value"};
+        top_ = object;
+        return;
+    }
+    Container& container = open_.back();
+    const std::size_t position = children_.size() - container.firstChild;
+    if (isKey != (container.dictionary && position % 2 == 0))
+        throw CorruptArchive{"its XML does not pair keys with values"};
+    if (position == 0)
+        container.keyIsUid = isKey && lastIsUidKey_;
+    children_.push_back(object);
+}
+
+quint32 XmlPropertyListReader::readScalar(Element element)
+{
+    const QString content = text();
+    lastNumber_.reset();
+    lastIsUidKey_ = false;
+    switch (element) {
+    case Element::key:
+        lastIsUidKey_ = content == QLatin1StringView("CF$UID");
+        [[fallthrough]];
+    case Element::string:
+        return writer_.addUtf8String(content.toUtf8());
+    case Element::integer:
+        return addInteger(content.trimmed());
+    case Element::real:
+        return addReal(content);
+    case Element::isTrue:
+    case Element::isFalse:
+        return writer_.addBoolean(element == Element::isTrue);
+    case Element::date:
+        return addDate(content.trimmed());
+    case Element::data:
+        return addData(content.toLatin1());
+    default:
+        throw CorruptArchive{"its XML has an unknown element"};
+    }
+}
+
+quint32 XmlPropertyListReader::addInteger(QString text)
+{
+    int base = 10;
+    if (text.startsWith(QLatin1StringView("0x"), Qt::CaseInsensitive)) {
+        text.remove(0, 2);
+        base = 16;
+    }
+    bool ok = false;
+    const qint64 number = text.toLongLong(&ok, base);
+    if (ok) {
+        if (number >= 0)
+            lastNumber_ = quint64(number);
+        return writer_.addSigned(number);
+    }
+    const quint64 large = text.toULongLong(&ok, base);
+    if (!ok)
+        throw CorruptArchive{"its XML has a number that is none"};
+    return writer_.addUnsigned(large);
+}
+
+quint32 XmlPropertyListReader::addReal(const QString& text)
+{
+    bool ok = false;
+    const double number = text.trimmed().toDouble(&ok);
+    if (!ok)
+        throw CorruptArchive{"its XML has a number that is none"};
+    return writer_.addReal(number);
+}
+
+quint32 XmlPropertyListReader::addDate(const QString& text)
+{
+    const QDateTime moment = QDateTime::fromString(text, Qt::ISODate);
+    if (!moment.isValid())
+        throw CorruptArchive{"its XML has a date that is none"};
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    return writer_.addDate(double(reference.msecsTo(moment)) / 1000.0);
+}
+
+quint32 XmlPropertyListReader::addData(const QByteArray& text)
+{
+    if (!std::all_of(text.begin(), text.end(), isBase64OrSpace))
+        throw CorruptArchive{"its XML has data that are not base64"};
+    return writer_.addData(QByteArray::fromBase64(text));
+}
+
+/// The text of the current element, up to its end.
+QString XmlPropertyListReader::text()
+{
+    QString all;
+    for (;;) {
+        switch (xml_.readNext()) {
+        case QXmlStreamReader::Characters:
+            all += xml_.text();
+            if (all.size() > kMaxXmlText)
+                throw CorruptArchive{"its XML has a text of more than 4 MiB"};
+            break;
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::ProcessingInstruction:
+            break;
+        case QXmlStreamReader::EndElement:
+            return all;
+        default:
+            throw CorruptArchive{"its XML is not well formed"};
+        }
+    }
+}
+
+} // namespace
+
+bool looksLikeXml(const QByteArray& bytes)
+{
+    QByteArrayView start = bytes;
+    if (start.startsWith("\xEF\xBB\xBF"))
+        start = start.sliced(3);
+    return start.trimmed().startsWith('<');
+}
+
+QByteArray binaryFromXmlPropertyList(const QByteArray& xml)
+{
+    if (xml.size() > kMaxArchiveBytes)
+        throw CorruptArchive{"it is larger than 32 MiB"};
+    checkXmlMarkup(xml);
+    QBuffer device;
+    device.setData(xml);
+    device.open(QIODevice::ReadOnly);
+    return XmlPropertyListReader(&device).read();
+}
+
+} // namespace halvern

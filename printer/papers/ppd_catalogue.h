@@ -1,0 +1,36 @@
+#pragma once
+
+#include "printer/papers/paper_list.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace halvern {
+
+/// A PPD attribute that a printer reports.
+struct PpdAttribute {
+    QByteArray keyword;
+    QByteArray value;
+};
+
+/// The attributes that carry a paper list: the archived catalogue in pieces of base64, ended by an empty
+/// piece, and the abilities that the list names.
+QList<PpdAttribute> attributesOf(const PaperList& list);
+
+/// The attributes as lines of a PPD file.
+QByteArray ppdLines(const QList<PpdAttribute>& attributes, const QByteArray& lineEnd = "\n");
+
+/// The attributes as a filter reports them on its standard error, for CUPS to write into the queue's PPD.
+QByteArray filterLines(const QList<PpdAttribute>& attributes);
+
+/// The PPD with these attributes in place of those that it has: the whole old run of catalogue pieces goes,
+/// however long it was. Everything else stays byte for byte.
+QByteArray ppdWithAttributes(const QByteArray& ppd, const QList<PpdAttribute>& attributes);
+
+/// The archive that a PPD file carries, empty if it carries none. `failure` is set if the PPD cannot be read.
+QByteArray archiveInPpd(const QString& path, QString& failure);
+
+} // namespace halvern

@@ -1,0 +1,133 @@
+#include "tests/panels/backprint/backprint_window.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+
+namespace halvern {
+
+namespace {
+
+void compose(QLineEdit* field, const QString& preedit, const QString& commit)
+{
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(commit);
+    QApplication::sendEvent(field, &event);
+}
+
+} // namespace
+
+using BackprintEditingTest = BackprintWindow;
+
+TEST_F(BackprintEditingTest, TypingStoresTheTypedTextAndEndingStoresTheSafeFormAndAsksTheHost)
+{
+    type(1, QStringLiteral("Smith's, Inc."));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("Smith's, Inc."));
+    EXPECT_TRUE(host->asked.isEmpty());
+    endEditing(1);
+    const QString safe = QStringLiteral(u"Smith\u00e6s\u2264 Inc.");
+    EXPECT_EQ(stored("CVP1"), safe);
+    ASSERT_EQ(host->asked.size(), 1);
+    EXPECT_EQ(host->asked.first(), qMakePair(QStringLiteral("CVP1"), QVariant(safe)));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("Smith's, Inc."));
+    // Leaving the line after Return ends nothing again.
+    line(2)->setFocus();
+    EXPECT_EQ(host->asked.size(), 1);
+    EXPECT_EQ(beeps.count, 0);
+}
+
+TEST_F(BackprintEditingTest, ARefusedCharacterGoesAtOnceWithABeep)
+{
+    type(1, QStringLiteral(u"ab~c\u00e9d\u00a9"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral(u"abcd\u00a9"));
+    EXPECT_EQ(beeps.count, 2);
+    EXPECT_EQ(stored("CVP1"), QStringLiteral(u"abcd\u00a9"));
+    line(1)->setCursorPosition(2);
+    QTest::keyClicks(line(1), QStringLiteral("~"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("ab"));
+    EXPECT_EQ(beeps.count, 3);
+    paste(2, QStringLiteral("ab~cd~ef"));
+    EXPECT_EQ(line(2)->text(), QStringLiteral("abab~cd"));
+    EXPECT_EQ(beeps.count, 4);
+}
+
+TEST_F(BackprintEditingTest, ALongPasteIsCutWithOneBeepAndTheCaretStays)
+{
+    paste(1, QString(125, u'x'));
+    EXPECT_EQ(line(1)->text(), QString(120, u'x'));
+    EXPECT_EQ(beeps.count, 1);
+    line(1)->setCursorPosition(3);
+    QTest::keyClicks(line(1), QStringLiteral("ab"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("xxxab") + QString(115, u'x'));
+    EXPECT_EQ(line(1)->cursorPosition(), 5);
+    EXPECT_EQ(beeps.count, 3);
+}
+
+TEST_F(BackprintEditingTest, ABackslashAtTheEndGetsASpaceThatTheNextKeystrokeTakesBack)
+{
+    paste(1, QString(119, u'x') + u'\\');
+    endEditing(1);
+    EXPECT_EQ(line(1)->text().size(), 121);
+    EXPECT_EQ(panel->panelView()->findChild<QLabel*>(QStringLiteral("count1"))->text(),
+              QStringLiteral("0 left"));
+    EXPECT_EQ(stored("CVP1"), QString(119, u'x') + QStringLiteral("\\ "));
+    EXPECT_EQ(beeps.count, 0);
+    QTest::keyClick(line(1), Qt::Key_Home);
+    QTest::keyClicks(line(1), QStringLiteral("y"));
+    EXPECT_EQ(line(1)->text(), u'y' + QString(119, u'x'));
+    EXPECT_EQ(beeps.count, 1);
+}
+
+TEST_F(BackprintEditingTest, UndoGoesBackBeyondWhatWasRefused)
+{
+    type(1, QStringLiteral("one"));
+    QTest::keyClick(line(1), Qt::Key_Left);
+    QTest::keyClick(line(1), Qt::Key_End);
+    type(1, QStringLiteral(" two~"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("one two"));
+    QTest::keyClick(line(1), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(line(1)->text(), QStringLiteral("one"));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("one"));
+    QTest::keyClick(line(1), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(line(1)->text(), QString());
+    EXPECT_EQ(panel->panelView()->findChild<QLabel*>(QStringLiteral("count1"))->text(),
+              QStringLiteral("120 left"));
+    // The empty line is a choice like any other.
+    EXPECT_EQ(stored("CVP1"), QString());
+    QTest::keyClick(line(1), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(line(1)->text(), QStringLiteral("one"));
+    // Only the keystroke itself was refused, not the way back.
+    EXPECT_EQ(beeps.count, 1);
+}
+
+TEST_F(BackprintEditingTest, WhatAnInputMethodComposesIsHeldToTheRulesWhenItIsCommitted)
+{
+    type(1, QStringLiteral("ab"));
+    compose(line(1), QStringLiteral(u"\u304b"), {});
+    EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
+    EXPECT_EQ(beeps.count, 0);
+    compose(line(1), {}, QStringLiteral(u"c\u304b"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("abc"));
+    EXPECT_EQ(beeps.count, 1);
+    compose(line(1), {}, QStringLiteral("d"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("abcd"));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("abcd"));
+}
+
+TEST_F(BackprintEditingTest, ACommitThatGoesOnComposingIsHeldToTheRulesAfterwards)
+{
+    type(1, QStringLiteral("ab"));
+    compose(line(1), QStringLiteral(u"\u1102"), QStringLiteral(u"\uac00"));
+    // The field has not been touched under the composition, but what is stored is clean.
+    EXPECT_EQ(line(1)->text(), QStringLiteral(u"ab\uac00"));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("ab"));
+    compose(line(1), {}, {});
+    EXPECT_TRUE(waitUntil([&] { return line(1)->text() == QStringLiteral("ab"); }));
+    EXPECT_EQ(beeps.count, 1);
+    compose(line(1), QStringLiteral(u"\u1102"), QStringLiteral(u"\uac00"));
+    endEditing(1);
+    EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
+    EXPECT_EQ(saved("CVP1"), QStringLiteral("ab"));
+}
+
+} // namespace halvern

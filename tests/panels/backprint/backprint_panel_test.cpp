@@ -1,0 +1,157 @@
+#include "panels/backprint/back_preview.h"
+#include "platform/foundation/notification_center.h"
+#include "tests/panels/backprint/backprint_window.h"
+
+#include <QCheckBox>
+
+namespace halvern {
+
+namespace {
+
+class LockedSettings : public PrintSettings {
+public:
+    int setValue(const QString& key, const QVariant& value, bool locked) override
+    {
+        return key == QLatin1String("CVP2") ? kPrintingKeyLocked
+                                            : PrintSettings::setValue(key, value, locked);
+    }
+};
+
+} // namespace
+
+using BackprintPanelTest = BackprintWindow;
+
+TEST_F(BackprintPanelTest, CreationRestoresTheSettingsOrTheDefaultsAndWritesThemBack)
+{
+    close();
+    host = std::make_shared<FakeHost>(backprintOptions() + "*CVP2Default: \"it's, default\"\n");
+    host->settings->setValue(QStringLiteral("CVP1"), QStringLiteral(u"Smith\u00e6s\u2264 Inc."), false);
+    open();
+    EXPECT_EQ(line(1)->text(), QStringLiteral("Smith's, Inc."));
+    EXPECT_EQ(line(2)->text(), QStringLiteral("it's, default"));
+    EXPECT_EQ(saved("CVP1"), QStringLiteral(u"Smith\u00e6s\u2264 Inc."));
+    EXPECT_EQ(saved("CVP2"), QStringLiteral(u"it\u00e6s\u2264 default"));
+    EXPECT_EQ(saved("EnableCVP1"), QStringLiteral("False"));
+    EXPECT_EQ(saved("DebugLog"), QStringLiteral("False"));
+    EXPECT_TRUE(host->asked.isEmpty());
+    EXPECT_EQ(beeps.count, 0);
+    EXPECT_FALSE(line(1)->isEnabled());
+    EXPECT_FALSE(find(256)->isEnabled());
+}
+
+TEST_F(BackprintPanelTest, SavesTheLinesSafelyAndTheTogglesAsTheyAre)
+{
+    type(1, QStringLiteral("a,b"));
+    panel->setChoice_forKey(QStringLiteral("x,y"), QStringLiteral("EnableCVP1"));
+    panel->setChoice_forKey(7, QStringLiteral("CVP2"));
+    EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
+    EXPECT_EQ(saved("CVP1"), QStringLiteral(u"a\u2264b"));
+    EXPECT_EQ(saved("EnableCVP1"), QStringLiteral("x,y"));
+    EXPECT_EQ(host->settings->values().value(QStringLiteral("CVP2")).typeId(), QMetaType::Int);
+    // Saving is not the base's: it does not say that the panel leaves.
+    EXPECT_FALSE(log.lines().join(u'\n').contains(QStringLiteral("saveValues")));
+}
+
+TEST_F(BackprintPanelTest, AFailedWriteIsLoggedAndTheOthersGoOn)
+{
+    host->settings = std::make_shared<LockedSettings>();
+    EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
+    EXPECT_EQ(log.count(QStringLiteral("PDE got an error -9543 setting the value for CVP2 !")), 1);
+    EXPECT_EQ(saved("EnableCVP2"), QStringLiteral("True"));
+    host->settings = nullptr;
+    EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
+}
+
+TEST_F(BackprintPanelTest, RestoringWithoutSettingsMarksTheDefaultsUnlessAllIsKnown)
+{
+    host->settings->setValue(QStringLiteral("CVP1"), QStringLiteral("kept"), false);
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("kept"));
+    host->settings = nullptr;
+    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
+    // One line has no value yet: every default is marked.
+    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("False"));
+    EXPECT_EQ(stored("CVP1"), QStringLiteral("kept"));
+    panel->setChoice_forKey(QStringLiteral(""), QStringLiteral("CVP2"));
+    panel->setChoice_forKey(QStringLiteral("True"), QStringLiteral("EnableCVP1"));
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("True"));
+    EXPECT_TRUE(line(1)->isEnabled());
+}
+
+TEST_F(BackprintPanelTest, RestoreDefaultsShowsThePpdsLines)
+{
+    close();
+    host = std::make_shared<FakeHost>(backprintOptions() + "*CVP1Default: \"[F]\"\n");
+    host->settings->setValue(QStringLiteral("EnableCVP1"), QStringLiteral("True"), false);
+    open();
+    type(1, QStringLiteral("more"));
+    click(514);
+    click(32);
+    EXPECT_EQ(line(1)->text(), QStringLiteral("[F]"));
+    EXPECT_EQ(stored("DebugLog"), QStringLiteral("False"));
+    EXPECT_FALSE(find<QCheckBox>(512)->isChecked());
+    EXPECT_FALSE(line(1)->isEnabled());
+}
+
+TEST_F(BackprintPanelTest, AHostsRefusalBringsTheToggleBack)
+{
+    click(512);
+    ASSERT_FALSE(line(1)->isEnabled());
+    host->refusedKeys.insert(QStringLiteral("EnableCVP1"));
+    click(512);
+    EXPECT_TRUE(line(1)->isEnabled());
+    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("False"));
+    EXPECT_TRUE(waitUntil([&] { return !find<QCheckBox>(512)->isChecked(); }));
+    EXPECT_FALSE(line(1)->isEnabled());
+    EXPECT_EQ(beeps.count, 0);
+}
+
+TEST_F(BackprintPanelTest, AChangeFromOutsideIsShownUnswappedAndLeavesTypingAlone)
+{
+    type(1, QStringLiteral("typed, still"));
+    line(1)->setCursorPosition(3);
+    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("CVP2"), QStringLiteral(u"a\u2264b"));
+    EXPECT_EQ(line(2)->text(), QStringLiteral("a,b"));
+    EXPECT_EQ(line(1)->text(), QStringLiteral("typed, still"));
+    EXPECT_EQ(line(1)->cursorPosition(), 3);
+}
+
+TEST_F(BackprintPanelTest, ThePreviewShowsTheSwitchedOnLinesAsTyped)
+{
+    auto* holder = panel->panelView()->findChild<QWidget*>(QStringLiteral("previewHolder"));
+    auto* preview = dynamic_cast<BackPreview*>(holder->findChild<QWidget*>());
+    ASSERT_NE(preview, nullptr);
+    const QImage empty = preview->grab().toImage();
+    type(1, QStringLiteral("Lake, [YYYY]"));
+    type(2, QStringLiteral("It's ours"));
+    EXPECT_EQ(preview->line(0), QStringLiteral("Lake, [YYYY]"));
+    EXPECT_EQ(preview->line(1), QStringLiteral("It's ours"));
+    EXPECT_NE(preview->grab().toImage(), empty);
+    click(512);
+    EXPECT_EQ(preview->line(0), QString());
+    click(513);
+    EXPECT_EQ(preview->grab().toImage(), empty);
+}
+
+TEST_F(BackprintPanelTest, DestructionTellsTheOtherPanelsOfTheSameHost)
+{
+    int own = 0;
+    int others = 0;
+    const QString name = QStringLiteral("com.halvern.vlx.PDEPluginIsUnloading");
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    center.addObserver(&own, name, static_cast<HostCallback*>(host.get()), [&](const Notification&) {
+        // Before the base's part of the destruction.
+        EXPECT_EQ(log.count(QStringLiteral("entered dealloc in RZBackprintPDEHalvern")), 0);
+        ++own;
+    });
+    center.addObserver(&others, name, &others, [&](const Notification&) { ++others; });
+    close();
+    center.removeObserver(&own);
+    center.removeObserver(&others);
+    EXPECT_EQ(own, 1);
+    EXPECT_EQ(others, 0);
+    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in RZBackprintPDEHalvern")), 1);
+}
+
+} // namespace halvern

@@ -1,0 +1,106 @@
+#include "panels/backprint/text/backprint_text.h"
+
+#include <gtest/gtest.h>
+
+namespace halvern::backprint {
+
+namespace {
+
+QString run(qsizetype length, QChar character = u'x')
+{
+    return QString(length, character);
+}
+
+} // namespace
+
+TEST(BackprintTextTest, AllowsSpaceToClosingBraceAndTheCopyrightSignOnly)
+{
+    const auto allowed = safeCharacters();
+    QString accepted;
+    for (int unit = 0; unit < 0x10000; ++unit) {
+        if (allowed(QChar(unit)))
+            accepted += QChar(unit);
+    }
+    EXPECT_EQ(accepted.size(), 95);
+    EXPECT_EQ(accepted.front(), u' ');
+    EXPECT_EQ(accepted.at(93), u'}');
+    EXPECT_EQ(accepted.back(), QChar(0xA9));
+}
+
+TEST(BackprintTextTest, SwapsCommasAndApostrophesBothWays)
+{
+    const QString shown = QStringLiteral("Smith's, Inc.'s,");
+    const QString stored = QStringLiteral(u"Smith\u00e6s\u2264 Inc.\u00e6s\u2264");
+    EXPECT_EQ(stringWithSafeCharacters(shown), stored);
+    EXPECT_EQ(stringWithSafeCharacters(stored), stored);
+    EXPECT_EQ(stringWithUnsafeCharacters(stored), shown);
+    // The longest line that can be stored.
+    EXPECT_EQ(stringWithSafeCharacters(run(121, u',')).toUtf8().size(), 363);
+}
+
+TEST(BackprintTextTest, LimitsALineAndNeverLeavesABackslashAtItsEnd)
+{
+    const struct {
+        QString text;
+        QString limited;
+    } cases[] = {
+        {QStringLiteral(""), QStringLiteral("")},
+        {run(120), run(120)},
+        {run(121), run(120)},
+        {run(120) + u' ', run(120) + u' '},
+        {run(121) + u' ', run(120)},
+        {QStringLiteral("\\"), QStringLiteral("\\ ")},
+        {run(118) + u'\\', run(118) + QStringLiteral("\\ ")},
+        {run(119) + u'\\', run(119) + QStringLiteral("\\ ")},
+        {run(119) + QStringLiteral("\\\\"), run(119) + QStringLiteral("\\ ")},
+    };
+
+    for (const auto& row : cases) {
+        EXPECT_EQ(limitCVPValue(row.text), row.limited) << row.text.toStdString();
+        EXPECT_EQ(limitCVPValue(row.limited), row.limited);
+    }
+}
+
+TEST(BackprintTextTest, HoldsATypedTextToTheAlphabetAndTheLength)
+{
+    const struct {
+        QString text;
+        QString left;
+        bool refused;
+    } cases[] = {
+        {QStringLiteral("plain [MM]"), QStringLiteral("plain [MM]"), false},
+        {QStringLiteral("ab~cd"), QStringLiteral("ab"), true},
+        {QStringLiteral("~ab"), QStringLiteral(""), true},
+        {QStringLiteral("ab~cd~ef"), QStringLiteral("abab~cd"), true},
+        {run(120), run(120), false},
+        {run(125), run(120), true},
+        {run(120) + u' ', run(120), true},
+        // What the alphabet leaves may happen to be what was there, and is refused all the same.
+        {QStringLiteral("~a").repeated(60), QStringLiteral("~a").repeated(60), true},
+    };
+
+    for (const auto& row : cases) {
+        const TypedText typed = afterTyping(row.text, safeCharacters());
+        EXPECT_EQ(typed.text, row.left) << row.text.toStdString();
+        EXPECT_EQ(typed.refused, row.refused) << row.text.toStdString();
+    }
+}
+
+TEST(BackprintTextTest, AnEnteredLineIsTheOneThatSingleKeystrokesGive)
+{
+    const QStringList texts = {QStringLiteral(u"caf\u00e9, it's ~ \u00a9 \U0001F4F7 [YY]\\"),
+                               run(119) + QStringLiteral("~\\more"), QStringLiteral("")};
+    for (const QString& text : texts) {
+        QString typed;
+        for (const QChar character : text)
+            typed = afterTyping(typed + character, safeCharacters()).text;
+        const EnteredLine line = enteredLine(text);
+        EXPECT_EQ(line.shown, limitCVPValue(typed));
+        EXPECT_EQ(line.stored, stringWithSafeCharacters(line.shown));
+        EXPECT_EQ(typed.size() + line.refused.size() + line.beyondLimit, text.size());
+    }
+    EXPECT_EQ(enteredLine(texts[0]).refused, QStringLiteral(u"\u00e9~\U0001F4F7"));
+    EXPECT_EQ(enteredLine(texts[1]).beyondLimit, 4);
+}
+
+} // namespace halvern::backprint

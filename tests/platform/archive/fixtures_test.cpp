@@ -1,0 +1,97 @@
+#include "platform/foundation/keyed_unarchiver.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+QByteArray contentOf(const QString& file)
+{
+    QFile source(QDir(QStringLiteral(HALVERN_FIXTURES)).filePath(file));
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << qPrintable(file);
+    return source.readAll();
+}
+
+/// The value in the notation of the expectations: {"type": ..., "value": ...}.
+QJsonObject described(const QVariant& value)
+{
+    QJsonObject result;
+    switch (value.typeId()) {
+    case QMetaType::QVariantMap: {
+        QJsonObject entries;
+        const QVariantMap map = value.toMap();
+        for (auto entry = map.begin(); entry != map.end(); ++entry)
+            entries.insert(entry.key(), described(entry.value()));
+        return {{QStringLiteral("type"), QStringLiteral("dict")}, {QStringLiteral("value"), entries}};
+    }
+    case QMetaType::QString:
+        return {{QStringLiteral("type"), QStringLiteral("string")},
+                {QStringLiteral("value"), value.toString()}};
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return {{QStringLiteral("type"), QStringLiteral("int")}, {QStringLiteral("value"), value.toDouble()}};
+    default:
+        return {{QStringLiteral("type"), QString::fromLatin1(value.typeName())}};
+    }
+}
+
+} // namespace
+
+TEST(KeyedUnarchiverFixtures, EachFileHoldsWhatItsWriterPutIn)
+{
+    const QDir folder(QStringLiteral(HALVERN_FIXTURES));
+    int files = 0;
+    for (const QString& name : folder.entryList({QStringLiteral("*.json")})) {
+        const QJsonObject expected = QJsonDocument::fromJson(contentOf(name)).object();
+        for (const QJsonValue& file : expected[QStringLiteral("files")].toArray()) {
+            SCOPED_TRACE(qPrintable(file.toString()));
+            ++files;
+            const auto result = KeyedUnarchiver::unarchiveDictionary(contentOf(file.toString()));
+            if (!expected[QStringLiteral("catalogue")].toBool()) {
+                EXPECT_FALSE(result.root);
+                EXPECT_EQ(result.failure, QStringLiteral("corrupt: its root is not a dictionary"));
+                continue;
+            }
+            ASSERT_TRUE(result.root) << qPrintable(result.failure);
+            EXPECT_EQ(result.root->size(), expected[QStringLiteral("record_count")].toInt());
+            EXPECT_EQ(described(*result.root)[QStringLiteral("value")].toObject(),
+                      expected[QStringLiteral("records")].toObject());
+        }
+    }
+    EXPECT_GE(files, 10);
+}
+
+TEST(KeyedUnarchiverFixtures, AFileCutAnywhereIsCorrupt)
+{
+    const QByteArray binary = contentOf(QStringLiteral("platform_mutable.bin.plist"));
+    for (qsizetype size = 0; size < binary.size(); ++size)
+        ASSERT_FALSE(KeyedUnarchiver::unarchiveDictionary(binary.first(size)).root) << size;
+    const QByteArray xml = contentOf(QStringLiteral("mutable_strings.xml.plist")).trimmed();
+    for (qsizetype size = 0; size < xml.size(); ++size)
+        ASSERT_FALSE(KeyedUnarchiver::unarchiveDictionary(xml.first(size)).root) << size;
+}
+
+TEST(KeyedUnarchiverFixtures, AFileWithAnyByteChangedIsReadOrRefused)
+{
+    const QByteArray whole = contentOf(QStringLiteral("platform_mutable.bin.plist"));
+    int refused = 0;
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        for (const int change : {0x01, 0x0F, 0x80, 0xFF}) {
+            QByteArray changed = whole;
+            changed[i] = char(changed[i] ^ change);
+            const auto result = KeyedUnarchiver::unarchiveDictionary(changed);
+            EXPECT_EQ(result.root.has_value(), result.failure.isEmpty());
+            refused += result.root ? 0 : 1;
+        }
+    }
+    EXPECT_GT(refused, whole.size());
+}
+
+} // namespace halvern

@@ -1,0 +1,96 @@
+#include "printer/page_stream.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace halvern {
+
+namespace {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+File fileWith(const std::string& bytes)
+{
+    File file(std::tmpfile());
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    std::rewind(file.get());
+    return file;
+}
+
+// Reads to the end of the stream or to its first fault, and answers the fault.
+std::string faultOf(const std::string& bytes)
+{
+    const File file = fileWith(bytes);
+    PageStreamReader in(fileno(file.get()));
+    while (const auto item = in.next()) {
+        if (std::holds_alternative<StreamEnd>(*item))
+            return {};
+        if (const auto* page = std::get_if<PageHeader>(&*item)) {
+            std::vector<uint8_t> row(size_t{page->width} * 3);
+            for (uint32_t y = 0; y < page->height; ++y) {
+                if (!in.row(row))
+                    return in.error();
+            }
+        }
+    }
+    return in.error();
+}
+
+std::string streamWithAPage()
+{
+    std::string bytes = "HALVERN-PAGES 1\nOPTION 3\na=bPAGE 27\n1 front picture 2 2 300 300";
+    return bytes + std::string(12, 'x') + "END 0\n";
+}
+
+TEST(PageStreamTest, ReadsBackWhatWasWritten)
+{
+    const File file(std::tmpfile());
+    PageStreamWriter out(file.get());
+    const std::vector<uint8_t> row = {1, 2, 3, 254, 255, 0};
+    EXPECT_TRUE(out.options({{"CVP1", "a\nb=c"}, {"empty", ""}}));
+    EXPECT_TRUE(out.page({2, true, true, 2, 1, 300, 610}));
+    EXPECT_TRUE(out.row(row));
+    EXPECT_TRUE(out.command("#CUPS-COMMAND\n"));
+    EXPECT_TRUE(out.end());
+    std::rewind(file.get());
+
+    PageStreamReader in(fileno(file.get()));
+    EXPECT_EQ(std::get<JobOption>(in.next().value()).value, "a\nb=c");
+    EXPECT_EQ(std::get<JobOption>(in.next().value()).value, "");
+    const PageHeader page = std::get<PageHeader>(in.next().value());
+    EXPECT_TRUE(page.sheet == 2 && page.back && page.text && page.width == 2 && page.height == 1);
+    EXPECT_EQ(page.yDpi, 610U);
+    std::vector<uint8_t> got(6);
+    EXPECT_TRUE(in.row(got));
+    EXPECT_EQ(got, row);
+    EXPECT_EQ(std::get<StreamCommand>(in.next().value()).file, "#CUPS-COMMAND\n");
+    EXPECT_TRUE(std::holds_alternative<StreamEnd>(in.next().value()));
+}
+
+TEST(PageStreamTest, AStreamThatIsCutOffAnywhereIsAFault)
+{
+    const std::string whole = streamWithAPage();
+    ASSERT_EQ(faultOf(whole), "");
+    for (size_t length = 0; length < whole.size(); ++length)
+        EXPECT_NE(faultOf(whole.substr(0, length)), "") << length;
+}
+
+TEST(PageStreamTest, RefusesWhatIsNotItsOwn)
+{
+    for (const char* bytes :
+         {"RaS2 and so on\n", "HALVERN-PAGES 2\nEND 0\n", "HALVERN-PAGES 1\nWHAT 0\n",
+          "HALVERN-PAGES 1\nOPTION 99999999999\n", "HALVERN-PAGES 1\nOPTION -1\n",
+          "HALVERN-PAGES 1\nOPTION 1\nx", "HALVERN-PAGES 1\nPAGE 27\n1 front picture 0 2 300 300",
+          "HALVERN-PAGES 1\nPAGE 34\n1 front picture 4000000000 2 300 300"})
+        EXPECT_NE(faultOf(bytes), "") << bytes;
+}
+
+} // namespace
+
+} // namespace halvern

@@ -1,0 +1,288 @@
+#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/printing/ppd.h"
+#include "printer/papers/catalogue_archive.h"
+#include "printer/papers/catalogue_json.h"
+#include "printer/papers/paper_list.h"
+#include "printer/papers/ppd_catalogue.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cups/cups.h>
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+const QByteArray kTwoPapers = R"({"papers": [
+    {"sheet": "Gloss <A4> 紙", "width": 210, "surface": 1, "resolutions": [300, 610.5], "tones": [1, 32]},
+    {"roll": 152.4, "surfaces": [1, 3], "resolutions": [300], "note": "by the window"}]})";
+
+const QByteArray kPpd = "*PPD-Adobe: \"4.3\"\n"
+                        "*ModelName: \"Test\"\n"
+                        "*vlxduplex: \"False\"\n"
+                        "*Code: \"first\n"
+                        "*VLXPapersKnown00000: no statement\n"
+                        "last\"\n"
+                        "*End\n"
+                        "*VLXPapersKnownBest: \"kept\"\n"
+                        "*Last: \"without an end of line\"";
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return file.readAll();
+}
+
+QByteArray standardList()
+{
+    return contentOf(QStringLiteral(HALVERN_PAPER_LISTS "/standard.json"));
+}
+
+QString written(const QTemporaryDir& folder, const char* name, const QByteArray& content)
+{
+    const QString path = folder.filePath(QString::fromLatin1(name));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    return path;
+}
+
+PaperList listOf(const QByteArray& json)
+{
+    const PaperListResult result = readPaperList(json);
+    EXPECT_TRUE(result.list) << qPrintable(result.failure);
+    return result.list.value_or(PaperList());
+}
+
+QVariantMap recordOf(const PaperList& list, const char* key)
+{
+    return list.records.value(QString::fromUtf8(key)).toMap();
+}
+
+QByteArray jsonOf(const QVariantMap& catalogue)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    writeCatalogueJson(catalogue, buffer);
+    return buffer.data();
+}
+
+struct Finished {
+    int status;
+    QByteArray output;
+    QByteArray errors;
+};
+
+Finished run(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(HALVERN_PAPERS), arguments);
+    EXPECT_TRUE(process.waitForFinished());
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+} // namespace
+
+TEST(PaperListTest, SheetsAndRollsExpandToOneRecordAResolution)
+{
+    const PaperList list = listOf(kTwoPapers);
+    EXPECT_EQ(list.records.keys(),
+              (QStringList{QStringLiteral("Gloss <A4> 紙-r300"), QStringLiteral("Gloss <A4> 紙-r610"),
+                           QStringLiteral("w1524s1r300"), QStringLiteral("w1524s3r300")}));
+    EXPECT_EQ(recordOf(list, "Gloss <A4> 紙-r610"),
+              (QVariantMap{{QStringLiteral("paperName"), QStringLiteral("Gloss <A4> 紙")},
+                           {QStringLiteral("paperWidth"), 2100},
+                           {QStringLiteral("paperSurface"), 1},
+                           {QStringLiteral("paperResolution"), 6105},
+                           {QStringLiteral("paperTone"), 0x80000001u}}));
+    EXPECT_EQ(recordOf(list, "w1524s3r300"), (QVariantMap{{QStringLiteral("paperWidth"), 1524},
+                                                          {QStringLiteral("paperSurface"), 3},
+                                                          {QStringLiteral("paperResolution"), 3000},
+                                                          {QStringLiteral("paperTone"), 0}}));
+    EXPECT_FALSE(list.duplex || list.extraFeatures);
+}
+
+TEST(PaperListTest, FaultsAreNamedWithTheirPlaceAndARemedy)
+{
+    const struct {
+        const char* json;
+        const char* failure;
+    } cases[] = {
+        {"{\n \"papers\": [x]}", "line 2, near column 12: this is not JSON: illegal number"},
+        {R"({"papers": []})", "papers: give a list of papers with at least one, or a map of records by key"},
+        {R"([{"name": "A4"}])",
+         "papers[0]: give each paper either \"sheet\" with its name or \"roll\" with its width"},
+        {R"([{"sheet": "A", "resolutions": [300], "color": 1}])",
+         "papers[0]: \"color\" is not known here; use sheet, width, surface, resolutions, tones, note"},
+        {R"([{"sheet": "", "resolutions": [300]}])",
+         "papers[0].sheet: give the paper's name, a text that is not empty"},
+        {R"([{"sheet": "A"}])", "papers[0].resolutions: give a list, such as [300, 610]"},
+        {R"([{"roll": 152.45, "surfaces": [1], "resolutions": [300]}])",
+         "papers[0].roll: give millimetres with at most one decimal place, such as 152.4"},
+        {R"([{"roll": 152, "surfaces": [1, "x"], "resolutions": [300]}])",
+         "papers[0].surfaces[1]: give a surface code, such as 1"},
+        {R"([{"roll": 152, "surfaces": [1], "resolutions": [300, 300.4]}])",
+         "papers[0].resolutions[1]: makes the record \"w1520s1r300\" once more; papers[0].resolutions[0] has "
+         "made it "
+         "already. Take one out"},
+        {R"([{"roll": 152, "surfaces": [1], "resolutions": [300], "tones": [33]}])",
+         "papers[0].tones[0]: give a tone from 1 to 32"},
+        {R"([{"roll": 152, "surfaces": [1], "resolutions": [300], "tones": 3}])",
+         "papers[0].tones: give a list of tones, such as [1, 2], or leave it out"},
+        {R"({"papers": {}, "abilities": {"duplex": 1}})", "abilities.duplex: give true or false"},
+        {R"({"papers": {}, "ability": {}})", "\"ability\" is not known here; use abilities, papers"},
+        {R"({"w1s1r1": 5})", "w1s1r1: give a record, such as {\"paperWidth\": 1524}"},
+        {R"({"w1s1r1": {"paperWidth": -1}})", "w1s1r1.paperWidth: give a number that is not below zero"},
+    };
+
+    for (const auto& wrong : cases)
+        EXPECT_EQ(readPaperList(wrong.json).failure.toStdString(), wrong.failure) << wrong.json;
+}
+
+TEST(PaperArchiveTest, WhatIsPackedIsReadAgain)
+{
+    for (const QByteArray& json : {kTwoPapers, standardList(), QByteArray("{}")}) {
+        const QVariantMap records = listOf(json).records;
+        const auto result = KeyedUnarchiver::unarchiveDictionary(archiveOfCatalogue(records));
+        ASSERT_TRUE(result.root) << qPrintable(result.failure);
+        EXPECT_EQ(*result.root, records);
+        EXPECT_EQ(listOf(jsonOf(*result.root)).records, records);
+    }
+}
+
+TEST(PaperArchiveTest, ShownValuesAreExactJson)
+{
+    const QVariantMap record{{QStringLiteral("data"), QByteArray("\x00\x01", 2)},
+                             {QStringLiteral("large"), ~quint64(0)},
+                             {QStringLiteral("list"), QVariantList{true, 0.1, qint64(-5)}},
+                             {QStringLiteral("text"), QStringLiteral("\"紙\"\n")}};
+    EXPECT_EQ(jsonOf({{QStringLiteral("key"), record}}),
+              QByteArray(
+                  "{\n    \"key\": {\n        \"data\": \"AAE=\",\n        \"large\": 18446744073709551615,\n"
+                  "        \"list\": [\n            true,\n            0.1,\n            -5\n        ],\n"
+                  "        \"text\": \"\\\"紙\\\"\\n\"\n    }\n}\n"));
+}
+
+TEST(PaperPpdTest, TheRunIsWrittenReplacedAndShortened)
+{
+    const QTemporaryDir folder;
+    const PaperList many = listOf(standardList());
+    const PaperList few = listOf(kTwoPapers);
+    const QByteArray longer = ppdWithAttributes(kPpd, attributesOf(many));
+    EXPECT_TRUE(longer.contains("\n*VLXPapersKnown0000a: \""));
+    for (const QByteArray& line : longer.split('\n'))
+        EXPECT_LT(line.size(), 255);
+
+    QString failure;
+    EXPECT_EQ(archiveInPpd(written(folder, "long.ppd", longer), failure), archiveOfCatalogue(many.records));
+    const QByteArray shorter = ppdWithAttributes(longer, attributesOf(few));
+    EXPECT_EQ(archiveInPpd(written(folder, "short.ppd", shorter), failure), archiveOfCatalogue(few.records));
+    EXPECT_EQ(failure, QString());
+    EXPECT_EQ(shorter.count("*VLXPapersKnown0"), attributesOf(few).size() + 1);
+
+    const ppd::File file = ppd::open(folder.filePath(QStringLiteral("long.ppd")));
+    EXPECT_EQ(ppd::attribute(file.get(), QStringLiteral("VLXDuplex")), QStringLiteral("True"));
+    EXPECT_EQ(longer.toLower().count("*vlxduplex:"), 1);
+}
+
+TEST(PaperPpdTest, EverythingElseInThePpdStaysAsItWas)
+{
+    const QList<PpdAttribute> attributes = attributesOf(listOf(kTwoPapers));
+    const QByteArray once = ppdWithAttributes(kPpd, attributes);
+    EXPECT_EQ(once, kPpd + '\n' + ppdLines(attributes));
+    EXPECT_EQ(ppdWithAttributes(once + "*After: \"run\"\n", attributes), once + "*After: \"run\"\n");
+
+    QByteArray dos = kPpd;
+    dos.replace("\n", "\r\n");
+    EXPECT_EQ(ppdWithAttributes(dos, attributes), dos + "\r\n" + ppdLines(attributes, "\r\n"));
+
+    const QByteArray old = "*PPD-Adobe: \"4.3\"\n*VLXPapersKnown00000: \"ab\ncd\"\n*End\n*After: \"x\"\n";
+    EXPECT_EQ(ppdWithAttributes(old, attributes),
+              "*PPD-Adobe: \"4.3\"\n" + ppdLines(attributes) + "*After: \"x\"\n");
+}
+
+TEST(PaperPpdTest, AFilterReportsTheSameAttributes)
+{
+    const QList<PpdAttribute> attributes = attributesOf(listOf(standardList()));
+    const QList<QByteArray> lines = filterLines(attributes).trimmed().split('\n');
+    ASSERT_EQ(lines.size(), attributes.size());
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        ASSERT_TRUE(lines[i].startsWith("PPD: "));
+        cups_option_t* options = nullptr;
+        const int count = cupsParseOptions(lines[i].constData() + 5, 0, &options);
+        const char* value = cupsGetOption(attributes[i].keyword.constData(), count, options);
+        EXPECT_EQ(count, 1);
+        EXPECT_STREQ(value, attributes[i].value.constData());
+        cupsFreeOptions(count, options);
+    }
+}
+
+TEST(PapersProgramTest, PacksIntoAPpdAndShowsWhatIsThere)
+{
+    const QTemporaryDir folder;
+    const QString ppd = written(folder, "queue.ppd", kPpd);
+    QFile::setPermissions(ppd, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    const auto permissions = QFile::permissions(ppd);
+    const Finished packed = run(
+        {QStringLiteral("pack"), written(folder, "papers.json", kTwoPapers), QStringLiteral("--ppd"), ppd});
+    EXPECT_EQ(packed.status, 0) << packed.errors.constData();
+    EXPECT_EQ(packed.output, QByteArray());
+    EXPECT_EQ(QFile::permissions(ppd), permissions);
+    const Finished shown = run({QStringLiteral("show"), ppd});
+    EXPECT_EQ(shown.status, 0);
+    EXPECT_EQ(shown.output, jsonOf(listOf(kTwoPapers).records));
+}
+
+TEST(PapersProgramTest, ACorruptCatalogueEndsInStatusOne)
+{
+    const QTemporaryDir folder;
+    const QByteArray archive = archiveOfCatalogue(listOf(kTwoPapers).records);
+    const QByteArray cut = archive.first(archive.size() / 2);
+    const QByteArray ppd = kPpd + "\n*VLXPapersKnown00000: \"" + cut.toBase64().first(200) + "\"\n";
+    for (const QString& path : {written(folder, "cut.plist", cut), written(folder, "cut.ppd", ppd)}) {
+        const Finished shown = run({QStringLiteral("show"), path});
+        EXPECT_EQ(shown.status, 1);
+        EXPECT_EQ(shown.output, QByteArray());
+        EXPECT_TRUE(shown.errors.startsWith("corrupt: ")) << shown.errors.constData();
+    }
+}
+
+TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
+{
+    const QTemporaryDir folder;
+    const QString json = written(folder, "papers.json", kTwoPapers);
+    const QString text = written(folder, "notes.txt", "hello");
+    const QString pack = QStringLiteral("pack");
+    const QString show = QStringLiteral("show");
+    const QString ppd = QStringLiteral("--ppd");
+
+    const struct {
+        QStringList arguments;
+        int status;
+        const char* words;
+    } cases[] = {
+        {{}, 2, "--help"},
+        {{pack, json, QStringLiteral("--pdp"), text}, 2, "pdp"},
+        {{pack, json, ppd, text, QStringLiteral("--archive")}, 2, "one of --ppd"},
+        {{pack, folder.filePath(QStringLiteral("none.json"))}, 1, "No such file"},
+        {{pack, text}, 1, "line 1, near column 1: this is not JSON"},
+        {{pack, json, ppd, text}, 1, "is not a PPD file"},
+        {{pack, json, ppd, folder.filePath(QStringLiteral("none.ppd"))}, 1, "No such file"},
+        {{show, written(folder, "bare.ppd", kPpd)}, 1, "holds no papers"},
+        {{show, written(folder, "broken.ppd", "*PPD-Adobe: \"4.3\"\n" + QByteArray(300, 'x'))}, 1, "line 2"},
+    };
+
+    for (const auto& mistake : cases) {
+        const Finished finished = run(mistake.arguments);
+        EXPECT_EQ(finished.status, mistake.status);
+        EXPECT_TRUE(finished.errors.contains(mistake.words)) << finished.errors.constData();
+        EXPECT_EQ(finished.output, QByteArray());
+    }
+    EXPECT_EQ(contentOf(text), QByteArray("hello"));
+}
+
+} // namespace halvern

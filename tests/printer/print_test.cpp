@@ -1,0 +1,175 @@
+#include "tests/printer/print_job.h"
+#include "tests/support/observers.h"
+#include "tests/support/private_cups.h"
+
+#include <QDir>
+#include <QImage>
+
+#include <cups/cups.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace halvern {
+
+namespace {
+
+/// One server and one queue for all its tests, and a folder for documents.
+class PrintingTest : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        server = std::make_unique<PrivateCups>();
+        ASSERT_TRUE(server->isRunning()) << server->error().toStdString();
+        ASSERT_TRUE(server->addQueue(QStringLiteral("Tessarin"))) << server->error().toStdString();
+    }
+
+    static void TearDownTestSuite() { server.reset(); }
+
+    QString document(const char* name) const { return documents.filePath(QLatin1String(name)); }
+
+    int print(const QString& file, const char* format, const TextOptions& options) const
+    {
+        const int job = printFile("Tessarin", file, format, options);
+        EXPECT_GT(job, 0) << cupsLastErrorString();
+        EXPECT_TRUE(reaches(job, IPP_JSTATE_COMPLETED)) << jobState(job);
+        return job;
+    }
+
+    QStringList pages(int job) const
+    {
+        return QDir(server->jobFile(job, QString()))
+            .entryList({QStringLiteral("page-*")}, QDir::Files, QDir::Name);
+    }
+
+    static inline std::unique_ptr<PrivateCups> server;
+    QTemporaryDir documents;
+};
+
+TEST_F(PrintingTest, EachKindOfDocumentBecomesWholeSheetsInTheRastersPixels)
+{
+    struct Case {
+        QString file;
+        const char* format;
+        TextOptions options;
+        QSize size;
+        int dotsPerMetre;
+    };
+
+    const Case cases[] = {
+        {makePhoto(document("a.jpg")), "image/jpeg", {}, {1200, 1800}, 11811},
+        {makePhoto(document("b.png")), "image/png", {{"PageSize", "Postcard"}}, {1181, 1748}, 11811},
+        {makePdf(document("c.pdf"), 1), "application/pdf", {{"Resolution", "360dpi"}}, {1440, 2160}, 14173},
+        {makePdf(document("d.pdf"), 1),
+         "application/pdf",
+         {{"PaperFeed", "Roll"}, {"PageSize", "Roll1270x1270"}, {"Resolution", "610dpi"}},
+         {3050, 3050},
+         24016},
+        {makePhoto(document("e.jpg")), "image/jpeg", {{"ColorModel", "Gray"}}, {1200, 1800}, 11811},
+    };
+    for (const Case& one : cases) {
+        const int job = print(one.file, one.format, one.options);
+        EXPECT_EQ(pages(job), QStringList{QStringLiteral("page-1.png")});
+        const QImage page(server->jobFile(job, QStringLiteral("page-1.png")));
+        EXPECT_EQ(page.size(), one.size) << one.file.toStdString();
+        EXPECT_EQ(page.dotsPerMeterX(), one.dotsPerMetre);
+        EXPECT_EQ(page.dotsPerMeterY(), one.dotsPerMetre);
+        EXPECT_LT(qRed(page.pixel(page.rect().center())), 200) << one.file.toStdString();
+    }
+}
+
+TEST_F(PrintingTest, ThePrinterLeavesTheMarginsOfThePageWhite)
+{
+    const QString file = makePdf(document("full.pdf"), 1);
+    const QImage framed(
+        server->jobFile(print(file, "application/pdf", {{"PageSize", "4x6"}}), QStringLiteral("page-1.png")));
+    const QImage full(server->jobFile(print(file, "application/pdf", {{"PageSize", "4x6.Fullbleed"}}),
+                                      QStringLiteral("page-1.png")));
+    // 8.5 points at the sides and above, 12 below: 35 and 50 pixels.
+    for (const QPoint& inMargin : {QPoint(20, 900), QPoint(600, 20), QPoint(1180, 900), QPoint(600, 1760)}) {
+        EXPECT_EQ(framed.pixelColor(inMargin), QColor(Qt::white)) << inMargin.x() << ' ' << inMargin.y();
+        EXPECT_GT(full.pixelColor(inMargin).blue() - full.pixelColor(inMargin).red(), 100);
+    }
+    for (const QPoint& inside : {QPoint(60, 900), QPoint(600, 60), QPoint(1140, 900), QPoint(600, 1720)})
+        EXPECT_GT(framed.pixelColor(inside).blue() - framed.pixelColor(inside).red(), 100);
+}
+
+TEST_F(PrintingTest, OptionsArriveByteForByteWhetherThePpdListsThemOrNot)
+{
+    std::string longLine;
+    for (int i = 0; i < 60; ++i)
+        longLine += "\xe2\x89\xa4\xc3\xa6";
+    longLine += " ";
+    const TextOptions sent = {
+        {"SharpnessEnabled", "True"},
+        {"SharpnessRadius", "7"},
+        {"SharpnessIntensity", "1.24"},
+        {"Brightness", "-37"},
+        {"PaperName", "Gl\xc3\xa4nzend \xe6\x97\xa5\xe6\x9c\xac, A4"},
+        {"Gamma", "abc"},
+        {"DebugLog", "False"},
+        {"NoSuchOption", "x=y"},
+        {"Broken", "one\ntwo\n\tthree\r"},
+        {"CVP2", "true"},
+        {"CVP1", longLine},
+    };
+    const auto received =
+        server->receivedOptions(print(makePhoto(document("a.jpg")), "image/jpeg", sent)).value();
+    for (const auto& [key, value] : sent)
+        EXPECT_EQ(received.at(QString::fromStdString(key)).toStdString(), value) << key;
+    for (const char* line : {"{", "{a=b c}", "it's \"so\\", "\\", "\\ \\\\ ", "noCVP1", " ", "<&>%41$x;|"}) {
+        const auto got = server->receivedOptions(
+            print(makePhoto(document("a.jpg")), "image/jpeg", {{"EnableCVP1", "False"}, {"CVP1", line}}));
+        EXPECT_EQ(got.value().at(QStringLiteral("CVP1")).toStdString(), line);
+        EXPECT_EQ(got.value().at(QStringLiteral("EnableCVP1")), QStringLiteral("False"));
+    }
+}
+
+TEST_F(PrintingTest, TwoSidedPagesShareASheetByEitherOption)
+{
+    for (const TextOptions& option :
+         {TextOptions{{"TwoSided", "ShortEdge"}}, TextOptions{{"Duplex", "DuplexNoTumble"}}}) {
+        EXPECT_EQ(pages(print(makePdf(document("three.pdf"), 3), "application/pdf", option)),
+                  (QStringList{QStringLiteral("page-1-back.png"), QStringLiteral("page-1.png"),
+                               QStringLiteral("page-2.png")}));
+    }
+}
+
+TEST_F(PrintingTest, EachCopyIsASheetWithItsBackprint)
+{
+    const TextOptions options = {{"copies", "2"},
+                                 {"EnableCVP1", "True"},
+                                 {"CVP1", "Summer\xe2\x89\xa4 2026"},
+                                 {"EnableCVP2", "False"},
+                                 {"CVP2", "not this"}};
+    const int job = print(makePdf(document("one.pdf"), 1), "application/pdf", options);
+    EXPECT_EQ(pages(job), (QStringList{QStringLiteral("page-1-back.png"), QStringLiteral("page-1.png"),
+                                       QStringLiteral("page-2-back.png"), QStringLiteral("page-2.png")}));
+    const QImage back(server->jobFile(job, QStringLiteral("page-1-back.png")));
+    EXPECT_EQ(back.size(), QSize(1200, 1800));
+    int dark = 0;
+    for (int y = 90; y < 180; ++y) {
+        for (int x = 0; x < back.width(); ++x)
+            dark += qGray(back.pixel(x, y)) < 128 ? 1 : 0;
+    }
+    EXPECT_GT(dark, 200);
+}
+
+TEST_F(PrintingTest, TheCommandFileIsKeptAsItWasSent)
+{
+    const QByteArray commands = "#CUPS-COMMAND\nReportStatus\nAutoConfigure\n";
+    QFile file(document("commands"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(commands);
+    file.close();
+    const int job = print(file.fileName(), "application/vnd.cups-command", {});
+    QFile kept(server->jobFile(job, QStringLiteral("command")));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), commands);
+    EXPECT_EQ(pages(job), QStringList());
+}
+
+} // namespace
+
+} // namespace halvern

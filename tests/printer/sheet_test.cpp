@@ -1,0 +1,102 @@
+#include "printer/back_text.h"
+#include "printer/page_stream.h"
+#include "printer/sheet_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+cups_page_header2_t rasterHeader()
+{
+    cups_page_header2_t header = {};
+    header.HWResolution[0] = header.HWResolution[1] = 72;
+    header.cupsPageSize[0] = 10;
+    header.cupsPageSize[1] = 8;
+    header.cupsImagingBBox[0] = 2;
+    header.cupsImagingBBox[1] = 1;
+    header.cupsImagingBBox[2] = 9;
+    header.cupsImagingBBox[3] = 5;
+    header.cupsWidth = 7;
+    header.cupsHeight = 4;
+    header.cupsBitsPerColor = 8;
+    header.cupsColorSpace = CUPS_CSPACE_RGB;
+    header.cupsBytesPerLine = 21;
+    return header;
+}
+
+TEST(SheetLayoutTest, PutsThePrintablePartWhereItLiesOnTheSheet)
+{
+    std::string error;
+    const auto sheet = layOut(rasterHeader(), error);
+    ASSERT_TRUE(sheet) << error;
+    EXPECT_EQ(sheet->width, 10U);
+    EXPECT_EQ(sheet->height, 8U);
+    EXPECT_EQ(sheet->left, 2U);
+    EXPECT_EQ(sheet->top, 3U);
+}
+
+TEST(SheetLayoutTest, GrayRowsBecomeColorRowsWithWhiteBesideThem)
+{
+    cups_page_header2_t header = rasterHeader();
+    header.cupsColorSpace = CUPS_CSPACE_K;
+    header.cupsWidth = header.cupsBytesPerLine = 2;
+    std::vector<uint8_t> row(12, 7);
+    placeRow(header, {4, 8, 1, 0}, std::vector<uint8_t>{0, 255}, row);
+    EXPECT_EQ(row, (std::vector<uint8_t>{255, 255, 255, 255, 255, 255, 0, 0, 0, 255, 255, 255}));
+}
+
+TEST(SheetLayoutTest, RefusesRastersThatThePrinterCannotTake)
+{
+    std::string error;
+    auto refuses = [&error](auto change) {
+        cups_page_header2_t header = rasterHeader();
+        change(header);
+        return !layOut(header, error).has_value();
+    };
+    EXPECT_TRUE(refuses([](auto& h) { h.cupsColorSpace = CUPS_CSPACE_CMYK; }));
+    EXPECT_TRUE(refuses([](auto& h) { h.cupsBitsPerColor = 16; }));
+    EXPECT_TRUE(refuses([](auto& h) { h.cupsBytesPerLine = 20; }));
+    EXPECT_TRUE(refuses([](auto& h) { h.cupsHeight = 0; }));
+    EXPECT_TRUE(refuses([](auto& h) { h.cupsHeight = 4'000'000'000U; }));
+    EXPECT_TRUE(refuses([](auto& h) { h.HWResolution[1] = 0; }));
+}
+
+TEST(BackTextTest, TakesTheLinesThatAreSwitchedOnWithCommaAndApostropheBack)
+{
+    const std::string line = "Anna\xe2\x89\xa4 Peter\xc3\xa6s";
+    EXPECT_EQ(backLines({{"CVP1", line}, {"EnableCVP1", "True"}, {"CVP2", "x"}, {"EnableCVP2", "False"}}),
+              std::vector<std::string>{"Anna, Peter's"});
+    EXPECT_TRUE(backLines({{"CVP1", ""}, {"EnableCVP1", "True"}}).empty());
+}
+
+TEST(BackTextTest, ALongLineIsPrintedWhollyBetweenTheEdges)
+{
+    const PageHeader page = {1, true, true, 1200, 400, 300, 300};
+    const BackText text({std::string(120, 'W'), "second"}, page);
+    int first = -1;
+    int last = -1;
+    int inkedRows = 0;
+    std::vector<uint8_t> row(size_t{page.width} * 3);
+    for (uint32_t y = 0; y < page.height; ++y) {
+        text.row(y, row);
+        const auto dark = [](uint8_t v) { return v < 128; };
+        const auto from = std::find_if(row.begin(), row.end(), dark);
+        if (from == row.end())
+            continue;
+        ++inkedRows;
+        first = first < 0 ? int(from - row.begin()) / 3 : std::min(first, int(from - row.begin()) / 3);
+        last = std::max(last, int(row.rend() - std::find_if(row.rbegin(), row.rend(), dark)) / 3);
+    }
+    EXPECT_GT(inkedRows, 10);
+    EXPECT_GE(first, 90);
+    EXPECT_LE(last, 1200 - 90);
+    EXPECT_GT(last, 900);
+}
+
+} // namespace
+
+} // namespace halvern
