@@ -93,7 +93,7 @@ int main(int argc, char** argv)
     if (arguments.value(1) == QLatin1StringView("bare"))
         return runBare(out);
     if (arguments.size() != 2) {
-        QTextStream(stderr) << "usage: halvern-bench-start bare | FILE" << Qt::endl;
+        QTextStream(stderr) << "usage: bench-dialog-start bare | FILE" << Qt::endl;
         return 2;
     }
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
