@@ -127,9 +127,10 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         Q_EMIT printerFailed(ppd.problem);
         return;
     }
-    model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
+    model_ = std::make_shared<PpdModel>(std::move(*ppd.file));
     // Not from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri), model_,
+                                   request_.panelsTalkToPrinter);
     applyOptions();
     loadPanels();
     Q_EMIT printerReady();

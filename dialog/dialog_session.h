@@ -29,6 +29,7 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
+    bool panelsTalkToPrinter = true; ///< whether panels may send the printer commands of their own
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -133,7 +134,7 @@ private:
     SavedOptions saved_;
     PrinterList* printers_;
     QString printerName_;
-    std::unique_ptr<PpdModel> model_;
+    std::shared_ptr<PpdModel> model_; // panels may hold its PPD for longer
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<Host> host_;
     PanelList panels_;

@@ -37,40 +37,73 @@ BusyThreads& busyThreads()
     return *threads;
 }
 
-// Where the main thread's work is posted to. It lives for ever: a worker that nobody joins may post while the
-// application object is going.
-QObject* makeMainTarget()
+// What waits for the main thread. It lives for ever, and the events that are posted carry nothing: a worker
+// that nobody joins may submit while the application object is going, and work that never runs is never
+// destroyed either (that happens under the event queue's lock, where a panel's last reference must not drop).
+struct MainWork {
+    std::mutex mutex;
+    std::deque<std::function<void()>> work;
+    QObject target;
+
+    MainWork()
+    {
+        if (const QCoreApplication* app = QCoreApplication::instance())
+            target.moveToThread(app->thread());
+    }
+
+    void submit(std::function<void()> next)
+    {
+        {
+            const std::scoped_lock lock(mutex);
+            work.push_back(std::move(next));
+        }
+        QMetaObject::invokeMethod(
+            &target, [this] { runOne(); }, Qt::QueuedConnection);
+    }
+
+    // One for each event, so that the work keeps its place among the other events.
+    void runOne()
+    {
+        std::function<void()> next;
+        {
+            const std::scoped_lock lock(mutex);
+            next = std::move(work.front());
+            work.pop_front();
+        }
+        next();
+    }
+};
+
+MainWork& mainWork()
 {
-    QObject* target = std::make_unique<QObject>().release();
-    if (const QCoreApplication* app = QCoreApplication::instance())
-        target->moveToThread(app->thread());
-    return target;
+    static MainWork* const work = std::make_unique<MainWork>().release();
+    return *work;
 }
 
-QObject* mainTarget()
+void settleMainWork()
 {
-    static QObject* const target = makeMainTarget();
-    return target;
+    mainWork();
 }
 
-void settleMainTarget()
-{
-    mainTarget();
-}
-
-Q_COREAPP_STARTUP_FUNCTION(settleMainTarget)
+Q_COREAPP_STARTUP_FUNCTION(settleMainWork)
 
 } // namespace
 
 void MainQueue::async(std::function<void()> work) const
 {
-    QMetaObject::invokeMethod(mainTarget(), std::move(work), Qt::QueuedConnection);
+    mainWork().submit(std::move(work));
 }
 
 void MainQueue::after(int milliseconds, std::function<void()> work) const
 {
     async([milliseconds, work = std::move(work)]() mutable {
-        QTimer::singleShot(milliseconds, mainTarget(), std::move(work));
+        // Like other work that never runs, it stays if the timer is dropped.
+        std::function<void()>* const held =
+            std::make_unique<std::function<void()>>(std::move(work)).release();
+        QTimer::singleShot(milliseconds, &mainWork().target, [held] {
+            const std::unique_ptr<std::function<void()>> due(held);
+            (*due)();
+        });
     });
 }
 
