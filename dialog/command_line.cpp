@@ -100,8 +100,6 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
                 kExitPrinted};
     CommandLine line;
     line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
-    // Nobody looks at a panel: its own questions to the printer would only be jobs that nobody asked for.
-    line.request.panelsTalkToPrinter = line.showDialog;
     line.dryRun = parser.isSet(switches.dryRun);
     const QString problem = readValues(parser, switches, line);
     if (!problem.isEmpty())

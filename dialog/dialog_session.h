@@ -29,7 +29,9 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
-    bool panelsTalkToPrinter = true; ///< whether panels may send the printer commands of their own
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which sends
+    /// it command jobs.
+    bool panelsAskPrinter = true;
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
