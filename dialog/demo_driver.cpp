@@ -18,7 +18,8 @@ constexpr char kUsage[] =
     "usage: halvern-print-demo STEPS-FILE SCREENS-FOLDER [options of halvern-print] FILE...\n"
     "A step a line: ready | page ID | click TARGET | type TARGET TEXT | choose TARGET CHOICE | slide TARGET "
     "VALUE\n"
-    "| screenshot NAME | print | close. TARGET is name:OBJECT-NAME or tag:NUMBER. # begins a comment.\n";
+    "| screenshot NAME | print | dark | close. TARGET is name:OBJECT-NAME or tag:NUMBER. # begins a "
+    "comment.\n";
 
 QStringList readSteps(const QString& path)
 {
@@ -40,7 +41,7 @@ int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    prepareProcess(argc, argv);
+    prepareProcess();
     QApplication app(argc, argv);
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
     QTextStream out(stdout);

@@ -91,7 +91,7 @@ void DialogSession::selectPrinter(const QString& name)
     stopFetching_ = cups::makeCancelFlag();
     Q_EMIT printerSelected(name);
     const PrinterInfo* info = printers_->find(name);
-    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri.toString() : QString();
+    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
     QPointer<DialogSession> self(this);
     WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
         QueuePpd ppd;
@@ -128,8 +128,8 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return;
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
-    const PrinterInfo* info = printers_->find(name);
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QUrl()));
+    // Not from the list, which may come later: a panel asks once and remembers.
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
     applyOptions();
     loadPanels();
     Q_EMIT printerReady();
@@ -180,7 +180,7 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
 
 ChangeResult DialogSession::change(const QString& key, const QVariant& value)
 {
-    const QMap<QString, QString> before = model_->values();
+    const QString before = model_->value(key);
     ChangeResult result = model_->change(key, value);
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
@@ -191,13 +191,25 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value)
         storeInSettings(side.key);
         tellPanels(side.key, side.choice);
     }
-    if (!result.sideChanges.empty()) {
-        beforeLastChange_ = before;
-        lastChangedKey_ = key;
-        Q_EMIT otherOptionsChanged(result.sideChanges);
-    }
+    rememberForUndo(key, before, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
+}
+
+void DialogSession::rememberForUndo(const QString& key, const QString& before,
+                                    const QList<SideChange>& changes)
+{
+    if (changes.isEmpty()) {
+        if (beforeLastChange_.contains(key)) {
+            beforeLastChange_.clear();
+            Q_EMIT undoExpired();
+        }
+        return;
+    }
+    beforeLastChange_ = {{key, before}};
+    for (const SideChange& change : changes)
+        beforeLastChange_.insert(change.key, change.before);
+    Q_EMIT otherOptionsChanged(changes);
 }
 
 void DialogSession::storeInSettings(const QString& key)
@@ -230,12 +242,9 @@ void DialogSession::undoLastChange()
 {
     if (!model_ || beforeLastChange_.isEmpty())
         return;
-    const QMap<QString, QString> now = model_->values();
     const QMap<QString, QString> before = std::exchange(beforeLastChange_, {});
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
-        if (now.value(it.key()) == it.value())
-            continue;
         storeInSettings(it.key());
         tellPanels(it.key(), it.value());
     }

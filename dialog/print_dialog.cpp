@@ -78,6 +78,7 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
 PrintDialog::~PrintDialog()
 {
     disconnect(&session_, nullptr, this, nullptr);
+    deck_->releasePanels();
 }
 
 QWidget* PrintDialog::makePreviewSide()
@@ -237,6 +238,7 @@ void PrintDialog::connectSession()
         deck_->refresh();
         showPhotos();
     });
+    connect(&session_, &DialogSession::undoExpired, this, [this] { message_->clearAction(); });
     connect(message_, &MessageBar::actionChosen, &session_, &DialogSession::undoLastChange);
 }
 

@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QTimer>
-#include <QUrl>
 
 #include <vector>
 
@@ -19,7 +18,7 @@ struct PrinterInfo {
     PrinterState state = PrinterState::idle;
     QStringList reasons;
     bool isAccepting = true;
-    QUrl deviceUri;
+    QString deviceUri;
     bool isDiscovered = false; ///< seen on the network, without a queue of its own yet
 
     bool operator==(const PrinterInfo&) const = default;

@@ -24,7 +24,7 @@ void readAttribute(ipp_attribute_t* attribute, PrinterInfo& printer)
     } else if (name == QLatin1StringView("printer-is-accepting-jobs")) {
         printer.isAccepting = ippGetBoolean(attribute, 0) != 0;
     } else if (name == QLatin1StringView("device-uri")) {
-        printer.deviceUri = QUrl(QString::fromUtf8(ippGetString(attribute, 0, nullptr)));
+        printer.deviceUri = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
     } else if (name == QLatin1StringView("printer-state-reasons")) {
         for (int i = 0; i < ippGetCount(attribute); ++i) {
             const QString reason = QString::fromUtf8(ippGetString(attribute, i, nullptr));
@@ -69,7 +69,7 @@ int addDiscovered(void* found, unsigned flags, cups_dest_t* dest)
         const char* info = cupsGetOption("printer-info", dest->num_options, dest->options);
         printer.info = info ? QString::fromUtf8(info) : printer.name;
         const char* uri = cupsGetOption("device-uri", dest->num_options, dest->options);
-        printer.deviceUri = QUrl(QString::fromUtf8(uri));
+        printer.deviceUri = QString::fromUtf8(uri);
         printer.isDiscovered = true;
         static_cast<std::vector<PrinterInfo>*>(found)->push_back(printer);
     }
