@@ -37,73 +37,84 @@ BusyThreads& busyThreads()
     return *threads;
 }
 
-// What waits for the main thread. It lives for ever, and the events that are posted carry nothing: a worker
-// that nobody joins may submit while the application object is going, and work that never runs is never
-// destroyed either (that happens under the event queue's lock, where a panel's last reference must not drop).
+// Where the main thread's work is posted to. It lives for ever: a worker that nobody joins may post while the
+// application object is going.
+QObject* makeMainTarget()
+{
+    QObject* target = std::make_unique<QObject>().release();
+    if (const QCoreApplication* app = QCoreApplication::instance())
+        target->moveToThread(app->thread());
+    return target;
+}
+
+QObject* mainTarget()
+{
+    static QObject* const target = makeMainTarget();
+    return target;
+}
+
+// The work itself is kept apart from Qt's events, which only say that there is some: an application object
+// that goes deletes its pending events under a lock, and the last reference to a panel must not drop there.
 struct MainWork {
     std::mutex mutex;
-    std::deque<std::function<void()>> work;
-    QObject target;
-
-    MainWork()
-    {
-        if (const QCoreApplication* app = QCoreApplication::instance())
-            target.moveToThread(app->thread());
-    }
-
-    void submit(std::function<void()> next)
-    {
-        {
-            const std::scoped_lock lock(mutex);
-            work.push_back(std::move(next));
-        }
-        QMetaObject::invokeMethod(
-            &target, [this] { runOne(); }, Qt::QueuedConnection);
-    }
-
-    // One for each event, so that the work keeps its place among the other events.
-    void runOne()
-    {
-        std::function<void()> next;
-        {
-            const std::scoped_lock lock(mutex);
-            next = std::move(work.front());
-            work.pop_front();
-        }
-        next();
-    }
+    std::deque<std::function<void()>> pending;
 };
 
 MainWork& mainWork()
 {
+    // Never destroyed, like what it works for.
     static MainWork* const work = std::make_unique<MainWork>().release();
     return *work;
 }
 
-void settleMainWork()
+void runNextMainWork()
 {
-    mainWork();
+    std::function<void()> next;
+    {
+        const std::scoped_lock lock(mainWork().mutex);
+        if (mainWork().pending.empty())
+            return;
+        next = std::move(mainWork().pending.front());
+        mainWork().pending.pop_front();
+    }
+    next();
 }
 
-Q_COREAPP_STARTUP_FUNCTION(settleMainWork)
+void announceMainWork()
+{
+    QMetaObject::invokeMethod(mainTarget(), &runNextMainWork, Qt::QueuedConnection);
+}
+
+// What an application object before this one left has lost its announcement.
+void settleMainTarget()
+{
+    mainTarget();
+    size_t left = 0;
+    {
+        const std::scoped_lock lock(mainWork().mutex);
+        left = mainWork().pending.size();
+    }
+    while (left-- > 0)
+        announceMainWork();
+}
+
+Q_COREAPP_STARTUP_FUNCTION(settleMainTarget)
 
 } // namespace
 
 void MainQueue::async(std::function<void()> work) const
 {
-    mainWork().submit(std::move(work));
+    {
+        const std::scoped_lock lock(mainWork().mutex);
+        mainWork().pending.push_back(std::move(work));
+    }
+    announceMainWork();
 }
 
 void MainQueue::after(int milliseconds, std::function<void()> work) const
 {
     async([milliseconds, work = std::move(work)]() mutable {
-        // Like other work that never runs, it stays if the timer is dropped.
-        std::function<void()>* const held =
-            std::make_unique<std::function<void()>>(std::move(work)).release();
-        QTimer::singleShot(milliseconds, &mainWork().target, [held] {
-            const std::unique_ptr<std::function<void()>> due(held);
-            (*due)();
-        });
+        QTimer::singleShot(milliseconds, mainTarget(), std::move(work));
     });
 }
 
