@@ -56,7 +56,9 @@ TEST_F(BackprintPanelTest, AFailedWriteIsLoggedAndTheOthersGoOn)
 {
     host->settings = std::make_shared<LockedSettings>();
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
-    EXPECT_EQ(log.count(QStringLiteral("PDE got an error -9543 setting the value for CVP2 !")), 1);
+    EXPECT_EQ(
+        log.count(QStringLiteral("PDE got an error %1 setting the value for CVP2 !").arg(kPrintingKeyLocked)),
+        1);
     EXPECT_EQ(saved("EnableCVP2"), QStringLiteral("True"));
     host->settings = nullptr;
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
@@ -130,7 +132,13 @@ TEST_F(BackprintPanelTest, ThePreviewShowsTheSwitchedOnLinesAsTyped)
     EXPECT_NE(preview->grab().toImage(), empty);
     click(512);
     EXPECT_EQ(preview->line(0), QString());
+    const QImage second = preview->grab().toImage();
+    click(512);
     click(513);
+    line(1)->clear();
+    type(1, QStringLiteral("It's ours"));
+    EXPECT_EQ(preview->grab().toImage(), second) << "the printer leaves no gap for a missing line";
+    click(512);
     EXPECT_EQ(preview->grab().toImage(), empty);
 }
 
