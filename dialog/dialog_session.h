@@ -29,6 +29,7 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
+    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -81,6 +82,10 @@ public:
     /// Whether print() would do something.
     bool canPrint() const;
 
+    /// Why the request's lines for the back cannot be printed on the selected printer; empty if they can, or
+    /// if there are none.
+    const QString& backLinesProblem() const { return backLinesProblem_; }
+
     /// Lets the panels save and merges the job's options.
     OptionValues collectOptions();
 
@@ -118,9 +123,12 @@ private:
     void takePpd(const QString& name, const QueuePpd& ppd);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
-    void applyOptions();
+    void applyOptions(const OptionValues& queueDefaults);
+    void applyBackLines();
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value);
+    void rememberForUndo(const QString& key, const QMap<QString, QString>& before,
+                         const QList<SideChange>& sideChanges);
     void storeInSettings(const QString& key);
     void tellPanels(const QString& key, const QString& choice);
 
@@ -136,8 +144,8 @@ private:
     PageSettings page_;
     std::vector<Photo> photos_;
     int filesLeft_ = 0;
-    QMap<QString, QString> beforeLastChange_;
-    QString lastChangedKey_;
+    QMap<QString, QString> beforeLastChange_; // of the options that it changed
+    QString backLinesProblem_;
     cups::CancelFlag stopFetching_;
     cups::CancelFlag stopAll_;
 };

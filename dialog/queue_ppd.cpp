@@ -9,9 +9,28 @@ namespace halvern {
 
 namespace {
 
+constexpr char kDefaultEnding[] = "-default";
+
 QString words(const char* text)
 {
     return QCoreApplication::translate("Server", text);
+}
+
+// The server has its own attributes under such names, too: those are in small letters, options of a printer's
+// maker are not.
+OptionValues readDefaults(ipp_t* answer)
+{
+    OptionValues defaults;
+    for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        const QString name = QString::fromUtf8(ippGetName(a));
+        if (name.isEmpty() || !name.front().isUpper() || !name.endsWith(QLatin1StringView(kDefaultEnding)))
+            continue;
+        const bool isTruth = ippGetValueTag(a) == IPP_TAG_BOOLEAN;
+        const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
+        if (value)
+            defaults.append({name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
+    }
+    return defaults;
 }
 
 } // namespace
@@ -38,6 +57,9 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = result.problem.arg(queue);
         return result;
     }
+    // Without an answer, the queue has no such defaults: nothing to keep anybody from printing.
+    if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
+        result.defaults = readDefaults(answer.get());
     QString why;
     ppd::File file = ppd::open(QFile::decodeName(path), &why);
     QFile::remove(QFile::decodeName(path));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups_connection.h"
+#include "dialog/saved_options.h"
 #include "platform/printing/ppd.h"
 
 namespace halvern {
@@ -8,6 +9,8 @@ namespace halvern {
 /// A queue's PPD as fetched and parsed, or the sentence that says why there is none.
 struct QueuePpd {
     std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
+    /// What the administrator set for the queue beside the PPD, for keywords that the PPD does not list.
+    OptionValues defaults;
     QString problem;
 };
 
