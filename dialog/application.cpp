@@ -12,6 +12,12 @@
 #include <syslog.h>
 #include <unistd.h>
 
+// A resource in a static library has to be asked for, outside any namespace.
+static void initTranslations()
+{
+    Q_INIT_RESOURCE(dialog_translations);
+}
+
 namespace halvern {
 
 namespace {
@@ -65,6 +71,7 @@ QString displayProblem()
 
 QList<std::shared_ptr<QTranslator>> prepareApplication()
 {
+    initTranslations();
     QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());

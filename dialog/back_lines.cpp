@@ -36,9 +36,10 @@ BackLine readBackLine(int number, const QString& text)
     const backprint::EnteredLine entered = backprint::enteredLine(text);
     BackLine line{entered.stored, {}};
     if (!entered.refused.isEmpty()) {
-        line.remarks.append(BackLineWords::tr("Backprint line %1 cannot hold %2; this was left out. It takes "
-                                              "unaccented letters, digits, signs and \"©\".")
-                                .arg(QString::number(number), eachOnce(entered.refused)));
+        line.remarks.append(
+            BackLineWords::tr("Backprint line %1 cannot hold %2, which was left out. It takes the characters "
+                              "of an English keyboard except \"~\", and \"©\".")
+                .arg(QString::number(number), eachOnce(entered.refused)));
     }
     if (entered.beyondLimit > 0) {
         line.remarks.append(

@@ -129,9 +129,8 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return;
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
-    const PrinterInfo* info = printers_->find(name);
-    host_ =
-        std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QString()));
+    // Not from the list, which may come later: a panel asks once and remembers.
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
     applyOptions(ppd.defaults);
     loadPanels();
     Q_EMIT printerReady();
@@ -169,7 +168,7 @@ void DialogSession::applyBackLines()
         }
     }
     for (const OptionValue& option : backLineOptions(request_.backLines)) {
-        const QMap<QString, QString> before = model_->values();
+        const QString before = model_->value(option.key);
         const ChangeResult result = model_->change(option.key, option.value);
         if (!result.accepted) {
             backLinesProblem_ = result.refusal;
@@ -211,7 +210,7 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
 
 ChangeResult DialogSession::change(const QString& key, const QVariant& value)
 {
-    const QMap<QString, QString> before = model_->values();
+    const QString before = model_->value(key);
     ChangeResult result = model_->change(key, value);
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
@@ -227,16 +226,20 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value)
     return result;
 }
 
-// Only what the change itself touched: what the user does until the change is taken back, stays.
-void DialogSession::rememberForUndo(const QString& key, const QMap<QString, QString>& before,
-                                    const QList<SideChange>& sideChanges)
+void DialogSession::rememberForUndo(const QString& key, const QString& before,
+                                    const QList<SideChange>& changes)
 {
-    if (sideChanges.empty())
+    if (changes.isEmpty()) {
+        if (beforeLastChange_.contains(key)) {
+            beforeLastChange_.clear();
+            Q_EMIT undoExpired();
+        }
         return;
-    beforeLastChange_ = {{key, before.value(key)}};
-    for (const SideChange& side : sideChanges)
-        beforeLastChange_.insert(side.key, side.before);
-    Q_EMIT otherOptionsChanged(sideChanges);
+    }
+    beforeLastChange_ = {{key, before}};
+    for (const SideChange& change : changes)
+        beforeLastChange_.insert(change.key, change.before);
+    Q_EMIT otherOptionsChanged(changes);
 }
 
 void DialogSession::storeInSettings(const QString& key)
@@ -269,12 +272,9 @@ void DialogSession::undoLastChange()
 {
     if (!model_ || beforeLastChange_.isEmpty())
         return;
-    const QMap<QString, QString> now = model_->values();
     const QMap<QString, QString> before = std::exchange(beforeLastChange_, {});
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
-        if (now.value(it.key()) == it.value())
-            continue;
         storeInSettings(it.key());
         tellPanels(it.key(), it.value());
     }

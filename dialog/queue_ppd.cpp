@@ -16,21 +16,22 @@ QString words(const char* text)
     return QCoreApplication::translate("Server", text);
 }
 
-// The server has its own attributes under such names, too: those are in small letters, options of a printer's
-// maker are not.
-OptionValues readDefaults(ipp_t* answer)
+// What the queue says about itself beside its PPD. The server has defaults of its own, too: those are in
+// small letters, the options of a printer's maker are not.
+void readQueue(ipp_t* answer, QueuePpd& result)
 {
-    OptionValues defaults;
     for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
         const QString name = QString::fromUtf8(ippGetName(a));
-        if (name.isEmpty() || !name.front().isUpper() || !name.endsWith(QLatin1StringView(kDefaultEnding)))
-            continue;
         const bool isTruth = ippGetValueTag(a) == IPP_TAG_BOOLEAN;
         const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
-        if (value)
-            defaults.append({name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
+        if (!value || name.isEmpty())
+            continue;
+        if (name == QLatin1StringView("device-uri"))
+            result.deviceUri = QString::fromUtf8(value);
+        else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))
+            result.defaults.append(
+                {name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
     }
-    return defaults;
 }
 
 } // namespace
@@ -57,9 +58,9 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = result.problem.arg(queue);
         return result;
     }
-    // Without an answer, the queue has no such defaults: nothing to keep anybody from printing.
+    // Without an answer the queue has none of it: nothing to keep anybody from printing.
     if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
-        result.defaults = readDefaults(answer.get());
+        readQueue(answer.get(), result);
     QString why;
     ppd::File file = ppd::open(QFile::decodeName(path), &why);
     QFile::remove(QFile::decodeName(path));

@@ -210,6 +210,7 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     EXPECT_FALSE(oldHost->willChangePPDOptionKeyValue_ppdChoice(t("PaperTone"), t("Warm")));
     ASSERT_TRUE(waitUntil([&] { return session.canPrint(); }));
     EXPECT_EQ(panels.first.lock()->host->pmPrinter()->id(), t("Other"));
+    EXPECT_TRUE(panels.first.lock()->host->pmPrinter()->copyDeviceURI());
     panels.calls.clear();
     dialog->close();
     EXPECT_EQ(panels.calls.count(t("first: closing")), 1);

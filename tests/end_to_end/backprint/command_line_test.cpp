@@ -67,7 +67,7 @@ TEST_F(BackprintByProgram, SaysWhatALineCannotHold)
         << qPrintable(ended.out);
     EXPECT_TRUE(lines.contains(w("CVP2=Caf  uvre") + QString(111, QLatin1Char('x'))))
         << qPrintable(ended.out);
-    EXPECT_TRUE(ended.err.contains(w("line 2 cannot hold \"é\", \"~\", \"œ\", U+000A")))
+    EXPECT_TRUE(ended.err.contains(w("line 2 cannot hold \"é\", \"~\", \"œ\", U+000A, which")))
         << qPrintable(ended.err);
     EXPECT_TRUE(ended.err.contains(w("longer than 120 characters")) && ended.err.contains(w("(19)")))
         << qPrintable(ended.err);
