@@ -130,7 +130,8 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
     // Not from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
+    host_ =
+        std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri), model_->sharedFile());
     applyOptions(ppd.defaults);
     loadPanels();
     Q_EMIT printerReady();

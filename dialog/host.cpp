@@ -4,8 +4,8 @@
 
 namespace halvern {
 
-Host::Host(HostSource& source, std::shared_ptr<Printer> printer)
-    : source_(&source), printer_(std::move(printer))
+Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file)
+    : source_(&source), printer_(std::move(printer)), file_(std::move(file))
 {
 }
 
