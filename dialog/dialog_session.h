@@ -29,9 +29,10 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
-    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which sends
-    /// it command jobs.
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
+    /// sends it command jobs.
     bool panelsAskPrinter = true;
+    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -85,6 +86,10 @@ public:
     /// Whether print() would do something.
     bool canPrint() const;
 
+    /// Why the request's lines for the back cannot be printed on the selected printer; empty if they can, or
+    /// if there are none.
+    const QString& backLinesProblem() const { return backLinesProblem_; }
+
     /// Lets the panels save and merges the job's options.
     OptionValues collectOptions();
 
@@ -124,7 +129,8 @@ private:
     void takePpd(const QString& name, const QueuePpd& ppd);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
-    void applyOptions();
+    void applyOptions(const OptionValues& queueDefaults);
+    void applyBackLines();
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value);
     void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
@@ -136,7 +142,7 @@ private:
     SavedOptions saved_;
     PrinterList* printers_;
     QString printerName_;
-    std::shared_ptr<PpdModel> model_; // panels may hold its PPD for longer
+    std::unique_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<Host> host_;
     PanelList panels_;
@@ -144,6 +150,7 @@ private:
     std::vector<Photo> photos_;
     int filesLeft_ = 0;
     QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
+    QString backLinesProblem_;
     cups::CancelFlag stopFetching_;
     cups::CancelFlag stopAll_;
 };

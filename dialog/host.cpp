@@ -7,9 +7,9 @@
 
 namespace halvern {
 
-Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<const void> ppdOwner,
+Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
            bool forWorkers)
-    : source_(&source), printer_(std::move(printer)), ppdOwner_(std::move(ppdOwner)), forWorkers_(forWorkers)
+    : source_(&source), printer_(std::move(printer)), file_(std::move(file)), forWorkers_(forWorkers)
 {
 }
 

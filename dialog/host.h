@@ -23,10 +23,10 @@ public:
 /// detached and answers null pointers and refusals from then on, however long the panels keep it.
 class Host : public HostCallback {
 public:
-    /// `ppdOwner` keeps the PPD open that ppdFile() answers, for as long as anybody holds this object. If not
+    /// `file` stays open as long as this object lives, since panels keep what ppdFile() answered. If not
     /// `forWorkers`, only the main thread is told the printer: background work of the panels then has nobody
     /// to talk to.
-    Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<const void> ppdOwner,
+    Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
          bool forWorkers);
 
     /// Main thread only, before the source goes.
@@ -45,7 +45,7 @@ private:
     HostSource* source_;
     mutable QMutex printerMutex_; // pmPrinter() is asked by background waits too
     std::shared_ptr<Printer> printer_;
-    const std::shared_ptr<const void> ppdOwner_;
+    std::shared_ptr<ppd_file_t> file_;
     const bool forWorkers_;
 };
 
