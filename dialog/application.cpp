@@ -12,6 +12,12 @@
 #include <syslog.h>
 #include <unistd.h>
 
+// A resource in a static library has to be asked for, outside any namespace.
+static void initTranslations()
+{
+    Q_INIT_RESOURCE(dialog_translations);
+}
+
 namespace halvern {
 
 namespace {
@@ -40,36 +46,32 @@ void routeLog()
     usualHandler = qInstallMessageHandler(toSystemLog);
 }
 
-bool needsNoDisplay(int argc, char** argv)
-{
-    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
-        for (const char* option : {"--no-dialog", "--dry-run", "--help", "-h", "--version", "-v"}) {
-            if (std::strcmp(argv[i], option) == 0)
-                return true;
-        }
-    }
-    return false;
-}
+bool displayIsMissing = false;
 
 } // namespace
 
-void prepareProcess(int argc, char** argv)
+void prepareProcess()
 {
     routeLog();
     const bool hasDisplay =
         qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && (needsNoDisplay(argc, argv) || !hasDisplay)) {
-        if (!needsNoDisplay(argc, argv)) {
-            std::fputs("There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.\n",
-                       stderr);
-            std::exit(1);
-        }
+    displayIsMissing = !hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    // Without it, Qt would end the program where it only has to say something, or to print without a window.
+    if (displayIsMissing)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+}
+
+QString displayProblem()
+{
+    if (!displayIsMissing)
+        return {};
+    return QCoreApplication::translate("CommandLine", "There is no display to show the dialog on. Print with "
+                                                      "--no-dialog, or set DISPLAY.");
 }
 
 QList<std::shared_ptr<QTranslator>> prepareApplication()
 {
+    initTranslations();
     QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());

@@ -9,9 +9,11 @@ namespace halvern {
 
 class PrintRun;
 
-/// Before the application object is made: where the log goes, and no display is needed to print without a
-/// dialog.
-void prepareProcess(int argc, char** argv);
+/// Before the application object is made: where the log goes, and that no display is needed yet.
+void prepareProcess();
+
+/// The sentence for a dialog that has no display to be shown on; empty if there is one.
+QString displayProblem();
 
 /// After it is made: its name and the translations for the user's language, which the caller keeps.
 QList<std::shared_ptr<QTranslator>> prepareApplication();

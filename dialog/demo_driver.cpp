@@ -40,7 +40,7 @@ int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    prepareProcess(argc, argv);
+    prepareProcess();
     QApplication app(argc, argv);
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
     QTextStream out(stdout);

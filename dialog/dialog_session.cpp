@@ -128,8 +128,8 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return;
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
-    const PrinterInfo* info = printers_->find(name);
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, info ? info->deviceUri : QString()));
+    // Not from the list, which may come later: a panel asks once and remembers.
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
     applyOptions();
     loadPanels();
     Q_EMIT printerReady();

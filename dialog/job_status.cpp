@@ -63,6 +63,18 @@ int integer(ipp_t* answer, const char* name)
     return found ? ippGetInteger(found, 0) : 0;
 }
 
+// A waiting job does not say that its printer is paused: the printer does.
+void askPrinter(cups::Connection& server, const QString& queue, JobStatus& status)
+{
+    static const char* const kAttributes[] = {"printer-state-reasons"};
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(kAttributes)), nullptr, kAttributes);
+    const cups::Ipp answer = server.request(std::move(request), "/");
+    if (answer)
+        status.printerReasons += strings(answer.get(), "printer-state-reasons");
+}
+
 bool isPaused(const JobStatus& status)
 {
     return status.printerReasons.contains(QStringLiteral("paused")) ||
@@ -190,7 +202,10 @@ JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& 
     status.printerReasons = strings(answer.get(), "job-printer-state-reasons");
     status.message = strings(answer.get(), "job-printer-state-message").join(QLatin1Char(' '));
     status.pagesDone = integer(answer.get(), "job-media-sheets-completed");
-    status.stage = stageOf(integer(answer.get(), "job-state"), status);
+    const int state = integer(answer.get(), "job-state");
+    if (state == IPP_JSTATE_PENDING || state == IPP_JSTATE_STOPPED)
+        askPrinter(server, queue, status);
+    status.stage = stageOf(state, status);
     return status;
 }
 

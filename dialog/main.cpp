@@ -12,6 +12,10 @@ using namespace halvern;
 
 int runDialog(const CommandLine& line)
 {
+    if (const QString problem = displayProblem(); !problem.isEmpty()) {
+        QTextStream(stderr) << problem << Qt::endl;
+        return kExitFailed;
+    }
     PluginLoader panels;
     DialogSession session(line.request, panels);
     PrintDialog dialog(session);
@@ -44,7 +48,7 @@ int runBatch(const CommandLine& line)
 
 int main(int argc, char** argv)
 {
-    prepareProcess(argc, argv);
+    prepareProcess();
     QApplication app(argc, argv);
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
     const ParsedCommandLine parsed = parseCommandLine(QCoreApplication::arguments());

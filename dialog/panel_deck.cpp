@@ -79,11 +79,6 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     rebuild();
 }
 
-PanelDeck::~PanelDeck()
-{
-    releasePanels();
-}
-
 Panel* PanelDeck::panelFor(const QString& identifier) const
 {
     for (const std::shared_ptr<Panel>& panel : session_.panels()) {

@@ -21,7 +21,6 @@ class PanelDeck : public QWidget {
 
 public:
     PanelDeck(DialogSession& session, QWidget* parent);
-    ~PanelDeck() override;
 
     /// Fills the list for the session's printer.
     void rebuild();
@@ -29,7 +28,7 @@ public:
     /// Takes the current values into the dialog's own pages and the summary.
     void refresh();
 
-    /// Hides the shown panel and hands all views back, before the panels go.
+    /// Hides the shown panel and hands its view back, before the panels or this widget go.
     void releasePanels();
 
     /// Tells the shown panel that it is shown, after saving has marked it as leaving.

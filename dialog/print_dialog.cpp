@@ -78,6 +78,7 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
 PrintDialog::~PrintDialog()
 {
     disconnect(&session_, nullptr, this, nullptr);
+    deck_->releasePanels();
 }
 
 QWidget* PrintDialog::makePreviewSide()

@@ -14,6 +14,16 @@ QString words(const char* text)
     return QCoreApplication::translate("Server", text);
 }
 
+QString askDeviceUri(cups::Connection& server, const QString& queue)
+{
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "device-uri");
+    const cups::Ipp answer = server.request(std::move(request), "/");
+    ipp_attribute_t* uri = answer ? ippFindAttribute(answer.get(), "device-uri", IPP_TAG_ZERO) : nullptr;
+    return uri ? QString::fromUtf8(ippGetString(uri, 0, nullptr)) : QString();
+}
+
 } // namespace
 
 QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
@@ -24,6 +34,7 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = server.error();
         return result;
     }
+    result.deviceUri = askDeviceUri(server, queue);
     char path[1024] = "";
     time_t modified = 0;
     if (cupsGetPPD3(server.http(), queue.toUtf8().constData(), &modified, path, sizeof(path)) !=

@@ -8,6 +8,7 @@ namespace halvern {
 /// A queue's PPD as fetched and parsed, or the sentence that says why there is none.
 struct QueuePpd {
     std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
+    QString deviceUri;               ///< empty if the queue has none
     QString problem;
 };
 

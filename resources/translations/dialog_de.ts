@@ -1,0 +1,636 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>Es gibt keinen Bildschirm für den Dialog. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Print on this queue.</source>
+        <translation>Auf dieser Warteschlange drucken.</translation>
+    </message>
+    <message>
+        <source>Set a printer option. Can be given several times.</source>
+        <translation>Eine Druckeroption setzen. Mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>Print this many copies, 1 to %1.</source>
+        <translation>So viele Exemplare drucken, 1 bis %1.</translation>
+    </message>
+    <message>
+        <source>Print at once, and wait until the job has ended.</source>
+        <translation>Sofort drucken und warten, bis der Auftrag beendet ist.</translation>
+    </message>
+    <message>
+        <source>Write the options that would be sent, one KEY=VALUE a line, and send nothing.</source>
+        <translation>Die Optionen ausgeben, die gesendet würden, je Zeile KEY=VALUE, und nichts senden.</translation>
+    </message>
+    <message>
+        <source>See "halvern-print --help".</source>
+        <translation>Siehe „halvern-print --help“.</translation>
+    </message>
+    <message>
+        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <translation>„%1“ ist keine Option: Schreiben Sie KEY=VALUE, zum Beispiel PageSize=A4.</translation>
+    </message>
+    <message>
+        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <translation>„%1“ ist keine Anzahl: Schreiben Sie eine Zahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
+        <translation>Nennen Sie mindestens ein Foto (JPEG, PNG, TIFF oder PDF).</translation>
+    </message>
+    <message>
+        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <translation>Der Name der Warteschlange ist leer. „lpstat -e“ zeigt die Warteschlangen.</translation>
+    </message>
+    <message>
+        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <translation>Druckt Fotos, mit Vorschau und den eigenen Optionsseiten des Druckers.</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
+        <translation>JPEG-, PNG-, TIFF- oder PDF-Dateien; jedes Foto wird eine Seite.</translation>
+    </message>
+</context>
+<context>
+    <name>JobStatus</name>
+    <message>
+        <source>out of paper</source>
+        <translation>kein Papier</translation>
+    </message>
+    <message>
+        <source>paper is low</source>
+        <translation>wenig Papier</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>eine Klappe ist offen</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>die Abdeckung ist offen</translation>
+    </message>
+    <message>
+        <source>not connected or switched off</source>
+        <translation>nicht verbunden oder ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>verbindet</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>wird angehalten</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>toner is low</source>
+        <translation>wenig Toner</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>kein Toner</translation>
+    </message>
+    <message>
+        <source>ink is low</source>
+        <translation>wenig Tinte</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>keine Tinte</translation>
+    </message>
+    <message>
+        <source>the waste tank is nearly full</source>
+        <translation>der Resttank ist fast voll</translation>
+    </message>
+    <message>
+        <source>the waste tank is full</source>
+        <translation>der Resttank ist voll</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>das Ausgabefach ist voll</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>antwortet nicht</translation>
+    </message>
+    <message>
+        <source>its driver is not installed</source>
+        <translation>sein Treiber ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>its driver is not installed safely</source>
+        <translation>sein Treiber ist nicht sicher installiert</translation>
+    </message>
+    <message>
+        <source>needs attention</source>
+        <translation>braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten, weil er warten soll%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>Auftrag %1 wartet auf „%2“%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>Auftrag %1 wartet, weil „%2“ angehalten ist%3. Setzen Sie den Drucker fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>Auftrag %1 wird auf „%2“ gedruckt%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>Auftrag %1 ist auf „%2“ stehen geblieben%3. Sehen Sie nach dem Drucker und setzen Sie ihn fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>Auftrag %1 auf „%2“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>Auftrag %1 ist auf „%2“ fehlgeschlagen%3. Drucken Sie erneut; wenn es wieder fehlschlägt, sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>Gedruckt: Auftrag %1 auf „%2“.</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>Der Druckserver sagt nicht, was aus Auftrag %1 auf „%2“ geworden ist%3.</translation>
+    </message>
+</context>
+<context>
+    <name>Photo</name>
+    <message>
+        <source>The print job's temporary file is gone. Print again.</source>
+        <translation>Die temporäre Datei des Druckauftrags ist weg. Drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>Der Druckauftrag konnte nicht in eine temporäre Datei geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>„%1“ ist zu groß zum Drucken. Drucken Sie eine Kopie mit weniger Pixeln.</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>„%1“ ist beschädigt und nicht lesbar. Exportieren Sie die Datei erneut aus Ihrem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF- oder PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>„%1“ ist mit einem Passwort geschützt. Drucken Sie eine Kopie ohne Passwort.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>Es gibt keine Datei „%1“. Prüfen Sie den Namen.</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>„%1“ ist ein Ordner. Nennen Sie die Fotos darin, zum Beispiel *.jpg.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie, ob Sie die Datei lesen dürfen.</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Kamera.</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>„%1“ hat sich inzwischen geändert. Öffnen Sie die Datei erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) bieten für diesen Drucker nichts. Sie können ohne sie drucken.</translation>
+    </message>
+    <message>
+        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
+        <translation>Die Beschreibung des Druckers verlangt die Seiten „%1“; das ist kein gültiger Name. Sie können ohne sie drucken.</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) sind nicht installiert. Sie können ohne sie drucken; installieren Sie die Software des Druckers, um sie zu haben.</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) lassen sich nicht laden: %2. Sie können ohne sie drucken; installieren Sie die Software des Druckers neu, um sie zu haben.</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>sie nennen kein Modul</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>das Modul ist von anderer Art</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>sie gehören zu etwas anderem</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>Der Wert von %1 ist zu lang: Er hat %2 Bytes, möglich sind %3. Kürzen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 muss eine Zahl von %2 bis %3 sein.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 muss %2 bis %3 Zeichen haben.</translation>
+    </message>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>Eine Option ohne Namen oder Wert kann nicht gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The printer has no page size "%1". Choose one from the list.</source>
+        <translation>Der Drucker hat kein Papierformat „%1“. Wählen Sie eines aus der Liste.</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
+        <translation>Der Drucker kann das Papierformat „%1“ nicht verwenden. Wählen Sie eines aus der Liste.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>"%1: %2" does not go together with "%3". Change that first.</source>
+        <translation>„%1: %2“ passt nicht zu „%3“. Ändern Sie das zuerst.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterState</name>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Im Netz gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>Der Druckserver unter %1 ist nicht erreichbar. Starten Sie ihn, zum Beispiel mit „systemctl start cups“, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>Der Druckserver antwortet nicht. Warten Sie einen Moment und versuchen Sie es erneut, oder starten Sie ihn neu.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>Der Drucker ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>Der Drucker nimmt zurzeit keine Aufträge an. Wählen Sie einen anderen oder lassen Sie ihn Aufträge annehmen (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen das nicht. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Der Druckserver meldet: %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
+        <translation>Die Beschreibung des Druckers „%1“ kann nicht geholt werden. Versuchen Sie es erneut oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::BatchPrint</name>
+    <message>
+        <source>Changed to fit: %1=%2</source>
+        <translation>Passend geändert: %1=%2</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>Der Druckserver hat keine Drucker. Richten Sie einen ein, zum Beispiel mit lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DialogSession</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::MessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Größe des Fotos</translation>
+    </message>
+    <message>
+        <source>Printed area</source>
+        <translation>Bedruckte Fläche</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PagePage</name>
+    <message>
+        <source>P&amp;aper size:</source>
+        <translation>P&amp;apierformat:</translation>
+    </message>
+    <message>
+        <source>As the photo</source>
+        <translation>Wie das Foto</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>Aus&amp;richtung:</translation>
+    </message>
+    <message>
+        <source>Fit the whole photo on the page</source>
+        <translation>Das ganze Foto auf die Seite einpassen</translation>
+    </message>
+    <message>
+        <source>Fill the page, cut what is over</source>
+        <translation>Die Seite füllen, Überstehendes abschneiden</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>&amp;Größe des Fotos:</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>Optionsseiten</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PreviewWidget</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 Zoll</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Drag the photo to choose what is cut away</source>
+        <translation>Ziehen Sie das Foto, um zu wählen, was wegfällt</translation>
+    </message>
+    <message>
+        <source>part of the photo is cut away</source>
+        <translation>ein Teil des Fotos fällt weg</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>Voriges Foto</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>Nächstes Foto</translation>
+    </message>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>Fortschritt des Druckauftrags</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>D&amp;rucker:</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>Ex&amp;emplare:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Suche Drucker ...</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one in the system's settings.</source>
+        <translation>Der Druckserver hat keine Drucker. Richten Sie in den Systemeinstellungen einen ein.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". Choose another one.</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>Es gibt kein Foto zum Drucken.</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Foto wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>%1 of %2  ·  %3</source>
+        <translation>%1 von %2  ·  %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>To make that possible, this was changed too: %1</source>
+        <translation>Damit das möglich ist, wurde auch geändert: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>Seiten werden vorbereitet ...</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2".</source>
+        <translation>Auftrag %1 wurde an „%2“ gesendet.</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <translation>Wählen Sie Drucker und Papierformat, prüfen Sie die Vorschau und drücken Sie „Drucken“. Die Liste links neben den Optionen enthält die eigenen Seiten des Druckers.</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Wird abgebrochen ...</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintRun</name>
+    <message>
+        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
+        <translation>Es kann keine temporäre Datei angelegt werden: %1. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Sending the job...</source>
+        <translation>Auftrag wird gesendet ...</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>Seiten werden vorbereitet ...</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>Abgebrochen: Es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Nothing was printed. %1</source>
+        <translation>Es wurde nichts gedruckt. %1</translation>
+    </message>
+</context>
+</TS>

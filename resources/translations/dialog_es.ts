@@ -1,0 +1,636 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>No hay pantalla para mostrar el diálogo. Imprima con --no-dialog o defina DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Print on this queue.</source>
+        <translation>Imprimir en esta cola.</translation>
+    </message>
+    <message>
+        <source>Set a printer option. Can be given several times.</source>
+        <translation>Fijar una opción de la impresora. Puede repetirse.</translation>
+    </message>
+    <message>
+        <source>Print this many copies, 1 to %1.</source>
+        <translation>Imprimir este número de copias, de 1 a %1.</translation>
+    </message>
+    <message>
+        <source>Print at once, and wait until the job has ended.</source>
+        <translation>Imprimir enseguida y esperar a que termine el trabajo.</translation>
+    </message>
+    <message>
+        <source>Write the options that would be sent, one KEY=VALUE a line, and send nothing.</source>
+        <translation>Escribir las opciones que se enviarían, una KEY=VALUE por línea, y no enviar nada.</translation>
+    </message>
+    <message>
+        <source>See "halvern-print --help".</source>
+        <translation>Véase «halvern-print --help».</translation>
+    </message>
+    <message>
+        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <translation>«%1» no es una opción: escriba KEY=VALUE, por ejemplo PageSize=A4.</translation>
+    </message>
+    <message>
+        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <translation>«%1» no es un número de copias: escriba un número de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
+        <translation>Indique al menos una foto para imprimir (JPEG, PNG, TIFF o PDF).</translation>
+    </message>
+    <message>
+        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <translation>El nombre de la cola está vacío. «lpstat -e» muestra las colas.</translation>
+    </message>
+    <message>
+        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <translation>Imprime fotos, con vista previa y las páginas de opciones propias de la impresora.</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
+        <translation>Archivos JPEG, PNG, TIFF o PDF; cada foto es una página.</translation>
+    </message>
+</context>
+<context>
+    <name>JobStatus</name>
+    <message>
+        <source>out of paper</source>
+        <translation>sin papel</translation>
+    </message>
+    <message>
+        <source>paper is low</source>
+        <translation>queda poco papel</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>atasco de papel</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>hay una puerta abierta</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>la tapa está abierta</translation>
+    </message>
+    <message>
+        <source>not connected or switched off</source>
+        <translation>desconectada o apagada</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>conectando</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pausa</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>pausando</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>apagada</translation>
+    </message>
+    <message>
+        <source>toner is low</source>
+        <translation>queda poco tóner</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>sin tóner</translation>
+    </message>
+    <message>
+        <source>ink is low</source>
+        <translation>queda poca tinta</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>sin tinta</translation>
+    </message>
+    <message>
+        <source>the waste tank is nearly full</source>
+        <translation>el depósito de residuos está casi lleno</translation>
+    </message>
+    <message>
+        <source>the waste tank is full</source>
+        <translation>el depósito de residuos está lleno</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>la bandeja de salida está llena</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>no responde</translation>
+    </message>
+    <message>
+        <source>its driver is not installed</source>
+        <translation>su controlador no está instalado</translation>
+    </message>
+    <message>
+        <source>its driver is not installed safely</source>
+        <translation>su controlador no está instalado de forma segura</translation>
+    </message>
+    <message>
+        <source>needs attention</source>
+        <translation>necesita atención</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>El trabajo %1 está retenido en «%2» porque se le pidió esperar%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>El trabajo %1 está retenido en «%2»%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>El trabajo %1 espera a «%2»%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>El trabajo %1 espera porque «%2» está en pausa%3. Reanude la impresora (cupsenable) o cancele el trabajo.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>El trabajo %1 se está imprimiendo en «%2»%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>El trabajo %1 se detuvo en «%2»%3. Revise la impresora y reanúdela (cupsenable), o cancele el trabajo.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>El trabajo %1 en «%2» fue cancelado.</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>El trabajo %1 falló en «%2»%3. Imprima otra vez; si vuelve a fallar, consulte el registro de errores del servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>Impreso: trabajo %1 en «%2».</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>El servidor de impresión no dice qué fue del trabajo %1 en «%2»%3.</translation>
+    </message>
+</context>
+<context>
+    <name>Photo</name>
+    <message>
+        <source>The print job's temporary file is gone. Print again.</source>
+        <translation>El archivo temporal del trabajo ha desaparecido. Imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>El trabajo no se pudo escribir en un archivo temporal. Libere espacio en el disco e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>«%1» es demasiado grande para imprimirla. Imprima una copia con menos píxeles.</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>«%1» está dañado y no se puede leer. Expórtelo de nuevo desde su programa de fotos.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>«%1» no es una imagen imprimible. Use un archivo JPEG, PNG, TIFF o PDF.</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>«%1» está protegido con contraseña. Imprima una copia sin contraseña.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>No existe el archivo «%1». Compruebe el nombre.</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>«%1» es una carpeta. Indique las fotos que contiene, por ejemplo *.jpg.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>«%1» no se puede abrir. Compruebe que tiene permiso de lectura.</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>«%1» está vacío. Cópielo de nuevo desde la cámara.</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>«%1» ha cambiado mientras tanto. Ábralo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>Las páginas propias de la impresora (%1) no ofrecen nada para esta. Puede imprimir sin ellas.</translation>
+    </message>
+    <message>
+        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
+        <translation>La descripción de la impresora pide las páginas «%1», que no es un nombre válido. Puede imprimir sin ellas.</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
+        <translation>Las páginas propias de la impresora (%1) no están instaladas. Puede imprimir sin ellas; instale el software de la impresora para tenerlas.</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
+        <translation>Las páginas propias de la impresora (%1) no se pueden cargar: %2. Puede imprimir sin ellas; reinstale el software de la impresora para tenerlas.</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>no indican ningún módulo</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>el módulo es de otro tipo</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>pertenecen a otra cosa</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>El valor de %1 es demasiado largo: tiene %2 bytes y caben %3. Acórtelo.</translation>
+    </message>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 debe ser un número de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 debe tener de %2 a %3 caracteres.</translation>
+    </message>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>No se puede fijar una opción sin nombre o sin valor.</translation>
+    </message>
+    <message>
+        <source>The printer has no page size "%1". Choose one from the list.</source>
+        <translation>La impresora no tiene el tamaño «%1». Elija uno de la lista.</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
+        <translation>La impresora no admite el tamaño «%1». Elija uno de la lista.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>"%1: %2" does not go together with "%3". Change that first.</source>
+        <translation>«%1: %2» no es compatible con «%3». Cambie eso primero.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterState</name>
+    <message>
+        <source>Ready</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>No acepta trabajos</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Encontrada en la red</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>No se puede contactar con el servidor de impresión %1. Inícielo, por ejemplo con «systemctl start cups», e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>El servidor de impresión no responde. Espere un momento e inténtelo de nuevo, o reinícielo.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>La impresora ya no está en el servidor de impresión. Elija otra.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>La impresora no acepta trabajos por ahora. Elija otra o haga que los acepte (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no se lo permite. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>El servidor de impresión informa: %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>La impresora «%1» no tiene descripción en el servidor. Instálela con un controlador o elija otra.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
+        <translation>No se puede obtener la descripción de la impresora «%1». Inténtelo de nuevo o elija otra.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>La descripción de la impresora «%1» está dañada: %2. Reinstale su controlador o elija otra impresora.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::BatchPrint</name>
+    <message>
+        <source>Changed to fit: %1=%2</source>
+        <translation>Adaptado: %1=%2</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>El servidor de impresión no tiene impresoras. Añada una, por ejemplo con lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DialogSession</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>Se omitió un ajuste guardado. %1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::MessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Cerrar el mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Fit</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Rellenar</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Tamaño del papel</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Tamaño de la foto</translation>
+    </message>
+    <message>
+        <source>Printed area</source>
+        <translation>Área impresa</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PagePage</name>
+    <message>
+        <source>P&amp;aper size:</source>
+        <translation>Tamaño del p&amp;apel:</translation>
+    </message>
+    <message>
+        <source>As the photo</source>
+        <translation>Como la foto</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>Or&amp;ientación:</translation>
+    </message>
+    <message>
+        <source>Fit the whole photo on the page</source>
+        <translation>Toda la foto en la página</translation>
+    </message>
+    <message>
+        <source>Fill the page, cut what is over</source>
+        <translation>Llenar la página, recortar lo que sobra</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>&amp;Tamaño de la foto:</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>Páginas de opciones</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Más opciones</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PreviewWidget</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 pulg.</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Drag the photo to choose what is cut away</source>
+        <translation>Arrastre la foto para elegir qué se recorta</translation>
+    </message>
+    <message>
+        <source>part of the photo is cut away</source>
+        <translation>se recorta parte de la foto</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>Foto anterior</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>Foto siguiente</translation>
+    </message>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>Progreso del trabajo</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Imp&amp;resora:</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>C&amp;opias:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Im&amp;primir</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Buscando impresoras...</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one in the system's settings.</source>
+        <translation>El servidor de impresión no tiene impresoras. Añada una en los ajustes del sistema.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". Choose another one.</source>
+        <translation>El servidor de impresión no tiene la impresora «%1». Elija otra.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>No hay ninguna foto que imprimir.</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Leyendo la foto...</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2  ·  %3</source>
+        <translation>%1 de %2  ·  %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>To make that possible, this was changed too: %1</source>
+        <translation>Para hacerlo posible, también se ha cambiado: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabajo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>Preparando las páginas...</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2".</source>
+        <translation>El trabajo %1 se envió a «%2».</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <translation>Elija una impresora y un tamaño de papel, mire la vista previa y pulse Imprimir. La lista a la izquierda de las opciones contiene las páginas propias de la impresora.</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Cancelando...</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintRun</name>
+    <message>
+        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
+        <translation>No se puede crear un archivo temporal: %1. Libere espacio en el disco e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Sending the job...</source>
+        <translation>Enviando el trabajo...</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>Preparando las páginas...</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>Cancelado: no se imprimió nada.</translation>
+    </message>
+    <message>
+        <source>Nothing was printed. %1</source>
+        <translation>No se imprimió nada. %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,636 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>Aucun écran pour afficher le dialogue. Imprimez avec --no-dialog ou définissez DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Print on this queue.</source>
+        <translation>Imprimer sur cette file.</translation>
+    </message>
+    <message>
+        <source>Set a printer option. Can be given several times.</source>
+        <translation>Définir une option d’imprimante. Peut être répété.</translation>
+    </message>
+    <message>
+        <source>Print this many copies, 1 to %1.</source>
+        <translation>Imprimer ce nombre de copies, de 1 à %1.</translation>
+    </message>
+    <message>
+        <source>Print at once, and wait until the job has ended.</source>
+        <translation>Imprimer tout de suite et attendre la fin de la tâche.</translation>
+    </message>
+    <message>
+        <source>Write the options that would be sent, one KEY=VALUE a line, and send nothing.</source>
+        <translation>Écrire les options qui seraient envoyées, une KEY=VALUE par ligne, sans rien envoyer.</translation>
+    </message>
+    <message>
+        <source>See "halvern-print --help".</source>
+        <translation>Voir « halvern-print --help ».</translation>
+    </message>
+    <message>
+        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <translation>« %1 » n’est pas une option : écrivez KEY=VALUE, par exemple PageSize=A4.</translation>
+    </message>
+    <message>
+        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <translation>« %1 » n’est pas un nombre de copies : écrivez un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
+        <translation>Nommez au moins une photo à imprimer (JPEG, PNG, TIFF ou PDF).</translation>
+    </message>
+    <message>
+        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <translation>Le nom de la file est vide. « lpstat -e » affiche les files.</translation>
+    </message>
+    <message>
+        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <translation>Imprime des photos, avec un aperçu et les pages d’options propres à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
+        <translation>Fichiers JPEG, PNG, TIFF ou PDF ; chaque photo devient une page.</translation>
+    </message>
+</context>
+<context>
+    <name>JobStatus</name>
+    <message>
+        <source>out of paper</source>
+        <translation>plus de papier</translation>
+    </message>
+    <message>
+        <source>paper is low</source>
+        <translation>peu de papier</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>bourrage papier</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>une porte est ouverte</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>le capot est ouvert</translation>
+    </message>
+    <message>
+        <source>not connected or switched off</source>
+        <translation>non connectée ou éteinte</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>connexion</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>mise en pause</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>éteinte</translation>
+    </message>
+    <message>
+        <source>toner is low</source>
+        <translation>peu d’encre en poudre</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>plus d’encre en poudre</translation>
+    </message>
+    <message>
+        <source>ink is low</source>
+        <translation>peu d’encre</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>plus d’encre</translation>
+    </message>
+    <message>
+        <source>the waste tank is nearly full</source>
+        <translation>le bac de récupération est presque plein</translation>
+    </message>
+    <message>
+        <source>the waste tank is full</source>
+        <translation>le bac de récupération est plein</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>le bac de sortie est plein</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>ne répond pas</translation>
+    </message>
+    <message>
+        <source>its driver is not installed</source>
+        <translation>son pilote n’est pas installé</translation>
+    </message>
+    <message>
+        <source>its driver is not installed safely</source>
+        <translation>son pilote n’est pas installé de façon sûre</translation>
+    </message>
+    <message>
+        <source>needs attention</source>
+        <translation>demande votre attention</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>La tâche %1 est retenue sur « %2 » car on lui a demandé d’attendre%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>La tâche %1 est retenue sur « %2 »%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>La tâche %1 attend « %2 »%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>La tâche %1 attend car « %2 » est en pause%3. Relancez l’imprimante (cupsenable) ou annulez la tâche.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>La tâche %1 s’imprime sur « %2 »%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>La tâche %1 s’est arrêtée sur « %2 »%3. Vérifiez l’imprimante et relancez-la (cupsenable), ou annulez la tâche.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>La tâche %1 sur « %2 » a été annulée.</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>La tâche %1 a échoué sur « %2 »%3. Réimprimez ; si elle échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>Imprimé : tâche %1 sur « %2 ».</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>Le serveur d’impression ne dit pas ce qu’est devenue la tâche %1 sur « %2 »%3.</translation>
+    </message>
+</context>
+<context>
+    <name>Photo</name>
+    <message>
+        <source>The print job's temporary file is gone. Print again.</source>
+        <translation>Le fichier temporaire de la tâche a disparu. Imprimez à nouveau.</translation>
+    </message>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>La tâche n’a pas pu être écrite dans un fichier temporaire. Libérez de la place sur le disque et réessayez.</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>« %1 » est trop grande pour être imprimée. Imprimez une copie avec moins de pixels.</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>« %1 » est endommagé et illisible. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF ou PDF.</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>« %1 » est protégé par un mot de passe. Imprimez une copie sans mot de passe.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>Il n’y a pas de fichier « %1 ». Vérifiez son nom.</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>« %1 » est un dossier. Nommez les photos qu’il contient, par exemple *.jpg.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>« %1 » ne peut pas être ouvert. Vérifiez que vous avez le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>« %1 » est vide. Copiez-le à nouveau depuis l’appareil photo.</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>« %1 » a changé entre-temps. Ouvrez-le à nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>Les pages propres à l’imprimante (%1) n’offrent rien pour celle-ci. Vous pouvez imprimer sans elles.</translation>
+    </message>
+    <message>
+        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
+        <translation>La description de l’imprimante demande les pages « %1 », ce qui n’est pas un nom valable. Vous pouvez imprimer sans elles.</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
+        <translation>Les pages propres à l’imprimante (%1) ne sont pas installées. Vous pouvez imprimer sans elles ; installez le logiciel de l’imprimante pour les avoir.</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
+        <translation>Les pages propres à l’imprimante (%1) ne peuvent pas être chargées : %2. Vous pouvez imprimer sans elles ; réinstallez le logiciel de l’imprimante pour les avoir.</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>elles ne nomment aucun module</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>le module est d’un autre type</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>elles appartiennent à autre chose</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>La valeur de %1 est trop longue : %2 octets, %3 au plus. Raccourcissez-la.</translation>
+    </message>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 doit être un nombre de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 doit avoir de %2 à %3 caractères.</translation>
+    </message>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>Une option sans nom ou sans valeur ne peut pas être définie.</translation>
+    </message>
+    <message>
+        <source>The printer has no page size "%1". Choose one from the list.</source>
+        <translation>L’imprimante n’a pas de format « %1 ». Choisissez-en un dans la liste.</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
+        <translation>L’imprimante n’accepte pas le format « %1 ». Choisissez-en un dans la liste.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>"%1: %2" does not go together with "%3". Change that first.</source>
+        <translation>« %1 : %2 » ne va pas avec « %3 ». Changez d’abord cela.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterState</name>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>N’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprime</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trouvée sur le réseau</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>Le serveur d’impression %1 est injoignable. Démarrez-le, par exemple avec « systemctl start cups », et réessayez.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>Le serveur d’impression ne répond pas. Attendez un moment et réessayez, ou redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>L’imprimante n’est plus sur le serveur d’impression. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>L’imprimante n’accepte pas de tâches pour le moment. Choisissez-en une autre ou autorisez-la (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous y autorise pas. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Le serveur d’impression signale : %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
+        <translation>La description de l’imprimante « %1 » ne peut pas être obtenue. Réessayez ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::BatchPrint</name>
+    <message>
+        <source>Changed to fit: %1=%2</source>
+        <translation>Adapté : %1=%2</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une, par exemple avec lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DialogSession</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>Un réglage enregistré a été ignoré. %1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::MessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Fermer le message</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Taille de la photo</translation>
+    </message>
+    <message>
+        <source>Printed area</source>
+        <translation>Surface imprimée</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PagePage</name>
+    <message>
+        <source>P&amp;aper size:</source>
+        <translation>Format du p&amp;apier :</translation>
+    </message>
+    <message>
+        <source>As the photo</source>
+        <translation>Comme la photo</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>Or&amp;ientation :</translation>
+    </message>
+    <message>
+        <source>Fit the whole photo on the page</source>
+        <translation>Toute la photo sur la page</translation>
+    </message>
+    <message>
+        <source>Fill the page, cut what is over</source>
+        <translation>Remplir la page, couper ce qui dépasse</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>&amp;Taille de la photo :</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>Pages d’options</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PreviewWidget</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 po</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Drag the photo to choose what is cut away</source>
+        <translation>Faites glisser la photo pour choisir ce qui est coupé</translation>
+    </message>
+    <message>
+        <source>part of the photo is cut away</source>
+        <translation>une partie de la photo est coupée</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>Progression de la tâche</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Imp&amp;rimante :</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>C&amp;opies :</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>Im&amp;primer</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>Recherche d’imprimantes…</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one in the system's settings.</source>
+        <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une dans les réglages du système.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". Choose another one.</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>Il n’y a pas de photo à imprimer.</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Lecture de la photo…</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2  ·  %3</source>
+        <translation>%1 sur %2  ·  %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>To make that possible, this was changed too: %1</source>
+        <translation>Pour que ce soit possible, ceci a changé aussi : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler la modification</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>Préparation des pages…</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2".</source>
+        <translation>La tâche %1 a été envoyée à « %2 ».</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <translation>Choisissez une imprimante et un format de papier, regardez l’aperçu et cliquez sur Imprimer. La liste à gauche des options contient les pages propres à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Annulation…</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintRun</name>
+    <message>
+        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
+        <translation>Impossible de créer un fichier temporaire : %1. Libérez de la place sur le disque et réessayez.</translation>
+    </message>
+    <message>
+        <source>Sending the job...</source>
+        <translation>Envoi de la tâche…</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>Préparation des pages…</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>Annulé : rien n’a été imprimé.</translation>
+    </message>
+    <message>
+        <source>Nothing was printed. %1</source>
+        <translation>Rien n’a été imprimé. %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,636 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>ダイアログを表示する画面がありません。--no-dialog で印刷するか、DISPLAY を設定してください。</translation>
+    </message>
+    <message>
+        <source>Print on this queue.</source>
+        <translation>このキューで印刷します。</translation>
+    </message>
+    <message>
+        <source>Set a printer option. Can be given several times.</source>
+        <translation>プリンターのオプションを設定します。複数指定できます。</translation>
+    </message>
+    <message>
+        <source>Print this many copies, 1 to %1.</source>
+        <translation>印刷する部数 (1～%1)。</translation>
+    </message>
+    <message>
+        <source>Print at once, and wait until the job has ended.</source>
+        <translation>すぐに印刷し、ジョブが終わるまで待ちます。</translation>
+    </message>
+    <message>
+        <source>Write the options that would be sent, one KEY=VALUE a line, and send nothing.</source>
+        <translation>送信されるオプションを 1 行に 1 つ KEY=VALUE で出力し、何も送信しません。</translation>
+    </message>
+    <message>
+        <source>See "halvern-print --help".</source>
+        <translation>「halvern-print --help」をご覧ください。</translation>
+    </message>
+    <message>
+        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <translation>「%1」はオプションではありません。PageSize=A4 のように KEY=VALUE で指定してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <translation>「%1」は部数ではありません。1 から %2 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
+        <translation>印刷する写真を 1 枚以上指定してください (JPEG、PNG、TIFF、PDF)。</translation>
+    </message>
+    <message>
+        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <translation>キューの名前が空です。「lpstat -e」でキューの一覧が見られます。</translation>
+    </message>
+    <message>
+        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <translation>プレビューとプリンター固有の設定ページを使って写真を印刷します。</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
+        <translation>JPEG、PNG、TIFF、PDF ファイル。写真 1 枚が 1 ページになります。</translation>
+    </message>
+</context>
+<context>
+    <name>JobStatus</name>
+    <message>
+        <source>out of paper</source>
+        <translation>用紙切れ</translation>
+    </message>
+    <message>
+        <source>paper is low</source>
+        <translation>用紙残りわずか</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>紙づまり</translation>
+    </message>
+    <message>
+        <source>a door is open</source>
+        <translation>ドアが開いています</translation>
+    </message>
+    <message>
+        <source>the cover is open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>not connected or switched off</source>
+        <translation>未接続または電源オフ</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>一時停止しています</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>電源オフ</translation>
+    </message>
+    <message>
+        <source>toner is low</source>
+        <translation>トナー残りわずか</translation>
+    </message>
+    <message>
+        <source>out of toner</source>
+        <translation>トナー切れ</translation>
+    </message>
+    <message>
+        <source>ink is low</source>
+        <translation>インク残りわずか</translation>
+    </message>
+    <message>
+        <source>out of ink</source>
+        <translation>インク切れ</translation>
+    </message>
+    <message>
+        <source>the waste tank is nearly full</source>
+        <translation>廃液タンクがもうすぐいっぱいです</translation>
+    </message>
+    <message>
+        <source>the waste tank is full</source>
+        <translation>廃液タンクがいっぱいです</translation>
+    </message>
+    <message>
+        <source>the output tray is full</source>
+        <translation>排紙トレイがいっぱいです</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>応答がありません</translation>
+    </message>
+    <message>
+        <source>its driver is not installed</source>
+        <translation>ドライバーがインストールされていません</translation>
+    </message>
+    <message>
+        <source>its driver is not installed safely</source>
+        <translation>ドライバーが安全にインストールされていません</translation>
+    </message>
+    <message>
+        <source>needs attention</source>
+        <translation>確認が必要です</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>ジョブ %1 は待機の指定により「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>ジョブ %1 は「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>ジョブ %1 は「%2」を待っています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>「%2」が一時停止中のため、ジョブ %1 は待っています%3。プリンターを再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>ジョブ %1 を「%2」で印刷しています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>ジョブ %1 は「%2」で停止しました%3。プリンターを確認して再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>「%2」のジョブ %1 はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>ジョブ %1 は「%2」で失敗しました%3。もう一度印刷してください。再び失敗する場合は、プリントサーバーのエラーログをご覧ください。</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>印刷しました: 「%2」のジョブ %1。</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>「%2」のジョブ %1 の結果をプリントサーバーから得られません%3。</translation>
+    </message>
+</context>
+<context>
+    <name>Photo</name>
+    <message>
+        <source>The print job's temporary file is gone. Print again.</source>
+        <translation>印刷ジョブの一時ファイルがなくなりました。もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>印刷ジョブを一時ファイルに書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>「%1」は大きすぎて印刷できません。画素数を減らしたコピーを印刷してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>「%1」は壊れていて読めません。写真ソフトからもう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、PDF のファイルをお使いください。</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>「%1」はパスワードで保護されています。パスワードなしのコピーを印刷してください。</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>「%1」というファイルはありません。名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>「%1」はフォルダーです。*.jpg のように中の写真を指定してください。</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>「%1」を開けません。読み取りの権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>「%1」は空です。カメラからもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>「%1」は途中で変わりました。もう一度開いてください。</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>プリンター固有のページ (%1) には、このプリンター用の設定がありません。なしでも印刷できます。</translation>
+    </message>
+    <message>
+        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
+        <translation>プリンターの記述が求めるページ「%1」は正しい名前ではありません。なしでも印刷できます。</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
+        <translation>プリンター固有のページ (%1) がインストールされていません。なしでも印刷できます。使うにはプリンターのソフトウェアをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
+        <translation>プリンター固有のページ (%1) を読み込めません: %2。なしでも印刷できます。使うにはプリンターのソフトウェアを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>モジュールの指定がありません</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>モジュールの種類が違います</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>別のもの用です</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>%1 の値が長すぎて送れません: %2 バイトあり、上限は %3 です。短くしてください。</translation>
+    </message>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 は %2 から %3 までの数にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 は %2～%3 文字にしてください。</translation>
+    </message>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>名前か値のないオプションは設定できません。</translation>
+    </message>
+    <message>
+        <source>The printer has no page size "%1". Choose one from the list.</source>
+        <translation>プリンターに用紙サイズ「%1」はありません。一覧から選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
+        <translation>プリンターは用紙サイズ「%1」を使えません。一覧から選んでください。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>"%1: %2" does not go together with "%3". Change that first.</source>
+        <translation>「%1: %2」は「%3」と一緒に使えません。先にそちらを変えてください。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterState</name>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>ネットワークで見つかりました</translation>
+    </message>
+</context>
+<context>
+    <name>Server</name>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>プリントサーバー %1 に接続できません。「systemctl start cups」などで起動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>プリントサーバーが応答しません。少し待ってからもう一度試すか、再起動してください。</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>そのプリンターはもうプリントサーバーにありません。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>プリンターは今ジョブを受け付けていません。別のプリンターを選ぶか、受け付けを許可してください (cupsaccept)。</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>プリントサーバーで許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>プリントサーバーからの報告: %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
+        <translation>プリンター「%1」の記述を取得できません。もう一度試すか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::BatchPrint</name>
+    <message>
+        <source>Changed to fit: %1=%2</source>
+        <translation>合わせて変更しました: %1=%2</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>プリントサーバーにプリンターがありません。lpadmin などで追加してください。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。使えるプリンター: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DialogSession</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>保存された設定を 1 つ使いませんでした。%1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::MessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>メッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Fit</source>
+        <translation>全体を収める</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>ページを満たす</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>写真のサイズ</translation>
+    </message>
+    <message>
+        <source>Printed area</source>
+        <translation>印刷範囲</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ数</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PagePage</name>
+    <message>
+        <source>P&amp;aper size:</source>
+        <translation>用紙サイズ(&amp;A):</translation>
+    </message>
+    <message>
+        <source>As the photo</source>
+        <translation>写真に合わせる</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Or&amp;ientation:</source>
+        <translation>向き(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Fit the whole photo on the page</source>
+        <translation>写真全体をページに収める</translation>
+    </message>
+    <message>
+        <source>Fill the page, cut what is over</source>
+        <translation>ページを満たし、はみ出す部分を切る</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>写真のサイズ(&amp;Z):</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>設定のページ</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他の設定</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PreviewWidget</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Drag the photo to choose what is cut away</source>
+        <translation>写真をドラッグして切る部分を選べます</translation>
+    </message>
+    <message>
+        <source>part of the photo is cut away</source>
+        <translation>写真の一部が切れます</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>前の写真</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>次の写真</translation>
+    </message>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>印刷ジョブの進み具合</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンター(&amp;R):</translation>
+    </message>
+    <message>
+        <source>C&amp;opies:</source>
+        <translation>部数(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Looking for printers...</source>
+        <translation>プリンターを探しています...</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one in the system's settings.</source>
+        <translation>プリントサーバーにプリンターがありません。システムの設定で追加してください。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". Choose another one.</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>印刷する写真がありません。</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>写真を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 を印刷</translation>
+    </message>
+    <message>
+        <source>%1 of %2  ·  %3</source>
+        <translation>%1 / %2  ·  %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>To make that possible, this was changed too: %1</source>
+        <translation>それに合わせて、次の設定も変更しました: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブをキャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>ページを準備しています...</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2".</source>
+        <translation>ジョブ %1 を「%2」に送りました。</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <translation>プリンターと用紙サイズを選び、プレビューを確認して「印刷」を押してください。設定の左の一覧に、プリンター固有のページがあります。</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>キャンセルしています...</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintRun</name>
+    <message>
+        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
+        <translation>一時ファイルを作れません: %1。ディスクの空きを増やして、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Sending the job...</source>
+        <translation>ジョブを送っています...</translation>
+    </message>
+    <message>
+        <source>Preparing the pages...</source>
+        <translation>ページを準備しています...</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>キャンセルしました。何も印刷していません。</translation>
+    </message>
+    <message>
+        <source>Nothing was printed. %1</source>
+        <translation>何も印刷していません。%1</translation>
+    </message>
+</context>
+</TS>
