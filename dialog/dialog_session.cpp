@@ -10,6 +10,8 @@
 
 namespace halvern {
 
+using ppd_lookup::NumberReading;
+
 namespace {
 
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
@@ -178,10 +180,10 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
     return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
 }
 
-ChangeResult DialogSession::change(const QString& key, const QVariant& value)
+ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)
 {
     const QMap<QString, QString> before = model_->values();
-    ChangeResult result = model_->change(key, value);
+    ChangeResult result = model_->change(key, value, reading);
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
         return result;
@@ -220,7 +222,7 @@ void DialogSession::tellPanels(const QString& key, const QString& choice)
 
 bool DialogSession::changeOption(const QString& key, const QVariant& value)
 {
-    if (!model_ || !change(key, value).accepted)
+    if (!model_ || !change(key, value, NumberReading::whole).accepted)
         return false;
     tellPanels(key, model_->value(key));
     return true;
@@ -249,7 +251,8 @@ ppd_file_t* DialogSession::hostPpdFile()
 
 bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 {
-    return model_ && change(key, choice).accepted;
+    // Panels ask at every keystroke.
+    return model_ && change(key, choice, NumberReading::leading).accepted;
 }
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()

@@ -120,7 +120,7 @@ private:
     void leavePrinter();
     void applyOptions();
     void loadPanels();
-    ChangeResult change(const QString& key, const QVariant& value);
+    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
     void storeInSettings(const QString& key);
     void tellPanels(const QString& key, const QString& choice);
 
