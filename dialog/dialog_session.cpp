@@ -117,9 +117,7 @@ void DialogSession::leavePrinter()
     panels_.clear();
     host_.reset();
     model_.reset();
-    const QStringList keys = settings_->values().keys();
-    for (const QString& key : keys)
-        settings_->setValue(key, QVariant(), true);
+    settings_ = std::make_shared<PrintSettings>();
     beforeLastChange_.clear();
 }
 
@@ -132,19 +130,22 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
     // Not from the list, which may come later: a panel asks once and remembers.
     host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
-    applyOptions();
+    applyOptions(ppd.jobSheets);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
 }
 
-void DialogSession::applyOptions()
+void DialogSession::applyOptions(const QString& queueJobSheets)
 {
     for (const QString& sentence : model_->apply(inPpdTerms(saved_.byPrinter.value(printerName_))))
         Q_EMIT notice(tr("A saved setting was left out. %1").arg(sentence));
     const QStringList refusals = model_->apply(inPpdTerms(request_.options));
     for (const QString& sentence : refusals)
         Q_EMIT refused(sentence);
+    // What the queue would add by itself is the panels' to see and to change.
+    if (!queueJobSheets.isEmpty())
+        settings_->setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
     const QMap<QString, QString> kept = model_->kept();
     for (auto it = kept.cbegin(); it != kept.cend(); ++it)
         settings_->setValue(it.key(), it.value(), false);

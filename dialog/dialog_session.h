@@ -118,7 +118,7 @@ private:
     void takePpd(const QString& name, const QueuePpd& ppd);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
-    void applyOptions();
+    void applyOptions(const QString& queueJobSheets);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
     void storeInSettings(const QString& key);

@@ -14,14 +14,27 @@ QString words(const char* text)
     return QCoreApplication::translate("Server", text);
 }
 
-QString askDeviceUri(cups::Connection& server, const QString& queue)
+QString joined(ipp_attribute_t* names)
 {
+    QStringList all;
+    for (int i = 0; names && i < ippGetCount(names); ++i)
+        all.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
+    return all.join(QLatin1Char(','));
+}
+
+void askQueue(cups::Connection& server, const QString& queue, QueuePpd& result)
+{
+    static const char* const kWanted[] = {"device-uri", "job-sheets-default"};
     cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "device-uri");
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2, nullptr,
+                  kWanted);
     const cups::Ipp answer = server.request(std::move(request), "/");
-    ipp_attribute_t* uri = answer ? ippFindAttribute(answer.get(), "device-uri", IPP_TAG_ZERO) : nullptr;
-    return uri ? QString::fromUtf8(ippGetString(uri, 0, nullptr)) : QString();
+    if (!answer)
+        return;
+    result.deviceUri = joined(ippFindAttribute(answer.get(), kWanted[0], IPP_TAG_ZERO));
+    const QString sheets = joined(ippFindAttribute(answer.get(), kWanted[1], IPP_TAG_ZERO));
+    if (sheets != QLatin1StringView("none,none") && sheets != QLatin1StringView("none"))
+        result.jobSheets = sheets;
 }
 
 } // namespace
@@ -34,7 +47,7 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = server.error();
         return result;
     }
-    result.deviceUri = askDeviceUri(server, queue);
+    askQueue(server, queue, result);
     char path[1024] = "";
     time_t modified = 0;
     if (cupsGetPPD3(server.http(), queue.toUtf8().constData(), &modified, path, sizeof(path)) !=

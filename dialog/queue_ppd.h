@@ -9,6 +9,7 @@ namespace halvern {
 struct QueuePpd {
     std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
     QString deviceUri;               ///< empty if the queue has none
+    QString jobSheets;               ///< the banner pages that the queue adds by itself; empty if none
     QString problem;
 };
 
