@@ -158,6 +158,7 @@ void DialogSession::loadPanels()
     if (!bundle || bundle->isEmpty())
         return;
     QString problem;
+    bundleName_ = *bundle;
     panels_ = panelSource_.panels(*bundle, host_, &problem);
     if (!problem.isEmpty())
         Q_EMIT notice(problem);
@@ -179,6 +180,12 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
     if (model_)
         sheet = model_->sheet();
     return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
+}
+
+QString DialogSession::optionText(const QString& key) const
+{
+    const QString text = panels_.empty() ? key : panelSource_.localized(bundleName_, key);
+    return text == key && model_ ? model_->optionText(key) : text;
 }
 
 ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)

@@ -71,6 +71,9 @@ public:
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const;
 
+    /// The words that the panels' bundle has for an option, else the PPD's.
+    QString optionText(const QString& key) const;
+
     /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
@@ -133,6 +136,7 @@ private:
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<Host> host_;
     PanelList panels_;
+    QString bundleName_; // of the panels
     PageSettings page_;
     std::vector<Photo> photos_;
     int filesLeft_ = 0;
