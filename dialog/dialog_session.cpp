@@ -14,6 +14,7 @@ using ppd_lookup::NumberReading;
 
 namespace {
 
+constexpr int kUsualResolution = 300;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 
 PageRect toPageRect(const QRectF& rect)
@@ -180,6 +181,19 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
     if (model_)
         sheet = model_->sheet();
     return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
+}
+
+Look DialogSession::look() const
+{
+    if (!model_)
+        return {};
+    const QMap<QString, QString> values = model_->values();
+    return {adjust::colorAdjustments(values), adjust::sharpening(values)};
+}
+
+int DialogSession::resolution() const
+{
+    return model_ ? model_->resolution() : kUsualResolution;
 }
 
 QString DialogSession::optionText(const QString& key) const

@@ -8,6 +8,7 @@
 #include "dialog/print_run.h"
 #include "dialog/printer_list.h"
 #include "dialog/queue_ppd.h"
+#include "dialog/screen_photo.h"
 
 #include <QObject>
 
@@ -70,6 +71,12 @@ public:
 
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const;
+
+    /// What the printer's adjustments do to the photos, from the options' current values.
+    Look look() const;
+
+    /// The printer's dots per inch.
+    int resolution() const;
 
     /// The words that the panels' bundle has for an option, else the PPD's.
     QString optionText(const QString& key) const;
