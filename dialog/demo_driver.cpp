@@ -18,7 +18,8 @@ constexpr char kUsage[] =
     "usage: halvern-print-demo STEPS-FILE SCREENS-FOLDER [options of halvern-print] FILE...\n"
     "A step a line: ready | page ID | click TARGET | type TARGET TEXT | choose TARGET CHOICE | slide TARGET "
     "VALUE\n"
-    "| screenshot NAME | print | close. TARGET is name:OBJECT-NAME or tag:NUMBER. # begins a comment.\n";
+    "| screenshot NAME | print | dark | close. TARGET is name:OBJECT-NAME or tag:NUMBER. # begins a "
+    "comment.\n";
 
 QStringList readSteps(const QString& path)
 {

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPixmap>
@@ -18,6 +19,15 @@ namespace {
 
 constexpr int kPatienceMilliseconds = 30000;
 constexpr int kMostKeys = 5000;
+
+QPalette darkPalette()
+{
+    QPalette colours(QColor(53, 53, 53), QColor(45, 45, 45));
+    colours.setColor(QPalette::Base, QColor(32, 32, 32));
+    colours.setColor(QPalette::Highlight, QColor(42, 110, 175));
+    colours.setColor(QPalette::HighlightedText, Qt::white);
+    return colours;
+}
 
 QString controlText(const QWidget& control)
 {
@@ -48,6 +58,10 @@ QString DemoSteps::run(const QString& step)
         return screenshot(first);
     if (verb == QLatin1StringView("print"))
         return print();
+    if (verb == QLatin1StringView("dark")) {
+        QApplication::setPalette(darkPalette());
+        return {};
+    }
     if (verb == QLatin1StringView("close")) {
         dialog_.close();
         return {};

@@ -204,7 +204,7 @@ QString DialogSession::optionText(const QString& key) const
 
 ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)
 {
-    const QMap<QString, QString> before = model_->values();
+    const QString before = model_->value(key);
     ChangeResult result = model_->change(key, value, reading);
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
@@ -215,13 +215,25 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
         storeInSettings(side.key);
         tellPanels(side.key, side.choice);
     }
-    if (!result.sideChanges.empty()) {
-        beforeLastChange_ = before;
-        lastChangedKey_ = key;
-        Q_EMIT otherOptionsChanged(result.sideChanges);
-    }
+    rememberForUndo(key, before, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
+}
+
+void DialogSession::rememberForUndo(const QString& key, const QString& before,
+                                    const QList<SideChange>& changes)
+{
+    if (changes.isEmpty()) {
+        if (beforeLastChange_.contains(key)) {
+            beforeLastChange_.clear();
+            Q_EMIT undoExpired();
+        }
+        return;
+    }
+    beforeLastChange_ = {{key, before}};
+    for (const SideChange& change : changes)
+        beforeLastChange_.insert(change.key, change.before);
+    Q_EMIT otherOptionsChanged(changes);
 }
 
 void DialogSession::storeInSettings(const QString& key)
@@ -254,12 +266,9 @@ void DialogSession::undoLastChange()
 {
     if (!model_ || beforeLastChange_.isEmpty())
         return;
-    const QMap<QString, QString> now = model_->values();
     const QMap<QString, QString> before = std::exchange(beforeLastChange_, {});
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
-        if (now.value(it.key()) == it.value())
-            continue;
         storeInSettings(it.key());
         tellPanels(it.key(), it.value());
     }

@@ -85,7 +85,8 @@ public:
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
 
-    /// Takes the last change back, with what it changed elsewhere.
+    /// Takes the last change that changed other options too back, with those. Nothing happens once one of
+    /// them has been changed again.
     void undoLastChange();
 
     /// Whether print() would do something.
@@ -120,6 +121,8 @@ Q_SIGNALS:
     void refused(const QString& sentence);
     /// A resolver has changed other options too.
     void otherOptionsChanged(const QList<halvern::SideChange>& changes);
+    /// undoLastChange() would do nothing any more.
+    void undoExpired();
     /// Option values or the page have changed.
     void optionsChanged();
 
@@ -131,6 +134,7 @@ private:
     void applyOptions(const QString& queueJobSheets);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
+    void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
     void storeInSettings(const QString& key);
     void tellPanels(const QString& key, const QString& choice);
 
@@ -147,8 +151,7 @@ private:
     PageSettings page_;
     std::vector<Photo> photos_;
     int filesLeft_ = 0;
-    QMap<QString, QString> beforeLastChange_;
-    QString lastChangedKey_;
+    QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
     cups::CancelFlag stopFetching_;
     cups::CancelFlag stopAll_;
 };

@@ -3,30 +3,47 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 
 namespace halvern {
 
 namespace {
 
-struct KindLook {
-    QColor colour;
-    QStyle::StandardPixmap icon;
-};
-
-KindLook lookOf(MessageKind kind)
+QColor colourOf(MessageKind kind)
 {
     switch (kind) {
     case MessageKind::warning:
-        return {QColor(235, 160, 40), QStyle::SP_MessageBoxWarning};
+        return {225, 140, 20};
     case MessageKind::error:
-        return {QColor(215, 60, 60), QStyle::SP_MessageBoxCritical};
+        return {205, 50, 50};
     case MessageKind::information:
         break;
     }
-    return {QColor(60, 130, 215), QStyle::SP_MessageBoxInformation};
+    return {50, 120, 205};
+}
+
+// A mark in the message's colour, which the desktop's own icons do not have in every theme.
+QPixmap markOf(MessageKind kind, double ratio)
+{
+    constexpr int kEdge = 18;
+    QPixmap mark(QSize(kEdge, kEdge) * ratio);
+    mark.setDevicePixelRatio(ratio);
+    mark.fill(Qt::transparent);
+    QPainter painter(&mark);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colourOf(kind));
+    painter.drawEllipse(QRectF(0.5, 0.5, kEdge - 1, kEdge - 1));
+    painter.setPen(Qt::white);
+    QFont font = painter.font();
+    font.setBold(true);
+    font.setPixelSize(13);
+    painter.setFont(font);
+    painter.drawText(QRectF(0, 0, kEdge, kEdge), Qt::AlignCenter,
+                     kind == MessageKind::information ? QStringLiteral("i") : QStringLiteral("!"));
+    return mark;
 }
 
 QColor blended(const QColor& a, const QColor& b, double share)
@@ -51,7 +68,7 @@ MessageBar::MessageBar(QWidget* parent)
     label_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     action_->setObjectName(QStringLiteral("messageAction"));
     close_->setAutoRaise(true);
-    close_->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
+    close_->setText(QStringLiteral("\u2715"));
     close_->setAccessibleName(tr("Close the message"));
     close_->setToolTip(tr("Close the message"));
     auto* row = new QHBoxLayout(this);
@@ -71,11 +88,10 @@ MessageBar::MessageBar(QWidget* parent)
 
 void MessageBar::showMessage(MessageKind kind, const QString& text, const QString& action)
 {
-    const KindLook look = lookOf(kind);
     QPalette colours = parentWidget()->palette();
-    colours.setColor(QPalette::Window, blended(look.colour, colours.color(QPalette::Window), 0.18));
+    colours.setColor(QPalette::Window, blended(colourOf(kind), colours.color(QPalette::Window), 0.18));
     setPalette(colours);
-    icon_->setPixmap(style()->standardIcon(look.icon).pixmap(18, 18));
+    icon_->setPixmap(markOf(kind, devicePixelRatioF()));
     label_->setText(text);
     action_->setText(action);
     action_->setVisible(!action.isEmpty());
@@ -88,7 +104,14 @@ void MessageBar::showMessage(MessageKind kind, const QString& text, const QStrin
 void MessageBar::clear()
 {
     label_->clear();
+    action_->setText({});
     hide();
+}
+
+void MessageBar::clearAction()
+{
+    if (!action_->text().isEmpty())
+        clear();
 }
 
 QString MessageBar::text() const

@@ -23,6 +23,9 @@ public:
     /// Takes the sentence away.
     void clear();
 
+    /// Takes a message that offers an action away; another one stays.
+    void clearAction();
+
     QString text() const;
 
 Q_SIGNALS:

@@ -241,6 +241,7 @@ void PrintDialog::connectSession()
         deck_->refresh();
         showPhotos();
     });
+    connect(&session_, &DialogSession::undoExpired, this, [this] { message_->clearAction(); });
     connect(message_, &MessageBar::actionChosen, &session_, &DialogSession::undoLastChange);
 }
 

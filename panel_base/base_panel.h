@@ -19,6 +19,7 @@ using ppd_file_t = ppd_file_s;
 namespace halvern {
 
 class Semaphore;
+struct Notification;
 class SpeechSynthesizer;
 
 /// Current choices: PPD option keyword -> choice as the PPD names it ("True", "1.24", a paper's name).
@@ -137,6 +138,50 @@ public:
     /// defaultValueForOptionKey: the dialog PPD's default.
     virtual std::optional<QString> defaultValueForOptionKey(const std::optional<QString>& key);
 
+    // Command jobs and their watching. These block on the CUPS server, except where they say otherwise, and
+    // may run on any thread; one sender per panel at a time.
+
+    /// sendPrinterCommands: sends the commands to the printer's queue as one job and starts to watch it; the
+    /// outcome arrives at ppdDidUpdate or ppdUpdateDidAbort. Sends nothing and calls neither while the panel
+    /// is hidden or unloading, a job of the panel is still watched, or the queue processes a job.
+    virtual void sendPrinterCommands(const QStringList& commands);
+
+    /// dsendPrinterCommands: the same commands through the printer object; never refused, not watched.
+    virtual void dsendPrinterCommands(const QStringList& commands);
+
+    /// activeJobIDForDesinationName: the job that the queue is processing; 0 if none.
+    virtual int activeJobIDForDesinationName(const QString& destination);
+
+    /// stringForCupsJobState: an IPP job state's word. Does not block.
+    virtual QString stringForCupsJobState(int state);
+
+    /// waitForJobCompletion: watches the job on a queue of its own, which holds the panel until then. Does
+    /// not block. A job that is pending or processing is asked for twice a second; the unload flag ends the
+    /// watch within that time, cancels the job, and no hook is called.
+    virtual void waitForJobCompletion(int jobID);
+
+    /// jobStateForDesinationName:JobID:waitWhileInProcess: the job's state, completed (9) if it is no longer
+    /// active; with `wait`, once it is neither pending nor processing.
+    virtual int jobStateForDesinationName_JobID_waitWhileInProcess(const QString& destination, int jobID,
+                                                                   bool wait);
+
+    /// ppdDidUpdate: hook, the watched job has completed. Called on the watch's queue.
+    virtual void ppdDidUpdate() {}
+
+    /// ppdUpdateDidAbort: hook, the watched job has ended otherwise, is held, or never came to be. Called on
+    /// the watch's queue. An override hides ppdUpdateDidAbort: (with its argument): name both with `using`.
+    virtual void ppdUpdateDidAbort() {}
+
+    /// ppdUpdateDidComplete:, ppdUpdateDidAbort: route a notification to the hooks. They do not block.
+    virtual void ppdUpdateDidComplete(const Notification& notification);
+    virtual void ppdUpdateDidAbort(const Notification& notification);
+
+    /// statesForDestinationName: the queue's state reasons; nothing if CUPS does not know the queue.
+    virtual std::optional<QStringList> statesForDestinationName(const std::optional<QString>& destination);
+
+    /// printerStateReasons: the state reasons of the panel's printer.
+    virtual std::optional<QStringList> printerStateReasons();
+
     // Choices.
 
     /// ppdOptionKeyForTag: the option that a control with the tag edits.
@@ -229,6 +274,9 @@ protected:
     /// out; so does its mark if the option has no number as its default. For enableCustom().
     void takeSliderRangesFromPPD(SliderMark mark);
 
+    /// A zero-terminated UTF-8 copy for a watch to keep, empty for nothing; null when memory has run out.
+    virtual std::unique_ptr<char[]> copyForWatch(const std::optional<QString>& text);
+
     /// Runs `work` after `milliseconds` on the main thread, with a counted reference to the panel.
     void performDelayed(int milliseconds, void (KSTRVLBasePDEHalvern::*work)());
 
@@ -249,6 +297,10 @@ protected:
     AtomicShared<Semaphore> pdeUnloadSemaphore;
 
 private:
+    struct WatchedJob;
+    static void watch(WatchedJob& job);
+    void watchDidBailOut();
+    void watchDidEnd(WatchedJob& job);
     void logEntered(const char* operation) const;
     void loadPanelView();
     void wireControlsInView(QWidget* view);

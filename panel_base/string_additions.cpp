@@ -1,6 +1,8 @@
 #include "panel_base/string_additions.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace halvern {
 
@@ -29,14 +31,8 @@ int compareNumbers(QStringView left, QStringView right)
     return left.compare(right);
 }
 
-} // namespace
-
-int KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(const QString& left, const QString& right)
+int compareFolded(QStringView a, QStringView b)
 {
-    const QString foldedLeft = left.toCaseFolded();
-    const QString foldedRight = right.toCaseFolded();
-    QStringView a = foldedLeft;
-    QStringView b = foldedRight;
     while (!a.isEmpty() && !b.isEmpty()) {
         if (isDigit(a.front()) && isDigit(b.front())) {
             const QStringView numberA = takeDigits(a);
@@ -51,6 +47,30 @@ int KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(const QString& lef
         b = b.mid(1);
     }
     return int(!a.isEmpty()) - int(!b.isEmpty());
+}
+
+} // namespace
+
+int KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(const QString& left, const QString& right)
+{
+    return compareFolded(left.toCaseFolded(), right.toCaseFolded());
+}
+
+QStringList KSTRVL_NSStringAdditions::sortedNumerically(const QStringList& strings)
+{
+    // Folding once for each string, not once for each comparison.
+    std::vector<std::pair<QString, QString>> folded;
+    folded.reserve(size_t(strings.size()));
+    for (const QString& string : strings)
+        folded.emplace_back(string.toCaseFolded(), string);
+    std::stable_sort(folded.begin(), folded.end(), [](const auto& left, const auto& right) {
+        return compareFolded(left.first, right.first) < 0;
+    });
+    QStringList sorted;
+    sorted.reserve(strings.size());
+    for (auto& entry : folded)
+        sorted.append(std::move(entry.second));
+    return sorted;
 }
 
 QString WMKastrovelExtras::stringWithOnlyCharactersInSet(const QString& string, const CharacterSet& set)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <functional>
@@ -12,6 +13,9 @@ namespace KSTRVL_NSStringAdditions {
 /// numericalCaseInsensitiveCompare: negative, zero or positive. Ignores case and compares runs of digits by
 /// their value ("A2" before "a10"); the same in every locale. Any thread.
 int numericalCaseInsensitiveCompare(const QString& left, const QString& right);
+
+/// The strings in the order of numericalCaseInsensitiveCompare:, equal ones in their order. Any thread.
+QStringList sortedNumerically(const QStringList& strings);
 
 } // namespace KSTRVL_NSStringAdditions
 

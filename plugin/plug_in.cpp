@@ -1,6 +1,7 @@
 #include "plugin/plug_in.h"
 
 #include "panels/backprint/backprint_panel.h"
+#include "panels/features/features_panel.h"
 #include "panels/simple/color_adjust_panel.h"
 #include "panels/simple/sharpness_panel.h"
 #include "platform/foundation/bundle.h"
@@ -22,6 +23,7 @@ template <class P> std::shared_ptr<Panel> make(const std::shared_ptr<HostCallbac
 const std::vector<PanelFactory>& roster()
 {
     static const std::vector<PanelFactory> factories{
+        &make<RZFeaturesPDEHalvern>,
         &make<RZBackprintPDEHalvern>,
         &make<RZColorAdjustPDEHalvern>,
         &make<RZSharpnessPDEHalvern>,

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/property_list_object_table.h"
 
+#include <array>
 #include <bit>
 #include <utility>
 
@@ -26,8 +27,10 @@ quint32 BinaryPropertyListWriter::begin(quint8 marker)
 
 void BinaryPropertyListWriter::addBigEndian(quint64 value, int width)
 {
-    for (int shift = (width - 1) * 8; shift >= 0; shift -= 8)
-        bytes_.append(char(value >> shift & 0xFF));
+    std::array<char, 8> bytes{};
+    for (int i = 0; i < width; ++i)
+        bytes[std::size_t(i)] = char(value >> (width - 1 - i) * 8 & 0xFF);
+    bytes_.append(bytes.data(), width);
 }
 
 void BinaryPropertyListWriter::addCount(quint8 kind, quint64 count)

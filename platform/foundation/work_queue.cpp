@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <chrono>
+#include <condition_variable>
 #include <deque>
 #include <mutex>
 #include <system_error>
@@ -14,6 +16,26 @@
 namespace halvern {
 
 namespace {
+
+struct BusyThreads {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int count = 0;
+
+    void add(int difference)
+    {
+        const std::scoped_lock lock(mutex);
+        count += difference;
+        changed.notify_all();
+    }
+};
+
+BusyThreads& busyThreads()
+{
+    // Never destroyed: a thread that is stuck may come back after main() has returned.
+    static BusyThreads* const threads = std::make_unique<BusyThreads>().release();
+    return *threads;
+}
 
 // Where the main thread's work is posted to. It lives for ever: a worker that nobody joins may post while the
 // application object is going.
@@ -85,20 +107,36 @@ void WorkQueue::State::run(const std::shared_ptr<State>& state)
 
 WorkQueue::WorkQueue() : state_(std::make_shared<State>()) {}
 
-void WorkQueue::async(std::function<void()> work) const
+bool WorkQueue::async(std::function<void()> work) const
 {
     const std::scoped_lock lock(state_->mutex);
     state_->work.push_back(std::move(work));
     if (std::exchange(state_->running, true))
-        return;
+        return true;
+    busyThreads().add(1);
     try {
-        std::thread([state = state_] { State::run(state); }).detach();
+        std::thread([state = state_]() mutable {
+            State::run(state);
+            state.reset();
+            busyThreads().add(-1);
+        }).detach();
+        return true;
     } catch (const std::system_error& error) {
+        busyThreads().add(-1);
         state_->running = false;
         state_->work.clear();
         logLine(
             QStringLiteral("no thread for background work: %1").arg(QString::fromLocal8Bit(error.what())));
+        return false;
     }
+}
+
+bool waitForWorkQueues(int milliseconds)
+{
+    BusyThreads& threads = busyThreads();
+    std::unique_lock lock(threads.mutex);
+    return threads.changed.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                                    [&] { return threads.count == 0; });
 }
 
 } // namespace halvern

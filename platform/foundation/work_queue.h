@@ -26,11 +26,16 @@ class WorkQueue {
 public:
     WorkQueue();
 
-    void async(std::function<void()> work) const;
+    /// False if the work was lost.
+    bool async(std::function<void()> work) const;
 
 private:
     struct State;
     std::shared_ptr<State> state_;
 };
+
+/// Waits until no queue has work, `milliseconds` at most; false if one still has. For the end of a program
+/// whose windows are closed, so that waits which have seen their panel go can tidy up after themselves.
+bool waitForWorkQueues(int milliseconds);
 
 } // namespace halvern

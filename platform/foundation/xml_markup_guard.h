@@ -10,8 +10,9 @@ inline constexpr qsizetype kMaxXmlText = 4 * 1024 * 1024;
 ///
 /// QXmlStreamReader compares each attribute with all others before it reports the element (80,000 of them,
 /// 800 KB, take seven seconds), and keeps a DTD subset's entities in many times their size. Throws
-/// CorruptArchive for what would make it do so: long tags, a DTD subset, text or comments beyond kMaxXmlText.
-/// Anything else that is wrong is left for the parser to find. Any thread.
+/// CorruptArchive for what would make it do so: long tags, more than three million of them, a DTD subset,
+/// text or comments beyond kMaxXmlText. Anything else that is wrong is left for the parser to find. Any
+/// thread.
 void checkXmlMarkup(QByteArrayView xml);
 
 } // namespace halvern

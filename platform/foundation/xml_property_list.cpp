@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <optional>
 #include <vector>
 
@@ -224,9 +225,12 @@ quint32 XmlPropertyListReader::addInteger(QString text)
 
 quint32 XmlPropertyListReader::addReal(const QString& text)
 {
-    bool ok = false;
-    const double number = text.trimmed().toDouble(&ok);
-    if (!ok)
+    const QByteArray digits = text.trimmed().toLatin1();
+    const char* const end = digits.constData() + digits.size();
+    double number = 0.0;
+    const auto [stop, error] =
+        std::from_chars(digits.constData() + (digits.startsWith('+') ? 1 : 0), end, number);
+    if (error != std::errc() || stop != end)
         throw CorruptArchive{"its XML has a number that is none"};
     return writer_.addReal(number);
 }

@@ -1,5 +1,8 @@
 #include "platform/printing/printer.h"
 
+#include "platform/printing/jobs.h"
+#include "platform/printing/print_settings.h"
+
 #include <utility>
 
 namespace halvern {
@@ -18,6 +21,17 @@ std::optional<QString> Printer::copyDeviceURI() const
     if (deviceUri_.isEmpty())
         return std::nullopt;
     return deviceUri_;
+}
+
+int Printer::sendCommand(const QString& commands, const QString& title) const
+{
+    if (id_.isEmpty())
+        return kPrintingGeneralError;
+    jobs::Server server;
+    const int id = server.createJob(id_, title);
+    if (id <= 0 || !server.sendDocument(id_, id, title, jobs::kCommandFormat, commands.toUtf8()))
+        return kPrintingGeneralError;
+    return kPrintingOk;
 }
 
 } // namespace halvern

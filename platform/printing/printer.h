@@ -20,6 +20,10 @@ public:
     /// host name in capitals or with escapes is common in them); nothing if it has none.
     virtual std::optional<QString> copyDeviceURI() const;
 
+    /// PMPrinterSendCommand: sends a command file to the printer's queue as a job of the given title, without
+    /// options. Blocks on the CUPS server. 0 when the job is in the queue, else kPrintingGeneralError.
+    virtual int sendCommand(const QString& commands, const QString& title) const;
+
 private:
     QString id_;
     QString deviceUri_;

@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QStandardItemModel>
 
+#include <memory>
+
 namespace halvern::control {
 
 namespace {
@@ -212,6 +214,24 @@ void setItemTag(QComboBox* popup, int index, int tag)
 {
     if (QStandardItem* item = itemAt(popup, index))
         item->setData(tag, kItemTagRole);
+}
+
+void setItems(QComboBox* popup, const QList<MenuItem>& items)
+{
+    auto* model = popup ? qobject_cast<QStandardItemModel*>(popup->model()) : nullptr;
+    if (!model)
+        return;
+    popup->clear();
+    QList<QStandardItem*> rows;
+    rows.reserve(items.size());
+    for (const MenuItem& item : items) {
+        auto row = std::make_unique<QStandardItem>(item.title);
+        row->setData(item.representedObject, Qt::UserRole);
+        row->setData(item.tag, kItemTagRole);
+        rows.append(row.release());
+    }
+    model->invisibleRootItem()->appendRows(rows);
+    popup->setCurrentIndex(rows.isEmpty() ? -1 : 0);
 }
 
 } // namespace halvern::control

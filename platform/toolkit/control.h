@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QVariant>
 
@@ -62,5 +63,15 @@ bool isItemEnabled(const QComboBox* popup, int index);
 void setItemEnabled(QComboBox* popup, int index, bool enabled);
 int itemTag(const QComboBox* popup, int index);
 void setItemTag(QComboBox* popup, int index, int tag);
+
+struct MenuItem {
+    QString title;
+    QVariant representedObject;
+    int tag = 0;
+};
+
+/// Replaces a pop-up button's items, all enabled, and selects the first; in one step, so that the time grows
+/// with their number only.
+void setItems(QComboBox* popup, const QList<MenuItem>& items);
 
 } // namespace halvern::control

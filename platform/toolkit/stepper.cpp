@@ -1,6 +1,8 @@
 #include "platform/toolkit/stepper.h"
 
 #include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -20,6 +22,7 @@ QToolButton* makeArrow(Stepper* stepper, Qt::ArrowType arrow)
     button->setFocusPolicy(Qt::NoFocus);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     button->setMinimumHeight(8);
+    button->setIconSize(QSize(8, 8));
     return button;
 }
 
@@ -38,6 +41,18 @@ Stepper::Stepper(QWidget* parent)
     connect(up_, &QToolButton::clicked, this, [this] { step(+1); });
     connect(down_, &QToolButton::clicked, this, [this] { step(-1); });
     updateArrows();
+}
+
+// As high as a field of text, beside which it stands, not as two whole buttons.
+QSize Stepper::sizeHint() const
+{
+    constexpr int kWidth = 18;
+    constexpr int kTextMargins = 4;
+    QStyleOptionFrame field;
+    field.initFrom(this);
+    field.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &field, this);
+    const QSize text(kWidth, fontMetrics().height() + kTextMargins);
+    return {kWidth, style()->sizeFromContents(QStyle::CT_LineEdit, &field, text, this).height()};
 }
 
 void Stepper::setMinimumValue(double minimum)

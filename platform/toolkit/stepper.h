@@ -33,6 +33,8 @@ public:
     /// Sets the value, held to the range. Does not count as a user's action. Not-a-number is ignored.
     void setRealValue(double value);
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// The user pressed an arrow, or stepped with the wheel or the arrow keys, and the value changed.
     void userStepped();

@@ -44,6 +44,12 @@ std::shared_ptr<Panel> aPanel(const std::shared_ptr<HostCallback>& host)
     return panels->front();
 }
 
+// A panel that asks its printer in the background is gone when the answer has come.
+bool areAllGone(const std::shared_ptr<FakeHost>& host)
+{
+    return waitUntil([&] { return host.use_count() == 1; });
+}
+
 } // namespace
 
 TEST(PlugInTest, AcceptsItsOwnBundleOnly)
@@ -67,14 +73,20 @@ TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
     const auto host = std::make_shared<FakeHost>();
     RZPDEPlugInHalvern plugIn;
     EXPECT_FALSE(plugIn.PDEPanelsForType_withHostInfo(QStringLiteral("another"), host).has_value());
-    const auto first =
-        plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
-    const auto second =
-        plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
+    auto first = plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
+    auto second = plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
     ASSERT_FALSE(first->empty());
     ASSERT_EQ(first->size(), second->size());
     EXPECT_NE(first->front(), second->front());
-    EXPECT_EQ(first->back()->panelKind(), QStringLiteral("com.halvern.print.pde.sharpness"));
+    QStringList kinds;
+    for (const auto& panel : *first)
+        kinds.append(panel->panelKind()->section(u'.', -1));
+    EXPECT_EQ(kinds.first(), QStringLiteral("features"));
+    EXPECT_EQ(kinds.last(), QStringLiteral("sharpness"));
+    EXPECT_EQ(kinds.size(), 4);
+    first.reset();
+    second.reset();
+    EXPECT_TRUE(areAllGone(host));
     const auto bare = std::make_shared<FakeHost>(QByteArray());
     const auto none =
         plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), bare);
@@ -92,6 +104,7 @@ TEST(PlugInTest, TheListEndsBeforeTheFirstFailureAndLaterPanelsAreReleased)
     EXPECT_EQ(made, 4);
     EXPECT_GE(log.count(QStringLiteral("entered dealloc in RZSharpnessPDEHalvern")), 3);
     EXPECT_TRUE(makePanels({&noPanel, &aPanel}, host).empty());
+    EXPECT_TRUE(areAllGone(host));
 }
 
 TEST(PlugInTest, TheBuiltBundleLoadsAsThePrintDialogLoadsIt)
@@ -105,13 +118,16 @@ TEST(PlugInTest, TheBuiltBundleLoadsAsThePrintDialogLoadsIt)
     std::unique_ptr<PrincipalClass> principal = module->makePrincipalObject();
     EXPECT_TRUE(principal->initWithBundle(*bundle));
     Bundle::setMainBundle(nullptr);
-    const auto panels = principal->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType),
-                                                                 std::make_shared<FakeHost>());
+    const auto host = std::make_shared<FakeHost>();
+    auto panels =
+        principal->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
     ASSERT_FALSE(panels->empty());
     // The panel finds its layout in the bundle that its module lies in.
     EXPECT_NE(panels->back()->panelView(), nullptr);
     principal.reset();
     EXPECT_EQ(log.count(QStringLiteral("entered dealloc in RZPDEPlugInHalvern")), 1);
+    panels.reset();
+    EXPECT_TRUE(areAllGone(host));
 }
 
 } // namespace halvern

@@ -56,7 +56,7 @@ TEST_F(BackprintPanelTest, AFailedWriteIsLoggedAndTheOthersGoOn)
 {
     host->settings = std::make_shared<LockedSettings>();
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
-    EXPECT_EQ(log.count(QStringLiteral("PDE got an error -9543 setting the value for CVP2 !")), 1);
+    EXPECT_EQ(log.count(QStringLiteral("PDE got an error 2 setting the value for CVP2 !")), 1);
     EXPECT_EQ(saved("EnableCVP2"), QStringLiteral("True"));
     host->settings = nullptr;
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));

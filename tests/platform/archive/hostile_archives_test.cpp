@@ -332,6 +332,7 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
         {"key in an array", plist("<array><key>a</key></array>"), unpaired},
         {"key without value", plist("<dict><key>a</key></dict>"), "its XML has a key without a value"},
         {"number", plist("<integer>12x</integer>"), "its XML has a number that is none"},
+        {"real", plist("<real>1.5,</real>"), "its XML has a number that is none"},
         {"large number", plist("<integer>18446744073709551616</integer>"),
          "its XML has a number that is none"},
         {"data", plist("<data>A*==</data>"), "its XML has data that are not base64"},
@@ -354,7 +355,7 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
          },
          "its XML has a text of more than 4 MiB"},
         {"many values", [=] { return repeated("<plist><array>", "<true/>", most); },
-         "it has more than four million objects"},
+         "its XML has more than three million tags"},
         {"many short texts", [=] { return repeated("<plist><array>", "<string>ab</string>", most / 4); },
          broken},
     };

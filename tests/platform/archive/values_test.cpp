@@ -98,7 +98,7 @@ TEST(KeyedUnarchiverValues, XmlValuesKeepTheirKind)
         {"<integer>-7</integer>", qint64(-7)},
         {"<integer> 0x10 </integer>", qint64(16)},
         {"<integer>18446744073709551615</integer>", std::numeric_limits<quint64>::max()},
-        {"<real>1.5</real>", 1.5},
+        {"<real> +1.5e1 </real>", 15.0},
         {"<true/>", true},
         {"<date>2026-02-28T06:30:00Z</date>", moment("2026-02-28T06:30:00Z")},
         {"<data>\n AAEC\n </data>", QByteArray("\x00\x01\x02", 3)},

@@ -1,0 +1,168 @@
+#include "panel_base/base_panel.h"
+#include "panel_base/job_watch.h"
+#include "platform/foundation/log.h"
+#include "platform/foundation/semaphore.h"
+#include "platform/foundation/work_queue.h"
+#include "platform/printing/jobs.h"
+
+#include <array>
+#include <cstring>
+#include <new>
+
+#include <unistd.h>
+
+namespace halvern {
+
+namespace {
+
+constexpr useconds_t kPollInterval = 500000;
+
+constexpr std::array<const char*, 7> kStateWords{"pending",  "held",    "processing", "stopped",
+                                                 "canceled", "aborted", "completed"};
+
+} // namespace
+
+struct KSTRVLBasePDEHalvern::WatchedJob {
+    std::shared_ptr<KSTRVLBasePDEHalvern> panel;
+    const std::atomic<bool>* unloadFlag;
+    std::unique_ptr<char[]> destination;
+    std::unique_ptr<char[]> deviceURI;
+    int id;
+};
+
+int KSTRVLBasePDEHalvern::activeJobIDForDesinationName(const QString& destination)
+{
+    for (const jobs::Job& job : jobs::Server().jobs(destination, jobs::Which::active)) {
+        if (job.state == jobs::kProcessing)
+            return job.id;
+    }
+    return 0;
+}
+
+QString KSTRVLBasePDEHalvern::stringForCupsJobState(int state)
+{
+    if (state < jobs::kPending || state > jobs::kCompleted)
+        return QStringLiteral("unknown");
+    return QString::fromLatin1(kStateWords[size_t(state - jobs::kPending)]);
+}
+
+std::unique_ptr<char[]> KSTRVLBasePDEHalvern::copyForWatch(const std::optional<QString>& text)
+{
+    const QByteArray bytes = text.value_or(QString()).toUtf8();
+    std::unique_ptr<char[]> copy(new (std::nothrow) char[size_t(bytes.size()) + 1]);
+    if (copy)
+        std::memcpy(copy.get(), bytes.constData(), size_t(bytes.size()) + 1);
+    return copy;
+}
+
+void KSTRVLBasePDEHalvern::waitForJobCompletion(int jobID)
+{
+    auto destination = copyForWatch(destinationName());
+    auto uri = destination ? copyForWatch(printerDeviceURI()) : nullptr;
+    if (!destination || !uri) {
+        logLine(QStringLiteral("memory allocation error"));
+        return;
+    }
+    pdeUnloadSemaphore.set(std::make_shared<Semaphore>(0));
+    const auto watched = std::make_shared<WatchedJob>(
+        WatchedJob{shared_from_this(), &pdePluginDidUnload, std::move(destination), std::move(uri), jobID});
+    // A watch that never begins, for want of a thread, leaves the panel free.
+    if (!WorkQueue().async([watched] { watch(*watched); }))
+        pdeUnloadSemaphore.set(nullptr);
+}
+
+void KSTRVLBasePDEHalvern::watch(WatchedJob& job)
+{
+    jobs::Server server;
+    const QString destination = QString::fromUtf8(job.destination.get());
+    JobWatch state(job.id);
+    for (;;) {
+        switch (state.step()) {
+        case JobWatch::Step::lookAtUnloadFlag:
+            state.looked(job.unloadFlag);
+            break;
+        case JobWatch::Step::askForActiveJobs:
+            state.gotActiveJobs(server.jobs(destination, jobs::Which::active));
+            break;
+        case JobWatch::Step::sleep:
+            state.slept(usleep(kPollInterval));
+            break;
+        case JobWatch::Step::askForCompletedJobs:
+            state.gotCompletedJobs(server.jobs(destination, jobs::Which::completed));
+            break;
+        case JobWatch::Step::bailOut:
+            server.cancelAndPurge(destination, job.id);
+            return job.panel->watchDidBailOut();
+        case JobWatch::Step::reportUpdate:
+            job.destination.reset();
+            job.panel->ppdDidUpdate();
+            return job.panel->watchDidEnd(job);
+        case JobWatch::Step::reportAbort:
+            job.destination.reset();
+            job.panel->ppdUpdateDidAbort();
+            return job.panel->watchDidEnd(job);
+        }
+    }
+}
+
+void KSTRVLBasePDEHalvern::watchDidBailOut()
+{
+    logLine(QStringLiteral("bailing out of wait loop bc pde plugin unloaded."));
+    // The signal lets a waiting destruction go on, which then lets go of the semaphore; ours keeps it valid
+    // until the call is over.
+    const std::shared_ptr<Semaphore> semaphore = pdeUnloadSemaphore.get();
+    if (semaphore && !semaphore->signal())
+        pdeUnloadSemaphore.set(nullptr);
+}
+
+void KSTRVLBasePDEHalvern::watchDidEnd(WatchedJob& job)
+{
+    job.deviceURI.reset();
+    // Only now is the panel ready for another command: one sent from within the hook is refused.
+    pdeUnloadSemaphore.exchange(nullptr);
+}
+
+int KSTRVLBasePDEHalvern::jobStateForDesinationName_JobID_waitWhileInProcess(const QString& destination,
+                                                                             int jobID, bool wait)
+{
+    jobs::Server server;
+    for (;;) {
+        int state = jobs::stateOf(server.jobs(destination, jobs::Which::active), jobID);
+        // A job that is no longer active counts as completed here.
+        if (state == 0)
+            state = jobs::kCompleted;
+        logLine(QStringLiteral("Cups Job %1 is %2").arg(jobID).arg(stringForCupsJobState(state)));
+        if (!wait || !isUnderWay(state) || usleep(kPollInterval) != 0)
+            return state;
+    }
+}
+
+void KSTRVLBasePDEHalvern::ppdUpdateDidComplete(const Notification&)
+{
+    ppdDidUpdate();
+}
+
+void KSTRVLBasePDEHalvern::ppdUpdateDidAbort(const Notification&)
+{
+    ppdUpdateDidAbort();
+}
+
+std::optional<QStringList>
+KSTRVLBasePDEHalvern::statesForDestinationName(const std::optional<QString>& destination)
+{
+    const auto options = destination ? jobs::Server().destinationOptions(*destination) : std::nullopt;
+    if (!options)
+        return std::nullopt;
+    for (const auto& [name, value] : *options) {
+        if (name == QLatin1String("printer-state-reasons"))
+            return value.split(QLatin1Char(','));
+    }
+    return std::nullopt;
+}
+
+std::optional<QStringList> KSTRVLBasePDEHalvern::printerStateReasons()
+{
+    return statesForDestinationName(destinationName());
+}
+
+} // namespace halvern

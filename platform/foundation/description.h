@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QVariant>
+
+namespace halvern {
+
+/// A value as log lines spell it, on one line: "{key = value; ...}" with sorted keys for a dictionary,
+/// "(value, ...)" for a list, "(null)" for nothing. Texts inside collections are quoted where they need it,
+/// so that different collections never read the same. Any thread.
+QString descriptionOf(const QVariant& value);
+
+/// Whether two values are the same all the way down. Unlike QVariant's own comparison it tells the number
+/// 3000 from the text "3000". Any thread.
+bool isSameValue(const QVariant& left, const QVariant& right);
+
+} // namespace halvern

@@ -1,0 +1,87 @@
+#include "platform/foundation/work_queue.h"
+#include "tests/panel_base/commands/command_panel.h"
+
+namespace halvern {
+
+class CommandGuardsTest : public CommandTest {};
+
+TEST_F(CommandGuardsTest, WhileAJobIsWatchedNoOtherIsSent)
+{
+    addQueue("Busy", "slow=60");
+    const auto panel = makeCommandPanel("Busy");
+    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_TRUE(panel->isWatching());
+    const int job = onlyJob("Busy");
+    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_EQ(onlyJob("Busy"), job);
+    jobs::Server().cancelAndPurge(QStringLiteral("Busy"), job);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->aborts, 1);
+}
+
+TEST_F(CommandGuardsTest, AHiddenPanelSendsNothing)
+{
+    addQueue("Hidden");
+    const auto panel = makeCommandPanel("Hidden");
+    panel->shouldHide();
+    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_FALSE(panel->isWatching());
+    EXPECT_TRUE(active("Hidden").isEmpty());
+    EXPECT_TRUE(list("Hidden", jobs::Which::completed).isEmpty());
+}
+
+TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
+{
+    addQueue("Other", "slow=60");
+    const int processing = sendForeignJob("Other");
+    ASSERT_TRUE(reaches("Other", processing, jobs::kProcessing));
+    const auto panel = makeCommandPanel("Other");
+    EXPECT_EQ(panel->activeJobIDForDesinationName(QStringLiteral("Other")), processing);
+    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_FALSE(panel->isWatching());
+    EXPECT_EQ(active("Other").size(), 1);
+
+    addQueue("Waiting", "", {QStringLiteral("--disabled")});
+    const int pending = sendForeignJob("Waiting");
+    ASSERT_TRUE(reaches("Waiting", pending, jobs::kPending));
+    const auto second = makeCommandPanel("Waiting");
+    EXPECT_EQ(second->activeJobIDForDesinationName(QStringLiteral("Waiting")), 0);
+    second->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_TRUE(second->isWatching());
+    EXPECT_EQ(active("Waiting").size(), 2);
+    second->shouldHide();
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_TRUE(jobs::Server().cancelAndPurge(QStringLiteral("Other"), processing));
+    EXPECT_EQ(panel->aborts + panel->updates + second->aborts + second->updates, 0);
+}
+
+TEST_F(CommandGuardsTest, ACommandFromWithinAHookIsRefusedAndOneAfterItIsSent)
+{
+    addQueue("Hook");
+    const auto panel = makeCommandPanel("Hook");
+    panel->inHook = [](CommandPanel& self) { self.sendPrinterCommands(kReportAndConfigure); };
+    panel->sendPrinterCommands(kReportAndConfigure);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->updates, 1);
+    EXPECT_EQ(list("Hook", jobs::Which::completed).size(), 1);
+    panel->inHook = nullptr;
+    panel->sendPrinterCommands(kReportAndConfigure);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->updates, 2);
+    EXPECT_EQ(list("Hook", jobs::Which::completed).size(), 2);
+}
+
+TEST_F(CommandGuardsTest, APrinterWithoutANameEndsInOneAbortAndTouchesNoOtherQueue)
+{
+    addQueue("Bystander", "", {QStringLiteral("--disabled"), QStringLiteral("--default")});
+    const int job = sendForeignJob("Bystander");
+    const auto panel = makeCommandPanel("");
+    EXPECT_EQ(panel->activeJobIDForDesinationName(QString()), 0);
+    EXPECT_EQ(panel->printerStateReasons(), std::nullopt);
+    panel->sendPrinterCommands(kReportAndConfigure);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->aborts, 1);
+    EXPECT_EQ(onlyJob("Bystander"), job);
+}
+
+} // namespace halvern

@@ -1,0 +1,108 @@
+#include "tests/panel_base/commands/command_panel.h"
+
+#include "platform/foundation/work_queue.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+namespace halvern {
+
+const QStringList kReportAndConfigure{QStringLiteral("ReportStatus"), QStringLiteral("AutoConfigure")};
+
+void CommandPanel::ppdDidUpdate()
+{
+    called(updates);
+}
+
+void CommandPanel::ppdUpdateDidAbort()
+{
+    called(aborts);
+}
+
+void CommandPanel::called(std::atomic<int>& counter)
+{
+    if (QThread::currentThread() == QCoreApplication::instance()->thread())
+        hooksRanOnTheMainThread = true;
+    if (inHook)
+        inHook(*this);
+    ++counter;
+}
+
+std::unique_ptr<char[]> CommandPanel::copyForWatch(const std::optional<QString>& text)
+{
+    if (copiesLeft == 0)
+        return nullptr;
+    --copiesLeft;
+    return KSTRVLBasePDEHalvern::copyForWatch(text);
+}
+
+std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue)
+{
+    auto host = std::make_shared<FakeHost>();
+    host->printer =
+        std::make_shared<Printer>(QString::fromLatin1(queue), QStringLiteral("halvern://virtual/test"));
+    return makePanel<CommandPanel>(host);
+}
+
+void CommandTest::SetUpTestSuite()
+{
+    server = std::make_unique<PrivateCups>();
+    ASSERT_TRUE(server->isRunning()) << server->error().toStdString();
+}
+
+void CommandTest::TearDownTestSuite()
+{
+    server.reset();
+}
+
+void CommandTest::TearDown()
+{
+    EXPECT_TRUE(waitForWorkQueues(20000));
+    drainMainQueue();
+}
+
+void CommandTest::addQueue(const char* name, const char* faults, const QStringList& more)
+{
+    const QString uri = QStringLiteral("halvern://virtual/x?") + QLatin1StringView(faults);
+    ASSERT_TRUE(server->addQueue(QLatin1StringView(name), QString(), uri, more))
+        << server->error().toStdString();
+}
+
+int CommandTest::sendForeignJob(const char* queue)
+{
+    jobs::Server connection;
+    const QString name = QLatin1StringView(queue);
+    const int job = connection.createJob(name, QStringLiteral("somebody's"));
+    EXPECT_TRUE(
+        connection.sendDocument(name, job, QStringLiteral("d"), jobs::kCommandFormat, "#CUPS-COMMAND\n"));
+    return job;
+}
+
+jobs::JobList CommandTest::list(const char* queue, jobs::Which which)
+{
+    return jobs::Server().jobs(QLatin1StringView(queue), which);
+}
+
+int CommandTest::stateOf(const char* queue, int job)
+{
+    const int state = jobs::stateOf(active(queue), job);
+    return state != 0 ? state : jobs::stateOf(list(queue, jobs::Which::completed), job);
+}
+
+bool CommandTest::reaches(const char* queue, int job, int state)
+{
+    return waitUntil([&] { return stateOf(queue, job) == state; });
+}
+
+int CommandTest::onlyJob(const char* queue)
+{
+    int job = 0;
+    waitUntil([&] {
+        const jobs::JobList all = active(queue);
+        job = all.size() == 1 ? all.first().id : 0;
+        return job != 0;
+    });
+    return job;
+}
+
+} // namespace halvern

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "panel_base/base_panel.h"
+#include "platform/printing/jobs.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/observers.h"
+#include "tests/support/private_cups.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+namespace halvern {
+
+/// Counts the hooks' calls.
+class CommandPanel : public KSTRVLBasePDEHalvern {
+public:
+    using KSTRVLBasePDEHalvern::ppdUpdateDidAbort;
+
+    void ppdDidUpdate() override;
+    void ppdUpdateDidAbort() override;
+    std::unique_ptr<char[]> copyForWatch(const std::optional<QString>& text) override;
+
+    bool isWatching() const { return bool(pdeUnloadSemaphore); }
+
+    using KSTRVLBasePDEHalvern::pdeUnloadSemaphore;
+
+    std::atomic<int> updates = 0;
+    std::atomic<int> aborts = 0;
+    std::atomic<bool> hooksRanOnTheMainThread = false;
+    /// The number of copies for which there is memory; -1 for no limit.
+    int copiesLeft = -1;
+    /// Runs in the hook, before the watch has ended.
+    std::function<void(CommandPanel&)> inHook;
+
+private:
+    void called(std::atomic<int>& counter);
+};
+
+/// A panel with a printer of the name.
+std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue);
+
+extern const QStringList kReportAndConfigure;
+
+/// One private server for a suite; each test adds queues of its own. After each test no watch is left.
+class CommandTest : public testing::Test {
+protected:
+    static void SetUpTestSuite();
+    static void TearDownTestSuite();
+    void TearDown() override;
+
+    /// Adds a queue whose printer has the faults of the query (printer/README.md).
+    static void addQueue(const char* name, const char* faults = "", const QStringList& more = {});
+
+    /// A command job that is not the panel's.
+    static int sendForeignJob(const char* queue);
+
+    static jobs::JobList active(const char* queue) { return list(queue, jobs::Which::active); }
+
+    static jobs::JobList list(const char* queue, jobs::Which which);
+
+    /// The job's state, in whichever list it is; 0 if it is in neither.
+    static int stateOf(const char* queue, int job);
+    static bool reaches(const char* queue, int job, int state);
+
+    /// The only active job of the queue, once there is one.
+    static int onlyJob(const char* queue);
+
+    static inline std::unique_ptr<PrivateCups> server;
+    LogCapture log;
+};
+
+} // namespace halvern

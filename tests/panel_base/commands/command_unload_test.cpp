@@ -1,0 +1,113 @@
+#include "platform/foundation/semaphore.h"
+#include "platform/foundation/work_queue.h"
+#include "tests/panel_base/commands/command_panel.h"
+
+#include <thread>
+
+namespace halvern {
+
+namespace {
+
+const QString kBailOut = QStringLiteral("bailing out of wait loop bc pde plugin unloaded.");
+
+} // namespace
+
+class CommandUnloadTest : public CommandTest {
+protected:
+    /// A job that never starts, watched by the panel.
+    std::shared_ptr<CommandPanel> panelWithPendingJob(const char* queue)
+    {
+        addQueue(queue, "", {QStringLiteral("--disabled")});
+        auto panel = makeCommandPanel(queue);
+        panel->sendPrinterCommands(kReportAndConfigure);
+        EXPECT_NE(onlyJob(queue), 0);
+        return panel;
+    }
+
+    int position(const QString& line) const { return int(log.lines().indexOf(line)); }
+};
+
+TEST_F(CommandUnloadTest, HidingEndsTheWatchAndPurgesTheJobWithoutAHook)
+{
+    const auto panel = panelWithPendingJob("Hide");
+    const int job = onlyJob("Hide");
+    panel->shouldHide();
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(stateOf("Hide", job), 0);
+    EXPECT_EQ(log.count(kBailOut), 1);
+    EXPECT_EQ(panel->aborts + panel->updates, 0);
+    // Nobody waited, so the watch itself let go of the semaphore, and the panel may send again.
+    EXPECT_FALSE(panel->isWatching());
+    panel->willShow();
+    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_TRUE(panel->isWatching());
+    panel->shouldHide();
+}
+
+TEST_F(CommandUnloadTest, HiddenAndShownBetweenTwoPollsTheWatchGoesOn)
+{
+    const auto panel = panelWithPendingJob("Flicker");
+    const int job = onlyJob("Flicker");
+    panel->shouldHide();
+    panel->willShow();
+    // The flag was clear again before the watch could look, or it has bailed out; both leave a sound panel.
+    jobs::Server().cancelAndPurge(QStringLiteral("Flicker"), job);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->aborts + log.count(kBailOut), 1);
+    EXPECT_FALSE(panel->isWatching());
+}
+
+TEST_F(CommandUnloadTest, TheDialogLetsGoAtOnceAndThePanelGoesWithItsWatch)
+{
+    auto panel = panelWithPendingJob("LetGo");
+    const std::weak_ptr<CommandPanel> weak = panel;
+    panel->printWindowWillClose(false);
+    panel.reset();
+    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in CommandPanel")), 0);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_TRUE(weak.expired());
+    EXPECT_TRUE(active("LetGo").isEmpty());
+    EXPECT_LT(position(kBailOut), position(QStringLiteral("entered dealloc in CommandPanel")));
+    EXPECT_EQ(log.count(QStringLiteral("continuing dealloc after waiting for unload semaphore")), 0);
+}
+
+TEST_F(CommandUnloadTest, ADestructionThatFindsTheWatchWaitsForItAndReleasesTheSemaphore)
+{
+    // A panel whose destruction runs although the watch still holds it.
+    addQueue("Waits", "", {QStringLiteral("--disabled")});
+    auto host = std::make_shared<FakeHost>();
+    host->printer = std::make_shared<Printer>(QStringLiteral("Waits"), QString());
+    const auto panel = std::make_shared<CommandPanel>();
+    ASSERT_TRUE(panel->initWithCallback(host));
+    panel->sendPrinterCommands(kReportAndConfigure);
+    ASSERT_NE(onlyJob("Waits"), 0);
+    const std::weak_ptr<Semaphore> semaphore = panel->pdeUnloadSemaphore.get();
+    std::thread([&] { panel->dealloc(); }).join();
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(log.lines(),
+              (QStringList{QStringLiteral("entered dealloc in CommandPanel"), kBailOut,
+                           QStringLiteral("continuing dealloc after waiting for unload semaphore")}));
+    EXPECT_TRUE(semaphore.expired());
+    EXPECT_TRUE(active("Waits").isEmpty());
+    EXPECT_EQ(panel->aborts + panel->updates, 0);
+}
+
+TEST_F(CommandUnloadTest, TheUnloadOfAWatchWithoutAJobCancelsNobodyElses)
+{
+    addQueue("Neighbour", "slow=60");
+    const int foreign = sendForeignJob("Neighbour");
+    ASSERT_TRUE(reaches("Neighbour", foreign, jobs::kProcessing));
+    // CUPS would take these for the current job and for all jobs.
+    for (const int none : {0, -1}) {
+        const auto panel = makeCommandPanel("Neighbour");
+        panel->shouldHide();
+        panel->waitForJobCompletion(none);
+        ASSERT_TRUE(waitForWorkQueues(20000));
+    }
+    EXPECT_EQ(log.count(kBailOut), 2);
+    EXPECT_EQ(stateOf("Neighbour", foreign), jobs::kProcessing);
+    EXPECT_TRUE(jobs::Server().cancelAndPurge(QStringLiteral("Neighbour"), foreign));
+    EXPECT_TRUE(reaches("Neighbour", foreign, jobs::kCanceled));
+}
+
+} // namespace halvern

@@ -1,0 +1,123 @@
+#include "panel_base/command_file.h"
+#include "platform/foundation/notification_center.h"
+#include "platform/foundation/work_queue.h"
+#include "tests/panel_base/commands/command_panel.h"
+
+#include <cups/cups.h>
+
+namespace halvern {
+
+namespace {
+
+struct SentCommand {
+    QString text;
+    QString title;
+};
+
+class RecordingPrinter : public Printer {
+public:
+    using Printer::Printer;
+
+    int sendCommand(const QString& commands, const QString& title) const override
+    {
+        sent.append({commands, title});
+        return kPrintingGeneralError;
+    }
+
+    mutable QList<SentCommand> sent;
+};
+
+} // namespace
+
+/// Where no server answers.
+class NoServerTest : public testing::Test {
+protected:
+    NoServerTest()
+    {
+        qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+        cupsSetServer(nullptr);
+    }
+
+    ~NoServerTest() override
+    {
+        EXPECT_TRUE(waitForWorkQueues(20000));
+        qunsetenv("CUPS_SERVER");
+        cupsSetServer(nullptr);
+    }
+
+    LogCapture log;
+};
+
+TEST_F(NoServerTest, TheCommandFileHasALineFeedAfterEachLine)
+{
+    EXPECT_EQ(commandFile(kReportAndConfigure).toUtf8(), "#CUPS-COMMAND\nReportStatus\nAutoConfigure\n");
+    EXPECT_EQ(commandFile({}).toUtf8(), "#CUPS-COMMAND\n\n");
+    // A command is text, not a pattern.
+    EXPECT_EQ(commandFile({QStringLiteral("é %1 %2")}).toUtf8(), "#CUPS-COMMAND\n\xc3\xa9 %1 %2\n");
+}
+
+TEST_F(NoServerTest, AJobThatCannotBeMadeEndsInOneAbort)
+{
+    const auto panel = makeCommandPanel("Photo");
+    panel->sendPrinterCommands(kReportAndConfigure);
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->aborts, 1);
+    EXPECT_EQ(panel->updates, 0);
+    EXPECT_FALSE(panel->hooksRanOnTheMainThread);
+    EXPECT_FALSE(panel->isWatching());
+}
+
+TEST_F(NoServerTest, QueriesAnswerThatThereIsNothing)
+{
+    const auto panel = makeCommandPanel("Photo");
+    EXPECT_EQ(panel->activeJobIDForDesinationName(QStringLiteral("Photo")), 0);
+    EXPECT_EQ(panel->printerStateReasons(), std::nullopt);
+    EXPECT_EQ(panel->statesForDestinationName(std::nullopt), std::nullopt);
+    EXPECT_NE(Printer(QStringLiteral("Photo"), QString()).sendCommand(QString(), QString()), 0);
+}
+
+TEST_F(NoServerTest, WithoutMemoryForTheCopiesNothingIsWatchedAndNobodyCalled)
+{
+    const auto panel = makeCommandPanel("Photo");
+    for (const int copies : {0, 1}) {
+        panel->copiesLeft = copies;
+        panel->waitForJobCompletion(1);
+        EXPECT_EQ(log.lines(), QStringList{QStringLiteral("memory allocation error")});
+        EXPECT_FALSE(panel->isWatching());
+        log.clear();
+    }
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->aborts + panel->updates, 0);
+}
+
+TEST_F(NoServerTest, TheOtherRouteLeavesTheCommandFileToThePrinter)
+{
+    auto host = std::make_shared<FakeHost>();
+    const auto printer = std::make_shared<RecordingPrinter>(QStringLiteral("Photo"), QString());
+    host->printer = printer;
+    const auto panel = makePanel<CommandPanel>(host);
+    panel->shouldHide();
+    panel->dsendPrinterCommands(kReportAndConfigure);
+    ASSERT_EQ(printer->sent.size(), 1);
+    EXPECT_EQ(printer->sent.first().text, QStringLiteral("#CUPS-COMMAND\nReportStatus\nAutoConfigure\n"));
+    EXPECT_EQ(printer->sent.first().title, QStringLiteral("Status Check..."));
+    host->printer.reset();
+    panel->dsendPrinterCommands(kReportAndConfigure);
+    EXPECT_FALSE(panel->isWatching());
+}
+
+TEST_F(NoServerTest, JobStatesHaveWordsAndNotificationsReachTheHooks)
+{
+    const auto panel = makeCommandPanel("Photo");
+    QStringList words;
+    for (int state = 2; state <= 10; ++state)
+        words.append(panel->stringForCupsJobState(state));
+    EXPECT_EQ(words.join(QLatin1Char(' ')),
+              QStringLiteral("unknown pending held processing stopped canceled aborted completed unknown"));
+    panel->ppdUpdateDidComplete(Notification{});
+    EXPECT_EQ(panel->updates, 1);
+    panel->ppdUpdateDidAbort(Notification{});
+    EXPECT_EQ(panel->aborts, 1);
+}
+
+} // namespace halvern

@@ -1,0 +1,69 @@
+#include "platform/foundation/work_queue.h"
+#include "tests/panel_base/commands/command_panel.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <csignal>
+
+namespace halvern {
+
+class QueueStateTest : public CommandTest {};
+
+TEST_F(QueueStateTest, AJobsStateIsWaitedForOrToldAtOnce)
+{
+    addQueue("State", "slow=60");
+    const auto panel = makeCommandPanel("State");
+    const QString queue = QStringLiteral("State");
+    EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, 999, false), jobs::kCompleted);
+    EXPECT_EQ(log.lines(), QStringList{QStringLiteral("Cups Job 999 is completed")});
+    const int job = sendForeignJob("State");
+    ASSERT_TRUE(reaches("State", job, jobs::kProcessing));
+    EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, job, false),
+              jobs::kProcessing);
+    WorkQueue().async([&] {
+        // Once it has been seen running, so that the wait is one.
+        const QString running = QStringLiteral("Cups Job %1 is processing").arg(job);
+        while (log.count(running) < 2)
+            std::this_thread::yield();
+        jobs::Server().cancelAndPurge(queue, job);
+    });
+    EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, job, true), jobs::kCompleted);
+}
+
+TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
+{
+    addQueue("Reasons", "stop&reason=cover-open");
+    addQueue("Idle");
+    const auto panel = makeCommandPanel("Reasons");
+    EXPECT_EQ(makeCommandPanel("Idle")->printerStateReasons(), QStringList{QStringLiteral("none")});
+    sendForeignJob("Reasons");
+    ASSERT_TRUE(waitUntil([&] { return panel->printerStateReasons().value_or(QStringList()).size() == 2; }));
+    EXPECT_EQ(panel->printerStateReasons(), panel->statesForDestinationName(QStringLiteral("Reasons")));
+    EXPECT_TRUE(panel->printerStateReasons()->contains(QStringLiteral("cover-open")));
+    EXPECT_TRUE(panel->printerStateReasons()->contains(QStringLiteral("paused")));
+    EXPECT_EQ(panel->statesForDestinationName(QStringLiteral("Unknown")), std::nullopt);
+}
+
+TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsACallAfterItsTimeLimit)
+{
+    QFile pid(server->dir() + QStringLiteral("/server/cupsd.pid"));
+    ASSERT_TRUE(pid.open(QIODevice::ReadOnly));
+    const int process = pid.readLine().split(' ').first().trimmed().toInt();
+    ASSERT_GT(process, 0);
+    addQueue("Frozen", "slow=60");
+    const int job = sendForeignJob("Frozen");
+    jobs::Server impatient(1);
+    EXPECT_EQ(impatient.jobs(QStringLiteral("Frozen"), jobs::Which::active).size(), 1);
+    ASSERT_EQ(kill(process, SIGSTOP), 0);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(impatient.jobs(QStringLiteral("Frozen"), jobs::Which::active).isEmpty());
+    EXPECT_LE(jobs::Server(1).createJob(QStringLiteral("Frozen"), QStringLiteral("t")), 0);
+    EXPECT_LT(clock.elapsed(), 20000);
+    ASSERT_EQ(kill(process, SIGCONT), 0);
+    // The same connection works again.
+    EXPECT_TRUE(waitUntil([&] { return impatient.cancelAndPurge(QStringLiteral("Frozen"), job); }));
+}
+
+} // namespace halvern

@@ -1,0 +1,176 @@
+#include "tests/panels/features/features_fixture.h"
+
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/stepper.h"
+
+namespace halvern {
+
+namespace {
+
+using namespace features;
+
+QStringList margins(const char* text)
+{
+    return QString::fromUtf8(text).split(u',');
+}
+
+class BindingRules : public FeaturesPanelTest {
+protected:
+    void SetUp() override
+    {
+        FeaturesPanelTest::SetUp();
+        show(catalogueOf({sheetRecord(QStringLiteral("Gloss A4"), 300), rollRecord(1524, 1, 300)}));
+        choose(kFeedTag, "Sheet");
+    }
+
+    void turn(PageOrientation orientation, const PageRect& paper = {0, 0, 842, 595})
+    {
+        host->format = std::make_shared<PageFormat>(paper, paper, orientation);
+    }
+
+    bool isAvailable(int tag) const { return control(tag)->isEnabled(); }
+
+    QString shownMargin() const { return menu(kBindingMarginTag)->currentText(); }
+};
+
+TEST_F(BindingRules, EachStepDependsOnTheOneBefore)
+{
+    EXPECT_TRUE(isAvailable(kTwoSidedTag));
+    EXPECT_FALSE(isAvailable(kBindingMarginTag));
+    choose(kTwoSidedTag, "LongEdge");
+    EXPECT_TRUE(isAvailable(kBindingMarginTag));
+    EXPECT_FALSE(isAvailable(kBindingWidthTag));
+    choose(kBindingMarginTag, "Left");
+    EXPECT_TRUE(isAvailable(kBindingWidthTag));
+    EXPECT_TRUE(isAvailable(kBindingWidthStepperTag));
+    choose(kTwoSidedTag, "None");
+    EXPECT_FALSE(isAvailable(kBindingMarginTag));
+    EXPECT_FALSE(isAvailable(kBindingWidthTag));
+}
+
+TEST_F(BindingRules, ARollHasNoBackSide)
+{
+    choose(kTwoSidedTag, "LongEdge");
+    choose(kFeedTag, "Roll");
+    EXPECT_FALSE(isAvailable(kTwoSidedTag));
+    EXPECT_EQ(choice("TwoSided"), QStringLiteral("None"));
+    EXPECT_EQ(menu(kTwoSidedTag)->currentText(), QStringLiteral("Off"));
+    EXPECT_EQ(asked("TwoSided").last(), QStringLiteral("None"));
+    EXPECT_FALSE(isAvailable(kBindingMarginTag));
+}
+
+TEST_F(BindingRules, TheDuplexUnitIsLookedForInTheFreshPpd)
+{
+    const QList<QPair<const char*, bool>> cases{
+        {"TRUE", true}, {"true", true}, {"Yes", false}, {"True ", false}, {"", false}};
+    for (const auto& [value, available] : cases) {
+        TestPrinter::say("VLXDuplex", value);
+        panel->setDuplexAvailable();
+        EXPECT_EQ(isAvailable(kTwoSidedTag), available) << value;
+    }
+    TestPrinter::say("VLXDuplex", nullptr);
+    EXPECT_FALSE(panel->hardwareSupportsDuplex());
+}
+
+TEST_F(BindingRules, OfferTheEdgesOverWhichTheSheetTurns)
+{
+    choose(kTwoSidedTag, "LongEdge");
+    EXPECT_EQ(enabledTitles(kBindingMarginTag), margins("None,Left,Right"));
+    turn(PageOrientation::landscape);
+    panel->didSelectTwoSided(nullptr);
+    EXPECT_EQ(enabledTitles(kBindingMarginTag), margins("None,Top,Bottom"));
+    turn(PageOrientation::portrait, {0, 0, 500, 500});
+    panel->didSelectTwoSided(nullptr);
+    EXPECT_EQ(enabledTitles(kBindingMarginTag), margins("None,Top,Bottom"));
+    turn(PageOrientation::portrait);
+    choose(kTwoSidedTag, "ShortEdge");
+    EXPECT_EQ(enabledTitles(kBindingMarginTag), margins("None,Top,Bottom"));
+}
+
+TEST_F(BindingRules, StoreTheMarginAsThePaperLiesAndShowItAsThePageIsSeen)
+{
+    turn(PageOrientation::reverseLandscape);
+    choose(kTwoSidedTag, "LongEdge");
+    const LogCapture log;
+    choose(kBindingMarginTag, "Bottom");
+    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Right"));
+    EXPECT_GE(log.count(QStringLiteral(
+                  "flopping \"Binding Margin\" from \"Bottom\" to \"Right\" for \"Landscape\" orientation")),
+              1);
+    panel->willShow();
+    EXPECT_EQ(shownMargin(), QStringLiteral("Bottom"));
+    panel->restoreValuesAndReturnError(nullptr);
+    EXPECT_EQ(shownMargin(), QStringLiteral("Bottom"));
+    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Right"));
+}
+
+TEST_F(BindingRules, TakeTheFirstMarginThatIsOfferedWhenTheChosenOneIsNot)
+{
+    choose(kTwoSidedTag, "ShortEdge");
+    choose(kBindingMarginTag, "Bottom");
+    choose(kTwoSidedTag, "LongEdge");
+    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Left"));
+    EXPECT_EQ(shownMargin(), QStringLiteral("Left"));
+    choose(kTwoSidedTag, "None");
+    // Not available, so there is no margin.
+    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("None"));
+}
+
+TEST_F(BindingRules, EndAtTheLastMarginWhenNoneIsOffered)
+{
+    QComboBox* popup = menu(kBindingMarginTag);
+    choose(kTwoSidedTag, "LongEdge");
+    for (const char* gone : {"Left", "Right"})
+        popup->removeItem(popup->findData(QString::fromLatin1(gone)));
+    host->willChangePPDOptionKeyValue_ppdChoice(QStringLiteral("BindingMargin"), QStringLiteral("Top"));
+    panel->didSelectTwoSided(nullptr);
+    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Bottom"));
+    while (popup->count() > 1)
+        popup->removeItem(0);
+    host->willChangePPDOptionKeyValue_ppdChoice(QStringLiteral("BindingMargin"), QStringLiteral("Bottom"));
+    panel->didSelectTwoSided(nullptr);
+    EXPECT_EQ(popup->currentIndex(), 0);
+}
+
+TEST_F(BindingRules, AnUnknownStoredMarginIsSettled)
+{
+    host->settings->setValue(QStringLiteral("BindingMargin"), QStringLiteral("Diagonal"), false);
+    choose(kTwoSidedTag, "LongEdge");
+    choose(kBindingMarginTag, "Left");
+    EXPECT_EQ(shownMargin(), QStringLiteral("Left"));
+}
+
+TEST_F(BindingRules, APageFormatThatCannotBeReadCountsAsPortrait)
+{
+    struct Broken : PageFormat {
+        int getOrientation(PageOrientation&) const override { return -1; }
+    };
+
+    host->format = std::make_shared<Broken>();
+    EXPECT_FALSE(panel->isLandscapeOrientation());
+    EXPECT_EQ(panel->bindingMarginForMargin_reverse(QStringLiteral("Top"), false), QStringLiteral("Top"));
+    host->format.reset();
+    EXPECT_FALSE(panel->isLandscapeOrientation());
+    EXPECT_FALSE(panel->paperIsTallerThanWide());
+}
+
+TEST_F(BindingRules, RecordAbilitiesAndTheDuplexSetting)
+{
+    const LogCapture log;
+    panel->setHardwareSupportsDuplex(false);
+    panel->setHardwareSupportsExtraFeatures(true);
+    EXPECT_EQ(panel->choice("VLXDuplex"), QVariant(false));
+    EXPECT_EQ(log.count(QStringLiteral("Setting Duplex capability ... this printer CANNOT duplex")), 1);
+    EXPECT_EQ(
+        log.count(QStringLiteral("Setting Features capability ... this printer does have extra features.")),
+        1);
+    EXPECT_TRUE(panel->setDuplexEnabled(true));
+    EXPECT_EQ(host->settings->values().value(QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")),
+              QVariant(true));
+    host->settings.reset();
+    EXPECT_FALSE(panel->setDuplexEnabled(true));
+}
+
+} // namespace
+
+} // namespace halvern

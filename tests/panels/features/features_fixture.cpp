@@ -1,0 +1,277 @@
+#include "tests/panels/features/features_fixture.h"
+
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/matrix.h"
+#include "platform/toolkit/stepper.h"
+
+#include <QApplication>
+#include <QHash>
+#include <QMutex>
+#include <QRadioButton>
+#include <QThread>
+#include <QWaitCondition>
+
+namespace halvern {
+
+QByteArray featuresPpd()
+{
+    return ppdHeader() + ppdOption("PaperFeed", {"Sheet/Cut Sheet", "Roll"}) +
+           ppdOption("PaperSurface", {"1/1 - Gloss", "2/2 - Satin", "3/3 - Matte", "4/4 - Thin Silk"}) +
+           ppdOption("Resolution", {"300dpi/300 dpi", "360dpi/360 dpi", "610dpi/610 dpi", "720dpi/720 dpi"}) +
+           ppdOption("PaperTone",
+                     {"Standard", "Vivid", "Soft", "Warm", "Cool", "Sepia", "BlackWhite/Black and White",
+                      "DeepBlack/Deep Black", "HighKey/High Key", "LowKey/Low Key"}) +
+           ppdOption("TwoSided", {"None/Off", "LongEdge/Long Edge", "ShortEdge/Short Edge"}) +
+           ppdOption("BindingMargin", {"None", "Top", "Bottom", "Left", "Right"});
+}
+
+QVariantMap sheetRecord(const QString& name, int dotsPerInch, uint tones)
+{
+    return {{QStringLiteral("paperName"), name},
+            {QStringLiteral("paperResolution"), qint64(dotsPerInch) * 10},
+            {QStringLiteral("paperTone"), quint64(tones)}};
+}
+
+QVariantMap rollRecord(int width, int surface, int dotsPerInch, uint tones)
+{
+    return {{QStringLiteral("paperWidth"), qint64(width)},
+            {QStringLiteral("paperSurface"), qint64(surface)},
+            {QStringLiteral("paperResolution"), qint64(dotsPerInch) * 10},
+            {QStringLiteral("paperTone"), quint64(tones)}};
+}
+
+PaperCatalogue catalogueOf(const QList<QVariantMap>& records)
+{
+    PaperCatalogue catalogue;
+    for (const QVariantMap& record : records) {
+        const int dotsPerInch = record.value(QStringLiteral("paperResolution")).toInt() / 10;
+        const QString name = record.value(QStringLiteral("paperName")).toString();
+        catalogue.insert(name.isEmpty()
+                             ? rollPaperKey(record.value(QStringLiteral("paperWidth")).toString(),
+                                            record.value(QStringLiteral("paperSurface")).toString(),
+                                            dotsPerInch)
+                             : sheetPaperKey(name, dotsPerInch),
+                         record);
+    }
+    return catalogue;
+}
+
+namespace {
+
+struct PrinterState {
+    QMutex mutex;
+    QWaitCondition changed;
+    QHash<QString, QString> attributes;
+    QByteArray archive;
+    QStringList commands;
+    bool holding = false;
+    int held = 0;
+};
+
+PrinterState& printerState()
+{
+    static PrinterState state;
+    return state;
+}
+
+} // namespace
+
+void TestPrinter::reset()
+{
+    goOn();
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().attributes = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
+                                 {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
+    printerState().archive.clear();
+    printerState().commands.clear();
+}
+
+void TestPrinter::say(const char* attribute, const char* value)
+{
+    const QMutexLocker lock(&printerState().mutex);
+    if (value)
+        printerState().attributes.insert(QString::fromLatin1(attribute), QString::fromUtf8(value));
+    else
+        printerState().attributes.remove(QString::fromLatin1(attribute));
+}
+
+std::optional<QString> TestPrinter::attribute(const QString& keyword)
+{
+    PrinterState& state = printerState();
+    const QMutexLocker lock(&state.mutex);
+    ++state.held;
+    while (state.holding && QThread::currentThread() != qApp->thread())
+        state.changed.wait(&state.mutex);
+    --state.held;
+    const auto found = state.attributes.constFind(keyword);
+    return found == state.attributes.constEnd() ? std::nullopt : std::optional<QString>(*found);
+}
+
+void TestPrinter::load(const QByteArray& archive)
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().archive = archive;
+}
+
+QByteArray TestPrinter::loaded()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    return printerState().archive;
+}
+
+void TestPrinter::take(const QStringList& commands)
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().commands.append(commands.join(u','));
+}
+
+QStringList TestPrinter::taken()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    return printerState().commands;
+}
+
+void TestPrinter::hold()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().holding = true;
+}
+
+void TestPrinter::goOn()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    printerState().holding = false;
+    printerState().changed.wakeAll();
+}
+
+bool TestPrinter::isSomebodyHeld()
+{
+    const QMutexLocker lock(&printerState().mutex);
+    return printerState().held > 0;
+}
+
+std::optional<QString> FeaturesPanelWithPrinter::ppdValueForAttribute(const QString& attribute)
+{
+    return TestPrinter::attribute(attribute);
+}
+
+std::optional<QByteArray> FeaturesPanelWithPrinter::ppdSavedDataForAttribute(const QString&)
+{
+    return TestPrinter::loaded();
+}
+
+void FeaturesPanelWithPrinter::sendPrinterCommands(const QStringList& commands)
+{
+    TestPrinter::take(commands);
+}
+
+void FeaturesPanelTest::SetUp()
+{
+    useBuiltBundle();
+    TestPrinter::reset();
+}
+
+void FeaturesPanelTest::TearDown()
+{
+    TestPrinter::goOn();
+    const std::weak_ptr<FeaturesPanelWithPrinter> weak = panel;
+    panel.reset();
+    // What the panel has queued still holds it.
+    EXPECT_TRUE(waitUntil([&] { return weak.expired(); }));
+    drainMainQueue();
+}
+
+void FeaturesPanelTest::make(const QByteArray& ppd)
+{
+    host = std::make_shared<FakeHost>(ppd);
+    panel = makePanel<FeaturesPanelWithPrinter>(host);
+    ASSERT_TRUE(panel);
+}
+
+void FeaturesPanelTest::show(const PaperCatalogue& catalogue)
+{
+    if (!panel)
+        make();
+    ASSERT_TRUE(panel->panelView());
+    give(catalogue);
+}
+
+void FeaturesPanelTest::give(const PaperCatalogue& catalogue)
+{
+    panel->setUnsortedPaper(std::make_shared<const PaperCatalogue>(catalogue));
+    panel->updatePaperInfo(nullptr);
+}
+
+QWidget* FeaturesPanelTest::control(int tag) const
+{
+    return panel->view_controlForTag(nullptr, tag);
+}
+
+QComboBox* FeaturesPanelTest::menu(int tag) const
+{
+    return qobject_cast<QComboBox*>(control(tag));
+}
+
+Matrix* FeaturesPanelTest::surfaces() const
+{
+    return qobject_cast<Matrix*>(control(features::kSurfaceTag));
+}
+
+QLineEdit* FeaturesPanelTest::field(int tag) const
+{
+    return qobject_cast<QLineEdit*>(control(tag));
+}
+
+Stepper* FeaturesPanelTest::stepper(int tag) const
+{
+    return qobject_cast<Stepper*>(control(tag));
+}
+
+void FeaturesPanelTest::choose(int tag, const char* value)
+{
+    QComboBox* popup = menu(tag);
+    const int index = control::indexOfItemWithRepresentedObject(popup, QString::fromUtf8(value));
+    ASSERT_GE(index, 0) << value;
+    popup->setCurrentIndex(index);
+    Q_EMIT popup->activated(index);
+}
+
+QStringList FeaturesPanelTest::titles(int tag) const
+{
+    QStringList result;
+    for (int i = 0; i < menu(tag)->count(); ++i)
+        result.append(menu(tag)->itemText(i));
+    return result;
+}
+
+QStringList FeaturesPanelTest::enabledTitles(int tag) const
+{
+    QStringList result;
+    for (int i = 0; i < menu(tag)->count(); ++i) {
+        if (control::isItemEnabled(menu(tag), i))
+            result.append(menu(tag)->itemText(i));
+    }
+    return result;
+}
+
+QStringList FeaturesPanelTest::enabledSurfaces() const
+{
+    QStringList result;
+    for (const QRadioButton* cell : surfaces()->cells()) {
+        if (cell->isEnabledTo(surfaces()))
+            result.append(cell->text());
+    }
+    return result;
+}
+
+QStringList FeaturesPanelTest::asked(const char* key) const
+{
+    QStringList values;
+    for (const auto& question : host->asked) {
+        if (question.first == QLatin1StringView(key))
+            values.append(question.second.toString());
+    }
+    return values;
+}
+
+} // namespace halvern

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "panels/features/features_panel.h"
+#include "panels/features/features_tags.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/observers.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+class Matrix;
+class Stepper;
+
+/// A PPD with the options of the Features panel as the printer's own has them: the names and widths of papers
+/// are left to the catalogue, overspill and binding width to the host.
+QByteArray featuresPpd();
+
+QVariantMap sheetRecord(const QString& name, int dotsPerInch, uint tones = 0);
+QVariantMap rollRecord(int width, int surface, int dotsPerInch, uint tones = 0);
+
+/// Some records as a catalogue, under the keys that a printer would give them.
+PaperCatalogue catalogueOf(const QList<QVariantMap>& records);
+
+/// A printer of the test's making: what it writes into its PPD, and what it is sent. One at a time, shared by
+/// all panels; any thread.
+class TestPrinter {
+public:
+    static void reset();
+
+    /// Sets an attribute; null takes it away.
+    static void say(const char* attribute, const char* value);
+    static std::optional<QString> attribute(const QString& keyword);
+
+    /// The catalogue's bytes in the PPD.
+    static void load(const QByteArray& archive);
+    static QByteArray loaded();
+
+    /// The command jobs' commands, joined by commas.
+    static void take(const QStringList& commands);
+    static QStringList taken();
+
+    /// Holds up the reading of attributes, but for the main thread's, until it is let go on.
+    static void hold();
+    static void goOn();
+    static bool isSomebodyHeld();
+};
+
+/// The panel with that printer instead of one behind a server.
+class FeaturesPanelWithPrinter : public RZFeaturesPDEHalvern {
+public:
+    std::optional<QString> ppdValueForAttribute(const QString& attribute) override;
+    std::optional<QByteArray> ppdSavedDataForAttribute(const QString& attribute) override;
+    void sendPrinterCommands(const QStringList& commands) override;
+
+    // What the rules work on, for the tests to look at and to set.
+    QVariant choice(const char* key) const { return storedChoice(QString::fromLatin1(key)); }
+
+    bool isUnloading() const { return pdePluginDidUnload; }
+
+    void store(const char* key, const char* value)
+    {
+        setChoice_forKey(QString::fromUtf8(value), QString::fromLatin1(key));
+    }
+};
+
+/// A panel on a host, with or without its view, as the dialog has it.
+class FeaturesPanelTest : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Makes the host and the panel.
+    void make(const QByteArray& ppd = featuresPpd());
+
+    /// Loads the view and hands the panel a catalogue as the refresh does.
+    void show(const PaperCatalogue& catalogue);
+    void give(const PaperCatalogue& catalogue);
+
+    QComboBox* menu(int tag) const;
+    Matrix* surfaces() const;
+    QLineEdit* field(int tag) const;
+    Stepper* stepper(int tag) const;
+    QWidget* control(int tag) const;
+
+    /// What the user does: opens the menu and takes the item with the represented object.
+    void choose(int tag, const char* value);
+
+    QStringList titles(int tag) const;
+    QStringList enabledTitles(int tag) const;
+    QStringList enabledSurfaces() const;
+
+    QString choice(const char* key) const { return panel->choice(key).toString(); }
+
+    /// The values that the host was asked for this key, in order.
+    QStringList asked(const char* key) const;
+
+    std::shared_ptr<FakeHost> host;
+    std::shared_ptr<FeaturesPanelWithPrinter> panel;
+};
+
+} // namespace halvern

@@ -1,0 +1,295 @@
+#include "tests/panels/features/features_fixture.h"
+
+#include "platform/toolkit/control.h"
+#include "platform/toolkit/matrix.h"
+
+#include <QRadioButton>
+#include <QTest>
+
+namespace halvern {
+
+namespace {
+
+using namespace features;
+
+const QVariantMap kGloss300 = sheetRecord(QStringLiteral("Gloss A4"), 300);
+const QVariantMap kGloss610 = sheetRecord(QStringLiteral("Gloss A4"), 610);
+const QVariantMap kMatte720 = sheetRecord(QStringLiteral("Matte A3"), 720);
+const QVariantMap kNarrow1 = rollRecord(1524, 1, 300);
+const QVariantMap kNarrow3 = rollRecord(1524, 3, 610);
+const QVariantMap kWide2 = rollRecord(2100, 2, 720);
+
+const QList<QVariantMap> kSheets{kGloss300, kGloss610, kMatte720};
+const QList<QVariantMap> kRolls{kNarrow1, kNarrow3, kWide2};
+
+QStringList words(const char* text)
+{
+    return QString::fromUtf8(text).split(u',', Qt::SkipEmptyParts);
+}
+
+class PaperRules : public FeaturesPanelTest {};
+
+TEST_F(PaperRules, WithSheetsOnlyTheRollIsOutOfReach)
+{
+    show(catalogueOf(kSheets));
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Sheet"));
+    EXPECT_EQ(enabledTitles(kFeedTag), words("Cut Sheet"));
+    EXPECT_EQ(titles(kNameTag), words("Gloss A4,Matte A3"));
+    EXPECT_TRUE(menu(kNameTag)->isEnabled());
+    for (const int tag : {kWidthTag, kSurfaceTag, kOverspillTag, kOverspillStepperTag}) {
+        EXPECT_FALSE(control(tag)->isEnabled()) << tag;
+        EXPECT_FALSE(control(tag)->accessibleDescription().isEmpty()) << tag;
+    }
+}
+
+TEST_F(PaperRules, WithRollsOnlyTheSheetIsOutOfReach)
+{
+    show(catalogueOf(kRolls));
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    EXPECT_EQ(menu(kFeedTag)->currentText(), QStringLiteral("Roll"));
+    EXPECT_EQ(enabledTitles(kFeedTag), words("Roll"));
+    EXPECT_EQ(titles(kWidthTag), words("152.4 mm,210 mm"));
+    EXPECT_FALSE(menu(kNameTag)->isEnabled());
+    EXPECT_TRUE(menu(kWidthTag)->isEnabled());
+    EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kNameTag);
+}
+
+TEST_F(PaperRules, WithoutAnyPaperNeitherFeedCanBeChosen)
+{
+    make();
+    const BeepCounter beeps;
+    ASSERT_TRUE(panel->panelView());
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
+    EXPECT_EQ(beeps.count, 0);
+}
+
+TEST_F(PaperRules, FollowAPrinterWhosePapersChangeUnderAnOpenPanel)
+{
+    show(catalogueOf(kSheets));
+    choose(kNameTag, "Matte A3");
+    give(catalogueOf(kSheets + kRolls));
+    EXPECT_EQ(enabledTitles(kFeedTag), words("Cut Sheet,Roll"));
+    EXPECT_EQ(titles(kFeedTag), words("Cut Sheet,Roll"));
+    EXPECT_EQ(menu(kNameTag)->currentText(), QStringLiteral("Matte A3"));
+
+    give(catalogueOf({kGloss300, kNarrow1}));
+    EXPECT_EQ(menu(kNameTag)->currentText(), QStringLiteral("Gloss A4"));
+    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
+
+    give(catalogueOf(kRolls));
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    EXPECT_EQ(enabledTitles(kFeedTag), words("Roll"));
+    EXPECT_EQ(titles(kNameTag), QStringList());
+
+    give({});
+    EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
+}
+
+TEST_F(PaperRules, DoNotRebuildTheMenusForAnIndexThatIsTheOneHeld)
+{
+    show(catalogueOf(kSheets + kRolls));
+    const LogCapture log;
+    give(catalogueOf(kSheets + kRolls));
+    EXPECT_EQ(log.count(QStringLiteral("entering -[RZFeaturesPDEHalvern updatePaperUI]")), 0);
+    EXPECT_EQ(titles(kNameTag), words("Gloss A4,Matte A3"));
+    EXPECT_EQ(titles(kWidthTag), words("152.4 mm,210 mm"));
+    EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kWidthTag);
+    EXPECT_EQ(menu(kNameTag)->currentData(), panel->choice("PaperName"));
+}
+
+TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
+{
+    const QByteArray ppd = featuresPpd() + "*PaperNameDefault: \"Matte A3\"\n";
+    make(ppd);
+    host->settings->setValue(QStringLiteral("PaperName"), QStringLiteral("Gloss A4"), false);
+    show(catalogueOf(kSheets));
+    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
+    EXPECT_TRUE(asked("PaperName").isEmpty());
+
+    make(ppd);
+    host->settings->setValue(QStringLiteral("PaperName"), QStringLiteral("Unloaded"), false);
+    show(catalogueOf(kSheets));
+    EXPECT_EQ(menu(kNameTag)->findText(QStringLiteral("Matte A3")), 1);
+    EXPECT_TRUE(asked("PaperName").isEmpty());
+
+    make();
+    show(catalogueOf(kSheets));
+    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
+    EXPECT_EQ(asked("PaperName"), words("Gloss A4"));
+}
+
+TEST_F(PaperRules, CountTwoHundredAndFiftySixNamesAsNone)
+{
+    QList<QVariantMap> records;
+    for (int i = 0; i < 256; ++i)
+        records.append(sheetRecord(QStringLiteral("Paper %1").arg(i), 300));
+    show(catalogueOf(records));
+    EXPECT_EQ(menu(kNameTag)->count(), 0);
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    records.append(sheetRecord(QStringLiteral("One more"), 300));
+    give(catalogueOf(records));
+    EXPECT_EQ(menu(kNameTag)->count(), 257);
+}
+
+TEST_F(PaperRules, OfferTheResolutionsOfTheChosenSheet)
+{
+    show(catalogueOf(kSheets + kRolls));
+    choose(kFeedTag, "Sheet");
+    choose(kNameTag, "Gloss A4");
+    EXPECT_EQ(enabledTitles(kResolutionTag), words("300 dpi,610 dpi"));
+    choose(kResolutionTag, "610dpi");
+    choose(kNameTag, "Matte A3");
+    EXPECT_EQ(enabledTitles(kResolutionTag), words("720 dpi"));
+    // The correction is shown, stored and told to the host.
+    EXPECT_EQ(menu(kResolutionTag)->currentText(), QStringLiteral("720 dpi"));
+    EXPECT_EQ(choice("Resolution"), QStringLiteral("720dpi"));
+    EXPECT_EQ(asked("Resolution").last(), QStringLiteral("720dpi"));
+}
+
+TEST_F(PaperRules, NeverFallBackToTheFirstResolution)
+{
+    show(catalogueOf({kGloss300, kMatte720}));
+    choose(kNameTag, "Matte A3");
+    ASSERT_EQ(choice("Resolution"), QStringLiteral("720dpi"));
+    choose(kNameTag, "Gloss A4");
+    EXPECT_EQ(enabledTitles(kResolutionTag), words("300 dpi"));
+    EXPECT_EQ(choice("Resolution"), QStringLiteral("720dpi"));
+}
+
+TEST_F(PaperRules, LeaveTheResolutionOfASheetThatIsGoneAlone)
+{
+    show(catalogueOf({kGloss610}));
+    panel->store("PaperName", "Gone");
+    EXPECT_TRUE(enabledTitles(kResolutionTag).isEmpty());
+    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gone"));
+}
+
+TEST_F(PaperRules, AlwaysOfferTheFirstResolutionOnARoll)
+{
+    show(catalogueOf(kSheets + kRolls));
+    choose(kFeedTag, "Roll");
+    choose(kWidthTag, "2100");
+    EXPECT_EQ(enabledSurfaces(), words("2"));
+    EXPECT_EQ(enabledTitles(kResolutionTag), words("300 dpi,720 dpi"));
+}
+
+TEST_F(PaperRules, ForceASurfaceThatTheWidthHas)
+{
+    show(catalogueOf(kSheets + kRolls));
+    choose(kFeedTag, "Roll");
+    choose(kWidthTag, "1524");
+    EXPECT_EQ(enabledSurfaces(), words("1,3"));
+    surfaces()->cells()[2]->click();
+    EXPECT_EQ(choice("PaperSurface"), QStringLiteral("3"));
+    EXPECT_EQ(enabledTitles(kResolutionTag), words("300 dpi,610 dpi"));
+    choose(kWidthTag, "2100");
+    EXPECT_EQ(choice("PaperSurface"), QStringLiteral("2"));
+    EXPECT_EQ(surfaces()->selectedTag(), 2);
+    EXPECT_EQ(asked("PaperSurface").last(), QStringLiteral("2"));
+}
+
+TEST_F(PaperRules, ReplaceAWidthThatIsNoLongerLoadedByTheOneSelected)
+{
+    show(catalogueOf(kSheets + kRolls));
+    choose(kFeedTag, "Roll");
+    choose(kWidthTag, "2100");
+    const LogCapture log;
+    give(catalogueOf({kNarrow1, kNarrow3}));
+    EXPECT_EQ(choice("PaperWidth"), QStringLiteral("1524"));
+    EXPECT_EQ(asked("PaperWidth").last(), QStringLiteral("1524"));
+    EXPECT_EQ(log.count(QStringLiteral(
+                  "existing paper width of 2100 is not a valid selection; changing width to 1524")),
+              1);
+}
+
+TEST_F(PaperRules, CheckTheResolutionsOncePerStateOfTheChoices)
+{
+    show(catalogueOf(kSheets + kRolls));
+    choose(kFeedTag, "Sheet");
+    panel->store("BindingWidth", "17.3");
+    const QString entered = QStringLiteral("exiting -[RZFeaturesPDEHalvern enableResolutionsForPaper]");
+    const LogCapture log;
+    panel->didSelectNewPaper(nullptr);
+    panel->didSelectNewPaper(nullptr);
+    EXPECT_EQ(log.count(entered), 1);
+    panel->store("BindingWidth", "17.4");
+    panel->updateUI();
+    EXPECT_EQ(log.count(entered), 2);
+}
+
+TEST_F(PaperRules, OfferTheTonesOfTheLoadedPapers)
+{
+    show(catalogueOf(
+        {sheetRecord(QStringLiteral("A"), 300, 0x01), sheetRecord(QStringLiteral("B"), 300, 0x04)}));
+    EXPECT_EQ(enabledTitles(kToneTag), words("Standard,Vivid,Warm"));
+    choose(kToneTag, "Warm");
+    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0x01)}));
+    EXPECT_EQ(enabledTitles(kToneTag), words("Standard,Vivid"));
+    EXPECT_EQ(choice("PaperTone"), QStringLiteral("Standard"));
+    EXPECT_EQ(asked("PaperTone").last(), QStringLiteral("Standard"));
+
+    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0x1FF)}));
+    EXPECT_EQ(enabledTitles(kToneTag).size(), 9);
+    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0)}));
+    EXPECT_FALSE(menu(kToneTag)->isEnabled());
+    EXPECT_EQ(enabledTitles(kToneTag).size(), 9);
+    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0x100)}));
+    EXPECT_FALSE(menu(kToneTag)->isEnabled());
+    EXPECT_EQ(enabledTitles(kToneTag), words("Standard"));
+}
+
+TEST_F(PaperRules, FindTheRecordOfTheChoices)
+{
+    show(catalogueOf({sheetRecord(QStringLiteral("A"), 610, 5), rollRecord(1524, 3, 610, 9)}));
+    choose(kFeedTag, "Sheet");
+    EXPECT_EQ(panel->paperToneForStuff(), 5U);
+    choose(kFeedTag, "Roll");
+    choose(kWidthTag, "1524");
+    EXPECT_EQ(panel->paperToneForStuff(), 9U);
+    choose(kResolutionTag, "300dpi");
+    EXPECT_FALSE(panel->match());
+    EXPECT_EQ(panel->paperToneForStuff(), 0U);
+}
+
+TEST_F(PaperRules, RunWithoutAView)
+{
+    make();
+    const BeepCounter beeps;
+    give(catalogueOf(kSheets + kRolls));
+    panel->store("PaperFeed", "Roll");
+    panel->store("PaperWidth", "1524");
+    give(catalogueOf(kSheets));
+    give({});
+    EXPECT_EQ(beeps.count, 0);
+    EXPECT_FALSE(panel->match());
+}
+
+TEST_F(PaperRules, RefuseTheSheetByValueUnderAnyKey)
+{
+    show(catalogueOf(kSheets + kRolls));
+    TestPrinter::say("VLXExtraFeatures", nullptr);
+    const LogCapture log;
+    panel->store("PaperTone", "Sheet");
+    EXPECT_EQ(choice("PaperTone"), QStringLiteral("Standard"));
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    EXPECT_EQ(asked("PaperFeed").last(), QStringLiteral("Roll"));
+    choose(kFeedTag, "Sheet");
+    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    EXPECT_EQ(menu(kFeedTag)->currentText(), QStringLiteral("Roll"));
+    EXPECT_EQ(log.count(QStringLiteral("This printer does not support sheet printing")), 2);
+}
+
+TEST_F(PaperRules, EndWhenTheHostRefusesTheRollTooAndKeepsTheSheet)
+{
+    show(catalogueOf(kSheets + kRolls));
+    TestPrinter::say("VLXExtraFeatures", nullptr);
+    host->refusedKeys.insert(QStringLiteral("PaperFeed"));
+    const LogCapture log;
+    panel->store("PaperFeed", "Sheet");
+    EXPECT_EQ(log.count(QStringLiteral("This printer does not support sheet printing")), 1);
+}
+
+} // namespace
+
+} // namespace halvern

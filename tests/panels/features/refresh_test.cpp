@@ -1,0 +1,267 @@
+#include "tests/panels/features/features_fixture.h"
+
+#include "panels/features/refresh_date.h"
+#include "platform/foundation/distributed_notification_center.h"
+#include "platform/foundation/notification_center.h"
+#include "platform/foundation/run_loop_timer.h"
+#include "printer/papers/catalogue_archive.h"
+
+#include <QLabel>
+#include <QProgressBar>
+
+#include <thread>
+
+namespace halvern {
+
+namespace {
+
+using namespace features;
+
+QDateTime since2001(double seconds)
+{
+    return dateOfTimeStamp(QString::number(seconds, 'f', 3));
+}
+
+QByteArray stampOfAge(int seconds)
+{
+    const double now = double(since2001(0).msecsTo(QDateTime::currentDateTimeUtc())) / 1000.0;
+    return QByteArray::number(now - seconds, 'f', 3);
+}
+
+QByteArray archiveOf(const QStringList& names)
+{
+    QList<QVariantMap> records;
+    for (const QString& name : names)
+        records.append(sheetRecord(name, 300));
+    return archiveOfCatalogue(catalogueOf(records));
+}
+
+const QString kRecovered = QStringLiteral("PDE recovered %1 Tessarin Papers");
+
+TEST(RefreshDate, DataAreStaleOnlyBeyondTwoMinutes)
+{
+    const QDateTime now = since2001(1e9);
+    EXPECT_FALSE(isRefreshStale(now.addMSecs(-120000), now));
+    EXPECT_TRUE(isRefreshStale(now.addMSecs(-120500), now));
+    EXPECT_FALSE(isRefreshStale(now.addSecs(3600), now));
+    EXPECT_TRUE(isRefreshStale(std::nullopt, now));
+}
+
+TEST(RefreshDate, ShowsTheTimeOfADayAndThenTheDay)
+{
+    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+    const QDateTime now(QDate(2024, 3, 10), QTime(13, 5));
+    EXPECT_EQ(refreshDateText(now.addSecs(-23 * 3600), now), QStringLiteral("2:05 PM"));
+    EXPECT_EQ(refreshDateText(now.addDays(-1), now), QStringLiteral("1:05 PM"));
+    EXPECT_EQ(refreshDateText(now.addSecs(-25 * 3600), now), QStringLiteral("2024/03/09"));
+    EXPECT_EQ(refreshDateText(now.addSecs(3600), now), QStringLiteral("2:05 PM"));
+    EXPECT_FALSE(refreshDateText(std::nullopt, now));
+}
+
+TEST(RefreshDate, ReadsStampsThatNoPrinterShouldWrite)
+{
+    EXPECT_EQ(dateOfTimeStamp(QStringLiteral("86400.5 s")), since2001(86400.5));
+    EXPECT_EQ(dateOfTimeStamp(QStringLiteral("soon")), since2001(0));
+    EXPECT_TRUE(dateOfTimeStamp(QStringLiteral("-1e300")).isValid());
+    EXPECT_TRUE(dateOfTimeStamp(QStringLiteral("1e999")).isValid());
+}
+
+TEST(RunLoopTimer, RepeatsUntilAnyThreadLetsItGo)
+{
+    int fired = 0;
+    auto timer = RunLoopTimer::scheduled(1, [&] { ++fired; });
+    timer->fire();
+    EXPECT_EQ(fired, 1);
+    EXPECT_TRUE(waitUntil([&] { return fired >= 3; }));
+    std::thread([&] { timer->invalidate(); }).join();
+    const int last = fired;
+    timer->fire();
+    drainMainQueue();
+    EXPECT_EQ(fired, last);
+    EXPECT_FALSE(timer->isValid());
+}
+
+class Refresh : public FeaturesPanelTest {
+protected:
+    void makeAndCheck()
+    {
+        make();
+        waitForStatus();
+    }
+
+    // The first step of every check is to word the status line.
+    void waitForStatus()
+    {
+        ASSERT_TRUE(waitUntil([&] { return control(kStatusTag) && !status().isEmpty(); }));
+    }
+
+    QString status() const { return qobject_cast<QLabel*>(control(kStatusTag))->text(); }
+
+    bool isStatusShown() const { return !control(kStatusTag)->isHidden(); }
+
+    bool isTurning() const
+    {
+        QProgressBar* indicator = panel->progressIndicator();
+        return !indicator->isHidden() && indicator->maximum() == 0;
+    }
+
+    bool waitForJobs(int count)
+    {
+        return waitUntil([&] { return TestPrinter::taken().size() == count && isTurning(); });
+    }
+
+    // The job's end is reported on a background queue.
+    template <class Hook> void endJob(Hook hook)
+    {
+        std::thread([&] { hook(*panel); }).join();
+        ASSERT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper() && !isTurning(); }));
+        drainMainQueue();
+    }
+
+    void complete()
+    {
+        endJob([](RZFeaturesPDEHalvern& features) { features.ppdDidUpdate(); });
+    }
+
+    void abort()
+    {
+        endJob([](RZFeaturesPDEHalvern& features) { features.ppdUpdateDidAbort(); });
+    }
+};
+
+TEST_F(Refresh, AsksAPrinterThatHasNeverReported)
+{
+    makeAndCheck();
+    EXPECT_EQ(status(), QStringLiteral("Last updated never"));
+    ASSERT_TRUE(waitForJobs(1));
+    EXPECT_EQ(TestPrinter::taken().first(), QStringLiteral("ReportStatus,AutoConfigure"));
+    EXPECT_TRUE(isStatusShown());
+    EXPECT_TRUE(panel->isWaitingOnPaper());
+}
+
+TEST_F(Refresh, ShowsWhatAPrinterReportedAMinuteAgoWithoutAsking)
+{
+    TestPrinter::say("VLXTimeStamp", stampOfAge(60));
+    TestPrinter::load(archiveOf({QStringLiteral("Gloss"), QStringLiteral("Matte")}));
+    makeAndCheck();
+    ASSERT_TRUE(waitUntil([&] { return menu(kNameTag)->count() == 2; }));
+    EXPECT_TRUE(status().startsWith(QStringLiteral("Last updated ")));
+    EXPECT_TRUE(TestPrinter::taken().isEmpty());
+    EXPECT_FALSE(isTurning());
+    EXPECT_FALSE(isStatusShown());
+}
+
+TEST_F(Refresh, ShowsTheOldPapersFirstAndTheNewOnesWhenTheJobEnds)
+{
+    TestPrinter::say("VLXTimeStamp", stampOfAge(600));
+    TestPrinter::load(archiveOf({QStringLiteral("Old")}));
+    makeAndCheck();
+    ASSERT_TRUE(waitForJobs(1));
+    ASSERT_TRUE(waitUntil([&] { return titles(kNameTag) == QStringList{QStringLiteral("Old")}; }));
+    TestPrinter::load(archiveOf({QStringLiteral("New")}));
+    const LogCapture log;
+    complete();
+    EXPECT_EQ(titles(kNameTag), QStringList{QStringLiteral("New")});
+    EXPECT_FALSE(isStatusShown());
+    EXPECT_EQ(log.count(QStringLiteral("-[RZFeaturesPDEHalvern ppdDidUpdate] ...")), 1);
+    // No further check until the panel is shown again.
+    panel->shouldHide();
+    panel->willShow();
+    EXPECT_TRUE(waitForJobs(2));
+}
+
+TEST_F(Refresh, LeavesTheOldTimeToBeSeenWhenTheJobFails)
+{
+    makeAndCheck();
+    ASSERT_TRUE(waitForJobs(1));
+    abort();
+    EXPECT_TRUE(isStatusShown());
+    EXPECT_EQ(status(), QStringLiteral("Last updated never"));
+}
+
+TEST_F(Refresh, WaitsForAJobThatWasNeverSentUntilThePanelIsHidden)
+{
+    makeAndCheck();
+    ASSERT_TRUE(waitForJobs(1));
+    panel->waitForUpdatePPD();
+    panel->willShow();
+    drainMainQueue();
+    EXPECT_EQ(TestPrinter::taken().size(), 1);
+    EXPECT_TRUE(panel->shouldHide());
+    EXPECT_TRUE(panel->isUnloading());
+    ASSERT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
+    EXPECT_FALSE(isTurning());
+    panel->willShow();
+    EXPECT_FALSE(panel->isUnloading());
+    EXPECT_TRUE(waitForJobs(2));
+}
+
+TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
+{
+    TestPrinter::say("VLXTimeStamp", stampOfAge(60));
+    TestPrinter::load(archiveOf({QStringLiteral("Kept")}));
+    makeAndCheck();
+    ASSERT_TRUE(waitUntil([&] { return menu(kNameTag)->count() == 1; }));
+    const auto held = panel->unsortedPaper();
+    const LogCapture log;
+    for (const QByteArray& bytes : {archiveOf({}), QByteArray("bplist00 and then rubbish"), QByteArray()}) {
+        TestPrinter::load(bytes);
+        panel->updatePaperDict();
+    }
+    EXPECT_EQ(log.count(kRecovered.arg(0)), 3);
+    TestPrinter::load(archiveOf({QStringLiteral("Kept")}));
+    panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
+    drainMainQueue();
+    EXPECT_EQ(panel->unsortedPaper(), held);
+    EXPECT_EQ(log.count(QStringLiteral("received new paper dictionary")), 0);
+    EXPECT_EQ(log.count(QStringLiteral("entering -[RZFeaturesPDEHalvern newPaperDict:] for "
+                                       "VLXPrinterPaperDidUpdateNotification with object (null)")),
+              1);
+}
+
+TEST_F(Refresh, TellsTextsFromNumbersWhenCataloguesAreCompared)
+{
+    make();
+    QVariantMap record = sheetRecord(QStringLiteral("Gloss"), 300);
+    panel->setUnsortedPaper(std::make_shared<const PaperCatalogue>(catalogueOf({record})));
+    record.insert(QStringLiteral("paperResolution"), QStringLiteral("3000"));
+    TestPrinter::load(archiveOfCatalogue(catalogueOf({record})));
+    const LogCapture log;
+    panel->updatePaperDict();
+    drainMainQueue();
+    EXPECT_EQ(log.count(QStringLiteral("received new paper dictionary")), 1);
+}
+
+TEST_F(Refresh, StopsWhenThePlugInUnloads)
+{
+    makeAndCheck();
+    ASSERT_TRUE(waitForJobs(1));
+    const LogCapture log;
+    int other = 0;
+    NotificationCenter::defaultCenter().post(QStringLiteral("com.halvern.vlx.PDEPluginIsUnloading"), &other);
+    EXPECT_TRUE(panel->isUnloading());
+    EXPECT_EQ(log.count(QStringLiteral("got notification to unload ")), 1);
+    NotificationCenter::defaultCenter().post(QStringLiteral("com.halvern.vlx.PDEPluginIsUnloading"),
+                                             host.get());
+    EXPECT_EQ(log.count(QStringLiteral("got notification to unload ")), 3);
+    EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper() && !isTurning(); }));
+}
+
+TEST_F(Refresh, APanelMayBeLetGoOfDuringACheck)
+{
+    TestPrinter::hold();
+    make();
+    ASSERT_TRUE(panel->panelView());
+    ASSERT_TRUE(waitUntil([] { return TestPrinter::isSomebodyHeld(); }));
+    const std::weak_ptr<RZFeaturesPDEHalvern> weak = panel;
+    panel->printWindowWillClose(false);
+    panel.reset();
+    host.reset();
+    EXPECT_FALSE(weak.expired());
+    TestPrinter::goOn();
+    EXPECT_TRUE(waitUntil([&] { return weak.expired(); }));
+}
+
+} // namespace
+
+} // namespace halvern

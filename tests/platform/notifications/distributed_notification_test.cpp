@@ -1,0 +1,212 @@
+#include "platform/foundation/distributed_notification_center.h"
+#include "platform/foundation/notification_bus.h"
+#include "tests/support/observers.h"
+#include "tests/support/private_bus.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <thread>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace halvern {
+
+namespace {
+
+const QString kNote = QStringLiteral("VLXPrinterPaperDidUpdateNotification");
+const QString kUri = QStringLiteral("halvern://virtual/photo?width=10%22");
+
+/// Takes connections and says nothing.
+class SilentSocket {
+public:
+    explicit SilentSocket(const QByteArray& path)
+    {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
+        if (bind(fd_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+            listen(fd_, 5) != 0)
+            qFatal("no socket at %s", path.constData());
+    }
+
+    ~SilentSocket() { close(fd_); }
+
+    SilentSocket(const SilentSocket&) = delete;
+    SilentSocket& operator=(const SilentSocket&) = delete;
+
+    bool hasCaller() const
+    {
+        pollfd one{fd_, POLLIN, 0};
+        return poll(&one, 1, 0) == 1;
+    }
+
+private:
+    int fd_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+};
+
+} // namespace
+
+class DistributedNotificationTest : public testing::Test {
+protected:
+    DistributedNotificationCenter::Handler note(const char* observer)
+    {
+        return [this, observer](const DistributedNotification& notification) {
+            EXPECT_EQ(QThread::currentThread(), qApp->thread());
+            received.append(QLatin1StringView(observer) + QLatin1Char(' ') + notification.name +
+                            QLatin1Char(' ') + notification.object.value_or(QStringLiteral("nothing")));
+        };
+    }
+
+    // What was posted before is delivered before what is posted after.
+    void flush()
+    {
+        int key = 0;
+        bool arrived = false;
+        center.addObserver(&key, QStringLiteral("test.flush"), std::nullopt,
+                           [&](const auto&) { arrived = true; });
+        QString why;
+        ASSERT_TRUE(DistributedNotificationCenter::post(QStringLiteral("test.flush"), QString(), &why))
+            << why.toStdString();
+        ASSERT_TRUE(waitUntil([&] { return arrived; }));
+        center.removeObserver(&key);
+    }
+
+    bool connected()
+    {
+        return waitUntil([this] { return center.isConnected(); });
+    }
+
+    LogCapture log;
+    DistributedNotificationCenter center;
+    QStringList received;
+    int a = 0;
+    int b = 0;
+};
+
+TEST_F(DistributedNotificationTest, NotificationsReachTheObserversOfTheirNameAndObjectInOrder)
+{
+    const PrivateBus bus;
+    center.addObserver(&a, kNote, kUri, note("this"));
+    center.addObserver(&a, kNote, std::nullopt, note("any"));
+    center.addObserver(&b, QStringLiteral("other.name"), std::nullopt, note("other"));
+    ASSERT_TRUE(connected());
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, QStringLiteral("halvern://virtual/é")));
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, QString()));
+    flush();
+    EXPECT_EQ(received, (QStringList{QStringLiteral("this ") + kNote + QLatin1Char(' ') + kUri,
+                                     QStringLiteral("any ") + kNote + QLatin1Char(' ') + kUri,
+                                     QStringLiteral("any ") + kNote + QStringLiteral(" halvern://virtual/é"),
+                                     QStringLiteral("any ") + kNote + QStringLiteral(" nothing")}));
+    EXPECT_TRUE(log.lines().isEmpty());
+}
+
+TEST_F(DistributedNotificationTest, ARemovedObserverHearsNothingMore)
+{
+    const PrivateBus bus;
+    center.addObserver(&a, kNote, std::nullopt, [this](const DistributedNotification&) {
+        received.append(QStringLiteral("a"));
+        center.removeObserver(&b);
+        std::thread([this] { center.removeObserver(&a); }).join();
+    });
+    center.addObserver(&b, kNote, std::nullopt, note("b"));
+    ASSERT_TRUE(connected());
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
+    flush();
+    EXPECT_EQ(received, QStringList{QStringLiteral("a")});
+}
+
+TEST_F(DistributedNotificationTest, AMissingBusIsLoggedOnceAndTriedAgainAtTheNextRegistration)
+{
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    center.addObserver(&a, kNote, std::nullopt, note("a"));
+    ASSERT_TRUE(waitUntil([this] { return !log.lines().isEmpty(); }));
+    center.addObserver(&a, kNote, std::nullopt, note("again"));
+    drainMainQueue();
+    EXPECT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.lines().first().contains(QLatin1String("No such file or directory")));
+    QString why;
+    EXPECT_FALSE(DistributedNotificationCenter::post(kNote, kUri, &why));
+    EXPECT_EQ(why, QStringLiteral("No such file or directory"));
+
+    const PrivateBus bus;
+    center.addObserver(&b, kNote, std::nullopt, note("b"));
+    ASSERT_TRUE(connected());
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
+    flush();
+    EXPECT_EQ(received.size(), 3);
+}
+
+TEST_F(DistributedNotificationTest, ABusThatBreaksOffIsLoggedAndMayComeBack)
+{
+    PrivateBus bus;
+    center.addObserver(&a, kNote, std::nullopt, note("a"));
+    ASSERT_TRUE(connected());
+    bus.kill();
+    ASSERT_TRUE(waitUntil([this] { return !center.isConnected(); }));
+    EXPECT_EQ(log.lines().size(), 1);
+    bus.start();
+    center.addObserver(&b, QStringLiteral("other.name"), std::nullopt, note("b"));
+    ASSERT_TRUE(connected());
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
+    flush();
+    EXPECT_EQ(received.size(), 1);
+}
+
+TEST_F(DistributedNotificationTest, ABusThatNeverAnswersHoldsUpNobody)
+{
+    QTemporaryDir folder;
+    const QByteArray path = folder.filePath(QStringLiteral("bus")).toUtf8();
+    const SilentSocket silent(path);
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + path);
+    QElapsedTimer clock;
+    clock.start();
+    center.addObserver(&a, kNote, std::nullopt, note("a"));
+    // The connection stands, and the main loop turns.
+    ASSERT_TRUE(waitUntil([&] { return silent.hasCaller(); }));
+    drainMainQueue();
+    EXPECT_LT(clock.elapsed(), 2000);
+    EXPECT_FALSE(center.isConnected());
+    std::string why;
+    EXPECT_FALSE(notification_bus::post("name", "object", &why, std::chrono::milliseconds(200)));
+    EXPECT_EQ(why, "Connection timed out");
+}
+
+TEST_F(DistributedNotificationTest, TheCommandLineToolPostsBothNotificationsAndExplainsFailure)
+{
+    const auto notify = [](const QStringList& arguments, QByteArray* errors = nullptr) {
+        QProcess tool;
+        tool.start(QStringLiteral(HALVERN_NOTIFY), arguments);
+        tool.waitForFinished();
+        if (errors)
+            *errors = tool.readAllStandardError();
+        return tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1;
+    };
+    QByteArray errors;
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    EXPECT_EQ(notify({QStringLiteral("papers"), kUri}, &errors), 1);
+    EXPECT_TRUE(errors.contains("No such file or directory")) << errors.constData();
+    EXPECT_EQ(notify({QStringLiteral("paper"), kUri}, &errors), 2);
+    EXPECT_TRUE(errors.startsWith("Usage:"));
+
+    const PrivateBus bus;
+    center.addObserver(&a, kNote, kUri, note("papers"));
+    center.addObserver(&a, QStringLiteral("VLXPrinterInfoDidUpdateNotification"), kUri, note("info"));
+    ASSERT_TRUE(connected());
+    EXPECT_EQ(notify({QStringLiteral("papers"), kUri}), 0);
+    EXPECT_EQ(notify({QStringLiteral("info"), kUri}), 0);
+    flush();
+    EXPECT_EQ(received, (QStringList{QStringLiteral("papers ") + kNote + QLatin1Char(' ') + kUri,
+                                     QStringLiteral("info VLXPrinterInfoDidUpdateNotification ") + kUri}));
+}
+
+} // namespace halvern

@@ -1,0 +1,56 @@
+#include "tests/support/private_bus.h"
+
+#include <QFile>
+
+namespace halvern {
+
+static const char kBusVariable[] = "DBUS_SYSTEM_BUS_ADDRESS";
+
+PrivateBus::PrivateBus()
+    : addressBefore_(qgetenv(kBusVariable)), hadAddress_(qEnvironmentVariableIsSet(kBusVariable))
+{
+    const QString address = QStringLiteral("unix:path=%1/bus").arg(folder_.path());
+    QFile config(folder_.filePath(QStringLiteral("bus.conf")));
+    const QString text = QStringLiteral("<busconfig><type>system</type><listen>%1</listen>"
+                                        "<auth>EXTERNAL</auth><policy context=\"default\">"
+                                        "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                                        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>")
+                             .arg(address);
+    if (!config.open(QIODevice::WriteOnly) || config.write(text.toUtf8()) < 0)
+        qFatal("the private bus's configuration could not be written");
+    config.close();
+    qputenv(kBusVariable, address.toUtf8());
+    start();
+}
+
+PrivateBus::~PrivateBus()
+{
+    kill();
+    if (hadAddress_)
+        qputenv(kBusVariable, addressBefore_);
+    else
+        qunsetenv(kBusVariable);
+}
+
+void PrivateBus::start()
+{
+    QFile::remove(folder_.filePath(QStringLiteral("bus")));
+    daemon_.start(QStringLiteral("dbus-daemon"),
+                  {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
+                   QStringLiteral("--print-address"),
+                   QStringLiteral("--config-file=") + folder_.filePath(QStringLiteral("bus.conf"))});
+    // It prints its address once it listens.
+    if (!daemon_.waitForStarted() || !daemon_.waitForReadyRead())
+        qFatal("dbus-daemon does not start: %s", daemon_.readAllStandardError().constData());
+    daemon_.readAllStandardOutput();
+}
+
+void PrivateBus::kill()
+{
+    if (daemon_.state() == QProcess::NotRunning)
+        return;
+    daemon_.kill();
+    daemon_.waitForFinished();
+}
+
+} // namespace halvern

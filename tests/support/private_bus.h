@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace halvern {
+
+/// A D-Bus daemon of the test's own in the place of the system bus, while it exists.
+class PrivateBus {
+public:
+    PrivateBus();
+    ~PrivateBus();
+    PrivateBus(const PrivateBus&) = delete;
+    PrivateBus& operator=(const PrivateBus&) = delete;
+
+    void start();
+
+    /// Ends the daemon, as a crash would. The address stays.
+    void kill();
+
+private:
+    QTemporaryDir folder_;
+    QByteArray addressBefore_;
+    bool hadAddress_ = false;
+    QProcess daemon_;
+};
+
+} // namespace halvern
