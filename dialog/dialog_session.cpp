@@ -129,8 +129,9 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return;
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
-    // Not from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
+    // The device is not taken from the list, which may come later: a panel asks once and remembers.
+    host_ = std::make_shared<Host>(
+        *this, request_.panelsAskPrinter ? std::make_shared<Printer>(name, ppd.deviceUri) : nullptr);
     applyOptions(ppd.jobSheets);
     loadPanels();
     Q_EMIT printerReady();

@@ -30,6 +30,9 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
+    /// Whether panels get to know the printer itself, and so may ask it what is loaded, which sends it
+    /// command jobs.
+    bool panelsAskPrinter = true;
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main

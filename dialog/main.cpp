@@ -56,5 +56,8 @@ int main(int argc, char** argv)
         QTextStream(parsed.status == kExitPrinted ? stdout : stderr) << parsed.text << Qt::endl;
         return parsed.status;
     }
-    return parsed.commandLine->showDialog ? runDialog(*parsed.commandLine) : runBatch(*parsed.commandLine);
+    const int status =
+        parsed.commandLine->showDialog ? runDialog(*parsed.commandLine) : runBatch(*parsed.commandLine);
+    finishQueuedWork();
+    return status;
 }
