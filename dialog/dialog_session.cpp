@@ -11,8 +11,11 @@
 
 namespace halvern {
 
+using ppd_lookup::NumberReading;
+
 namespace {
 
+constexpr int kUsualResolution = 300;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 
 PageRect toPageRect(const QRectF& rect)
@@ -132,13 +135,13 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
     // Not from the list, which may come later: a panel asks once and remembers.
     host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
                                    model_->sharedFile(), request_.panelsAskPrinter);
-    applyOptions(ppd.defaults);
+    applyOptions(ppd.defaults, ppd.jobSheets);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
 }
 
-void DialogSession::applyOptions(const OptionValues& queueDefaults)
+void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
 {
     const QMap<QString, QString> byDefault = model_->values();
     const OptionValues saved = queueDefaults + saved_.byPrinter.value(printerName_);
@@ -148,6 +151,9 @@ void DialogSession::applyOptions(const OptionValues& queueDefaults)
     for (const QString& sentence : refusals)
         Q_EMIT refused(sentence);
     applyBackLines();
+    // What the queue would add by itself is the panels' to see and to change.
+    if (!queueJobSheets.isEmpty())
+        settings_->setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
     // A panel that looks at the settings only, and not at the marks, must find what was chosen before it
     // came: it would save the PPD's default over it.
     const QMap<QString, QString> values = model_->values();
@@ -186,6 +192,7 @@ void DialogSession::loadPanels()
     if (!bundle || bundle->isEmpty())
         return;
     QString problem;
+    bundleName_ = *bundle;
     panels_ = panelSource_.panels(*bundle, host_, &problem);
     if (!problem.isEmpty())
         Q_EMIT notice(problem);
@@ -209,10 +216,29 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
     return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
 }
 
-ChangeResult DialogSession::change(const QString& key, const QVariant& value)
+Look DialogSession::look() const
+{
+    if (!model_)
+        return {};
+    const QMap<QString, QString> values = model_->values();
+    return {adjust::colorAdjustments(values), adjust::sharpening(values)};
+}
+
+int DialogSession::resolution() const
+{
+    return model_ ? model_->resolution() : kUsualResolution;
+}
+
+QString DialogSession::optionText(const QString& key) const
+{
+    const QString text = panels_.empty() ? key : panelSource_.localized(bundleName_, key);
+    return text == key && model_ ? model_->optionText(key) : text;
+}
+
+ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)
 {
     const QString before = model_->value(key);
-    ChangeResult result = model_->change(key, value);
+    ChangeResult result = model_->change(key, value, reading);
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
         return result;
@@ -263,7 +289,7 @@ void DialogSession::tellPanels(const QString& key, const QString& choice)
 
 bool DialogSession::changeOption(const QString& key, const QVariant& value)
 {
-    if (!model_ || !change(key, value).accepted)
+    if (!model_ || !change(key, value, NumberReading::whole).accepted)
         return false;
     tellPanels(key, model_->value(key));
     return true;
@@ -289,7 +315,8 @@ ppd_file_t* DialogSession::hostPpdFile()
 
 bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 {
-    return model_ && change(key, choice).accepted;
+    // Panels ask at every keystroke.
+    return model_ && change(key, choice, NumberReading::leading).accepted;
 }
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()

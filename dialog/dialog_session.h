@@ -8,6 +8,7 @@
 #include "dialog/print_run.h"
 #include "dialog/printer_list.h"
 #include "dialog/queue_ppd.h"
+#include "dialog/screen_photo.h"
 
 #include <QObject>
 
@@ -75,6 +76,15 @@ public:
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const;
 
+    /// What the printer's adjustments do to the photos, from the options' current values.
+    Look look() const;
+
+    /// The printer's dots per inch.
+    int resolution() const;
+
+    /// The words that the panels' bundle has for an option, else the PPD's.
+    QString optionText(const QString& key) const;
+
     /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
@@ -129,10 +139,10 @@ private:
     void takePpd(const QString& name, const QueuePpd& ppd);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
-    void applyOptions(const OptionValues& queueDefaults);
+    void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
     void applyBackLines();
     void loadPanels();
-    ChangeResult change(const QString& key, const QVariant& value);
+    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
     void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
     void storeInSettings(const QString& key);
     void tellPanels(const QString& key, const QString& choice);
@@ -146,6 +156,7 @@ private:
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<Host> host_;
     PanelList panels_;
+    QString bundleName_; // of the panels
     PageSettings page_;
     std::vector<Photo> photos_;
     int filesLeft_ = 0;

@@ -65,6 +65,13 @@ QString duplexForSides(const QString& sides)
     return QStringLiteral("None");
 }
 
+// The server refuses a job that spells its word for no banner page otherwise; panels write "None".
+QString asServerSpells(const QString& jobSheets)
+{
+    const QString none = QStringLiteral("none");
+    return jobSheets.compare(none, Qt::CaseInsensitive) == 0 ? none : jobSheets;
+}
+
 } // namespace
 
 OptionValues mergeJobOptions(const JobInputs& inputs)
@@ -78,6 +85,8 @@ OptionValues mergeJobOptions(const JobInputs& inputs)
         for (const char* name : kDecidedByUs)
             merged.remove(QLatin1StringView(name));
     }
+    if (const auto sheets = merged.find(QStringLiteral("job-sheets")); sheets != merged.end())
+        *sheets = asServerSpells(*sheets);
     merged.insert(QStringLiteral("copies"), QString::number(inputs.copies));
     merged.insert(QStringLiteral("print-scaling"), QStringLiteral("none"));
     OptionValues options;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/constraints.h"
+#include "dialog/ppd_lookup.h"
 #include "dialog/saved_options.h"
 #include "platform/printing/ppd.h"
 
@@ -68,7 +69,9 @@ public:
 
     /// Proposes a choice: listed values are checked against the PPD's constraints, custom values against
     /// their limits, unknown ones are kept as they are. Nothing has changed if it is refused.
-    ChangeResult change(const QString& key, const QVariant& value);
+    /// `reading` says what counts as a number where the PPD asks for one.
+    ChangeResult change(const QString& key, const QVariant& value,
+                        ppd_lookup::NumberReading reading = ppd_lookup::NumberReading::whole);
 
     /// Puts earlier values back without any check, as undoing a change needs.
     void restore(const QMap<QString, QString>& values);
@@ -99,7 +102,7 @@ public:
 
 private:
     ChangeResult changeListed(const QString& key, const QString& choice);
-    ChangeResult keepCustom(const QString& key, const QString& value);
+    ChangeResult keepCustom(const QString& key, const QString& value, ppd_lookup::NumberReading reading);
     ChangeResult keepPageSize(const QString& value);
     bool resolve(const QString& key, const QString& choice, OptionMarks& proposed) const;
     ChangeResult refuse(const QString& sentence) const;

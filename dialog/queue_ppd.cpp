@@ -16,6 +16,16 @@ QString words(const char* text)
     return QCoreApplication::translate("Server", text);
 }
 
+void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
+{
+    QStringList all;
+    for (int i = 0; i < ippGetCount(names); ++i)
+        all.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
+    const QString sheets = all.join(QLatin1Char(','));
+    if (sheets != QLatin1StringView("none,none") && sheets != QLatin1StringView("none"))
+        result.jobSheets = sheets;
+}
+
 // What the queue says about itself beside its PPD. The server has defaults of its own, too: those are in
 // small letters, the options of a printer's maker are not.
 void readQueue(ipp_t* answer, QueuePpd& result)
@@ -26,6 +36,10 @@ void readQueue(ipp_t* answer, QueuePpd& result)
         const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
         if (!value || name.isEmpty())
             continue;
+        if (name == QLatin1StringView("job-sheets-default")) {
+            readJobSheets(a, result);
+            continue;
+        }
         if (name == QLatin1StringView("device-uri"))
             result.deviceUri = QString::fromUtf8(value);
         else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))

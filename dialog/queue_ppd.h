@@ -12,6 +12,7 @@ struct QueuePpd {
     QString deviceUri;               ///< empty if the queue has none
     /// What the administrator set for the queue beside the PPD, for keywords that the PPD does not list.
     OptionValues defaults;
+    QString jobSheets; ///< the banner pages that the queue adds by itself; empty if none
     QString problem;
 };
 
