@@ -29,8 +29,8 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
-    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which sends
-    /// it command jobs.
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
+    /// sends it command jobs.
     bool panelsAskPrinter = true;
 };
 
