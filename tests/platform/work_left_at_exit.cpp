@@ -1,4 +1,5 @@
-// Ends with work still queued for the main thread, work that queues more when it is dropped. Passes by ending.
+// Ends with work still queued for the main thread, work that queues more when it is dropped. Passes by
+// ending.
 
 #include "platform/foundation/work_queue.h"
 
