@@ -24,6 +24,8 @@ public:
         std::string title;
         std::string copies;
         bool commands = false;
+        /// The file that lists the loaded papers; empty if the printer cannot tell.
+        std::string papersFile;
     };
 
     /// `fd` has the page stream and stays the caller's.
@@ -37,6 +39,7 @@ private:
     int receive();
     int printPage(const PageHeader& page);
     int keepCommand(const std::string& file);
+    void reportPapers();
     int finish();
     int interrupted();
     int breakDown(bool stop);
