@@ -97,4 +97,10 @@ void waitForUnfinishedRun(PrintRun* run)
     loop.exec();
 }
 
+void finishQueuedWork()
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 } // namespace halvern

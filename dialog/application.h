@@ -21,4 +21,7 @@ QList<std::shared_ptr<QTranslator>> prepareApplication();
 /// Gives a cancelled run's worker a moment to take a half-sent job back, after the window has gone.
 void waitForUnfinishedRun(PrintRun* run);
 
+/// Delivers what panels that have just gone left for the main thread: their widgets and timers.
+void finishQueuedWork();
+
 } // namespace halvern

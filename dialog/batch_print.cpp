@@ -2,8 +2,19 @@
 
 namespace halvern {
 
+namespace {
+
+// Nobody sees here what is loaded, and a dry run sends nothing: the panels work from the options alone.
+SessionRequest unattended(SessionRequest request)
+{
+    request.panelsAskPrinter = false;
+    return request;
+}
+
+} // namespace
+
 BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream& out, QTextStream& err)
-    : line_(line), out_(out), err_(err), session_(line.request, panels)
+    : line_(line), out_(out), err_(err), session_(unattended(line.request), panels)
 {
     connect(&session_.printerList(), &PrinterList::changed, this, &BatchPrint::takePrinters);
     connect(&session_, &DialogSession::photosChanged, this, &BatchPrint::proceed);

@@ -1,6 +1,7 @@
 #include "dialog/demo_steps.h"
 
 #include "dialog/panel_deck.h"
+#include "dialog/preview_widget.h"
 #include "dialog/print_dialog.h"
 
 #include <QAbstractItemView>
@@ -167,6 +168,9 @@ QString DemoSteps::screenshot(const QString& name)
     // Two rounds: what a step queues may queue a repaint.
     QTest::qWait(0);
     QCoreApplication::processEvents();
+    const auto* preview = dialog_.findChild<PreviewWidget*>();
+    if (!QTest::qWaitFor([&] { return !preview->isReadingDetail(); }, kPatienceMilliseconds))
+        return QStringLiteral("the photo was not read");
     const QString path = QStringLiteral("%1/%2.png").arg(screens_, name);
     if (!dialog_.grab().save(path))
         return QStringLiteral("%1 could not be written").arg(path);

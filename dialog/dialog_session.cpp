@@ -1,5 +1,6 @@
 #include "dialog/dialog_session.h"
 
+#include "dialog/back_lines.h"
 #include "platform/foundation/work_queue.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
@@ -10,8 +11,11 @@
 
 namespace halvern {
 
+using ppd_lookup::NumberReading;
+
 namespace {
 
+constexpr int kUsualResolution = 300;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 
 PageRect toPageRect(const QRectF& rect)
@@ -115,10 +119,10 @@ void DialogSession::leavePrinter()
     panels_.clear();
     host_.reset();
     model_.reset();
-    const QStringList keys = settings_->values().keys();
-    for (const QString& key : keys)
-        settings_->setValue(key, QVariant(), true);
+    // New ones, not emptied ones: no value and no lock of the old printer's is left.
+    settings_ = std::make_shared<PrintSettings>();
     beforeLastChange_.clear();
+    backLinesProblem_.clear();
 }
 
 void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
@@ -129,23 +133,56 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
     // Not from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri));
-    applyOptions();
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
+                                   model_->sharedFile(), request_.panelsAskPrinter);
+    applyOptions(ppd.defaults, ppd.jobSheets);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
 }
 
-void DialogSession::applyOptions()
+void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
 {
-    for (const QString& sentence : model_->apply(inPpdTerms(saved_.byPrinter.value(printerName_))))
+    const QMap<QString, QString> byDefault = model_->values();
+    const OptionValues saved = queueDefaults + saved_.byPrinter.value(printerName_);
+    for (const QString& sentence : model_->apply(inPpdTerms(saved)))
         Q_EMIT notice(tr("A saved setting was left out. %1").arg(sentence));
     const QStringList refusals = model_->apply(inPpdTerms(request_.options));
     for (const QString& sentence : refusals)
         Q_EMIT refused(sentence);
-    const QMap<QString, QString> kept = model_->kept();
-    for (auto it = kept.cbegin(); it != kept.cend(); ++it)
-        settings_->setValue(it.key(), it.value(), false);
+    applyBackLines();
+    // What the queue would add by itself is the panels' to see and to change.
+    if (!queueJobSheets.isEmpty())
+        settings_->setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
+    // A panel that looks at the settings only, and not at the marks, must find what was chosen before it
+    // came: it would save the PPD's default over it.
+    const QMap<QString, QString> values = model_->values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (model_->isKept(it.key()) || byDefault.value(it.key()) != it.value())
+            settings_->setValue(it.key(), it.value(), false);
+    }
+}
+
+void DialogSession::applyBackLines()
+{
+    for (int number = 1; number <= request_.backLines.size(); ++number) {
+        if (model_->value(backLineSwitch(number)).isEmpty()) {
+            backLinesProblem_ = tr("The printer \"%1\" prints no text on the back of a picture. Leave "
+                                   "--backprint out, or choose another printer.")
+                                    .arg(printerName_);
+            Q_EMIT refused(backLinesProblem_);
+            return;
+        }
+    }
+    for (const OptionValue& option : backLineOptions(request_.backLines)) {
+        const QString before = model_->value(option.key);
+        const ChangeResult result = model_->change(option.key, option.value);
+        if (!result.accepted) {
+            backLinesProblem_ = result.refusal;
+            Q_EMIT refused(result.refusal);
+        }
+        rememberForUndo(option.key, before, result.sideChanges);
+    }
 }
 
 void DialogSession::loadPanels()
@@ -155,6 +192,7 @@ void DialogSession::loadPanels()
     if (!bundle || bundle->isEmpty())
         return;
     QString problem;
+    bundleName_ = *bundle;
     panels_ = panelSource_.panels(*bundle, host_, &problem);
     if (!problem.isEmpty())
         Q_EMIT notice(problem);
@@ -178,10 +216,29 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
     return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
 }
 
-ChangeResult DialogSession::change(const QString& key, const QVariant& value)
+Look DialogSession::look() const
+{
+    if (!model_)
+        return {};
+    const QMap<QString, QString> values = model_->values();
+    return {adjust::colorAdjustments(values), adjust::sharpening(values)};
+}
+
+int DialogSession::resolution() const
+{
+    return model_ ? model_->resolution() : kUsualResolution;
+}
+
+QString DialogSession::optionText(const QString& key) const
+{
+    const QString text = panels_.empty() ? key : panelSource_.localized(bundleName_, key);
+    return text == key && model_ ? model_->optionText(key) : text;
+}
+
+ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)
 {
     const QString before = model_->value(key);
-    ChangeResult result = model_->change(key, value);
+    ChangeResult result = model_->change(key, value, reading);
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
         return result;
@@ -232,7 +289,7 @@ void DialogSession::tellPanels(const QString& key, const QString& choice)
 
 bool DialogSession::changeOption(const QString& key, const QVariant& value)
 {
-    if (!model_ || !change(key, value).accepted)
+    if (!model_ || !change(key, value, NumberReading::whole).accepted)
         return false;
     tellPanels(key, model_->value(key));
     return true;
@@ -258,7 +315,8 @@ ppd_file_t* DialogSession::hostPpdFile()
 
 bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 {
-    return model_ && change(key, choice).accepted;
+    // Panels ask at every keystroke.
+    return model_ && change(key, choice, NumberReading::leading).accepted;
 }
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()

@@ -8,6 +8,7 @@
 #include "dialog/print_run.h"
 #include "dialog/printer_list.h"
 #include "dialog/queue_ppd.h"
+#include "dialog/screen_photo.h"
 
 #include <QObject>
 
@@ -29,6 +30,10 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
+    /// sends it command jobs.
+    bool panelsAskPrinter = true;
+    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -71,6 +76,15 @@ public:
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const;
 
+    /// What the printer's adjustments do to the photos, from the options' current values.
+    Look look() const;
+
+    /// The printer's dots per inch.
+    int resolution() const;
+
+    /// The words that the panels' bundle has for an option, else the PPD's.
+    QString optionText(const QString& key) const;
+
     /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
@@ -81,6 +95,10 @@ public:
 
     /// Whether print() would do something.
     bool canPrint() const;
+
+    /// Why the request's lines for the back cannot be printed on the selected printer; empty if they can, or
+    /// if there are none.
+    const QString& backLinesProblem() const { return backLinesProblem_; }
 
     /// Lets the panels save and merges the job's options.
     OptionValues collectOptions();
@@ -121,9 +139,10 @@ private:
     void takePpd(const QString& name, const QueuePpd& ppd);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
-    void applyOptions();
+    void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
+    void applyBackLines();
     void loadPanels();
-    ChangeResult change(const QString& key, const QVariant& value);
+    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
     void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
     void storeInSettings(const QString& key);
     void tellPanels(const QString& key, const QString& choice);
@@ -137,10 +156,12 @@ private:
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<Host> host_;
     PanelList panels_;
+    QString bundleName_; // of the panels
     PageSettings page_;
     std::vector<Photo> photos_;
     int filesLeft_ = 0;
     QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
+    QString backLinesProblem_;
     cups::CancelFlag stopFetching_;
     cups::CancelFlag stopAll_;
 };

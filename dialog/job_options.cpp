@@ -65,6 +65,13 @@ QString duplexForSides(const QString& sides)
     return QStringLiteral("None");
 }
 
+// The server refuses a job that spells its word for no banner page otherwise; panels write "None".
+QString asServerSpells(const QString& jobSheets)
+{
+    const QString none = QStringLiteral("none");
+    return jobSheets.compare(none, Qt::CaseInsensitive) == 0 ? none : jobSheets;
+}
+
 } // namespace
 
 OptionValues mergeJobOptions(const JobInputs& inputs)
@@ -78,11 +85,16 @@ OptionValues mergeJobOptions(const JobInputs& inputs)
         for (const char* name : kDecidedByUs)
             merged.remove(QLatin1StringView(name));
     }
+    if (const auto sheets = merged.find(QStringLiteral("job-sheets")); sheets != merged.end())
+        *sheets = asServerSpells(*sheets);
     merged.insert(QStringLiteral("copies"), QString::number(inputs.copies));
     merged.insert(QStringLiteral("print-scaling"), QStringLiteral("none"));
     OptionValues options;
     for (auto it = merged.cbegin(); it != merged.cend(); ++it)
         options.append({it.key(), it.value()});
+    // The stock filters take such a text for a list of options, and what follows it for its members.
+    std::ranges::stable_partition(
+        options, [](const OptionValue& option) { return !option.value.startsWith(QLatin1Char('{')); });
     return options;
 }
 

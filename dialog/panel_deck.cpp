@@ -38,6 +38,20 @@ QString tableRow(const QString& name, const QString& value)
         .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
 }
 
+// A panel tells the choices that the PPD lists; a value of the user's own has no words there, and is told as
+// it is.
+QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
+{
+    QMap<QString, QString> lines = panel.summaryInfo();
+    const QMap<QString, QString> kept = session.model() ? session.model()->kept() : QMap<QString, QString>();
+    for (const QString& key : panel.supportedPPDOptionKeys()) {
+        const QString title = session.optionText(key);
+        if (!kept.value(key).isEmpty() && !lines.contains(title))
+            lines.insert(title, kept.value(key));
+    }
+    return lines;
+}
+
 } // namespace
 
 PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
@@ -238,7 +252,7 @@ void PanelDeck::refreshSummary()
     for (const auto& [name, value] : ownSummary(session_))
         rows += tableRow(name, value);
     for (const std::shared_ptr<Panel>& panel : session_.panels()) {
-        const QMap<QString, QString> lines = panel->summaryInfo();
+        const QMap<QString, QString> lines = panelSummary(session_, *panel);
         if (lines.isEmpty())
             continue;
         rows += QStringLiteral("<tr><td colspan='2' style='padding-top:14px'><b>%1</b></td></tr>")

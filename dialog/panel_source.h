@@ -13,6 +13,10 @@ public:
     /// The source outlives the panels.
     virtual PanelList panels(const QString& bundleName, const std::shared_ptr<HostCallback>& host,
                              QString* problem) = 0;
+
+    /// What the bundle calls something in the user's language: a PPD keyword, for example. The text itself if
+    /// the bundle has no words for it.
+    virtual QString localized(const QString& /*bundleName*/, const QString& text) const { return text; }
 };
 
 } // namespace halvern

@@ -54,8 +54,8 @@ PanelList PluginLoader::panels(const QString& bundleName, const std::shared_ptr<
 
 PrincipalClass* PluginLoader::principalOf(const QString& bundleName, QString* problem)
 {
-    if (const auto found = principals_.find(bundleName); found != principals_.end())
-        return found->second.get();
+    if (const auto found = loaded_.find(bundleName); found != loaded_.end())
+        return found->second.principal.get();
     if (!isBundleName(bundleName)) {
         *problem =
             tr("The printer's description asks for the pages \"%1\", which is no name of a bundle. You can "
@@ -67,10 +67,10 @@ PrincipalClass* PluginLoader::principalOf(const QString& bundleName, QString* pr
         const QString path = QDir(folder).filePath(bundleName);
         if (!QFileInfo(path).isDir())
             continue;
-        std::unique_ptr<PrincipalClass> principal = load(path, problem);
-        if (!principal)
+        Loaded loaded = load(path, problem);
+        if (!loaded.principal)
             return nullptr;
-        return principals_.emplace(bundleName, std::move(principal)).first->second.get();
+        return loaded_.emplace(bundleName, std::move(loaded)).first->second.principal.get();
     }
     *problem = tr("The printer's own pages (%1) are not installed. You can print without them; install the "
                   "printer's "
@@ -79,7 +79,7 @@ PrincipalClass* PluginLoader::principalOf(const QString& bundleName, QString* pr
     return nullptr;
 }
 
-std::unique_ptr<PrincipalClass> PluginLoader::load(const QString& path, QString* problem)
+PluginLoader::Loaded PluginLoader::load(const QString& path, QString* problem)
 {
     const QString failed =
         tr("The printer's own pages (%1) cannot be loaded: %2. You can print without them; "
@@ -90,21 +90,27 @@ std::unique_ptr<PrincipalClass> PluginLoader::load(const QString& path, QString*
     const std::optional<QString> module = bundle ? bundle->executablePath() : std::nullopt;
     if (!module) {
         *problem = failed.arg(why.isEmpty() ? tr("they name no module") : why);
-        return nullptr;
+        return {};
     }
     // The loader object may go; the module stays until the program ends.
     QPluginLoader loader(*module);
     auto* root = qobject_cast<PlugInModule*>(loader.instance());
     if (!root) {
         *problem = failed.arg(loader.isLoaded() ? tr("the module is of another kind") : loader.errorString());
-        return nullptr;
+        return {};
     }
     std::unique_ptr<PrincipalClass> principal = root->makePrincipalObject();
     if (!principal || !principal->initWithBundle(*bundle)) {
         *problem = failed.arg(tr("they belong to something else"));
-        return nullptr;
+        return {};
     }
-    return principal;
+    return {bundle, std::move(principal)};
+}
+
+QString PluginLoader::localized(const QString& bundleName, const QString& text) const
+{
+    const auto found = loaded_.find(bundleName);
+    return found == loaded_.end() ? text : found->second.bundle->localizedString(text);
 }
 
 } // namespace halvern

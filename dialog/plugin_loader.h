@@ -20,13 +20,20 @@ public:
 
     PanelList panels(const QString& bundleName, const std::shared_ptr<HostCallback>& host,
                      QString* problem) override;
+    QString localized(const QString& bundleName, const QString& text) const override;
 
 private:
+    // A bundle and its root object.
+    struct Loaded {
+        std::shared_ptr<Bundle> bundle;
+        std::unique_ptr<PrincipalClass> principal;
+    };
+
     PrincipalClass* principalOf(const QString& bundleName, QString* problem);
-    std::unique_ptr<PrincipalClass> load(const QString& path, QString* problem);
+    Loaded load(const QString& path, QString* problem);
 
     QStringList folders_;
-    std::map<QString, std::unique_ptr<PrincipalClass>> principals_;
+    std::map<QString, Loaded> loaded_;
 };
 
 } // namespace halvern

@@ -1,10 +1,14 @@
 #include "dialog/ppd_lookup.h"
 
+#include "platform/foundation/numbers.h"
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/ppd.h"
 
 #include <QCoreApplication>
 #include <QLocale>
 #include <QtNumeric>
+
+#include <optional>
 
 namespace halvern::ppd_lookup {
 
@@ -22,13 +26,21 @@ QString outsideLimits(const QString& optionText, double low, double high)
         .arg(optionText, locale.toString(low), locale.toString(high));
 }
 
-QString numberProblem(const QString& optionText, const QString& value, double low, double high, bool whole)
+std::optional<double> number(const QString& value, bool integer, NumberReading reading)
 {
+    if (reading == NumberReading::leading)
+        return leadingDouble(value);
     bool isNumber = false;
-    const double number = whole ? value.toInt(&isNumber) : QLocale::c().toDouble(value, &isNumber);
+    const double found = integer ? value.toInt(&isNumber) : QLocale::c().toDouble(value, &isNumber);
     // The conversion takes blanks and "nan" for numbers; a printer's filter would not.
-    const bool isPlain = isNumber && qIsFinite(number) && value == value.trimmed();
-    return isPlain && number >= low && number <= high ? QString() : outsideLimits(optionText, low, high);
+    const bool isPlain = isNumber && qIsFinite(found) && value == value.trimmed();
+    return isPlain ? std::optional(found) : std::nullopt;
+}
+
+QString numberProblem(const QString& optionText, std::optional<double> number, const ppd::Range& range)
+{
+    const bool fits = number && *number >= range.minimum && *number <= range.maximum;
+    return fits ? QString() : outsideLimits(optionText, range.minimum, range.maximum);
 }
 
 QString lengthProblem(const QString& optionText, const QString& value, int low, int high)
@@ -70,22 +82,22 @@ ppd_cparam_t* customParameter(ppd_file_t* file, const QString& key)
     return ppdFirstCustomParam(custom);
 }
 
-QString customValueProblem(const ppd_cparam_t& parameter, const QString& optionText, const QString& value)
+QString customValueProblem(ppd_file_t* file, const ppd_cparam_t& parameter, const QString& key,
+                           const QString& optionText, const QString& value, NumberReading reading)
 {
     const auto& low = parameter.minimum;
     const auto& high = parameter.maximum;
     switch (parameter.type) {
     case PPD_CUSTOM_INT:
-        return numberProblem(optionText, value, low.custom_int, high.custom_int, true);
     case PPD_CUSTOM_REAL:
-        return numberProblem(optionText, value, double(low.custom_real), double(high.custom_real), false);
     case PPD_CUSTOM_POINTS:
-        return numberProblem(optionText, value, double(low.custom_points), double(high.custom_points), false);
     case PPD_CUSTOM_CURVE:
-        return numberProblem(optionText, value, double(low.custom_curve), double(high.custom_curve), false);
-    case PPD_CUSTOM_INVCURVE:
-        return numberProblem(optionText, value, double(low.custom_invcurve), double(high.custom_invcurve),
-                             false);
+    case PPD_CUSTOM_INVCURVE: {
+        // The limits as the PPD writes them; without usable ones the printer has to know.
+        const std::optional<ppd::Range> range = ppd::customRange(file, key);
+        const bool isInteger = parameter.type == PPD_CUSTOM_INT;
+        return range ? numberProblem(optionText, number(value, isInteger, reading), *range) : QString();
+    }
     case PPD_CUSTOM_STRING:
         return lengthProblem(optionText, value, low.custom_string, high.custom_string);
     case PPD_CUSTOM_PASSCODE:

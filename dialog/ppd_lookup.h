@@ -19,8 +19,14 @@ ppd_choice_s* listedChoice(ppd_file_t* file, const QString& key, const QString& 
 /// The only parameter of an option's custom values; null if it has none or several.
 ppd_cparam_s* customParameter(ppd_file_t* file, const QString& key);
 
-/// Why `value` cannot be the parameter's value, as a sentence with the option's text in it; empty if it can.
-QString customValueProblem(const ppd_cparam_s& parameter, const QString& optionText, const QString& value);
+/// How a text stands for a number: it is one; or it begins with one, as what the user is still typing does
+/// ("-", "12.") and what a panel lets pass on purpose ("abc" counts as 0).
+enum class NumberReading { whole, leading };
+
+/// Why `value` cannot be the custom value of the option whose parameter this is, as a sentence with
+/// `optionText` in it; empty if it can.
+QString customValueProblem(ppd_file_t* file, const ppd_cparam_s& parameter, const QString& key,
+                           const QString& optionText, const QString& value, NumberReading reading);
 
 /// Takes away all marks of the option.
 void unmark(ppd_file_t* file, const QString& key);

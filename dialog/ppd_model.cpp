@@ -54,7 +54,7 @@ ChangeResult PpdModel::refuse(const QString& sentence) const
     return {false, sentence, {}};
 }
 
-ChangeResult PpdModel::change(const QString& key, const QVariant& value)
+ChangeResult PpdModel::change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading)
 {
     if (key.isEmpty() || !value.isValid())
         return refuse(tr("An option without a name or a value cannot be set."));
@@ -67,16 +67,17 @@ ChangeResult PpdModel::change(const QString& key, const QVariant& value)
         return changeListed(key, QString::fromUtf8(listed->choice));
     if (isPageSize(key))
         return keepPageSize(text);
-    return keepCustom(key, text);
+    return keepCustom(key, text, reading);
 }
 
-ChangeResult PpdModel::keepCustom(const QString& key, const QString& value)
+ChangeResult PpdModel::keepCustom(const QString& key, const QString& value, ppd_lookup::NumberReading reading)
 {
     QString plain = value;
     if (const ppd_cparam_t* parameter = ppd_lookup::customParameter(file_.get(), key)) {
         if (plain.startsWith(QLatin1StringView(kCustomPrefix)))
             plain = plain.mid(int(sizeof(kCustomPrefix)) - 1);
-        const QString problem = ppd_lookup::customValueProblem(*parameter, optionText(key), plain);
+        const QString problem =
+            ppd_lookup::customValueProblem(file_.get(), *parameter, key, optionText(key), plain, reading);
         if (!problem.isEmpty())
             return refuse(problem);
     }

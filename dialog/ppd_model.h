@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/constraints.h"
+#include "dialog/ppd_lookup.h"
 #include "dialog/saved_options.h"
 #include "platform/printing/ppd.h"
 
@@ -60,12 +61,17 @@ public:
 
     ppd_file_t* file() const { return file_.get(); }
 
+    /// The same, to keep it open beyond this object's life.
+    std::shared_ptr<ppd_file_t> sharedFile() const { return file_; }
+
     /// Applies options in order. Answers the sentences about those that were refused.
     QStringList apply(const OptionValues& options);
 
     /// Proposes a choice: listed values are checked against the PPD's constraints, custom values against
     /// their limits, unknown ones are kept as they are. Nothing has changed if it is refused.
-    ChangeResult change(const QString& key, const QVariant& value);
+    /// `reading` says what counts as a number where the PPD asks for one.
+    ChangeResult change(const QString& key, const QVariant& value,
+                        ppd_lookup::NumberReading reading = ppd_lookup::NumberReading::whole);
 
     /// Puts earlier values back without any check, as undoing a change needs.
     void restore(const QMap<QString, QString>& values);
@@ -96,7 +102,7 @@ public:
 
 private:
     ChangeResult changeListed(const QString& key, const QString& choice);
-    ChangeResult keepCustom(const QString& key, const QString& value);
+    ChangeResult keepCustom(const QString& key, const QString& value, ppd_lookup::NumberReading reading);
     ChangeResult keepPageSize(const QString& value);
     bool resolve(const QString& key, const QString& choice, OptionMarks& proposed) const;
     ChangeResult refuse(const QString& sentence) const;
@@ -105,7 +111,7 @@ private:
     void setMark(const QString& key, const QString& choice);
     void keep(const QString& key, const QString& value);
 
-    ppd::File file_;
+    std::shared_ptr<ppd_file_t> file_;
     std::vector<Constraint> constraints_;
     QMap<QString, QString> kept_;
 };

@@ -1,10 +1,13 @@
 #include "dialog/preview_widget.h"
 
+#include "dialog/detail_reader.h"
 #include "dialog/page_renderer.h"
 
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolButton>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -13,7 +16,7 @@ namespace halvern {
 namespace {
 
 constexpr double kMargin = 28.0;
-constexpr double kCaptionHeight = 30.0;
+constexpr int kCaptionRoom = 10; // above and below the captions
 constexpr double kShadow = 7.0;
 
 // A photo's colours are judged on a neutral gray, light or dark with the rest of the dialog.
@@ -59,12 +62,30 @@ QString pageSizeText(const QSizeF& points)
     return (metricFirst ? metric : imperial) + QStringLiteral("  ·  ") + (metricFirst ? imperial : metric);
 }
 
-PreviewWidget::PreviewWidget(QWidget* parent) : QWidget(parent)
+PreviewWidget::PreviewWidget(QWidget* parent)
+    : QWidget(parent), reader_(new DetailReader(this)), zoomButton_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("preview"));
     setAccessibleName(tr("Preview"));
     setMinimumSize(300, 300);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setFocusPolicy(Qt::StrongFocus);
+    zoomButton_->setObjectName(QStringLiteral("zoomButton"));
+    zoomButton_->setText(QStringLiteral("1:1"));
+    zoomButton_->setCheckable(true);
+    zoomButton_->setAccessibleName(tr("Show at 1:1"));
+    zoomButton_->setToolTip(
+        tr("Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)"));
+    connect(zoomButton_, &QToolButton::clicked, this, [this](bool on) { setZoomed(on); });
+    connect(reader_, &DetailReader::ready, this, [this](const QImage& detail) {
+        screen_.setDetail(detail);
+        showState();
+    });
+    connect(reader_, &DetailReader::failed, this, [this](const QString& sentence) {
+        detailProblem_ = sentence;
+        showState();
+    });
+    showState();
 }
 
 QSize PreviewWidget::sizeHint() const
@@ -72,61 +93,128 @@ QSize PreviewWidget::sizeHint() const
     return {620, 620};
 }
 
-void PreviewWidget::showPage(const PageLayout& layout, const QImage& photo)
+void PreviewWidget::showPage(const PreviewPage& page)
 {
-    layout_ = layout;
-    photo_ = photo;
+    page_ = page;
+    screen_.setPreview(page.photo.preview);
+    screen_.setLook(page.look);
     text_.clear();
     hasPage_ = true;
-    setCursor(layout.isCut ? Qt::OpenHandCursor : Qt::ArrowCursor);
-    setToolTip(layout.isCut ? tr("Drag the photo to choose what is cut away") : QString());
-    setAccessibleDescription(sizeCaption());
-    update();
+    if (isZoomed_) {
+        keepPageInView();
+        readDetail();
+    }
+    showState();
 }
 
 void PreviewWidget::showText(const QString& text)
 {
     text_ = text;
     hasPage_ = false;
-    unsetCursor();
-    setAccessibleDescription(text);
+    setZoomed(false);
+}
+
+void PreviewWidget::showState()
+{
+    const bool canMove = hasPage_ && page_.layout.isCut && !isZoomed_;
+    setCursor(canMove || isZoomed_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
+    setToolTip(canMove ? tr("Drag the photo to choose what is cut away") : QString());
+    setAccessibleDescription(hasPage_ ? captions().join(QStringLiteral(". ")) : text_);
+    zoomButton_->setVisible(hasPage_);
     update();
+}
+
+int PreviewWidget::captionHeight() const
+{
+    return 2 * fontMetrics().lineSpacing() + 2 * kCaptionRoom;
+}
+
+QRect PreviewWidget::viewRect() const
+{
+    return rect().adjusted(0, 0, 0, -captionHeight());
+}
+
+void PreviewWidget::resizeEvent(QResizeEvent*)
+{
+    const QSize size = zoomButton_->sizeHint();
+    zoomButton_->setGeometry(
+        QRect(QPoint(width() - size.width() - kCaptionRoom, height() - (captionHeight() + size.height()) / 2),
+              size));
+    if (isZoomed_)
+        keepPageInView();
 }
 
 QRectF PreviewWidget::sheetRect() const
 {
-    const QRectF room = QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin - kCaptionHeight);
-    QRectF sheet(QPointF(), layout_.page.scaled(room.size(), Qt::KeepAspectRatio));
+    const QRectF room = QRectF(viewRect()).adjusted(kMargin, kMargin, -kMargin, -kMargin / 2);
+    QRectF sheet(QPointF(), page_.layout.page.scaled(room.size(), Qt::KeepAspectRatio));
     sheet.moveCenter(room.center());
     return sheet;
 }
 
 QString PreviewWidget::sizeCaption() const
 {
-    QString caption = pageSizeText(layout_.page);
-    if (layout_.isCut)
+    if (isZoomed_)
+        return tr("1:1, a screen pixel for each printer dot (%1 dpi)").arg(page_.resolution);
+    QString caption = pageSizeText(page_.layout.page);
+    if (page_.layout.isCut)
         caption += QStringLiteral("  ·  ") + tr("part of the photo is cut away");
     return caption;
 }
 
-void PreviewWidget::paintSheet(QPainter& painter) const
+QString PreviewWidget::colorCaption() const
 {
+    if (isZoomed_ && !detailProblem_.isEmpty())
+        return detailProblem_;
+    if (isReadingDetail())
+        return tr("Reading the photo...");
+    const bool showsSharpening = page_.look.sharpens() && isZoomed_;
+    if (page_.look.changesColors() || showsSharpening)
+        return tr("The printer's adjustments, approximated on the screen");
+    return page_.look.sharpens() ? tr("Sharpening shows at 1:1") : QString();
+}
+
+QStringList PreviewWidget::captions() const
+{
+    QStringList lines{sizeCaption(), colorCaption()};
+    lines.removeAll(QString());
+    return lines;
+}
+
+void PreviewWidget::paintSheet(QPainter& painter)
+{
+    const PageLayout& layout = page_.layout;
     const QRectF sheet = sheetRect();
-    const double scale = sheet.width() / layout_.page.width();
+    const double scale = sheet.width() / layout.page.width();
     paintShadow(painter, sheet);
     painter.save();
     painter.translate(sheet.topLeft());
     painter.scale(scale, scale);
-    paintPage(painter, layout_, photo_);
-    const QRectF whole(QPointF(), layout_.page);
-    const bool isBorderless = layout_.imageable.adjusted(-0.5, -0.5, 0.5, 0.5).contains(whole);
+    const QSizeF pixels = layout.photo.size() * (scale * devicePixelRatioF());
+    paintPage(painter, layout, screen_.whole({qCeil(pixels.width()), qCeil(pixels.height())}));
+    const QRectF whole(QPointF(), layout.page);
+    const bool isBorderless = layout.imageable.adjusted(-0.5, -0.5, 0.5, 0.5).contains(whole);
     if (!isBorderless) {
         QPen dashes(QColor(128, 128, 128, 150), 0.0, Qt::DashLine);
         painter.setPen(dashes);
         painter.setBrush(Qt::NoBrush);
-        painter.drawRect(layout_.imageable);
+        painter.drawRect(layout.imageable);
     }
     painter.restore();
+}
+
+void PreviewWidget::paintCaptions(QPainter& painter) const
+{
+    const int side = zoomButton_->width() + 2 * kCaptionRoom;
+    const int line = fontMetrics().lineSpacing();
+    QRect room(side, height() - captionHeight() + kCaptionRoom, width() - 2 * side, line);
+    const QStringList lines = captions();
+    if (lines.size() == 1)
+        room.translate(0, line / 2);
+    for (const QString& text : lines) {
+        painter.drawText(room, Qt::AlignCenter, fontMetrics().elidedText(text, Qt::ElideRight, room.width()));
+        room.translate(0, line);
+    }
 }
 
 void PreviewWidget::paintEvent(QPaintEvent*)
@@ -140,26 +228,49 @@ void PreviewWidget::paintEvent(QPaintEvent*)
         painter.drawText(rect().adjusted(40, 40, -40, -40), Qt::AlignCenter | Qt::TextWordWrap, text_);
         return;
     }
-    paintSheet(painter);
-    const QRectF caption(0.0, height() - kCaptionHeight - 8.0, width(), kCaptionHeight);
+    if (isZoomed_)
+        paintDots(painter);
+    else
+        paintSheet(painter);
     painter.setPen(inkOn(background));
-    painter.drawText(caption, Qt::AlignCenter, sizeCaption());
+    paintCaptions(painter);
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+        painter.drawRect(QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0));
+    }
 }
 
 void PreviewWidget::mousePressEvent(QMouseEvent* event)
 {
     lastMouse_ = event->position();
+    if (isZoomed_ && event->button() == Qt::LeftButton)
+        setCursor(Qt::ClosedHandCursor);
+}
+
+void PreviewWidget::mouseReleaseEvent(QMouseEvent*)
+{
+    if (isZoomed_)
+        setCursor(Qt::OpenHandCursor);
 }
 
 void PreviewWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!hasPage_ || !layout_.isCut || !(event->buttons() & Qt::LeftButton))
+    if (!hasPage_ || !(event->buttons() & Qt::LeftButton))
         return;
-    const double scale = sheetRect().width() / layout_.page.width();
-    const QPointF moved = (event->position() - lastMouse_) / scale;
+    const QPointF moved = event->position() - lastMouse_;
     lastMouse_ = event->position();
-    const QSizeF room = layout_.imageable.size() - layout_.photo.size();
-    const QPointF offset = layout_.photo.topLeft() - layout_.imageable.topLeft() + moved;
+    if (isZoomed_)
+        pan(moved);
+    else if (page_.layout.isCut)
+        movePhoto(moved);
+}
+
+void PreviewWidget::movePhoto(const QPointF& by)
+{
+    const PageLayout& layout = page_.layout;
+    const double scale = sheetRect().width() / layout.page.width();
+    const QSizeF room = layout.imageable.size() - layout.photo.size();
+    const QPointF offset = layout.photo.topLeft() - layout.imageable.topLeft() + by / scale;
     const auto share = [](double at, double all) {
         return qAbs(all) < 0.01 ? 0.5 : std::clamp(at / all, 0.0, 1.0);
     };

@@ -68,6 +68,9 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     column->addLayout(sides, 1);
     setMinimumSize(900, 600);
     resize(1240, 780);
+    // The controls come first, although the preview stands first.
+    setTabOrder(print_, preview_);
+    setTabOrder(preview_, preview_->zoomButton());
     makeShortcuts();
     connectSession();
     fillPrinters();
@@ -302,7 +305,7 @@ void PrintDialog::showPhotos()
     }
     current_ = std::clamp(current_, 0, int(photos.size()) - 1);
     const Photo& photo = photos[size_t(current_)];
-    preview_->showPage(session_.layoutFor(photo), photo.preview);
+    preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
     const QString name = QFileInfo(photo.path).fileName();
     setWindowTitle(tr("Print %1").arg(name));
     pageNumber_->setText(tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(name));

@@ -9,19 +9,43 @@ namespace halvern {
 
 namespace {
 
+constexpr char kDefaultEnding[] = "-default";
+
 QString words(const char* text)
 {
     return QCoreApplication::translate("Server", text);
 }
 
-QString askDeviceUri(cups::Connection& server, const QString& queue)
+void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
 {
-    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "device-uri");
-    const cups::Ipp answer = server.request(std::move(request), "/");
-    ipp_attribute_t* uri = answer ? ippFindAttribute(answer.get(), "device-uri", IPP_TAG_ZERO) : nullptr;
-    return uri ? QString::fromUtf8(ippGetString(uri, 0, nullptr)) : QString();
+    QStringList all;
+    for (int i = 0; i < ippGetCount(names); ++i)
+        all.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
+    const QString sheets = all.join(QLatin1Char(','));
+    if (sheets != QLatin1StringView("none,none") && sheets != QLatin1StringView("none"))
+        result.jobSheets = sheets;
+}
+
+// What the queue says about itself beside its PPD. The server has defaults of its own, too: those are in
+// small letters, the options of a printer's maker are not.
+void readQueue(ipp_t* answer, QueuePpd& result)
+{
+    for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        const QString name = QString::fromUtf8(ippGetName(a));
+        const bool isTruth = ippGetValueTag(a) == IPP_TAG_BOOLEAN;
+        const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
+        if (!value || name.isEmpty())
+            continue;
+        if (name == QLatin1StringView("job-sheets-default")) {
+            readJobSheets(a, result);
+            continue;
+        }
+        if (name == QLatin1StringView("device-uri"))
+            result.deviceUri = QString::fromUtf8(value);
+        else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))
+            result.defaults.append(
+                {name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
+    }
 }
 
 } // namespace
@@ -34,7 +58,6 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = server.error();
         return result;
     }
-    result.deviceUri = askDeviceUri(server, queue);
     char path[1024] = "";
     time_t modified = 0;
     if (cupsGetPPD3(server.http(), queue.toUtf8().constData(), &modified, path, sizeof(path)) !=
@@ -49,6 +72,9 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = result.problem.arg(queue);
         return result;
     }
+    // Without an answer the queue has none of it: nothing to keep anybody from printing.
+    if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
+        readQueue(answer.get(), result);
     QString why;
     ppd::File file = ppd::open(QFile::decodeName(path), &why);
     QFile::remove(QFile::decodeName(path));

@@ -86,17 +86,32 @@ bool PageStreamReader::fail(const std::string& why)
     return false;
 }
 
-bool PageStreamReader::fill()
+// More bytes into the buffer, which is used up: how many, 0 at the end of the data, -1 after a failure.
+ssize_t PageStreamReader::read()
 {
     if (!cancellation::waitReadable(fd_))
-        return false;
+        return -1;
     const ssize_t got = ::read(fd_, buffer_.data(), buffer_.size());
     if (got < 0)
-        return fail(std::string("the page data cannot be read: ") + std::strerror(errno));
-    if (got == 0)
-        return fail("the page data ends too early");
+        fail(std::string("the page data cannot be read: ") + std::strerror(errno));
     at_ = 0;
-    filled_ = static_cast<size_t>(got);
+    filled_ = static_cast<size_t>(std::max(got, ssize_t{0}));
+    return got;
+}
+
+bool PageStreamReader::fill()
+{
+    const ssize_t got = read();
+    if (got == 0)
+        fail("the page data ends too early");
+    return got > 0;
+}
+
+bool PageStreamReader::nextStream()
+{
+    if (at_ == filled_ && read() <= 0)
+        return false;
+    begun_ = false;
     return true;
 }
 

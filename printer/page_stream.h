@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <sys/types.h>
 #include <variant>
 #include <vector>
 
@@ -21,6 +22,9 @@
 ///            record come HEIGHT rows of WIDTH pixels, three bytes each (red, green, blue), top row first
 ///   COMMAND  a command file
 ///   END      nothing: the stream is complete. A stream without it was cut off.
+///
+/// A job of several documents, a banner page and a photo for example, is several streams, one behind the
+/// other.
 namespace halvern {
 
 struct PageHeader {
@@ -80,6 +84,9 @@ public:
 
     std::optional<StreamItem> next();
 
+    /// Waits for the next document's stream, after the end of one. False, without an error, if there is none.
+    bool nextStream();
+
     /// The next row of the page last met; exactly as many bytes as a row has.
     bool row(std::span<uint8_t> pixels);
 
@@ -88,6 +95,7 @@ public:
 private:
     bool fail(const std::string& why);
     bool begin();
+    ssize_t read();
     bool fill();
     bool bytes(uint8_t* to, size_t count);
     std::optional<std::string> line();

@@ -109,16 +109,28 @@ int VirtualPrinter::receive()
             status = keepCommand(command->file);
         else if (const auto* page = std::get_if<PageHeader>(&*item))
             status = printPage(*page);
-        else
-            return finish();
+        else if (!startNextDocument())
+            return in_.error().empty() && !cancellation::requested() ? finish() : interrupted();
         if (status != CUPS_BACKEND_OK)
             return status;
     }
     return interrupted();
 }
 
-int VirtualPrinter::printPage(const PageHeader& page)
+// Each document comes with the job's options, and its sheets count from 1.
+bool VirtualPrinter::startNextDocument()
 {
+    if (!in_.nextStream())
+        return false;
+    options_.clear();
+    sheetsBefore_ = lastSheet_;
+    return true;
+}
+
+int VirtualPrinter::printPage(PageHeader page)
+{
+    page.sheet += sheetsBefore_;
+    lastSheet_ = page.sheet;
     if (pages_ == 0 && !folder_.writeOptions(options_))
         return unusable(folder_.error());
     const bool stop = plan_.stopAfter && pages_ >= *plan_.stopAfter;

@@ -31,13 +31,14 @@ public:
     /// `fd` has the page stream and stays the caller's.
     VirtualPrinter(Job job, FaultPlan plan, const std::string& jobsDir, int fd);
 
-    /// Receives the stream; answers the exit status for CUPS (a cups_backend_t).
+    /// Receives the job's streams; answers the exit status for CUPS (a cups_backend_t).
     int run();
 
 private:
     bool waitForPrinter();
     int receive();
-    int printPage(const PageHeader& page);
+    bool startNextDocument();
+    int printPage(PageHeader page);
     int keepCommand(const std::string& file);
     void reportPapers();
     int finish();
@@ -53,6 +54,8 @@ private:
     int fd_;
     PageStreamReader in_;
     JobOptions options_;
+    int sheetsBefore_ = 0; // of the job's earlier documents
+    int lastSheet_ = 0;
     int pages_ = 0;
     int pictures_ = 0;
 };

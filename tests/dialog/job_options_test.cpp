@@ -55,7 +55,7 @@ TEST(JobOptions, WhatWouldContradictThePageIsLeftOut)
     const OptionValues merged = mergeJobOptions(inputs);
     for (const char* key : {"media", "fit-to-page", "sides", "a.b.c"})
         EXPECT_FALSE(valueOf(merged, key)) << key;
-    EXPECT_EQ(valueOf(merged, "job-sheets"), u("None"));
+    EXPECT_EQ(valueOf(merged, "job-sheets"), u("none")) << "the server refuses every other spelling";
 }
 
 TEST(JobOptions, SavedIppOptionsAreUnderstoodInThePpdsTerms)

@@ -168,4 +168,48 @@ TEST(PpdModel, RestoringUndoesAResolversWork)
     EXPECT_EQ(model->values(), before);
 }
 
+TEST(PpdModel, APanelMayKeepWhatBeginsWithANumberTheCommandLineMayNot)
+{
+    struct Case {
+        const char* key;
+        const char* value;
+        bool whole;
+        bool leading;
+    };
+
+    const Case cases[] = {
+        {"Brightness", "-12", true, true},
+        {"Brightness", "-", false, true},
+        {"Brightness", "", false, true},
+        {"Brightness", "12.", false, true},
+        {"Brightness", "abc", false, true},
+        {"Brightness", "101", false, false},
+        {"Brightness", "-101%", false, false},
+        {"SharpnessIntensity", "1.", true, true},
+        {"SharpnessIntensity", "5.1", false, false},
+        {"SharpnessIntensity", "nan", false, true},
+    };
+    for (const Case& c : cases) {
+        using ppd_lookup::NumberReading;
+        for (const NumberReading reading : {NumberReading::whole, NumberReading::leading}) {
+            const auto model = tessarinModel();
+            const bool wanted = reading == NumberReading::whole ? c.whole : c.leading;
+            EXPECT_EQ(model->change(q(c.key), q(c.value), reading).accepted, wanted)
+                << c.key << ' ' << c.value;
+            EXPECT_EQ(model->isKept(q(c.key)), wanted);
+        }
+    }
+}
+
+TEST(PpdModel, LimitsAreTheOnesThatThePpdWrites)
+{
+    const auto model =
+        modelOf(ppdHeader() + ppdOption("Strength", {"1"}) +
+                "*CustomStrength True: \"pop\"\n*ParamCustomStrength Factor: 1 real 0.1 0.7\n");
+    ASSERT_TRUE(model);
+    EXPECT_TRUE(model->change(q("Strength"), q("0.1")).accepted);
+    EXPECT_TRUE(model->change(q("Strength"), q("0.7")).accepted);
+    EXPECT_FALSE(model->change(q("Strength"), q("0.09")).accepted);
+}
+
 } // namespace halvern

@@ -48,6 +48,25 @@ std::string streamWithAPage()
     return bytes + std::string(12, 'x') + "END 0\n";
 }
 
+TEST(PageStreamTest, DocumentsOfAJobFollowOneAnother)
+{
+    for (const size_t broken : {size_t{0}, size_t{3}}) {
+        const std::string both = streamWithAPage() + streamWithAPage();
+        const File file = fileWith(both.substr(0, both.size() - broken));
+        PageStreamReader in(fileno(file.get()));
+        int pages = 0;
+        std::vector<uint8_t> row(6);
+        do {
+            for (auto item = in.next(); item && !std::holds_alternative<StreamEnd>(*item); item = in.next()) {
+                if (std::holds_alternative<PageHeader>(*item))
+                    pages += in.row(row) && in.row(row) ? 1 : 0;
+            }
+        } while (in.error().empty() && in.nextStream());
+        EXPECT_EQ(pages, 2);
+        EXPECT_EQ(in.error().empty(), broken == 0) << in.error();
+    }
+}
+
 TEST(PageStreamTest, ReadsBackWhatWasWritten)
 {
     const File file(std::tmpfile());

@@ -1,0 +1,105 @@
+#include "dialog/plugin_loader.h"
+
+#include "tests/support/fake_host.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+const QString kBundleName = QStringLiteral("tessarin.pde");
+
+// A bundle folder with this property list and module.
+void makeBundle(const QString& folder, const QByteArray& list, const QByteArray& module)
+{
+    const QString path = folder + QLatin1Char('/') + kBundleName;
+    ASSERT_TRUE(QDir().mkpath(path));
+    QFile info(path + QStringLiteral("/Info.plist"));
+    ASSERT_TRUE(info.open(QIODevice::WriteOnly));
+    info.write(list);
+    QFile file(path + QStringLiteral("/tessarin.so"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(module);
+}
+
+QByteArray propertyList(const QByteArray& identifier)
+{
+    return "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>CFBundleIdentifier</key><string>" +
+           identifier + "</string><key>CFBundleExecutable</key><string>tessarin.so</string></dict></plist>";
+}
+
+QByteArray builtModule()
+{
+    QFile file(QStringLiteral(HALVERN_TEST_BUNDLE "/tessarin.so"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+} // namespace
+
+TEST(PluginLoader, LoadsTheBuiltBundleAndMakesFreshPanelsEachTime)
+{
+    PluginLoader loader({QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).path()});
+    QString problem;
+    const auto host = std::make_shared<FakeHost>();
+    const PanelList first = loader.panels(kBundleName, host, &problem);
+    const PanelList second = loader.panels(kBundleName, host, &problem);
+    ASSERT_FALSE(first.empty()) << qPrintable(problem);
+    ASSERT_EQ(first.size(), second.size());
+    EXPECT_NE(first.front(), second.front());
+    EXPECT_EQ(problem, QString());
+    const PanelList none = loader.panels(kBundleName, std::make_shared<FakeHost>(QByteArray()), &problem);
+    EXPECT_TRUE(none.empty()) << "without a PPD there are no panels";
+    EXPECT_FALSE(problem.isEmpty());
+}
+
+TEST(PluginLoader, EveryWrongBundleIsAStateWithASentence)
+{
+    struct Case {
+        QByteArray list;
+        QByteArray module;
+        const char* words;
+    };
+
+    const Case cases[] = {
+        {"not a property list", "x", "cannot be loaded"},
+        {"<?xml version=\"1.0\"?><plist version=\"1.0\"><dict></dict></plist>", "x", "no module"},
+        {propertyList("com.halvern.tessarin.pde"), "no library", "cannot be loaded"},
+        {propertyList("com.halvern.tessarin.pde"), "", "cannot be loaded"},
+        {propertyList("com.halvern.Tessarin.pde"), builtModule(), "something else"},
+    };
+    for (const Case& c : cases) {
+        const QTemporaryDir folder;
+        makeBundle(folder.path(), c.list, c.module);
+        PluginLoader loader({folder.path()});
+        QString problem;
+        EXPECT_TRUE(loader.panels(kBundleName, std::make_shared<FakeHost>(), &problem).empty()) << c.words;
+        EXPECT_TRUE(problem.contains(QLatin1StringView(c.words))) << qPrintable(problem);
+        EXPECT_TRUE(problem.contains(kBundleName)) << qPrintable(problem);
+    }
+}
+
+TEST(PluginLoader, ANameThatIsNoBundlesNameIsNeverLookedUp)
+{
+    const QTemporaryDir folder;
+    makeBundle(folder.path(), propertyList("com.halvern.tessarin.pde"), builtModule());
+    PluginLoader loader({folder.path() + QStringLiteral("/inner")});
+    const QString names[] = {QStringLiteral("../tessarin.pde"), QStringLiteral("/tmp/x.pde"),
+                             QStringLiteral(".pde"), QStringLiteral("tessarin.so")};
+    for (const QString& name : names) {
+        QString problem;
+        EXPECT_TRUE(loader.panels(name, std::make_shared<FakeHost>(), &problem).empty());
+        EXPECT_TRUE(problem.contains(QStringLiteral("no name of a bundle"))) << qPrintable(problem);
+    }
+    QString problem;
+    EXPECT_TRUE(loader.panels(QStringLiteral("other.pde"), std::make_shared<FakeHost>(), &problem).empty());
+    EXPECT_TRUE(problem.contains(QStringLiteral("not installed"))) << qPrintable(problem);
+}
+
+} // namespace halvern

@@ -1,0 +1,183 @@
+// The preview: the printer's adjustments on the screen, the whole page and 1:1.
+#include "dialog/preview_widget.h"
+#include "dialog/screen_photo.h"
+#include "tests/support/observers.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+// Every pixel tells where it stands, and its neighbours differ.
+QImage telling(const QSize& size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qRgb(40 + x % 150, 40 + y % 150, (x * 7 + y * 13) % 90 + 60));
+    }
+    return image;
+}
+
+Look sharpenedLook()
+{
+    Look look;
+    look.sharpening = {3.0, 2.0};
+    return look;
+}
+
+Look brightLook()
+{
+    Look look;
+    look.colors.brightness = 40.0;
+    return look;
+}
+
+} // namespace
+
+class PreviewTest : public testing::Test {
+protected:
+    PreviewTest()
+    {
+        preview.resize(400, 400);
+        preview.show();
+    }
+
+    // A borderless page whose photo has a pixel for each of its 300 dots an inch.
+    PreviewPage page(const Look& look = {})
+    {
+        const QString path = folder.filePath(QStringLiteral("photo.png"));
+        picture.save(path);
+        PreviewPage shown;
+        shown.photo = readPhotoFile(path).pages.front();
+        const QSizeF paper = QSizeF(picture.size()) * (72.0 / 300.0);
+        shown.layout = layOut({paper, QRectF(QPointF(), paper), paper});
+        shown.look = look;
+        return shown;
+    }
+
+    QImage grabbed() { return preview.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    void zoom()
+    {
+        preview.setZoomed(true);
+        ASSERT_TRUE(waitUntil([&] { return !preview.isReadingDetail(); }));
+    }
+
+    QPoint middle() { return preview.sheetRect().center().toPoint(); }
+
+    QTemporaryDir folder;
+    QImage picture = telling({1800, 1200});
+    PreviewWidget preview{nullptr};
+};
+
+TEST(ScreenPhoto, AWindowLooksAsInTheWholeSharpenedPhoto)
+{
+    const QImage detail = telling({90, 70});
+    Look look = sharpenedLook();
+    look.colors.contrast = 20.0;
+    const QImage whole = adjust::sharpened(adjust::adjusted(detail, look.colors), look.sharpening);
+    ScreenPhoto photo;
+    photo.setDetail(detail);
+    photo.setLook(look);
+    for (const QRect& window : {QRect(30, 25, 20, 15), QRect(0, 0, 12, 12), QRect(80, 60, 10, 10)})
+        EXPECT_EQ(photo.part(detail.size(), window), whole.copy(window)) << window.x();
+    photo.setLook({});
+    EXPECT_EQ(photo.part(detail.size(), QRect(3, 4, 5, 6)), detail.copy(3, 4, 5, 6));
+}
+
+TEST(ScreenPhoto, ScalesToWhatTheScreenShowsAndFollowsThePhoto)
+{
+    ScreenPhoto photo;
+    photo.setPreview(telling({600, 400}));
+    EXPECT_EQ(photo.whole({300, 200}).size(), QSize(300, 200));
+    EXPECT_EQ(photo.whole({3000, 2000}).size(), QSize(600, 400)) << "no more pixels than there are";
+    QImage white(600, 400, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    photo.setPreview(white);
+    EXPECT_EQ(photo.whole({300, 200}).pixelColor(9, 9), QColor(Qt::white));
+}
+
+TEST_F(PreviewTest, ShowsTheAdjustmentsOnTheWholePageAndSaysThatTheyAreApproximate)
+{
+    preview.showPage(page());
+    const QImage plain = grabbed();
+    EXPECT_EQ(preview.captions().size(), 1);
+    preview.showPage(page(brightLook()));
+    EXPECT_GT(qGreen(grabbed().pixel(middle())), qGreen(plain.pixel(middle())) + 20);
+    ASSERT_EQ(preview.captions().size(), 2);
+    EXPECT_TRUE(preview.captions().back().contains(QStringLiteral("approximated")));
+    EXPECT_TRUE(preview.accessibleDescription().contains(preview.captions().back()));
+    preview.showPage(page(sharpenedLook()));
+    EXPECT_EQ(grabbed().pixel(middle()), plain.pixel(middle())) << "sharpening shows at 1:1 only";
+    preview.showPage(page());
+    EXPECT_EQ(grabbed(), plain);
+}
+
+TEST_F(PreviewTest, AtOneToOneAScreenPixelIsADot)
+{
+    preview.showPage(page());
+    zoom();
+    const QImage shown = grabbed();
+    // The middle of the photo comes to the middle of the view; the captions take some of its height.
+    bool found = false;
+    for (int y = 400; y < 500 && !found; ++y)
+        found = picture.copy(700, y, 300, 300) == shown.copy(0, 0, 300, 300);
+    EXPECT_TRUE(found);
+    preview.showPage(page(sharpenedLook()));
+    EXPECT_NE(grabbed().copy(0, 0, 300, 300), shown.copy(0, 0, 300, 300));
+}
+
+TEST_F(PreviewTest, DraggingAndKeysMoveThePageUnderTheView)
+{
+    preview.showPage(page());
+    zoom();
+    const QImage before = grabbed();
+    QTest::keyClick(&preview, Qt::Key_Right);
+    EXPECT_EQ(grabbed().copy(0, 0, 200, 200), before.copy(48, 0, 200, 200));
+    QTest::keyClick(&preview, Qt::Key_Left);
+    QTest::mousePress(&preview, Qt::LeftButton, {}, QPoint(100, 100));
+    QTest::mouseMove(&preview, QPoint(130, 120));
+    QTest::mouseRelease(&preview, Qt::LeftButton, {}, QPoint(130, 120));
+    EXPECT_EQ(grabbed().copy(30, 20, 200, 200), before.copy(0, 0, 200, 200));
+    for (int i = 0; i < 100; ++i)
+        QTest::keyClick(&preview, Qt::Key_Up);
+    const QRgb ground = grabbed().pixel(200, 1);
+    EXPECT_EQ(ground, grabbed().pixel(200, 20)) << "a little ground beyond the edge, and no more";
+    EXPECT_NE(ground, grabbed().pixel(200, 40));
+}
+
+TEST_F(PreviewTest, DoubleClickKeyAndButtonZoomInAndOut)
+{
+    preview.showPage(page());
+    const QPoint spot = middle() + QPoint(60, -30);
+    QTest::mouseDClick(&preview, Qt::LeftButton, {}, spot);
+    EXPECT_TRUE(preview.isZoomed());
+    EXPECT_TRUE(preview.zoomButton()->isChecked());
+    QTest::keyClick(&preview, Qt::Key_Escape);
+    EXPECT_FALSE(preview.isZoomed());
+    QTest::keyClick(&preview, Qt::Key_Z);
+    EXPECT_TRUE(preview.isZoomed());
+    QTest::mouseClick(preview.zoomButton(), Qt::LeftButton);
+    EXPECT_FALSE(preview.isZoomed());
+    preview.setZoomed(true);
+    preview.showText(QStringLiteral("Nothing to print"));
+    EXPECT_FALSE(preview.isZoomed());
+    EXPECT_FALSE(preview.zoomButton()->isVisible());
+}
+
+TEST_F(PreviewTest, APhotoThatIsGoneStaysAsItsSmallCopyAndSaysSo)
+{
+    preview.showPage(page());
+    ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("photo.png"))));
+    zoom();
+    EXPECT_TRUE(preview.captions().back().contains(QStringLiteral("photo.png")));
+    EXPECT_NE(grabbed().pixel(200, 150), grabbed().pixel(1, 399)) << "a photo, not the ground";
+}
+
+} // namespace halvern
