@@ -1,8 +1,12 @@
 // The filter for command files: commandtohalvern job user title copies options [file]
 
+#include "printer/back_channel.h"
 #include "printer/fault_plan.h"
+#include "printer/notify/after_job.h"
 #include "printer/page_stream.h"
+#include "printer/papers_report.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <sstream>
@@ -41,6 +45,19 @@ std::vector<std::string> commands(const std::string& file)
     return found;
 }
 
+// What the printer answers goes into the queue's PPD, and from there to the print dialogs.
+int report(const std::string& list, bool garbled, int job, const char* uri)
+{
+    const std::chrono::duration<double> now = std::chrono::system_clock::now().time_since_epoch();
+    const ReportResult result = papersReport(QByteArray::fromStdString(list), now.count(), garbled);
+    if (result.lines.isEmpty())
+        return fail("The printer's papers cannot be reported: " + result.failure.toStdString());
+    std::fwrite(result.lines.constData(), 1, size_t(result.lines.size()), stderr);
+    if (uri != nullptr)
+        notifyAfterJob(job, uri);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -63,5 +80,7 @@ int main(int argc, char** argv)
     PageStreamWriter out(stdout);
     if (!out.options(parseJobOptions(argv[5])) || !out.command(*file) || !out.end())
         return fail("The command file could not be passed on to the printer.");
-    return 0;
+    std::fclose(stdout);
+    const auto papers = back_channel::receivePapers();
+    return papers ? report(*papers, plan && plan->garbled, std::atoi(argv[1]), uri) : 0;
 }

@@ -58,6 +58,7 @@ bool apply(FaultPlan& plan, std::string_view key, std::string_view value)
     const auto flag = key == "reject"         ? &FaultPlan::reject
                       : key == "hold"         ? &FaultPlan::hold
                       : key == "filter-fails" ? &FaultPlan::filterFails
+                      : key == "garbled"      ? &FaultPlan::garbled
                                               : nullptr;
     if (flag == nullptr || !value.empty())
         return false;

@@ -15,6 +15,8 @@ struct FaultPlan {
     bool reject = false;
     bool hold = false;
     bool filterFails = false;
+    /// The printer's report of its papers is damaged.
+    bool garbled = false;
     /// The number of whole pages after which the queue stops, or the job fails by the queue's error policy.
     std::optional<int> stopAfter;
     std::optional<int> failAfter;

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <cups/backend.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <unistd.h>
 
 namespace {
@@ -16,6 +17,22 @@ std::string environment(const char* name)
 {
     const char* value = std::getenv(name);
     return value == nullptr ? "" : value;
+}
+
+// The queue's own list, or the one for all queues that have none.
+std::string papersFile()
+{
+    const std::filesystem::path folder = environment("HALVERN_PAPERS_DIR");
+    const std::string queue = environment("PRINTER");
+    if (folder.empty() || queue.find('/') != std::string::npos)
+        return {};
+    for (const std::string& name : {queue, std::string("default")}) {
+        std::error_code none;
+        const std::filesystem::path file = folder / (name + ".json");
+        if (!name.empty() && std::filesystem::is_regular_file(file, none))
+            return file;
+    }
+    return {};
 }
 
 } // namespace
@@ -48,5 +65,7 @@ int main(int argc, char** argv)
             fd,
             "HALVERN_JOBS_DIR is not set: start the server with private-cups, or pass the variable to it.",
             CUPS_BACKEND_STOP);
-    return halvern::VirtualPrinter({argv[1], argv[2], argv[3], argv[4], commands}, *plan, jobs, fd).run();
+    return halvern::VirtualPrinter({argv[1], argv[2], argv[3], argv[4], commands, papersFile()}, *plan, jobs,
+                                   fd)
+        .run();
 }

@@ -1,11 +1,14 @@
 #include "printer/virtual_printer.h"
 
+#include "printer/back_channel.h"
 #include "printer/cancellation.h"
 #include "printer/png_page.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cups/backend.h>
+#include <fstream>
+#include <iterator>
 #include <unistd.h>
 
 namespace halvern {
@@ -23,6 +26,17 @@ void tell(const char* kind, const std::string& text)
             c = ' ';
     }
     std::fprintf(stderr, "%s: %s\n", kind, line.c_str());
+}
+
+bool hasLine(std::string_view text, std::string_view line)
+{
+    while (!text.empty()) {
+        const size_t end = std::min(text.find('\n'), text.size());
+        if (text.substr(0, end) == line)
+            return true;
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return false;
 }
 
 std::string pageName(const PageHeader& page)
@@ -164,7 +178,21 @@ int VirtualPrinter::keepCommand(const std::string& file)
         return cancelled();
     if (plan_.stopAfter == 0 || plan_.failAfter == 0)
         return breakDown(plan_.stopAfter == 0);
+    if (hasLine(file, "AutoConfigure"))
+        reportPapers();
     return CUPS_BACKEND_OK;
+}
+
+void VirtualPrinter::reportPapers()
+{
+    std::ifstream in(job_.papersFile, std::ios::binary);
+    const std::string list{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (list.empty())
+        folder_.log("no papers to report: " + (job_.papersFile.empty() ? "no list" : job_.papersFile));
+    else if (back_channel::sendPapers(list))
+        folder_.log("reported the papers of " + job_.papersFile);
+    else
+        folder_.log("nobody took the report");
 }
 
 int VirtualPrinter::finish()

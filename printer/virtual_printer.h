@@ -24,6 +24,8 @@ public:
         std::string title;
         std::string copies;
         bool commands = false;
+        /// The file that lists the loaded papers; empty if the printer cannot tell.
+        std::string papersFile;
     };
 
     /// `fd` has the page stream and stays the caller's.
@@ -38,6 +40,7 @@ private:
     bool startNextDocument();
     int printPage(PageHeader page);
     int keepCommand(const std::string& file);
+    void reportPapers();
     int finish();
     int interrupted();
     int breakDown(bool stop);

@@ -4,7 +4,9 @@
 #include "platform/foundation/keyed_unarchiver.h"
 #include "printer/papers/catalogue_archive.h"
 #include "printer/papers/catalogue_json.h"
+#include "printer/papers/paper_change.h"
 #include "printer/papers/paper_list.h"
+#include "printer/papers/ppd_archive.h"
 #include "printer/papers/ppd_catalogue.h"
 
 #include <QCommandLineParser>
@@ -120,6 +122,24 @@ int show(const QString& source)
                : complain(QStringLiteral("cannot write the output: %1").arg(out.errorString()));
 }
 
+/// take-out and load: changes the list, one paper or group after the other, and writes it if all went well.
+int change(const QString& path, const QStringList& which, const QString& stockPath)
+{
+    std::optional<QByteArray> list = contentOf(path);
+    const std::optional<QByteArray> stock =
+        stockPath.isEmpty() ? std::optional(QByteArray()) : contentOf(stockPath);
+    if (!list || !stock)
+        return kFailed;
+    for (const QString& paper : which) {
+        QString failure;
+        list = stockPath.isEmpty() ? papersTakenOut(*list, paper, failure)
+                                   : papersLoaded(*list, *stock, paper, failure);
+        if (!list)
+            return complain(QStringLiteral("%1: %2").arg(path, failure));
+    }
+    return replaceFile(path, *list);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -132,15 +152,23 @@ int main(int argc, char** argv)
         "  halvern-papers pack FILE.json --ppd PPD       put it into the PPD file, in place of the one "
         "there\n"
         "  halvern-papers show FILE                      print the catalogue in an archive or a PPD as "
-        "JSON"));
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("pack or show"));
+        "JSON\n"
+        "  halvern-papers load FILE.json PAPER... --stock LIST.json\n"
+        "                                                add papers to a list, as another list has them\n"
+        "  halvern-papers take-out FILE.json PAPER...    remove papers from a list\n\n"
+        "PAPER is a sheet's name, a roll's width in millimetres, or sheets, rolls or all."));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("pack, show, load or take-out"));
     parser.addPositionalArgument(QStringLiteral("file"),
                                  QStringLiteral("a paper list, or an archive or PPD"));
+    parser.addPositionalArgument(QStringLiteral("papers"), QStringLiteral("load, take-out: which"),
+                                 QStringLiteral("[paper...]"));
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help."));
     parser.addOptions(
         {help,
          {QStringLiteral("ppd"), QStringLiteral("pack: the PPD file to change."), QStringLiteral("PPD")},
+         {QStringLiteral("stock"), QStringLiteral("load: the list that has the papers."),
+          QStringLiteral("LIST.json")},
          {QStringLiteral("archive"), QStringLiteral("pack: print the bare archive (binary).")},
          {QStringLiteral("filter-lines"),
           QStringLiteral("pack: print the lines with which a CUPS filter reports the attributes.")}});
@@ -152,14 +180,20 @@ int main(int argc, char** argv)
     const QStringList arguments = parser.positionalArguments();
     const QString command = arguments.value(0);
     const qsizetype outputs = parser.optionNames().size();
-    if (outputs > (command == QStringLiteral("pack") ? 1 : 0))
-        return complain(
-            QStringLiteral("pack takes one of --ppd, --archive and --filter-lines; show takes none."),
-            kMisused);
+    const QString stock = parser.value(QStringLiteral("stock"));
+    if (command == QStringLiteral("load")
+            ? outputs != 1 || stock.isEmpty()
+            : outputs > (command == QStringLiteral("pack") ? 1 : 0) || !stock.isEmpty())
+        return complain(QStringLiteral("pack takes one of --ppd, --archive and --filter-lines; load takes "
+                                       "--stock; the others take none."),
+                        kMisused);
+    if (arguments.size() > 2 && (command == QStringLiteral("load") || command == QStringLiteral("take-out")))
+        return change(arguments.at(1), arguments.mid(2), stock);
     if (arguments.size() == 2 && command == QStringLiteral("pack"))
         return pack(arguments.at(1), parser);
     if (arguments.size() == 2 && command == QStringLiteral("show"))
         return show(arguments.at(1));
-    return complain(QStringLiteral("say \"pack FILE.json\" or \"show FILE\"; see halvern-papers --help."),
-                    kMisused);
+    return complain(
+        QStringLiteral("say \"pack FILE.json\" or \"show FILE\", for example; see halvern-papers --help."),
+        kMisused);
 }

@@ -1,6 +1,5 @@
 #include "printer/papers/ppd_catalogue.h"
 
-#include "platform/printing/ppd.h"
 #include "printer/papers/catalogue_archive.h"
 
 #include <algorithm>
@@ -15,11 +14,6 @@ constexpr qsizetype kSerialDigits = 5;
 
 /// Keeps a line well under the 255 characters at which libcups stops reading a PPD.
 constexpr qsizetype kPieceSize = 200;
-
-QByteArray pieceKeyword(qsizetype serial)
-{
-    return kCatalogue + QByteArray::number(serial, 16).rightJustified(kSerialDigits, '0');
-}
 
 bool isHexadecimal(char c)
 {
@@ -73,14 +67,25 @@ Statement statementAt(QByteArrayView ppd, qsizetype start)
 
 } // namespace
 
-QList<PpdAttribute> attributesOf(const PaperList& list)
+QByteArray pieceKeyword(qsizetype serial)
+{
+    return kCatalogue + QByteArray::number(serial, 16).rightJustified(kSerialDigits, '0');
+}
+
+QList<PpdAttribute> runOf(const QByteArray& archive)
 {
     QList<PpdAttribute> attributes;
-    const QByteArray text = archiveOfCatalogue(list.records).toBase64();
+    const QByteArray text = archive.toBase64();
     qsizetype serial = 0;
     for (qsizetype start = 0; start < text.size(); start += kPieceSize)
         attributes.append(PpdAttribute{pieceKeyword(serial++), text.mid(start, kPieceSize)});
     attributes.append(PpdAttribute{pieceKeyword(serial), QByteArray()});
+    return attributes;
+}
+
+QList<PpdAttribute> attributesOf(const PaperList& list)
+{
+    QList<PpdAttribute> attributes = runOf(archiveOfCatalogue(list.records));
     if (list.duplex)
         attributes.append(PpdAttribute{"VLXDuplex", *list.duplex ? "True" : "False"});
     if (list.extraFeatures)
@@ -126,19 +131,6 @@ QByteArray ppdWithAttributes(const QByteArray& ppd, const QList<PpdAttribute>& a
     if (!place && !result.isEmpty() && !result.endsWith('\n'))
         result += newLine;
     return result.insert(place.value_or(result.size()), ppdLines(attributes, newLine));
-}
-
-QByteArray archiveInPpd(const QString& path, QString& failure)
-{
-    const ppd::File file = ppd::open(path, &failure);
-    QByteArray text;
-    for (qsizetype serial = 0; file; ++serial) {
-        const auto piece = ppd::attribute(file.get(), QString::fromLatin1(pieceKeyword(serial)));
-        if (!piece || piece->isEmpty())
-            break;
-        text += piece->toLatin1();
-    }
-    return ppd::decodeBase64(text).value_or(QByteArray());
 }
 
 } // namespace halvern

@@ -16,6 +16,12 @@ struct PpdAttribute {
     QByteArray value;
 };
 
+/// The keyword of a catalogue's piece.
+QByteArray pieceKeyword(qsizetype serial);
+
+/// The run of pieces that carries an archive, ended by an empty one.
+QList<PpdAttribute> runOf(const QByteArray& archive);
+
 /// The attributes that carry a paper list: the archived catalogue in pieces of base64, ended by an empty
 /// piece, and the abilities that the list names.
 QList<PpdAttribute> attributesOf(const PaperList& list);
@@ -29,8 +35,5 @@ QByteArray filterLines(const QList<PpdAttribute>& attributes);
 /// The PPD with these attributes in place of those that it has: the whole old run of catalogue pieces goes,
 /// however long it was. Everything else stays byte for byte.
 QByteArray ppdWithAttributes(const QByteArray& ppd, const QList<PpdAttribute>& attributes);
-
-/// The archive that a PPD file carries, empty if it carries none. `failure` is set if the PPD cannot be read.
-QByteArray archiveInPpd(const QString& path, QString& failure);
 
 } // namespace halvern

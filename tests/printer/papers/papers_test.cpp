@@ -3,6 +3,7 @@
 #include "printer/papers/catalogue_archive.h"
 #include "printer/papers/catalogue_json.h"
 #include "printer/papers/paper_list.h"
+#include "printer/papers/ppd_archive.h"
 #include "printer/papers/ppd_catalogue.h"
 
 #include <QBuffer>
@@ -251,6 +252,30 @@ TEST(PapersProgramTest, ACorruptCatalogueEndsInStatusOne)
     }
 }
 
+TEST(PapersProgramTest, PapersAreTakenOutOfAListAndLoadedFromAnother)
+{
+    const QTemporaryDir folder;
+    const QString json = written(folder, "papers.json", kTwoPapers);
+    const QString stock = QStringLiteral(HALVERN_PAPER_LISTS "/standard.json");
+    const auto keys = [&] { return QStringList(listOf(contentOf(json)).records.keys()); };
+    const QString out = QStringLiteral("take-out");
+    const QString load = QStringLiteral("load");
+
+    EXPECT_EQ(run({out, json, QStringLiteral("sheets")}).status, 0);
+    EXPECT_EQ(keys(), (QStringList{QStringLiteral("w1524s1r300"), QStringLiteral("w1524s3r300")}));
+    // The roll that is there makes way for the stock's; what was not named in the change stays.
+    EXPECT_EQ(run({load, json, QStringLiteral("152.4"), QStringLiteral("Matte A5"), QStringLiteral("--stock"),
+                   stock})
+                  .status,
+              0);
+    EXPECT_EQ(keys().filter(QStringLiteral("w1524")).size(), 8);
+    EXPECT_EQ(keys().filter(QStringLiteral("Matte A5-r")).size(), 4);
+    EXPECT_EQ(run({out, json, QStringLiteral("all")}).status, 0);
+    EXPECT_EQ(keys(), QStringList());
+    EXPECT_EQ(run({load, json, QStringLiteral("rolls"), QStringLiteral("--stock"), stock}).status, 0);
+    EXPECT_FALSE(keys().isEmpty());
+}
+
 TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
 {
     const QTemporaryDir folder;
@@ -269,6 +294,11 @@ TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
         {{pack, json, QStringLiteral("--pdp"), text}, 2, "pdp"},
         {{pack, json, ppd, text, QStringLiteral("--archive")}, 2, "one of --ppd"},
         {{pack, folder.filePath(QStringLiteral("none.json"))}, 1, "No such file"},
+        {{QStringLiteral("take-out"), json, QStringLiteral("127")}, 1, "no paper \"127\" is loaded"},
+        {{QStringLiteral("load"), json, QStringLiteral("127")}, 2, "--stock"},
+        {{QStringLiteral("load"), json, QStringLiteral("x"), QStringLiteral("--stock"), json},
+         1,
+         "has no paper"},
         {{pack, text}, 1, "line 1, near column 1: this is not JSON"},
         {{pack, json, ppd, text}, 1, "is not a PPD file"},
         {{pack, json, ppd, folder.filePath(QStringLiteral("none.ppd"))}, 1, "No such file"},
