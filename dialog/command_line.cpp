@@ -1,5 +1,6 @@
 #include "dialog/command_line.h"
 
+#include "dialog/back_lines.h"
 #include "dialog/photo.h"
 
 #include <QCommandLineParser>
@@ -22,6 +23,12 @@ public:
     QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
                               tr("Print this many copies, 1 to %1.").arg(kMostCopies),
                               QStringLiteral("N")};
+    QCommandLineOption backprint{
+        QStringLiteral("backprint"),
+        tr("Print this text on the back of each picture. Can be given twice, for a first and a second "
+           "line. A line holds 120 characters and placeholders such as [YYYY], which the printer "
+           "replaces."),
+        QStringLiteral("TEXT")};
     QCommandLineOption noDialog{QStringLiteral("no-dialog"),
                                 tr("Print at once, and wait until the job has ended.")};
     QCommandLineOption dryRun{
@@ -40,6 +47,11 @@ public:
         return tr("\"%1\" is no number of copies: write a number from 1 to %2.").arg(text).arg(kMostCopies);
     }
 
+    static QString tooManyBackLines()
+    {
+        return tr("The back of a picture takes %1 lines: give --backprint once or twice.").arg(kBackLines);
+    }
+
     static QString noFile() { return tr("Name at least one photo to print (JPEG, PNG, TIFF or PDF)."); }
 
     static QString emptyPrinter() { return tr("The queue's name is empty. \"lpstat -e\" lists the queues."); }
@@ -55,6 +67,18 @@ public:
 ParsedCommandLine wrong(const QString& sentence, int status = kExitUsage)
 {
     return {std::nullopt, sentence, status};
+}
+
+QString readBackLines(const QStringList& texts, CommandLine& line, QStringList& remarks)
+{
+    if (texts.size() > kBackLines)
+        return Switches::tooManyBackLines();
+    for (const QString& text : texts) {
+        const BackLine read = readBackLine(int(line.request.backLines.size()) + 1, text);
+        line.request.backLines.append(read.stored);
+        remarks.append(read.remarks);
+    }
+    return {};
 }
 
 QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
@@ -84,8 +108,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     const Switches switches;
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
-    parser.addOptions(
-        {switches.printer, switches.option, switches.copies, switches.noDialog, switches.dryRun});
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
+                       switches.noDialog, switches.dryRun});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -101,7 +125,10 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     CommandLine line;
     line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
     line.dryRun = parser.isSet(switches.dryRun);
-    const QString problem = readValues(parser, switches, line);
+    QStringList remarks;
+    QString problem = readValues(parser, switches, line);
+    if (problem.isEmpty())
+        problem = readBackLines(parser.values(switches.backprint), line, remarks);
     if (!problem.isEmpty())
         return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
     line.request.files = parser.positionalArguments();
@@ -112,7 +139,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
         if (!unusable.isEmpty())
             return wrong(unusable, kExitFailed);
     }
-    return {line, {}, kExitPrinted};
+    return {line, {}, kExitPrinted, remarks};
 }
 
 } // namespace halvern

@@ -21,6 +21,7 @@ struct ParsedCommandLine {
     std::optional<CommandLine> commandLine;
     QString text;
     int status = kExitPrinted;
+    QStringList remarks = {}; ///< what to say about a command line that is carried out all the same
 };
 
 /// Reads the arguments; the first is the program's name. Looks at the files too, but decodes none.

@@ -1,5 +1,6 @@
 #include "dialog/dialog_session.h"
 
+#include "dialog/back_lines.h"
 #include "platform/foundation/work_queue.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
@@ -118,8 +119,10 @@ void DialogSession::leavePrinter()
     panels_.clear();
     host_.reset();
     model_.reset();
+    // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     beforeLastChange_.clear();
+    backLinesProblem_.clear();
 }
 
 void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
@@ -129,28 +132,57 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return;
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
-    // The device is not taken from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<Host>(
-        *this, request_.panelsAskPrinter ? std::make_shared<Printer>(name, ppd.deviceUri) : nullptr);
-    applyOptions(ppd.jobSheets);
+    // Not from the list, which may come later: a panel asks once and remembers.
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
+                                   model_->sharedFile(), request_.panelsAskPrinter);
+    applyOptions(ppd.defaults, ppd.jobSheets);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
 }
 
-void DialogSession::applyOptions(const QString& queueJobSheets)
+void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
 {
-    for (const QString& sentence : model_->apply(inPpdTerms(saved_.byPrinter.value(printerName_))))
+    const QMap<QString, QString> byDefault = model_->values();
+    const OptionValues saved = queueDefaults + saved_.byPrinter.value(printerName_);
+    for (const QString& sentence : model_->apply(inPpdTerms(saved)))
         Q_EMIT notice(tr("A saved setting was left out. %1").arg(sentence));
     const QStringList refusals = model_->apply(inPpdTerms(request_.options));
     for (const QString& sentence : refusals)
         Q_EMIT refused(sentence);
+    applyBackLines();
     // What the queue would add by itself is the panels' to see and to change.
     if (!queueJobSheets.isEmpty())
         settings_->setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
-    const QMap<QString, QString> kept = model_->kept();
-    for (auto it = kept.cbegin(); it != kept.cend(); ++it)
-        settings_->setValue(it.key(), it.value(), false);
+    // A panel that looks at the settings only, and not at the marks, must find what was chosen before it
+    // came: it would save the PPD's default over it.
+    const QMap<QString, QString> values = model_->values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (model_->isKept(it.key()) || byDefault.value(it.key()) != it.value())
+            settings_->setValue(it.key(), it.value(), false);
+    }
+}
+
+void DialogSession::applyBackLines()
+{
+    for (int number = 1; number <= request_.backLines.size(); ++number) {
+        if (model_->value(backLineSwitch(number)).isEmpty()) {
+            backLinesProblem_ = tr("The printer \"%1\" prints no text on the back of a picture. Leave "
+                                   "--backprint out, or choose another printer.")
+                                    .arg(printerName_);
+            Q_EMIT refused(backLinesProblem_);
+            return;
+        }
+    }
+    for (const OptionValue& option : backLineOptions(request_.backLines)) {
+        const QString before = model_->value(option.key);
+        const ChangeResult result = model_->change(option.key, option.value);
+        if (!result.accepted) {
+            backLinesProblem_ = result.refusal;
+            Q_EMIT refused(result.refusal);
+        }
+        rememberForUndo(option.key, before, result.sideChanges);
+    }
 }
 
 void DialogSession::loadPanels()

@@ -30,9 +30,10 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
-    /// Whether panels get to know the printer itself, and so may ask it what is loaded, which sends it
-    /// command jobs.
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
+    /// sends it command jobs.
     bool panelsAskPrinter = true;
+    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -95,6 +96,10 @@ public:
     /// Whether print() would do something.
     bool canPrint() const;
 
+    /// Why the request's lines for the back cannot be printed on the selected printer; empty if they can, or
+    /// if there are none.
+    const QString& backLinesProblem() const { return backLinesProblem_; }
+
     /// Lets the panels save and merges the job's options.
     OptionValues collectOptions();
 
@@ -134,7 +139,8 @@ private:
     void takePpd(const QString& name, const QueuePpd& ppd);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
-    void applyOptions(const QString& queueJobSheets);
+    void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
+    void applyBackLines();
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
     void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
@@ -155,6 +161,7 @@ private:
     std::vector<Photo> photos_;
     int filesLeft_ = 0;
     QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
+    QString backLinesProblem_;
     cups::CancelFlag stopFetching_;
     cups::CancelFlag stopAll_;
 };

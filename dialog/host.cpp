@@ -2,10 +2,14 @@
 
 #include "platform/printing/printer.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
 namespace halvern {
 
-Host::Host(HostSource& source, std::shared_ptr<Printer> printer)
-    : source_(&source), printer_(std::move(printer))
+Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
+           bool forWorkers)
+    : source_(&source), printer_(std::move(printer)), file_(std::move(file)), forWorkers_(forWorkers)
 {
 }
 
@@ -38,6 +42,8 @@ std::shared_ptr<PageFormat> Host::pageFormat()
 
 std::shared_ptr<Printer> Host::pmPrinter()
 {
+    if (!forWorkers_ && QThread::currentThread() != QCoreApplication::instance()->thread())
+        return nullptr;
     const QMutexLocker lock(&printerMutex_);
     return printer_;
 }

@@ -23,7 +23,11 @@ public:
 /// detached and answers null pointers and refusals from then on, however long the panels keep it.
 class Host : public HostCallback {
 public:
-    Host(HostSource& source, std::shared_ptr<Printer> printer);
+    /// `file` stays open as long as this object lives, since panels keep what ppdFile() answered. If not
+    /// `forWorkers`, only the main thread is told the printer: background work of the panels then has nobody
+    /// to talk to.
+    Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
+         bool forWorkers);
 
     /// Main thread only, before the source goes.
     void detach();
@@ -41,6 +45,8 @@ private:
     HostSource* source_;
     mutable QMutex printerMutex_; // pmPrinter() is asked by background waits too
     std::shared_ptr<Printer> printer_;
+    std::shared_ptr<ppd_file_t> file_;
+    const bool forWorkers_;
 };
 
 } // namespace halvern

@@ -92,6 +92,9 @@ OptionValues mergeJobOptions(const JobInputs& inputs)
     OptionValues options;
     for (auto it = merged.cbegin(); it != merged.cend(); ++it)
         options.append({it.key(), it.value()});
+    // The stock filters take such a text for a list of options, and what follows it for its members.
+    std::ranges::stable_partition(
+        options, [](const OptionValue& option) { return !option.value.startsWith(QLatin1Char('{')); });
     return options;
 }
 

@@ -19,9 +19,10 @@ struct JobInputs {
     bool hasPpd = true; ///< a queue without PPD takes IPP attributes instead of PPD keywords
 };
 
-/// Merges them, sorted by key. Every value is there, not only those that differ from the PPD's defaults: the
-/// queue's own defaults would win over a silent job. A panel's saved value wins over a mark. IPP attributes
-/// that say the same as a PPD keyword, or that would scale our page again, are left out.
+/// Merges them, sorted by key; a text that begins with a brace comes after all others. Every value is there,
+/// not only those that differ from the PPD's defaults: the queue's own defaults would win over a silent job.
+/// A panel's saved value wins over a mark. IPP attributes that say the same as a PPD keyword, or that would
+/// scale our page again, are left out.
 OptionValues mergeJobOptions(const JobInputs& inputs);
 
 /// Saved and typed options in terms of the PPD: "media=A4" becomes "PageSize=A4", "sides" a "Duplex" choice,

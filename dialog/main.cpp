@@ -24,6 +24,10 @@ int runDialog(const CommandLine& line)
     QObject::connect(&dialog, &QDialog::finished, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
     waitForUnfinishedRun(dialog.run());
+    if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {
+        QTextStream(stderr) << problem << Qt::endl;
+        return kExitFailed;
+    }
     return dialog.outcome().printed || dialog.outcome().sentence.isEmpty() ? kExitPrinted : kExitFailed;
 }
 
@@ -56,6 +60,8 @@ int main(int argc, char** argv)
         QTextStream(parsed.status == kExitPrinted ? stdout : stderr) << parsed.text << Qt::endl;
         return parsed.status;
     }
+    for (const QString& remark : parsed.remarks)
+        QTextStream(stderr) << remark << Qt::endl;
     const int status =
         parsed.commandLine->showDialog ? runDialog(*parsed.commandLine) : runBatch(*parsed.commandLine);
     finishQueuedWork();

@@ -61,6 +61,9 @@ public:
 
     ppd_file_t* file() const { return file_.get(); }
 
+    /// The same, to keep it open beyond this object's life.
+    std::shared_ptr<ppd_file_t> sharedFile() const { return file_; }
+
     /// Applies options in order. Answers the sentences about those that were refused.
     QStringList apply(const OptionValues& options);
 
@@ -108,7 +111,7 @@ private:
     void setMark(const QString& key, const QString& choice);
     void keep(const QString& key, const QString& value);
 
-    ppd::File file_;
+    std::shared_ptr<ppd_file_t> file_;
     std::vector<Constraint> constraints_;
     QMap<QString, QString> kept_;
 };

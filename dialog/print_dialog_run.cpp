@@ -34,6 +34,9 @@ void PrintDialog::print()
 {
     if (isRunning() || !session_.canPrint())
         return;
+    // A field is saved as its editing leaves it, and the keyboard's ways to print move no focus.
+    if (QWidget* editor = focusWidget(); editor && deck_->isAncestorOf(editor))
+        print_->setFocus(Qt::OtherFocusReason);
     delete run_;
     message_->clear();
     run_ = session_.makeRun();

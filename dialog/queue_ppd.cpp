@@ -9,32 +9,43 @@ namespace halvern {
 
 namespace {
 
+constexpr char kDefaultEnding[] = "-default";
+
 QString words(const char* text)
 {
     return QCoreApplication::translate("Server", text);
 }
 
-QString joined(ipp_attribute_t* names)
+void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
 {
     QStringList all;
-    for (int i = 0; names && i < ippGetCount(names); ++i)
+    for (int i = 0; i < ippGetCount(names); ++i)
         all.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
-    return all.join(QLatin1Char(','));
-}
-
-void askQueue(cups::Connection& server, const QString& queue, QueuePpd& result)
-{
-    static const char* const kWanted[] = {"device-uri", "job-sheets-default"};
-    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", 2, nullptr,
-                  kWanted);
-    const cups::Ipp answer = server.request(std::move(request), "/");
-    if (!answer)
-        return;
-    result.deviceUri = joined(ippFindAttribute(answer.get(), kWanted[0], IPP_TAG_ZERO));
-    const QString sheets = joined(ippFindAttribute(answer.get(), kWanted[1], IPP_TAG_ZERO));
+    const QString sheets = all.join(QLatin1Char(','));
     if (sheets != QLatin1StringView("none,none") && sheets != QLatin1StringView("none"))
         result.jobSheets = sheets;
+}
+
+// What the queue says about itself beside its PPD. The server has defaults of its own, too: those are in
+// small letters, the options of a printer's maker are not.
+void readQueue(ipp_t* answer, QueuePpd& result)
+{
+    for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        const QString name = QString::fromUtf8(ippGetName(a));
+        const bool isTruth = ippGetValueTag(a) == IPP_TAG_BOOLEAN;
+        const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
+        if (!value || name.isEmpty())
+            continue;
+        if (name == QLatin1StringView("job-sheets-default")) {
+            readJobSheets(a, result);
+            continue;
+        }
+        if (name == QLatin1StringView("device-uri"))
+            result.deviceUri = QString::fromUtf8(value);
+        else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))
+            result.defaults.append(
+                {name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
+    }
 }
 
 } // namespace
@@ -47,7 +58,6 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = server.error();
         return result;
     }
-    askQueue(server, queue, result);
     char path[1024] = "";
     time_t modified = 0;
     if (cupsGetPPD3(server.http(), queue.toUtf8().constData(), &modified, path, sizeof(path)) !=
@@ -62,6 +72,9 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = result.problem.arg(queue);
         return result;
     }
+    // Without an answer the queue has none of it: nothing to keep anybody from printing.
+    if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
+        readQueue(answer.get(), result);
     QString why;
     ppd::File file = ppd::open(QFile::decodeName(path), &why);
     QFile::remove(QFile::decodeName(path));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/cups_connection.h"
+#include "dialog/saved_options.h"
 #include "platform/printing/ppd.h"
 
 namespace halvern {
@@ -9,7 +10,9 @@ namespace halvern {
 struct QueuePpd {
     std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
     QString deviceUri;               ///< empty if the queue has none
-    QString jobSheets;               ///< the banner pages that the queue adds by itself; empty if none
+    /// What the administrator set for the queue beside the PPD, for keywords that the PPD does not list.
+    OptionValues defaults;
+    QString jobSheets; ///< the banner pages that the queue adds by itself; empty if none
     QString problem;
 };
 

@@ -2,7 +2,6 @@
 
 #include "panels/backprint/text/backprint_text.h"
 
-#include <QFontDatabase>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -14,14 +13,19 @@ namespace halvern {
 
 namespace {
 
-constexpr qreal kSheetRatio = 2.0 / 3.0;
+// A postcard, while nobody says what the sheet is.
+constexpr QSizeF kUsualSheet(288.0, 432.0);
 
-// Parts of the sheet's width.
-constexpr qreal kMargin = 0.05;
-constexpr qreal kLargestFont = 0.034;
-constexpr qreal kFirstBaseline = 0.095;
+constexpr qreal kPointsPerMillimetre = 72.0 / 25.4;
 
-constexpr qreal kLineSpacing = 1.35;
+// Where and how large the printer writes, in millimetres. A line that is too long for the sheet gets smaller
+// letters, a line that is empty leaves no gap.
+constexpr qreal kEdge = 8.0;
+constexpr qreal kLetterHeight = 3.5;
+constexpr qreal kLineHeight = 6.0;
+
+// The letters of a large sheet would be too small to read on the screen.
+constexpr qreal kSmallestLetters = 9.0;
 
 constexpr int kShadow = 3;
 constexpr qreal kCorner = 3.0;
@@ -76,8 +80,8 @@ void paintFade(QPainter& painter, const QRectF& visible, const QColor& backgroun
 
 } // namespace
 
-BackPreview::BackPreview(QString emptyText, QWidget* parent)
-    : QWidget(parent), emptyText_(std::move(emptyText))
+BackPreview::BackPreview(std::function<QSizeF()> sheet, QString emptyText, QWidget* parent)
+    : QWidget(parent), sheet_(std::move(sheet)), emptyText_(std::move(emptyText))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
@@ -100,26 +104,35 @@ QSize BackPreview::minimumSizeHint() const
     return {240, 110};
 }
 
-// One size for both lines: the largest at which the longer one fits.
-void BackPreview::paintLines(QPainter& painter, const QRectF& sheet) const
+void BackPreview::paintLines(QPainter& painter, const QRectF& sheet, qreal millimetre) const
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(std::max(1, int(sheet.width() * kLargestFont)));
+    const qreal edge = kEdge * millimetre;
+    const qreal letterHeight = std::max(kSmallestLetters, kLetterHeight * millimetre);
+    const qreal lineHeight = letterHeight * kLineHeight / kLetterHeight;
+    QRectF place(sheet.left() + edge, sheet.top() + edge, sheet.width() - 2 * edge, lineHeight);
+    for (const QString& line : lines_) {
+        if (line.isEmpty())
+            continue;
+        paintLine(painter, place, letterHeight, line);
+        place.translate(0.0, lineHeight);
+    }
+}
+
+void BackPreview::paintLine(QPainter& painter, const QRectF& place, qreal letterHeight,
+                            const QString& line) const
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(qRound(letterHeight));
+    const QFontMetricsF metrics(font, this);
+    const qreal fit = std::min(1.0, place.width() / metrics.horizontalAdvance(line));
+    const qreal middle = (metrics.ascent() - metrics.descent()) / 2.0;
     painter.save();
     painter.setFont(font);
-    const QFontMetricsF metrics(font, this);
-    const qreal longest =
-        std::max(metrics.horizontalAdvance(lines_[0]), metrics.horizontalAdvance(lines_[1]));
-    const qreal fit = std::min(1.0, sheet.width() * (1.0 - 2.0 * kMargin) / longest);
-    painter.translate(sheet.topLeft() + QPointF(sheet.width() * kMargin, sheet.width() * kFirstBaseline));
+    painter.translate(place.left(), place.center().y() + middle * fit);
     painter.scale(fit, fit);
-    QPointF baseline;
-    for (const QString& line : lines_) {
-        paintTokens(painter, line, baseline);
-        painter.setPen(kInk);
-        painter.drawText(baseline, line);
-        baseline.ry() += metrics.height() * kLineSpacing;
-    }
+    paintTokens(painter, line, QPointF());
+    painter.setPen(kInk);
+    painter.drawText(QPointF(), line);
     painter.restore();
 }
 
@@ -136,13 +149,15 @@ void BackPreview::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const QSizeF known = sheet_();
+    const QSizeF paper = known.isEmpty() ? kUsualSheet : known;
     const qreal sheetWidth = width() - 2 * kShadow;
-    const QRectF sheet(kShadow, 1.0, sheetWidth, sheetWidth * kSheetRatio);
+    const QRectF sheet(kShadow, 1.0, sheetWidth, sheetWidth * paper.height() / paper.width());
     paintSheet(painter, sheet);
     if (lines_[0].isEmpty() && lines_[1].isEmpty())
         paintEmptyText(painter, sheet);
     else
-        paintLines(painter, sheet);
+        paintLines(painter, sheet, sheetWidth / paper.width() * kPointsPerMillimetre);
     if (sheet.bottom() + kShadow > height())
         paintFade(painter, QRectF(rect()), palette().color(backgroundRole()));
 }

@@ -3,15 +3,17 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 namespace halvern {
 
-/// The back of a picture with its two lines of text, tokens as typed. Shows the upper part of the sheet when
-/// there is no room for all of it. Main thread only.
+/// The back of a picture with its two lines of text where the printer puts them, tokens as typed. Shows the
+/// upper part of the sheet when there is no room for all of it. Main thread only.
 class BackPreview : public QWidget {
 public:
-    /// `emptyText` stands on a back that nothing is printed on.
-    explicit BackPreview(QString emptyText, QWidget* parent = nullptr);
+    /// `sheet` answers the upright sheet's size in points, an empty one while it is not known; it is asked at
+    /// each painting. `emptyText` stands on a back that nothing is printed on.
+    BackPreview(std::function<QSizeF()> sheet, QString emptyText, QWidget* parent = nullptr);
 
     /// Line 0 or 1; the empty text for a line that is switched off.
     void setLine(int index, const QString& text);
@@ -25,9 +27,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void paintLines(QPainter& painter, const QRectF& sheet) const;
+    void paintLines(QPainter& painter, const QRectF& sheet, qreal millimetre) const;
+    void paintLine(QPainter& painter, const QRectF& place, qreal letterHeight, const QString& line) const;
     void paintEmptyText(QPainter& painter, const QRectF& sheet) const;
 
+    std::function<QSizeF()> sheet_;
     QString emptyText_;
     std::array<QString, 2> lines_;
 };

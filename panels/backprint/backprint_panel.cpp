@@ -7,6 +7,8 @@
 #include "platform/foundation/log.h"
 #include "platform/foundation/notification_center.h"
 #include "platform/printing/host_callback.h"
+#include "platform/printing/page_format.h"
+#include "platform/printing/print_settings.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -40,6 +42,15 @@ constexpr char kPrompt[] = "Enter up to two lines of text to appear on the back 
 QString remaining(const QString& format, qsizetype length)
 {
     return format.arg(qMax<qsizetype>(0, backprint::kLongestLine - length));
+}
+
+QSizeF uprightSheet(const std::shared_ptr<HostCallback>& host)
+{
+    const std::shared_ptr<PageFormat> format = host ? host->pageFormat() : nullptr;
+    PageRect rect;
+    if (!format || format->getUnadjustedPaperRect(rect) != kPrintingOk)
+        return {};
+    return {rect.right - rect.left, rect.bottom - rect.top};
 }
 
 } // namespace
@@ -108,7 +119,11 @@ void RZBackprintPDEHalvern::enableCustom()
     if (auto* holder = _panelView->findChild<QWidget*>(QStringLiteral("previewHolder"))) {
         auto* layout = new QVBoxLayout(holder);
         layout->setContentsMargins(0, 0, 0, 0);
-        preview = new BackPreview(localized(QStringLiteral("Nothing is printed on the back.")), holder);
+        const auto sheet = [host = std::weak_ptr(pdePluginCallbackObject)] {
+            return uprightSheet(host.lock());
+        };
+        preview =
+            new BackPreview(sheet, localized(QStringLiteral("Nothing is printed on the back.")), holder);
         preview->setAccessibleName(localized(QStringLiteral("Preview of the back of the picture")));
         layout->addWidget(preview);
     }

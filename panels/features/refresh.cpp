@@ -154,8 +154,9 @@ void RZFeaturesPDEHalvern::updatePaperDict()
     const std::optional<QByteArray> data = ppdSavedDataForAttribute(QStringLiteral("VLXPapersKnown"));
     std::shared_ptr<const PaperCatalogue> catalogue;
     if (data && !data->isEmpty()) {
-        if (auto root = KeyedUnarchiver::unarchiveDictionary(*data).root)
-            catalogue = std::make_shared<const PaperCatalogue>(*std::move(root));
+        const KeyedUnarchiver::Result result = KeyedUnarchiver::unarchiveDictionary(*data);
+        if (result.root)
+            catalogue = std::make_shared<const PaperCatalogue>(*result.root);
     }
     const qsizetype count = catalogue ? catalogue->size() : 0;
     logLine(QStringLiteral("PDE recovered %1 Tessarin Papers").arg(count));

@@ -53,9 +53,49 @@ QObject* mainTarget()
     return target;
 }
 
+// The work itself is kept apart from Qt's events, which only say that there is some: an application object
+// that goes deletes its pending events under a lock, and the last reference to a panel must not drop there.
+struct MainWork {
+    std::mutex mutex;
+    std::deque<std::function<void()>> pending;
+};
+
+MainWork& mainWork()
+{
+    // Never destroyed, like what it works for.
+    static MainWork* const work = std::make_unique<MainWork>().release();
+    return *work;
+}
+
+void runNextMainWork()
+{
+    std::function<void()> next;
+    {
+        const std::scoped_lock lock(mainWork().mutex);
+        if (mainWork().pending.empty())
+            return;
+        next = std::move(mainWork().pending.front());
+        mainWork().pending.pop_front();
+    }
+    next();
+}
+
+void announceMainWork()
+{
+    QMetaObject::invokeMethod(mainTarget(), &runNextMainWork, Qt::QueuedConnection);
+}
+
+// What an application object before this one left has lost its announcement.
 void settleMainTarget()
 {
     mainTarget();
+    size_t left = 0;
+    {
+        const std::scoped_lock lock(mainWork().mutex);
+        left = mainWork().pending.size();
+    }
+    while (left-- > 0)
+        announceMainWork();
 }
 
 Q_COREAPP_STARTUP_FUNCTION(settleMainTarget)
@@ -64,7 +104,11 @@ Q_COREAPP_STARTUP_FUNCTION(settleMainTarget)
 
 void MainQueue::async(std::function<void()> work) const
 {
-    QMetaObject::invokeMethod(mainTarget(), std::move(work), Qt::QueuedConnection);
+    {
+        const std::scoped_lock lock(mainWork().mutex);
+        mainWork().pending.push_back(std::move(work));
+    }
+    announceMainWork();
 }
 
 void MainQueue::after(int milliseconds, std::function<void()> work) const

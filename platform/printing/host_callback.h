@@ -36,7 +36,8 @@ public:
     /// refused, and nothing has changed.
     virtual bool willChangePPDOptionKeyValue_ppdChoice(const QString& key, const QVariant& choice) = 0;
 
-    /// printSettings: the job's settings, kept for the life of the dialog; null if the dialog has none.
+    /// printSettings: the job's settings, kept as long as the printer is selected; null if the dialog has
+    /// none.
     virtual std::shared_ptr<PrintSettings> printSettings() = 0;
 
     /// pageFormat: the job's page format; null if the dialog has none.

@@ -55,6 +55,22 @@
         <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
         <translation>JPEG-, PNG-, TIFF- oder PDF-Dateien; jedes Foto wird eine Seite.</translation>
     </message>
+    <message>
+        <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
+        <translation>Diesen Text auf die Rückseite jedes Bildes drucken. Zweimal möglich, für eine erste und eine zweite Zeile. Eine Zeile fasst 120 Zeichen und Platzhalter wie [YYYY], die der Drucker ersetzt.</translation>
+    </message>
+    <message>
+        <source>The back of a picture takes %1 lines: give --backprint once or twice.</source>
+        <translation>Auf die Rückseite eines Bildes passen %1 Zeilen: Geben Sie --backprint ein- oder zweimal an.</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>Zeile %1 der Rückseite kann %2 nicht enthalten; das wurde weggelassen. Möglich sind die Zeichen einer englischen Tastatur außer „~“ sowie „©“.</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -378,6 +394,10 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>Der Drucker „%1“ druckt keinen Text auf die Rückseite. Lassen Sie --backprint weg oder wählen Sie einen anderen Drucker.</translation>
     </message>
 </context>
 <context>

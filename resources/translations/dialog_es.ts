@@ -55,6 +55,22 @@
         <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
         <translation>Archivos JPEG, PNG, TIFF o PDF; cada foto es una página.</translation>
     </message>
+    <message>
+        <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
+        <translation>Imprimir este texto en el dorso de cada foto. Puede darse dos veces, para una primera y una segunda línea. Una línea admite 120 caracteres, incluidos marcadores como [YYYY], que la impresora sustituye.</translation>
+    </message>
+    <message>
+        <source>The back of a picture takes %1 lines: give --backprint once or twice.</source>
+        <translation>El dorso de una foto admite %1 líneas: indique --backprint una o dos veces.</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>La línea %1 del dorso no puede contener %2, que se omitió. Admite los caracteres de un teclado inglés salvo «~», y «©».</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>La línea %1 del dorso tiene más de %2 caracteres; se omitió lo que sigue (%3).</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -378,6 +394,10 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>Se omitió un ajuste guardado. %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>La impresora «%1» no imprime texto en el dorso de las fotos. Quite --backprint o elija otra impresora.</translation>
     </message>
 </context>
 <context>

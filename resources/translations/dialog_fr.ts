@@ -55,6 +55,22 @@
         <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
         <translation>Fichiers JPEG, PNG, TIFF ou PDF ; chaque photo devient une page.</translation>
     </message>
+    <message>
+        <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
+        <translation>Imprimer ce texte au dos de chaque photo. Peut être donné deux fois, pour une première et une deuxième ligne. Une ligne contient 120 caractères, y compris des repères comme [YYYY], que l’imprimante remplace.</translation>
+    </message>
+    <message>
+        <source>The back of a picture takes %1 lines: give --backprint once or twice.</source>
+        <translation>Le dos d’une photo reçoit %1 lignes : donnez --backprint une ou deux fois.</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>La ligne %1 du dos ne peut pas contenir %2, qui a été omis. Elle accepte les caractères d’un clavier anglais sauf « ~ », ainsi que « © ».</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -378,6 +394,10 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>Un réglage enregistré a été ignoré. %1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’imprime pas de texte au dos des photos. Retirez --backprint ou choisissez une autre imprimante.</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,22 @@
         <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
         <translation>JPEG、PNG、TIFF、PDF ファイル。写真 1 枚が 1 ページになります。</translation>
     </message>
+    <message>
+        <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
+        <translation>この文字列を各写真の裏面に印刷します。2 回まで指定でき、1 行目と 2 行目になります。1 行は 120 文字までで、[YYYY] などの差し込み項目はプリンターが置き換えます。</translation>
+    </message>
+    <message>
+        <source>The back of a picture takes %1 lines: give --backprint once or twice.</source>
+        <translation>写真の裏面に入るのは %1 行です。--backprint は 1 回か 2 回指定してください。</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>裏面の %1 行目には %2 を入れられないため、省きました。使えるのは、「~」を除く英語キーボードの文字と「©」です。</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -378,6 +394,10 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>保存された設定を 1 つ使いませんでした。%1</translation>
+    </message>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>プリンター「%1」は写真の裏面に文字を印刷できません。--backprint を外すか、別のプリンターを選んでください。</translation>
     </message>
 </context>
 <context>

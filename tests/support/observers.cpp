@@ -11,13 +11,16 @@
 #include <QTest>
 
 #include <cstring>
+#include <vector>
 
 namespace halvern {
 
 namespace {
 
 QMutex captureMutex;
-QStringList* capturedLines = nullptr;
+// Not a list that copies would share: a shared list is let go of and grown on different threads in a way that
+// the thread sanitizer cannot follow into the library.
+std::vector<QString>* capturedLines = nullptr;
 QtMessageHandler handlerBefore = nullptr;
 
 void capture(QtMsgType type, const QMessageLogContext& context, const QString& text)
@@ -25,7 +28,7 @@ void capture(QtMsgType type, const QMessageLogContext& context, const QString& t
     {
         const QMutexLocker lock(&captureMutex);
         if (capturedLines && context.category && std::strcmp(context.category, "halvern.pde") == 0) {
-            capturedLines->append(text);
+            capturedLines->push_back(text);
             return;
         }
     }
@@ -37,7 +40,7 @@ void capture(QtMsgType type, const QMessageLogContext& context, const QString& t
 LogCapture::LogCapture()
 {
     const QMutexLocker lock(&captureMutex);
-    capturedLines = new QStringList;
+    capturedLines = new std::vector<QString>;
     handlerBefore = qInstallMessageHandler(capture);
 }
 
@@ -52,7 +55,7 @@ LogCapture::~LogCapture()
 QStringList LogCapture::lines() const
 {
     const QMutexLocker lock(&captureMutex);
-    return *capturedLines;
+    return {capturedLines->begin(), capturedLines->end()};
 }
 
 void LogCapture::clear()

@@ -1,5 +1,7 @@
 #include "tests/support/private_bus.h"
 
+#include "tests/support/observers.h"
+
 #include <QFile>
 
 namespace halvern {
@@ -40,17 +42,13 @@ void PrivateBus::start()
                    QStringLiteral("--print-address"),
                    QStringLiteral("--config-file=") + folder_.filePath(QStringLiteral("bus.conf"))});
     // It prints its address once it listens.
-    if (!daemon_.waitForStarted() || !daemon_.waitForReadyRead())
-        qFatal("dbus-daemon does not start: %s", daemon_.readAllStandardError().constData());
-    daemon_.readAllStandardOutput();
+    if (!waitUntil([this] { return !daemon_.standardOutput().isEmpty(); }))
+        qFatal("dbus-daemon does not start: %s", daemon_.standardError().constData());
 }
 
 void PrivateBus::kill()
 {
-    if (daemon_.state() == QProcess::NotRunning)
-        return;
     daemon_.kill();
-    daemon_.waitForFinished();
 }
 
 } // namespace halvern

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QProcess>
+#include "tests/support/child_process.h"
+
 #include <QTemporaryDir>
 
 namespace halvern {
@@ -22,7 +23,7 @@ private:
     QTemporaryDir folder_;
     QByteArray addressBefore_;
     bool hadAddress_ = false;
-    QProcess daemon_;
+    ChildProcess daemon_;
 };
 
 } // namespace halvern

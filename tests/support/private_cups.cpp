@@ -1,7 +1,8 @@
 #include "tests/support/private_cups.h"
 
+#include "tests/support/child_process.h"
+
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <cups/cups.h>
@@ -24,15 +25,12 @@ void setEnvironment(const QByteArray& name, const std::optional<QByteArray>& val
 
 ScriptResult runPrivateCups(const QStringList& arguments)
 {
-    QProcess script;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HALVERN_PRINTER_BIN"), QStringLiteral(HALVERN_TEST_PRINTER_BIN));
-    script.setProcessEnvironment(environment);
-    script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/private-cups"), arguments);
-    if (!script.waitForFinished(kScriptTimeout))
-        return {-1, QString(), script.errorString()};
-    return {script.exitCode(), QString::fromUtf8(script.readAllStandardOutput()),
-            QString::fromUtf8(script.readAllStandardError())};
+    ChildProcess script;
+    if (!script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/private-cups"), arguments,
+                      {{"HALVERN_PRINTER_BIN", HALVERN_TEST_PRINTER_BIN}}))
+        return {-1, QString(), QStringLiteral("scripts/private-cups does not start")};
+    const int status = script.wait(kScriptTimeout);
+    return {status, QString::fromUtf8(script.standardOutput()), QString::fromUtf8(script.standardError())};
 }
 
 std::map<QByteArray, QByteArray> parseAssignments(const QString& text)

@@ -130,7 +130,13 @@ TEST_F(BackprintPanelTest, ThePreviewShowsTheSwitchedOnLinesAsTyped)
     EXPECT_NE(preview->grab().toImage(), empty);
     click(512);
     EXPECT_EQ(preview->line(0), QString());
+    const QImage second = preview->grab().toImage();
+    click(512);
     click(513);
+    line(1)->clear();
+    type(1, QStringLiteral("It's ours"));
+    EXPECT_EQ(preview->grab().toImage(), second) << "the printer leaves no gap for a missing line";
+    click(512);
     EXPECT_EQ(preview->grab().toImage(), empty);
 }
 

@@ -132,14 +132,6 @@ TEST_F(BindingRules, EndAtTheLastMarginWhenNoneIsOffered)
     EXPECT_EQ(popup->currentIndex(), 0);
 }
 
-TEST_F(BindingRules, AnUnknownStoredMarginIsSettled)
-{
-    host->settings->setValue(QStringLiteral("BindingMargin"), QStringLiteral("Diagonal"), false);
-    choose(kTwoSidedTag, "LongEdge");
-    choose(kBindingMarginTag, "Left");
-    EXPECT_EQ(shownMargin(), QStringLiteral("Left"));
-}
-
 TEST_F(BindingRules, APageFormatThatCannotBeReadCountsAsPortrait)
 {
     struct Broken : PageFormat {

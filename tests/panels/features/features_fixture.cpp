@@ -6,10 +6,11 @@
 
 #include <QApplication>
 #include <QHash>
-#include <QMutex>
 #include <QRadioButton>
 #include <QThread>
-#include <QWaitCondition>
+
+#include <condition_variable>
+#include <mutex>
 
 namespace halvern {
 
@@ -59,8 +60,8 @@ PaperCatalogue catalogueOf(const QList<QVariantMap>& records)
 namespace {
 
 struct PrinterState {
-    QMutex mutex;
-    QWaitCondition changed;
+    std::mutex mutex;
+    std::condition_variable changed;
     QHash<QString, QString> attributes;
     QByteArray archive;
     QStringList commands;
@@ -79,7 +80,7 @@ PrinterState& printerState()
 void TestPrinter::reset()
 {
     goOn();
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     printerState().attributes = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
                                  {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
     printerState().archive.clear();
@@ -88,7 +89,7 @@ void TestPrinter::reset()
 
 void TestPrinter::say(const char* attribute, const char* value)
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     if (value)
         printerState().attributes.insert(QString::fromLatin1(attribute), QString::fromUtf8(value));
     else
@@ -98,10 +99,10 @@ void TestPrinter::say(const char* attribute, const char* value)
 std::optional<QString> TestPrinter::attribute(const QString& keyword)
 {
     PrinterState& state = printerState();
-    const QMutexLocker lock(&state.mutex);
+    std::unique_lock lock(state.mutex);
     ++state.held;
-    while (state.holding && QThread::currentThread() != qApp->thread())
-        state.changed.wait(&state.mutex);
+    if (QThread::currentThread() != qApp->thread())
+        state.changed.wait(lock, [&] { return !state.holding; });
     --state.held;
     const auto found = state.attributes.constFind(keyword);
     return found == state.attributes.constEnd() ? std::nullopt : std::optional<QString>(*found);
@@ -109,44 +110,44 @@ std::optional<QString> TestPrinter::attribute(const QString& keyword)
 
 void TestPrinter::load(const QByteArray& archive)
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     printerState().archive = archive;
 }
 
 QByteArray TestPrinter::loaded()
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     return printerState().archive;
 }
 
 void TestPrinter::take(const QStringList& commands)
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     printerState().commands.append(commands.join(u','));
 }
 
 QStringList TestPrinter::taken()
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     return printerState().commands;
 }
 
 void TestPrinter::hold()
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     printerState().holding = true;
 }
 
 void TestPrinter::goOn()
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     printerState().holding = false;
-    printerState().changed.wakeAll();
+    printerState().changed.notify_all();
 }
 
 bool TestPrinter::isSomebodyHeld()
 {
-    const QMutexLocker lock(&printerState().mutex);
+    const std::scoped_lock lock(printerState().mutex);
     return printerState().held > 0;
 }
 

@@ -184,12 +184,12 @@ TEST_F(DistributedNotificationTest, ABusThatNeverAnswersHoldsUpNobody)
 TEST_F(DistributedNotificationTest, TheCommandLineToolPostsBothNotificationsAndExplainsFailure)
 {
     const auto notify = [](const QStringList& arguments, QByteArray* errors = nullptr) {
-        QProcess tool;
+        ChildProcess tool;
         tool.start(QStringLiteral(HALVERN_NOTIFY), arguments);
-        tool.waitForFinished();
+        const int status = tool.wait();
         if (errors)
-            *errors = tool.readAllStandardError();
-        return tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1;
+            *errors = tool.standardError();
+        return status;
     };
     QByteArray errors;
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");

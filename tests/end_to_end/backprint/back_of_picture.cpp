@@ -1,0 +1,120 @@
+#include "tests/end_to_end/backprint/back_of_picture.h"
+
+#include "printer/back_text.h"
+#include "printer/page_stream.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QSettings>
+
+namespace halvern {
+
+namespace {
+
+// Not the resolution that the printer takes by itself: an option that gets lost on the way shows.
+constexpr PageHeader kBackPage{1, true, true, 1440, 2160, 360, 360};
+
+QImage paintedBack(const QStringList& lines)
+{
+    std::vector<std::string> texts;
+    for (const QString& line : lines)
+        texts.push_back(line.toStdString());
+    const BackText painter(texts, kBackPage);
+    QImage page(int(kBackPage.width), int(kBackPage.height), QImage::Format_RGB888);
+    for (int y = 0; y < page.height(); ++y)
+        painter.row(uint32_t(y), {page.scanLine(y), size_t(page.width()) * 3});
+    return page;
+}
+
+// Line `row` lies in a band of 6 mm, the first one 8 mm below the sheet's edge.
+int inkInRow(const QImage& page, int row)
+{
+    const auto pixels = [](double millimetres) { return int(millimetres / 25.4 * kBackPage.yDpi); };
+    int ink = 0;
+    for (int y = pixels(8 + 6 * row); y < pixels(8 + 6 * (row + 1)); ++y) {
+        for (int x = 0; x < page.width(); ++x)
+            ink += qGray(page.pixel(x, y)) < 160 ? 1 : 0;
+    }
+    return ink;
+}
+
+// The Tessarin's PPD without the options of the Backprint page.
+bool writePlainPpd(const QString& path)
+{
+    QFile whole(QStringLiteral(HALVERN_TESSARIN_PPD));
+    QFile plain(path);
+    if (!whole.open(QIODevice::ReadOnly) || !plain.open(QIODevice::WriteOnly))
+        return false;
+    bool inGroup = false;
+    while (!whole.atEnd()) {
+        const QByteArray text = whole.readLine();
+        inGroup = inGroup || text.startsWith("*OpenGroup: HalvernBackprint");
+        if (!inGroup && !text.contains("EnableCVP"))
+            plain.write(text);
+        inGroup = inGroup && !text.startsWith("*CloseGroup");
+    }
+    return true;
+}
+
+} // namespace
+
+void BackOfPicture::SetUpTestSuite()
+{
+    // The user's own settings stay as they are, and have no say here.
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    qputenv("HOME", folder.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    server = std::make_unique<PrivateCups>();
+    ASSERT_TRUE(server->isRunning()) << qPrintable(server->error());
+    ASSERT_TRUE(server->addQueue(QStringLiteral("Tessarin"), {}, {}, {QStringLiteral("--default")}))
+        << qPrintable(server->error());
+    const QString plain = folder.filePath(QStringLiteral("plain.ppd"));
+    ASSERT_TRUE(writePlainPpd(plain) && server->addQueue(QStringLiteral("Plain"), plain))
+        << qPrintable(server->error());
+    QImage image(300, 200, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    ASSERT_TRUE(image.save(photo()));
+}
+
+void BackOfPicture::TearDownTestSuite()
+{
+    server.reset();
+}
+
+std::optional<QString> BackOfPicture::received(int job, const char* key)
+{
+    const auto options = server->receivedOptions(job);
+    const auto found = options ? options->find(QString::fromLatin1(key)) : decltype(options->end())();
+    return options && found != options->end() ? std::optional(found->second) : std::nullopt;
+}
+
+void BackOfPicture::expectBack(int job, const QStringList& lines)
+{
+    EXPECT_TRUE(QFileInfo::exists(server->jobFile(job, QStringLiteral("page-1.png"))));
+    const QString file = server->jobFile(job, QStringLiteral("page-1-back.png"));
+    ASSERT_EQ(QFileInfo::exists(file), !lines.isEmpty());
+    if (lines.isEmpty())
+        return;
+    const QImage back = QImage(file).convertToFormat(QImage::Format_RGB888);
+    ASSERT_EQ(back.size(), QSize(int(kBackPage.width), int(kBackPage.height)));
+    for (int row = 0; row < 3; ++row)
+        EXPECT_EQ(inkInRow(back, row) > 100, row < lines.size()) << "row " << row;
+    EXPECT_EQ(back, paintedBack(lines)) << "other words, or other places";
+}
+
+QString longestLine()
+{
+    QString line;
+    while (line.size() < 119)
+        line += line.size() % 2 ? QLatin1Char('\'') : QLatin1Char(',');
+    return line + QLatin1Char('\\');
+}
+
+QString longestLineStored()
+{
+    QString line = longestLine() + QLatin1Char(' ');
+    return line.replace(QLatin1Char(','), QChar(0x2264)).replace(QLatin1Char('\''), QChar(0x00E6));
+}
+
+} // namespace halvern

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "dialog/saved_options.h"
+#include "tests/support/private_cups.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace halvern {
+
+/// One print server with the virtual printer "Tessarin", and "Plain", which has no Backprint options, for all
+/// tests of a suite; and a photo to print.
+class BackOfPicture : public testing::Test {
+protected:
+    static void SetUpTestSuite();
+    static void TearDownTestSuite();
+
+    static OptionValue resolution() { return {QStringLiteral("Resolution"), QStringLiteral("360dpi")}; }
+
+    static QString photo() { return folder.filePath(QStringLiteral("photo.png")); }
+
+    /// What the printer's filter received for the option; nothing if it received none.
+    static std::optional<QString> received(int job, const char* key);
+
+    /// Expects a back that has these lines, as they are read, and nothing else; without lines, no back at
+    /// all.
+    static void expectBack(int job, const QStringList& lines);
+
+    inline static std::unique_ptr<PrivateCups> server;
+    inline static QTemporaryDir folder;
+};
+
+/// 119 commas and apostrophes and a backslash, as typed. What is stored has 121 characters and 300 bytes.
+QString longestLine();
+QString longestLineStored();
+
+} // namespace halvern

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+#include <QTemporaryFile>
+
+#include <sys/types.h>
+
+#include <map>
+
+namespace halvern {
+
+/// A program of the test's own. QProcess starts its children on memory that they share with this process,
+/// which puts the thread sanitizer out of order for the rest of the run; this class does not.
+class ChildProcess {
+public:
+    ChildProcess() = default;
+    /// Kills the program if it still runs.
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    /// Starts a program, looked for in PATH, with this process's environment and what `more` sets in
+    /// addition.
+    bool start(const QString& program, const QStringList& arguments,
+               const std::map<QByteArray, QByteArray>& more = {});
+
+    /// Waits until it has ended: its exit status, -1 if a signal ended it or it has not ended in time.
+    int wait(int milliseconds = 60000);
+
+    void kill();
+
+    QByteArray standardOutput() const;
+    QByteArray standardError() const;
+
+private:
+    pid_t pid_ = 0;
+    QTemporaryFile output_;
+    QTemporaryFile error_;
+};
+
+} // namespace halvern
