@@ -202,7 +202,10 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     panels.calls.clear();
     const std::shared_ptr<HostCallback> oldHost = panels.first.lock()->host;
     ASSERT_TRUE(oldHost->ppdFile() && oldHost->pmPrinter()->id() == t("Tessarin"));
+    ppd_file_t* oldPpd = oldHost->ppdFile();
     session.selectPrinter(t("Other"));
+    EXPECT_EQ(ppd::defaultChoice(oldPpd, t("PaperFeed")), t("Sheet"))
+        << "a panel's queued work may still read it";
     EXPECT_EQ(panels.calls.value(0), t("first: shouldHide"));
     EXPECT_TRUE(panels.calls.contains(t("first: gone")) && panels.calls.contains(t("second: gone")));
     EXPECT_FALSE(oldHost->ppdFile() || oldHost->pmPrinter() || oldHost->printSettings() ||
