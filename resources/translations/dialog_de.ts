@@ -530,6 +530,30 @@
         <source>part of the photo is cut away</source>
         <translation>ein Teil des Fotos fällt weg</translation>
     </message>
+    <message>
+        <source>Show at 1:1</source>
+        <translation>Im Maßstab 1:1 zeigen</translation>
+    </message>
+    <message>
+        <source>Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)</source>
+        <translation>Für jeden Druckpunkt einen Bildschirmpunkt zeigen (Doppelklick auf das Foto oder Z in der Vorschau)</translation>
+    </message>
+    <message>
+        <source>1:1, a screen pixel for each printer dot (%1 dpi)</source>
+        <translation>1:1, ein Bildschirmpunkt je Druckpunkt (%1 dpi)</translation>
+    </message>
+    <message>
+        <source>The printer's adjustments, approximated on the screen</source>
+        <translation>Anpassungen des Druckers, am Bildschirm angenähert</translation>
+    </message>
+    <message>
+        <source>Sharpening shows at 1:1</source>
+        <translation>Die Schärfung ist bei 1:1 zu sehen</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Foto wird gelesen ...</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>

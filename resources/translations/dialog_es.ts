@@ -530,6 +530,30 @@
         <source>part of the photo is cut away</source>
         <translation>se recorta parte de la foto</translation>
     </message>
+    <message>
+        <source>Show at 1:1</source>
+        <translation>Mostrar a 1:1</translation>
+    </message>
+    <message>
+        <source>Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)</source>
+        <translation>Mostrar un píxel de pantalla por cada punto de impresión (doble clic en la foto, o Z en la vista previa)</translation>
+    </message>
+    <message>
+        <source>1:1, a screen pixel for each printer dot (%1 dpi)</source>
+        <translation>1:1, un píxel de pantalla por punto de impresión (%1 ppp)</translation>
+    </message>
+    <message>
+        <source>The printer's adjustments, approximated on the screen</source>
+        <translation>Ajustes de la impresora, aproximados en pantalla</translation>
+    </message>
+    <message>
+        <source>Sharpening shows at 1:1</source>
+        <translation>El enfoque se ve a 1:1</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Leyendo la foto...</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>

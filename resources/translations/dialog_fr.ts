@@ -530,6 +530,30 @@
         <source>part of the photo is cut away</source>
         <translation>une partie de la photo est coupée</translation>
     </message>
+    <message>
+        <source>Show at 1:1</source>
+        <translation>Afficher à l’échelle 1:1</translation>
+    </message>
+    <message>
+        <source>Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)</source>
+        <translation>Afficher un pixel d’écran par point d’impression (double-clic sur la photo, ou Z dans l’aperçu)</translation>
+    </message>
+    <message>
+        <source>1:1, a screen pixel for each printer dot (%1 dpi)</source>
+        <translation>1:1, un pixel d’écran par point d’impression (%1 ppp)</translation>
+    </message>
+    <message>
+        <source>The printer's adjustments, approximated on the screen</source>
+        <translation>Réglages de l’imprimante, approchés à l’écran</translation>
+    </message>
+    <message>
+        <source>Sharpening shows at 1:1</source>
+        <translation>La netteté se voit à 1:1</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Lecture de la photo…</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>

@@ -530,6 +530,30 @@
         <source>part of the photo is cut away</source>
         <translation>写真の一部が切れます</translation>
     </message>
+    <message>
+        <source>Show at 1:1</source>
+        <translation>等倍（1:1）で表示</translation>
+    </message>
+    <message>
+        <source>Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)</source>
+        <translation>プリンターの1ドットを画面の1ピクセルで表示します（写真をダブルクリックするか、プレビューで Z キー）</translation>
+    </message>
+    <message>
+        <source>1:1, a screen pixel for each printer dot (%1 dpi)</source>
+        <translation>1:1、プリンターの1ドットが画面の1ピクセル（%1 dpi）</translation>
+    </message>
+    <message>
+        <source>The printer's adjustments, approximated on the screen</source>
+        <translation>プリンターの調整を画面で近似表示しています</translation>
+    </message>
+    <message>
+        <source>Sharpening shows at 1:1</source>
+        <translation>シャープネスは 1:1 で確認できます</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>写真を読み込んでいます...</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
