@@ -25,8 +25,10 @@ QString u(const char* text)
 
 class BackprintInDialog : public BackOfPicture {
 protected:
-    void open(const SessionRequest& request)
+    void open(SessionRequest request)
     {
+        // What the printer would answer meanwhile changes the resolution, and with it the size of the pages.
+        request.panelsAskPrinter = false;
         session = std::make_unique<DialogSession>(request, plugIns);
         dialog = std::make_unique<PrintDialog>(*session);
         dialog->show();

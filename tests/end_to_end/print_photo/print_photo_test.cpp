@@ -59,6 +59,8 @@ protected:
         SessionRequest request;
         request.printer = QStringLiteral("Tessarin");
         request.files = {photo};
+        // What the printer would answer meanwhile changes the resolution, and with it the size of the page.
+        request.panelsAskPrinter = false;
         DialogSession session(request, panels);
         PrintDialog dialog(session);
         dialog.show();

@@ -1,7 +1,6 @@
 #include "tests/panels/features/features_fixture.h"
 
 #include "platform/printing/jobs.h"
-#include "printer/papers/catalogue_archive.h"
 #include "tests/support/private_cups.h"
 
 #include <QFile>
@@ -32,31 +31,23 @@ protected:
     void open(const QString& faults)
     {
         const QString uri = QStringLiteral("halvern://virtual/Photo") + faults;
-        ASSERT_TRUE(server.addQueue(QStringLiteral("Photo"), ppdWithPapers(), uri))
-            << qPrintable(server.error());
+        ASSERT_TRUE(loadPapers());
+        ASSERT_TRUE(server.addQueue(QStringLiteral("Photo"), QString(), uri)) << qPrintable(server.error());
         host = std::make_shared<FakeHost>(featuresPpd());
         host->printer = std::make_shared<Printer>(QStringLiteral("Photo"), uri);
         panel = makePanel<RZFeaturesPDEHalvern>(host);
         ASSERT_TRUE(panel);
     }
 
-    // The printer's description with a catalogue in it that has never been dated.
-    QString ppdWithPapers() const
+    // Loads one cut sheet and one roll into the printer.
+    bool loadPapers() const
     {
-        QFile plain(QStringLiteral(HALVERN_TEST_SCRIPTS "/../printer/tessarin.ppd"));
-        EXPECT_TRUE(plain.open(QIODevice::ReadOnly));
-        const QByteArray archive = archiveOfCatalogue(
-            catalogueOf({sheetRecord(QStringLiteral("Gloss A4"), 300), rollRecord(1524, 2, 610)}));
-        const QByteArray text = archive.toBase64();
-        QByteArray lines;
-        for (qsizetype at = 0, piece = 0; at < text.size(); at += 200, ++piece)
-            lines += "*VLXPapersKnown" + QByteArray::number(piece, 16).rightJustified(5, '0') + ": \"" +
-                     text.mid(at, 200) + "\"\n";
-        const QString path = folder.filePath(QStringLiteral("photo.ppd"));
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(plain.readAll() + lines);
-        return path;
+        QFile list(server.dir() + QStringLiteral("/papers/Photo.json"));
+        const QByteArray papers = R"({"abilities": {"duplex": false, "extraFeatures": true}, "papers": [
+            {"sheet": "Gloss A4", "resolutions": [300], "tones": [1]},
+            {"roll": 152.4, "surfaces": [2], "resolutions": [610], "tones": [1]}]})";
+        return list.open(QIODevice::WriteOnly) && list.write(papers) == papers.size() &&
+               list.setPermissions(list.permissions() | QFileDevice::ReadOther);
     }
 
     jobs::JobList jobsOf(jobs::Which which) const
