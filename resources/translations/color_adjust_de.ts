@@ -96,14 +96,6 @@
         <translation>Farbanpassung</translation>
     </message>
     <message>
-        <source>Yes</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
         <source>Reduce red by one</source>
         <translation>Rot um eins verringern</translation>
     </message>

@@ -96,14 +96,6 @@
         <translation>Ajustes de color</translation>
     </message>
     <message>
-        <source>Yes</source>
-        <translation>Sí</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
         <source>Reduce red by one</source>
         <translation>Reducir el rojo en uno</translation>
     </message>

@@ -96,14 +96,6 @@
         <translation>Réglage des couleurs</translation>
     </message>
     <message>
-        <source>Yes</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Non</translation>
-    </message>
-    <message>
         <source>Reduce red by one</source>
         <translation>Diminuer le rouge de un</translation>
     </message>

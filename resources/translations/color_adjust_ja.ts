@@ -96,14 +96,6 @@
         <translation>カラー調整</translation>
     </message>
     <message>
-        <source>Yes</source>
-        <translation>はい</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>いいえ</translation>
-    </message>
-    <message>
         <source>Reduce red by one</source>
         <translation>赤を1減らす</translation>
     </message>
