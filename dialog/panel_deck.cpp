@@ -2,6 +2,7 @@
 
 #include "dialog/options_page.h"
 #include "dialog/page_page.h"
+#include "panels/backprint/text/backprint_text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -38,6 +39,12 @@ QString tableRow(const QString& name, const QString& value)
         .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
 }
 
+// A line for the back of the picture is kept in the form that travels, and read in the one that prints.
+QString asRead(const QString& key, const QString& value)
+{
+    return key.startsWith(QLatin1StringView("CVP")) ? backprint::stringWithUnsafeCharacters(value) : value;
+}
+
 // A panel tells the choices that the PPD lists; a value of the user's own has no words there, and is told as
 // it is.
 QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
@@ -47,7 +54,7 @@ QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
     for (const QString& key : panel.supportedPPDOptionKeys()) {
         const QString title = session.optionText(key);
         if (!kept.value(key).isEmpty() && !lines.contains(title))
-            lines.insert(title, kept.value(key));
+            lines.insert(title, asRead(key, kept.value(key)));
     }
     return lines;
 }
