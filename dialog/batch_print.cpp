@@ -8,6 +8,7 @@ namespace {
 SessionRequest unattended(SessionRequest request)
 {
     request.panelsAskPrinter = false;
+    request.panelsChangeOptions = false;
     return request;
 }
 

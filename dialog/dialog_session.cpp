@@ -316,7 +316,7 @@ ppd_file_t* DialogSession::hostPpdFile()
 bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 {
     // Panels ask at every keystroke.
-    return model_ && change(key, choice, NumberReading::leading).accepted;
+    return model_ && request_.panelsChangeOptions && change(key, choice, NumberReading::leading).accepted;
 }
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()

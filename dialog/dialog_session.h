@@ -33,6 +33,9 @@ struct SessionRequest {
     /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
     /// sends it command jobs.
     bool panelsAskPrinter = true;
+    /// Whether somebody is at the panels. Without a user they change no options: one that knows no papers yet
+    /// would settle on a feed of its own.
+    bool panelsChangeOptions = true;
     QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
 };
 

@@ -107,7 +107,7 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
     EXPECT_EQ(dry.status, 0) << qPrintable(dry.err);
     const QStringList lines = dry.out.split(u'\n');
     EXPECT_TRUE(lines.contains(s("SharpnessIntensity=1.24")) && lines.contains(s("copies=2")) &&
-                lines.contains(s("PageSize=4x6")))
+                lines.contains(s("PageSize=4x6")) && lines.contains(s("PaperFeed=Sheet")))
         << qPrintable(dry.out);
 
     const ProgramResult unknown = runProgram({s("--no-dialog"), s("--printer"), s("Nowhere"), photo()});
