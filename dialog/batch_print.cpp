@@ -37,26 +37,13 @@ void BatchPrint::start()
     session_.start();
 }
 
-QString BatchPrint::unknownPrinter() const
-{
-    const std::vector<PrinterInfo>& printers =
-        const_cast<BatchPrint*>(this)->session_.printerList().printers();
-    QStringList names;
-    for (const PrinterInfo& printer : printers)
-        names.append(printer.name);
-    if (names.isEmpty())
-        return tr("The print server has no printers. Add one, for example with lpadmin.");
-    return tr("The print server has no printer \"%1\". It has: %2.")
-        .arg(session_.printerName(), names.join(QStringLiteral(", ")));
-}
-
 void BatchPrint::takePrinters()
 {
     PrinterList& list = session_.printerList();
     if (!list.problem().isEmpty())
         fail(list.problem());
     else if (list.printers().empty() || !list.find(session_.printerName()))
-        fail(unknownPrinter());
+        fail(unknownPrinterText(session_.printerName(), list.printers()));
     else
         proceed();
 }

@@ -26,7 +26,6 @@ private:
     void print();
     void fail(const QString& sentence, int status = kExitFailed);
     void end(int status);
-    QString unknownPrinter() const;
 
     CommandLine line_;
     QTextStream& out_;

@@ -6,6 +6,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
@@ -35,6 +37,10 @@ public:
         QStringLiteral("dry-run"),
         tr("Write the options that would be sent, one KEY=VALUE a line, and send nothing.")};
 
+    QCommandLineOption listPapers{QStringLiteral("list-papers"),
+                                  tr("Write what the printer has loaded, and how old that knowledge is.")};
+    QCommandLineOption refresh{QStringLiteral("refresh"), tr("With --list-papers: ask the printer first.")};
+
     static QString seeHelp() { return tr("See \"halvern-print --help\"."); }
 
     static QString badOption(const QString& text)
@@ -50,6 +56,13 @@ public:
     static QString tooManyBackLines()
     {
         return tr("The back of a picture takes %1 lines: give --backprint once or twice.").arg(kBackLines);
+    }
+
+    static QString refreshAlone() { return tr("--refresh goes with --list-papers."); }
+
+    static QString listAndPrint()
+    {
+        return tr("--list-papers prints no files: leave out the files and the options for printing.");
     }
 
     static QString noFile() { return tr("Name at least one photo to print (JPEG, PNG, TIFF or PDF)."); }
@@ -81,6 +94,15 @@ QString readBackLines(const QStringList& texts, CommandLine& line, QStringList& 
     return {};
 }
 
+bool isListOnly(const QCommandLineParser& parser, const Switches& switches, const CommandLine& line)
+{
+    const QList<QCommandLineOption> printing{switches.option, switches.copies, switches.backprint,
+                                             switches.noDialog, switches.dryRun};
+    return line.request.files.isEmpty() &&
+           std::none_of(printing.begin(), printing.end(),
+                        [&](const QCommandLineOption& option) { return parser.isSet(option); });
+}
+
 QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
 {
     for (const QString& text : parser.values(switches.option)) {
@@ -109,7 +131,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
-                       switches.noDialog, switches.dryRun});
+                       switches.noDialog, switches.dryRun, switches.listPapers, switches.refresh});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -132,6 +154,14 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     if (!problem.isEmpty())
         return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
     line.request.files = parser.positionalArguments();
+    if (parser.isSet(switches.listPapers)) {
+        line.listPapers = ListPapersRequest{line.request.printer, parser.isSet(switches.refresh)};
+        if (!isListOnly(parser, switches, line))
+            return wrong(Switches::listAndPrint() + QLatin1Char(' ') + Switches::seeHelp());
+        return {line, {}, kExitPrinted};
+    }
+    if (parser.isSet(switches.refresh))
+        return wrong(Switches::refreshAlone() + QLatin1Char(' ') + Switches::seeHelp());
     if (line.request.files.isEmpty())
         return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
     for (const QString& path : line.request.files) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/dialog_session.h"
+#include "dialog/list_papers.h"
 
 #include <optional>
 
@@ -10,7 +11,8 @@ namespace halvern {
 struct CommandLine {
     SessionRequest request;
     bool showDialog = true;
-    bool dryRun = false; ///< say what would be sent, and send nothing
+    bool dryRun = false;                              ///< say what would be sent, and send nothing
+    std::optional<ListPapersRequest> listPapers = {}; ///< list them and do nothing else
 };
 
 /// How the program ends.

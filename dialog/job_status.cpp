@@ -103,20 +103,6 @@ JobStage stageOf(int state, const JobStatus& status)
     }
 }
 
-// ": out of paper, Filter failed" or nothing.
-QString why(const JobStatus& status)
-{
-    QStringList texts;
-    for (const QString& reason : status.printerReasons) {
-        const QString text = reasonText(reason);
-        if (!text.isEmpty() && !texts.contains(text))
-            texts.append(text);
-    }
-    if (!status.message.isEmpty())
-        texts.append(status.message);
-    return texts.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(texts.join(QStringLiteral(", ")));
-}
-
 QString heldWhy(const JobStatus& status)
 {
     if (status.reasons.contains(QStringLiteral("job-hold-until-specified")))
@@ -219,12 +205,25 @@ bool isResting(JobStage stage)
     return stage == JobStage::held || stage == JobStage::stopped || stage == JobStage::blocked;
 }
 
+QString jobReasons(const JobStatus& status)
+{
+    QStringList texts;
+    for (const QString& reason : status.printerReasons) {
+        const QString text = reasonText(reason);
+        if (!text.isEmpty() && !texts.contains(text))
+            texts.append(text);
+    }
+    if (!status.message.isEmpty())
+        texts.append(status.message);
+    return texts.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(texts.join(QStringLiteral(", ")));
+}
+
 QString jobSentence(const JobStatus& status, const QString& printer, int jobId)
 {
     const QString text = pattern(status);
     if (!text.contains(QLatin1StringView("%3")))
         return text.arg(QString::number(jobId), printer);
-    return text.arg(QString::number(jobId), printer, why(status));
+    return text.arg(QString::number(jobId), printer, jobReasons(status));
 }
 
 } // namespace halvern

@@ -40,6 +40,9 @@ bool isResting(JobStage stage);
 /// The status as a sentence in the user's language: what happened, why, and what to do.
 QString jobSentence(const JobStatus& status, const QString& printer, int jobId);
 
+/// Why a job does not get on, as " (out of paper, Filter failed)"; empty if nothing is known.
+QString jobReasons(const JobStatus& status);
+
 /// A printer's state reason ("media-empty-error") in the user's words; empty for one that says nothing.
 QString reasonText(const QString& reason);
 

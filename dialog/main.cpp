@@ -48,6 +48,21 @@ int runBatch(const CommandLine& line)
     return status;
 }
 
+int runListing(const ListPapersRequest& request)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    const PluginLoader panels;
+    return listPapers(request, panels, out, err);
+}
+
+int run(const CommandLine& line)
+{
+    if (line.listPapers)
+        return runListing(*line.listPapers);
+    return line.showDialog ? runDialog(line) : runBatch(line);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -62,8 +77,7 @@ int main(int argc, char** argv)
     }
     for (const QString& remark : parsed.remarks)
         QTextStream(stderr) << remark << Qt::endl;
-    const int status =
-        parsed.commandLine->showDialog ? runDialog(*parsed.commandLine) : runBatch(*parsed.commandLine);
+    const int status = run(*parsed.commandLine);
     finishQueuedWork();
     return status;
 }

@@ -63,10 +63,7 @@ PrincipalClass* PluginLoader::principalOf(const QString& bundleName, QString* pr
                 .arg(bundleName);
         return nullptr;
     }
-    for (const QString& folder : folders_) {
-        const QString path = QDir(folder).filePath(bundleName);
-        if (!QFileInfo(path).isDir())
-            continue;
+    if (const QString path = pathOf(bundleName); !path.isEmpty()) {
         Loaded loaded = load(path, problem);
         if (!loaded.principal)
             return nullptr;
@@ -105,6 +102,22 @@ PluginLoader::Loaded PluginLoader::load(const QString& path, QString* problem)
         return {};
     }
     return {bundle, std::move(principal)};
+}
+
+QString PluginLoader::pathOf(const QString& bundleName) const
+{
+    for (const QString& folder : folders_) {
+        const QString path = QDir(folder).filePath(bundleName);
+        if (isBundleName(bundleName) && QFileInfo(path).isDir())
+            return path;
+    }
+    return {};
+}
+
+std::shared_ptr<Bundle> PluginLoader::resources(const QString& bundleName) const
+{
+    const QString path = pathOf(bundleName);
+    return path.isEmpty() ? nullptr : Bundle::load(path);
 }
 
 QString PluginLoader::localized(const QString& bundleName, const QString& text) const

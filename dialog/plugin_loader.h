@@ -22,6 +22,9 @@ public:
                      QString* problem) override;
     QString localized(const QString& bundleName, const QString& text) const override;
 
+    /// A bundle's resources without its module; null if it cannot be had.
+    std::shared_ptr<Bundle> resources(const QString& bundleName) const;
+
 private:
     // A bundle and its root object.
     struct Loaded {
@@ -30,6 +33,7 @@ private:
     };
 
     PrincipalClass* principalOf(const QString& bundleName, QString* problem);
+    QString pathOf(const QString& bundleName) const;
     Loaded load(const QString& path, QString* problem);
 
     QStringList folders_;

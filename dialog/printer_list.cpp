@@ -42,6 +42,18 @@ QString stateText(const PrinterInfo& printer)
     return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
 }
 
+QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers)
+{
+    QStringList names;
+    for (const PrinterInfo& printer : printers)
+        names.append(printer.name);
+    if (names.isEmpty())
+        return QCoreApplication::translate(
+            "BatchPrint", "The print server has no printers. Add one, for example with lpadmin.");
+    return QCoreApplication::translate("BatchPrint", "The print server has no printer \"%1\". It has: %2.")
+        .arg(name, names.join(QStringLiteral(", ")));
+}
+
 PrinterList::PrinterList(QObject* parent) : QObject(parent), stop_(cups::makeCancelFlag())
 {
     timer_.setSingleShot(true);

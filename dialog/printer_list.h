@@ -27,6 +27,9 @@ struct PrinterInfo {
 /// "Ready", "Paused: out of paper" and so on, in the user's language.
 QString stateText(const PrinterInfo& printer);
 
+/// The sentence for a queue name that is not among the server's.
+QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers);
+
 /// What the server answered about its queues.
 struct PrinterAnswer {
     std::vector<PrinterInfo> printers; ///< sorted by name

@@ -68,22 +68,20 @@ class IndexBuilder {
 public:
     void add(const QVariant& recordOrNot)
     {
-        const QVariantMap record = recordOrNot.toMap();
+        const PaperRecord record = readPaperRecord(recordOrNot);
         // A record that is rejected below offers its tones all the same.
-        result_.tones |= paperToneOf(record);
-        const QVariant name = record.value(QStringLiteral("paperName"));
-        const std::optional<QString> width = decimalText(record.value(QStringLiteral("paperWidth")));
+        result_.tones |= record.tones;
         TitleList* list = nullptr;
-        if (name.typeId() == QMetaType::QString && !name.toString().isEmpty()) {
-            list = &listOfSheet(name.toString());
-        } else if (width && !width->isEmpty()) {
-            list = listOfRoll(*width, decimalText(record.value(QStringLiteral("paperSurface"))));
+        if (record.sheetName) {
+            list = &listOfSheet(*record.sheetName);
+        } else if (record.widthCode) {
+            list = listOfRoll(*record.widthCode, record.surfaceCode);
         } else {
             result_.badPapers.append(recordOrNot);
             return;
         }
         if (list)
-            list->add(int(lowBits(record.value(QStringLiteral("paperResolution")))) / kTenths);
+            list->add(record.dotsPerInch);
     }
 
     IndexedCatalogue take()
@@ -144,11 +142,31 @@ QVariantMap PaperIndex::asDictionary() const
             {QStringLiteral("com.halvern.tessarin.paper.width"), widthMap}};
 }
 
+PaperRecord readPaperRecord(const QVariant& recordOrNot)
+{
+    const QVariantMap fields = recordOrNot.toMap();
+    PaperRecord record;
+    const QVariant name = fields.value(QStringLiteral("paperName"));
+    if (name.typeId() == QMetaType::QString && !name.toString().isEmpty())
+        record.sheetName = name.toString();
+    record.widthCode = decimalText(fields.value(QStringLiteral("paperWidth")));
+    if (record.widthCode && record.widthCode->isEmpty())
+        record.widthCode.reset();
+    record.surfaceCode = decimalText(fields.value(QStringLiteral("paperSurface")));
+    record.dotsPerInch = int(lowBits(fields.value(QStringLiteral("paperResolution")))) / kTenths;
+    record.tones = paperToneOf(fields);
+    return record;
+}
+
+QStringList sortedPaperKeys(const PaperCatalogue& catalogue)
+{
+    return KSTRVL_NSStringAdditions::sortedNumerically(catalogue.keys());
+}
+
 IndexedCatalogue indexCatalogue(const PaperCatalogue& catalogue)
 {
     IndexBuilder builder;
-    const QStringList keys = KSTRVL_NSStringAdditions::sortedNumerically(catalogue.keys());
-    for (const QString& key : keys)
+    for (const QString& key : sortedPaperKeys(catalogue))
         builder.add(*catalogue.constFind(key));
     return builder.take();
 }

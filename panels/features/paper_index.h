@@ -19,6 +19,21 @@ using PaperCatalogue = QVariantMap;
 /// of the catalogue's keys.
 using ResolutionTitles = QMap<QString, QStringList>;
 
+/// A record's fields, read as leniently as its writers are careless.
+struct PaperRecord {
+    std::optional<QString> sheetName; ///< nothing for a roll
+    std::optional<QString> widthCode;
+    std::optional<QString> surfaceCode;
+    int dotsPerInch = 0;
+    quint32 tones = 0;
+};
+
+/// Reads a catalogue's value. Nothing in it is told from a value that is no record. Any thread.
+PaperRecord readPaperRecord(const QVariant& recordOrNot);
+
+/// The catalogue's keys in the numerical, case-insensitive order in which it is walked. Any thread.
+QStringList sortedPaperKeys(const PaperCatalogue& catalogue);
+
 /// The catalogue sorted for the paper menus.
 struct PaperIndex {
     ResolutionTitles names;

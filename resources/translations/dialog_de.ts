@@ -71,6 +71,22 @@
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
     </message>
+    <message>
+        <source>Write what the printer has loaded, and how old that knowledge is.</source>
+        <translation>Ausgeben, was im Drucker eingelegt ist und wie alt dieses Wissen ist.</translation>
+    </message>
+    <message>
+        <source>With --list-papers: ask the printer first.</source>
+        <translation>Mit --list-papers: zuerst den Drucker fragen.</translation>
+    </message>
+    <message>
+        <source>--refresh goes with --list-papers.</source>
+        <translation>--refresh gehört zu --list-papers.</translation>
+    </message>
+    <message>
+        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
+        <translation>--list-papers druckt keine Dateien: Lassen Sie die Dateien und die Optionen zum Drucken weg.</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -675,6 +691,117 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>Es wurde nichts gedruckt. %1</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
+        <translation>Der Drucker „%1“ wurde gefragt, hat seine Papiere aber nicht gemeldet. Sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
+        <translation>Der Drucker „%1“ meldet seine Papiere nicht: Er hat keinen Halvern-Treiber.</translation>
+    </message>
+    <message>
+        <source>Asking "%1" ...</source>
+        <translation>„%1“ wird gefragt ...</translation>
+    </message>
+    <message>
+        <source>Waiting for "%1"%2 ...</source>
+        <translation>Warten auf „%1“%2 ...</translation>
+    </message>
+    <message>
+        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
+        <translation>Der Drucker „%1“ bearbeitet einen anderen Auftrag. Fragen Sie noch einmal, wenn dieser beendet ist.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>Der Drucker „%1“ arbeitet zurzeit nicht%2, und die Anfrage wurde zurückgenommen. Setzen Sie den Drucker fort (cupsenable) und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
+        <translation>Die Anfrage an „%1“ wurde angehalten%2 und ist abgebrochen worden. Lassen Sie die Warteschlange Aufträge annehmen und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled%2. Ask again.</source>
+        <translation>Die Anfrage an „%1“ wurde abgebrochen%2. Fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
+        <translation>Der Drucker „%1“ konnte nicht antworten%2. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>Der Drucker „%1“ nimmt keine Aufträge an und kann nicht gefragt werden. Lassen Sie ihn Aufträge annehmen (cupsaccept) und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to "%1". Look into its error log.</source>
+        <translation>Der Druckserver hat die Anfrage an „%1“ abgelehnt. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
+    </message>
+    <message>
+        <source>The list of papers that "%1" reported cannot be read (%2).</source>
+        <translation>Die Papierliste, die „%1“ gemeldet hat, ist nicht lesbar (%2).</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>Es ist kein Papier eingelegt.</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>Der Drucker hat noch nicht gemeldet, was eingelegt ist.</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>Fragen Sie ihn mit --refresh.</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>gerade eben</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>vor %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>vor %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>vor %1 Tagen</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: nie aktualisiert</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: zuletzt aktualisiert %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Oberfläche</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tonwerte</translation>
     </message>
 </context>
 </TS>

@@ -71,6 +71,22 @@
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>La línea %1 del dorso tiene más de %2 caracteres; se omitió lo que sigue (%3).</translation>
     </message>
+    <message>
+        <source>Write what the printer has loaded, and how old that knowledge is.</source>
+        <translation>Muestra qué papel tiene cargado la impresora y de cuándo es esa información.</translation>
+    </message>
+    <message>
+        <source>With --list-papers: ask the printer first.</source>
+        <translation>Con --list-papers: preguntar antes a la impresora.</translation>
+    </message>
+    <message>
+        <source>--refresh goes with --list-papers.</source>
+        <translation>--refresh se usa con --list-papers.</translation>
+    </message>
+    <message>
+        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
+        <translation>--list-papers no imprime archivos: omita los archivos y las opciones de impresión.</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -675,6 +691,117 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>No se imprimió nada. %1</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
+        <translation>Se preguntó a la impresora «%1», pero no ha comunicado sus papeles. Consulte el registro de errores del servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>El servidor de impresión no tiene impresora predeterminada. Indique una con --printer.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
+        <translation>La impresora «%1» no comunica sus papeles: no tiene un controlador de Halvern.</translation>
+    </message>
+    <message>
+        <source>Asking "%1" ...</source>
+        <translation>Preguntando a «%1»...</translation>
+    </message>
+    <message>
+        <source>Waiting for "%1"%2 ...</source>
+        <translation>Esperando a «%1»%2...</translation>
+    </message>
+    <message>
+        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
+        <translation>La impresora «%1» está ocupada con otro trabajo. Vuelva a preguntar cuando haya terminado.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>La impresora «%1» no funciona en este momento%2 y se ha retirado la consulta. Reanude la impresora (cupsenable) y vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
+        <translation>La consulta a «%1» quedó retenida%2 y se ha cancelado. Permita que la cola procese trabajos y vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled%2. Ask again.</source>
+        <translation>La consulta a «%1» se canceló%2. Vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
+        <translation>La impresora «%1» no pudo responder%2. Revise la impresora y vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>La impresora «%1» no acepta trabajos y no se le puede preguntar. Permita que los acepte (cupsaccept) y vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to "%1". Look into its error log.</source>
+        <translation>El servidor de impresión rechazó la consulta a «%1». Consulte su registro de errores.</translation>
+    </message>
+    <message>
+        <source>The list of papers that "%1" reported cannot be read (%2).</source>
+        <translation>No se puede leer la lista de papeles que comunicó «%1» (%2).</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>No hay papel cargado.</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>La impresora aún no ha dicho qué tiene cargado.</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>Pregúntele con --refresh.</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>ahora mismo</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>hace %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>hace %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>hace %1 días</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: nunca actualizado</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: última actualización %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rollo</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Superficie</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tonos</translation>
     </message>
 </context>
 </TS>

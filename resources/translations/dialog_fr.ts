@@ -71,6 +71,22 @@
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
     </message>
+    <message>
+        <source>Write what the printer has loaded, and how old that knowledge is.</source>
+        <translation>Afficher ce qui est chargé dans l'imprimante et l'âge de cette information.</translation>
+    </message>
+    <message>
+        <source>With --list-papers: ask the printer first.</source>
+        <translation>Avec --list-papers : interroger d'abord l'imprimante.</translation>
+    </message>
+    <message>
+        <source>--refresh goes with --list-papers.</source>
+        <translation>--refresh s'emploie avec --list-papers.</translation>
+    </message>
+    <message>
+        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
+        <translation>--list-papers n'imprime aucun fichier : omettez les fichiers et les options d'impression.</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -675,6 +691,117 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>Rien n’a été imprimé. %1</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
+        <translation>L'imprimante « %1 » a été interrogée, mais n'a pas communiqué ses papiers. Consultez le journal d'erreurs du serveur d'impression.</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>Le serveur d'impression n'a pas d'imprimante par défaut. Indiquez-en une avec --printer.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
+        <translation>L'imprimante « %1 » ne communique pas ses papiers : elle n'a pas de pilote Halvern.</translation>
+    </message>
+    <message>
+        <source>Asking "%1" ...</source>
+        <translation>Interrogation de « %1 »...</translation>
+    </message>
+    <message>
+        <source>Waiting for "%1"%2 ...</source>
+        <translation>Attente de « %1 »%2...</translation>
+    </message>
+    <message>
+        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
+        <translation>L'imprimante « %1 » traite une autre tâche. Interrogez-la à nouveau quand celle-ci sera terminée.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>L'imprimante « %1 » ne fonctionne pas pour le moment%2 et la demande a été retirée. Relancez l'imprimante (cupsenable) et recommencez.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
+        <translation>La demande à « %1 » a été retenue%2 et annulée. Laissez la file traiter les tâches et recommencez.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled%2. Ask again.</source>
+        <translation>La demande à « %1 » a été annulée%2. Recommencez.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
+        <translation>L'imprimante « %1 » n'a pas pu répondre%2. Vérifiez l'imprimante et recommencez.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>L'imprimante « %1 » n'accepte pas de tâches et ne peut pas être interrogée. Faites-la en accepter (cupsaccept) et recommencez.</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to "%1". Look into its error log.</source>
+        <translation>Le serveur d'impression a refusé la demande à « %1 ». Consultez son journal d'erreurs.</translation>
+    </message>
+    <message>
+        <source>The list of papers that "%1" reported cannot be read (%2).</source>
+        <translation>La liste de papiers communiquée par « %1 » est illisible (%2).</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>Aucun papier n'est chargé.</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>L'imprimante n'a pas encore dit ce qui est chargé.</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>Interrogez-la avec --refresh.</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>à l'instant</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>il y a %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>il y a %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>il y a %1 jours</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1 : jamais mis à jour</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1 : dernière mise à jour %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rouleau</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Surface</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tons</translation>
     </message>
 </context>
 </TS>

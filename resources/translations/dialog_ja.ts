@@ -71,6 +71,22 @@
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
     </message>
+    <message>
+        <source>Write what the printer has loaded, and how old that knowledge is.</source>
+        <translation>プリンターにセットされている用紙と、その情報の古さを表示します。</translation>
+    </message>
+    <message>
+        <source>With --list-papers: ask the printer first.</source>
+        <translation>--list-papers と併用: 先にプリンターに問い合わせます。</translation>
+    </message>
+    <message>
+        <source>--refresh goes with --list-papers.</source>
+        <translation>--refresh は --list-papers と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
+        <translation>--list-papers はファイルを印刷しません。ファイルと印刷用のオプションを省いてください。</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -675,6 +691,117 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>何も印刷していません。%1</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
+        <translation>プリンター「%1」に問い合わせましたが、用紙の情報が届きませんでした。プリントサーバーのエラーログを確認してください。</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
+        <translation>プリンター「%1」は用紙の情報を知らせません。Halvern のドライバーではありません。</translation>
+    </message>
+    <message>
+        <source>Asking "%1" ...</source>
+        <translation>「%1」に問い合わせています...</translation>
+    </message>
+    <message>
+        <source>Waiting for "%1"%2 ...</source>
+        <translation>「%1」を待っています%2...</translation>
+    </message>
+    <message>
+        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
+        <translation>プリンター「%1」は別のジョブを処理しています。終わってからもう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>プリンター「%1」は現在動作していないため%2、問い合わせを取り消しました。プリンターを再開して (cupsenable) もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
+        <translation>「%1」への問い合わせは保留されたため%2、取り消しました。キューがジョブを処理できるようにして、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled%2. Ask again.</source>
+        <translation>「%1」への問い合わせはキャンセルされました%2。もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
+        <translation>プリンター「%1」は応答できませんでした%2。プリンターを確認して、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>プリンター「%1」はジョブを受け付けていないため、問い合わせできません。受け付けるようにして (cupsaccept) もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to "%1". Look into its error log.</source>
+        <translation>プリントサーバーが「%1」への問い合わせを拒否しました。エラーログを確認してください。</translation>
+    </message>
+    <message>
+        <source>The list of papers that "%1" reported cannot be read (%2).</source>
+        <translation>「%1」から届いた用紙の一覧を読み取れません (%2)。</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>用紙はセットされていません。</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>セットされている用紙の情報がまだ届いていません。</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>--refresh で問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>just now</source>
+        <translation>たった今</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分前</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>%1 時間前</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>%1 日前</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: 最終更新 なし</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: 最終更新 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>カット紙</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>面質</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>トーン</translation>
     </message>
 </context>
 </TS>

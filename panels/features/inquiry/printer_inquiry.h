@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+struct ppd_file_s;
+using ppd_file_t = ppd_file_s;
+
+namespace halvern {
+
+/// What became of asking a printer to report itself.
+struct InquiryResult {
+    enum class End {
+        reported,  ///< the job has completed
+        failed,    ///< it has not, or never came to be: see jobId
+        busy,      ///< nothing was sent, because the queue is at another job
+        abandoned, ///< the caller had enough, and the job is cancelled
+    };
+    End end;
+    int jobId = 0; ///< 0 or less: no job could be created
+};
+
+/// Asks the printer of a queue to report its papers and abilities: the command job that the Features panel
+/// sends, watched as there. Blocks until the job has ended; `keepWaiting`, called several times a second on
+/// this thread with the job's ID, ends it early. Needs no event loop. Any thread; `file` is the queue's PPD
+/// and used by nobody else meanwhile.
+InquiryResult askPrinterForReport(const QString& queue, const std::shared_ptr<ppd_file_t>& file,
+                                  const std::function<bool(int jobId)>& keepWaiting);
+
+} // namespace halvern

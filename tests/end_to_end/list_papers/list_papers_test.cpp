@@ -1,0 +1,149 @@
+// halvern-print --list-papers as a process, on a real server.
+#include "dialog/paper_table.h"
+#include "platform/printing/jobs.h"
+#include "tests/support/observers.h"
+#include "tests/support/private_cups.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+QString q(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+class ListPapers : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(server.isRunning()) << qPrintable(server.error()); }
+
+    void addQueue(const char* name, const char* faults, const QStringList& more = {})
+    {
+        QFile list(server.dir() + q("/papers/%1.json").arg(q(name)));
+        ASSERT_TRUE(list.open(QIODevice::WriteOnly));
+        list.write(R"({"abilities": {"duplex": false, "extraFeatures": true}, "papers": [
+            {"sheet": "Gloss A4", "width": 210, "surface": 1, "resolutions": [610, 300], "tones": [2]},
+            {"roll": 152.4, "surfaces": [2, 4], "resolutions": [610], "tones": [1, 6]}]})");
+        list.setPermissions(list.permissions() | QFileDevice::ReadOther);
+        ASSERT_TRUE(
+            server.addQueue(q(name), QString(), q("halvern://virtual/%1%2").arg(q(name), q(faults)), more))
+            << qPrintable(server.error());
+    }
+
+    void start(QProcess& program, const QStringList& arguments)
+    {
+        program.start(QStringLiteral(HALVERN_PRINT_PROGRAM), QStringList{q("--list-papers")} + arguments);
+    }
+
+    int finish(QProcess& program)
+    {
+        EXPECT_TRUE(program.waitForFinished(60000));
+        out = QString::fromUtf8(program.readAllStandardOutput());
+        err = QString::fromUtf8(program.readAllStandardError());
+        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    }
+
+    int run(const QStringList& arguments)
+    {
+        QProcess program;
+        start(program, arguments);
+        return finish(program);
+    }
+
+    static jobs::JobList activeJobs(const char* queue)
+    {
+        return jobs::Server().jobs(q(queue), jobs::Which::active);
+    }
+
+    PrivateCups server;
+    QString out;
+    QString err;
+};
+
+TEST_F(ListPapers, TellsWhatIsKnownAndAsksOnlyWhenTold)
+{
+    addQueue("Photo", "");
+    EXPECT_EQ(run({}), 0) << qPrintable(err);
+    EXPECT_TRUE(out.startsWith(q("Photo: last updated never\n"))) << qPrintable(out);
+    EXPECT_TRUE(jobs::Server().jobs(q("Photo"), jobs::Which::completed).isEmpty());
+
+    EXPECT_EQ(run({q("--refresh"), q("--printer"), q("Photo")}), 0) << qPrintable(err);
+    const QStringList lines = out.split(QLatin1Char('\n'));
+    ASSERT_EQ(lines.size(), 7) << qPrintable(out);
+    EXPECT_TRUE(lines[0].contains(q("(just now)"))) << qPrintable(out);
+    EXPECT_EQ(lines[2].simplified(), q("Gloss A4 1 - Gloss 300, 610 dpi Standard, Soft"));
+    EXPECT_EQ(lines[4].simplified(), q("152.4 mm 2 - Satin 610 dpi Standard, Vivid, Black and White"));
+    EXPECT_EQ(lines[5].simplified(), q("152.4 mm 4 - Thin Silk 610 dpi Standard, Vivid, Black and White"));
+
+    const QString known = out.section(QLatin1Char('\n'), 1);
+    EXPECT_EQ(run({}), 0);
+    EXPECT_EQ(out.section(QLatin1Char('\n'), 1), known);
+    EXPECT_EQ(run({q("--printer"), q("Nowhere")}), 1);
+    EXPECT_TRUE(err.contains(q("no printer \"Nowhere\"")) && err.contains(q("Photo"))) << qPrintable(err);
+}
+
+TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
+{
+    struct Case {
+        const char* queue;
+        const char* faults;
+        QStringList more;
+        const char* sentence;
+    };
+
+    const Case cases[] = {
+        {"Holding", "?hold", {}, "was held"},
+        {"Refusing", "?reject", {}, "was cancelled"},
+        {"Stopping", "?stop&reason=cover-open", {}, "the cover is open"},
+        {"Breaking", "?filter-fails", {}, "could not be processed"},
+        {"Garbling", "?garbled", {}, "cannot be read (corrupt: "},
+        {"Paused", "", {q("--disabled")}, "does not work at the moment (paused)"},
+        {"Closed", "", {q("--rejecting")}, "does not accept jobs"},
+    };
+    for (const Case& each : cases) {
+        addQueue(each.queue, each.faults, each.more);
+        EXPECT_EQ(run({q("--refresh"), q("--printer"), q(each.queue)}), 1) << each.queue;
+        EXPECT_TRUE(err.contains(q(each.sentence))) << each.queue << ": " << qPrintable(err);
+        EXPECT_TRUE(waitUntil([&] { return activeJobs(each.queue).isEmpty(); })) << each.queue;
+        EXPECT_TRUE(out.startsWith(q(each.queue))) << "what is known is listed all the same";
+    }
+}
+
+TEST_F(ListPapers, ABusyPrinterIsNotAskedAndADyingServerEndsTheWaiting)
+{
+    addQueue("Slow", "?slow=60");
+    QProcess first;
+    start(first, {q("--refresh")});
+    ASSERT_TRUE(waitUntil([&] {
+        const auto active = activeJobs("Slow");
+        return active.size() == 1 && active.front().state == jobs::kProcessing;
+    }));
+    EXPECT_EQ(run({q("--refresh")}), 1);
+    EXPECT_TRUE(err.contains(q("busy with another job"))) << qPrintable(err);
+    ASSERT_TRUE(server.stop());
+    EXPECT_EQ(finish(first), 1);
+    EXPECT_TRUE(err.contains(q("cannot be reached"))) << qPrintable(err);
+}
+
+TEST(PaperHeading, TellsTheAgeInUnitsThatFit)
+{
+    const QDateTime now(QDate(2026, 11, 21), QTime(12, 0), Qt::UTC);
+    const auto heading = [&](qint64 seconds) {
+        LoadedPapers loaded;
+        loaded.lastUpdate = now.addSecs(-seconds);
+        return paperHeading(q("X"), loaded, now);
+    };
+    EXPECT_TRUE(heading(-30).endsWith(q("(just now)")));
+    EXPECT_TRUE(heading(119 * 60).endsWith(q("(119 min ago)")));
+    EXPECT_TRUE(heading(120 * 60).endsWith(q("(2 h ago)")));
+    EXPECT_TRUE(heading(48 * 3600).endsWith(q("(2 days ago)")));
+}
+
+} // namespace
+
+} // namespace halvern
