@@ -8,8 +8,11 @@
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPixmap>
+#include <QProcess>
 #include <QPushButton>
 #include <QTest>
 
@@ -66,10 +69,17 @@ QString DemoSteps::run(const QString& step)
         dialog_.close();
         return {};
     }
+    if (verb == QLatin1StringView("run"))
+        return runCommand(step.section(QLatin1Char(' '), 1));
+    const QString value = step.section(QLatin1Char(' '), 2);
+    for (const char* waiting : {"shown", "gone", "offers", "lacks"}) {
+        if (verb == QLatin1StringView(waiting))
+            return waitFor(verb, first, value);
+    }
     QWidget* target = find(first);
     if (!target)
         return QStringLiteral("there is no visible control %1").arg(first);
-    const QString problem = onTarget(verb, *target, step.section(QLatin1Char(' '), 2));
+    const QString problem = onTarget(verb, *target, value);
     QCoreApplication::processEvents();
     if (problem.isEmpty())
         out_ << verb << ' ' << first << ": now \"" << controlText(*target) << '"' << Qt::endl;
@@ -129,7 +139,16 @@ QString DemoSteps::type(QWidget& target, const QString& text)
 {
     target.setFocus();
     QTest::keyClick(&target, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&target, text);
+    // Characters that no key of the test's keyboard has arrive as an input method would send them.
+    for (const QChar& character : text) {
+        if (character.unicode() < 0x80) {
+            QTest::keyClick(&target, character.toLatin1());
+            continue;
+        }
+        QInputMethodEvent composed;
+        composed.setCommitString(character);
+        QCoreApplication::sendEvent(&target, &composed);
+    }
     QTest::keyClick(&target, Qt::Key_Tab);
     return {};
 }
@@ -160,6 +179,40 @@ QString DemoSteps::slide(QWidget& target, const QString& value)
         if (qFuzzyCompare(before + 1.0, now() + 1.0) || (before < wanted) != (now() < wanted))
             break;
     }
+    return {};
+}
+
+QString DemoSteps::waitFor(const QString& verb, const QString& target, const QString& value)
+{
+    const auto isSo = [&] {
+        const QWidget* widget = find(target);
+        if (verb == QLatin1StringView("gone"))
+            return !widget;
+        if (verb == QLatin1StringView("shown"))
+            return widget && (value.isEmpty() || controlText(*widget) == value);
+        const auto* box = qobject_cast<const QComboBox*>(widget);
+        const bool offers = box && (box->findData(value) >= 0 || box->findText(value) >= 0);
+        return verb == QLatin1StringView("offers") ? offers : box && !offers;
+    };
+    QElapsedTimer time;
+    time.start();
+    if (!QTest::qWaitFor(isSo, kPatienceMilliseconds))
+        return QStringLiteral("it did not come to that");
+    out_ << verb << ' ' << target << ' ' << value << ": after " << time.elapsed() << " ms" << Qt::endl;
+    return {};
+}
+
+QString DemoSteps::runCommand(const QString& command)
+{
+    QProcess shell;
+    shell.setProcessChannelMode(QProcess::MergedChannels);
+    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
+    const auto hasEnded = [&] { return shell.state() == QProcess::NotRunning; };
+    const bool ended = QTest::qWaitFor(hasEnded, kPatienceMilliseconds);
+    const QString said = QString::fromUtf8(shell.readAll()).trimmed();
+    if (!ended || shell.exitStatus() != QProcess::NormalExit || shell.exitCode() != 0)
+        return QStringLiteral("the command failed: %1").arg(said);
+    out_ << "run: " << command << ' ' << said << Qt::endl;
     return {};
 }
 

@@ -27,6 +27,8 @@ private:
     QString choose(QWidget& target, const QString& choice);
     QString type(QWidget& target, const QString& text);
     QString slide(QWidget& target, const QString& value);
+    QString waitFor(const QString& verb, const QString& target, const QString& value);
+    QString runCommand(const QString& command);
     QString screenshot(const QString& name);
     QString print();
     QWidget* find(const QString& target) const;

@@ -2,14 +2,17 @@
 
 #include "platform/printing/printer.h"
 
-#include <QCoreApplication>
 #include <QThread>
 
 namespace halvern {
 
 Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
            bool forWorkers)
-    : source_(&source), printer_(std::move(printer)), file_(std::move(file)), forWorkers_(forWorkers)
+    : source_(&source),
+      printer_(std::move(printer)),
+      file_(std::move(file)),
+      mainThread_(QThread::currentThreadId()),
+      forWorkers_(forWorkers)
 {
 }
 
@@ -42,7 +45,7 @@ std::shared_ptr<PageFormat> Host::pageFormat()
 
 std::shared_ptr<Printer> Host::pmPrinter()
 {
-    if (!forWorkers_ && QThread::currentThread() != QCoreApplication::instance()->thread())
+    if (!forWorkers_ && QThread::currentThreadId() != mainThread_)
         return nullptr;
     const QMutexLocker lock(&printerMutex_);
     return printer_;

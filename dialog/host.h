@@ -46,6 +46,7 @@ private:
     mutable QMutex printerMutex_; // pmPrinter() is asked by background waits too
     std::shared_ptr<Printer> printer_;
     std::shared_ptr<ppd_file_t> file_;
+    const Qt::HANDLE mainThread_; // workers may ask after the application object has gone
     const bool forWorkers_;
 };
 

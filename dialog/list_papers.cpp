@@ -7,6 +7,7 @@
 #include "dialog/plugin_loader.h"
 #include "dialog/printer_list.h"
 #include "dialog/queue_ppd.h"
+#include "dialog/quit_signals.h"
 #include "dialog/saved_options.h"
 #include "panels/features/inquiry/printer_inquiry.h"
 #include "platform/foundation/bundle.h"
@@ -36,6 +37,8 @@ public:
         const std::optional<QDateTime> before = readLoadedPapers(file_.get()).lastUpdate;
         // What is known is listed all the same: it may be enough for now.
         bool isAsAsked = !request_.refresh || (ask() && fetch());
+        if (quitWasSignalled())
+            return kExitFailed;
         const LoadedPapers loaded = readLoadedPapers(file_.get());
         if (isAsAsked && request_.refresh && loaded.lastUpdate == before)
             isAsAsked =
@@ -95,7 +98,7 @@ private:
             resting_ = isResting(status.stage) ? whyNot(status) : QString();
             if (resting_.isEmpty())
                 tellProgress(jobReasons(status));
-            return resting_.isEmpty();
+            return resting_.isEmpty() && !quitWasSignalled();
         });
         switch (result.end) {
         case End::reported:
@@ -104,7 +107,8 @@ private:
             return fail(tr("The printer \"%1\" is busy with another job. Ask again when that has ended.")
                             .arg(queue_));
         case End::abandoned:
-            return fail(resting_);
+            return fail(resting_.isEmpty() ? tr("The question to \"%1\" was taken back.").arg(queue_)
+                                           : resting_);
         case End::failed:
             break;
         }

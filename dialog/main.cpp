@@ -2,6 +2,8 @@
 #include "dialog/batch_print.h"
 #include "dialog/plugin_loader.h"
 #include "dialog/print_dialog.h"
+#include "dialog/quit_signals.h"
+#include "platform/foundation/work_queue.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -9,6 +11,8 @@
 namespace {
 
 using namespace halvern;
+
+constexpr int kLongestTidying = 3000; // milliseconds
 
 int runDialog(const CommandLine& line)
 {
@@ -21,6 +25,7 @@ int runDialog(const CommandLine& line)
     PrintDialog dialog(session);
     dialog.show();
     session.start();
+    onQuitSignal(&dialog, [&dialog] { dialog.done(QDialog::Rejected); });
     QObject::connect(&dialog, &QDialog::finished, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
     waitForUnfinishedRun(dialog.run());
@@ -50,6 +55,7 @@ int runBatch(const CommandLine& line)
 
 int runListing(const ListPapersRequest& request)
 {
+    watchQuitSignals();
     QTextStream out(stdout);
     QTextStream err(stderr);
     const PluginLoader panels;
@@ -78,6 +84,8 @@ int main(int argc, char** argv)
     for (const QString& remark : parsed.remarks)
         QTextStream(stderr) << remark << Qt::endl;
     const int status = run(*parsed.commandLine);
+    // Command jobs of panels that have gone are taken back by their watches.
+    waitForWorkQueues(kLongestTidying);
     finishQueuedWork();
     return status;
 }

@@ -90,19 +90,23 @@ void RZFeaturesPDEHalvern::setDuplexAvailable()
 
 void RZFeaturesPDEHalvern::setBindingMarginAvailable()
 {
-    const bool available = availability::isEnabled(popup(features::kTwoSidedTag)) &&
-                           !hostValueIs(QStringLiteral("TwoSided"), kNone);
-    setAvailable(features::kBindingMarginTag, available, reasons::kNeedsTwoSided);
+    const bool canTurn = availability::isEnabled(popup(features::kTwoSidedTag));
+    const bool available = canTurn && !hostValueIs(QStringLiteral("TwoSided"), kNone);
+    setAvailable(features::kBindingMarginTag, available,
+                 canTurn ? reasons::kNeedsTwoSided : reasons::kNoTwoSided);
     setBindingWidthAvailable();
     didSelectTwoSided(nullptr);
 }
 
 void RZFeaturesPDEHalvern::setBindingWidthAvailable()
 {
-    const bool available = availability::isEnabled(popup(features::kBindingMarginTag)) &&
-                           !hostValueIs(QStringLiteral("BindingMargin"), kNone);
-    setAvailable(features::kBindingWidthTag, available, reasons::kNeedsMargin);
-    setAvailable(features::kBindingWidthStepperTag, available, reasons::kNeedsMargin);
+    const bool hasMargins = availability::isEnabled(popup(features::kBindingMarginTag));
+    const bool available = hasMargins && !hostValueIs(QStringLiteral("BindingMargin"), kNone);
+    const bool canTurn = availability::isEnabled(popup(features::kTwoSidedTag));
+    const char* why =
+        hasMargins ? reasons::kNeedsMargin : (canTurn ? reasons::kNeedsTwoSided : reasons::kNoTwoSided);
+    setAvailable(features::kBindingWidthTag, available, why);
+    setAvailable(features::kBindingWidthStepperTag, available, why);
 }
 
 void RZFeaturesPDEHalvern::didSelectTwoSided(const void*)

@@ -10,6 +10,13 @@
 
 namespace halvern {
 
+namespace {
+
+// A record may hold anything, and the log is not the place to keep it.
+constexpr int kLongestLoggedPaper = 4000;
+
+} // namespace
+
 std::shared_ptr<const PaperCatalogue> RZFeaturesPDEHalvern::unsortedPaper() const
 {
     return paperDict.get();
@@ -57,7 +64,7 @@ void RZFeaturesPDEHalvern::updatePaperInfo(const Notification*)
     logLine(QStringLiteral("paper count is %1").arg(catalogue.size()));
     const IndexedCatalogue found = indexCatalogue(catalogue);
     for (const QVariant& bad : found.badPapers)
-        logLine(QStringLiteral("bad paper: %1").arg(descriptionOf(bad)));
+        logLine(QStringLiteral("bad paper: %1").arg(descriptionOf(bad).left(kLongestLoggedPaper)));
     // What the menus hold until a new index rebuilds them, and keep if the index is the one held.
     QList<control::MenuItem> names;
     for (const QString& name : found.namesMet)

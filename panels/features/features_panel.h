@@ -2,6 +2,7 @@
 
 #include "panel_base/base_panel.h"
 #include "panels/features/paper_index.h"
+#include "platform/foundation/work_queue.h"
 
 #include <QDateTime>
 
@@ -231,6 +232,7 @@ private:
     mutable std::optional<QString> sortedPaperText_;
     std::atomic<bool> _waitingOnPaper = false;
     bool _firstRun = false;
+    WorkQueue paperNews_;
     bool refusingSheet_ = false;
 };
 

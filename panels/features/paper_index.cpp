@@ -11,6 +11,9 @@ namespace {
 
 constexpr int kTenths = 10;
 
+// Up to here a real number becomes a whole one.
+constexpr double kWhole64 = 9.2e18;
+
 bool isNumber(const QVariant& value)
 {
     switch (value.typeId()) {
@@ -45,8 +48,10 @@ quint32 lowBits(const QVariant& value)
 {
     if (value.typeId() == QMetaType::QString)
         return quint32(leadingInteger(value.toString()));
-    if (value.typeId() == QMetaType::Double)
-        return quint32(truncatedToInt(value.toDouble()));
+    if (value.typeId() == QMetaType::Double) {
+        const double number = value.toDouble();
+        return number > -kWhole64 && number < kWhole64 ? quint32(qint64(number)) : 0U;
+    }
     return isNumber(value) ? quint32(value.toULongLong()) : 0U;
 }
 

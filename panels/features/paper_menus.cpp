@@ -126,10 +126,13 @@ void RZFeaturesPDEHalvern::setAvailable(int tag, bool available, const char* why
 void RZFeaturesPDEHalvern::enableControlsForPaperFeed()
 {
     const bool sheet = isFeedSheet();
-    setAvailable(features::kNameTag, sheet, reasons::kNeedsSheetFeed);
+    // Nobody is told to choose a feed that cannot be chosen.
+    const bool hasSheets = _sortedPaper && !_sortedPaper->names.isEmpty();
+    const bool hasRolls = _sortedPaper && !_sortedPaper->widths.isEmpty();
+    setAvailable(features::kNameTag, sheet, hasSheets ? reasons::kNeedsSheetFeed : reasons::kNoSheets);
     for (const int tag : {features::kOverspillTag, features::kOverspillStepperTag, features::kWidthTag,
                           features::kSurfaceTag})
-        setAvailable(tag, !sheet, reasons::kNeedsRollFeed);
+        setAvailable(tag, !sheet, hasRolls ? reasons::kNeedsRollFeed : reasons::kNoRolls);
     const auto log = [](const QString& what, bool enabled) {
         logLine(QStringLiteral("setting %1 to %2")
                     .arg(what, enabled ? QStringLiteral("enabled") : QStringLiteral("disabled")));

@@ -130,7 +130,8 @@ void RZFeaturesPDEHalvern::pdelastRefreshTimeUpdateWithDate(const std::optional<
 
 bool RZFeaturesPDEHalvern::ppdDataIsStale()
 {
-    return isRefreshStale(lastUpdateDate(), QDateTime::currentDateTimeUtc());
+    const std::optional<QDateTime> date = lastUpdateDate();
+    return isRefreshStale(date, QDateTime::currentDateTimeUtc());
 }
 
 QProgressBar* RZFeaturesPDEHalvern::progressIndicator()
@@ -200,7 +201,9 @@ void RZFeaturesPDEHalvern::newPaperDict(const DistributedNotification& notificat
     logLine(QStringLiteral("entering %1 for %2 with object %3")
                 .arg(operationName(kRefreshClass, "newPaperDict:"), notification.name,
                      notification.object.value_or(QStringLiteral("(null)"))));
-    updatePaperDict();
+    // Off the main thread, which a silent server would hold up; in order, so that the second delivery finds
+    // what the first has brought.
+    paperNews_.async([self = sharedSelf()] { self->updatePaperDict(); });
 }
 
 void RZFeaturesPDEHalvern::printInfoDidChange(const DistributedNotification& notification)

@@ -153,6 +153,7 @@ WorkQueue::WorkQueue() : state_(std::make_shared<State>()) {}
 
 bool WorkQueue::async(std::function<void()> work) const
 {
+    std::deque<std::function<void()>> lost; // let go of after the lock: it may hold a last reference
     const std::scoped_lock lock(state_->mutex);
     state_->work.push_back(std::move(work));
     if (std::exchange(state_->running, true))
@@ -168,7 +169,7 @@ bool WorkQueue::async(std::function<void()> work) const
     } catch (const std::system_error& error) {
         busyThreads().add(-1);
         state_->running = false;
-        state_->work.clear();
+        lost.swap(state_->work);
         logLine(
             QStringLiteral("no thread for background work: %1").arg(QString::fromLocal8Bit(error.what())));
         return false;

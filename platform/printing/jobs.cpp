@@ -111,7 +111,8 @@ _http_s* Server::http()
 JobList Server::jobs(const QString& destination, Which which)
 {
     JobList result;
-    if (!http())
+    // Without a name the server would answer for all queues.
+    if (destination.isEmpty() || !http())
         return result;
     const CupsJobs found(http(), destination.toUtf8(),
                          which == Which::active ? CUPS_WHICHJOBS_ACTIVE : CUPS_WHICHJOBS_COMPLETED);
@@ -131,7 +132,7 @@ bool Server::cancelAndPurge(const QString& destination, int id)
 // beyond our time limit (measured: 124 s for a server that has stopped answering).
 int Server::createJob(const QString& destination, const QString& title)
 {
-    if (!http())
+    if (destination.isEmpty() || !http())
         return 0;
     const QByteArray queue = destination.toUtf8();
     std::array<char, HTTP_MAX_URI> uri{};

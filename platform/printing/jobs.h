@@ -45,7 +45,7 @@ public:
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
 
-    /// All users' jobs of the destination, in the server's order; none after an error.
+    /// All users' jobs of the destination, in the server's order; none after an error or without a name.
     JobList jobs(const QString& destination, Which which);
 
     /// Cancels a job and removes it from the server's history. False if the server refuses, or if the ID is

@@ -2,9 +2,12 @@
 
 #include "platform/printing/cups_ppd.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QThread>
 
 #include <charconv>
+#include <chrono>
 #include <cmath>
 
 #include <sys/socket.h>
@@ -13,8 +16,21 @@ namespace halvern::ppd {
 
 namespace {
 
-constexpr int kConnectMs = 5000;
-constexpr double kAnswerSeconds = 5.0;
+// How long a server may be silent. Somebody is looking at the main thread.
+constexpr int kPatience = 5;
+constexpr int kMainThreadPatience = 2;
+
+// So long the main thread does not ask a server again that has kept it waiting: one choice of the user's may
+// ask several times.
+constexpr std::chrono::seconds kMainThreadRespite(10);
+
+using Clock = std::chrono::steady_clock;
+
+bool isMainThread()
+{
+    const QCoreApplication* app = QCoreApplication::instance();
+    return app && app->thread() == QThread::currentThread();
+}
 
 struct HttpClose {
     void operator()(http_t* http) const { httpClose(http); }
@@ -70,17 +86,32 @@ File open(const QString& path, QString* why)
 
 std::optional<QString> fetch(const QString& destination)
 {
-    const Connection http(
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kConnectMs, nullptr));
+    // The main thread's only.
+    static Clock::time_point silentSince;
+    static QByteArray silentServer;
+    const bool isMain = isMainThread();
+    if (isMain && silentServer == cupsServer() && Clock::now() - silentSince < kMainThreadRespite)
+        return std::nullopt;
+    const int patience = isMain ? kMainThreadPatience : kPatience;
+    const Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                       patience * 1000, nullptr));
     if (!http)
         return std::nullopt;
     // A server that has stopped would otherwise hold the caller for ever.
+    bool wasSilent = false;
     httpSetTimeout(
-        http.get(), kAnswerSeconds, [](http_t*, void*) { return 0; }, nullptr);
+        http.get(), patience,
+        [](http_t*, void* silent) {
+            *static_cast<bool*>(silent) = true;
+            return 0;
+        },
+        &wasSilent);
     const char* path = cupsGetPPD2(http.get(), destination.toUtf8().constData());
-    if (!path)
-        return std::nullopt;
-    return QFile::decodeName(path);
+    if (isMain) {
+        silentServer = wasSilent && !path ? QByteArray(cupsServer()) : QByteArray();
+        silentSince = Clock::now();
+    }
+    return path ? std::optional<QString>(QFile::decodeName(path)) : std::nullopt;
 }
 
 std::optional<QString> attribute(ppd_file_t* file, const QString& keyword)

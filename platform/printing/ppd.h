@@ -27,8 +27,8 @@ using File = std::unique_ptr<ppd_file_t, Closer>;
 File open(const QString& path, QString* why = nullptr);
 
 /// cupsGetPPD: asks the CUPS server for the queue's current PPD on a connection of its own; blocks, for
-/// seconds at most when the server does not answer. The answer is the path of a temporary file that the
-/// caller removes; nothing if it cannot be had.
+/// seconds at most when the server does not answer: the main thread for two, and then not at all for a while.
+/// The answer is the path of a temporary file that the caller removes; nothing if it cannot be had.
 std::optional<QString> fetch(const QString& destination);
 
 /// The value of the first attribute with the keyword, whatever its spec; nothing if there is none or it has

@@ -803,5 +803,9 @@
         <source>Tones</source>
         <translation>Tonwerte</translation>
     </message>
+    <message>
+        <source>The question to "%1" was taken back.</source>
+        <translation>Die Anfrage an „%1“ wurde zurückgenommen.</translation>
+    </message>
 </context>
 </TS>

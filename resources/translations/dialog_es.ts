@@ -803,5 +803,9 @@
         <source>Tones</source>
         <translation>Tonos</translation>
     </message>
+    <message>
+        <source>The question to "%1" was taken back.</source>
+        <translation>Se ha retirado la consulta a «%1».</translation>
+    </message>
 </context>
 </TS>

@@ -803,5 +803,9 @@
         <source>Tones</source>
         <translation>Tons</translation>
     </message>
+    <message>
+        <source>The question to "%1" was taken back.</source>
+        <translation>La demande à « %1 » a été retirée.</translation>
+    </message>
 </context>
 </TS>

@@ -803,5 +803,9 @@
         <source>Tones</source>
         <translation>トーン</translation>
     </message>
+    <message>
+        <source>The question to "%1" was taken back.</source>
+        <translation>「%1」への問い合わせを取り消しました。</translation>
+    </message>
 </context>
 </TS>
