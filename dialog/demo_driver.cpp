@@ -5,6 +5,7 @@
 #include "dialog/demo_steps.h"
 #include "dialog/plugin_loader.h"
 #include "dialog/print_dialog.h"
+#include "platform/foundation/work_queue.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,6 +24,8 @@ constexpr char kUsage[] =
     "comment.\n"
     "shown, gone, offers and lacks wait until it is so; run waits until the shell command has ended.\n";
 
+constexpr int kLongestTidying = 3000; // milliseconds
+
 QStringList readSteps(const QString& path)
 {
     QStringList steps;
@@ -37,6 +40,26 @@ QStringList readSteps(const QString& path)
     return steps;
 }
 
+int drive(const SessionRequest& request, const QStringList& steps, const QString& screens)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    PluginLoader panels;
+    DialogSession session(request, panels);
+    PrintDialog dialog(session);
+    dialog.show();
+    session.start();
+    DemoSteps demo(dialog, session, screens, out);
+    for (const QString& step : steps) {
+        const QString problem = demo.run(step);
+        if (!problem.isEmpty()) {
+            err << "Step \"" << step << "\" failed: " << problem << Qt::endl;
+            return kExitFailed;
+        }
+    }
+    return kExitPrinted;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -46,7 +69,6 @@ int main(int argc, char** argv)
     prepareProcess();
     QApplication app(argc, argv);
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
-    QTextStream out(stdout);
     QTextStream err(stderr);
     QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 4) {
@@ -63,18 +85,8 @@ int main(int argc, char** argv)
             << Qt::endl;
         return kExitUsage;
     }
-    PluginLoader panels;
-    DialogSession session(parsed.commandLine->request, panels);
-    PrintDialog dialog(session);
-    dialog.show();
-    session.start();
-    DemoSteps demo(dialog, session, screens, out);
-    for (const QString& step : steps) {
-        const QString problem = demo.run(step);
-        if (!problem.isEmpty()) {
-            err << "Step \"" << step << "\" failed: " << problem << Qt::endl;
-            return kExitFailed;
-        }
-    }
-    return kExitPrinted;
+    const int status = drive(parsed.commandLine->request, steps, screens);
+    waitForWorkQueues(kLongestTidying);
+    finishQueuedWork();
+    return status;
 }

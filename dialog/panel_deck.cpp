@@ -225,6 +225,13 @@ void PanelDeck::takeShownView()
         before->setParent(this);
 }
 
+void PanelDeck::pausePanels()
+{
+    const PanelList pausing = session_.panels();
+    for (const std::shared_ptr<Panel>& panel : pausing)
+        panel->shouldHide();
+}
+
 void PanelDeck::resumePanel()
 {
     if (shown_)

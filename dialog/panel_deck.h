@@ -31,7 +31,11 @@ public:
     /// Hides the shown panel and hands its view back, before the panels or this widget go.
     void releasePanels();
 
-    /// Tells the shown panel that it is shown, after saving has marked it as leaving.
+    /// Has all panels end what they do in the background, the shown one and those never shown, so that no
+    /// question to the printer stands before a job that is about to be sent.
+    void pausePanels();
+
+    /// Tells the shown panel that it is shown again, after saving or a pause has marked it as leaving.
     void resumePanel();
 
     /// Lets the shown panel open its help. False if no panel is shown or it leaves that to the dialog.

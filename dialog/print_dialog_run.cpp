@@ -40,6 +40,7 @@ void PrintDialog::print()
     delete run_;
     message_->clear();
     run_ = session_.makeRun();
+    deck_->pausePanels();
     followRun();
     progress_->setRange(0, kProgressSteps);
     progress_->setValue(0);

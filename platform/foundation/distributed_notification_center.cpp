@@ -9,16 +9,26 @@
 #include <QCoreApplication>
 #include <QPointer>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
 namespace halvern {
+
+namespace {
+
+constexpr int kFirstRetryMs = 500;
+constexpr int kLongestRetryMs = 60 * 1000;
+
+} // namespace
 
 struct DistributedNotificationCenter::State : std::enable_shared_from_this<State> {
     ObserverRegistry<std::optional<QString>, Handler> registry;
     // The rest belongs to the main thread. The application object owns the listener.
     QPointer<SystemBusListener> listener;
     bool logged = false;
+    bool hadBus = false;
+    int retryMs = kFirstRetryMs;
 
     ~State()
     {
@@ -46,9 +56,15 @@ void DistributedNotificationCenter::State::connectToBus()
                    });
                }).release();
     listener->setParent(QCoreApplication::instance());
-    QObject::connect(listener, &SystemBusListener::lost, listener, [weak](int status) {
-        if (const auto state = weak.lock())
-            state->gone(status);
+    QObject::connect(listener, &SystemBusListener::lost, listener, [weak](int status, bool wasSubscribed) {
+        const auto state = weak.lock();
+        if (!state)
+            return;
+        if (wasSubscribed) {
+            state->hadBus = true;
+            state->retryMs = kFirstRetryMs;
+        }
+        state->gone(status);
     });
     if (const int status = listener->open(); status < 0)
         gone(status);
@@ -62,6 +78,15 @@ void DistributedNotificationCenter::State::gone(int status)
     if (listener)
         listener->deleteLater();
     listener.clear();
+    // A bus that was there is started anew by the system; one that never was is no use to wait for.
+    if (!hadBus || registry.isEmpty())
+        return;
+    const std::weak_ptr<State> weak = weak_from_this();
+    mainQueue().after(retryMs, [weak] {
+        if (const auto state = weak.lock())
+            state->connectToBus();
+    });
+    retryMs = std::min(2 * retryMs, kLongestRetryMs);
 }
 
 DistributedNotificationCenter& DistributedNotificationCenter::defaultCenter()

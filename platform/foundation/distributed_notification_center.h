@@ -19,8 +19,9 @@ struct DistributedNotification {
 /// (notification_bus.h) is delivered on the main thread, from its event loop, in the order of registration.
 ///
 /// The first registration starts to connect, without waiting: a bus that is missing or slow holds up nobody.
-/// Without a bus nothing is ever delivered; that is logged once, and the next registration tries again. All
-/// operations may be called from any thread, also from within a handler.
+/// Without a bus nothing is ever delivered; that is logged once, and the next registration tries again. A bus
+/// that breaks off is looked for again, more and more seldom, as long as somebody observes. All operations
+/// may be called from any thread, also from within a handler.
 class DistributedNotificationCenter {
 public:
     using Handler = std::function<void(const DistributedNotification&)>;

@@ -39,6 +39,12 @@ public:
         entries_.erase(first, entries_.end());
     }
 
+    bool isEmpty()
+    {
+        const std::scoped_lock lock(mutex_);
+        return entries_.empty();
+    }
+
     /// Calls the handlers that a notification is for, in the order of registration, without holding a lock.
     template <class Note> void deliver(const Note& note)
     {

@@ -131,8 +131,7 @@ void SystemBusListener::fail(int status)
     retire(readable_);
     retire(writable_);
     bus_.reset();
-    subscribed_ = false;
-    Q_EMIT lost(status);
+    Q_EMIT lost(status, std::exchange(subscribed_, false));
 }
 
 } // namespace halvern

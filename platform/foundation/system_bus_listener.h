@@ -35,9 +35,9 @@ public:
 
 Q_SIGNALS:
 
-    /// The connection has failed or broken off, for the reason of the negative errno. The listener is of no
-    /// further use; delete it later.
-    void lost(int status);
+    /// The connection has failed, or broken off after it was subscribed, for the reason of the negative
+    /// errno. The listener is of no further use; delete it later.
+    void lost(int status, bool wasSubscribed);
 
 private:
     struct Calls;

@@ -1,11 +1,16 @@
 #include "tests/panels/features/features_fixture.h"
 
+#include "platform/foundation/distributed_notification_center.h"
+#include "platform/foundation/work_queue.h"
 #include "platform/printing/jobs.h"
+#include "tests/support/child_process.h"
 #include "tests/support/private_cups.h"
 
 #include <QFile>
 #include <QLabel>
 #include <QProgressBar>
+
+#include <semaphore>
 
 namespace halvern {
 
@@ -30,13 +35,38 @@ protected:
 
     void open(const QString& faults)
     {
-        const QString uri = QStringLiteral("halvern://virtual/Photo") + faults;
-        ASSERT_TRUE(loadPapers());
-        ASSERT_TRUE(server.addQueue(QStringLiteral("Photo"), QString(), uri)) << qPrintable(server.error());
-        host = std::make_shared<FakeHost>(featuresPpd());
-        host->printer = std::make_shared<Printer>(QStringLiteral("Photo"), uri);
-        panel = makePanel<RZFeaturesPDEHalvern>(host);
+        addQueue(QStringLiteral("Photo"), faults);
+        panel = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Photo"), faults);
         ASSERT_TRUE(panel);
+    }
+
+    void addQueue(const QString& name, const QString& faults)
+    {
+        ASSERT_TRUE(loadPapers());
+        ASSERT_TRUE(server.addQueue(name, QString(), uriOf(name, faults))) << qPrintable(server.error());
+    }
+
+    static QString uriOf(const QString& name, const QString& faults)
+    {
+        return QStringLiteral("halvern://virtual/") + name + faults;
+    }
+
+    // As another dialog would have it, with a host of its own.
+    template <class P> std::shared_ptr<P> panelOn(const QString& queue, const QString& faults = QString())
+    {
+        const auto ownHost = std::make_shared<FakeHost>(featuresPpd());
+        ownHost->printer = std::make_shared<Printer>(queue, uriOf(queue, faults));
+        return makePanel<P>(ownHost);
+    }
+
+    // Changes what is loaded while the server runs; the printer reports it by a job of its own.
+    void printerPapers(const QStringList& arguments)
+    {
+        ASSERT_TRUE(waitUntil([] { return DistributedNotificationCenter::defaultCenter().isConnected(); }));
+        ChildProcess script;
+        ASSERT_TRUE(script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/printer-papers"),
+                                 QStringList{server.dir(), QStringLiteral("Photo")} + arguments));
+        ASSERT_EQ(script.wait(), 0) << script.standardError().constData();
     }
 
     // Loads one cut sheet and one roll into the printer.
@@ -61,9 +91,11 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    QComboBox* names() const
+    QComboBox* names() const { return menuOf(*panel, kNameTag); }
+
+    static QComboBox* menuOf(RZFeaturesPDEHalvern& shown, int tag)
     {
-        return qobject_cast<QComboBox*>(panel->view_controlForTag(nullptr, kNameTag));
+        return qobject_cast<QComboBox*>(shown.view_controlForTag(nullptr, tag));
     }
 
     bool isJobRunning() const
@@ -77,13 +109,11 @@ protected:
     {
         const std::weak_ptr<RZFeaturesPDEHalvern> weak = panel;
         panel.reset();
-        host.reset();
         return waitUntil([&] { return weak.expired(); });
     }
 
     PrivateCups server;
     QTemporaryDir folder;
-    std::shared_ptr<FakeHost> host;
     std::shared_ptr<RZFeaturesPDEHalvern> panel;
 };
 
@@ -129,6 +159,151 @@ TEST_F(RefreshOnServer, AServerThatGoesDuringTheJobEndsTheWaiting)
     EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
     EXPECT_FALSE(panel->view_controlForTag(nullptr, kStatusTag)->isHidden());
 }
+
+TEST_F(RefreshOnServer, NewsOfPapersReachesEveryOpenDialogAndOnlyChangesItsOwnPrinters)
+{
+    open(QString());
+    ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
+    addQueue(QStringLiteral("Other"), QStringLiteral("?slow=60"));
+    const auto second = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Photo"));
+    const auto other = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Other"), QStringLiteral("?slow=60"));
+    ASSERT_TRUE(
+        waitUntil([&] { return menuOf(*second, kWidthTag) && menuOf(*second, kWidthTag)->count() == 1; }));
+
+    const LogCapture log;
+    printerPapers({QStringLiteral("take-out"), QStringLiteral("rolls")});
+    for (const auto& each : {panel, second}) {
+        EXPECT_TRUE(waitUntil([&] { return menuOf(*each, kWidthTag)->count() == 0; }));
+        EXPECT_EQ(menuOf(*each, kNameTag)->count(), 1);
+    }
+    const QString heard = QStringLiteral("entering -[RZFeaturesPDEHalvern newPaperDict:] for "
+                                         "VLXPrinterPaperDidUpdateNotification with object ") +
+                          uriOf(QStringLiteral("Photo"), QString());
+    // Twice by each of this printer's, once by the other's.
+    EXPECT_TRUE(waitUntil([&] { return log.count(heard) == 5; }));
+    ASSERT_TRUE(waitUntil([&] { return log.count(QStringLiteral("received new paper dictionary")) == 2; }));
+    EXPECT_FALSE(other->unsortedPaper());
+    EXPECT_TRUE(other->shouldHide());
+    EXPECT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
+}
+
+TEST_F(RefreshOnServer, ACatalogueThatBecomesCorruptLeavesThePapersAsTheyWere)
+{
+    open(QString());
+    ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
+    ASSERT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
+    addQueue(QStringLiteral("Photo"), QStringLiteral("?garbled"));
+    const auto held = panel->unsortedPaper();
+    const LogCapture log;
+    printerPapers({QStringLiteral("report")});
+    EXPECT_TRUE(waitUntil([&] { return log.count(QStringLiteral("PDE recovered 0 Tessarin Papers")) > 0; }));
+    EXPECT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
+    EXPECT_EQ(panel->unsortedPaper(), held);
+    EXPECT_EQ(names()->count(), 1);
+}
+
+/// The steps of a refresh, in order: each is reached on a background queue.
+enum class Step { check, send, create, watch, reread };
+
+/// The panel, with somebody who is called when it first reaches a step.
+class SteppedPanel : public RZFeaturesPDEHalvern {
+public:
+    static inline std::function<void(Step)> reached;
+
+    std::optional<QDateTime> lastUpdateDate() override
+    {
+        reached(Step::check);
+        return RZFeaturesPDEHalvern::lastUpdateDate();
+    }
+
+    void sendPrinterCommands(const QStringList& commands) override
+    {
+        reached(Step::send);
+        RZFeaturesPDEHalvern::sendPrinterCommands(commands);
+    }
+
+    // The last question before the job is created.
+    int activeJobIDForDesinationName(const QString& destination) override
+    {
+        const int active = RZFeaturesPDEHalvern::activeJobIDForDesinationName(destination);
+        reached(Step::create);
+        return active;
+    }
+
+    void waitForJobCompletion(int jobID) override
+    {
+        reached(Step::watch);
+        RZFeaturesPDEHalvern::waitForJobCompletion(jobID);
+    }
+
+    void ppdDidUpdate() override
+    {
+        reached(Step::reread);
+        RZFeaturesPDEHalvern::ppdDidUpdate();
+    }
+};
+
+class RefreshInterrupted : public RefreshOnServer, public testing::WithParamInterface<Step> {
+protected:
+    /// Opens a panel and does something on the main thread at the test's step; the step goes on after it.
+    void interruptBy(const std::function<void()>& something)
+    {
+        const auto isDone = std::make_shared<std::atomic<bool>>(false);
+        SteppedPanel::reached = [isDone, something](Step step) {
+            if (step != GetParam() || isDone->exchange(true))
+                return;
+            std::binary_semaphore done(0);
+            mainQueue().async([&] {
+                something();
+                done.release();
+            });
+            done.acquire();
+        };
+        addQueue(QStringLiteral("Photo"), QString());
+        panel = panelOn<SteppedPanel>(QStringLiteral("Photo"));
+        ASSERT_TRUE(panel);
+        ASSERT_TRUE(waitUntil([&] { return isDone->load(); }));
+        ASSERT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
+        drainMainQueue();
+    }
+
+    void TearDown() override
+    {
+        RefreshOnServer::TearDown();
+        SteppedPanel::reached = nullptr;
+    }
+};
+
+TEST_P(RefreshInterrupted, ByAServerThatGoesItEnds)
+{
+    interruptBy([&] { ASSERT_TRUE(server.stop()); });
+    EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
+    EXPECT_TRUE(waitUntil([&] { return panel->progressIndicator()->isHidden(); }));
+}
+
+TEST_P(RefreshInterrupted, ByHidingItLeavesNoJobAndShowingAgainBringsThePapers)
+{
+    interruptBy([&] { EXPECT_TRUE(panel->shouldHide()); });
+    EXPECT_TRUE(jobsOf(jobs::Which::active).isEmpty());
+    // Hidden before the check had found the data stale, the panel waits for a job that was never sent.
+    EXPECT_TRUE(panel->shouldHide());
+    drainMainQueue();
+    panel->willShow();
+    EXPECT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
+}
+
+TEST_P(RefreshInterrupted, ByClosingItLeavesNoJobAndNoPanel)
+{
+    interruptBy([&] {
+        panel->printWindowWillClose(false);
+        panel.reset();
+    });
+    EXPECT_TRUE(jobsOf(jobs::Which::active).isEmpty());
+    EXPECT_TRUE(letGo());
+}
+
+INSTANTIATE_TEST_SUITE_P(AtEachStep, RefreshInterrupted,
+                         testing::Values(Step::check, Step::send, Step::create, Step::watch, Step::reread));
 
 } // namespace
 

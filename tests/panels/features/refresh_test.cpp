@@ -211,6 +211,7 @@ TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
     EXPECT_EQ(log.count(kRecovered.arg(0)), 3);
     TestPrinter::load(archiveOf({QStringLiteral("Kept")}));
     panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
+    ASSERT_TRUE(waitForWorkQueues(20000));
     drainMainQueue();
     EXPECT_EQ(panel->unsortedPaper(), held);
     EXPECT_EQ(log.count(QStringLiteral("received new paper dictionary")), 0);

@@ -1,0 +1,89 @@
+// The dialog as a process, left while it asks the printer.
+#include "platform/printing/jobs.h"
+#include "tests/support/observers.h"
+#include "tests/support/private_cups.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace halvern {
+
+namespace {
+
+class LeavingDuringRefresh : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(server.isRunning()) << qPrintable(server.error());
+        ASSERT_TRUE(server.addQueue(QStringLiteral("Slow"), QString(),
+                                    QStringLiteral("halvern://virtual/Slow?slow=60&only=commands")))
+            << qPrintable(server.error());
+    }
+
+    static jobs::JobList activeJobs()
+    {
+        return jobs::Server().jobs(QStringLiteral("Slow"), jobs::Which::active);
+    }
+
+    static bool isAsking()
+    {
+        const auto active = activeJobs();
+        return active.size() == 1 && active.front().state == jobs::kProcessing;
+    }
+
+    /// Starts the dialog's driver with these steps.
+    void startDriver(QProcess& program, const char* steps)
+    {
+        QFile file(folder.filePath(QStringLiteral("steps")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(steps) > 0);
+        file.close();
+        program.start(QStringLiteral(HALVERN_DEMO_PROGRAM),
+                      {file.fileName(), folder.path(), QStringLiteral("--printer"), QStringLiteral("Slow"),
+                       QStringLiteral(HALVERN_DEMO_PHOTO)});
+    }
+
+    PrivateCups server;
+    QTemporaryDir folder;
+};
+
+TEST_F(LeavingDuringRefresh, ASignalEndsTheProgramAndTakesTheJobBack)
+{
+    QProcess program;
+    program.start(QStringLiteral(HALVERN_PRINT_PROGRAM),
+                  {QStringLiteral("--printer"), QStringLiteral("Slow"), QStringLiteral(HALVERN_DEMO_PHOTO)});
+    ASSERT_TRUE(waitUntil([] { return isAsking(); }));
+    ASSERT_EQ(::kill(pid_t(program.processId()), SIGTERM), 0);
+    ASSERT_TRUE(program.waitForFinished(30000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_TRUE(activeJobs().isEmpty());
+}
+
+TEST_F(LeavingDuringRefresh, ClosingTheDialogTakesTheJobBack)
+{
+    QProcess program;
+    startDriver(program, "ready\npage com.halvern.print.pde.features\nshown name:progress\nclose\n");
+    ASSERT_TRUE(program.waitForFinished(30000));
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
+    EXPECT_TRUE(activeJobs().isEmpty());
+}
+
+TEST_F(LeavingDuringRefresh, PrintingDoesNotWaitForThePrintersAnswer)
+{
+    QProcess program;
+    startDriver(program, "ready\npage com.halvern.print.pde.features\nshown name:progress\nprint\nclose\n");
+    // The question would take a minute.
+    ASSERT_TRUE(program.waitForFinished(50000));
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
+    EXPECT_TRUE(activeJobs().isEmpty());
+    const QString said = QString::fromUtf8(program.readAllStandardOutput());
+    const int job = said.section(QStringLiteral("job-id="), 1).section(QLatin1Char('\n'), 0, 0).toInt();
+    EXPECT_TRUE(QFile::exists(server.jobFile(job, QStringLiteral("page-1.png")))) << qPrintable(said);
+}
+
+} // namespace
+
+} // namespace halvern
