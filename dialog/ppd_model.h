@@ -69,7 +69,8 @@ public:
 
     /// Proposes a choice: listed values are checked against the PPD's constraints, custom values against
     /// their limits, unknown ones are kept as they are. Nothing has changed if it is refused.
-    /// `reading` says what counts as a number where the PPD asks for one.
+    /// `reading` says what counts as a number where the PPD asks for one; "Custom." before a custom value is
+    /// taken off only where the value is read as a whole.
     ChangeResult change(const QString& key, const QVariant& value,
                         ppd_lookup::NumberReading reading = ppd_lookup::NumberReading::whole);
 
