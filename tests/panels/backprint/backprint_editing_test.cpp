@@ -72,6 +72,10 @@ TEST_F(BackprintEditingTest, ABackslashAtTheEndGetsASpaceThatTheNextKeystrokeTak
               QStringLiteral("0 left"));
     EXPECT_EQ(stored("CVP1"), QString(119, u'x') + QStringLiteral("\\ "));
     EXPECT_EQ(beeps.count, 0);
+    EXPECT_EQ(host->asked.size(), 1);
+    line(2)->setFocus();
+    EXPECT_EQ(host->asked.size(), 1) << "the space is not the user's, and asks for nothing";
+    line(1)->setFocus();
     QTest::keyClick(line(1), Qt::Key_Home);
     QTest::keyClicks(line(1), QStringLiteral("y"));
     EXPECT_EQ(line(1)->text(), u'y' + QString(119, u'x'));
