@@ -50,11 +50,14 @@ QString asRead(const QString& key, const QString& value)
 QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
 {
     QMap<QString, QString> lines = panel.summaryInfo();
-    const QMap<QString, QString> kept = session.model() ? session.model()->kept() : QMap<QString, QString>();
+    const PpdModel* model = session.model();
+    if (!model)
+        return lines;
     for (const QString& key : panel.supportedPPDOptionKeys()) {
-        const QString title = session.optionText(key);
-        if (!kept.value(key).isEmpty() && !lines.contains(title))
-            lines.insert(title, asRead(key, kept.value(key)));
+        const QString value = model->kept().value(key);
+        const QString title = model->optionText(key);
+        if (!value.isEmpty() && !lines.contains(title))
+            lines.insert(title, asRead(key, value));
     }
     return lines;
 }
