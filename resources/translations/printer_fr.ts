@@ -13,19 +13,19 @@
     </message>
     <message>
         <source>4 x 6 in (102 x 152 mm)</source>
-        <translation>4 x 6 pouces (102 x 152 mm)</translation>
+        <translation>4 x 6 po (102 x 152 mm)</translation>
     </message>
     <message>
         <source>4 x 6 in, borderless</source>
-        <translation>4 x 6 pouces, sans bords</translation>
+        <translation>4 x 6 po, sans bords</translation>
     </message>
     <message>
         <source>5 x 7 in (127 x 178 mm)</source>
-        <translation>5 x 7 pouces (127 x 178 mm)</translation>
+        <translation>5 x 7 po (127 x 178 mm)</translation>
     </message>
     <message>
         <source>8 x 10 in (203 x 254 mm)</source>
-        <translation>8 x 10 pouces (203 x 254 mm)</translation>
+        <translation>8 x 10 po (203 x 254 mm)</translation>
     </message>
     <message>
         <source>Postcard (100 x 148 mm)</source>
