@@ -132,6 +132,9 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return;
     }
     model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
+    model_->setWords([this](const QString& text) {
+        return panels_.empty() ? text : panelSource_.localized(bundleName_, text);
+    });
     // Not from the list, which may come later: a panel asks once and remembers.
     host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
                                    model_->sharedFile(), request_.panelsAskPrinter);
@@ -227,12 +230,6 @@ Look DialogSession::look() const
 int DialogSession::resolution() const
 {
     return model_ ? model_->resolution() : kUsualResolution;
-}
-
-QString DialogSession::optionText(const QString& key) const
-{
-    const QString text = panels_.empty() ? key : panelSource_.localized(bundleName_, key);
-    return text == key && model_ ? model_->optionText(key) : text;
 }
 
 ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)

@@ -85,9 +85,6 @@ public:
     /// The printer's dots per inch.
     int resolution() const;
 
-    /// The words that the panels' bundle has for an option, else the PPD's.
-    QString optionText(const QString& key) const;
-
     /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
     /// why.
     bool changeOption(const QString& key, const QVariant& value);

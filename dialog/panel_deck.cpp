@@ -21,7 +21,9 @@ const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
 const QString kSummary = QStringLiteral("summary");
 
-constexpr int kListWidth = 146;
+// The list of pages is as wide as its longest title wants it, within these.
+constexpr int kLeastListWidth = 146;
+constexpr int kMostListWidth = 200;
 constexpr int kUsualPageWidth = 410;
 
 // Leaves a little room before the titles.
@@ -50,11 +52,14 @@ QString asRead(const QString& key, const QString& value)
 QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
 {
     QMap<QString, QString> lines = panel.summaryInfo();
-    const QMap<QString, QString> kept = session.model() ? session.model()->kept() : QMap<QString, QString>();
+    const PpdModel* model = session.model();
+    if (!model)
+        return lines;
     for (const QString& key : panel.supportedPPDOptionKeys()) {
-        const QString title = session.optionText(key);
-        if (!kept.value(key).isEmpty() && !lines.contains(title))
-            lines.insert(title, asRead(key, kept.value(key)));
+        const QString value = model->kept().value(key);
+        const QString title = model->optionText(key);
+        if (!value.isEmpty() && !lines.contains(title))
+            lines.insert(title, asRead(key, value));
     }
     return lines;
 }
@@ -75,7 +80,6 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     list_->setAccessibleName(tr("Pages of options"));
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setSpacing(2);
-    list_->setFixedWidth(kListWidth);
     list_->setIconSize(QSize(4, 4));
     area_->setObjectName(QStringLiteral("pageArea"));
     area_->setWidgetResizable(true);
@@ -113,6 +117,10 @@ void PanelDeck::addPage(const QString& identifier, const QString& title)
 {
     auto* item = new QListWidgetItem(indent(), title, list_);
     item->setData(Qt::UserRole, identifier);
+    // What the title wants, before a hint of our own replaces it.
+    const QModelIndex index = list_->model()->index(list_->count() - 1, 0);
+    const int wanted = list_->sizeHintForIndex(index).width() + 2 * (list_->spacing() + list_->frameWidth());
+    list_->setFixedWidth(std::clamp(wanted, list_->minimumWidth(), kMostListWidth));
     item->setSizeHint(QSize(0, fontMetrics().height() + 14));
 }
 
@@ -124,6 +132,7 @@ void PanelDeck::rebuild()
     {
         const QSignalBlocker quiet(list_);
         list_->clear();
+        list_->setFixedWidth(kLeastListWidth);
         addPage(kPage, tr("Page"));
         for (const std::shared_ptr<Panel>& panel : session_.panels()) {
             const QString kind = panel->panelKind().value_or(QString());

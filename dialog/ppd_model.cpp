@@ -74,7 +74,8 @@ ChangeResult PpdModel::keepCustom(const QString& key, const QString& value, ppd_
 {
     QString plain = value;
     if (const ppd_cparam_t* parameter = ppd_lookup::customParameter(file_.get(), key)) {
-        if (plain.startsWith(QLatin1StringView(kCustomPrefix)))
+        // The command line and saved options may name a custom value so; what a panel proposes is the value.
+        if (reading == ppd_lookup::NumberReading::whole && plain.startsWith(QLatin1StringView(kCustomPrefix)))
             plain = plain.mid(int(sizeof(kCustomPrefix)) - 1);
         const QString problem =
             ppd_lookup::customValueProblem(file_.get(), *parameter, key, optionText(key), plain, reading);

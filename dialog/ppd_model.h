@@ -64,12 +64,20 @@ public:
     /// The same, to keep it open beyond this object's life.
     std::shared_ptr<ppd_file_t> sharedFile() const { return file_; }
 
+    /// What somebody calls a keyword or a text of the PPD in the user's language; the text itself if nothing.
+    using Words = std::function<QString(const QString& text)>;
+
+    /// Lets the texts for the user come from `words` as far as these have any. Without them they are the
+    /// PPD's.
+    void setWords(Words words) { words_ = std::move(words); }
+
     /// Applies options in order. Answers the sentences about those that were refused.
     QStringList apply(const OptionValues& options);
 
     /// Proposes a choice: listed values are checked against the PPD's constraints, custom values against
     /// their limits, unknown ones are kept as they are. Nothing has changed if it is refused.
-    /// `reading` says what counts as a number where the PPD asks for one.
+    /// `reading` says what counts as a number where the PPD asks for one; "Custom." before a custom value is
+    /// taken off only where the value is read as a whole.
     ChangeResult change(const QString& key, const QVariant& value,
                         ppd_lookup::NumberReading reading = ppd_lookup::NumberReading::whole);
 
@@ -87,7 +95,7 @@ public:
     /// Every current value: marks and kept ones.
     QMap<QString, QString> values() const;
 
-    /// The user's words for an option and a value; the keyword or value itself if the PPD has none.
+    /// The user's words for an option and a value; the keyword or value itself if nobody has any.
     QString optionText(const QString& key) const;
     QString choiceText(const QString& key, const QString& choice) const;
 
@@ -101,6 +109,9 @@ public:
     int resolution() const;
 
 private:
+    QString inWords(const QString& text) const { return words_ ? words_(text) : text; }
+
+    OptionItem makeItem(const ppd_option_s& option) const;
     ChangeResult changeListed(const QString& key, const QString& choice);
     ChangeResult keepCustom(const QString& key, const QString& value, ppd_lookup::NumberReading reading);
     ChangeResult keepPageSize(const QString& value);
@@ -114,6 +125,7 @@ private:
     std::shared_ptr<ppd_file_t> file_;
     std::vector<Constraint> constraints_;
     QMap<QString, QString> kept_;
+    Words words_;
 };
 
 /// A value as it is written into a job: strings as they stand, numbers in the C locale, truth values as

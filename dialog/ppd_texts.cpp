@@ -18,21 +18,6 @@ QString textOr(const char* text, const QString& other)
     return found.isEmpty() ? other : found;
 }
 
-OptionItem makeItem(ppd_file_t* file, const ppd_option_t& option, const ppd_group_t& group)
-{
-    OptionItem item{QString::fromUtf8(option.keyword),
-                    textOr(option.text, QString::fromUtf8(option.keyword)),
-                    QString::fromUtf8(group.text),
-                    {},
-                    qstrcmp(group.name, "InstallableOptions") == 0};
-    for (int i = 0; i < option.num_choices; ++i) {
-        const QString keyword = QString::fromUtf8(option.choices[i].choice);
-        if (ppd_lookup::listedChoice(file, item.key, keyword))
-            item.choices.append({keyword, textOr(option.choices[i].text, keyword)});
-    }
-    return item;
-}
-
 } // namespace
 
 QString PpdModel::value(const QString& key) const
@@ -54,16 +39,30 @@ QMap<QString, QString> PpdModel::values() const
     return all;
 }
 
+// A keyword may have words of its own, which say more than the PPD's short text does.
 QString PpdModel::optionText(const QString& key) const
 {
+    const QString own = inWords(key);
     const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
-    return option ? textOr(option->text, key) : key;
+    return own == key && option ? inWords(textOr(option->text, key)) : own;
 }
 
 QString PpdModel::choiceText(const QString& key, const QString& choice) const
 {
     const ppd_choice_t* listed = ppd_lookup::listedChoice(file_.get(), key, choice);
-    return listed ? textOr(listed->text, choice) : choice;
+    return listed ? inWords(textOr(listed->text, choice)) : choice;
+}
+
+OptionItem PpdModel::makeItem(const ppd_option_t& option) const
+{
+    const QString key = QString::fromUtf8(option.keyword);
+    OptionItem item{key, optionText(key), {}, {}};
+    for (int i = 0; i < option.num_choices; ++i) {
+        const QString keyword = QString::fromUtf8(option.choices[i].choice);
+        if (ppd_lookup::listedChoice(file_.get(), key, keyword))
+            item.choices.append({keyword, inWords(textOr(option.choices[i].text, keyword))});
+    }
+    return item;
 }
 
 QList<OptionItem> PpdModel::options() const
@@ -72,8 +71,11 @@ QList<OptionItem> PpdModel::options() const
     for (int g = 0; g < file_->num_groups; ++g) {
         const ppd_group_t& group = file_->groups[g];
         for (int i = 0; i < group.num_options; ++i) {
-            if (qstrcmp(group.options[i].keyword, "PageRegion") != 0)
-                items.append(makeItem(file_.get(), group.options[i], group));
+            if (qstrcmp(group.options[i].keyword, "PageRegion") == 0)
+                continue;
+            items.append(makeItem(group.options[i]));
+            items.last().group = inWords(QString::fromUtf8(group.text));
+            items.last().isInstallable = qstrcmp(group.name, "InstallableOptions") == 0;
         }
     }
     return items;

@@ -117,6 +117,8 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
             self->controlTextDidEndEditing(field);
         else
             self->sendAction(field);
+        // What the operation wrote into the field is no edit of the user's.
+        field->setProperty(kEdited, false);
     });
 }
 

@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 namespace halvern {
 
@@ -22,6 +23,8 @@ LineWatcher::LineWatcher(QLineEdit* field, std::function<void()> catchUp)
 {
     field->installEventFilter(this);
     connect(field, &QLineEdit::selectionChanged, this, [this] { selectedAutomatically_ = false; });
+    connect(field, &QLineEdit::textChanged, this, &LineWatcher::fieldMoved);
+    connect(field, &QLineEdit::cursorPositionChanged, this, &LineWatcher::fieldMoved);
     // Comes after the field has dealt with the arrival.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now == field_)
@@ -38,16 +41,47 @@ bool LineWatcher::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != field_)
         return false;
-    if (event->type() == QEvent::FocusIn) {
+    switch (event->type()) {
+    case QEvent::InputMethod:
+        compose(event);
+        return true;
+    case QEvent::FocusIn:
         focusComes(static_cast<QFocusEvent*>(event)->reason());
-    } else if (event->type() == QEvent::FocusOut && !isPassing(static_cast<QFocusEvent*>(event)->reason())) {
-        focusLeaves();
-    } else if (event->type() == QEvent::InputMethod) {
-        composing_ = !static_cast<const QInputMethodEvent*>(event)->preeditString().isEmpty();
-        if (!composing_ && postponed_)
-            QMetaObject::invokeMethod(this, &LineWatcher::catchUp, Qt::QueuedConnection);
+        break;
+    case QEvent::FocusOut:
+        endComposition();
+        if (!isPassing(static_cast<QFocusEvent*>(event)->reason()))
+            focusLeaves();
+        break;
+    default:
+        break;
     }
     return false;
+}
+
+// Lets the field deal with what the input method says, and knows when it has.
+void LineWatcher::compose(QEvent* event)
+{
+    const QScopedValueRollback<bool> guard(inInputMethodEvent_, true);
+    composing_ = !static_cast<const QInputMethodEvent*>(event)->preeditString().isEmpty();
+    field_->event(event);
+    if (!composing_)
+        endComposition();
+}
+
+// A field whose text or cursor is moved by anybody but the input method drops what is being composed, and the
+// input method need not say so.
+void LineWatcher::fieldMoved()
+{
+    if (composing_ && !inInputMethodEvent_)
+        endComposition();
+}
+
+void LineWatcher::endComposition()
+{
+    composing_ = false;
+    if (postponed_)
+        QMetaObject::invokeMethod(this, &LineWatcher::catchUp, Qt::QueuedConnection);
 }
 
 void LineWatcher::catchUp()

@@ -15,7 +15,8 @@ class LineWatcher : public QObject {
     Q_OBJECT
 
 public:
-    /// `catchUp` does what was postponed; it is called from the event loop after a composition has ended.
+    /// `catchUp` does what was postponed; it is called from the event loop after a composition has ended,
+    /// however it did.
     LineWatcher(QLineEdit* field, std::function<void()> catchUp);
 
     /// The field's watcher, null if it has none.
@@ -39,6 +40,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void compose(QEvent* event);
+    void fieldMoved();
+    void endComposition();
     void catchUp();
     void focusComes(Qt::FocusReason reason);
     void focusHasCome();
@@ -47,6 +51,7 @@ private:
     QLineEdit* field_;
     std::function<void()> catchUp_;
     bool composing_ = false;
+    bool inInputMethodEvent_ = false;
     bool postponed_ = false;
     bool cameByKeyboard_ = false;
     bool selectedAutomatically_ = false;

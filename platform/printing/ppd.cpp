@@ -54,7 +54,7 @@ std::optional<Range> limits(const ppd_cparam_t& parameter)
 {
     switch (parameter.type) {
     case PPD_CUSTOM_INT:
-        return Range{double(parameter.minimum.custom_int), double(parameter.maximum.custom_int)};
+        return Range{double(parameter.minimum.custom_int), double(parameter.maximum.custom_int), true};
     case PPD_CUSTOM_REAL:
     case PPD_CUSTOM_POINTS:
     case PPD_CUSTOM_CURVE:

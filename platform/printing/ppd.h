@@ -53,6 +53,7 @@ std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option);
 struct Range {
     double minimum;
     double maximum;
+    bool isWhole = false; ///< whether the PPD asks for a whole number
 };
 
 /// The limits of the option's custom value; nothing if the PPD gives the option none, one that is not a

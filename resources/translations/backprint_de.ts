@@ -40,7 +40,7 @@
         <translation>noch %1</translation>
     </message>
     <message>
-        <source>&amp;Placeholder</source>
+        <source>P&amp;laceholder</source>
         <translation>&amp;Platzhalter</translation>
     </message>
     <message>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation>&amp;Einfügen</translation>
+        <translation>E&amp;infügen</translation>
     </message>
     <message>
         <source>Insert the placeholder at the cursor</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Keep a &amp;diagnostic log</source>
-        <translation>&amp;Diagnoseprotokoll führen</translation>
+        <translation>Dia&amp;gnoseprotokoll führen</translation>
     </message>
     <message>
         <source>[YYYY]</source>

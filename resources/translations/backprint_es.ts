@@ -40,7 +40,7 @@
         <translation>quedan %1</translation>
     </message>
     <message>
-        <source>&amp;Placeholder</source>
+        <source>P&amp;laceholder</source>
         <translation>&amp;Marcador</translation>
     </message>
     <message>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Keep a &amp;diagnostic log</source>
-        <translation>Guardar un registro de &amp;diagnóstico</translation>
+        <translation>Guardar un re&amp;gistro de diagnóstico</translation>
     </message>
     <message>
         <source>[YYYY]</source>

@@ -40,7 +40,7 @@
         <translation>reste %1</translation>
     </message>
     <message>
-        <source>&amp;Placeholder</source>
+        <source>P&amp;laceholder</source>
         <translation>É&amp;lément variable</translation>
     </message>
     <message>

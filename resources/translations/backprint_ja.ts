@@ -40,8 +40,8 @@
         <translation>残り%1文字</translation>
     </message>
     <message>
-        <source>&amp;Placeholder</source>
-        <translation>差し込み項目(&amp;P)</translation>
+        <source>P&amp;laceholder</source>
+        <translation>差し込み項目(&amp;L)</translation>
     </message>
     <message>
         <source>Placeholder to insert</source>

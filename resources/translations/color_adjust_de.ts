@@ -20,8 +20,8 @@
         <translation>Tonwerte und Sättigung</translation>
     </message>
     <message>
-        <source>&amp;Red</source>
-        <translation>&amp;Rot</translation>
+        <source>Re&amp;d</source>
+        <translation>Ro&amp;t</translation>
     </message>
     <message>
         <source>Gr&amp;een</source>

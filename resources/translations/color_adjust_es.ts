@@ -20,8 +20,8 @@
         <translation>Tono y saturación</translation>
     </message>
     <message>
-        <source>&amp;Red</source>
-        <translation>&amp;Rojo</translation>
+        <source>Re&amp;d</source>
+        <translation>Ro&amp;jo</translation>
     </message>
     <message>
         <source>Gr&amp;een</source>

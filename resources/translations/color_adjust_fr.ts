@@ -20,8 +20,8 @@
         <translation>Tons et saturation</translation>
     </message>
     <message>
-        <source>&amp;Red</source>
-        <translation>&amp;Rouge</translation>
+        <source>Re&amp;d</source>
+        <translation>Rou&amp;ge</translation>
     </message>
     <message>
         <source>Gr&amp;een</source>

@@ -20,8 +20,8 @@
         <translation>階調と彩度</translation>
     </message>
     <message>
-        <source>&amp;Red</source>
-        <translation>赤(&amp;R)</translation>
+        <source>Re&amp;d</source>
+        <translation>赤(&amp;D)</translation>
     </message>
     <message>
         <source>Gr&amp;een</source>

@@ -482,7 +482,7 @@
     </message>
     <message>
         <source>Or&amp;ientation:</source>
-        <translation>Aus&amp;richtung:</translation>
+        <translation>Ausr&amp;ichtung:</translation>
     </message>
     <message>
         <source>Fit the whole photo on the page</source>
@@ -643,7 +643,7 @@
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <translation>Rü&amp;ckgängig</translation>
     </message>
     <message>
         <source>Cancel Job</source>

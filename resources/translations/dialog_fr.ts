@@ -643,7 +643,7 @@
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Annuler la modification</translation>
+        <translation>Ann&amp;uler la modification</translation>
     </message>
     <message>
         <source>Cancel Job</source>

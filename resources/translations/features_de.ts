@@ -24,7 +24,7 @@
         <translation>Papierzufuhr</translation>
     </message>
     <message>
-        <source>Sheet &amp;paper</source>
+        <source>S&amp;heet paper</source>
         <translation>&amp;Blattpapier</translation>
     </message>
     <message>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Roll &amp;width</source>
-        <translation>Rollen&amp;breite</translation>
+        <translation>Ro&amp;llenbreite</translation>
     </message>
     <message>
         <source>Roll width</source>
@@ -56,7 +56,7 @@
         <translation>Die Zahlen sind die Oberflächencodes des Papiers.</translation>
     </message>
     <message>
-        <source>&amp;Overspill</source>
+        <source>O&amp;verspill</source>
         <translation>&amp;Überstand</translation>
     </message>
     <message>
@@ -76,7 +76,7 @@
         <translation>Qualität</translation>
     </message>
     <message>
-        <source>&amp;Resolution</source>
+        <source>Reso&amp;lution</source>
         <translation>&amp;Auflösung</translation>
     </message>
     <message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Wi&amp;dth</source>
-        <translation>B&amp;reite</translation>
+        <translation>Bre&amp;ite</translation>
     </message>
     <message>
         <source>Width of the binding margin in millimetres</source>

@@ -24,7 +24,7 @@
         <translation>Alimentación del papel</translation>
     </message>
     <message>
-        <source>Sheet &amp;paper</source>
+        <source>S&amp;heet paper</source>
         <translation>&amp;Hojas</translation>
     </message>
     <message>
@@ -56,8 +56,8 @@
         <translation>Los números son los códigos de superficie del papel.</translation>
     </message>
     <message>
-        <source>&amp;Overspill</source>
-        <translation>&amp;Desbordamiento</translation>
+        <source>O&amp;verspill</source>
+        <translation>Des&amp;bordamiento</translation>
     </message>
     <message>
         <source>Overspill in millimetres</source>
@@ -76,8 +76,8 @@
         <translation>Calidad</translation>
     </message>
     <message>
-        <source>&amp;Resolution</source>
-        <translation>&amp;Resolución</translation>
+        <source>Reso&amp;lution</source>
+        <translation>Reso&amp;lución</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Wi&amp;dth</source>
-        <translation>Anc&amp;hura</translation>
+        <translation>Anch&amp;ura</translation>
     </message>
     <message>
         <source>Width of the binding margin in millimetres</source>

@@ -24,7 +24,7 @@
         <translation>Alimentation du papier</translation>
     </message>
     <message>
-        <source>Sheet &amp;paper</source>
+        <source>S&amp;heet paper</source>
         <translation>&amp;Feuilles</translation>
     </message>
     <message>
@@ -56,7 +56,7 @@
         <translation>Les chiffres sont les codes de surface du papier.</translation>
     </message>
     <message>
-        <source>&amp;Overspill</source>
+        <source>O&amp;verspill</source>
         <translation>&amp;Débord</translation>
     </message>
     <message>
@@ -76,8 +76,8 @@
         <translation>Qualité</translation>
     </message>
     <message>
-        <source>&amp;Resolution</source>
-        <translation>&amp;Résolution</translation>
+        <source>Reso&amp;lution</source>
+        <translation>Résolut&amp;ion</translation>
     </message>
     <message>
         <source>Resolution</source>

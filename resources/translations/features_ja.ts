@@ -24,8 +24,8 @@
         <translation>給紙方法</translation>
     </message>
     <message>
-        <source>Sheet &amp;paper</source>
-        <translation>カット紙(&amp;P)</translation>
+        <source>S&amp;heet paper</source>
+        <translation>カット紙(&amp;H)</translation>
     </message>
     <message>
         <source>Sheet paper</source>
@@ -56,8 +56,8 @@
         <translation>数字は用紙の表面コードです。</translation>
     </message>
     <message>
-        <source>&amp;Overspill</source>
-        <translation>はみ出し量(&amp;O)</translation>
+        <source>O&amp;verspill</source>
+        <translation>はみ出し量(&amp;V)</translation>
     </message>
     <message>
         <source>Overspill in millimetres</source>
@@ -76,8 +76,8 @@
         <translation>品質</translation>
     </message>
     <message>
-        <source>&amp;Resolution</source>
-        <translation>解像度(&amp;R)</translation>
+        <source>Reso&amp;lution</source>
+        <translation>解像度(&amp;L)</translation>
     </message>
     <message>
         <source>Resolution</source>

@@ -12,8 +12,8 @@
         <translation>Bilder &amp;schärfen</translation>
     </message>
     <message>
-        <source>&amp;Radius</source>
-        <translation>&amp;Radius</translation>
+        <source>R&amp;adius</source>
+        <translation>R&amp;adius</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>

@@ -12,8 +12,8 @@
         <translation>&amp;Enfocar las imágenes</translation>
     </message>
     <message>
-        <source>&amp;Radius</source>
-        <translation>&amp;Radio</translation>
+        <source>R&amp;adius</source>
+        <translation>R&amp;adio</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>

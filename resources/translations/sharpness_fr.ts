@@ -12,8 +12,8 @@
         <translation>Rendre les images plus &amp;nettes</translation>
     </message>
     <message>
-        <source>&amp;Radius</source>
-        <translation>&amp;Rayon</translation>
+        <source>R&amp;adius</source>
+        <translation>R&amp;ayon</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>

@@ -12,8 +12,8 @@
         <translation>写真をシャープにする(&amp;S)</translation>
     </message>
     <message>
-        <source>&amp;Radius</source>
-        <translation>半径(&amp;R)</translation>
+        <source>R&amp;adius</source>
+        <translation>半径(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>

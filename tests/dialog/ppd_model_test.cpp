@@ -183,6 +183,7 @@ TEST(PpdModel, APanelMayKeepWhatBeginsWithANumberTheCommandLineMayNot)
         {"Brightness", "", false, true},
         {"Brightness", "12.", false, true},
         {"Brightness", "abc", false, true},
+        {"Brightness", "Custom.101", false, true},
         {"Brightness", "101", false, false},
         {"Brightness", "-101%", false, false},
         {"SharpnessIntensity", "1.", true, true},
@@ -197,6 +198,9 @@ TEST(PpdModel, APanelMayKeepWhatBeginsWithANumberTheCommandLineMayNot)
             EXPECT_EQ(model->change(q(c.key), q(c.value), reading).accepted, wanted)
                 << c.key << ' ' << c.value;
             EXPECT_EQ(model->isKept(q(c.key)), wanted);
+            if (wanted) {
+                EXPECT_EQ(model->value(q(c.key)), q(c.value)) << "what the panel's field shows is sent";
+            }
         }
     }
 }

@@ -81,9 +81,7 @@ TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
     QStringList kinds;
     for (const auto& panel : *first)
         kinds.append(panel->panelKind()->section(u'.', -1));
-    EXPECT_EQ(kinds.first(), QStringLiteral("features"));
-    EXPECT_EQ(kinds.last(), QStringLiteral("sharpness"));
-    EXPECT_EQ(kinds.size(), 4);
+    EXPECT_EQ(kinds.join(u' '), QStringLiteral("features cvp coloradjust sharpness"));
     first.reset();
     second.reset();
     EXPECT_TRUE(areAllGone(host));

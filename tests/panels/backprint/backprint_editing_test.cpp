@@ -72,6 +72,10 @@ TEST_F(BackprintEditingTest, ABackslashAtTheEndGetsASpaceThatTheNextKeystrokeTak
               QStringLiteral("0 left"));
     EXPECT_EQ(stored("CVP1"), QString(119, u'x') + QStringLiteral("\\ "));
     EXPECT_EQ(beeps.count, 0);
+    EXPECT_EQ(host->asked.size(), 1);
+    line(2)->setFocus();
+    EXPECT_EQ(host->asked.size(), 1) << "the space is not the user's, and asks for nothing";
+    line(1)->setFocus();
     QTest::keyClick(line(1), Qt::Key_Home);
     QTest::keyClicks(line(1), QStringLiteral("y"));
     EXPECT_EQ(line(1)->text(), u'y' + QString(119, u'x'));
@@ -128,6 +132,45 @@ TEST_F(BackprintEditingTest, ACommitThatGoesOnComposingIsHeldToTheRulesAfterward
     endEditing(1);
     EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
     EXPECT_EQ(saved("CVP1"), QStringLiteral("ab"));
+}
+
+TEST_F(BackprintEditingTest, ACompositionThatEndsWithoutAWordDoesNotLetRefusedCharactersIn)
+{
+    const struct {
+        const char* how;
+        std::function<void()> drop;
+        QString left;
+    } cases[] = {
+        {"a change from outside",
+         [this] {
+             panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("CVP1"), QStringLiteral("new"));
+         },
+         QStringLiteral("new")},
+        {"the focus elsewhere", [this] { line(2)->setFocus(); }, QStringLiteral("ab")},
+        {"a menu over the line",
+         [this] {
+             QFocusEvent out(QEvent::FocusOut, Qt::PopupFocusReason);
+             QApplication::sendEvent(line(1), &out);
+         },
+         QStringLiteral("ab")},
+        {"a cursor key", [this] { QTest::keyClick(line(1), Qt::Key_Home); }, QStringLiteral("ab")},
+    };
+
+    for (const auto& c : cases) {
+        // With and without a refused character that waits in the line for the composition's end.
+        for (const QString& commit : {QStringLiteral(u"\uac00"), QString()}) {
+            SCOPED_TRACE(c.how);
+            line(1)->clear();
+            type(1, QStringLiteral("ab"));
+            compose(line(1), QStringLiteral(u"\u1102"), commit);
+            c.drop();
+            EXPECT_TRUE(waitUntil([&] { return line(1)->text() == c.left; }));
+            beeps.count = 0;
+            type(1, QStringLiteral("~"));
+            EXPECT_FALSE(line(1)->text().contains(u'~'));
+            EXPECT_EQ(beeps.count, 1);
+        }
+    }
 }
 
 } // namespace halvern

@@ -87,6 +87,8 @@ TEST_F(BackprintTokensTest, AFocusElsewhereComesBackToTheLastLineWithTheUsersSel
     EXPECT_EQ(line(1)->text(), QStringLiteral("fi[D]rst"));
     EXPECT_TRUE(dialogsField()->property("text").toString().isEmpty());
     EXPECT_EQ(line(1)->cursorPosition(), 5);
+    dialogsField()->setFocus();
+    EXPECT_EQ(host->asked.last(), qMakePair(QStringLiteral("CVP1"), QVariant(QStringLiteral("fi[D]rst"))));
 }
 
 TEST_F(BackprintTokensTest, ASelectionThatCameWithTheFocusIsNotReplaced)

@@ -24,7 +24,9 @@ protected:
         useBuiltBundle();
         host = std::make_shared<FakeHost>(
             ppdHeader() + ppdOption("SharpnessEnabled", {"True", "False"}) +
-            "*SharpnessRadiusDefault: \"2\"\n*SharpnessIntensityDefault: \"1.00\"\n");
+            ppdOption("SharpnessIntensity", {"1.00"}) +
+            "*CustomSharpnessIntensity True: \"pop\"\n*ParamCustomSharpnessIntensity Factor: 1 real 0 3.5\n"
+            "*SharpnessRadiusDefault: \"2\"\n");
         panel = makePanel<RZSharpnessPDEHalvern>(host);
         ASSERT_NE(panel, nullptr);
         panel->restoreValuesAndReturnError(nullptr);
@@ -72,6 +74,7 @@ TEST_F(SharpnessPanelTest, ShowsWhatIsStoredAndAsksTheHostNothing)
     EXPECT_EQ(field(1)->text(), QStringLiteral("2"));
     EXPECT_EQ(field(2)->text(), QStringLiteral("1.00"));
     EXPECT_TRUE(button(0x200)->isChecked());
+    EXPECT_EQ(slider(2)->maximumValue(), 3.5) << "the PPD's, not the layout's";
     EXPECT_TRUE(host->asked.isEmpty());
     EXPECT_EQ(beeps.count, 0);
 }

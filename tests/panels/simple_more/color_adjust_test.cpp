@@ -1,6 +1,5 @@
 #include "panel_base/tags.h"
 #include "panels/simple/color_adjust_panel.h"
-#include "panels/simple/sharpness_panel.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/view_search.h"
@@ -185,6 +184,7 @@ struct RangeCase {
     double minimum;
     double maximum;
     double neutral;
+    double step = 1;
 };
 
 TEST_F(ColorAdjustPanel, TakesARangeAndItsMarkFromThePpdAsFarAsItGivesThem)
@@ -192,7 +192,11 @@ TEST_F(ColorAdjustPanel, TakesARangeAndItsMarkFromThePpdAsFarAsItGivesThem)
     const QByteArray option = ppdOption("Brightness", {"5", "0"});
     const RangeCase cases[] = {
         {"integers", option + customNumber("Brightness", "int -20 30"), -20, 30, 5},
-        {"reals", option + customNumber("Brightness", "real -0.1 0.7"), -0.1, 0.7, 5},
+        {"few integers", option + customNumber("Brightness", "int 0 10"), 0, 10, 5},
+        {"reals", option + customNumber("Brightness", "real -0.1 0.7"), -0.1, 0.7, 5, 0.02},
+        {"a hair less than twenty steps", option + customNumber("Brightness", "real 0.1 0.3"), 0.1, 0.3, 5,
+         0.01},
+        {"more reals", option + customNumber("Brightness", "real 0 1000"), 0, 1000, 5},
         {"no custom value", option, -100, 100, 5},
         {"no number as default", ppdOption("Brightness", {"Auto", "0"}), -100, 100, 0},
         {"text", option + customNumber("Brightness", "string 1 9"), -100, 100, 5},
@@ -206,18 +210,9 @@ TEST_F(ColorAdjustPanel, TakesARangeAndItsMarkFromThePpdAsFarAsItGivesThem)
         EXPECT_EQ(slider(4)->minimumValue(), c.minimum) << c.what;
         EXPECT_EQ(slider(4)->maximumValue(), c.maximum) << c.what;
         EXPECT_EQ(slider(4)->neutralValue(), c.neutral) << c.what;
+        EXPECT_DOUBLE_EQ(slider(4)->singleStepValue(), c.step) << c.what;
         EXPECT_EQ(slider(1)->minimumValue(), -100) << c.what;
     }
-}
-
-TEST(SharpnessRanges, ComeFromThePpdToo)
-{
-    useBuiltBundle();
-    const auto panel = makePanel<RZSharpnessPDEHalvern>(
-        std::make_shared<FakeHost>(ppdHeader() + ppdOption("SharpnessIntensity", {"1.00"}) +
-                                   customNumber("SharpnessIntensity", "real 0.2 3.3")));
-    EXPECT_EQ(control::minValue(viewWithTag(panel->panelView(), 2)), 0.2);
-    EXPECT_EQ(control::maxValue(viewWithTag(panel->panelView(), 2)), 3.3);
 }
 
 } // namespace

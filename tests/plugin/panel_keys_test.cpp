@@ -1,0 +1,80 @@
+// The keys that work a page with Alt, beside those of the dialog around it.
+#include "dialog/application.h"
+#include "dialog/dialog_session.h"
+#include "dialog/plugin_loader.h"
+#include "dialog/print_dialog.h"
+#include "plugin/plug_in.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/observers.h"
+
+#include <QAbstractButton>
+#include <QKeySequence>
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+// The keys that, with Alt, work a widget in the view; without those in `except`.
+QStringList mnemonics(const QWidget& view, const QWidget* except = nullptr)
+{
+    QStringList keys;
+    for (const QWidget* widget : view.findChildren<const QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const bool works =
+            label ? label->buddy() != nullptr : qobject_cast<const QAbstractButton*>(widget) != nullptr;
+        const QKeySequence key = QKeySequence::mnemonic(widget->property("text").toString());
+        if (works && !key.isEmpty() && !(except && except->isAncestorOf(widget)))
+            keys.append(key.toString());
+    }
+    return keys;
+}
+
+// Those that come more than once.
+std::string collisions(QStringList keys)
+{
+    QStringList twice;
+    while (!keys.isEmpty()) {
+        const QString key = keys.takeFirst();
+        if (keys.contains(key))
+            twice.append(key);
+    }
+    return twice.join(u' ').toStdString();
+}
+
+} // namespace
+
+TEST(PanelKeys, AreNotTheDialogsOwnInAnyLanguage)
+{
+    QStringList titles;
+    for (const char* language : {"en_US", "de_DE", "fr_FR", "es_ES", "ja_JP"}) {
+        useBuiltBundle(QString::fromLatin1(language));
+        const auto translators = prepareApplication();
+        PluginLoader none(QStringList{});
+        DialogSession session({}, none);
+        PrintDialog dialog(session);
+        Q_EMIT session.otherOptionsChanged({}); // which can be undone
+        EXPECT_GE(mnemonics(dialog).size(), 7) << language;
+        EXPECT_EQ(collisions(mnemonics(dialog)), "") << language;
+
+        const auto* ownPage = dialog.findChild<QWidget*>(QStringLiteral("pagePage"));
+        const auto host = std::make_shared<FakeHost>();
+        auto panels = RZPDEPlugInHalvern().PDEPanelsForType_withHostInfo(
+            QLatin1StringView(kPrintDialogExtensionType), host);
+        for (const auto& panel : *panels) {
+            titles.append(panel->panelName().value_or(QString()));
+            const QStringList own = mnemonics(*panel->panelView());
+            EXPECT_GE(own.size(), 3) << qPrintable(titles.last());
+            EXPECT_EQ(collisions(own + mnemonics(dialog, ownPage)), "") << qPrintable(titles.last());
+        }
+        panels.reset();
+        EXPECT_TRUE(waitUntil([&] { return host.use_count() == 1; }));
+        EXPECT_EQ(titles.removeDuplicates(), 0) << "each in its own language: " << language;
+    }
+    EXPECT_EQ(titles.size(), 20);
+    QLocale::setDefault(QLocale::c());
+}
+
+} // namespace halvern
