@@ -31,8 +31,9 @@ public:
 
     /// Decodes the archive whose root is a dictionary. Its values are QString, qint64 (quint64 for what
     /// was stored as unsigned), double, bool, QByteArray, QDateTime (UTC), QVariantList (arrays and sets)
-    /// and QVariantMap. Values of unknown classes, null values, and entries whose key is no string are left
-    /// out; of entries with the same key the last one stays. Values that the archive shares are shared.
+    /// and QVariantMap. Values of unknown classes (unless their content is that of a known ancestor),
+    /// null values, and entries whose key is no string are left out; of entries with the same key the last
+    /// one stays. Values that the archive shares are shared.
     static Result unarchiveDictionary(const QByteArray& archive);
 };
 

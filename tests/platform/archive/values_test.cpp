@@ -152,6 +152,30 @@ TEST(KeyedUnarchiverValues, ASubclassIsReadAsItsNearestKnownAncestor)
     EXPECT_EQ(decodedField(archive.finishWithField(list)), QVariant(QVariantList{QStringLiteral("x")}));
 }
 
+TEST(KeyedUnarchiverValues, ASubclassThatKeepsItsContentElsewhereIsNothing)
+{
+    const struct {
+        QList<const char*> classes;
+        const char* field;
+        QByteArray object;
+    } cases[] = {
+        {{"NSDecimalNumber", "NSNumber", "NSValue"}, "NS.mantissa", "\x41\x01"},
+        {{"NSCountedSet", "NSMutableSet", "NSSet"}, "NS.count", "\x10\x02"},
+        {{"SpoolMap", "NSMutableDictionary", "NSDictionary"}, "NS.objects", QByteArray("\xA0")},
+        {{"SpoolList", "NSArray"}, "NS.objects", "\x51x"},
+        {{"SpoolName", "NSString"}, "NS.string", "\x10\x01"},
+    };
+
+    for (const auto& subclass : cases) {
+        ArchiveAssembler archive;
+        const int type = archive.classEntry(subclass.classes.first(), subclass.classes.mid(1));
+        const int value =
+            archive.archived(archive.dictionary({archive.text(subclass.field), archive.text("$class")},
+                                                {archive.add(subclass.object), archive.uid(quint64(type))}));
+        EXPECT_FALSE(decodedField(archive.finishWithField(value)).isValid()) << subclass.classes.first();
+    }
+}
+
 TEST(KeyedUnarchiverValues, EntriesWithoutAKeyOrValueAreLeftOutAndTheLastOfEqualKeysStays)
 {
     ArchiveAssembler archive;
