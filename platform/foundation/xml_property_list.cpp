@@ -1,6 +1,7 @@
 #include "platform/foundation/xml_property_list.h"
 
 #include "platform/foundation/binary_property_list_writer.h"
+#include "platform/foundation/keyed_unarchiver.h"
 #include "platform/foundation/property_list_object_table.h"
 #include "platform/foundation/xml_markup_guard.h"
 
@@ -18,7 +19,9 @@ namespace halvern {
 
 namespace {
 
-constexpr std::size_t kMaxNesting = 64;
+/// Two elements for each level of values, an instance and the array in it, and those of the archive around
+/// them.
+constexpr std::size_t kMaxNesting = 2 * KeyedUnarchiver::kMaxDepth + 8;
 
 enum class Element { unknown, dictionary, array, key, string, integer, real, isTrue, isFalse, date, data };
 

@@ -26,20 +26,26 @@ QVariant decodedField(const QByteArray& archive)
     return result.root->value(QStringLiteral("paper")).toMap().value(QStringLiteral("field"));
 }
 
+QByteArray xmlReference(int number)
+{
+    return "<dict><key>CF$UID</key><integer>" + QByteArray::number(number) + "</integer></dict>";
+}
+
+/// An archive that has one record "paper" with one "field". Place 7 of its objects is the lists' class.
 QByteArray xmlArchive(const QByteArray& value)
 {
-    const auto reference = [](int number) {
-        return "<dict><key>CF$UID</key><integer>" + QByteArray::number(number) + "</integer></dict>";
+    const auto dictionary = [](int key, int entry) {
+        return "<dict><key>$class</key>" + xmlReference(6) + "<key>NS.keys</key><array>" + xmlReference(key) +
+               "</array><key>NS.objects</key><array>" + xmlReference(entry) + "</array></dict>";
     };
-    const auto dictionary = [&](int key, int entry) {
-        return "<dict><key>$class</key>" + reference(6) + "<key>NS.keys</key><array>" + reference(key) +
-               "</array><key>NS.objects</key><array>" + reference(entry) + "</array></dict>";
+    const auto classNamed = [](const char* name) {
+        return QByteArray("<dict><key>$classname</key><string>") + name + "</string></dict>";
     };
     return "<?xml version='1.0' encoding='UTF-8'?><plist version='1.0'><dict><key>$top</key><dict>"
            "<key>root</key>" +
-           reference(1) + "</dict><key>$objects</key><array><string>$null</string>" + dictionary(2, 3) +
+           xmlReference(1) + "</dict><key>$objects</key><array><string>$null</string>" + dictionary(2, 3) +
            "<string>paper</string>" + dictionary(4, 5) + "<string>field</string>" + value +
-           "<dict><key>$classname</key><string>NSDictionary</string></dict></array></dict></plist>";
+           classNamed("NSDictionary") + classNamed("NSArray") + "</array></dict></plist>";
 }
 
 QDateTime moment(const char* text)
@@ -113,6 +119,18 @@ TEST(KeyedUnarchiverValues, XmlValuesKeepTheirKind)
         EXPECT_EQ(field.typeId(), value.expected.typeId());
         EXPECT_EQ(field, value.expected);
     }
+}
+
+TEST(KeyedUnarchiverValues, XmlMayNestAsManyLevelsOfValuesAsBinary)
+{
+    const auto nestedLists = [](int levels) {
+        const QByteArray start = "<dict><key>$class</key>" + xmlReference(7) + "<key>NS.objects</key><array>";
+        return xmlArchive(start.repeated(levels) + QByteArray("</array></dict>").repeated(levels));
+    };
+    // The catalogue and its record are two levels more.
+    EXPECT_EQ(decodedField(nestedLists(62)).typeId(), QMetaType::QVariantList);
+    EXPECT_EQ(KeyedUnarchiver::unarchiveDictionary(nestedLists(63)).failure,
+              QStringLiteral("corrupt: it is nested too deeply"));
 }
 
 TEST(KeyedUnarchiverValues, ObjectsAreReadByTheirClass)
