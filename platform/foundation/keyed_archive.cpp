@@ -144,7 +144,7 @@ KeyedArchive::Reading KeyedArchive::scalarOf(const Object& fields, Meaning meani
     static constexpr std::array kFields{
         Field{Meaning::string, "NS.string", {Kind::utf8String, Kind::utf16String}},
         Field{Meaning::data, "NS.data", {Kind::data, Kind::data}},
-        Field{Meaning::date, "NS.time", {Kind::real, Kind::real}},
+        Field{Meaning::date, "NS.time", {Kind::real, Kind::integer}},
         Field{Meaning::number, "NS.intval", {Kind::integer, Kind::integer}},
         Field{Meaning::number, "NS.dblval", {Kind::real, Kind::real}},
         Field{Meaning::number, "NS.boolval", {Kind::boolean, Kind::boolean}},

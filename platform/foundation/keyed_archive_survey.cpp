@@ -58,7 +58,7 @@ KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyTarget(quint32 target, int 
         case ArchivedValue::Kind::nothing:
             break;
         case ArchivedValue::Kind::date:
-            if (!(std::abs(table_.real(table_.object(value.content))) <= kMaxDateSeconds))
+            if (!(std::abs(table_.number(table_.object(value.content))) <= kMaxDateSeconds))
                 throw CorruptArchive{"a date is out of range"};
             [[fallthrough]];
         case ArchivedValue::Kind::plain:

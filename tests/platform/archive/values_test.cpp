@@ -143,17 +143,19 @@ TEST(KeyedUnarchiverValues, ObjectsAreReadByTheirClass)
     const int data = archive.archivedInstance("NSMutableData", "NS.data", archive.add("\x42hi"));
     const int date =
         archive.archivedInstance("NSDate", "NS.time", archive.add(char(0x23) + QByteArray(8, '\0')));
+    const int wholeDate = archive.archivedInstance("NSDate", "NS.time", archive.integer(-60));
     const int number =
         archive.archivedInstance("NSNumber", "NS.dblval", archive.add("\x22\x3F\xC0" + QByteArray(2, '\0')));
     const int set = archive.archivedList({one}, "NSMutableSet");
     const int unknown = archive.archivedInstance("Spool", "NS.objects", archive.array({}));
     const int null = archive.archivedInstance("NSNull", "any", archive.integer(3));
-    const int list = archive.archivedList({wrapped, distant, data, date, number, set, unknown, null, 0, one},
-                                          "NSMutableArray");
+    const int list = archive.archivedList(
+        {wrapped, distant, data, date, wholeDate, number, set, unknown, null, 0, one}, "NSMutableArray");
     const QVariantList expected{QStringLiteral("inline"),
                                 QStringLiteral("far"),
                                 QByteArray("hi"),
                                 moment("2001-01-01T00:00:00Z"),
+                                moment("2000-12-31T23:59:00Z"),
                                 1.5,
                                 QVariantList{qint64(1)},
                                 qint64(1)};
