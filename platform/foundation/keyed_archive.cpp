@@ -15,10 +15,12 @@ namespace {
 /// How many ancestors of a class are looked at.
 constexpr quint32 kMaxClassNames = 16;
 
+constexpr char kNoElements[] = "a collection lacks its elements";
+
 } // namespace
 
 KeyedArchive::KeyedArchive(const PropertyListObjectTable& table)
-    : table_(table), classes_(table.objectCount(), Class::unseen)
+    : table_(table), classes_(table.objectCount())
 {
     const Object archive = table.object(table.topObject());
     if (archive.kind != Kind::dictionary)
@@ -81,64 +83,84 @@ ArchivedValue KeyedArchive::instance(const Object& fields)
     if (!reference)
         throw CorruptArchive{"an archived object has no class"};
     const Class type = classOf(*reference);
-    switch (type) {
-    case Class::dictionary:
+    const Reading reading = readAs(type.meaning, fields);
+    // A class of its own may keep its content in fields of its own, whatever it descends from.
+    if (reading.fault && !type.inherited)
+        throw CorruptArchive{reading.fault};
+    return reading.fault ? ArchivedValue{} : reading.value;
+}
+
+KeyedArchive::Reading KeyedArchive::readAs(Meaning meaning, const Object& fields) const
+{
+    switch (meaning) {
+    case Meaning::dictionary:
         return dictionaryOf(fields);
-    case Class::list:
-        return {ArchivedValue::Kind::list, arrayField(fields, "NS.objects"), 0};
-    case Class::string:
-    case Class::data:
-    case Class::date:
-    case Class::number:
-        return scalar(fields, type);
+    case Meaning::list:
+        return listOf(fields);
+    case Meaning::string:
+    case Meaning::data:
+    case Meaning::date:
+    case Meaning::number:
+        return scalarOf(fields, meaning);
     default:
         return {};
     }
 }
 
-ArchivedValue KeyedArchive::dictionaryOf(const Object& fields) const
+KeyedArchive::Reading KeyedArchive::dictionaryOf(const Object& fields) const
 {
-    const quint32 keys = arrayField(fields, "NS.keys");
-    const quint32 values = arrayField(fields, "NS.objects");
-    if (table_.object(keys).count != table_.object(values).count)
-        throw CorruptArchive{"a dictionary has not as many keys as values"};
-    return {ArchivedValue::Kind::dictionary, values, keys};
+    const std::optional<quint32> keys = arrayField(fields, "NS.keys");
+    const std::optional<quint32> values = arrayField(fields, "NS.objects");
+    if (!keys || !values)
+        return {{}, kNoElements};
+    if (table_.object(*keys).count != table_.object(*values).count)
+        return {{}, "a dictionary has not as many keys as values"};
+    return {{ArchivedValue::Kind::dictionary, *values, *keys}};
 }
 
-quint32 KeyedArchive::arrayField(const Object& fields, QByteArrayView key) const
+KeyedArchive::Reading KeyedArchive::listOf(const Object& fields) const
 {
-    return required(fields, key, Kind::array, "a collection lacks its elements");
+    const std::optional<quint32> elements = arrayField(fields, "NS.objects");
+    if (!elements)
+        return {{}, kNoElements};
+    return {{ArchivedValue::Kind::list, *elements, 0}};
 }
 
-/// The one field that an instance of a class with a single value keeps it in.
-ArchivedValue KeyedArchive::scalar(const Object& fields, Class type) const
+std::optional<quint32> KeyedArchive::arrayField(const Object& fields, QByteArrayView key) const
+{
+    const std::optional<quint32> found = table_.valueForKey(fields, key);
+    return found && table_.object(*found).kind == Kind::array ? found : std::nullopt;
+}
+
+/// Reads the one field that an instance of a class with a single value keeps it in.
+KeyedArchive::Reading KeyedArchive::scalarOf(const Object& fields, Meaning meaning) const
 {
     struct Field {
-        Class type;
+        Meaning meaning;
         const char* key;
         std::array<Kind, 2> kinds;
     };
 
     static constexpr std::array kFields{
-        Field{Class::string, "NS.string", {Kind::utf8String, Kind::utf16String}},
-        Field{Class::data, "NS.data", {Kind::data, Kind::data}},
-        Field{Class::date, "NS.time", {Kind::real, Kind::real}},
-        Field{Class::number, "NS.intval", {Kind::integer, Kind::integer}},
-        Field{Class::number, "NS.dblval", {Kind::real, Kind::real}},
-        Field{Class::number, "NS.boolval", {Kind::boolean, Kind::boolean}},
+        Field{Meaning::string, "NS.string", {Kind::utf8String, Kind::utf16String}},
+        Field{Meaning::data, "NS.data", {Kind::data, Kind::data}},
+        Field{Meaning::date, "NS.time", {Kind::real, Kind::integer}},
+        Field{Meaning::number, "NS.intval", {Kind::integer, Kind::integer}},
+        Field{Meaning::number, "NS.dblval", {Kind::real, Kind::real}},
+        Field{Meaning::number, "NS.boolval", {Kind::boolean, Kind::boolean}},
     };
     for (const Field& field : kFields) {
         const std::optional<quint32> found =
-            field.type == type ? table_.valueForKey(fields, field.key) : std::nullopt;
+            field.meaning == meaning ? table_.valueForKey(fields, field.key) : std::nullopt;
         if (!found)
             continue;
         const std::optional<quint32> content = target(*found);
         if (!content || std::ranges::count(field.kinds, table_.object(*content).kind) == 0)
-            throw CorruptArchive{"a value is not of its class"};
-        const bool date = type == Class::date;
-        return {date ? ArchivedValue::Kind::date : ArchivedValue::Kind::plain, *content, 0};
+            return {{}, "a value is not of its class"};
+        const bool date = meaning == Meaning::date;
+        return {{date ? ArchivedValue::Kind::date : ArchivedValue::Kind::plain, *content, 0}};
     }
-    throw CorruptArchive{"a value of a known class is missing"};
+    return {{}, "a value of a known class is missing"};
 }
 
 KeyedArchive::Class KeyedArchive::classOf(quint32 reference)
@@ -149,7 +171,7 @@ KeyedArchive::Class KeyedArchive::classOf(quint32 reference)
     if (!entry || table_.object(*entry).kind != Kind::dictionary)
         throw CorruptArchive{"an archived object's class does not exist"};
     Class& known = classes_[*entry];
-    if (known == Class::unseen)
+    if (known.meaning == Meaning::unseen)
         known = readClass(table_.object(*entry));
     return known;
 }
@@ -161,42 +183,43 @@ KeyedArchive::Class KeyedArchive::readClass(const Object& entry) const
     const Object text = name ? table_.object(*name) : Object{};
     if (text.kind != Kind::utf8String && text.kind != Kind::utf16String)
         throw CorruptArchive{"a class has no name"};
-    Class type = classOfName(text);
+    Class type{meaningOfName(text), false};
     const std::optional<quint32> ancestors = table_.valueForKey(entry, "$classes");
-    if (!ancestors || table_.object(*ancestors).kind != Kind::array)
+    if (type.meaning != Meaning::unknown || !ancestors || table_.object(*ancestors).kind != Kind::array)
         return type;
+    type.inherited = true;
     const Object names = table_.object(*ancestors);
-    for (quint32 i = 0; type == Class::unknown && i < std::min(names.count, kMaxClassNames); ++i)
-        type = classOfName(table_.object(table_.element(names, i)));
+    for (quint32 i = 0; type.meaning == Meaning::unknown && i < std::min(names.count, kMaxClassNames); ++i)
+        type.meaning = meaningOfName(table_.object(table_.element(names, i)));
     return type;
 }
 
-KeyedArchive::Class KeyedArchive::classOfName(const Object& name) const
+KeyedArchive::Meaning KeyedArchive::meaningOfName(const Object& name) const
 {
     struct Name {
         const char* text;
-        Class type;
+        Meaning meaning;
     };
 
     static constexpr std::array kNames{
-        Name{"NSDictionary", Class::dictionary},
-        Name{"NSMutableDictionary", Class::dictionary},
-        Name{"NSArray", Class::list},
-        Name{"NSMutableArray", Class::list},
-        Name{"NSSet", Class::list},
-        Name{"NSMutableSet", Class::list},
-        Name{"NSString", Class::string},
-        Name{"NSMutableString", Class::string},
-        Name{"NSData", Class::data},
-        Name{"NSMutableData", Class::data},
-        Name{"NSDate", Class::date},
-        Name{"NSNumber", Class::number},
+        Name{"NSDictionary", Meaning::dictionary},
+        Name{"NSMutableDictionary", Meaning::dictionary},
+        Name{"NSArray", Meaning::list},
+        Name{"NSMutableArray", Meaning::list},
+        Name{"NSSet", Meaning::list},
+        Name{"NSMutableSet", Meaning::list},
+        Name{"NSString", Meaning::string},
+        Name{"NSMutableString", Meaning::string},
+        Name{"NSData", Meaning::data},
+        Name{"NSMutableData", Meaning::data},
+        Name{"NSDate", Meaning::date},
+        Name{"NSNumber", Meaning::number},
     };
     for (const Name& known : kNames) {
         if (table_.isText(name, known.text))
-            return known.type;
+            return known.meaning;
     }
-    return Class::unknown;
+    return Meaning::unknown;
 }
 
 } // namespace halvern

@@ -20,7 +20,8 @@ struct ArchivedValue {
 
 /// The meaning of an object table as a keyed archive: its root, its references, its classes. One thread at a
 /// time. Every operation throws CorruptArchive where the archive breaks its own rules; an object of an
-/// unknown class is nothing, and no failure.
+/// unknown class is read as its nearest known ancestor, or is nothing, but no failure, if it does not keep
+/// its content as that one does.
 class KeyedArchive {
 public:
     /// `table` outlives the archive.
@@ -38,14 +39,30 @@ public:
     ArchivedValue value(quint32 target);
 
 private:
-    enum class Class : quint8 { unseen, unknown, dictionary, list, string, data, date, number };
-    Class classOfName(const PropertyListObjectTable::Object& name) const;
+    enum class Meaning : quint8 { unseen, unknown, dictionary, list, string, data, date, number };
+
+    struct Class {
+        Meaning meaning = Meaning::unseen;
+        /// Whether the meaning is an ancestor's.
+        bool inherited = false;
+    };
+
+    struct Reading {
+        ArchivedValue value;
+        /// Why the fields are not what the class keeps its content in, null if they are.
+        const char* fault = nullptr;
+    };
+
+    Meaning meaningOfName(const PropertyListObjectTable::Object& name) const;
     Class classOf(quint32 reference);
     Class readClass(const PropertyListObjectTable::Object& entry) const;
     ArchivedValue instance(const PropertyListObjectTable::Object& fields);
-    ArchivedValue dictionaryOf(const PropertyListObjectTable::Object& fields) const;
-    ArchivedValue scalar(const PropertyListObjectTable::Object& fields, Class type) const;
-    quint32 arrayField(const PropertyListObjectTable::Object& fields, QByteArrayView key) const;
+    Reading readAs(Meaning meaning, const PropertyListObjectTable::Object& fields) const;
+    Reading dictionaryOf(const PropertyListObjectTable::Object& fields) const;
+    Reading listOf(const PropertyListObjectTable::Object& fields) const;
+    Reading scalarOf(const PropertyListObjectTable::Object& fields, Meaning meaning) const;
+    std::optional<quint32> arrayField(const PropertyListObjectTable::Object& fields,
+                                      QByteArrayView key) const;
     quint32 required(const PropertyListObjectTable::Object& fields, QByteArrayView key,
                      PropertyListObjectTable::Kind kind, const char* why) const;
 

@@ -1,7 +1,5 @@
 #include "platform/foundation/keyed_archive_survey.h"
 
-#include "platform/foundation/keyed_unarchiver.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -17,9 +15,6 @@ constexpr quint64 kMapBytes = 96;
 constexpr quint64 kMapEntryBytes = 96;
 constexpr quint64 kListEntryBytes = 32;
 constexpr quint64 kBlockBytes = 64;
-
-/// A text of this many characters counts as one more value.
-constexpr quint32 kCharactersAValue = 32;
 
 /// Seconds that a date may be away from 2001: some 280,000 years, well inside what QDateTime can hold.
 constexpr double kMaxDateSeconds = 9.0e12;
@@ -48,17 +43,17 @@ KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyReference(quint32 reference
 /// `depth` is the level that a container here would have, the root's being 1.
 KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyTarget(quint32 target, int depth)
 {
-    if (extents_[target].state == Extent::State::open)
+    if (extents_[target].state == Extent::open)
         throw CorruptArchive{"a collection contains itself"};
-    if (extents_[target].state == Extent::State::unseen) {
+    if (extents_[target].state == Extent::unseen) {
         const ArchivedValue value = archive_.value(target);
-        extents_[target].state = Extent::State::open;
+        extents_[target].state = Extent::open;
         Extent extent;
         switch (value.kind) {
         case ArchivedValue::Kind::nothing:
             break;
         case ArchivedValue::Kind::date:
-            if (!(std::abs(table_.real(table_.object(value.content))) <= kMaxDateSeconds))
+            if (!(std::abs(table_.number(table_.object(value.content))) <= kMaxDateSeconds))
                 throw CorruptArchive{"a date is out of range"};
             [[fallthrough]];
         case ArchivedValue::Kind::plain:
@@ -67,7 +62,7 @@ KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyTarget(quint32 target, int 
         default:
             extent = surveyContainer(value, depth);
         }
-        extent.state = Extent::State::done;
+        extent.state = Extent::done;
         extents_[target] = extent;
     }
     if (depth - 1 + extents_[target].height > KeyedUnarchiver::kMaxDepth)
@@ -100,7 +95,7 @@ KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyPlain(quint32 index)
     const bool text = object.kind == Kind::utf8String || object.kind == Kind::utf16String;
     if (!text && object.kind != Kind::data)
         return extent;
-    extent.values = object.count / kCharactersAValue;
+    extent.characters = object.count;
     spend(kBlockBytes + quint64(object.count) * (text ? 2 : 1));
     return extent;
 }
@@ -108,12 +103,17 @@ KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyPlain(quint32 index)
 /// Counts an element, whatever it is, and all that it comes to.
 void KeyedArchiveSurvey::include(Extent& whole, const Extent& part)
 {
-    const quint64 values = quint64(whole.values) + part.values + 1;
+    const quint32 values = whole.values + part.values + 1;
+    const quint32 characters = whole.characters + part.characters;
     // The elements walked so far are part of the whole tree: too many of them, and it is too large already.
     if (values > KeyedUnarchiver::kMaxValues || ++walked_ > KeyedUnarchiver::kMaxValues)
         throw CorruptArchive{"it comes to more than four million values"};
-    whole.values = quint32(values);
-    whole.height = std::max(whole.height, part.height);
+    // Whatever shows or describes the catalogue writes out what it shares.
+    if (characters > KeyedUnarchiver::kMaxCharacters)
+        throw CorruptArchive{"its texts come to more than 32 million characters"};
+    whole.values = values;
+    whole.characters = characters;
+    whole.height = std::max(quint32(whole.height), quint32(part.height));
 }
 
 void KeyedArchiveSurvey::spend(quint64 bytes)

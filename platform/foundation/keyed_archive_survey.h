@@ -1,14 +1,15 @@
 #pragma once
 
 #include "platform/foundation/keyed_archive.h"
+#include "platform/foundation/keyed_unarchiver.h"
 
 #include <vector>
 
 namespace halvern {
 
 /// Walks a keyed archive from its root as decoding would, each object once, and holds it to the limits of
-/// KeyedUnarchiver: no container inside itself, depth, expanded number of values, memory. Takes eight bytes
-/// an object.
+/// KeyedUnarchiver: no container inside itself, depth, expanded number of values and characters, memory.
+/// Takes eight bytes an object.
 class KeyedArchiveSurvey {
 public:
     KeyedArchiveSurvey(const PropertyListObjectTable& table, KeyedArchive& archive);
@@ -19,13 +20,18 @@ public:
 private:
     /// What a value comes to when all that it shares is written out.
     struct Extent {
-        enum class State : quint8 { unseen, open, done };
-        /// Values, with long texts counting as several.
-        quint32 values = 0;
+        enum State : quint8 { unseen, open, done };
+
+        /// Characters of texts, bytes of data.
+        quint32 characters = 0;
+        quint32 values : 23 = 0;
         /// Levels of containers, itself included.
-        quint8 height = 0;
-        State state = State::unseen;
+        quint32 height : 7 = 0;
+        quint32 state : 2 = unseen;
     };
+
+    static_assert(sizeof(Extent) == 8);
+    static_assert(KeyedUnarchiver::kMaxValues < 1u << 23 && KeyedUnarchiver::kMaxDepth + 1 < 1 << 7);
 
     Extent surveyReference(quint32 reference, int depth);
     Extent surveyTarget(quint32 target, int depth);

@@ -100,7 +100,7 @@ QVariant ArchiveDecoder::decodePlain(quint32 index)
             return quint64(table_.integerBits(object));
         return qint64(table_.integerBits(object));
     case Kind::real:
-        return table_.real(object);
+        return table_.number(object);
     case Kind::data:
         result = table_.bytes(object).toByteArray();
         break;
@@ -114,7 +114,7 @@ QVariant ArchiveDecoder::decodePlain(quint32 index)
 QVariant ArchiveDecoder::decodeDate(const Object& seconds) const
 {
     const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
-    return reference.addMSecs(std::llround(table_.real(seconds) * 1000.0));
+    return reference.addMSecs(std::llround(table_.number(seconds) * 1000.0));
 }
 
 QVariant ArchiveDecoder::decodeList(const ArchivedValue& value)

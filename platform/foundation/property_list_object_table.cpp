@@ -267,8 +267,12 @@ bool PropertyListObjectTable::isText(const Object& object, QByteArrayView text) 
     return object.kind == Kind::utf16String && string(object) == QLatin1StringView(text);
 }
 
-double PropertyListObjectTable::real(const Object& object) const
+double PropertyListObjectTable::number(const Object& object) const
 {
+    if (object.kind == Kind::integer && isUnsigned(object))
+        return double(integerBits(object));
+    if (object.kind == Kind::integer)
+        return double(qint64(integerBits(object)));
     if (object.count == 4)
         return double(std::bit_cast<float>(quint32(bigEndian(object.start, 4))));
     return std::bit_cast<double>(bigEndian(object.start, 8));

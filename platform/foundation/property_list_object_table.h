@@ -73,8 +73,8 @@ public:
     /// Whether the object is this ASCII text.
     bool isText(const Object& object, QByteArrayView text) const;
 
-    /// The value of a real or date of 4 or 8 bytes.
-    double real(const Object& object) const;
+    /// The value of an integer, a real or a date.
+    double number(const Object& object) const;
 
     /// The low 64 bits of an integer, or the value of a UID.
     quint64 integerBits(const Object& object) const;

@@ -5,11 +5,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cmath>
 
 namespace halvern {
 
 namespace {
+
+/// Catalogues have two levels. Deeper ones are not to be mostly white.
+constexpr int kMaxIndent = 8;
 
 QByteArray quoted(const QString& text)
 {
@@ -41,7 +45,7 @@ QByteArray scalarJson(const QVariant& value)
 
 void writeValue(const QVariant& value, QIODevice& device, int depth)
 {
-    const QByteArray indent(depth * 4, ' ');
+    const QByteArray indent(std::min(depth, kMaxIndent) * 4, ' ');
     const char* separator = "\n";
     if (value.typeId() == QMetaType::QVariantMap) {
         const QVariantMap map = value.toMap();

@@ -93,22 +93,29 @@ int pack(const QString& source, const QCommandLineParser& options)
     return writeOut(ppdLines(attributes));
 }
 
+/// The archive in an archive file or a PPD. Complains if there is none.
+std::optional<QByteArray> archiveOf(const QString& source)
+{
+    std::optional<QByteArray> content = contentOf(source);
+    if (!content || !content->startsWith("*PPD-Adobe:"))
+        return content;
+    const PpdArchive archive = archiveInPpd(source);
+    if (!archive.unreadable.isEmpty())
+        complain(
+            QStringLiteral("%1 is not a PPD file that CUPS can read: %2").arg(source, archive.unreadable));
+    else if (!archive.present)
+        complain(QStringLiteral("%1 holds no papers; halvern-papers pack FILE.json --ppd %1 puts some in")
+                     .arg(source));
+    else if (!archive.bytes)
+        std::fputs("corrupt: what the PPD holds of it is not base64\n", stderr);
+    return archive.bytes;
+}
+
 int show(const QString& source)
 {
-    std::optional<QByteArray> archive = contentOf(source);
+    const std::optional<QByteArray> archive = archiveOf(source);
     if (!archive)
         return kFailed;
-    if (archive->startsWith("*PPD-Adobe:")) {
-        QString failure;
-        archive = archiveInPpd(source, failure);
-        if (!failure.isEmpty())
-            return complain(
-                QStringLiteral("%1 is not a PPD file that CUPS can read: %2").arg(source, failure));
-        if (archive->isEmpty())
-            return complain(
-                QStringLiteral("%1 holds no papers; halvern-papers pack FILE.json --ppd %1 puts some in")
-                    .arg(source));
-    }
     const KeyedUnarchiver::Result catalogue = KeyedUnarchiver::unarchiveDictionary(*archive);
     if (!catalogue.root) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(catalogue.failure));

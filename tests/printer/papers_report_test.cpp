@@ -66,9 +66,9 @@ protected:
     {
         const std::optional<QString> path = ppd::fetch(QLatin1String(queue));
         EXPECT_TRUE(path);
-        QString failure;
         Report report;
-        report.catalogue = KeyedUnarchiver::unarchiveDictionary(archiveInPpd(*path, failure)).root;
+        if (const auto archive = archiveInPpd(*path).bytes)
+            report.catalogue = KeyedUnarchiver::unarchiveDictionary(*archive).root;
         const ppd::File file = ppd::open(*path);
         report.timeStamp = ppd::attribute(file.get(), QStringLiteral("VLXTimeStamp"));
         report.duplex = ppd::attribute(file.get(), QStringLiteral("VLXDuplex"));

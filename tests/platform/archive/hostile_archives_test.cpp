@@ -121,13 +121,13 @@ QByteArray manyAttributes(int count)
     return xml + "/></plist>";
 }
 
-/// A list of lists of a long text, all shared: small here, endless when it is printed.
+/// A list of a long text, always the same: small here, forty times as long when it is printed.
 QByteArray sharedLongText()
 {
     return withField([](ArchiveAssembler& a) {
         const QByteArray text(1'000'000, 'x');
         const int shared = a.archived(a.text(text.constData()));
-        return a.archivedList(QList<int>(1000, shared));
+        return a.archivedList(QList<int>(40, shared));
     });
 }
 
@@ -300,7 +300,7 @@ TEST(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
         {"far too deep", [] { return chainOfLists(100'000, 1); }, "it is nested too deeply"},
         {"doubled 60 times", [] { return chainOfLists(60, 2); }, values},
         {"wide and shared", [] { return chainOfLists(4, 1000); }, values},
-        {"long text shared", sharedLongText, values},
+        {"long text shared", sharedLongText, "its texts come to more than 32 million characters"},
     };
     for (const HostileArchive& hostile : cases)
         expectCorrupt(hostile);
@@ -333,10 +333,17 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
         {"key without value", plist("<dict><key>a</key></dict>"), "its XML has a key without a value"},
         {"number", plist("<integer>12x</integer>"), "its XML has a number that is none"},
         {"real", plist("<real>1.5,</real>"), "its XML has a number that is none"},
+        {"two signs", plist("<real>+-1</real>"), "its XML has a number that is none"},
+        {"sign behind the base", plist("<integer>0x-5</integer>"), "its XML has a number that is none"},
         {"large number", plist("<integer>18446744073709551616</integer>"),
          "its XML has a number that is none"},
         {"data", plist("<data>A*==</data>"), "its XML has data that are not base64"},
+        {"data cut", plist("<data>A</data>"), "its XML has data that are not base64"},
+        {"only padding", plist("<data>====</data>"), "its XML has data that are not base64"},
         {"date", plist("<date>yesterday</date>"), "its XML has a date that is none"},
+        {"date without a zone", plist("<date>2026-02-28T06:30:00</date>"), "its XML has a date that is none"},
+        {"truth with a text", plist("<true>x</true>"), "its XML has a truth value with a text"},
+        {"element of another namespace", plist("<x:string>x</x:string>"), "its XML has an unknown element"},
         {"unclosed", [] { return QByteArray("<plist><dict>"); }, broken},
         {"unknown entity", plist("<string>&lol;</string>"), broken},
         {"Latin-1", [] { return QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><plist/>"); },
@@ -346,16 +353,17 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
         {"many attributes", [] { return manyAttributes(80'000); }, "its XML has a tag that is too long"},
         {"nesting", [=] { return repeated("<plist>", "<array>", most / 32); },
          "its XML is nested too deeply"},
-        {"long text", [=] { return repeated("<plist><string>", "x", most / 4); },
-         "its XML has a text of more than 4 MiB"},
+        {"long text", [=] { return repeated("<plist><string>", "x", most - 100); },
+         "its XML has a text of more than 16 MiB"},
         {"pieced text",
          [=] {
-             return repeated("<plist><string>", "<![CDATA[xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx]]>",
-                             most / 4);
+             return repeated("<plist><string>", "<![CDATA[xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx]]>", most);
          },
-         "its XML has a text of more than 4 MiB"},
-        {"many values", [=] { return repeated("<plist><array>", "<true/>", most); },
-         "its XML has more than three million tags"},
+         "its XML has a text of more than 16 MiB"},
+        {"many values", [=] { return repeated("<plist><array>", "<true/>", most / 3); },
+         "its XML has more than 1,250,000 values"},
+        {"many tags", [=] { return repeated("<plist><array>", "<true/>", most); },
+         "its XML has more than four million tags"},
         {"many short texts", [=] { return repeated("<plist><array>", "<string>ab</string>", most / 4); },
          broken},
     };

@@ -26,20 +26,26 @@ QVariant decodedField(const QByteArray& archive)
     return result.root->value(QStringLiteral("paper")).toMap().value(QStringLiteral("field"));
 }
 
+QByteArray xmlReference(int number)
+{
+    return "<dict><key>CF$UID</key><integer>" + QByteArray::number(number) + "</integer></dict>";
+}
+
+/// An archive that has one record "paper" with one "field". Place 7 of its objects is the lists' class.
 QByteArray xmlArchive(const QByteArray& value)
 {
-    const auto reference = [](int number) {
-        return "<dict><key>CF$UID</key><integer>" + QByteArray::number(number) + "</integer></dict>";
+    const auto dictionary = [](int key, int entry) {
+        return "<dict><key>$class</key>" + xmlReference(6) + "<key>NS.keys</key><array>" + xmlReference(key) +
+               "</array><key>NS.objects</key><array>" + xmlReference(entry) + "</array></dict>";
     };
-    const auto dictionary = [&](int key, int entry) {
-        return "<dict><key>$class</key>" + reference(6) + "<key>NS.keys</key><array>" + reference(key) +
-               "</array><key>NS.objects</key><array>" + reference(entry) + "</array></dict>";
+    const auto classNamed = [](const char* name) {
+        return QByteArray("<dict><key>$classname</key><string>") + name + "</string></dict>";
     };
     return "<?xml version='1.0' encoding='UTF-8'?><plist version='1.0'><dict><key>$top</key><dict>"
            "<key>root</key>" +
-           reference(1) + "</dict><key>$objects</key><array><string>$null</string>" + dictionary(2, 3) +
+           xmlReference(1) + "</dict><key>$objects</key><array><string>$null</string>" + dictionary(2, 3) +
            "<string>paper</string>" + dictionary(4, 5) + "<string>field</string>" + value +
-           "<dict><key>$classname</key><string>NSDictionary</string></dict></array></dict></plist>";
+           classNamed("NSDictionary") + classNamed("NSArray") + "</array></dict></plist>";
 }
 
 QDateTime moment(const char* text)
@@ -115,6 +121,18 @@ TEST(KeyedUnarchiverValues, XmlValuesKeepTheirKind)
     }
 }
 
+TEST(KeyedUnarchiverValues, XmlMayNestAsManyLevelsOfValuesAsBinary)
+{
+    const auto nestedLists = [](int levels) {
+        const QByteArray start = "<dict><key>$class</key>" + xmlReference(7) + "<key>NS.objects</key><array>";
+        return xmlArchive(start.repeated(levels) + QByteArray("</array></dict>").repeated(levels));
+    };
+    // The catalogue and its record are two levels more.
+    EXPECT_EQ(decodedField(nestedLists(62)).typeId(), QMetaType::QVariantList);
+    EXPECT_EQ(KeyedUnarchiver::unarchiveDictionary(nestedLists(63)).failure,
+              QStringLiteral("corrupt: it is nested too deeply"));
+}
+
 TEST(KeyedUnarchiverValues, ObjectsAreReadByTheirClass)
 {
     ArchiveAssembler archive;
@@ -125,17 +143,19 @@ TEST(KeyedUnarchiverValues, ObjectsAreReadByTheirClass)
     const int data = archive.archivedInstance("NSMutableData", "NS.data", archive.add("\x42hi"));
     const int date =
         archive.archivedInstance("NSDate", "NS.time", archive.add(char(0x23) + QByteArray(8, '\0')));
+    const int wholeDate = archive.archivedInstance("NSDate", "NS.time", archive.integer(-60));
     const int number =
         archive.archivedInstance("NSNumber", "NS.dblval", archive.add("\x22\x3F\xC0" + QByteArray(2, '\0')));
     const int set = archive.archivedList({one}, "NSMutableSet");
     const int unknown = archive.archivedInstance("Spool", "NS.objects", archive.array({}));
     const int null = archive.archivedInstance("NSNull", "any", archive.integer(3));
-    const int list = archive.archivedList({wrapped, distant, data, date, number, set, unknown, null, 0, one},
-                                          "NSMutableArray");
+    const int list = archive.archivedList(
+        {wrapped, distant, data, date, wholeDate, number, set, unknown, null, 0, one}, "NSMutableArray");
     const QVariantList expected{QStringLiteral("inline"),
                                 QStringLiteral("far"),
                                 QByteArray("hi"),
                                 moment("2001-01-01T00:00:00Z"),
+                                moment("2000-12-31T23:59:00Z"),
                                 1.5,
                                 QVariantList{qint64(1)},
                                 qint64(1)};
@@ -150,6 +170,30 @@ TEST(KeyedUnarchiverValues, ASubclassIsReadAsItsNearestKnownAncestor)
         archive.dictionary({archive.text("NS.objects"), archive.text("$class")},
                            {archive.array({archive.text("x")}), archive.uid(quint64(type))}));
     EXPECT_EQ(decodedField(archive.finishWithField(list)), QVariant(QVariantList{QStringLiteral("x")}));
+}
+
+TEST(KeyedUnarchiverValues, ASubclassThatKeepsItsContentElsewhereIsNothing)
+{
+    const struct {
+        QList<const char*> classes;
+        const char* field;
+        QByteArray object;
+    } cases[] = {
+        {{"NSDecimalNumber", "NSNumber", "NSValue"}, "NS.mantissa", "\x41\x01"},
+        {{"NSCountedSet", "NSMutableSet", "NSSet"}, "NS.count", "\x10\x02"},
+        {{"SpoolMap", "NSMutableDictionary", "NSDictionary"}, "NS.objects", QByteArray("\xA0")},
+        {{"SpoolList", "NSArray"}, "NS.objects", "\x51x"},
+        {{"SpoolName", "NSString"}, "NS.string", "\x10\x01"},
+    };
+
+    for (const auto& subclass : cases) {
+        ArchiveAssembler archive;
+        const int type = archive.classEntry(subclass.classes.first(), subclass.classes.mid(1));
+        const int value =
+            archive.archived(archive.dictionary({archive.text(subclass.field), archive.text("$class")},
+                                                {archive.add(subclass.object), archive.uid(quint64(type))}));
+        EXPECT_FALSE(decodedField(archive.finishWithField(value)).isValid()) << subclass.classes.first();
+    }
 }
 
 TEST(KeyedUnarchiverValues, EntriesWithoutAKeyOrValueAreLeftOutAndTheLastOfEqualKeysStays)
