@@ -281,11 +281,12 @@ TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
     dialog.deck().showPage(t("first"));
     panels.calls.clear();
     QTest::mouseClick(print, Qt::LeftButton);
-    EXPECT_EQ(panels.calls, (QStringList{t("first: save"), t("second: save")}));
+    EXPECT_EQ(panels.calls, (QStringList{t("first: save"), t("second: save"), t("first: shouldHide"),
+                                         t("second: shouldHide")}));
     ASSERT_TRUE(waitUntil([&] { return dialog.run() && dialog.run()->isOver(); }, 60));
     EXPECT_TRUE(dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
     EXPECT_TRUE(containsText(dialog.findChild<QLabel*>(t("status"))->text(), "Printed"));
-    EXPECT_EQ(panels.calls.mid(2), QStringList{t("first: willShow")}) << "the panel is in use again";
+    EXPECT_EQ(panels.calls.mid(4), QStringList{t("first: willShow")}) << "the panel is in use again";
     dialog.close();
     EXPECT_TRUE(panels.calls.contains(t("first: closing to print")));
 }
