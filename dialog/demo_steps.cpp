@@ -14,6 +14,8 @@
 #include <QPixmap>
 #include <QProcess>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 
 namespace halvern {
@@ -155,6 +157,14 @@ QString DemoSteps::type(QWidget& target, const QString& text)
 
 QString DemoSteps::choose(QWidget& target, const QString& choice)
 {
+    if (auto* pages = qobject_cast<QTabWidget*>(&target)) {
+        QTabBar* bar = pages->tabBar();
+        const int tab = choice.toInt() - 1;
+        if (tab < 0 || tab >= bar->count())
+            return QStringLiteral("there is no tab %1").arg(choice);
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+        return {};
+    }
     auto* box = qobject_cast<QComboBox*>(&target);
     const int row = box ? std::max(box->findData(choice), box->findText(choice)) : -1;
     if (row < 0)
