@@ -1,4 +1,4 @@
-#include "tests/end_to_end/color/real_dialog.h"
+#include "tests/support/real_dialog.h"
 
 #include "tests/support/observers.h"
 
@@ -10,16 +10,27 @@
 
 namespace halvern {
 
-RealDialog::RealDialog(const QString& queue, const QString& photo, PanelSource& panels)
-    : session({queue, {}, {photo}, 1}, panels), dialog(session)
+RealDialog::RealDialog(const SessionRequest& request, PanelSource& panels)
+    : session(request, panels), dialog(session)
 {
     dialog.show();
     session.start();
 }
 
+RealDialog::~RealDialog()
+{
+    dialog.close();
+    drainMainQueue();
+}
+
 bool RealDialog::isReady()
 {
-    return waitUntil([this] { return session.canPrint(); });
+    return waitUntil([this] { return session.canPrint(); }, 60) && QTest::qWaitForWindowActive(&dialog);
+}
+
+bool RealDialog::showPage(const char* identifier)
+{
+    return dialog.deck().showPage(QLatin1StringView(identifier));
 }
 
 QWidget* RealDialog::control(int tag)
@@ -34,18 +45,55 @@ QWidget* RealDialog::control(int tag)
     return &nothing;
 }
 
-void RealDialog::type(int tag, const char* text)
+QLineEdit* RealDialog::field(int tag)
 {
-    QWidget* field = control(tag);
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(field, QString::fromLatin1(text));
-    QTest::keyClick(field, Qt::Key_Tab);
+    static QLineEdit nothing;
+    auto* found = qobject_cast<QLineEdit*>(control(tag));
+    EXPECT_TRUE(found) << tag << " is no field";
+    return found ? found : &nothing;
+}
+
+QAbstractButton* RealDialog::button(int tag)
+{
+    static QPushButton nothing;
+    auto* found = qobject_cast<QAbstractButton*>(control(tag));
+    EXPECT_TRUE(found) << tag << " is no button";
+    return found ? found : &nothing;
+}
+
+void RealDialog::setOn(int tag, bool on)
+{
+    QAbstractButton* const toggle = button(tag);
+    if (toggle->isChecked() != on)
+        QTest::mouseClick(toggle, Qt::LeftButton, {}, QPoint(8, toggle->height() / 2));
+    EXPECT_EQ(toggle->isChecked(), on);
+}
+
+void RealDialog::type(int tag, const QString& text)
+{
+    QLineEdit* const target = field(tag);
+    target->setFocus();
+    QTest::keyClick(target, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(target, Qt::Key_Delete);
+    QTest::keyClicks(target, text);
 }
 
 int RealDialog::print()
 {
     QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("printButton")), Qt::LeftButton);
+    return jobWhenOver();
+}
+
+int RealDialog::printByKey()
+{
+    PrintRun* const before = dialog.run();
+    QTest::keyClick(&dialog, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_NE(dialog.run(), before);
+    return jobWhenOver();
+}
+
+int RealDialog::jobWhenOver()
+{
     const bool ended = waitUntil([this] { return dialog.run() && dialog.run()->isOver(); }, 60);
     EXPECT_TRUE(ended && dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
     return dialog.outcome().printed ? dialog.outcome().jobId : 0;
