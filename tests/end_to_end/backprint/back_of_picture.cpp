@@ -1,8 +1,5 @@
 #include "tests/end_to_end/backprint/back_of_picture.h"
 
-#include "printer/back_text.h"
-#include "printer/page_stream.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -13,24 +10,13 @@ namespace halvern {
 namespace {
 
 // Not the resolution that the printer takes by itself: an option that gets lost on the way shows.
-constexpr PageHeader kBackPage{1, true, true, 1440, 2160, 360, 360};
-
-QImage paintedBack(const QStringList& lines)
-{
-    std::vector<std::string> texts;
-    for (const QString& line : lines)
-        texts.push_back(line.toStdString());
-    const BackText painter(texts, kBackPage);
-    QImage page(int(kBackPage.width), int(kBackPage.height), QImage::Format_RGB888);
-    for (int y = 0; y < page.height(); ++y)
-        painter.row(uint32_t(y), {page.scanLine(y), size_t(page.width()) * 3});
-    return page;
-}
+constexpr double kDpi = 360.0;
+constexpr QSize kBackPage(1440, 2160);
 
 // Line `row` lies in a band of 6 mm, the first one 8 mm below the sheet's edge.
 int inkInRow(const QImage& page, int row)
 {
-    const auto pixels = [](double millimetres) { return int(millimetres / 25.4 * kBackPage.yDpi); };
+    const auto pixels = [](double millimetres) { return int(millimetres / 25.4 * kDpi); };
     int ink = 0;
     for (int y = pixels(8 + 6 * row); y < pixels(8 + 6 * (row + 1)); ++y) {
         for (int x = 0; x < page.width(); ++x)
@@ -89,18 +75,31 @@ std::optional<QString> BackOfPicture::received(int job, const char* key)
     return options && found != options->end() ? std::optional(found->second) : std::nullopt;
 }
 
+QStringList BackOfPicture::receivedLines(int job)
+{
+    QStringList lines;
+    for (const char* const key : {"CVP1", "CVP2"}) {
+        const bool isOn = received(job, QByteArray("Enable") + key) == QStringLiteral("True");
+        QString line = received(job, key).value_or(QString());
+        line.replace(QChar(0x2264), QLatin1Char(',')).replace(QChar(0x00E6), QLatin1Char('\''));
+        if (isOn && !line.isEmpty())
+            lines.append(line);
+    }
+    return lines;
+}
+
 void BackOfPicture::expectBack(int job, const QStringList& lines)
 {
+    EXPECT_EQ(receivedLines(job), lines);
     EXPECT_TRUE(QFileInfo::exists(server->jobFile(job, QStringLiteral("page-1.png"))));
     const QString file = server->jobFile(job, QStringLiteral("page-1-back.png"));
     ASSERT_EQ(QFileInfo::exists(file), !lines.isEmpty());
     if (lines.isEmpty())
         return;
-    const QImage back = QImage(file).convertToFormat(QImage::Format_RGB888);
-    ASSERT_EQ(back.size(), QSize(int(kBackPage.width), int(kBackPage.height)));
+    const QImage back(file);
+    ASSERT_EQ(back.size(), kBackPage);
     for (int row = 0; row < 3; ++row)
         EXPECT_EQ(inkInRow(back, row) > 100, row < lines.size()) << "row " << row;
-    EXPECT_EQ(back, paintedBack(lines)) << "other words, or other places";
 }
 
 QString longestLine()

@@ -23,8 +23,11 @@ protected:
     /// What the printer's filter received for the option; nothing if it received none.
     static std::optional<QString> received(int job, const char* key);
 
-    /// Expects a back that has these lines, as they are read, and nothing else; without lines, no back at
-    /// all.
+    /// The lines that the printer was told to print, as they are read.
+    static QStringList receivedLines(int job);
+
+    /// Expects that the printer was told these lines, and put text where they belong and nowhere else;
+    /// without lines, that it put out no back at all.
     static void expectBack(int job, const QStringList& lines);
 
     inline static std::unique_ptr<PrivateCups> server;

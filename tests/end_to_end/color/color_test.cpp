@@ -1,10 +1,9 @@
 // Color Adjustments in the real dialog, with the bundle as it is shipped, as far as the real printer. The
 // user is German: what is typed has "." all the same.
-#include "dialog/panel_deck.h"
 #include "dialog/plugin_loader.h"
 #include "dialog/preview_widget.h"
-#include "tests/end_to_end/color/real_dialog.h"
 #include "tests/support/observers.h"
+#include "tests/support/real_dialog.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -47,12 +46,12 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(dialog.isReady());
-        ASSERT_TRUE(dialog.dialog.deck().showPage(QStringLiteral("com.halvern.print.pde.coloradjust")));
+        ASSERT_TRUE(dialog.showPage("com.halvern.print.pde.coloradjust"));
     }
 
     QString summary()
     {
-        dialog.dialog.deck().showPage(QStringLiteral("summary"));
+        dialog.showPage("summary");
         QTextDocument text;
         text.setHtml(dialog.dialog.findChild<QLabel*>(QStringLiteral("summaryPage"))->text());
         return text.toPlainText();
@@ -63,17 +62,22 @@ protected:
     static inline std::unique_ptr<PrivateCups> server;
     QTemporaryDir folder;
     PluginLoader panels{QStringList{QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).absolutePath()}};
-    RealDialog dialog{QStringLiteral("Tessarin"), makeTestPhoto(folder.filePath(QStringLiteral("photo.jpg"))),
-                      panels};
+    RealDialog dialog{
+        {QStringLiteral("Tessarin"), {}, {makeTestPhoto(folder.filePath(QStringLiteral("photo.jpg")))}},
+        panels};
 };
 
 TEST_F(ColorEndToEnd, SevenValuesAndTheToggleArriveAsTypedAndThePageIsLeftToThePrinter)
 {
     const int plain = dialog.print();
-    QTest::mouseClick(dialog.control(0x200), Qt::LeftButton, {}, QPoint(12, 10));
-    for (const Typed& value : kTyped)
-        dialog.type(value.field, value.text);
     auto& preview = *dialog.dialog.findChild<PreviewWidget*>();
+    const QPoint middle = preview.sheetRect().center().toPoint();
+    const int before = qGreen(preview.grab().toImage().pixel(middle));
+    dialog.setOn(0x200, true);
+    QTest::keyClick(dialog.control(4), Qt::Key_PageUp);
+    EXPECT_GT(qGreen(preview.grab().toImage().pixel(middle)), before) << "the preview follows the slider";
+    for (const Typed& value : kTyped)
+        dialog.type(value.field, QLatin1StringView(value.text));
     EXPECT_EQ(preview.captions().size(), 2) << "the preview shows them";
     const int job = dialog.print();
     const auto received = server->receivedOptions(job);
@@ -87,30 +91,11 @@ TEST_F(ColorEndToEnd, SevenValuesAndTheToggleArriveAsTypedAndThePageIsLeftToTheP
     EXPECT_EQ(page(job), page(plain)) << "the preview's adjustments are not in the page";
 }
 
-TEST_F(ColorEndToEnd, ThePreviewFollowsTheSliderAndTheToggle)
-{
-    auto& preview = *dialog.dialog.findChild<PreviewWidget*>();
-    const QImage plain = preview.grab().toImage();
-    QTest::mouseClick(dialog.control(0x200), Qt::LeftButton, {}, QPoint(12, 10));
-    dialog.control(4)->setFocus();
-    const QPoint middle = preview.sheetRect().center().toPoint();
-    int before = qGreen(preview.grab().toImage().pixel(middle));
-    for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(dialog.control(4), Qt::Key_PageUp);
-        const int after = qGreen(preview.grab().toImage().pixel(middle));
-        EXPECT_GT(after, before);
-        before = after;
-    }
-    QTest::mouseClick(dialog.control(0x200), Qt::LeftButton, {}, QPoint(12, 10));
-    EXPECT_EQ(preview.grab().toImage().copy(0, 0, 200, 400), plain.copy(0, 0, 200, 400));
-    EXPECT_EQ(preview.captions().size(), 1);
-}
-
 TEST_F(ColorEndToEnd, TheSummaryHasEveryChoiceInTheUsersWords)
 {
-    QTest::mouseClick(dialog.control(0x200), Qt::LeftButton, {}, QPoint(12, 10));
-    dialog.type(0x144, "-12");
-    dialog.type(0x145, "25");
+    dialog.setOn(0x200, true);
+    dialog.type(0x144, QStringLiteral("-12"));
+    dialog.type(0x145, QStringLiteral("25"));
     const QString text = summary();
     for (const char* line : {"Farbanpassung\nJa", "Helligkeit\n-12", "Kontrast\n25", "Rot\n0", "Gamma\n1.0",
                              "Blattpapier\nWie eingelegt", "Farbangleichung\nDurch das Programm"})

@@ -2,8 +2,8 @@
 #include "panels/simple/unavailable_panel.h"
 #include "platform/printing/cups_ppd.h"
 #include "platform/printing/print_settings.h"
-#include "tests/end_to_end/color/real_dialog.h"
 #include "tests/support/observers.h"
+#include "tests/support/real_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -64,14 +64,14 @@ TEST(CoverPageEndToEnd, TheReplacementKeepsTheQueuesBannerPageAway)
     const QString photo = makeTestPhoto(folder.filePath(QStringLiteral("photo.jpg")));
 
     Roster empty(false);
-    RealDialog without(queue, photo, empty);
+    RealDialog without({queue, {}, {photo}}, empty);
     ASSERT_TRUE(without.isReady());
     const int bannered = without.print();
     EXPECT_EQ(jobSheetsOf(bannered).value(0), QStringLiteral("standard"));
     EXPECT_EQ(sheetsOf(server, bannered), 2) << "the queue does print a banner page if nobody keeps it away";
 
     Roster roster(true);
-    RealDialog with(queue, photo, roster);
+    RealDialog with({queue, {}, {photo}}, roster);
     ASSERT_TRUE(with.isReady());
     ASSERT_EQ(with.session.panels().size(), 1u);
     selectAndWait(with.session, QStringLiteral("Plain"));

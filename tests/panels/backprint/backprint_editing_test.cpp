@@ -46,9 +46,6 @@ TEST_F(BackprintEditingTest, ARefusedCharacterGoesAtOnceWithABeep)
     EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
     EXPECT_EQ(stored("CVP1"), QStringLiteral("ab"));
     EXPECT_EQ(beeps.count, 3);
-    paste(2, QStringLiteral("ab~cd~ef"));
-    EXPECT_EQ(line(2)->text(), QStringLiteral("abab~cd"));
-    EXPECT_EQ(beeps.count, 4);
 }
 
 TEST_F(BackprintEditingTest, ALongPasteIsCutWithOneBeepAndTheCaretStays)

@@ -70,8 +70,6 @@ TEST(BackprintTextTest, HoldsATypedTextToTheAlphabetAndTheLength)
     } cases[] = {
         {QStringLiteral("plain [MM]"), QStringLiteral("plain [MM]"), false},
         {QStringLiteral("ab~cd"), QStringLiteral("ab"), true},
-        {QStringLiteral("~ab"), QStringLiteral(""), true},
-        {QStringLiteral("ab~cd~ef"), QStringLiteral("abab~cd"), true},
         {run(120), run(120), false},
         {run(125), run(120), true},
         {run(120) + u' ', run(120), true},

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "dialog/dialog_session.h"
+#include "dialog/panel_deck.h"
 #include "dialog/print_dialog.h"
 #include "tests/support/private_cups.h"
 
+#include <QAbstractButton>
 #include <QLineEdit>
 
 namespace halvern {
@@ -11,22 +13,38 @@ namespace halvern {
 /// The print dialog on a queue of the private server in use, shown offscreen and worked like a user does.
 class RealDialog {
 public:
-    RealDialog(const QString& queue, const QString& photo, PanelSource& panels);
+    /// `panels` outlives this object.
+    RealDialog(const SessionRequest& request, PanelSource& panels);
+    ~RealDialog();
 
     /// Whether printer and photo come.
     bool isReady();
 
+    /// Shows the page with the identifier; false if there is none.
+    bool showPage(const char* identifier);
+
     /// The shown page's control with the tag; never null, an unknown tag fails the test.
     QWidget* control(int tag);
+    QLineEdit* field(int tag);
+    QAbstractButton* button(int tag);
 
-    /// Selects what a field holds, types a text key by key, and leaves the field.
-    void type(int tag, const char* text);
+    /// Clicks the button if it is not in the state already.
+    void setOn(int tag, bool on);
+
+    /// Replaces what a field holds by a text, key by key. The focus stays in the field.
+    void type(int tag, const QString& text);
 
     /// Presses Print and waits until the job has ended. The job's number, 0 if it was not printed.
     int print();
 
+    /// The same with the keyboard's shortcut, which leaves the focus where it is.
+    int printByKey();
+
     DialogSession session;
     PrintDialog dialog;
+
+private:
+    int jobWhenOver();
 };
 
 /// A photo of 600 x 400 pixels at `path`, in several tones.

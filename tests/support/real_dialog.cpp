@@ -1,0 +1,118 @@
+#include "tests/support/real_dialog.h"
+
+#include "tests/support/observers.h"
+
+#include <QDir>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+RealDialog::RealDialog(const SessionRequest& request, PanelSource& panels)
+    : session(request, panels), dialog(session)
+{
+    dialog.show();
+    session.start();
+}
+
+RealDialog::~RealDialog()
+{
+    dialog.close();
+    drainMainQueue();
+}
+
+bool RealDialog::isReady()
+{
+    return waitUntil([this] { return session.canPrint(); }, 60) && QTest::qWaitForWindowActive(&dialog);
+}
+
+bool RealDialog::showPage(const char* identifier)
+{
+    return dialog.deck().showPage(QLatin1StringView(identifier));
+}
+
+QWidget* RealDialog::control(int tag)
+{
+    for (QWidget* widget : dialog.findChildren<QWidget*>()) {
+        const QVariant own = widget->property("tag");
+        if (own.isValid() && own.toInt() == tag && widget->isVisible())
+            return widget;
+    }
+    ADD_FAILURE() << "no visible control has the tag " << tag;
+    static QWidget nothing;
+    return &nothing;
+}
+
+QLineEdit* RealDialog::field(int tag)
+{
+    static QLineEdit nothing;
+    auto* found = qobject_cast<QLineEdit*>(control(tag));
+    EXPECT_TRUE(found) << tag << " is no field";
+    return found ? found : &nothing;
+}
+
+QAbstractButton* RealDialog::button(int tag)
+{
+    static QPushButton nothing;
+    auto* found = qobject_cast<QAbstractButton*>(control(tag));
+    EXPECT_TRUE(found) << tag << " is no button";
+    return found ? found : &nothing;
+}
+
+void RealDialog::setOn(int tag, bool on)
+{
+    QAbstractButton* const toggle = button(tag);
+    if (toggle->isChecked() != on)
+        QTest::mouseClick(toggle, Qt::LeftButton, {}, QPoint(8, toggle->height() / 2));
+    EXPECT_EQ(toggle->isChecked(), on);
+}
+
+void RealDialog::type(int tag, const QString& text)
+{
+    QLineEdit* const target = field(tag);
+    target->setFocus();
+    QTest::keyClick(target, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(target, Qt::Key_Delete);
+    QTest::keyClicks(target, text);
+}
+
+int RealDialog::print()
+{
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("printButton")), Qt::LeftButton);
+    return jobWhenOver();
+}
+
+int RealDialog::printByKey()
+{
+    PrintRun* const before = dialog.run();
+    QTest::keyClick(&dialog, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_NE(dialog.run(), before);
+    return jobWhenOver();
+}
+
+int RealDialog::jobWhenOver()
+{
+    const bool ended = waitUntil([this] { return dialog.run() && dialog.run()->isOver(); }, 60);
+    EXPECT_TRUE(ended && dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
+    return dialog.outcome().printed ? dialog.outcome().jobId : 0;
+}
+
+QString makeTestPhoto(const QString& path)
+{
+    QImage photo(600, 400, QImage::Format_RGB32);
+    for (int y = 0; y < photo.height(); ++y) {
+        for (int x = 0; x < photo.width(); ++x)
+            photo.setPixel(x, y, qRgb(x * 255 / 600, y * 255 / 400, 90));
+    }
+    EXPECT_TRUE(photo.save(path));
+    return path;
+}
+
+qsizetype sheetsOf(const PrivateCups& server, int job)
+{
+    return QDir(server.jobFile(job, QString())).entryList({QStringLiteral("page-*.png")}, QDir::Files).size();
+}
+
+} // namespace halvern
