@@ -50,6 +50,8 @@ TEST_F(PaperRules, WithRollsOnlyTheSheetIsOutOfReach)
     EXPECT_EQ(enabledTitles(kFeedTag), words("Roll"));
     EXPECT_EQ(titles(kWidthTag), words("152.4 mm,210 mm"));
     EXPECT_FALSE(menu(kNameTag)->isEnabled());
+    EXPECT_EQ(menu(kNameTag)->accessibleDescription(),
+              QStringLiteral("The printer has no cut sheets loaded."));
     EXPECT_TRUE(menu(kWidthTag)->isEnabled());
     EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kNameTag);
 }
@@ -106,6 +108,8 @@ TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
     show(catalogueOf(kSheets));
     EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
     EXPECT_TRUE(asked("PaperName").isEmpty());
+    // Before there was a catalogue there were no sheets; only the fallback below takes that back.
+    EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
 
     make(ppd);
     host->settings->setValue(QStringLiteral("PaperName"), QStringLiteral("Unloaded"), false);
@@ -117,6 +121,7 @@ TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
     show(catalogueOf(kSheets));
     EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
     EXPECT_EQ(asked("PaperName"), words("Gloss A4"));
+    EXPECT_EQ(enabledTitles(kFeedTag), words("Cut Sheet"));
 }
 
 TEST_F(PaperRules, CountTwoHundredAndFiftySixNamesAsNone)
