@@ -71,6 +71,18 @@ TEST_F(LeavingDuringRefresh, ClosingTheDialogTakesTheJobBack)
     EXPECT_TRUE(activeJobs().isEmpty());
 }
 
+TEST_F(LeavingDuringRefresh, AnotherPrinterTakesTheJobBackWhileTheDialogGoesOn)
+{
+    ASSERT_TRUE(server.addQueue(QStringLiteral("Other"))) << qPrintable(server.error());
+    QProcess program;
+    startDriver(program, "ready\npage com.halvern.print.pde.features\nshown name:progress\n"
+                         "choose name:printer Other\n"
+                         "run until [ -z \"$(lpstat -o Slow)\" ]; do sleep 0.05; done\n"
+                         "ready\npage com.halvern.print.pde.features\noffers tag:7 Photo Gloss A4\n");
+    ASSERT_TRUE(program.waitForFinished(50000));
+    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
+}
+
 TEST_F(LeavingDuringRefresh, PrintingDoesNotWaitForThePrintersAnswer)
 {
     QProcess program;
