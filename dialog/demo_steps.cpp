@@ -172,6 +172,10 @@ QString DemoSteps::choose(QWidget& target, const QString& choice)
     box->showPopup();
     box->view()->setCurrentIndex(box->model()->index(row, box->modelColumn()));
     QTest::keyClick(box->view(), Qt::Key_Return);
+    // Without a window manager nobody gives the keyboard back to the window.
+    dialog_.activateWindow();
+    if (!QTest::qWaitForWindowActive(&dialog_))
+        return QStringLiteral("the window did not become active again");
     return {};
 }
 
