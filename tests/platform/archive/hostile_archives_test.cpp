@@ -353,16 +353,17 @@ TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
         {"many attributes", [] { return manyAttributes(80'000); }, "its XML has a tag that is too long"},
         {"nesting", [=] { return repeated("<plist>", "<array>", most / 32); },
          "its XML is nested too deeply"},
-        {"long text", [=] { return repeated("<plist><string>", "x", most / 4); },
-         "its XML has a text of more than 4 MiB"},
+        {"long text", [=] { return repeated("<plist><string>", "x", most - 100); },
+         "its XML has a text of more than 16 MiB"},
         {"pieced text",
          [=] {
-             return repeated("<plist><string>", "<![CDATA[xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx]]>",
-                             most / 4);
+             return repeated("<plist><string>", "<![CDATA[xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx]]>", most);
          },
-         "its XML has a text of more than 4 MiB"},
-        {"many values", [=] { return repeated("<plist><array>", "<true/>", most); },
-         "its XML has more than three million tags"},
+         "its XML has a text of more than 16 MiB"},
+        {"many values", [=] { return repeated("<plist><array>", "<true/>", most / 3); },
+         "its XML has more than 1,100,000 values"},
+        {"many tags", [=] { return repeated("<plist><array>", "<true/>", most); },
+         "its XML has more than four million tags"},
         {"many short texts", [=] { return repeated("<plist><array>", "<string>ab</string>", most / 4); },
          broken},
     };
