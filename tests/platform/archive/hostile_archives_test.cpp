@@ -57,14 +57,6 @@ void expectCorrupt(const char* name, const QByteArray& archive, const char* word
         << qPrintable(result.failure);
 }
 
-/// The list that `top` builds, with the object that it answers on top.
-QByteArray topOf(auto top)
-{
-    ArchiveAssembler archive;
-    const int object = top(archive);
-    return archive.propertyList(object);
-}
-
 QByteArray rootOf(auto root)
 {
     ArchiveAssembler archive;
@@ -147,13 +139,6 @@ QByteArray manyAttributes(int count)
     return xml + "/></plist>";
 }
 
-/// A list of a long text, always the same: small here, forty times as long when it is printed.
-int sharedLongText(ArchiveAssembler& a)
-{
-    const QByteArray text(1'000'000, 'x');
-    return a.archivedList(QList<int>(40, a.archived(a.text(text.constData()))));
-}
-
 /// An XML archive with a value that nothing refers to.
 QByteArray xmlBeside(const QByteArray& value)
 {
@@ -196,13 +181,11 @@ TEST_F(HostileArchives, BrokenTablesAreCorrupt)
 TEST_F(HostileArchives, BrokenArchivesAreCorrupt)
 {
     const QByteArray noNumber = char(0x23) + bigEndian(0x7FF8000000000000, 8);
-    expectCorrupt("no archive", topOf([](auto& a) { return a.text("x"); }));
-    expectCorrupt("no objects",
-                  topOf([](auto& a) { return a.dictionary({a.text("$top")}, {a.dictionary({}, {})}); }));
-    expectCorrupt(
-        "no root", topOf([](auto& a) {
-            return a.dictionary({a.text("$objects"), a.text("$top")}, {a.array({}), a.dictionary({}, {})});
-        }));
+    ArchiveAssembler noRoot;
+    expectCorrupt("no root",
+                  noRoot.propertyList(noRoot.dictionary({noRoot.text("$objects"), noRoot.text("$top")},
+                                                        {noRoot.array({}), noRoot.dictionary({}, {})})));
+    expectCorrupt("no archive", noRoot.propertyList(noRoot.text("x")));
     expectCorrupt("root is nil", rootOf([](auto&) { return 0; }), "not a dictionary");
     expectCorrupt("root is a list", rootOf([](auto& a) { return a.archivedList({}); }));
     expectCorrupt("root of an unknown class",
@@ -235,7 +218,12 @@ TEST_F(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
     expectCorrupt("too deep", chainOfLists(63, 1), "nested too deeply");
     expectCorrupt("far too deep", chainOfLists(100'000, 1));
     expectCorrupt("doubled 60 times", chainOfLists(60, 2), "four million values");
-    expectCorrupt("long text shared", withField(sharedLongText), "32 million characters");
+    // A list of one long text: small here, forty times as long when it is printed.
+    expectCorrupt("long text shared", withField([](auto& a) {
+                      const QByteArray text(kMegabyte, 'x');
+                      return a.archivedList(QList<int>(40, a.archived(a.text(text.constData()))));
+                  }),
+                  "32 million characters");
 }
 
 TEST_F(HostileArchives, AnInstanceIsLookedThroughOnceHoweverOftenItIsReferredTo)
