@@ -24,7 +24,7 @@ namespace {
 constexpr std::size_t kMaxNesting = 2 * KeyedUnarchiver::kMaxDepth + 8;
 
 /// What is parsed and decoded in less than a second. A catalogue of 32 MiB without any space has 900,000.
-constexpr quint32 kMaxXmlObjects = 1'250'000;
+constexpr quint32 kMaxXmlObjects = 1'100'000;
 
 enum class Element { unknown, dictionary, array, key, string, integer, real, isTrue, isFalse, date, data };
 
@@ -43,11 +43,6 @@ Element elementOf(QStringView name)
     };
     const auto found = std::ranges::find_if(kNames, [name](const Name& known) { return name == known.text; });
     return found == kNames.end() ? Element::unknown : found->element;
-}
-
-bool isSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
 class XmlPropertyListReader {
@@ -167,7 +162,7 @@ void XmlPropertyListReader::close()
 void XmlPropertyListReader::add(quint32 object, bool isKey)
 {
     if (object >= kMaxXmlObjects)
-        throw CorruptArchive{"its XML has more than 1,250,000 values"};
+        throw CorruptArchive{"its XML has more than 1,100,000 values"};
     if (open_.empty()) {
         if (top_ || isKey)
             throw CorruptArchive{"its XML holds more than one value"};
@@ -265,6 +260,7 @@ quint32 XmlPropertyListReader::addDate(QByteArrayView text)
 
 quint32 XmlPropertyListReader::addData(QByteArray text)
 {
+    const auto isSpace = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
     text.erase(std::remove_if(text.begin(), text.end(), isSpace), text.end());
     const auto decoded = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
     // A missing end is no error to Qt.

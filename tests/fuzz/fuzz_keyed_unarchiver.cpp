@@ -19,23 +19,33 @@ void require(bool holds)
         std::abort();
 }
 
+struct Whole {
+    quint64 values = 0;
+    quint64 characters = 0;
+};
+
 /// Walks the decoded tree as a consumer would, and holds it to what the reader promises.
-quint64 countValues(const QVariant& value, int depth)
+void walk(const QVariant& value, int depth, Whole& whole)
 {
     require(value.isValid());
-    quint64 values = 1;
+    whole.values += 1;
     if (value.typeId() == QMetaType::QVariantMap) {
         require(depth < KeyedUnarchiver::kMaxDepth);
         const QVariantMap map = value.toMap();
-        for (const QVariant& entry : map)
-            values += countValues(entry, depth + 1);
+        for (auto entry = map.begin(); entry != map.end(); ++entry) {
+            whole.characters += quint64(entry.key().size());
+            walk(entry.value(), depth + 1, whole);
+        }
     } else if (value.typeId() == QMetaType::QVariantList) {
         require(depth < KeyedUnarchiver::kMaxDepth);
         const QVariantList list = value.toList();
         for (const QVariant& entry : list)
-            values += countValues(entry, depth + 1);
+            walk(entry, depth + 1, whole);
+    } else if (value.typeId() == QMetaType::QString) {
+        whole.characters += quint64(value.toString().size());
+    } else if (value.typeId() == QMetaType::QByteArray) {
+        whole.characters += quint64(value.toByteArray().size());
     }
-    return values;
 }
 
 } // namespace
@@ -45,7 +55,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QByteArray archive(reinterpret_cast<const char*>(data), qsizetype(size));
     const KeyedUnarchiver::Result result = KeyedUnarchiver::unarchiveDictionary(archive);
     require(result.root.has_value() == result.failure.isEmpty());
-    if (result.root)
-        require(countValues(*result.root, 0) <= KeyedUnarchiver::kMaxValues + 1);
+    if (result.root) {
+        Whole whole;
+        walk(*result.root, 0, whole);
+        require(whole.values <= KeyedUnarchiver::kMaxValues + 1);
+        require(whole.characters <= KeyedUnarchiver::kMaxCharacters);
+    }
     return 0;
 }

@@ -1,4 +1,5 @@
 #include "platform/foundation/date_additions.h"
+#include "platform/foundation/description.h"
 #include "platform/foundation/notification_center.h"
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/semaphore.h"
@@ -56,6 +57,28 @@ TEST(NumbersTest, WritesAPointInEveryLocale)
     EXPECT_EQ(shortestDouble(-0.0), QStringLiteral("0"));
     EXPECT_DOUBLE_EQ(leadingDouble(u"2.5"), 2.5);
     std::setlocale(LC_NUMERIC, before.c_str());
+}
+
+TEST(DescriptionTest, KeepsDifferentDictionariesApart)
+{
+    const QString key = QStringLiteral("Name");
+    const QVariantMap plain{{key, QStringLiteral("x")}, {QStringLiteral("Other"), QStringLiteral("y")}};
+    EXPECT_EQ(descriptionOf(plain), QStringLiteral("{Name = x; Other = y;}"));
+    EXPECT_NE(descriptionOf(QVariantMap{{key, QStringLiteral("x; Other = \"y\"\n")}}), descriptionOf(plain));
+    EXPECT_EQ(descriptionOf(QVariantList{1, QStringLiteral("300 dpi"), QVariantMap(), QVariant()}),
+              QStringLiteral("(1, \"300 dpi\", {}, (null))"));
+}
+
+TEST(SameValueTest, ComparesTypesAllTheWayDown)
+{
+    const auto record = [](const QVariant& resolution) {
+        return QVariantList{QVariantMap{{QStringLiteral("r"), resolution}}};
+    };
+    EXPECT_TRUE(isSameValue(record(qint64(3000)), record(qint64(3000))));
+    for (const QVariant& other :
+         {QVariant(QStringLiteral("3000")), QVariant(quint64(3000)), QVariant(qint64(3001))})
+        EXPECT_FALSE(isSameValue(record(qint64(3000)), record(other)));
+    EXPECT_FALSE(isSameValue(QVariantMap(), QVariantMap{{QStringLiteral("a"), QVariant()}}));
 }
 
 TEST(DateAdditionsTest, FormatsUnicodePatternsInTheUsersLocale)

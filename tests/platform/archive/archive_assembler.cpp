@@ -21,6 +21,11 @@ QByteArray referenceBytes(const QList<int>& objects)
     return bytes;
 }
 
+QByteArray xmlReference(int number)
+{
+    return "<dict><key>CF$UID</key><integer>" + QByteArray::number(number) + "</integer></dict>";
+}
+
 } // namespace
 
 QByteArray bigEndian(quint64 value, int width)
@@ -165,6 +170,28 @@ QByteArray honestArchive(int count)
         records.append(archive.archived(record));
     }
     return archive.finish(archive.archivedDictionary(keys, records));
+}
+
+QByteArray xmlArchive(const QByteArray& value)
+{
+    const auto dictionary = [](int key, int entry) {
+        return "<dict><key>$class</key>" + xmlReference(6) + "<key>NS.keys</key><array>" + xmlReference(key) +
+               "</array><key>NS.objects</key><array>" + xmlReference(entry) + "</array></dict>";
+    };
+    const auto classNamed = [](const char* name) {
+        return QByteArray("<dict><key>$classname</key><string>") + name + "</string></dict>";
+    };
+    return "<?xml version='1.0' encoding='UTF-8'?><plist version='1.0'><dict><key>$top</key><dict>"
+           "<key>root</key>" +
+           xmlReference(1) + "</dict><key>$objects</key><array><string>$null</string>" + dictionary(2, 3) +
+           "<string>paper</string>" + dictionary(4, 5) + "<string>field</string>" + value +
+           classNamed("NSDictionary") + classNamed("NSArray") + "</array></dict></plist>";
+}
+
+QByteArray xmlList(const QByteArray& elements)
+{
+    return "<dict><key>$class</key>" + xmlReference(7) + "<key>NS.objects</key><array>" + elements +
+           "</array></dict>";
 }
 
 } // namespace halvern::test

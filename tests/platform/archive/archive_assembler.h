@@ -59,4 +59,10 @@ private:
 /// An archive of `count` papers as a printer would write it.
 QByteArray honestArchive(int count);
 
+/// An XML archive that has one record "paper" with one "field".
+QByteArray xmlArchive(const QByteArray& value);
+
+/// A list for such an archive.
+QByteArray xmlList(const QByteArray& elements);
+
 } // namespace halvern::test

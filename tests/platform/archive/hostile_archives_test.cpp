@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
-#include <functional>
+#include <tuple>
 
 namespace halvern {
 
@@ -13,12 +13,19 @@ namespace {
 
 using test::ArchiveAssembler;
 using test::bigEndian;
+using test::xmlArchive;
+using test::xmlList;
 
 constexpr int kMegabyte = 1000 * 1000;
+constexpr qsizetype kLargestFile = 32 * 1024 * 1024;
 
-/// A release build takes less than one second (scripts/bench-archive); the sanitizers and the counting of
-/// memory take many times as long. What this catches is time that grows faster than the input.
-constexpr double kMaxCpuSeconds = 30.0;
+/// Reading is to take a second in a release build. The sanitizers make it more: the million reals below
+/// take 0.63 s there, 2.9 s with addresses checked, 6.8 to 9.1 s with threads checked (measured).
+#ifdef __SANITIZE_THREAD__
+constexpr double kMaxCpuSeconds = 20.0;
+#else
+constexpr double kMaxCpuSeconds = 5.0;
+#endif
 
 double cpuSeconds()
 {
@@ -27,42 +34,67 @@ double cpuSeconds()
     return double(now.tv_sec) + double(now.tv_nsec) / 1e9;
 }
 
-struct HostileArchive {
-    const char* name;
-    std::function<QByteArray()> make;
-    const char* why;
-};
+/// Reads the archive within the second and the memory that the reader promises.
+KeyedUnarchiver::Result readWithinLimits(const QByteArray& archive)
+{
+    const double start = cpuSeconds();
+    KeyedUnarchiver::Result result;
+    const auto read = [&] { result = KeyedUnarchiver::unarchiveDictionary(archive); };
+    const std::size_t peak = test::peakMemoryOf(read).value_or(0);
+    EXPECT_LT(peak + std::size_t(archive.size()), 200u * kMegabyte);
+    EXPECT_LT(cpuSeconds() - start, kMaxCpuSeconds);
+    return result;
+}
 
-QByteArray withField(const std::function<int(ArchiveAssembler&)>& value)
+/// `words` are part of the reason, for archives that would be corrupt for another one as well.
+void expectCorrupt(const char* name, const QByteArray& archive, const char* words = "")
+{
+    SCOPED_TRACE(name);
+    const KeyedUnarchiver::Result result = readWithinLimits(archive);
+    EXPECT_FALSE(result.root);
+    EXPECT_TRUE(result.failure.startsWith(QStringLiteral("corrupt: ")) &&
+                result.failure.contains(QLatin1StringView(words)))
+        << qPrintable(result.failure);
+}
+
+QByteArray rootOf(auto root)
+{
+    ArchiveAssembler archive;
+    const int number = root(archive);
+    return archive.finish(number);
+}
+
+QByteArray withField(auto value)
 {
     ArchiveAssembler archive;
     return archive.finishWithField(value(archive));
 }
 
-/// A chain of lists, each of which holds the one before `width` times.
-QByteArray chainOfLists(int depth, int width)
+QByteArray withObject(const QByteArray& object)
 {
-    ArchiveAssembler archive;
-    int list = archive.archived(archive.text("seed"));
-    for (int i = 0; i < depth; ++i)
-        list = archive.archivedList(QList<int>(width, list));
-    return archive.finishWithField(list);
+    return withField([&](auto& a) { return a.archived(a.add(object)); });
 }
 
 QByteArray withTrailer(int position, const QByteArray& bytes)
 {
-    QByteArray archive = withField([](ArchiveAssembler& a) { return a.archived(a.text("x")); });
+    QByteArray archive = withObject("\x51x");
     return archive.replace(archive.size() - 32 + position, bytes.size(), bytes);
 }
 
-QByteArray withObject(const QByteArray& object)
+/// A chain of lists, each of which holds the one before `width` times.
+QByteArray chainOfLists(int depth, int width)
 {
-    return withField([&](ArchiveAssembler& a) { return a.archived(a.add(object)); });
+    return withField([=](auto& a) {
+        int list = a.archived(a.text("seed"));
+        for (int i = 0; i < depth; ++i)
+            list = a.archivedList(QList<int>(width, list));
+        return list;
+    });
 }
 
 QByteArray selfContaining(int steps)
 {
-    return withField([steps](ArchiveAssembler& a) {
+    return withField([steps](auto& a) {
         const int first = int(a.archived(a.text("place"))) + 2;
         int list = a.archivedList({first + 2 * (steps - 1)});
         for (int i = 1; i < steps; ++i)
@@ -74,24 +106,10 @@ QByteArray selfContaining(int steps)
 
 QByteArray keysAndValues(int keys, int values)
 {
-    return withField([&](ArchiveAssembler& a) {
+    return withField([&](auto& a) {
         const int text = a.archived(a.text("x"));
         return a.archivedDictionary(QList<int>(keys, text), QList<int>(values, text));
     });
-}
-
-QByteArray rootOf(const std::function<int(ArchiveAssembler&)>& root)
-{
-    ArchiveAssembler archive;
-    const int number = root(archive);
-    return archive.finish(number);
-}
-
-QByteArray topOf(const std::function<int(ArchiveAssembler&)>& top)
-{
-    ArchiveAssembler archive;
-    const int object = top(archive);
-    return archive.propertyList(object);
 }
 
 /// Many objects that all lie on the same long array.
@@ -108,7 +126,7 @@ QByteArray overlappingObjects()
            bigEndian(table, 8);
 }
 
-QByteArray repeated(const QByteArray& start, const QByteArray& piece, qsizetype size)
+QByteArray filled(const QByteArray& start, const QByteArray& piece, qsizetype size = kLargestFile)
 {
     return start + piece.repeated((size - start.size()) / piece.size());
 }
@@ -121,20 +139,96 @@ QByteArray manyAttributes(int count)
     return xml + "/></plist>";
 }
 
-/// A list of a long text, always the same: small here, forty times as long when it is printed.
-QByteArray sharedLongText()
+/// An XML archive with a value that nothing refers to.
+QByteArray xmlBeside(const QByteArray& value)
 {
-    return withField([](ArchiveAssembler& a) {
-        const QByteArray text(1'000'000, 'x');
-        const int shared = a.archived(a.text(text.constData()));
-        return a.archivedList(QList<int>(40, shared));
-    });
+    return xmlArchive("<true/>").replace("<dict><key>$top", "<dict><key>x</key>" + value + "<key>$top");
 }
 
-/// Instances whose looking through takes long, again and again.
-QByteArray instancesWithManyFields()
+} // namespace
+
+class HostileArchives : public testing::Test {
+protected:
+    void TearDown() override
+    {
+        if (!test::peakMemoryOf([] {}))
+            GTEST_SKIP() << "the memory is only looked at with a sanitizer";
+    }
+};
+
+TEST_F(HostileArchives, BrokenTablesAreCorrupt)
 {
-    return withField([](ArchiveAssembler& a) {
+    expectCorrupt("empty", "", "no property list");
+    expectCorrupt("magic only", "bplist00");
+    expectCorrupt("too large", "bplist00" + QByteArray(kLargestFile, '\0'), "larger than 32 MiB");
+    expectCorrupt("offset size 0", withTrailer(6, QByteArray(1, '\0')), "as if the end were missing");
+    expectCorrupt("reference size 9", withTrailer(7, "\x09"));
+    expectCorrupt("huge object count", withTrailer(8, bigEndian(1ull << 61, 8)));
+    expectCorrupt("no such top", withTrailer(16, bigEndian(1 << 20, 8)));
+    expectCorrupt("table at the end of numbers", withTrailer(24, bigEndian(~0ull, 8)));
+    expectCorrupt("table on the magic", withTrailer(24, bigEndian(0, 8)));
+    expectCorrupt("unknown kind", withObject("\xF0"));
+    expectCorrupt("huge string", withObject("\x5F\x13" + bigEndian(~0ull, 8)));
+    expectCorrupt("huge array", withObject("\xAF\x12" + bigEndian(1'000'000, 4)));
+    expectCorrupt("string over the end", withObject("\x6F\x10\xFF"));
+    expectCorrupt("length of no number", withObject("\x5F\x50"));
+    expectCorrupt("reference to nowhere", withObject("\xA1" + bigEndian(1 << 24, 4)), "to no object");
+    expectCorrupt("invalid UTF-8", withObject("\x52\xC3\x28"));
+    expectCorrupt("number of 65 bits", withObject(char(0x14) + bigEndian(1, 8) + bigEndian(0, 8)));
+    expectCorrupt("overlapping objects", overlappingObjects(), "overlap");
+}
+
+TEST_F(HostileArchives, BrokenArchivesAreCorrupt)
+{
+    const QByteArray noNumber = char(0x23) + bigEndian(0x7FF8000000000000, 8);
+    ArchiveAssembler noRoot;
+    expectCorrupt("no root",
+                  noRoot.propertyList(noRoot.dictionary({noRoot.text("$objects"), noRoot.text("$top")},
+                                                        {noRoot.array({}), noRoot.dictionary({}, {})})));
+    expectCorrupt("no archive", noRoot.propertyList(noRoot.text("x")));
+    expectCorrupt("root is nil", rootOf([](auto&) { return 0; }), "not a dictionary");
+    expectCorrupt("root is a list", rootOf([](auto& a) { return a.archivedList({}); }));
+    expectCorrupt("root of an unknown class",
+                  rootOf([](auto& a) { return a.archivedInstance("Spool", "any", a.text("x")); }));
+    expectCorrupt("root out of range", rootOf([](auto&) { return 77; }));
+    expectCorrupt("member out of range", withField([](auto& a) { return a.archivedList({77}); }));
+    expectCorrupt("reference to a reference", withField([](auto& a) { return a.archived(a.uid(1)); }));
+    expectCorrupt("more keys than values", keysAndValues(3, 2), "as many keys as values");
+    expectCorrupt("more values than keys", keysAndValues(2, 3));
+    expectCorrupt("plain list", withField([](auto& a) { return a.archived(a.array({})); }));
+    expectCorrupt("no class", withField([](auto& a) { return a.archived(a.dictionary({}, {})); }));
+    expectCorrupt("class is nil", withField([](auto& a) {
+                      return a.archived(a.dictionary({a.text("$class")}, {a.uid(0)}));
+                  }));
+    expectCorrupt("class without a name", withField([](auto& a) {
+                      const int type = a.archived(a.dictionary({}, {}));
+                      return a.archived(a.dictionary({a.text("$class")}, {a.uid(quint64(type))}));
+                  }));
+    for (const auto& [type, field, object] : {std::tuple("NSString", "NS.string", QByteArray("\x10\x01")),
+                                              {"NSDate", "NS.time", noNumber},
+                                              {"NSArray", "NS.keys", "\xA0"}})
+        expectCorrupt(type,
+                      withField([&](auto& a) { return a.archivedInstance(type, field, a.add(object)); }));
+    expectCorrupt("contains itself", selfContaining(1), "contains itself");
+    expectCorrupt("contains itself over others", selfContaining(5));
+}
+
+TEST_F(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
+{
+    expectCorrupt("too deep", chainOfLists(63, 1), "nested too deeply");
+    expectCorrupt("far too deep", chainOfLists(100'000, 1));
+    expectCorrupt("doubled 60 times", chainOfLists(60, 2), "four million values");
+    // A list of one long text: small here, forty times as long when it is printed.
+    expectCorrupt("long text shared", withField([](auto& a) {
+                      const QByteArray text(kMegabyte, 'x');
+                      return a.archivedList(QList<int>(40, a.archived(a.text(text.constData()))));
+                  }),
+                  "32 million characters");
+}
+
+TEST_F(HostileArchives, AnInstanceIsLookedThroughOnceHoweverOftenItIsReferredTo)
+{
+    const QByteArray archive = withField([](auto& a) {
         const int type = a.uid(quint64(a.classEntry("Spool")));
         QList<int> keys(500'000, a.text("NS.filler"));
         QList<int> values(500'000, type);
@@ -142,248 +236,59 @@ QByteArray instancesWithManyFields()
         values.append(type);
         return a.archivedList(QList<int>(500'000, a.archived(a.dictionary(keys, values))));
     });
+    EXPECT_TRUE(readWithinLimits(archive).root);
 }
 
-void expectCorrupt(const HostileArchive& hostile)
+TEST_F(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
 {
-    SCOPED_TRACE(hostile.name);
-    const QByteArray archive = hostile.make();
-    const double start = cpuSeconds();
-    KeyedUnarchiver::Result result;
-    const std::size_t peak =
-        test::peakMemoryOf([&] { result = KeyedUnarchiver::unarchiveDictionary(archive); });
-    EXPECT_FALSE(result.root);
-    EXPECT_EQ(result.failure.toStdString(), std::string("corrupt: ") + hostile.why);
-    EXPECT_LT(peak + std::size_t(archive.size()), 200u * kMegabyte);
-    EXPECT_LT(cpuSeconds() - start, kMaxCpuSeconds);
+    ASSERT_TRUE(readWithinLimits(xmlBeside("<array/>")).root);
+    const char* const values[] = {
+        "<blob/>", "<x:string>x</x:string>", "<array>x</array>", "<dict><true/><true/></dict>",
+        "<array><key>a</key></array>", "<dict><key>a</key></dict>", "<true>x</true>", "<true>",
+        // Numbers
+        "<integer>12x</integer>", "<integer>18446744073709551616</integer>", "<integer>0x-5</integer>",
+        "<integer/>", "<integer>-9223372036854775809</integer>", "<real>1.5,</real>", "<real>+-1</real>",
+        // Dates, data, texts
+        "<date>yesterday</date>", "<date>2026-02-28T06:30:00</date>", "<date>2026-02-30T06:30:00Z</date>",
+        "<data>A*==</data>", "<data>A</data>", "<data>====</data>", "<string>&lol;</string>"};
+    for (const char* value : values)
+        expectCorrupt(value, xmlBeside(value));
+
+    const QByteArray good = xmlArchive("<true/>");
+    expectCorrupt("another root", QByteArray(good).replace("plist", "svg"));
+    expectCorrupt("nothing inside", "<plist></plist>");
+    expectCorrupt("two values", QByteArray(good).replace("</plist>", "<true/></plist>"));
+    expectCorrupt("Latin-1", QByteArray(good).replace("UTF-8", "ISO-8859-1"));
+    expectCorrupt("entities",
+                  QByteArray(good).replace("<plist", "<!DOCTYPE plist [<!ENTITY lol 'lol'>]><plist"), "DTD");
 }
 
-} // namespace
-
-TEST(HostileArchives, BrokenTablesAreCorrupt)
+TEST_F(HostileArchives, XmlIsReadInASecondOrIsCorrupt)
 {
-    const char* outside = "an object reaches beyond its place";
-    const HostileArchive cases[] = {
-        {"empty", [] { return QByteArray(); }, "it is no property list"},
-        {"text", [] { return QByteArray("paper"); }, "it is no property list"},
-        {"magic only", [] { return QByteArray("bplist00"); }, "it is too short for a property list"},
-        {"too large", [] { return "bplist00" + QByteArray(32 * 1024 * 1024, '\0'); },
-         "it is larger than 32 MiB"},
-        {"offset size 0", [] { return withTrailer(6, QByteArray(1, '\0')); },
-         "its trailer has impossible sizes, as if the end were missing"},
-        {"reference size 9", [] { return withTrailer(7, "\x09"); },
-         "its trailer has impossible sizes, as if the end were missing"},
-        {"huge object count", [] { return withTrailer(8, bigEndian(1ull << 61, 8)); },
-         "it has more than four million objects"},
-        {"no such top", [] { return withTrailer(16, bigEndian(1 << 20, 8)); },
-         "its top object does not exist"},
-        {"table at the end of numbers", [] { return withTrailer(24, bigEndian(~0ull, 8)); },
-         "its offset table does not fit into the file"},
-        {"table on the magic", [] { return withTrailer(24, bigEndian(0, 8)); },
-         "its offset table does not fit into the file"},
-        {"unknown kind", [] { return withObject("\xF0"); }, "an object is of no known kind"},
-        {"UID of 9 bytes", [] { return withObject(char(0x88) + QByteArray(9, '\1')); },
-         "an object is of no known kind"},
-        {"huge string", [] { return withObject("\x5F\x13" + bigEndian(~0ull, 8)); },
-         "an object is longer than the file"},
-        {"huge array", [] { return withObject("\xAF\x12" + bigEndian(1'000'000, 4)); },
-         "an object is longer than the file"},
-        {"string over the end", [] { return withObject("\x6F\x10\xFF"); }, outside},
-        {"length of no number", [] { return withObject("\x5F\x50"); }, "an object's length is not a number"},
-        {"reference to nowhere", [] { return withObject("\xA1" + bigEndian(1 << 24, 4)); },
-         "a reference points to no object"},
-        {"invalid UTF-8", [] { return withObject("\x52\xC3\x28"); }, "a text is not valid UTF-8"},
-        {"number of 65 bits", [] { return withObject(char(0x14) + bigEndian(1, 8) + bigEndian(0, 8)); },
-         "a number has more than 64 bits"},
-        {"overlapping objects", overlappingObjects, "its objects overlap"},
-    };
-    for (const HostileArchive& hostile : cases)
-        expectCorrupt(hostile);
+    EXPECT_TRUE(readWithinLimits(xmlArchive("<data>" + QByteArray(16'000'000, 'A') + "</data>")).root);
+    const QByteArray reals = QByteArray("<real>1</real>").repeated(kMegabyte);
+    EXPECT_TRUE(readWithinLimits(xmlArchive(xmlList(reals))).root);
+    expectCorrupt("many attributes", manyAttributes(80'000), "a tag that is too long");
+    expectCorrupt("nesting", filled("<plist>", "<array>", kMegabyte), "nested too deeply");
+    expectCorrupt("long text", filled("<plist><string>", "x"), "16 MiB");
+    expectCorrupt("pieced text", filled("<plist><string>", "<![CDATA[" + QByteArray(40, 'x') + "]]>"),
+                  "16 MiB");
+    expectCorrupt("many values", filled("<plist><array>", "<true/>", 10 * kMegabyte), "1,100,000 values");
+    expectCorrupt("many tags", filled("<plist><array>", "<true/>"), "four million tags");
 }
 
-TEST(HostileArchives, BrokenArchivesAreCorrupt)
-{
-    const HostileArchive cases[] = {
-        {"no archive", [] { return topOf([](ArchiveAssembler& a) { return a.text("x"); }); },
-         "it is not a keyed archive"},
-        {"no objects",
-         [] {
-             return topOf(
-                 [](ArchiveAssembler& a) { return a.dictionary({a.text("$top")}, {a.dictionary({}, {})}); });
-         },
-         "it has no list of objects"},
-        {"no root",
-         [] {
-             return topOf([](ArchiveAssembler& a) {
-                 return a.dictionary({a.text("$objects"), a.text("$top")},
-                                     {a.array({}), a.dictionary({}, {})});
-             });
-         },
-         "it does not name its root"},
-        {"root is nil", [] { return rootOf([](ArchiveAssembler&) { return 0; }); },
-         "its root is not a dictionary"},
-        {"root is a text", [] { return rootOf([](ArchiveAssembler& a) { return a.archived(a.text("x")); }); },
-         "its root is not a dictionary"},
-        {"root is a list", [] { return rootOf([](ArchiveAssembler& a) { return a.archivedList({}); }); },
-         "its root is not a dictionary"},
-        {"root of an unknown class",
-         [] {
-             return rootOf(
-                 [](ArchiveAssembler& a) { return a.archivedInstance("Spool", "any", a.text("x")); });
-         },
-         "its root is not a dictionary"},
-        {"root out of range", [] { return rootOf([](ArchiveAssembler&) { return 77; }); },
-         "a reference points to no archived object"},
-        {"member out of range",
-         [] { return withField([](ArchiveAssembler& a) { return a.archivedList({77}); }); },
-         "a reference points to no archived object"},
-        {"reference to a reference",
-         [] { return withField([](ArchiveAssembler& a) { return a.archived(a.uid(1)); }); },
-         "a reference points to a reference"},
-        {"more keys than values", [] { return keysAndValues(3, 2); },
-         "a dictionary has not as many keys as values"},
-        {"more values than keys", [] { return keysAndValues(2, 3); },
-         "a dictionary has not as many keys as values"},
-        {"plain list", [] { return withField([](ArchiveAssembler& a) { return a.archived(a.array({})); }); },
-         "an archived object has no class"},
-        {"no class",
-         [] { return withField([](ArchiveAssembler& a) { return a.archived(a.dictionary({}, {})); }); },
-         "an archived object has no class"},
-        {"class is nil",
-         [] {
-             return withField([](ArchiveAssembler& a) {
-                 return a.archived(a.dictionary({a.text("$class")}, {a.uid(0)}));
-             });
-         },
-         "an archived object's class does not exist"},
-        {"class without a name",
-         [] {
-             return withField([](ArchiveAssembler& a) {
-                 const int type = a.archived(a.dictionary({}, {}));
-                 return a.archived(a.dictionary({a.text("$class")}, {a.uid(quint64(type))}));
-             });
-         },
-         "a class has no name"},
-        {"string that is a number",
-         [] {
-             return withField([](ArchiveAssembler& a) {
-                 return a.archivedInstance("NSString", "NS.string", a.integer(1));
-             });
-         },
-         "a value is not of its class"},
-        {"date that is no number",
-         [] {
-             return withField([](ArchiveAssembler& a) {
-                 return a.archivedInstance("NSDate", "NS.time",
-                                           a.add(char(0x23) + bigEndian(0x7FF8000000000000, 8)));
-             });
-         },
-         "a date is out of range"},
-        {"list without elements",
-         [] {
-             return withField(
-                 [](ArchiveAssembler& a) { return a.archivedInstance("NSArray", "NS.keys", a.array({})); });
-         },
-         "a collection lacks its elements"},
-        {"contains itself", [] { return selfContaining(1); }, "a collection contains itself"},
-        {"contains itself over others", [] { return selfContaining(5); }, "a collection contains itself"},
-    };
-    for (const HostileArchive& hostile : cases)
-        expectCorrupt(hostile);
-}
-
-TEST(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
-{
-    const char* values = "it comes to more than four million values";
-    const HostileArchive cases[] = {
-        {"too deep", [] { return chainOfLists(63, 1); }, "it is nested too deeply"},
-        {"far too deep", [] { return chainOfLists(100'000, 1); }, "it is nested too deeply"},
-        {"doubled 60 times", [] { return chainOfLists(60, 2); }, values},
-        {"wide and shared", [] { return chainOfLists(4, 1000); }, values},
-        {"long text shared", sharedLongText, "its texts come to more than 32 million characters"},
-    };
-    for (const HostileArchive& hostile : cases)
-        expectCorrupt(hostile);
-}
-
-TEST(HostileArchives, AnInstanceIsLookedThroughOnceHoweverOftenItIsReferredTo)
-{
-    const QByteArray archive = instancesWithManyFields();
-    const double start = cpuSeconds();
-    EXPECT_TRUE(KeyedUnarchiver::unarchiveDictionary(archive).root);
-    EXPECT_LT(cpuSeconds() - start, kMaxCpuSeconds);
-}
-
-TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
-{
-    const qsizetype most = 32 * 1024 * 1024;
-    const char* broken = "its XML is not well formed";
-    const char* unpaired = "its XML does not pair keys with values";
-    const auto plist = [](const QByteArray& content) {
-        return [=] { return "<plist>" + content + "</plist>"; };
-    };
-    const HostileArchive cases[] = {
-        {"another root", [] { return QByteArray("<svg/>"); }, "its XML is not a property list"},
-        {"nothing inside", plist(""), "its XML holds no value"},
-        {"two values", plist("<true/><true/>"), "its XML holds more than one value"},
-        {"unknown element", plist("<blob/>"), "its XML has an unknown element"},
-        {"text between", plist("<array>x</array>"), "its XML has text outside the values"},
-        {"no key", plist("<dict><true/><true/></dict>"), unpaired},
-        {"key in an array", plist("<array><key>a</key></array>"), unpaired},
-        {"key without value", plist("<dict><key>a</key></dict>"), "its XML has a key without a value"},
-        {"number", plist("<integer>12x</integer>"), "its XML has a number that is none"},
-        {"real", plist("<real>1.5,</real>"), "its XML has a number that is none"},
-        {"two signs", plist("<real>+-1</real>"), "its XML has a number that is none"},
-        {"sign behind the base", plist("<integer>0x-5</integer>"), "its XML has a number that is none"},
-        {"large number", plist("<integer>18446744073709551616</integer>"),
-         "its XML has a number that is none"},
-        {"data", plist("<data>A*==</data>"), "its XML has data that are not base64"},
-        {"data cut", plist("<data>A</data>"), "its XML has data that are not base64"},
-        {"only padding", plist("<data>====</data>"), "its XML has data that are not base64"},
-        {"date", plist("<date>yesterday</date>"), "its XML has a date that is none"},
-        {"date without a zone", plist("<date>2026-02-28T06:30:00</date>"), "its XML has a date that is none"},
-        {"truth with a text", plist("<true>x</true>"), "its XML has a truth value with a text"},
-        {"element of another namespace", plist("<x:string>x</x:string>"), "its XML has an unknown element"},
-        {"unclosed", [] { return QByteArray("<plist><dict>"); }, broken},
-        {"unknown entity", plist("<string>&lol;</string>"), broken},
-        {"Latin-1", [] { return QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><plist/>"); },
-         "its XML is not in UTF-8"},
-        {"entities", [] { return QByteArray("<!DOCTYPE plist [<!ENTITY lol 'lol'>]><plist/>"); },
-         "its XML has a DTD subset or a broken tag"},
-        {"many attributes", [] { return manyAttributes(80'000); }, "its XML has a tag that is too long"},
-        {"nesting", [=] { return repeated("<plist>", "<array>", most / 32); },
-         "its XML is nested too deeply"},
-        {"long text", [=] { return repeated("<plist><string>", "x", most - 100); },
-         "its XML has a text of more than 16 MiB"},
-        {"pieced text",
-         [=] {
-             return repeated("<plist><string>", "<![CDATA[xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx]]>", most);
-         },
-         "its XML has a text of more than 16 MiB"},
-        {"many values", [=] { return repeated("<plist><array>", "<true/>", most / 3); },
-         "its XML has more than 1,250,000 values"},
-        {"many tags", [=] { return repeated("<plist><array>", "<true/>", most); },
-         "its XML has more than four million tags"},
-        {"many short texts", [=] { return repeated("<plist><array>", "<string>ab</string>", most / 4); },
-         broken},
-    };
-    for (const HostileArchive& hostile : cases)
-        expectCorrupt(hostile);
-}
-
-TEST(HostileArchives, ManyHonestPapersTakeMemoryInProportion)
+TEST_F(HostileArchives, ManyHonestPapersTakeMemoryInProportion)
 {
     const QByteArray archive = test::honestArchive(30'000);
     KeyedUnarchiver::Result result;
-    const std::size_t peak =
-        test::peakMemoryOf([&] { result = KeyedUnarchiver::unarchiveDictionary(archive); });
+    const auto peak = test::peakMemoryOf([&] { result = KeyedUnarchiver::unarchiveDictionary(archive); });
     ASSERT_TRUE(result.root) << qPrintable(result.failure);
     EXPECT_EQ(result.root->size(), 30'000);
     EXPECT_EQ(result.root->value(QStringLiteral("Photo Paper 29999-r300"))
                   .toMap()
                   .value(QStringLiteral("paperWidth")),
               QVariant(qint64(30'999)));
-    EXPECT_LT(peak, 10u * std::size_t(archive.size()));
+    EXPECT_LT(peak.value_or(0), 10u * std::size_t(archive.size()));
 }
 
 } // namespace halvern

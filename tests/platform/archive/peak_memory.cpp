@@ -38,7 +38,7 @@ void onRelease(const volatile void* block)
 
 } // namespace
 
-std::size_t peakMemoryOf(const std::function<void()>& work)
+std::optional<std::size_t> peakMemoryOf(const std::function<void()>& work)
 {
     [[maybe_unused]] static const int installed =
         __sanitizer_install_malloc_and_free_hooks(&onAllocation, &onRelease);
@@ -51,10 +51,10 @@ std::size_t peakMemoryOf(const std::function<void()>& work)
 
 #else
 
-std::size_t peakMemoryOf(const std::function<void()>& work)
+std::optional<std::size_t> peakMemoryOf(const std::function<void()>& work)
 {
     work();
-    return 0;
+    return std::nullopt;
 }
 
 #endif

@@ -2,11 +2,12 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 
 namespace halvern::test {
 
 /// Runs `work` and answers the most heap memory that it held at once, in bytes. Counts through the
-/// sanitizers' allocation hooks; answers 0 in builds without them. Main thread only.
-std::size_t peakMemoryOf(const std::function<void()>& work);
+/// sanitizers' allocation hooks; answers nothing in builds without GCC's sanitizers. Main thread only.
+std::optional<std::size_t> peakMemoryOf(const std::function<void()>& work);
 
 } // namespace halvern::test
