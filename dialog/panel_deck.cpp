@@ -24,7 +24,9 @@ const QString kSummary = QStringLiteral("summary");
 // The list of pages is as wide as its longest title wants it, within these.
 constexpr int kLeastListWidth = 146;
 constexpr int kMostListWidth = 200;
-constexpr int kUsualPageWidth = 410;
+// Wide enough for the pages that photographers use most, so that the preview keeps its size between them.
+constexpr int kUsualPageWidth = 502;
+constexpr int kTitleMargin = 9;
 
 // Leaves a little room before the titles.
 QIcon indent()
@@ -119,7 +121,8 @@ void PanelDeck::addPage(const QString& identifier, const QString& title)
     item->setData(Qt::UserRole, identifier);
     // What the title wants, before a hint of our own replaces it.
     const QModelIndex index = list_->model()->index(list_->count() - 1, 0);
-    const int wanted = list_->sizeHintForIndex(index).width() + 2 * (list_->spacing() + list_->frameWidth());
+    const int wanted =
+        list_->sizeHintForIndex(index).width() + 2 * (list_->spacing() + list_->frameWidth()) + kTitleMargin;
     list_->setFixedWidth(std::clamp(wanted, list_->minimumWidth(), kMostListWidth));
     item->setSizeHint(QSize(0, fontMetrics().height() + 14));
 }

@@ -266,18 +266,15 @@ protected:
     /// A key looked up in the bundle's default strings table; the key itself if that finds nothing.
     QString localized(const QString& key) const;
 
-    /// Where a slider's mark for the value that changes nothing goes.
-    enum class SliderMark { asLaidOut, atPPDDefault };
-
     /// How far a slider goes at once: as laid out, or less where the range would leave it a few positions
     /// only. The former for a panel that writes its numbers with as many digits as the layout's steps have.
     enum class SliderStep { asLaidOut, fineForRange };
 
     /// Gives the view's sliders the ranges that the PPD sets for their options' custom values, so that a
     /// layout cannot offer what the printer refuses. A slider whose option has no such range stays as laid
-    /// out; so does its mark if the option has no number as its default, and its step if the PPD asks for
-    /// whole numbers. For enableCustom().
-    void takeSliderRangesFromPPD(SliderMark mark, SliderStep step);
+    /// out, and so does its step if the PPD asks for whole numbers. The mark for the value that changes
+    /// nothing is the layout's: a queue's default may be another. For enableCustom().
+    void takeSliderRangesFromPPD(SliderStep step);
 
     /// A zero-terminated UTF-8 copy for a watch to keep, empty for nothing; null when memory has run out.
     virtual std::unique_ptr<char[]> copyForWatch(const std::optional<QString>& text);

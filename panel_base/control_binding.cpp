@@ -56,7 +56,7 @@ void KSTRVLBasePDEHalvern::setControlsEnabledByToggle(QWidget* toggle)
     std::optional<int> tag = 1;
     while (tag) {
         if (QWidget* found = controlBeside(toggle, *tag)) {
-            found->setEnabled(isControlSupportedForTag(control::tagOf(found)) && on);
+            control::setEnabledWithCaptions(found, isControlSupportedForTag(control::tagOf(found)) && on);
             ++*tag;
         } else {
             tag = nextGroup(*tag + 1);

@@ -29,7 +29,7 @@ double readableStep(double span)
 
 } // namespace
 
-void KSTRVLBasePDEHalvern::takeSliderRangesFromPPD(SliderMark mark, SliderStep step)
+void KSTRVLBasePDEHalvern::takeSliderRangesFromPPD(SliderStep step)
 {
     if (!_panelView)
         return;
@@ -45,10 +45,6 @@ void KSTRVLBasePDEHalvern::takeSliderRangesFromPPD(SliderMark mark, SliderStep s
                 slider->setSingleStepValue(
                     std::min(slider->singleStepValue(), readableStep(range->maximum - range->minimum)));
         }
-        bool isNumber = false;
-        const double byDefault = defaultValueForOptionKey(key).value_or(QString()).toDouble(&isNumber);
-        if (mark == SliderMark::atPPDDefault && isNumber)
-            slider->setNeutralValue(byDefault);
     }
 }
 

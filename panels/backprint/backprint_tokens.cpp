@@ -90,7 +90,7 @@ void RZBackprintPDEHalvern::setControlsEnabledByToggle(QWidget* toggle)
     if (!menu)
         return;
     const auto enableTokens = [&](bool enabled) {
-        menu->setEnabled(enabled);
+        control::setEnabledWithCaptions(menu, enabled);
         if (QWidget* insert = view_controlForTag(view, backprint::kInsertControl))
             insert->setEnabled(enabled);
     };

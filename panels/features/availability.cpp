@@ -3,7 +3,6 @@
 #include "platform/toolkit/control.h"
 
 #include <QComboBox>
-#include <QLabel>
 
 namespace halvern::availability {
 
@@ -11,17 +10,6 @@ namespace {
 
 // The description that a layout gives a control is kept here while the control says why it is disabled.
 constexpr char kOwnDescription[] = "ownAccessibleDescription";
-
-void dimCaption(QWidget* control, bool available)
-{
-    if (!control->parentWidget())
-        return;
-    const auto labels = control->parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QLabel* label : labels) {
-        if (label->buddy() == control)
-            label->setEnabled(available);
-    }
-}
 
 } // namespace
 
@@ -31,9 +19,8 @@ void setControl(QWidget* control, bool available, const QString& why)
         return;
     if (!control->property(kOwnDescription).isValid())
         control->setProperty(kOwnDescription, control->accessibleDescription());
-    control->setEnabled(available);
+    control::setEnabledWithCaptions(control, available);
     control->setAccessibleDescription(available ? control->property(kOwnDescription).toString() : why);
-    dimCaption(control, available);
 }
 
 void setItem(QComboBox* popup, int index, bool available, const QString& why)

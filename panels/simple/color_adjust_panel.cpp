@@ -75,7 +75,7 @@ QVariant RZColorAdjustPDEHalvern::newChoiceForSender(QWidget* sender)
 
 void RZColorAdjustPDEHalvern::enableCustom()
 {
-    takeSliderRangesFromPPD(SliderMark::atPPDDefault, SliderStep::fineForRange);
+    takeSliderRangesFromPPD(SliderStep::fineForRange);
 }
 
 QMap<QString, QString> RZColorAdjustPDEHalvern::summaryInfo()

@@ -102,7 +102,7 @@ QVariant RZSharpnessPDEHalvern::newChoiceForSender(QWidget* sender)
 
 void RZSharpnessPDEHalvern::enableCustom()
 {
-    takeSliderRangesFromPPD(SliderMark::asLaidOut, SliderStep::asLaidOut);
+    takeSliderRangesFromPPD(SliderStep::asLaidOut);
 }
 
 void RZSharpnessPDEHalvern::controlTextDidEndEditing(QLineEdit* field)

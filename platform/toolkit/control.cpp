@@ -159,6 +159,20 @@ signed char state(const QWidget* widget)
     return button && button->isChecked() ? 1 : 0;
 }
 
+void setEnabledWithCaptions(QWidget* widget, bool enabled)
+{
+    if (!widget)
+        return;
+    widget->setEnabled(enabled);
+    if (!widget->parentWidget())
+        return;
+    const auto labels = widget->parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QLabel* label : labels) {
+        if (label->buddy() == widget)
+            label->setEnabled(enabled);
+    }
+}
+
 std::optional<QString> title(const QWidget* widget)
 {
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget))

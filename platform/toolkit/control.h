@@ -47,6 +47,9 @@ bool setStringValue(QWidget* widget, const QString& text);
 /// A button's state as a signed 8-bit value: 1 on, 0 off, -1 mixed; 0 for anything else.
 signed char state(const QWidget* widget);
 
+/// Enables or disables a control and, with it, the labels beside it that are its captions (its buddies).
+void setEnabledWithCaptions(QWidget* widget, bool enabled);
+
 /// The title of a button or a box; nothing for other widgets.
 std::optional<QString> title(const QWidget* widget);
 void setTitle(QWidget* widget, const QString& title);

@@ -100,7 +100,8 @@ void DecimalSlider::paintEvent(QPaintEvent* event)
         QPainter painter(this);
         QColor mark =
             palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
-        mark.setAlphaF(0.55F);
+        if (isEnabled())
+            mark.setAlphaF(0.55F);
         painter.fillRect(QRect(at, 0, std::max(1, height() / 24), height()), mark);
     }
     QSlider::paintEvent(event);
