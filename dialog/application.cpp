@@ -40,15 +40,21 @@ void toSystemLog(QtMsgType type, const QMessageLogContext& context, const QStrin
 void routeLog()
 {
     qSetMessagePattern(QStringLiteral("%{if-category}%{category}: %{endif}%{message}"));
-    if (isatty(STDERR_FILENO) || qEnvironmentVariableIntValue("QT_LOGGING_TO_CONSOLE") > 0)
-        return;
-    openlog("halvern-print", LOG_PID, LOG_USER);
-    usualHandler = qInstallMessageHandler(toSystemLog);
+    if (!isatty(STDERR_FILENO))
+        sendTraceToSystemLog();
 }
 
 bool displayIsMissing = false;
 
 } // namespace
+
+void sendTraceToSystemLog()
+{
+    if (usualHandler || qEnvironmentVariableIntValue("QT_LOGGING_TO_CONSOLE") > 0)
+        return;
+    openlog("halvern-print", LOG_PID, LOG_USER);
+    usualHandler = qInstallMessageHandler(toSystemLog);
+}
 
 void prepareProcess()
 {

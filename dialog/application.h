@@ -12,6 +12,10 @@ class PrintRun;
 /// Before the application object is made: where the log goes, and that no display is needed yet.
 void prepareProcess();
 
+/// From now on panels' trace lines go to the system log, even on a terminal. Main thread only, before there
+/// are panels.
+void sendTraceToSystemLog();
+
 /// The sentence for a dialog that has no display to be shown on; empty if there is one.
 QString displayProblem();
 

@@ -114,6 +114,9 @@ void DialogSession::leavePrinter()
 {
     if (!panels_.empty() || model_)
         Q_EMIT printerLeaving();
+    // Nothing is asked of the printer any more, and what is asked is taken back, before it is out of reach.
+    for (const std::shared_ptr<Panel>& panel : PanelList(panels_))
+        panel->shouldHide();
     if (host_)
         host_->detach();
     panels_.clear();

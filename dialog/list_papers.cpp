@@ -26,7 +26,7 @@ class PaperLister {
 public:
     PaperLister(const ListPapersRequest& request, const PluginLoader& bundles, QTextStream& out,
                 QTextStream& err)
-        : request_(request), bundles_(bundles), out_(out), err_(err), cancelled_(cups::makeCancelFlag())
+        : request_(request), bundles_(bundles), out_(out), err_(err), cancelled_(quitFlag())
     {
     }
 
@@ -36,7 +36,7 @@ public:
             return kExitFailed;
         const std::optional<QDateTime> before = readLoadedPapers(file_.get()).lastUpdate;
         // What is known is listed all the same: it may be enough for now.
-        bool isAsAsked = !request_.refresh || (ask() && fetch());
+        bool isAsAsked = !request_.refresh || (!quitWasSignalled() && ask() && fetch());
         if (quitWasSignalled())
             return kExitFailed;
         const LoadedPapers loaded = readLoadedPapers(file_.get());
@@ -49,9 +49,11 @@ public:
     }
 
 private:
+    // Who has ended the program needs no sentences about conversations that this ended.
     bool fail(const QString& sentence)
     {
-        err_ << sentence << Qt::endl;
+        if (!quitWasSignalled())
+            err_ << sentence << Qt::endl;
         return false;
     }
 
@@ -96,7 +98,7 @@ private:
             const JobStatus status = askJobStatus(queue_, job, cancelled_);
             // It would wait for ever.
             resting_ = isResting(status.stage) ? whyNot(status) : QString();
-            if (resting_.isEmpty())
+            if (resting_.isEmpty() && !hasEnded(status.stage))
                 tellProgress(jobReasons(status));
             return resting_.isEmpty() && !quitWasSignalled();
         });
@@ -107,8 +109,12 @@ private:
             return fail(tr("The printer \"%1\" is busy with another job. Ask again when that has ended.")
                             .arg(queue_));
         case End::abandoned:
-            return fail(resting_.isEmpty() ? tr("The question to \"%1\" was taken back.").arg(queue_)
-                                           : resting_);
+            return fail(resting_);
+        case End::adrift:
+            err_ << tr("The print server does not answer; job %1 may still be on the queue (cancel %2-%1).")
+                        .arg(QString::number(result.jobId), queue_)
+                 << Qt::endl;
+            return false;
         case End::failed:
             break;
         }
@@ -117,9 +123,10 @@ private:
 
     void tellProgress(const QString& reasons)
     {
-        if (!reasons.isEmpty() && reasons != toldReasons_)
-            err_ << tr("Waiting for \"%1\"%2 ...").arg(queue_, reasons) << Qt::endl;
+        if (reasons.isEmpty() || reasons == toldReasons_)
+            return;
         toldReasons_ = reasons;
+        err_ << tr("Waiting for \"%1\"%2 ...").arg(queue_, reasons) << Qt::endl;
     }
 
     QString whyFailed(int job)
@@ -138,18 +145,23 @@ private:
         const QString why = jobReasons(status);
         switch (status.stage) {
         case JobStage::blocked:
-        case JobStage::stopped:
             return tr("The printer \"%1\" does not work at the moment%2, and the question was taken back. "
                       "Resume "
                       "the printer (cupsenable) and ask again.")
                 .arg(queue_, why);
+        case JobStage::stopped:
+            return tr("The question to \"%1\" could not be processed%2 and was taken back. See to the "
+                      "printer, "
+                      "look into the print server's error log, and ask again.")
+                .arg(queue_, why);
         case JobStage::held:
-            return tr("The question to \"%1\" was held%2 and has been cancelled. Let the queue take jobs and "
-                      "ask "
+            return tr("The question to \"%1\" was held%2 and has been cancelled. See to the printer and ask "
                       "again.")
                 .arg(queue_, why);
         case JobStage::cancelled:
-            return tr("The question to \"%1\" was cancelled%2. Ask again.").arg(queue_, why);
+            if (why.isEmpty())
+                return tr("The question to \"%1\" was cancelled. Ask again.").arg(queue_);
+            [[fallthrough]];
         default:
             return tr("The printer \"%1\" could not answer%2. See to the printer and ask again.")
                 .arg(queue_, why);
@@ -181,14 +193,17 @@ private:
                         hint());
         if (loaded.papers.isEmpty())
             out_ << (loaded.lastUpdate ? tr("No papers are loaded.")
-                                       : tr("The printer has not said yet what is loaded.") + hint())
+                                       : tr("The printer has not said yet what is loaded.") +
+                                             (request_.refresh ? QString() : hint()))
                  << Qt::endl;
         return true;
     }
 
     QString hint() const
     {
-        return request_.refresh ? QString() : QLatin1Char(' ') + tr("Ask it with --refresh.");
+        return QLatin1Char(' ') + (request_.refresh
+                                       ? tr("Look into the print server's error log, and ask again.")
+                                       : tr("Ask it with --refresh."));
     }
 
     const ListPapersRequest& request_;

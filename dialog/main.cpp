@@ -8,6 +8,10 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
 namespace {
 
 using namespace halvern;
@@ -33,6 +37,8 @@ int runDialog(const CommandLine& line)
         QTextStream(stderr) << problem << Qt::endl;
         return kExitFailed;
     }
+    if (quitWasSignalled())
+        return kExitFailed;
     return dialog.outcome().printed || dialog.outcome().sentence.isEmpty() ? kExitPrinted : kExitFailed;
 }
 
@@ -56,6 +62,7 @@ int runBatch(const CommandLine& line)
 int runListing(const ListPapersRequest& request)
 {
     watchQuitSignals();
+    sendTraceToSystemLog();
     QTextStream out(stdout);
     QTextStream err(stderr);
     const PluginLoader panels;
@@ -67,6 +74,17 @@ int run(const CommandLine& line)
     if (line.listPapers)
         return runListing(*line.listPapers);
     return line.showDialog ? runDialog(line) : runBatch(line);
+}
+
+// A full disk, or a pipe that nobody reads any more.
+int statusWithOutput(int status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return status;
+    QTextStream(stderr) << QCoreApplication::translate("CommandLine", "The output could not be written: %1.")
+                               .arg(QString::fromLocal8Bit(std::strerror(errno)))
+                        << Qt::endl;
+    return kExitFailed;
 }
 
 } // namespace
@@ -83,7 +101,7 @@ int main(int argc, char** argv)
     }
     for (const QString& remark : parsed.remarks)
         QTextStream(stderr) << remark << Qt::endl;
-    const int status = run(*parsed.commandLine);
+    const int status = statusWithOutput(run(*parsed.commandLine));
     // Command jobs of panels that have gone are taken back by their watches.
     waitForWorkQueues(kLongestTidying);
     finishQueuedWork();

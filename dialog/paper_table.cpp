@@ -6,6 +6,8 @@
 
 #include <array>
 
+#include <unicode/uchar.h>
+
 namespace halvern {
 
 namespace {
@@ -77,18 +79,32 @@ QString printable(QString text)
     return text;
 }
 
+// Columns of a terminal: Chinese and Japanese characters take two, combining ones none.
+qsizetype columnsOf(const QString& text)
+{
+    qsizetype columns = 0;
+    for (const uint character : text.toUcs4()) {
+        const int width = u_getIntPropertyValue(UChar32(character), UCHAR_EAST_ASIAN_WIDTH);
+        if (width == U_EA_WIDE || width == U_EA_FULLWIDTH)
+            columns += 2;
+        else if (!QChar::isMark(character))
+            ++columns;
+    }
+    return columns;
+}
+
 QString aligned(const QList<Row>& rows)
 {
     std::array<qsizetype, 4> widths{};
     for (const Row& row : rows) {
         for (size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], row[i].size());
+            widths[i] = std::max(widths[i], columnsOf(row[i]));
     }
     QString table;
     for (const Row& row : rows) {
         QString line;
         for (size_t i = 0; i < row.size(); ++i)
-            line += row[i].leftJustified(widths[i] + 2);
+            line += row[i] + QString(widths[i] + 2 - columnsOf(row[i]), QLatin1Char(' '));
         while (line.endsWith(QLatin1Char(' ')))
             line.chop(1);
         table += line + QLatin1Char('\n');

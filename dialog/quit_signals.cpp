@@ -5,6 +5,7 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <memory>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -13,8 +14,12 @@ namespace halvern {
 
 namespace {
 
-std::atomic<bool> wasSignalled = false;
 static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler sets it");
+
+constexpr int kQuitSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+// What the handler sets; the flag that it points to lives for ever.
+std::atomic<bool>* signalled = nullptr;
 
 // Wakes the event loop: the handler writes a byte. Both ends stay open for as long as the process lives.
 int wakeEnds[2] = {-1, -1};
@@ -23,7 +28,10 @@ int wakeEnds[2] = {-1, -1};
 extern "C" void noteQuitSignal(int)
 {
     const int error = errno;
-    wasSignalled = true;
+    *signalled = true;
+    // Whoever sends another one means it.
+    for (const int signal : kQuitSignals)
+        std::signal(signal, SIG_DFL);
     if (wakeEnds[1] >= 0 && write(wakeEnds[1], "", 1) < 0) {
         // The pipe is full of earlier ones.
     }
@@ -32,13 +40,20 @@ extern "C" void noteQuitSignal(int)
 
 } // namespace
 
+cups::CancelFlag quitFlag()
+{
+    static const auto* const flag = std::make_unique<cups::CancelFlag>(cups::makeCancelFlag()).release();
+    return *flag;
+}
+
 void watchQuitSignals()
 {
+    signalled = quitFlag().get();
     struct sigaction action = {};
     action.sa_handler = noteQuitSignal;
-    // The usual action is back when the handler runs, and calls that were interrupted go on.
-    action.sa_flags = int(SA_RESETHAND | SA_RESTART);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    // Calls that were interrupted go on.
+    action.sa_flags = SA_RESTART;
+    for (const int signal : kQuitSignals) {
         struct sigaction before = {};
         // What nohup and background shells have switched off stays off.
         if (sigaction(signal, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
@@ -48,7 +63,7 @@ void watchQuitSignals()
 
 bool quitWasSignalled()
 {
-    return wasSignalled;
+    return *quitFlag();
 }
 
 void onQuitSignal(QObject* context, std::function<void()> leave)

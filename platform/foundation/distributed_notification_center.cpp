@@ -28,6 +28,7 @@ struct DistributedNotificationCenter::State : std::enable_shared_from_this<State
     QPointer<SystemBusListener> listener;
     bool logged = false;
     bool hadBus = false;
+    bool retryIsDue = false;
     int retryMs = kFirstRetryMs;
 
     ~State()
@@ -63,6 +64,7 @@ void DistributedNotificationCenter::State::connectToBus()
         if (wasSubscribed) {
             state->hadBus = true;
             state->retryMs = kFirstRetryMs;
+            state->logged = false;
         }
         state->gone(status);
     });
@@ -79,12 +81,16 @@ void DistributedNotificationCenter::State::gone(int status)
         listener->deleteLater();
     listener.clear();
     // A bus that was there is started anew by the system; one that never was is no use to wait for.
-    if (!hadBus || registry.isEmpty())
+    if (!hadBus || retryIsDue || registry.isEmpty())
         return;
+    retryIsDue = true;
     const std::weak_ptr<State> weak = weak_from_this();
     mainQueue().after(retryMs, [weak] {
-        if (const auto state = weak.lock())
-            state->connectToBus();
+        const auto state = weak.lock();
+        if (!state)
+            return;
+        state->retryIsDue = false;
+        state->connectToBus();
     });
     retryMs = std::min(2 * retryMs, kLongestRetryMs);
 }

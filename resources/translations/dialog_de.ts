@@ -87,6 +87,10 @@
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers druckt keine Dateien: Lassen Sie die Dateien und die Optionen zum Drucken weg.</translation>
     </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -724,14 +728,6 @@
         <translation>Der Drucker „%1“ arbeitet zurzeit nicht%2, und die Anfrage wurde zurückgenommen. Setzen Sie den Drucker fort (cupsenable) und fragen Sie noch einmal.</translation>
     </message>
     <message>
-        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
-        <translation>Die Anfrage an „%1“ wurde angehalten%2 und ist abgebrochen worden. Lassen Sie die Warteschlange Aufträge annehmen und fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled%2. Ask again.</source>
-        <translation>Die Anfrage an „%1“ wurde abgebrochen%2. Fragen Sie noch einmal.</translation>
-    </message>
-    <message>
         <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
         <translation>Der Drucker „%1“ konnte nicht antworten%2. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
     </message>
@@ -804,8 +800,24 @@
         <translation>Tonwerte</translation>
     </message>
     <message>
-        <source>The question to "%1" was taken back.</source>
-        <translation>Die Anfrage an „%1“ wurde zurückgenommen.</translation>
+        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
+        <translation>Die Anfrage an „%1“ konnte nicht verarbeitet werden%2 und wurde zurückgenommen. Sehen Sie nach dem Drucker und im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>Die Anfrage an „%1“ wurde angehalten%2 und ist abgebrochen worden. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled. Ask again.</source>
+        <translation>Die Anfrage an „%1“ wurde abgebrochen. Fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>Der Druckserver antwortet nicht; Auftrag %1 ist vielleicht noch in der Warteschlange (cancel %2-%1).</translation>
+    </message>
+    <message>
+        <source>Look into the print server's error log, and ask again.</source>
+        <translation>Sehen Sie im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
     </message>
 </context>
 </TS>

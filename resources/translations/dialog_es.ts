@@ -87,6 +87,10 @@
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers no imprime archivos: omita los archivos y las opciones de impresión.</translation>
     </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>No se pudo escribir la salida: %1.</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -724,14 +728,6 @@
         <translation>La impresora «%1» no funciona en este momento%2 y se ha retirado la consulta. Reanude la impresora (cupsenable) y vuelva a preguntar.</translation>
     </message>
     <message>
-        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
-        <translation>La consulta a «%1» quedó retenida%2 y se ha cancelado. Permita que la cola procese trabajos y vuelva a preguntar.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled%2. Ask again.</source>
-        <translation>La consulta a «%1» se canceló%2. Vuelva a preguntar.</translation>
-    </message>
-    <message>
         <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
         <translation>La impresora «%1» no pudo responder%2. Revise la impresora y vuelva a preguntar.</translation>
     </message>
@@ -804,8 +800,24 @@
         <translation>Tonos</translation>
     </message>
     <message>
-        <source>The question to "%1" was taken back.</source>
-        <translation>Se ha retirado la consulta a «%1».</translation>
+        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
+        <translation>La consulta a «%1» no se pudo procesar%2 y se ha retirado. Revise la impresora, consulte el registro de errores del servidor de impresión y vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>La consulta a «%1» quedó retenida%2 y se ha cancelado. Revise la impresora y vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled. Ask again.</source>
+        <translation>La consulta a «%1» se canceló. Vuelva a preguntar.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>El servidor de impresión no responde; el trabajo %1 puede seguir en la cola (cancel %2-%1).</translation>
+    </message>
+    <message>
+        <source>Look into the print server's error log, and ask again.</source>
+        <translation>Consulte el registro de errores del servidor de impresión y vuelva a preguntar.</translation>
     </message>
 </context>
 </TS>

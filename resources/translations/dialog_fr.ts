@@ -87,6 +87,10 @@
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers n'imprime aucun fichier : omettez les fichiers et les options d'impression.</translation>
     </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>La sortie n'a pas pu être écrite : %1.</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -724,14 +728,6 @@
         <translation>L'imprimante « %1 » ne fonctionne pas pour le moment%2 et la demande a été retirée. Relancez l'imprimante (cupsenable) et recommencez.</translation>
     </message>
     <message>
-        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
-        <translation>La demande à « %1 » a été retenue%2 et annulée. Laissez la file traiter les tâches et recommencez.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled%2. Ask again.</source>
-        <translation>La demande à « %1 » a été annulée%2. Recommencez.</translation>
-    </message>
-    <message>
         <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
         <translation>L'imprimante « %1 » n'a pas pu répondre%2. Vérifiez l'imprimante et recommencez.</translation>
     </message>
@@ -804,8 +800,24 @@
         <translation>Tons</translation>
     </message>
     <message>
-        <source>The question to "%1" was taken back.</source>
-        <translation>La demande à « %1 » a été retirée.</translation>
+        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
+        <translation>La demande à « %1 » n'a pas pu être traitée%2 et a été retirée. Vérifiez l'imprimante, consultez le journal d'erreurs du serveur d'impression et recommencez.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>La demande à « %1 » a été retenue%2 et annulée. Vérifiez l'imprimante et recommencez.</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled. Ask again.</source>
+        <translation>La demande à « %1 » a été annulée. Recommencez.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>Le serveur d'impression ne répond pas ; la tâche %1 est peut-être encore dans la file (cancel %2-%1).</translation>
+    </message>
+    <message>
+        <source>Look into the print server's error log, and ask again.</source>
+        <translation>Consultez le journal d'erreurs du serveur d'impression et recommencez.</translation>
     </message>
 </context>
 </TS>

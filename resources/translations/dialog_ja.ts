@@ -87,6 +87,10 @@
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers はファイルを印刷しません。ファイルと印刷用のオプションを省いてください。</translation>
     </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>出力を書き込めませんでした: %1</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
@@ -724,14 +728,6 @@
         <translation>プリンター「%1」は現在動作していないため%2、問い合わせを取り消しました。プリンターを再開して (cupsenable) もう一度問い合わせてください。</translation>
     </message>
     <message>
-        <source>The question to "%1" was held%2 and has been cancelled. Let the queue take jobs and ask again.</source>
-        <translation>「%1」への問い合わせは保留されたため%2、取り消しました。キューがジョブを処理できるようにして、もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled%2. Ask again.</source>
-        <translation>「%1」への問い合わせはキャンセルされました%2。もう一度問い合わせてください。</translation>
-    </message>
-    <message>
         <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
         <translation>プリンター「%1」は応答できませんでした%2。プリンターを確認して、もう一度問い合わせてください。</translation>
     </message>
@@ -804,8 +800,24 @@
         <translation>トーン</translation>
     </message>
     <message>
-        <source>The question to "%1" was taken back.</source>
-        <translation>「%1」への問い合わせを取り消しました。</translation>
+        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
+        <translation>「%1」への問い合わせは処理できなかったため%2、取り消しました。プリンターとプリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>「%1」への問い合わせは保留されたため%2、取り消しました。プリンターを確認して、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to "%1" was cancelled. Ask again.</source>
+        <translation>「%1」への問い合わせはキャンセルされました。もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>プリントサーバーが応答しません。ジョブ %1 がキューに残っている可能性があります (cancel %2-%1)。</translation>
+    </message>
+    <message>
+        <source>Look into the print server's error log, and ask again.</source>
+        <translation>プリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
     </message>
 </context>
 </TS>

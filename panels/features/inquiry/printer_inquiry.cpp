@@ -2,12 +2,12 @@
 
 #include "panel_base/base_panel.h"
 #include "platform/foundation/semaphore.h"
-#include "platform/foundation/work_queue.h"
 #include "platform/printing/host_callback.h"
 #include "platform/printing/printer.h"
 
 #include <condition_variable>
 #include <mutex>
+#include <thread>
 
 namespace halvern {
 
@@ -17,7 +17,8 @@ using End = InquiryResult::End;
 
 constexpr std::chrono::milliseconds kLookUp(250);
 // The watch sees within half a second that it shall end, and then has to tell the server.
-constexpr int kTidyMilliseconds = 20000;
+constexpr std::chrono::seconds kTidyTime(3);
+constexpr std::chrono::milliseconds kTidyLook(20);
 
 /// The host of a panel without a dialog: a printer and its PPD.
 class QueueHost : public HostCallback {
@@ -77,15 +78,23 @@ public:
             lock.lock();
             if (goOn)
                 continue;
-            pdePluginDidUnload = true;
             lock.unlock();
-            waitForWorkQueues(kTidyMilliseconds);
-            return {End::abandoned, jobId_};
+            return {takeBack() ? End::abandoned : End::adrift, jobId_};
         }
         return {*end_, jobId_};
     }
 
 private:
+    // Whether the watch has ended in time.
+    bool takeBack()
+    {
+        pdePluginDidUnload = true;
+        const auto end = std::chrono::steady_clock::now() + kTidyTime;
+        while (pdeUnloadSemaphore && std::chrono::steady_clock::now() < end)
+            std::this_thread::sleep_for(kTidyLook);
+        return !pdeUnloadSemaphore;
+    }
+
     void finish(End end)
     {
         const std::lock_guard lock(mutex_);

@@ -16,7 +16,8 @@ struct InquiryResult {
         reported,  ///< the job has completed
         failed,    ///< it has not, or never came to be: see jobId
         busy,      ///< nothing was sent, because the queue is at another job
-        abandoned, ///< the caller had enough, and the job is cancelled
+        abandoned, ///< the caller had enough; the server has been told to cancel the job
+        adrift,    ///< the caller had enough, but the server does not answer: the job may still be there
     };
     End end;
     int jobId = 0; ///< 0 or less: no job could be created

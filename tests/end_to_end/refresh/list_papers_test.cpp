@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 namespace halvern {
 
 namespace {
@@ -98,9 +100,9 @@ TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
 
     const Case cases[] = {
         {"Holding", "?hold", {}, "was held"},
-        {"Refusing", "?reject", {}, "was cancelled"},
+        {"Refusing", "?reject", {}, "could not answer (The printer refuses this job.)"},
         {"Stopping", "?stop&reason=cover-open", {}, "the cover is open"},
-        {"Breaking", "?filter-fails", {}, "could not be processed"},
+        {"Breaking", "?filter-fails", {}, "could not be processed (The command file"},
         {"Garbling", "?garbled", {}, "cannot be read (corrupt: "},
         {"Paused", "", {q("--disabled")}, "does not work at the moment (paused)"},
         {"Closed", "", {q("--rejecting")}, "does not accept jobs"},
@@ -128,6 +130,40 @@ TEST_F(ListPapers, ABusyPrinterIsNotAskedAndADyingServerEndsTheWaiting)
     ASSERT_TRUE(server.stop());
     EXPECT_EQ(finish(first), 1);
     EXPECT_TRUE(err.contains(q("cannot be reached"))) << qPrintable(err);
+}
+
+TEST_F(ListPapers, ASignalEndsItAtOnceAndTakesTheJobBackAndLostOutputIsNoSuccess)
+{
+    addQueue("Slow", "?slow=60");
+    QProcess program;
+    start(program, {q("--refresh")});
+    ASSERT_TRUE(waitUntil([] { return activeJobs("Slow").size() == 1; }));
+    ASSERT_EQ(::kill(pid_t(program.processId()), SIGTERM), 0);
+    EXPECT_EQ(finish(program), 1);
+    EXPECT_EQ(out, QString());
+    EXPECT_TRUE(waitUntil([] { return activeJobs("Slow").isEmpty(); }));
+
+    QProcess full;
+    full.setStandardOutputFile(q("/dev/full"));
+    start(full, {});
+    EXPECT_EQ(finish(full), 1);
+    EXPECT_TRUE(err.contains(q("could not be written"))) << qPrintable(err);
+}
+
+TEST(PaperTable, KeepsItsColumnsWithNamesOfWideCharacters)
+{
+    LoadedPapers loaded;
+    for (const char* name : {"\u7d75\u8449\u66f8", "Caf\u0065\u0301"}) {
+        LoadedPaper paper;
+        paper.sheetName = q(name);
+        paper.surface = q("x");
+        paper.dotsPerInch = {300};
+        loaded.papers.append(paper);
+    }
+    const QStringList lines =
+        paperTable(loaded, nullptr, [](const QString& text) { return text; }).split(u'\n');
+    EXPECT_EQ(lines[1].indexOf(u'x'), 5) << "six columns and two blanks, in three characters";
+    EXPECT_EQ(lines[2].indexOf(u'x'), 9) << "four columns in five characters";
 }
 
 TEST(PaperHeading, TellsTheAgeInUnitsThatFit)

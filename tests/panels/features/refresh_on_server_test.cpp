@@ -162,8 +162,14 @@ TEST_F(RefreshOnServer, AServerThatGoesDuringTheJobEndsTheWaiting)
 
 TEST_F(RefreshOnServer, NewsOfPapersReachesEveryOpenDialogAndOnlyChangesItsOwnPrinters)
 {
+    DistributedNotificationCenter& center = DistributedNotificationCenter::defaultCenter();
+    int news = 0;
+    center.addObserver(&news, QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt,
+                       [&](const DistributedNotification&) { ++news; });
+    ASSERT_TRUE(waitUntil([&] { return center.isConnected(); }));
     open(QString());
-    ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1 && news == 1; }));
+    center.removeObserver(&news);
     addQueue(QStringLiteral("Other"), QStringLiteral("?slow=60"));
     const auto second = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Photo"));
     const auto other = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Other"), QStringLiteral("?slow=60"));
