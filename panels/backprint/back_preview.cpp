@@ -23,6 +23,7 @@ constexpr qreal kPointsPerMillimetre = 72.0 / 25.4;
 constexpr qreal kEdge = 8.0;
 constexpr qreal kLetterHeight = 3.5;
 constexpr qreal kLineHeight = 6.0;
+constexpr qreal kReadableLetters = 1.5;
 
 // The letters of a large sheet would be too small to read on the screen.
 constexpr qreal kSmallestLetters = 9.0;
@@ -80,8 +81,11 @@ void paintFade(QPainter& painter, const QRectF& visible, const QColor& backgroun
 
 } // namespace
 
-BackPreview::BackPreview(std::function<QSizeF()> sheet, QString emptyText, QWidget* parent)
-    : QWidget(parent), sheet_(std::move(sheet)), emptyText_(std::move(emptyText))
+BackPreview::BackPreview(std::function<QSizeF()> sheet, QString emptyText, QString smallText, QWidget* parent)
+    : QWidget(parent),
+      sheet_(std::move(sheet)),
+      emptyText_(std::move(emptyText)),
+      smallText_(std::move(smallText))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
@@ -109,17 +113,29 @@ void BackPreview::paintLines(QPainter& painter, const QRectF& sheet, qreal milli
     const qreal edge = kEdge * millimetre;
     const qreal letterHeight = std::max(kSmallestLetters, kLetterHeight * millimetre);
     const qreal lineHeight = letterHeight * kLineHeight / kLetterHeight;
+    qreal smallest = 1.0;
     QRectF place(sheet.left() + edge, sheet.top() + edge, sheet.width() - 2 * edge, lineHeight);
     for (const QString& line : lines_) {
         if (line.isEmpty())
             continue;
-        paintLine(painter, place, letterHeight, line);
+        smallest = std::min(smallest, paintLine(painter, place, letterHeight, line));
         place.translate(0.0, lineHeight);
     }
+    if (smallest * kLetterHeight >= kReadableLetters)
+        return;
+    QFont italic = font();
+    italic.setItalic(true);
+    painter.setFont(italic);
+    painter.setPen(kFaintInk);
+    // Set off from the lines: it is not printed.
+    place.translate(0.0, lineHeight);
+    place.setBottom(place.top() + 3 * lineHeight);
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, smallText_);
 }
 
-void BackPreview::paintLine(QPainter& painter, const QRectF& place, qreal letterHeight,
-                            const QString& line) const
+// The share of the usual height that is left to the letters.
+qreal BackPreview::paintLine(QPainter& painter, const QRectF& place, qreal letterHeight,
+                             const QString& line) const
 {
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(qRound(letterHeight));
@@ -134,6 +150,7 @@ void BackPreview::paintLine(QPainter& painter, const QRectF& place, qreal letter
     painter.setPen(kInk);
     painter.drawText(QPointF(), line);
     painter.restore();
+    return fit;
 }
 
 void BackPreview::paintEmptyText(QPainter& painter, const QRectF& sheet) const

@@ -12,8 +12,10 @@ namespace halvern {
 class BackPreview : public QWidget {
 public:
     /// `sheet` answers the upright sheet's size in points, an empty one while it is not known; it is asked at
-    /// each painting. `emptyText` stands on a back that nothing is printed on.
-    BackPreview(std::function<QSizeF()> sheet, QString emptyText, QWidget* parent = nullptr);
+    /// each painting. `emptyText` stands on a back that nothing is printed on, `smallText` below a line so
+    /// long that its letters become hard to read.
+    BackPreview(std::function<QSizeF()> sheet, QString emptyText, QString smallText,
+                QWidget* parent = nullptr);
 
     /// Line 0 or 1; the empty text for a line that is switched off.
     void setLine(int index, const QString& text);
@@ -28,11 +30,12 @@ protected:
 
 private:
     void paintLines(QPainter& painter, const QRectF& sheet, qreal millimetre) const;
-    void paintLine(QPainter& painter, const QRectF& place, qreal letterHeight, const QString& line) const;
+    qreal paintLine(QPainter& painter, const QRectF& place, qreal letterHeight, const QString& line) const;
     void paintEmptyText(QPainter& painter, const QRectF& sheet) const;
 
     std::function<QSizeF()> sheet_;
     QString emptyText_;
+    QString smallText_;
     std::array<QString, 2> lines_;
 };
 

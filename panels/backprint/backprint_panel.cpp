@@ -122,8 +122,9 @@ void RZBackprintPDEHalvern::enableCustom()
         const auto sheet = [host = std::weak_ptr(pdePluginCallbackObject)] {
             return uprightSheet(host.lock());
         };
-        preview =
-            new BackPreview(sheet, localized(QStringLiteral("Nothing is printed on the back.")), holder);
+        preview = new BackPreview(
+            sheet, localized(QStringLiteral("Nothing is printed on the back.")),
+            localized(QStringLiteral("So long a line is printed in very small letters.")), holder);
         preview->setAccessibleName(localized(QStringLiteral("Preview of the back of the picture")));
         layout->addWidget(preview);
     }

@@ -60,6 +60,10 @@
         <translation>Der Drucker ersetzt jeden Platzhalter, wenn er das Bild druckt.</translation>
     </message>
     <message>
+        <source>So long a line is printed in very small letters.</source>
+        <translation>Eine so lange Zeile wird in sehr kleiner Schrift gedruckt.</translation>
+    </message>
+    <message>
         <source>Nothing is printed on the back.</source>
         <translation>Auf die Rückseite wird nichts gedruckt.</translation>
     </message>

@@ -60,6 +60,10 @@
         <translation>La impresora sustituye cada marcador al imprimir la foto.</translation>
     </message>
     <message>
+        <source>So long a line is printed in very small letters.</source>
+        <translation>Una línea tan larga se imprime con letras muy pequeñas.</translation>
+    </message>
+    <message>
         <source>Nothing is printed on the back.</source>
         <translation>No se imprime nada en el reverso.</translation>
     </message>

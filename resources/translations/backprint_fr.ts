@@ -60,6 +60,10 @@
         <translation>L’imprimante remplace chaque élément variable lors de l’impression.</translation>
     </message>
     <message>
+        <source>So long a line is printed in very small letters.</source>
+        <translation>Une ligne aussi longue est imprimée en très petits caractères.</translation>
+    </message>
+    <message>
         <source>Nothing is printed on the back.</source>
         <translation>Rien n’est imprimé au dos.</translation>
     </message>

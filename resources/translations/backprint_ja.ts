@@ -60,6 +60,10 @@
         <translation>差し込み項目は、印刷時に写真ごとの内容に置き換えられます。</translation>
     </message>
     <message>
+        <source>So long a line is printed in very small letters.</source>
+        <translation>これほど長い行は、とても小さい文字で印刷されます。</translation>
+    </message>
+    <message>
         <source>Nothing is printed on the back.</source>
         <translation>裏面には何も印刷されません。</translation>
     </message>
