@@ -1,4 +1,5 @@
 // halvern-print as a process: what it says and how it ends.
+#include "tests/support/files.h"
 #include "tests/support/private_cups.h"
 #include "tests/support/text.h"
 
@@ -91,6 +92,11 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
         runPrint({q("--no-dialog"), q("--option"), q("SharpnessIntensity=17"), photo()});
     EXPECT_EQ(beyond.status, 1);
     EXPECT_TRUE(beyond.error.contains(q("Intensity"))) << qPrintable(beyond.error);
+
+    const ProgramResult text =
+        runPrint({q("--no-dialog"), writeFile(folder.filePath(q("text.jpg")), "no picture")});
+    EXPECT_EQ(text.status, 1);
+    EXPECT_TRUE(text.error.contains(q("JPEG, PNG, TIFF or PDF"))) << qPrintable(text.error);
 
     EXPECT_FALSE(server.receivedOptions(1)) << "none of these has made a job";
     const ProgramResult printed = runPrint(options + QStringList{q("--no-dialog"), photo()});
