@@ -4,8 +4,9 @@
 #include "dialog/job_status.h"
 #include "dialog/printer_list.h"
 #include "platform/printing/cups_ppd.h"
+#include "tests/support/files.h"
+#include "tests/support/text.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -14,15 +15,10 @@ namespace halvern {
 
 namespace {
 
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
 std::optional<QString> valueOf(const OptionValues& options, const char* key)
 {
     for (const OptionValue& option : options) {
-        if (option.key == u(key))
+        if (option.key == q(key))
             return option.value;
     }
     return std::nullopt;
@@ -34,48 +30,48 @@ TEST(JobOptions, EveryChoiceIsThereAndASavedValueWinsOverAMark)
 {
     JobInputs inputs;
     inputs.values = {
-        {u("PageSize"), u("4x6")}, {u("PaperName"), u("Loaded")}, {u("SharpnessIntensity"), u("1.24")}};
-    inputs.settings = {{u("PaperName"), u("Matte A4")}, {u("BindingWidth"), 12.5}, {u("EnableCVP1"), true}};
+        {q("PageSize"), q("4x6")}, {q("PaperName"), q("Loaded")}, {q("SharpnessIntensity"), q("1.24")}};
+    inputs.settings = {{q("PaperName"), q("Matte A4")}, {q("BindingWidth"), 12.5}, {q("EnableCVP1"), true}};
     inputs.copies = 3;
     const OptionValues merged = mergeJobOptions(inputs);
-    EXPECT_EQ(valueOf(merged, "PageSize"), u("4x6")) << "a default too";
-    EXPECT_EQ(valueOf(merged, "PaperName"), u("Matte A4"));
-    EXPECT_EQ(valueOf(merged, "SharpnessIntensity"), u("1.24"));
-    EXPECT_EQ(valueOf(merged, "BindingWidth"), u("12.5"));
-    EXPECT_EQ(valueOf(merged, "EnableCVP1"), u("True"));
-    EXPECT_EQ(valueOf(merged, "copies"), u("3"));
-    EXPECT_EQ(valueOf(merged, "print-scaling"), u("none"));
+    EXPECT_EQ(valueOf(merged, "PageSize"), q("4x6")) << "a default too";
+    EXPECT_EQ(valueOf(merged, "PaperName"), q("Matte A4"));
+    EXPECT_EQ(valueOf(merged, "SharpnessIntensity"), q("1.24"));
+    EXPECT_EQ(valueOf(merged, "BindingWidth"), q("12.5"));
+    EXPECT_EQ(valueOf(merged, "EnableCVP1"), q("True"));
+    EXPECT_EQ(valueOf(merged, "copies"), q("3"));
+    EXPECT_EQ(valueOf(merged, "print-scaling"), q("none"));
 }
 
 TEST(JobOptions, WhatWouldContradictThePageIsLeftOut)
 {
     JobInputs inputs;
-    inputs.values = {{u("PageSize"), u("A4")}, {u("media"), u("Letter")}, {u("fit-to-page"), u("true")}};
-    inputs.settings = {{u("sides"), u("two-sided-long-edge")}, {u("job-sheets"), u("None")}, {u("a.b.c"), 1}};
+    inputs.values = {{q("PageSize"), q("A4")}, {q("media"), q("Letter")}, {q("fit-to-page"), q("true")}};
+    inputs.settings = {{q("sides"), q("two-sided-long-edge")}, {q("job-sheets"), q("None")}, {q("a.b.c"), 1}};
     const OptionValues merged = mergeJobOptions(inputs);
     for (const char* key : {"media", "fit-to-page", "sides", "a.b.c"})
         EXPECT_FALSE(valueOf(merged, key)) << key;
-    EXPECT_EQ(valueOf(merged, "job-sheets"), u("none")) << "the server refuses every other spelling";
+    EXPECT_EQ(valueOf(merged, "job-sheets"), q("none")) << "the server refuses every other spelling";
 }
 
 TEST(JobOptions, SavedIppOptionsAreUnderstoodInThePpdsTerms)
 {
-    const OptionValues options = inPpdTerms({{u("media"), u("A4,Roll")},
-                                             {u("sides"), u("two-sided-short-edge")},
-                                             {u("number-up"), u("4")},
-                                             {u("PaperTone"), u("Warm")}});
+    const OptionValues options = inPpdTerms({{q("media"), q("A4,Roll")},
+                                             {q("sides"), q("two-sided-short-edge")},
+                                             {q("number-up"), q("4")},
+                                             {q("PaperTone"), q("Warm")}});
     EXPECT_EQ(options,
               (OptionValues{
-                  {u("PageSize"), u("A4")}, {u("Duplex"), u("DuplexTumble")}, {u("PaperTone"), u("Warm")}}));
+                  {q("PageSize"), q("A4")}, {q("Duplex"), q("DuplexTumble")}, {q("PaperTone"), q("Warm")}}));
 }
 
 TEST(JobOptions, TextGoesIntoTheRequestByteForByteWhateverItLooksLike)
 {
     const QString long121 = QString(121, QChar(0x2264)); // 363 bytes
     for (const QString& text :
-         {u("true"), u("{media=1}"), u("a\"b\\c d"), u("no"), u("1,2,3"), u(""), long121}) {
+         {q("true"), q("{media=1}"), q("a\"b\\c d"), q("no"), q("1,2,3"), q(""), long121}) {
         const cups::Ipp request(ippNewRequest(IPP_OP_CREATE_JOB));
-        EXPECT_EQ(addJobOption(request.get(), {u("CVP1"), text}), QString());
+        EXPECT_EQ(addJobOption(request.get(), {q("CVP1"), text}), QString());
         ipp_attribute_t* sent = ippFindAttribute(request.get(), "CVP1", IPP_TAG_ZERO);
         ASSERT_TRUE(sent) << qPrintable(text);
         EXPECT_EQ(QString::fromUtf8(ippGetString(sent, 0, nullptr)), text);
@@ -83,36 +79,32 @@ TEST(JobOptions, TextGoesIntoTheRequestByteForByteWhateverItLooksLike)
         EXPECT_EQ(ippValidateAttribute(sent), 1) << qPrintable(text);
     }
     const cups::Ipp request(ippNewRequest(IPP_OP_CREATE_JOB));
-    EXPECT_FALSE(addJobOption(request.get(), {u("CVP1"), QString(2000, u'x')}).isEmpty())
+    EXPECT_FALSE(addJobOption(request.get(), {q("CVP1"), QString(2000, u'x')}).isEmpty())
         << "nothing is cut off";
-    addJobOption(request.get(), {u("copies"), u("3")});
+    addJobOption(request.get(), {q("copies"), q("3")});
     EXPECT_EQ(ippGetInteger(ippFindAttribute(request.get(), "copies", IPP_TAG_INTEGER), 0), 3);
 }
 
 TEST(JobOptions, OptionsOnTheCommandLineNeedAKeyAndAnEqualsSign)
 {
-    EXPECT_EQ(parseOption(u("CVP1=a=b c")), (OptionValue{u("CVP1"), u("a=b c")}));
-    EXPECT_EQ(parseOption(u("CVP1=")), (OptionValue{u("CVP1"), u("")}));
+    EXPECT_EQ(parseOption(q("CVP1=a=b c")), (OptionValue{q("CVP1"), q("a=b c")}));
+    EXPECT_EQ(parseOption(q("CVP1=")), (OptionValue{q("CVP1"), q("")}));
     for (const char* bad : {"", "=x", "PageSize", "a b=c"})
-        EXPECT_FALSE(parseOption(u(bad))) << bad;
+        EXPECT_FALSE(parseOption(q(bad))) << bad;
 }
 
 TEST(SavedOptions, TheUsersFileWinsOverTheSystems)
 {
     const QTemporaryDir folder;
-    const auto write = [&](const char* name, const QByteArray& text) {
-        QFile file(folder.filePath(u(name)));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        return file.fileName();
-    };
     const QString system =
-        write("system", "Default Office PageSize=A4\nDest Tessarin PaperTone=Soft Resolution=300dpi\n");
-    const QString user = write("user", "Dest Tessarin PaperTone='Very Warm'\nDefault Tessarin\nnonsense\n");
-    const SavedOptions saved = readSavedOptions({system, user, u("/nowhere/lpoptions")});
-    EXPECT_EQ(saved.defaultPrinter, u("Tessarin"));
-    EXPECT_EQ(saved.byPrinter.value(u("Tessarin")),
-              (OptionValues{{u("PaperTone"), u("Very Warm")}, {u("Resolution"), u("300dpi")}}));
+        writeFile(folder.filePath(q("system")),
+                  "Default Office PageSize=A4\nDest Tessarin PaperTone=Soft Resolution=300dpi\n");
+    const QString user = writeFile(folder.filePath(q("user")),
+                                   "Dest Tessarin PaperTone='Very Warm'\nDefault Tessarin\nnonsense\n");
+    const SavedOptions saved = readSavedOptions({system, user, q("/nowhere/lpoptions")});
+    EXPECT_EQ(saved.defaultPrinter, q("Tessarin"));
+    EXPECT_EQ(saved.byPrinter.value(q("Tessarin")),
+              (OptionValues{{q("PaperTone"), q("Very Warm")}, {q("Resolution"), q("300dpi")}}));
 }
 
 TEST(JobWords, EveryStageHasASentenceWithTheJobAndWhatToDo)
@@ -129,23 +121,23 @@ TEST(JobWords, EveryStageHasASentenceWithTheJobAndWhatToDo)
     for (const Case& c : cases) {
         JobStatus status;
         status.stage = c.stage;
-        status.printerReasons = {u("media-jam-error"), u("cups-waiting-for-job-completed")};
-        const QString sentence = jobSentence(status, u("Tessarin"), 17);
-        EXPECT_TRUE(sentence.contains(u(c.words))) << qPrintable(sentence);
-        EXPECT_TRUE(sentence.contains(u("17")) && sentence.contains(u("Tessarin"))) << qPrintable(sentence);
-        EXPECT_FALSE(sentence.contains(u"%") || sentence.contains(u("cups-"))) << qPrintable(sentence);
+        status.printerReasons = {q("media-jam-error"), q("cups-waiting-for-job-completed")};
+        const QString sentence = jobSentence(status, q("Tessarin"), 17);
+        EXPECT_TRUE(sentence.contains(q(c.words))) << qPrintable(sentence);
+        EXPECT_TRUE(sentence.contains(q("17")) && sentence.contains(q("Tessarin"))) << qPrintable(sentence);
+        EXPECT_FALSE(sentence.contains(u"%") || sentence.contains(q("cups-"))) << qPrintable(sentence);
     }
 }
 
 TEST(JobWords, APrintersStateNamesWhatIsWrong)
 {
     PrinterInfo printer;
-    EXPECT_EQ(stateText(printer), u("Ready"));
+    EXPECT_EQ(stateText(printer), q("Ready"));
     printer.state = PrinterState::stopped;
-    printer.reasons = {u("paused"), u("media-empty-error"), u("weird-thing-error"), u("harmless-report")};
-    EXPECT_EQ(stateText(printer), u("Paused: out of paper, weird thing"));
+    printer.reasons = {q("paused"), q("media-empty-error"), q("weird-thing-error"), q("harmless-report")};
+    EXPECT_EQ(stateText(printer), q("Paused: out of paper, weird thing"));
     printer.isAccepting = false;
-    EXPECT_TRUE(stateText(printer).startsWith(u("Does not accept jobs")));
+    EXPECT_TRUE(stateText(printer).startsWith(q("Does not accept jobs")));
 }
 
 } // namespace halvern

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "dialog/ppd_model.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/support/fake_host.h"
 
 namespace halvern {
 
@@ -17,13 +15,7 @@ inline std::unique_ptr<PpdModel> tessarinModel()
 /// A model on a PPD with this text.
 inline std::unique_ptr<PpdModel> modelOf(const QByteArray& text)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("test.ppd")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        return nullptr;
-    file.close();
-    ppd::File opened = ppd::open(file.fileName());
-    return opened ? std::make_unique<PpdModel>(std::move(opened)) : nullptr;
+    return std::make_unique<PpdModel>(ppdOf(text));
 }
 
 /// The change's key and choice as "KEY=CHOICE", for comparing.

@@ -1,9 +1,8 @@
 #include "dialog/plugin_loader.h"
 
 #include "tests/support/fake_host.h"
+#include "tests/support/files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -19,13 +18,8 @@ const QString kBundleName = QStringLiteral("tessarin.pde");
 void makeBundle(const QString& folder, const QByteArray& list, const QByteArray& module)
 {
     const QString path = folder + QLatin1Char('/') + kBundleName;
-    ASSERT_TRUE(QDir().mkpath(path));
-    QFile info(path + QStringLiteral("/Info.plist"));
-    ASSERT_TRUE(info.open(QIODevice::WriteOnly));
-    info.write(list);
-    QFile file(path + QStringLiteral("/tessarin.so"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(module);
+    writeFile(path + QStringLiteral("/Info.plist"), list);
+    writeFile(path + QStringLiteral("/tessarin.so"), module);
 }
 
 QByteArray propertyList(const QByteArray& identifier)
@@ -36,23 +30,17 @@ QByteArray propertyList(const QByteArray& identifier)
 
 QByteArray builtModule()
 {
-    QFile file(QStringLiteral(HALVERN_TEST_BUNDLE "/tessarin.so"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+    return readFile(QStringLiteral(HALVERN_TEST_BUNDLE "/tessarin.so"));
 }
 
 } // namespace
 
-TEST(PluginLoader, LoadsTheBuiltBundleAndMakesFreshPanelsEachTime)
+TEST(PluginLoader, LoadsTheBuiltBundleAndSaysWhenItHasNoPanels)
 {
     PluginLoader loader({QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).path()});
     QString problem;
-    const auto host = std::make_shared<FakeHost>();
-    const PanelList first = loader.panels(kBundleName, host, &problem);
-    const PanelList second = loader.panels(kBundleName, host, &problem);
-    ASSERT_FALSE(first.empty()) << qPrintable(problem);
-    ASSERT_EQ(first.size(), second.size());
-    EXPECT_NE(first.front(), second.front());
+    EXPECT_FALSE(loader.panels(kBundleName, std::make_shared<FakeHost>(), &problem).empty())
+        << qPrintable(problem);
     EXPECT_EQ(problem, QString());
     const PanelList none = loader.panels(kBundleName, std::make_shared<FakeHost>(QByteArray()), &problem);
     EXPECT_TRUE(none.empty()) << "without a PPD there are no panels";

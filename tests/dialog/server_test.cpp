@@ -1,11 +1,14 @@
 // The dialog's model and window on a real print server with virtual printers.
+#include "tests/support/server_test.h"
 #include "dialog/batch_print.h"
 #include "dialog/job_submitter.h"
 #include "dialog/message_bar.h"
 #include "dialog/panel_deck.h"
 #include "platform/printing/printer.h"
 #include "tests/dialog/dialog_support.h"
+#include "tests/support/files.h"
 #include "tests/support/observers.h"
+#include "tests/support/text.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -19,38 +22,30 @@ namespace halvern {
 
 namespace {
 
-QString t(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
 bool containsText(const QString& text, const char* words)
 {
-    return text.contains(t(words));
+    return text.contains(q(words));
 }
 
 } // namespace
 
-class DialogServerTest : public testing::Test {
+class DialogServerTest : public ServerTest {
 protected:
     static void SetUpTestSuite()
     {
-        server = std::make_unique<PrivateCups>();
-        ASSERT_TRUE(server->isRunning()) << qPrintable(server->error());
+        ServerTest::SetUpTestSuite();
         ASSERT_TRUE(
-            server->addQueue(t("Tessarin"), {}, {}, {t("--default"), t("--info"), t("Photo printer")}));
-        ASSERT_TRUE(server->addQueue(t("Other")));
-        ASSERT_TRUE(server->addQueue(t("Paused"), {}, {}, {t("--disabled")}));
-        ASSERT_TRUE(server->addQueue(t("Rejecting"), {}, {}, {t("--rejecting")}));
-        ASSERT_TRUE(server->addQueue(t("Jam"), {}, t("halvern://virtual/Jam?stop=0")));
+            server->addQueue(q("Tessarin"), {}, {}, {q("--default"), q("--info"), q("Photo printer")}));
+        ASSERT_TRUE(server->addQueue(q("Other")));
+        ASSERT_TRUE(server->addQueue(q("Paused"), {}, {}, {q("--disabled")}));
+        ASSERT_TRUE(server->addQueue(q("Rejecting"), {}, {}, {q("--rejecting")}));
+        ASSERT_TRUE(server->addQueue(q("Jam"), {}, q("halvern://virtual/Jam?stop=0")));
         QImage photo(600, 400, QImage::Format_RGB32);
         photo.fill(QColor(40, 90, 160));
         ASSERT_TRUE(photo.save(photoPath()));
     }
 
-    static void TearDownTestSuite() { server.reset(); }
-
-    static QString photoPath() { return folder.filePath(t("photo.jpg")); }
+    static QString photoPath() { return folder.filePath(q("photo.jpg")); }
 
     static SessionRequest request(const QString& printer, const OptionValues& options = {})
     {
@@ -85,13 +80,6 @@ protected:
         return stage;
     }
 
-    static pid_t serverProcess()
-    {
-        QFile file(server->dir() + t("/server/cupsd.pid"));
-        return file.open(QIODevice::ReadOnly) ? pid_t(file.readAll().split(' ').first().toInt()) : 0;
-    }
-
-    inline static std::unique_ptr<PrivateCups> server;
     inline static QTemporaryDir folder;
     FakePanels panels;
 };
@@ -100,40 +88,12 @@ TEST_F(DialogServerTest, ListsQueuesWithTheirStatesAndSelectsTheDefault)
 {
     DialogSession session(request({}), panels);
     ASSERT_TRUE(isReady(session));
-    EXPECT_EQ(session.printerName(), t("Tessarin"));
+    EXPECT_EQ(session.printerName(), q("Tessarin"));
     const PrinterList& list = session.printerList();
     ASSERT_EQ(list.printers().size(), 5u);
-    EXPECT_EQ(list.find(t("Tessarin"))->info, t("Photo printer"));
-    EXPECT_TRUE(containsText(stateText(*list.find(t("Paused"))), "Paused"));
-    EXPECT_TRUE(containsText(stateText(*list.find(t("Rejecting"))), "not accept"));
-}
-
-TEST_F(DialogServerTest, EveryChosenValueArrivesAtThePrinterAsItWasChosen)
-{
-    const QString line = QString(119, QChar(0x2264)) + t("\"\\ {");
-    DialogSession session(request(t("Tessarin"), {{t("SharpnessIntensity"), t("1.24")},
-                                                  {t("PaperTone"), t("Warm")},
-                                                  {t("CVP2"), t("true")},
-                                                  {t("Unknown"), t("{a b}")}}),
-                          panels);
-    ASSERT_TRUE(isReady(session));
-    panels.first.lock()->savedText = line;
-    PrintRun* run = session.makeRun();
-    QString sentence;
-    ASSERT_EQ(runJob(*run, &sentence), JobStage::completed) << qPrintable(sentence);
-    const auto received = server->receivedOptions(run->jobId());
-    ASSERT_TRUE(received);
-    const std::map<QString, QString> wanted{{t("SharpnessIntensity"), t("1.24")},
-                                            {t("PaperTone"), t("Warm")},
-                                            {t("CVP1"), line},
-                                            {t("CVP2"), t("true")},
-                                            {t("Unknown"), t("{a b}")},
-                                            {t("PageSize"), t("4x6")}};
-    for (const auto& [key, value] : wanted) {
-        ASSERT_TRUE(received->contains(key)) << qPrintable(key);
-        EXPECT_EQ(received->at(key), value) << qPrintable(key);
-    }
-    EXPECT_EQ(QImage(server->jobFile(run->jobId(), t("page-1.png"))).size(), QSize(1200, 1800));
+    EXPECT_EQ(list.find(q("Tessarin"))->info, q("Photo printer"));
+    EXPECT_TRUE(containsText(stateText(*list.find(q("Paused"))), "Paused"));
+    EXPECT_TRUE(containsText(stateText(*list.find(q("Rejecting"))), "not accept"));
 }
 
 TEST_F(DialogServerTest, SaysWhyAJobDoesNotPrintAndCancelsIt)
@@ -146,13 +106,13 @@ TEST_F(DialogServerTest, SaysWhyAJobDoesNotPrintAndCancelsIt)
     };
 
     const Case cases[] = {
-        {"Tessarin", {{t("job-hold-until"), t("indefinite")}}, JobStage::held, "is held"},
+        {"Tessarin", {{q("job-hold-until"), q("indefinite")}}, JobStage::held, "is held"},
         {"Paused", {}, JobStage::blocked, "paused"},
         {"Jam", {}, JobStage::stopped, "paper jam"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.queue);
-        DialogSession session(request(t(c.queue), c.options), panels);
+        DialogSession session(request(q(c.queue), c.options), panels);
         ASSERT_TRUE(isReady(session));
         PrintRun* run = session.makeRun();
         QString sentence;
@@ -171,7 +131,7 @@ TEST_F(DialogServerTest, SaysWhyAJobDoesNotPrintAndCancelsIt)
 
 TEST_F(DialogServerTest, ARefusedJobLeavesNothingOnTheServer)
 {
-    DialogSession session(request(t("Rejecting")), panels);
+    DialogSession session(request(q("Rejecting")), panels);
     ASSERT_TRUE(isReady(session));
     PrintRun* run = session.makeRun();
     QString sentence;
@@ -179,91 +139,91 @@ TEST_F(DialogServerTest, ARefusedJobLeavesNothingOnTheServer)
     EXPECT_TRUE(containsText(sentence, "does not accept jobs")) << qPrintable(sentence);
     EXPECT_EQ(run->jobId(), 0);
     const SubmitResult unsent =
-        submitJob({t("Tessarin"), t("x"), t("/nowhere.pdf"), {}}, cups::makeCancelFlag(), [](double) {});
+        submitJob({q("Tessarin"), q("x"), q("/nowhere.pdf"), {}}, cups::makeCancelFlag(), [](double) {});
     EXPECT_EQ(unsent.jobId, 0);
     EXPECT_FALSE(unsent.problem.isEmpty());
 }
 
 TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
 {
-    DialogSession session(request(t("Tessarin")), panels);
+    DialogSession session(request(q("Tessarin")), panels);
     auto dialog = std::make_unique<PrintDialog>(session);
     dialog->show();
     ASSERT_TRUE(isReady(session));
-    EXPECT_EQ(panels.calls, (QStringList{t("first: restore"), t("second: restore")}))
+    EXPECT_EQ(panels.calls, (QStringList{q("first: restore"), q("second: restore")}))
         << "no view is loaded yet";
-    ASSERT_TRUE(dialog->deck().showPage(t("second")));
-    EXPECT_EQ(panels.calls.mid(2), (QStringList{t("second: view"), t("second: willShow")}));
+    ASSERT_TRUE(dialog->deck().showPage(q("second")));
+    EXPECT_EQ(panels.calls.mid(2), (QStringList{q("second: view"), q("second: willShow")}));
     EXPECT_TRUE(panels.second.lock()->view->isVisible());
-    dialog->deck().showPage(t("summary"));
-    EXPECT_EQ(panels.calls.mid(4), QStringList{t("second: shouldHide")});
+    dialog->deck().showPage(q("summary"));
+    EXPECT_EQ(panels.calls.mid(4), QStringList{q("second: shouldHide")});
     EXPECT_FALSE(panels.second.lock()->view->isVisible());
-    dialog->deck().showPage(t("first"));
+    dialog->deck().showPage(q("first"));
     panels.calls.clear();
     const std::shared_ptr<HostCallback> oldHost = panels.first.lock()->host;
-    ASSERT_TRUE(oldHost->ppdFile() && oldHost->pmPrinter()->id() == t("Tessarin"));
+    ASSERT_TRUE(oldHost->ppdFile() && oldHost->pmPrinter()->id() == q("Tessarin"));
     ppd_file_t* oldPpd = oldHost->ppdFile();
-    session.selectPrinter(t("Other"));
-    EXPECT_EQ(ppd::defaultChoice(oldPpd, t("PaperFeed")), t("Sheet"))
+    session.selectPrinter(q("Other"));
+    EXPECT_EQ(ppd::defaultChoice(oldPpd, q("PaperFeed")), q("Sheet"))
         << "a panel's queued work may still read it";
-    EXPECT_EQ(panels.calls.value(0), t("first: shouldHide"));
-    EXPECT_TRUE(panels.calls.contains(t("first: gone")) && panels.calls.contains(t("second: gone")));
+    EXPECT_EQ(panels.calls.value(0), q("first: shouldHide"));
+    EXPECT_TRUE(panels.calls.contains(q("first: gone")) && panels.calls.contains(q("second: gone")));
     EXPECT_FALSE(oldHost->ppdFile() || oldHost->pmPrinter() || oldHost->printSettings() ||
                  oldHost->pageFormat());
-    EXPECT_FALSE(oldHost->willChangePPDOptionKeyValue_ppdChoice(t("PaperTone"), t("Warm")));
+    EXPECT_FALSE(oldHost->willChangePPDOptionKeyValue_ppdChoice(q("PaperTone"), q("Warm")));
     ASSERT_TRUE(waitUntil([&] { return session.canPrint(); }));
-    EXPECT_EQ(panels.first.lock()->host->pmPrinter()->id(), t("Other"));
+    EXPECT_EQ(panels.first.lock()->host->pmPrinter()->id(), q("Other"));
     EXPECT_TRUE(panels.first.lock()->host->pmPrinter()->copyDeviceURI());
     panels.calls.clear();
     dialog->close();
-    EXPECT_EQ(panels.calls.count(t("first: closing")), 1);
-    EXPECT_EQ(panels.calls.count(t("second: closing")), 1);
+    EXPECT_EQ(panels.calls.count(q("first: closing")), 1);
+    EXPECT_EQ(panels.calls.count(q("second: closing")), 1);
 }
 
 TEST_F(DialogServerTest, AResolvedConflictIsShownToldToPanelsAndUndone)
 {
-    DialogSession session(request(t("Tessarin"), {{t("TwoSided"), t("LongEdge")}}), panels);
+    DialogSession session(request(q("Tessarin"), {{q("TwoSided"), q("LongEdge")}}), panels);
     PrintDialog dialog(session);
     dialog.show();
     ASSERT_TRUE(isReady(session));
     auto* message = dialog.findChild<MessageBar*>();
     const std::shared_ptr<RecordingPanel> panel = panels.first.lock();
-    EXPECT_TRUE(panel->host->willChangePPDOptionKeyValue_ppdChoice(t("PaperFeed"), t("Roll")));
+    EXPECT_TRUE(panel->host->willChangePPDOptionKeyValue_ppdChoice(q("PaperFeed"), q("Roll")));
     EXPECT_TRUE(panel->changes.isEmpty()) << "not while the panel still waits for the answer";
     EXPECT_TRUE(containsText(message->text(), "Two-Sided: Off")) << qPrintable(message->text());
-    ASSERT_TRUE(waitUntil([&] { return panel->changes.contains(t("TwoSided=None")); }));
-    QTest::mouseClick(dialog.findChild<QPushButton*>(t("messageAction")), Qt::LeftButton);
-    EXPECT_EQ(session.model()->value(t("TwoSided")), t("LongEdge"));
-    EXPECT_EQ(session.model()->value(t("PaperFeed")), t("Sheet"));
-    EXPECT_FALSE(panel->host->willChangePPDOptionKeyValue_ppdChoice(t("SharpnessIntensity"), t("9")));
+    ASSERT_TRUE(waitUntil([&] { return panel->changes.contains(q("TwoSided=None")); }));
+    QTest::mouseClick(dialog.findChild<QPushButton*>(q("messageAction")), Qt::LeftButton);
+    EXPECT_EQ(session.model()->value(q("TwoSided")), q("LongEdge"));
+    EXPECT_EQ(session.model()->value(q("PaperFeed")), q("Sheet"));
+    EXPECT_FALSE(panel->host->willChangePPDOptionKeyValue_ppdChoice(q("SharpnessIntensity"), q("9")));
     EXPECT_TRUE(containsText(message->text(), "Intensity")) << qPrintable(message->text());
 }
 
 TEST_F(DialogServerTest, KeptValuesAreInThePrintSettingsUntilAListedOneReplacesThem)
 {
-    DialogSession session(request(t("Tessarin")), panels);
+    DialogSession session(request(q("Tessarin")), panels);
     ASSERT_TRUE(isReady(session));
     const std::shared_ptr<HostCallback> host = panels.first.lock()->host;
     QVariant held;
-    ASSERT_TRUE(host->willChangePPDOptionKeyValue_ppdChoice(t("SharpnessIntensity"), t("1.24")));
-    EXPECT_EQ(host->printSettings()->getValue(t("SharpnessIntensity"), held), kPrintingOk);
-    EXPECT_EQ(held, QVariant(t("1.24")));
-    ASSERT_TRUE(host->willChangePPDOptionKeyValue_ppdChoice(t("SharpnessIntensity"), t("1.50")));
-    EXPECT_EQ(host->printSettings()->getValue(t("SharpnessIntensity"), held), kPrintingKeyNotFound);
+    ASSERT_TRUE(host->willChangePPDOptionKeyValue_ppdChoice(q("SharpnessIntensity"), q("1.24")));
+    EXPECT_EQ(host->printSettings()->getValue(q("SharpnessIntensity"), held), kPrintingOk);
+    EXPECT_EQ(held, QVariant(q("1.24")));
+    ASSERT_TRUE(host->willChangePPDOptionKeyValue_ppdChoice(q("SharpnessIntensity"), q("1.50")));
+    EXPECT_EQ(host->printSettings()->getValue(q("SharpnessIntensity"), held), kPrintingKeyNotFound);
 }
 
 TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
 {
-    DialogSession session(request(t("Tessarin")), panels);
+    DialogSession session(request(q("Tessarin")), panels);
     PrintDialog dialog(session);
     dialog.show();
     ASSERT_TRUE(isReady(session));
-    auto* paper = dialog.findChild<QComboBox*>(t("paperSize"));
+    auto* paper = dialog.findChild<QComboBox*>(q("paperSize"));
     paper->showPopup();
-    paper->view()->setCurrentIndex(paper->model()->index(paper->findData(t("A4")), 0));
+    paper->view()->setCurrentIndex(paper->model()->index(paper->findData(q("A4")), 0));
     QTest::keyClick(paper->view(), Qt::Key_Return);
-    EXPECT_EQ(session.model()->value(t("PageSize")), t("A4"));
-    auto* fill = dialog.findChild<QRadioButton*>(t("scaling1"));
+    EXPECT_EQ(session.model()->value(q("PageSize")), q("A4"));
+    auto* fill = dialog.findChild<QRadioButton*>(q("scaling1"));
     QTest::mouseClick(fill, Qt::LeftButton, {}, QPoint(8, fill->height() / 2));
     const PageLayout layout = session.layoutFor(session.photos().front());
     EXPECT_TRUE(layout.isCut && layout.turned);
@@ -272,28 +232,28 @@ TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
 
 TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
 {
-    DialogSession session(request(t("Tessarin")), panels);
+    DialogSession session(request(q("Tessarin")), panels);
     PrintDialog dialog(session);
     dialog.show();
-    auto* print = dialog.findChild<QPushButton*>(t("printButton"));
+    auto* print = dialog.findChild<QPushButton*>(q("printButton"));
     EXPECT_FALSE(print->isEnabled()) << "there is nothing to print yet";
     ASSERT_TRUE(isReady(session));
-    dialog.deck().showPage(t("first"));
+    dialog.deck().showPage(q("first"));
     panels.calls.clear();
     QTest::mouseClick(print, Qt::LeftButton);
-    EXPECT_EQ(panels.calls, (QStringList{t("first: save"), t("second: save"), t("first: shouldHide"),
-                                         t("second: shouldHide")}));
+    EXPECT_EQ(panels.calls, (QStringList{q("first: save"), q("second: save"), q("first: shouldHide"),
+                                         q("second: shouldHide")}));
     ASSERT_TRUE(waitUntil([&] { return dialog.run() && dialog.run()->isOver(); }, 60));
     EXPECT_TRUE(dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
-    EXPECT_TRUE(containsText(dialog.findChild<QLabel*>(t("status"))->text(), "Printed"));
-    EXPECT_EQ(panels.calls.mid(4), QStringList{t("first: willShow")}) << "the panel is in use again";
+    EXPECT_TRUE(containsText(dialog.findChild<QLabel*>(q("status"))->text(), "Printed"));
+    EXPECT_EQ(panels.calls.mid(4), QStringList{q("first: willShow")}) << "the panel is in use again";
     dialog.close();
-    EXPECT_TRUE(panels.calls.contains(t("first: closing to print")));
+    EXPECT_TRUE(panels.calls.contains(q("first: closing to print")));
 }
 
 TEST_F(DialogServerTest, AStoppedServerNeverHoldsTheWindowUp)
 {
-    const pid_t process = serverProcess();
+    const pid_t process = server->process();
     ASSERT_GT(process, 1);
     ASSERT_EQ(kill(process, SIGSTOP), 0);
     {
@@ -302,7 +262,7 @@ TEST_F(DialogServerTest, AStoppedServerNeverHoldsTheWindowUp)
         dialog.show();
         session.start();
         EXPECT_TRUE(waitUntil([&] { return session.hasPhotos(); }));
-        session.selectPrinter(t("Other"));
+        session.selectPrinter(q("Other"));
         qint64 longest = 0;
         QElapsedTimer beat;
         beat.start();
@@ -319,33 +279,31 @@ TEST_F(DialogServerTest, AStoppedServerNeverHoldsTheWindowUp)
         EXPECT_FALSE(dialog.isVisible());
     }
     EXPECT_EQ(kill(process, SIGCONT), 0);
-    DialogSession after(request(t("Tessarin")), panels);
+    DialogSession after(request(q("Tessarin")), panels);
     EXPECT_TRUE(isReady(after));
 }
 
 TEST_F(DialogServerTest, ADamagedDescriptionIsNamedAndTheWindowLives)
 {
-    ASSERT_TRUE(server->addQueue(t("Damaged")));
-    QFile ppd(server->dir() + t("/server/etc/ppd/Damaged.ppd"));
-    ASSERT_TRUE(ppd.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    ppd.write("*PPD-Adobe: \"4.3\"\n*OpenUI *X: PickOne\n*X " + QByteArray(400, 'x') + ": \"\"\n");
-    ppd.close();
-    DialogSession session(request(t("Damaged")), panels);
+    ASSERT_TRUE(server->addQueue(q("Damaged")));
+    writeFile(server->dir() + q("/server/etc/ppd/Damaged.ppd"),
+              "*PPD-Adobe: \"4.3\"\n*OpenUI *X: PickOne\n*X " + QByteArray(400, 'x') + ": \"\"\n");
+    DialogSession session(request(q("Damaged")), panels);
     PrintDialog dialog(session);
     dialog.show();
     session.start();
     auto* message = dialog.findChild<MessageBar*>();
     ASSERT_TRUE(waitUntil([&] { return containsText(message->text(), "Damaged"); }))
         << qPrintable(message->text());
-    EXPECT_FALSE(dialog.findChild<QPushButton*>(t("printButton"))->isEnabled());
-    session.selectPrinter(t("Tessarin"));
+    EXPECT_FALSE(dialog.findChild<QPushButton*>(q("printButton"))->isEnabled());
+    session.selectPrinter(q("Tessarin"));
     EXPECT_TRUE(waitUntil([&] { return session.canPrint(); }));
 }
 
 TEST_F(DialogServerTest, APlugInThatFailsIsANoticeAndNoObstacle)
 {
-    panels.failure = t("The pages are broken.");
-    DialogSession session(request(t("Tessarin")), panels);
+    panels.failure = q("The pages are broken.");
+    DialogSession session(request(q("Tessarin")), panels);
     PrintDialog dialog(session);
     dialog.show();
     ASSERT_TRUE(isReady(session));
@@ -356,23 +314,23 @@ TEST_F(DialogServerTest, APlugInThatFailsIsANoticeAndNoObstacle)
 TEST_F(DialogServerTest, TwoDialogsAtOnceKeepTheirOwnChoices)
 {
     FakePanels otherPanels;
-    DialogSession one(request(t("Tessarin")), panels);
-    DialogSession two(request(t("Tessarin")), otherPanels);
+    DialogSession one(request(q("Tessarin")), panels);
+    DialogSession two(request(q("Tessarin")), otherPanels);
     PrintDialog first(one);
     PrintDialog second(two);
     first.show();
     second.show();
     ASSERT_TRUE(isReady(one) && isReady(two));
-    ASSERT_TRUE(one.changeOption(t("PaperTone"), t("Warm")));
-    EXPECT_EQ(two.model()->value(t("PaperTone")), t("Standard"));
+    ASSERT_TRUE(one.changeOption(q("PaperTone"), q("Warm")));
+    EXPECT_EQ(two.model()->value(q("PaperTone")), q("Standard"));
     PrintRun* runOne = one.makeRun();
     PrintRun* runTwo = two.makeRun();
     runOne->start();
     QString sentence;
     EXPECT_EQ(runJob(*runTwo, &sentence), JobStage::completed) << qPrintable(sentence);
     EXPECT_TRUE(waitUntil([&] { return runOne->isOver(); }));
-    EXPECT_EQ(server->receivedOptions(runOne->jobId())->at(t("PaperTone")), t("Warm"));
-    EXPECT_EQ(server->receivedOptions(runTwo->jobId())->at(t("PaperTone")), t("Standard"));
+    EXPECT_EQ(server->receivedOptions(runOne->jobId())->at(q("PaperTone")), q("Warm"));
+    EXPECT_EQ(server->receivedOptions(runTwo->jobId())->at(q("PaperTone")), q("Standard"));
 }
 
 } // namespace halvern

@@ -5,11 +5,10 @@
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
 #include "tests/panel_base/test_panel.h"
+#include "tests/support/files.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -193,6 +192,40 @@ TEST_F(ControlBindingTest, AControlWithoutAnOptionIsRefused)
     EXPECT_TRUE(host->asked.isEmpty());
 }
 
+TEST_F(ControlBindingTest, AFieldWithAnActionOnlyProposesOnceWhenEditingEnds)
+{
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(QStringLiteral("Info.plist")),
+              "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
+    writeFile(folder.filePath(QStringLiteral("Resources/Quiet.ui")),
+              R"(<ui version="4.0"><widget class="QLineEdit" name="quiet">
+                 <property name="tag" stdset="0"><number>2</number></property>
+                 <property name="action" stdset="0"><string>changePrinterSetting:</string></property>
+                 </widget></ui>)");
+    Bundle::setMainBundle(Bundle::load(folder.path()));
+    const auto wired = makePanel<TestPanel>(host);
+    wired->layout = QStringLiteral("Quiet");
+    auto* field = qobject_cast<QLineEdit*>(wired->panelView());
+    ASSERT_NE(field, nullptr);
+    QTest::keyClicks(field, QStringLiteral("123"));
+    EXPECT_TRUE(host->asked.isEmpty());
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(host->asked.size(), 1);
+    EXPECT_EQ(wired->stored("B"), QStringLiteral("123"));
+}
+
+TEST_F(ControlBindingTest, AMinusLeftInAFieldBecomesZeroWithoutAChoice)
+{
+    auto* field = addControl<QLineEdit>(view, 1);
+    field->setText(QStringLiteral("-"));
+    panel->controlTextDidChange(field);
+    panel->controlTextDidEndEditing(field);
+    EXPECT_EQ(field->text(), QStringLiteral("0"));
+    EXPECT_EQ(panel->stored("A"), QStringLiteral("-"));
+    EXPECT_EQ(host->asked.size(), 1);
+}
+
 TEST_F(ControlBindingTest, AMatrixPanelReadsAndShowsCellsOnly)
 {
     class Cells : public KSTRVLMatrixPDEHalvern {
@@ -213,61 +246,6 @@ TEST_F(ControlBindingTest, AMatrixPanelReadsAndShowsCellsOnly)
     cells->updateControl_withValue(label, QStringLiteral("20"));
     EXPECT_EQ(label->text(), QString());
     EXPECT_EQ(cells->newChoiceForSender(label).toString(), QStringLiteral("30"));
-    matrix->selectCellWithTag(99);
-    EXPECT_EQ(cells->newChoiceForSender(matrix).toString(), QStringLiteral("10"));
-}
-
-/// A panel whose layout the test wrote: one field that the panel follows and one that only has an action.
-class WiredFieldsTest : public ControlBindingTest {
-protected:
-    WiredFieldsTest()
-    {
-        QFile info(folder.filePath(QStringLiteral("Info.plist")));
-        QFile layout(folder.filePath(QStringLiteral("Resources/Fields.ui")));
-        QDir(folder.path()).mkdir(QStringLiteral("Resources"));
-        if (!info.open(QIODevice::WriteOnly) || !layout.open(QIODevice::WriteOnly))
-            qFatal("the test's bundle could not be written");
-        info.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
-        layout.write(R"(<ui version="4.0"><widget class="QWidget" name="view"><layout class="QVBoxLayout">
-            <item><widget class="QLineEdit" name="quiet"><property name="tag" stdset="0"><number>2</number></property>
-            <property name="action" stdset="0"><string>changePrinterSetting:</string></property></widget></item>
-            <item><widget class="QLineEdit" name="typed"><property name="tag" stdset="0"><number>321</number>
-            </property></widget></item></layout></widget></ui>)");
-        info.close();
-        layout.close();
-        Bundle::setMainBundle(Bundle::load(folder.path()));
-        wired = makePanel<TestPanel>(host);
-        wired->layout = QStringLiteral("Fields");
-        shown = wired->panelView();
-    }
-
-    QLineEdit* field(const char* name) { return shown->findChild<QLineEdit*>(QString::fromLatin1(name)); }
-
-    QTemporaryDir folder;
-    std::shared_ptr<TestPanel> wired;
-    QWidget* shown = nullptr;
-};
-
-TEST_F(WiredFieldsTest, AFieldWithAnActionOnlyProposesOnceWhenEditingEnds)
-{
-    ASSERT_NE(shown, nullptr);
-    QTest::keyClicks(field("quiet"), QStringLiteral("123"));
-    EXPECT_TRUE(host->asked.isEmpty());
-    QTest::keyClick(field("quiet"), Qt::Key_Return);
-    QTest::keyClick(field("quiet"), Qt::Key_Return);
-    EXPECT_EQ(host->asked.size(), 1);
-    EXPECT_EQ(wired->stored("B"), QStringLiteral("123"));
-}
-
-TEST_F(WiredFieldsTest, AMinusLeftInAFieldBecomesZeroWithoutAChoice)
-{
-    ASSERT_NE(shown, nullptr);
-    QTest::keyClicks(field("typed"), QStringLiteral("-"));
-    EXPECT_EQ(wired->stored("A"), QStringLiteral("-"));
-    QTest::keyClick(field("typed"), Qt::Key_Return);
-    EXPECT_EQ(field("typed")->text(), QStringLiteral("0"));
-    EXPECT_EQ(wired->stored("A"), QStringLiteral("-"));
-    EXPECT_EQ(host->asked.size(), 1);
 }
 
 } // namespace halvern

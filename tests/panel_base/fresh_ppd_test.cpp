@@ -1,8 +1,8 @@
 #include "tests/panel_base/test_panel.h"
+#include "tests/support/files.h"
 #include "tests/support/private_cups.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,6 @@ protected:
     void SetUp() override
     {
         useBuiltBundle();
-        ASSERT_TRUE(server.isRunning()) << qPrintable(server.error());
         writePpd(folder.filePath(QStringLiteral("fresh.ppd")), "1.5");
         ASSERT_TRUE(server.addQueue(QStringLiteral("Fresh"), folder.filePath(QStringLiteral("fresh.ppd"))))
             << qPrintable(server.error());
@@ -28,10 +27,8 @@ protected:
 
     static void writePpd(const QString& path, const QByteArray& stamp)
     {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(ppdHeader() + "*Stamp: \"" + stamp +
-                   "\"\n*Nothing: \"\"\n*X00000: \"QUJD\"\n*X00001: \"REVG\"\n");
+        writeFile(path, ppdHeader() + "*Stamp: \"" + stamp +
+                            "\"\n*Nothing: \"\"\n*X00000: \"QUJD\"\n*X00001: \"REVG\"\n");
     }
 
     QString queuePpd() const { return server.dir() + QStringLiteral("/server/etc/ppd/Fresh.ppd"); }
@@ -61,32 +58,26 @@ TEST_F(FreshPpdTest, ReadsWhatTheServerHasNowAndLeavesNoFile)
     EXPECT_EQ(temporaryFiles(), 0);
 }
 
-TEST_F(FreshPpdTest, AQueueThatIsNotThereAnswersNothing)
+TEST_F(FreshPpdTest, AQueueOrAServerThatIsNotThereAnswersNothing)
 {
     host->printer = std::make_shared<Printer>(QStringLiteral("Gone"), QString());
     EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
     EXPECT_EQ(panel->ppdSavedDataForAttribute(QStringLiteral("X")), std::nullopt);
     host->printer = nullptr;
     EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
+    host->printer = std::make_shared<Printer>(QStringLiteral("Fresh"), QString());
+    ASSERT_TRUE(server.stop());
+    EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
 }
 
 TEST_F(FreshPpdTest, APpdThatDoesNotOpenIsLoggedAndKept)
 {
-    QFile broken(queuePpd());
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("no PPD at all\n");
-    broken.close();
+    writeFile(queuePpd(), "no PPD at all\n");
     EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
     EXPECT_EQ(log.lines().last(), QStringLiteral("failed to open fresh ppd = 0x0"));
     EXPECT_EQ(temporaryFiles(), 1);
     EXPECT_EQ(panel->ppdSavedDataForAttribute(QStringLiteral("X")), std::nullopt);
     EXPECT_EQ(temporaryFiles(), 2);
-}
-
-TEST_F(FreshPpdTest, AServerThatHasEndedAnswersNothing)
-{
-    ASSERT_TRUE(server.stop());
-    EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
 }
 
 } // namespace halvern

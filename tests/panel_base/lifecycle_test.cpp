@@ -1,8 +1,6 @@
 #include "platform/foundation/bundle.h"
 #include "platform/foundation/notification_center.h"
 #include "platform/foundation/semaphore.h"
-#include "platform/foundation/work_queue.h"
-#include "platform/toolkit/speech_synthesizer.h"
 #include "tests/panel_base/test_panel.h"
 
 #include <QDesktopServices>
@@ -131,15 +129,6 @@ TEST_F(LifecycleTest, ABrokenPipeEndsNobody)
     close(ends[1]);
 }
 
-TEST_F(LifecycleTest, TheSummaryHasTheMarkedChoicesInTheUsersLanguage)
-{
-    useBuiltBundle(QStringLiteral("de_DE"));
-    const auto panel = makePanel<TestPanel>(host);
-    EXPECT_EQ(panel->summaryInfo(), (QMap<QString, QString>{{QStringLiteral("A"), QStringLiteral("Ein")}}));
-    const auto bare = makePanel<TestPanel>(std::make_shared<FakeHost>());
-    EXPECT_TRUE(bare->summaryInfo().isEmpty());
-}
-
 class HelpHandler : public QObject {
     Q_OBJECT
 public Q_SLOTS:
@@ -161,16 +150,6 @@ TEST_F(LifecycleTest, HelpIsLeftToTheDialogOnlyIfTheBookDidNotOpen)
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     panel->pdeBundle.reset();
     EXPECT_TRUE(panel->shouldShowHelp());
-}
-
-TEST_F(LifecycleTest, SpeechIsSharedAndSilent)
-{
-    const auto panel = makePanel<TestPanel>(host);
-    const auto other = makePanel<TestPanel>(host);
-    EXPECT_EQ(panel->speaker(), other->speaker());
-    log.clear();
-    panel->speakString(QStringLiteral("hello"));
-    EXPECT_TRUE(log.lines().isEmpty());
 }
 
 } // namespace halvern

@@ -1,7 +1,5 @@
 #include "tests/panel_base/test_panel.h"
 
-#include <QLabel>
-
 #include <gtest/gtest.h>
 
 namespace halvern {
@@ -19,12 +17,6 @@ protected:
     LogCapture log;
     std::shared_ptr<FakeHost> host;
 };
-
-TEST_F(PersistenceTest, KeysAreThoseOfTheTagsUpToTheFirstWithoutOne)
-{
-    const auto panel = panelFor({});
-    EXPECT_EQ(panel->supportedPPDOptionKeys().join(QLatin1Char(' ')), QStringLiteral("A B C D E F G H I J"));
-}
 
 TEST_F(PersistenceTest, WithoutPrintSettingsAKeyTakesWhatTheKeyBeforeItLeft)
 {
@@ -59,16 +51,6 @@ TEST_F(PersistenceTest, WithoutAPpdNothingIsRestored)
     EXPECT_TRUE(panel->choices()->isEmpty());
 }
 
-TEST_F(PersistenceTest, RestoringRefreshesALoadedViewOnly)
-{
-    const auto panel = panelFor(ppdOption("A", {"X", "Y"}));
-    auto* view = new QWidget;
-    auto* label = addControl<QLabel>(view, 1);
-    panel->setPanelView(view);
-    panel->restoreValuesAndReturnError(nullptr);
-    EXPECT_EQ(label->text(), QStringLiteral("X"));
-}
-
 TEST_F(PersistenceTest, FollowsTheHostsNoticesForItsOwnKeys)
 {
     const auto panel = panelFor({});
@@ -83,19 +65,6 @@ TEST_F(PersistenceTest, FollowsTheHostsNoticesForItsOwnKeys)
     EXPECT_EQ(panel->stored("A"), QStringLiteral("1"));
     EXPECT_EQ(panel->customCalls, 1);
     EXPECT_TRUE(host->asked.isEmpty());
-}
-
-TEST_F(PersistenceTest, TheCurrentValueIsTheMarkThenTheSetting)
-{
-    const auto panel = panelFor(ppdOption("A", {"X", "Y"}));
-    host->settings->setValue(QStringLiteral("A"), QStringLiteral("setting"), false);
-    host->settings->setValue(QStringLiteral("B"), QStringLiteral("setting"), false);
-    EXPECT_EQ(panel->printSystemValueForKey(QStringLiteral("A")).toString(), QStringLiteral("X"));
-    EXPECT_EQ(panel->printSystemValueForKey(QStringLiteral("B")).toString(), QStringLiteral("setting"));
-    EXPECT_FALSE(panel->printSystemValueForKey(QStringLiteral("C")).isValid());
-    EXPECT_FALSE(panel->printSystemValueForKey(std::nullopt).isValid());
-    host->settings.reset();
-    EXPECT_FALSE(panel->printSystemValueForKey(QStringLiteral("B")).isValid());
 }
 
 } // namespace halvern

@@ -15,7 +15,6 @@ protected:
         return panel->ppdSavedDataForAttribute_forPPD(QStringLiteral("X"), host->ppdFile());
     }
 
-    LogCapture log;
     std::shared_ptr<FakeHost> host;
     std::shared_ptr<TestPanel> panel;
 };
@@ -61,23 +60,6 @@ TEST_F(PpdAccessTest, KeepsTheDeviceUriOnceItIsKnown)
     host->printer = std::make_shared<Printer>(QStringLiteral("Other"), QStringLiteral("ipp://elsewhere"));
     EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
     EXPECT_EQ(panel->destinationName(), QStringLiteral("Other"));
-}
-
-TEST_F(PpdAccessTest, AnswersTheDeviceUriToTheLetter)
-{
-    for (const char* uri :
-         {"usb://HALVERN/VLX", "dnssd://Halvern%20VLX._ipp._tcp.local./?uuid=1", "serial:/dev/ttyS0"}) {
-        decoded({});
-        host->printer = std::make_shared<Printer>(QStringLiteral("Q"), QString::fromLatin1(uri));
-        EXPECT_EQ(panel->printerDeviceURI(), QString::fromLatin1(uri));
-    }
-}
-
-TEST_F(PpdAccessTest, AsksNoServerWhenNothingIsWanted)
-{
-    decoded({});
-    EXPECT_TRUE(panel->ppdValuesForAttributes({}).isEmpty());
-    EXPECT_TRUE(log.lines().isEmpty());
 }
 
 } // namespace halvern

@@ -1,10 +1,8 @@
 #include "platform/foundation/bundle.h"
 #include "platform/toolkit/help_viewer.h"
 #include "platform/toolkit/layout_loader.h"
-#include "tests/support/observers.h"
+#include "tests/support/files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -16,10 +14,7 @@ class BundleTest : public testing::Test {
 protected:
     void write(const char* name, const QByteArray& content)
     {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        ASSERT_TRUE(QDir().mkpath(QFileInfo(file).absolutePath()));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        writeFile(folder.filePath(QString::fromLatin1(name)), content);
     }
 
     static QByteArray plist(const QByteArray& body)

@@ -6,14 +6,11 @@
 #include "tests/support/observers.h"
 
 #include <QAbstractItemView>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
@@ -105,43 +102,12 @@ TEST(MatrixTest, SelectsCellsByTagAndTellsOnlyOfTheUsers)
     EXPECT_EQ(selected.count(), 1);
 }
 
-TEST(ControlTest, AnswersCapabilitiesByKind)
-{
-    QLabel label(QStringLiteral("3.9 mm"));
-    QComboBox popup;
-    QGroupBox box;
-    Stepper stepper;
-    QWidget plain;
-    EXPECT_EQ(control::intValue(&label), 3);
-    EXPECT_EQ(control::floatValue(&label), 3.9);
-    EXPECT_EQ(control::maxValue(&label), std::nullopt);
-    EXPECT_EQ(control::maxValue(&stepper), 100.0);
-    EXPECT_FALSE(control::setStringValue(&popup, QStringLiteral("x")));
-    EXPECT_EQ(control::floatValue(&plain), std::nullopt);
-    EXPECT_FALSE(control::isControl(&box));
-    EXPECT_FALSE(control::isControl(nullptr));
-    EXPECT_EQ(control::tagOf(nullptr), 0);
-    EXPECT_EQ(control::maxValue(nullptr), std::nullopt);
-    EXPECT_FALSE(control::setStringValue(nullptr, QString()));
-    QCheckBox check;
-    check.setCheckState(Qt::PartiallyChecked);
-    EXPECT_EQ(control::state(&check), -1);
-}
-
-TEST(ControlTest, PopUpItemsKeepEnablingAndTagsInTheirModel)
+TEST(ControlTest, ANumberIsNotTheItemOfTheSameText)
 {
     QComboBox popup;
     popup.addItem(QStringLiteral("a"), 3000);
     popup.addItem(QStringLiteral("b"), QStringLiteral("3000"));
     EXPECT_EQ(control::indexOfItemWithRepresentedObject(&popup, QStringLiteral("3000")), 1);
-    control::setItemEnabled(&popup, 1, false);
-    control::setItemTag(&popup, 1, 7);
-    EXPECT_FALSE(control::isItemEnabled(&popup, 1));
-    EXPECT_TRUE(control::isItemEnabled(&popup, 0));
-    EXPECT_FALSE(control::isItemEnabled(&popup, 5));
-    EXPECT_EQ(control::itemTag(&popup, 1), 7);
-    popup.setCurrentIndex(1);
-    EXPECT_EQ(control::selectedRepresentedObject(&popup).toString(), QStringLiteral("3000"));
 }
 
 TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)

@@ -2,24 +2,15 @@
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/files.h"
 
-#include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-namespace halvern {
+#include <array>
 
-TEST(PrintSettingsTest, AnAbsentKeyAnswersAStatusAndClearsTheHolder)
-{
-    PrintSettings settings;
-    QVariant holder = QStringLiteral("before");
-    EXPECT_NE(settings.getValue(QStringLiteral("Key"), holder), 0);
-    EXPECT_FALSE(holder.isValid());
-    EXPECT_EQ(settings.setValue(QStringLiteral("Key"), 7, false), 0);
-    EXPECT_EQ(settings.getValue(QStringLiteral("Key"), holder), 0);
-    EXPECT_EQ(holder, QVariant(7));
-    EXPECT_NE(settings.setValue(QString(), 7, false), 0);
-}
+namespace halvern {
 
 TEST(PrintSettingsTest, ALockedKeyTakesLockedValuesOnly)
 {
@@ -34,47 +25,28 @@ TEST(PageFormatTest, TheAdjustedSheetIsTheUprightOneTurned)
 {
     const PageRect paper{0, 0, 842, 595};
     const PageRect imageable{10, 20, 812, 555};
-    PageRect rect;
-    PageFormat(paper, imageable, PageOrientation::portrait).getUnadjustedPaperRect(rect);
-    EXPECT_EQ(rect.bottom - rect.top, 842);
-    EXPECT_EQ(rect.left, -20);
-    for (const PageOrientation turned : {PageOrientation::landscape, PageOrientation::reverseLandscape}) {
-        PageFormat(paper, imageable, turned).getAdjustedPaperRect(rect);
-        EXPECT_EQ(rect.bottom - rect.top, 595);
-        EXPECT_EQ(rect.right - rect.left, 842);
-        EXPECT_LE(rect.top, 0);
-        EXPECT_LE(rect.left, 0);
-    }
-    PageFormat(paper, imageable, PageOrientation::reversePortrait).getAdjustedPaperRect(rect);
-    EXPECT_EQ(rect.bottom - rect.top, 842);
-    EXPECT_EQ(rect.top, -30);
+    const auto sheet = [&](PageOrientation turn) {
+        PageRect rect;
+        PageFormat(paper, imageable, turn).getAdjustedPaperRect(rect);
+        return std::array{rect.top, rect.left, rect.bottom - rect.top, rect.right - rect.left};
+    };
+    using Wanted = std::array<double, 4>;
+    EXPECT_EQ(sheet(PageOrientation::portrait), (Wanted{-10, -20, 842, 595}));
+    EXPECT_EQ(sheet(PageOrientation::reversePortrait), (Wanted{-30, -40, 842, 595}));
+    EXPECT_EQ(sheet(PageOrientation::landscape), (Wanted{-20, -30, 595, 842}));
+    EXPECT_EQ(sheet(PageOrientation::reverseLandscape), (Wanted{-40, -10, 595, 842}));
 }
 
 TEST(PpdTest, AMalformedFileDoesNotOpenAndSaysWhere)
 {
     QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("broken.ppd")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(ppdHeader() + "*OpenUI *A/A: PickOne\n*OpenUI *B/B: PickOne\n" + QByteArray(300, 'x') + "\n");
-    file.close();
+    const QString broken = writeFile(folder.filePath(QStringLiteral("broken.ppd")),
+                                     ppdHeader() + "*OpenUI *A/A: PickOne\n*OpenUI *B/B: PickOne\n" +
+                                         QByteArray(300, 'x') + "\n");
     QString why;
-    EXPECT_EQ(ppd::open(file.fileName(), &why), nullptr);
+    EXPECT_EQ(ppd::open(broken, &why), nullptr);
     EXPECT_TRUE(why.contains(QLatin1String("line"))) << qPrintable(why);
     EXPECT_EQ(ppd::open(folder.filePath(QStringLiteral("absent.ppd")), &why), nullptr);
-}
-
-TEST(PpdTest, MarksOnlyWhatThePpdLists)
-{
-    FakeHost host(ppdHeader() + ppdOption("A", {"1/One", "2/Two"}));
-    ppd_file_t* file = host.ppdFile();
-    EXPECT_FALSE(ppd::mark(file, QStringLiteral("A"), QStringLiteral("3")));
-    EXPECT_FALSE(ppd::mark(file, QStringLiteral("B"), QStringLiteral("1")));
-    EXPECT_EQ(ppd::markedChoice(file, QStringLiteral("A"))->text, QStringLiteral("One"));
-    EXPECT_TRUE(ppd::mark(file, QStringLiteral("A"), QStringLiteral("2")));
-    EXPECT_EQ(ppd::markedChoice(file, QStringLiteral("A"))->text, QStringLiteral("Two"));
-    EXPECT_EQ(ppd::choices(file, QStringLiteral("A"))->size(), 2);
-    EXPECT_EQ(ppd::choices(file, QStringLiteral("B")), std::nullopt);
-    EXPECT_EQ(ppd::defaultChoice(nullptr, QStringLiteral("A")), std::nullopt);
 }
 
 } // namespace halvern

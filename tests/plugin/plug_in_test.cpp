@@ -2,12 +2,10 @@
 
 #include "platform/foundation/bundle.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/files.h"
 #include "tests/support/observers.h"
 
-#include <QFile>
-#include <QPluginLoader>
 #include <QTemporaryDir>
-#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -17,14 +15,11 @@ namespace {
 
 std::shared_ptr<Bundle> bundleWith(const QTemporaryDir& folder, const char* identifier)
 {
-    QFile file(folder.filePath(QStringLiteral("Info.plist")));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     QByteArray text =
         "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>CFBundleName</key><string>x</string>";
     if (identifier)
         text += QByteArray("<key>CFBundleIdentifier</key><string>") + identifier + "</string>";
-    file.write(text + "</dict></plist>");
-    file.close();
+    writeFile(folder.filePath(QStringLiteral("Info.plist")), text + "</dict></plist>");
     return Bundle::load(folder.path());
 }
 
@@ -92,6 +87,25 @@ TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
     EXPECT_TRUE(none->empty());
 }
 
+TEST(PlugInTest, ThePrintersDescriptionHasTheOptionsOfAllPanels)
+{
+    useBuiltBundle();
+    const auto host = std::make_shared<FakeHost>(readFile(QStringLiteral(HALVERN_TESSARIN_PPD)));
+    auto panels = RZPDEPlugInHalvern().PDEPanelsForType_withHostInfo(
+        QLatin1StringView(kPrintDialogExtensionType), host);
+    int found = 0;
+    for (const auto& panel : *panels) {
+        for (const QString& key : panel->supportedPPDOptionKeys()) {
+            const bool isFreeText = key == QStringLiteral("CVP1") || key == QStringLiteral("CVP2");
+            EXPECT_EQ(ppd::choices(host->ppdFile(), key).has_value(), !isFreeText) << qPrintable(key);
+            ++found;
+        }
+    }
+    EXPECT_EQ(found, 29);
+    panels.reset();
+    EXPECT_TRUE(areAllGone(host));
+}
+
 TEST(PlugInTest, TheListEndsBeforeTheFirstFailureAndLaterPanelsAreReleased)
 {
     useBuiltBundle();
@@ -102,29 +116,6 @@ TEST(PlugInTest, TheListEndsBeforeTheFirstFailureAndLaterPanelsAreReleased)
     EXPECT_EQ(made, 4);
     EXPECT_GE(log.count(QStringLiteral("entered dealloc in RZSharpnessPDEHalvern")), 3);
     EXPECT_TRUE(makePanels({&noPanel, &aPanel}, host).empty());
-    EXPECT_TRUE(areAllGone(host));
-}
-
-TEST(PlugInTest, TheBuiltBundleLoadsAsThePrintDialogLoadsIt)
-{
-    LogCapture log;
-    const auto bundle = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE));
-    ASSERT_NE(bundle, nullptr);
-    QPluginLoader loader(bundle->executablePath().value_or(QString()));
-    auto* module = qobject_cast<PlugInModule*>(loader.instance());
-    ASSERT_NE(module, nullptr) << qPrintable(loader.errorString());
-    std::unique_ptr<PrincipalClass> principal = module->makePrincipalObject();
-    EXPECT_TRUE(principal->initWithBundle(*bundle));
-    Bundle::setMainBundle(nullptr);
-    const auto host = std::make_shared<FakeHost>();
-    auto panels =
-        principal->PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
-    ASSERT_FALSE(panels->empty());
-    // The panel finds its layout in the bundle that its module lies in.
-    EXPECT_NE(panels->back()->panelView(), nullptr);
-    principal.reset();
-    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in RZPDEPlugInHalvern")), 1);
-    panels.reset();
     EXPECT_TRUE(areAllGone(host));
 }
 

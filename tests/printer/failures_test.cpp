@@ -1,6 +1,6 @@
 #include "tests/printer/print_job.h"
 #include "tests/support/observers.h"
-#include "tests/support/private_cups.h"
+#include "tests/support/server_test.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,37 +15,13 @@ namespace halvern {
 
 namespace {
 
-/// One server for all its tests; each test sets up queues of its own, with faults.
-class FailuresTest : public testing::Test {
+/// Each test sets up queues of its own, with faults.
+class FailuresTest : public ServerTest {
 protected:
-    static void SetUpTestSuite()
-    {
-        server = std::make_unique<PrivateCups>();
-        ASSERT_TRUE(server->isRunning()) << server->error().toStdString();
-    }
-
-    static void TearDownTestSuite() { server.reset(); }
-
-    void setFault(const char* queue, const char* query, const QStringList& more = {}) const
-    {
-        const QString uri = QStringLiteral("halvern://virtual/x?") + QLatin1String(query);
-        ASSERT_TRUE(server->addQueue(QLatin1String(queue), QString(), uri, more))
-            << server->error().toStdString();
-    }
-
     int printPages(const char* queue, int pages) const
     {
         const QString file = documents.filePath(QStringLiteral("%1.pdf").arg(pages));
         return printFile(queue, makePdf(file, pages), "application/pdf");
-    }
-
-    int sendCommands(const char* queue) const
-    {
-        QFile file(documents.filePath(QStringLiteral("commands")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("#CUPS-COMMAND\nReportStatus\n");
-        file.close();
-        return printFile(queue, file.fileName(), "application/vnd.cups-command");
     }
 
     QStringList files(int job) const
@@ -60,13 +36,12 @@ protected:
         return queueState(queue).reasons.contains(QLatin1String(reason));
     }
 
-    static inline std::unique_ptr<PrivateCups> server;
     QTemporaryDir documents;
 };
 
 TEST_F(FailuresTest, AnOfflinePrinterKeepsTheJobUntilItIsCancelled)
 {
-    setFault("Offline", "offline");
+    addQueue("Offline", "offline");
     const int job = printPages("Offline", 1);
     ASSERT_TRUE(waitUntil([] { return hasReason("Offline", "offline-report"); }));
     EXPECT_EQ(jobState(job), IPP_JSTATE_PROCESSING);
@@ -77,14 +52,14 @@ TEST_F(FailuresTest, AnOfflinePrinterKeepsTheJobUntilItIsCancelled)
     EXPECT_TRUE(waitUntil([] { return !hasReason("Offline", "offline-report"); }));
     EXPECT_EQ(files(job), QStringList());
 
-    setFault("Offline", "offline=0.3");
+    addQueue("Offline", "offline=0.3");
     EXPECT_TRUE(reaches(printPages("Offline", 1), IPP_JSTATE_COMPLETED));
     EXPECT_FALSE(hasReason("Offline", "offline-report"));
 }
 
 TEST_F(FailuresTest, ASlowPrinterReportsProgressAndStopsWhenCancelled)
 {
-    setFault("Slow", "slow=60");
+    addQueue("Slow", "slow=60");
     const int job = printPages("Slow", 1);
     ASSERT_TRUE(waitUntil([] { return queueState("Slow").message == QStringLiteral("Printing page 1."); }));
     EXPECT_EQ(jobState(job), IPP_JSTATE_PROCESSING);
@@ -94,23 +69,9 @@ TEST_F(FailuresTest, ASlowPrinterReportsProgressAndStopsWhenCancelled)
     EXPECT_TRUE(waitUntil([this, job] { return files(job) == QStringList{QStringLiteral("options.txt")}; }));
 }
 
-TEST_F(FailuresTest, ARefusedJobIsCancelledAndAHeldOneWaits)
-{
-    setFault("Reject", "reject");
-    const int refused = printPages("Reject", 1);
-    EXPECT_TRUE(reaches(refused, IPP_JSTATE_CANCELED) || reaches(refused, IPP_JSTATE_ABORTED))
-        << jobState(refused);
-    EXPECT_EQ(queueState("Reject").state, IPP_PSTATE_IDLE);
-
-    setFault("Hold", "hold");
-    const int held = printPages("Hold", 1);
-    EXPECT_TRUE(reaches(held, IPP_JSTATE_HELD));
-    EXPECT_EQ(files(refused) + files(held), QStringList());
-}
-
 TEST_F(FailuresTest, AStoppedPrinterKeepsTheWholePagesAndPrintsAgainWhenRestarted)
 {
-    setFault("Stop", "stop=1&reason=cover-open");
+    addQueue("Stop", "stop=1&reason=cover-open");
     const int job = printPages("Stop", 3);
     ASSERT_TRUE(waitUntil([] { return queueState("Stop").state == IPP_PSTATE_STOPPED; }));
     EXPECT_TRUE(hasReason("Stop", "cover-open"));
@@ -118,38 +79,23 @@ TEST_F(FailuresTest, AStoppedPrinterKeepsTheWholePagesAndPrintsAgainWhenRestarte
     EXPECT_EQ(jobState(job), IPP_JSTATE_PENDING);
     EXPECT_EQ(files(job), (QStringList{QStringLiteral("options.txt"), QStringLiteral("page-1.png")}));
 
-    setFault("Stop", "reason=cover-open");
+    addQueue("Stop", "reason=cover-open");
     EXPECT_TRUE(reaches(job, IPP_JSTATE_COMPLETED));
     EXPECT_FALSE(hasReason("Stop", "cover-open"));
     EXPECT_EQ(files(job).size(), 4);
 }
 
-TEST_F(FailuresTest, AFailedJobFollowsTheQueuesErrorPolicyAndAFailedFilterStopsTheJob)
+TEST_F(FailuresTest, AFailedJobFollowsTheQueuesErrorPolicy)
 {
-    setFault("Fail", "fail=1", {QStringLiteral("--error-policy"), QStringLiteral("abort-job")});
+    addQueue("Fail", "fail=1", {QStringLiteral("--error-policy"), QStringLiteral("abort-job")});
     const int failed = printPages("Fail", 2);
     EXPECT_TRUE(reaches(failed, IPP_JSTATE_ABORTED)) << jobState(failed);
     EXPECT_EQ(queueState("Fail").state, IPP_PSTATE_IDLE);
-
-    setFault("Filter", "filter-fails");
-    const int stopped = sendCommands("Filter");
-    EXPECT_TRUE(reaches(stopped, IPP_JSTATE_STOPPED)) << jobState(stopped);
-}
-
-TEST_F(FailuresTest, AFaultCanBeMeantForOneKindOfJob)
-{
-    setFault("Commands", "hold&only=commands");
-    EXPECT_TRUE(reaches(printPages("Commands", 1), IPP_JSTATE_COMPLETED));
-    EXPECT_TRUE(reaches(sendCommands("Commands"), IPP_JSTATE_HELD));
-    setFault("Pages", "stop&only=pages");
-    EXPECT_TRUE(reaches(sendCommands("Pages"), IPP_JSTATE_COMPLETED));
-    EXPECT_TRUE(reaches(printPages("Pages", 1), IPP_JSTATE_PENDING));
-    EXPECT_TRUE(waitUntil([] { return queueState("Pages").state == IPP_PSTATE_STOPPED; }));
 }
 
 TEST_F(FailuresTest, AParameterThatIsNotKnownIsNamedInThePrintersMessage)
 {
-    setFault("Typo", "ofline");
+    addQueue("Typo", "ofline");
     printPages("Typo", 1);
     ASSERT_TRUE(waitUntil([] { return queueState("Typo").state == IPP_PSTATE_STOPPED; }));
     EXPECT_THAT(queueState("Typo").message.toStdString(), testing::HasSubstr("\"ofline\""));
@@ -169,7 +115,6 @@ int processesWith(const QByteArray& text)
 TEST_F(FailuresTest, StoppingTheServerEndsTheProcessesOfAJobThatIsPrinting)
 {
     PrivateCups own;
-    ASSERT_TRUE(own.isRunning()) << own.error().toStdString();
     const QByteArray uri =
         "halvern://virtual/" + QByteArray::number(QCoreApplication::applicationPid()) + "?slow=60";
     ASSERT_TRUE(own.addQueue(QStringLiteral("Busy"), QString(), QString::fromLatin1(uri)));

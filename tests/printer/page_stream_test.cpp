@@ -67,31 +67,6 @@ TEST(PageStreamTest, DocumentsOfAJobFollowOneAnother)
     }
 }
 
-TEST(PageStreamTest, ReadsBackWhatWasWritten)
-{
-    const File file(std::tmpfile());
-    PageStreamWriter out(file.get());
-    const std::vector<uint8_t> row = {1, 2, 3, 254, 255, 0};
-    EXPECT_TRUE(out.options({{"CVP1", "a\nb=c"}, {"empty", ""}}));
-    EXPECT_TRUE(out.page({2, true, true, 2, 1, 300, 610}));
-    EXPECT_TRUE(out.row(row));
-    EXPECT_TRUE(out.command("#CUPS-COMMAND\n"));
-    EXPECT_TRUE(out.end());
-    std::rewind(file.get());
-
-    PageStreamReader in(fileno(file.get()));
-    EXPECT_EQ(std::get<JobOption>(in.next().value()).value, "a\nb=c");
-    EXPECT_EQ(std::get<JobOption>(in.next().value()).value, "");
-    const PageHeader page = std::get<PageHeader>(in.next().value());
-    EXPECT_TRUE(page.sheet == 2 && page.back && page.text && page.width == 2 && page.height == 1);
-    EXPECT_EQ(page.yDpi, 610U);
-    std::vector<uint8_t> got(6);
-    EXPECT_TRUE(in.row(got));
-    EXPECT_EQ(got, row);
-    EXPECT_EQ(std::get<StreamCommand>(in.next().value()).file, "#CUPS-COMMAND\n");
-    EXPECT_TRUE(std::holds_alternative<StreamEnd>(in.next().value()));
-}
-
 TEST(PageStreamTest, AStreamThatIsCutOffAnywhereIsAFault)
 {
     const std::string whole = streamWithAPage();

@@ -4,9 +4,9 @@
 #include "printer/papers/paper_list.h"
 #include "printer/papers/ppd_archive.h"
 #include "tests/printer/print_job.h"
-#include "tests/support/child_process.h"
+#include "tests/support/files.h"
 #include "tests/support/observers.h"
-#include "tests/support/private_cups.h"
+#include "tests/support/server_test.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -21,38 +21,16 @@ namespace {
 const QString kPaperNote = QStringLiteral("VLXPrinterPaperDidUpdateNotification");
 const QString kInfoNote = QStringLiteral("VLXPrinterInfoDidUpdateNotification");
 
-QByteArray fileContent(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
-}
-
 } // namespace
 
-class PapersReportTest : public testing::Test {
+class PapersReportTest : public ServerTest {
 protected:
-    static void SetUpTestSuite()
+    int sendCommands(const char* queue)
     {
-        server = std::make_unique<PrivateCups>();
-        ASSERT_TRUE(server->isRunning()) << server->error().toStdString();
-    }
-
-    static void TearDownTestSuite() { server.reset(); }
-
-    static void addQueue(const char* queue, const char* faults = "")
-    {
-        ASSERT_TRUE(server->addQueue(QLatin1String(queue), QString(),
-                                     QStringLiteral("halvern://virtual/x?") + QLatin1String(faults)));
-    }
-
-    int sendCommands(const char* queue, const char* commands = "ReportStatus\nAutoConfigure\n")
-    {
-        QFile file(documents.filePath(QStringLiteral("commands")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray("#CUPS-COMMAND\n") + commands);
-        file.close();
-        return printFile(queue, file.fileName(), "application/vnd.cups-command");
+        return printFile(queue,
+                         writeFile(documents.filePath(QStringLiteral("commands")),
+                                   "#CUPS-COMMAND\nReportStatus\nAutoConfigure\n"),
+                         "application/vnd.cups-command");
     }
 
     struct Report {
@@ -76,21 +54,19 @@ protected:
         return report;
     }
 
-    static ChildProcess& printerPapers(ChildProcess& script, const QStringList& arguments)
+    static ProgramResult printerPapers(const QStringList& arguments)
     {
-        script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/printer-papers"), arguments,
-                     {{"HALVERN_PAPERS", HALVERN_PAPERS}});
-        return script;
+        return runProgram(QStringLiteral(HALVERN_TEST_SCRIPTS "/printer-papers"), arguments,
+                          {{"HALVERN_PAPERS", HALVERN_PAPERS}});
     }
 
     static QVariantMap recordsOf(const QString& list)
     {
-        const PaperListResult result = readPaperList(fileContent(list));
+        const PaperListResult result = readPaperList(readFile(list));
         EXPECT_TRUE(result.list) << qPrintable(result.failure);
         return result.list->records;
     }
 
-    static inline std::unique_ptr<PrivateCups> server;
     QTemporaryDir documents;
 };
 
@@ -125,11 +101,10 @@ TEST_F(PapersReportTest, TheReportIsInThePpdWhenTheJobHasCompletedAndWhenItIsAnn
 TEST_F(PapersReportTest, WhatIsLoadedChangesWhileThePrinterRuns)
 {
     addQueue("Change");
-    ChildProcess script;
     const auto change = [&](const QStringList& words) {
-        const int status =
-            printerPapers(script, QStringList{server->dir(), QStringLiteral("Change")} + words).wait();
-        EXPECT_EQ(status, 0) << script.standardError().constData();
+        const ProgramResult script =
+            printerPapers(QStringList{server->dir(), QStringLiteral("Change")} + words);
+        EXPECT_EQ(script.status, 0) << qPrintable(script.error);
     };
     const auto reports = [](const auto& condition) {
         return waitUntil([&] {
@@ -140,12 +115,17 @@ TEST_F(PapersReportTest, WhatIsLoadedChangesWhileThePrinterRuns)
     change({QStringLiteral("report")});
     const QVariantMap all = recordsOf(QStringLiteral(HALVERN_PAPER_LISTS "/standard.json"));
     EXPECT_TRUE(reports([&](const QVariantMap& papers) { return papers == all; }));
+    // What is there already makes way for what is loaded.
+    change({QStringLiteral("load"), QStringLiteral("152.4")});
+    EXPECT_TRUE(reports([&](const QVariantMap& papers) { return papers == all; }));
     change({QStringLiteral("take-out"), QStringLiteral("sheets")});
     // Of the longer report that was there nothing remains.
     EXPECT_TRUE(reports([&](const QVariantMap& papers) {
         return !papers.isEmpty() && papers.size() < all.size() &&
                papers.firstKey().startsWith(QLatin1Char('w'));
     }));
+    change({QStringLiteral("take-out"), QStringLiteral("all")});
+    EXPECT_TRUE(reports([](const QVariantMap& papers) { return papers.isEmpty(); }));
     change({QStringLiteral("use"), QStringLiteral(HALVERN_PAPER_LISTS "/sheets-only.json")});
     const QVariantMap sheets = recordsOf(QStringLiteral(HALVERN_PAPER_LISTS "/sheets-only.json"));
     EXPECT_TRUE(reports([&](const QVariantMap& papers) { return papers == sheets; }));
@@ -155,51 +135,22 @@ TEST_F(PapersReportTest, WhatIsLoadedChangesWhileThePrinterRuns)
     }));
 }
 
-TEST_F(PapersReportTest, APrinterThatDoesNotAnswerReportsNothing)
-{
-    const std::pair<const char*, const char*> faults[] = {{"Fail", "fail"},
-                                                          {"Stop", "stop"},
-                                                          {"Hold", "hold"},
-                                                          {"Reject", "reject"},
-                                                          {"Filter", "filter-fails"}};
-    for (const auto& [queue, fault] : faults) {
-        addQueue(queue, fault);
-        const int job = sendCommands(queue);
-        EXPECT_TRUE(waitUntil([&] { return jobState(job) != IPP_JSTATE_PROCESSING; })) << queue;
-        EXPECT_NE(jobState(job), IPP_JSTATE_COMPLETED) << queue;
-        EXPECT_EQ(reportOf(queue).timeStamp, std::nullopt) << queue;
-    }
-    addQueue("Status");
-    EXPECT_TRUE(reaches(sendCommands("Status", "ReportStatus\n"), IPP_JSTATE_COMPLETED));
-    EXPECT_EQ(reportOf("Status").timeStamp, std::nullopt);
-}
-
-TEST_F(PapersReportTest, AGarbledReportHasATimeAndNoCatalogue)
-{
-    addQueue("Garbled", "garbled");
-    EXPECT_TRUE(reaches(sendCommands("Garbled"), IPP_JSTATE_COMPLETED));
-    EXPECT_EQ(reportOf("Garbled").catalogue, std::nullopt);
-    EXPECT_NE(reportOf("Garbled").timeStamp, std::nullopt);
-}
-
 TEST_F(PapersReportTest, MistakesOfTheScriptAreExplainedAndChangeNothing)
 {
     addQueue("Mistake");
     const QString dir = server->dir();
     const QString queue = QStringLiteral("Mistake");
     const std::pair<QStringList, const char*> mistakes[] = {
-        {{dir, queue}, "usage"},
         {{dir, queue, QStringLiteral("unload"), QStringLiteral("152.4")}, "usage"},
         {{dir, QStringLiteral("Nobody"), QStringLiteral("show")}, "no queue Nobody"},
-        {{dir + QStringLiteral("/none"), queue, QStringLiteral("show")}, "private-cups start"},
         {{dir, queue, QStringLiteral("take-out"), QStringLiteral("Papyrus")},
          "no paper \"Papyrus\" is loaded"},
         {{dir, queue, QStringLiteral("use"), QStringLiteral("/dev/null")}, "this is not JSON"},
     };
     for (const auto& [arguments, words] : mistakes) {
-        ChildProcess script;
-        EXPECT_GT(printerPapers(script, arguments).wait(), 0) << words;
-        EXPECT_TRUE(script.standardError().contains(words)) << script.standardError().constData();
+        const ProgramResult script = printerPapers(arguments);
+        EXPECT_GT(script.status, 0) << words;
+        EXPECT_TRUE(script.error.contains(QLatin1StringView(words))) << qPrintable(script.error);
     }
     EXPECT_FALSE(QFile::exists(dir + QStringLiteral("/papers/Mistake.json")));
 }

@@ -1,3 +1,4 @@
+#include "tests/support/files.h"
 #include "tests/support/private_cups.h"
 
 #include <QDir>
@@ -7,8 +8,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <cups/cups.h>
 
 namespace halvern {
 
@@ -62,7 +61,7 @@ QStringList queuesAt(const QByteArray& server)
 TEST(PrivateCupsScript, StartsOnceStopsWhollyAndKeepsTheQueues)
 {
     const QTemporaryDir folder;
-    const ScriptResult first = runPrivateCups(start(folder.path()));
+    const ProgramResult first = runPrivateCups(start(folder.path()));
     ASSERT_EQ(first.status, 0) << first.error.toStdString();
     const auto environment = parseAssignments(first.output);
     EXPECT_EQ(first.output.count(QLatin1Char('\n')), qsizetype(environment.size())) << "only assignments";
@@ -71,7 +70,7 @@ TEST(PrivateCupsScript, StartsOnceStopsWhollyAndKeepsTheQueues)
     EXPECT_EQ(before.size(), 2);
     EXPECT_EQ(runPrivateCups(addQueue(folder.path(), QStringLiteral("Kept"))).status, 0);
 
-    const ScriptResult second = runPrivateCups(start(folder.path()));
+    const ProgramResult second = runPrivateCups(start(folder.path()));
     EXPECT_EQ(second.status, 0);
     EXPECT_EQ(second.output, first.output);
     EXPECT_THAT(second.error.toStdString(), testing::HasSubstr("already running"));
@@ -83,7 +82,7 @@ TEST(PrivateCupsScript, StartsOnceStopsWhollyAndKeepsTheQueues)
     EXPECT_TRUE(QFileInfo(folder.filePath(QStringLiteral("jobs"))).isDir());
     EXPECT_FALSE(QFileInfo(folder.filePath(QStringLiteral("jobs"))).isSymLink());
 
-    const ScriptResult again = runPrivateCups(start(folder.path()));
+    const ProgramResult again = runPrivateCups(start(folder.path()));
     EXPECT_EQ(queuesAt(parseAssignments(again.output).at("CUPS_SERVER")),
               QStringList{QStringLiteral("Kept")});
     EXPECT_EQ(runPrivateCups(stop(folder.path())).status, 0);
@@ -95,7 +94,7 @@ TEST(PrivateCupsScript, ServersInFoldersWithDifficultNamesWorkSideBySide)
     const QString odd = folder.filePath(QStringLiteral("it's a: #\"$HOME\" \u65e5\u672c"));
     const QString deep = folder.filePath(QStringLiteral("long/").repeated(30));
     for (const QString& dir : {odd, deep}) {
-        const ScriptResult started = runPrivateCups(start(dir));
+        const ProgramResult started = runPrivateCups(start(dir));
         ASSERT_EQ(started.status, 0) << started.error.toStdString();
     }
     for (const QString& dir : {odd, deep}) {
@@ -117,11 +116,9 @@ TEST(PrivateCupsScript, StopLeavesAProcessAloneThatOnlyHasTheOldNumber)
     QProcess other;
     other.start(QStringLiteral("sleep"), {QStringLiteral("60")});
     ASSERT_TRUE(other.waitForStarted());
-    for (const char* name : {"cupsd", "dbus"}) {
-        QFile file(folder.filePath(QStringLiteral("server/%1.pid").arg(QLatin1String(name))));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::number(other.processId()) + " 12345\n");
-    }
+    for (const char* name : {"cupsd", "dbus"})
+        writeFile(folder.filePath(QStringLiteral("server/%1.pid").arg(QLatin1String(name))),
+                  QByteArray::number(other.processId()) + " 12345\n");
     EXPECT_EQ(runPrivateCups(stop(folder.path())).status, 0);
     EXPECT_FALSE(other.waitForFinished(0));
     other.kill();
@@ -132,7 +129,7 @@ TEST(PrivateCupsScript, SaysWhatIsWrongAndPrintsNoEnvironment)
 {
     const QTemporaryDir folder;
     const auto refusal = [](const QStringList& arguments) {
-        const ScriptResult result = runPrivateCups(arguments);
+        const ProgramResult result = runPrivateCups(arguments);
         EXPECT_NE(result.status, 0);
         EXPECT_EQ(result.output, QString());
         return result.error.toStdString();
@@ -146,34 +143,10 @@ TEST(PrivateCupsScript, SaysWhatIsWrongAndPrintsNoEnvironment)
                 testing::HasSubstr("no server is running"));
 
     PrivateCups server;
-    ASSERT_TRUE(server.isRunning()) << server.error().toStdString();
     EXPECT_FALSE(server.addQueue(QStringLiteral("Q"), QStringLiteral("/nowhere.ppd")));
     EXPECT_THAT(server.error().toStdString(), testing::HasSubstr("/nowhere.ppd"));
     EXPECT_FALSE(server.addQueue(QStringLiteral("Q"), QString(), QStringLiteral("nosuch:/x")));
     EXPECT_THAT(server.error().toStdString(), testing::HasSubstr("lpadmin failed for queue Q"));
-}
-
-TEST(PrivateCupsScript, QueuesAreReadyUnlessTheyShallNotBe)
-{
-    PrivateCups server;
-    ASSERT_TRUE(server.isRunning()) << server.error().toStdString();
-    ASSERT_TRUE(
-        server.addQueue(QStringLiteral("Ready"), QString(), QString(), {QStringLiteral("--default")}));
-    ASSERT_TRUE(server.addQueue(QStringLiteral("Shut"), QString(), QString(),
-                                {QStringLiteral("--disabled"), QStringLiteral("--rejecting")}));
-    const auto attributes = [](const char* name) {
-        cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, name, nullptr);
-        const auto value = [dest](const char* key) {
-            return std::string(cupsGetOption(key, dest->num_options, dest->options));
-        };
-        const std::string all = value("printer-state") + " " + value("printer-is-accepting-jobs") + " " +
-                                value("printer-is-shared") + " " + value("device-uri");
-        cupsFreeDests(1, dest);
-        return all;
-    };
-    EXPECT_EQ(attributes("Ready"), "3 true false halvern://virtual/Ready");
-    EXPECT_EQ(attributes("Shut"), "5 false false halvern://virtual/Shut");
-    EXPECT_EQ(std::string(cupsGetDefault()), "Ready");
 }
 
 } // namespace

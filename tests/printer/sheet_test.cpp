@@ -28,17 +28,6 @@ cups_page_header2_t rasterHeader()
     return header;
 }
 
-TEST(SheetLayoutTest, PutsThePrintablePartWhereItLiesOnTheSheet)
-{
-    std::string error;
-    const auto sheet = layOut(rasterHeader(), error);
-    ASSERT_TRUE(sheet) << error;
-    EXPECT_EQ(sheet->width, 10U);
-    EXPECT_EQ(sheet->height, 8U);
-    EXPECT_EQ(sheet->left, 2U);
-    EXPECT_EQ(sheet->top, 3U);
-}
-
 TEST(SheetLayoutTest, GrayRowsBecomeColorRowsWithWhiteBesideThem)
 {
     cups_page_header2_t header = rasterHeader();
@@ -63,14 +52,6 @@ TEST(SheetLayoutTest, RefusesRastersThatThePrinterCannotTake)
     EXPECT_TRUE(refuses([](auto& h) { h.cupsHeight = 0; }));
     EXPECT_TRUE(refuses([](auto& h) { h.cupsHeight = 4'000'000'000U; }));
     EXPECT_TRUE(refuses([](auto& h) { h.HWResolution[1] = 0; }));
-}
-
-TEST(BackTextTest, TakesTheLinesThatAreSwitchedOnWithCommaAndApostropheBack)
-{
-    const std::string line = "Anna\xe2\x89\xa4 Peter\xc3\xa6s";
-    EXPECT_EQ(backLines({{"CVP1", line}, {"EnableCVP1", "True"}, {"CVP2", "x"}, {"EnableCVP2", "False"}}),
-              std::vector<std::string>{"Anna, Peter's"});
-    EXPECT_TRUE(backLines({{"CVP1", ""}, {"EnableCVP1", "True"}}).empty());
 }
 
 TEST(BackTextTest, ALongLineIsPrintedWhollyBetweenTheEdges)

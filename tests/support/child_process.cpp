@@ -35,8 +35,10 @@ std::vector<QByteArray> environmentWith(const std::map<QByteArray, QByteArray>& 
         if (!more.contains(text.left(text.indexOf('='))))
             result.push_back(text);
     }
-    for (const auto& [name, value] : more)
-        result.push_back(name + '=' + value);
+    for (const auto& [name, value] : more) {
+        if (!value.isNull())
+            result.push_back(name + '=' + value);
+    }
     return result;
 }
 
@@ -106,6 +108,16 @@ QByteArray ChildProcess::standardOutput() const
 QByteArray ChildProcess::standardError() const
 {
     return contentOf(error_);
+}
+
+ProgramResult runProgram(const QString& program, const QStringList& arguments,
+                         const std::map<QByteArray, QByteArray>& more)
+{
+    ChildProcess child;
+    if (!child.start(program, arguments, more))
+        return {-1, QString(), program + QStringLiteral(" does not start")};
+    const int status = child.wait();
+    return {status, QString::fromUtf8(child.standardOutput()), QString::fromUtf8(child.standardError())};
 }
 
 } // namespace halvern

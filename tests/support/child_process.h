@@ -21,7 +21,7 @@ public:
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     /// Starts a program, looked for in PATH, with this process's environment and what `more` sets in
-    /// addition.
+    /// addition; a null value takes a variable out.
     bool start(const QString& program, const QStringList& arguments,
                const std::map<QByteArray, QByteArray>& more = {});
 
@@ -38,5 +38,16 @@ private:
     QTemporaryFile output_;
     QTemporaryFile error_;
 };
+
+struct ProgramResult {
+    /// -1: a signal ended it, or it has not ended within a minute.
+    int status = -1;
+    QString output;
+    QString error;
+};
+
+/// Runs a program to its end.
+ProgramResult runProgram(const QString& program, const QStringList& arguments,
+                         const std::map<QByteArray, QByteArray>& more = {});
 
 } // namespace halvern

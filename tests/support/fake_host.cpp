@@ -1,6 +1,8 @@
 #include "tests/support/fake_host.h"
 
-#include <QFile>
+#include "tests/support/files.h"
+
+#include <QTemporaryDir>
 
 namespace halvern {
 
@@ -33,18 +35,21 @@ QByteArray ppdOption(const QByteArray& keyword, const QList<QByteArray>& choices
     return text + "*CloseUI: *" + keyword + "\n";
 }
 
+ppd::File ppdOf(const QByteArray& text)
+{
+    const QTemporaryDir folder;
+    QString why;
+    ppd::File file = ppd::open(writeFile(folder.filePath(QStringLiteral("test.ppd")), text), &why);
+    if (!file)
+        qFatal("the test's PPD does not open: %s", qPrintable(why));
+    return file;
+}
+
 FakeHost::FakeHost(const QByteArray& text)
 {
     if (text.isEmpty())
         return;
-    QFile file(folder_.filePath(QStringLiteral("test.ppd")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
-        qFatal("the test's PPD could not be written");
-    file.close();
-    QString why;
-    file_ = ppd::open(file.fileName(), &why);
-    if (!file_)
-        qFatal("the test's PPD does not open: %s", qPrintable(why));
+    file_ = ppdOf(text);
     ppd::markDefaults(file_.get());
 }
 

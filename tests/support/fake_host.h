@@ -9,7 +9,6 @@
 #include <QList>
 #include <QPair>
 #include <QSet>
-#include <QTemporaryDir>
 
 namespace halvern {
 
@@ -18,6 +17,9 @@ QByteArray ppdHeader();
 
 /// One PickOne option for a PPD: the first choice is the default. A choice may be "keyword/text".
 QByteArray ppdOption(const QByteArray& keyword, const QList<QByteArray>& choices);
+
+/// A PPD made of `text`.
+ppd::File ppdOf(const QByteArray& text);
 
 /// A host with a real PPD that records what it is asked. What it accepts it marks; what its PPD does not
 /// list, it puts into its print settings.
@@ -48,7 +50,6 @@ public:
         std::make_shared<Printer>(QStringLiteral("Tessarin"), QStringLiteral("halvern://virtual/test"));
 
 private:
-    QTemporaryDir folder_;
     ppd::File file_;
 };
 

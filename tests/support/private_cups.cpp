@@ -1,17 +1,15 @@
 #include "tests/support/private_cups.h"
 
-#include "tests/support/child_process.h"
-
 #include <QFile>
 #include <QRegularExpression>
 
 #include <cups/cups.h>
 
+#include <memory>
+
 namespace halvern {
 
 namespace {
-
-constexpr int kScriptTimeout = 60'000;
 
 void setEnvironment(const QByteArray& name, const std::optional<QByteArray>& value)
 {
@@ -23,14 +21,10 @@ void setEnvironment(const QByteArray& name, const std::optional<QByteArray>& val
 
 } // namespace
 
-ScriptResult runPrivateCups(const QStringList& arguments)
+ProgramResult runPrivateCups(const QStringList& arguments)
 {
-    ChildProcess script;
-    if (!script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/private-cups"), arguments,
-                      {{"HALVERN_PRINTER_BIN", HALVERN_TEST_PRINTER_BIN}}))
-        return {-1, QString(), QStringLiteral("scripts/private-cups does not start")};
-    const int status = script.wait(kScriptTimeout);
-    return {status, QString::fromUtf8(script.standardOutput()), QString::fromUtf8(script.standardError())};
+    return runProgram(QStringLiteral(HALVERN_TEST_SCRIPTS "/private-cups"), arguments,
+                      {{"HALVERN_PRINTER_BIN", HALVERN_TEST_PRINTER_BIN}});
 }
 
 std::map<QByteArray, QByteArray> parseAssignments(const QString& text)
@@ -47,13 +41,26 @@ std::map<QByteArray, QByteArray> parseAssignments(const QString& text)
     return found;
 }
 
+QStringList jobAttribute(int job, const char* name)
+{
+    ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    const std::unique_ptr<ipp_t, decltype(&ippDelete)> answer(
+        cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/jobs"), &ippDelete);
+    ipp_attribute_t* found = ippFindAttribute(answer.get(), name, IPP_TAG_ZERO);
+    QStringList values;
+    for (int i = 0; found && i < ippGetCount(found); ++i)
+        values.append(QString::fromUtf8(ippGetString(found, i, nullptr)));
+    return values;
+}
+
 PrivateCups::PrivateCups()
 {
-    const ScriptResult result = runPrivateCups({QStringLiteral("start"), dir()});
-    if (result.status != 0) {
-        error_ = result.error;
-        return;
-    }
+    const ProgramResult result = runPrivateCups({QStringLiteral("start"), dir()});
+    if (result.status != 0)
+        qFatal("the private print server does not start: %s", qPrintable(result.error));
     for (const auto& [name, value] : parseAssignments(result.output)) {
         saved_[name] = qEnvironmentVariableIsSet(name.constData()) ? std::optional(qgetenv(name.constData()))
                                                                    : std::nullopt;
@@ -75,7 +82,7 @@ bool PrivateCups::stop()
 {
     if (!running_)
         return true;
-    const ScriptResult result = runPrivateCups({QStringLiteral("stop"), dir()});
+    const ProgramResult result = runPrivateCups({QStringLiteral("stop"), dir()});
     running_ = false;
     error_ = result.error;
     return result.status == 0;
@@ -89,9 +96,15 @@ bool PrivateCups::addQueue(const QString& name, const QString& ppd, const QStrin
         arguments << QStringLiteral("--ppd") << ppd;
     if (!uri.isEmpty())
         arguments << QStringLiteral("--uri") << uri;
-    const ScriptResult result = runPrivateCups(arguments + more);
+    const ProgramResult result = runPrivateCups(arguments + more);
     error_ = result.error;
     return result.status == 0;
+}
+
+pid_t PrivateCups::process() const
+{
+    QFile file(dir() + QStringLiteral("/server/cupsd.pid"));
+    return file.open(QIODevice::ReadOnly) ? pid_t(file.readAll().split(' ').first().toInt()) : 0;
 }
 
 QString PrivateCups::dir() const

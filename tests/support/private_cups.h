@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/child_process.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -14,7 +16,7 @@ namespace halvern {
 /// process talks to: the one started last. Main thread only.
 class PrivateCups {
 public:
-    /// Starts the server. If that fails, isRunning() is false and error() has the script's words.
+    /// Starts the server; ends the test program with the script's words if that fails.
     PrivateCups();
 
     /// Stops the server and takes the environment back.
@@ -41,6 +43,9 @@ public:
     /// What options.txt of the job holds; nothing while the printer has not received the options.
     std::optional<std::map<QString, QString>> receivedOptions(int job) const;
 
+    /// The server's process; 0 if it does not run.
+    pid_t process() const;
+
     /// Ends the server before its time, as a failing one would; the object can then only be destroyed.
     bool stop();
 
@@ -51,14 +56,11 @@ private:
     bool running_ = false;
 };
 
-struct ScriptResult {
-    int status = -1;
-    QString output;
-    QString error;
-};
-
 /// Runs scripts/private-cups.
-ScriptResult runPrivateCups(const QStringList& arguments);
+ProgramResult runPrivateCups(const QStringList& arguments);
+
+/// What the server in use says of a job; nothing if it does not know the attribute.
+QStringList jobAttribute(int job, const char* name);
 
 /// The environment that `start` printed.
 std::map<QByteArray, QByteArray> parseAssignments(const QString& text);

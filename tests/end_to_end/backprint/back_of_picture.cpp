@@ -51,8 +51,7 @@ void BackOfPicture::SetUpTestSuite()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     qputenv("HOME", folder.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
-    server = std::make_unique<PrivateCups>();
-    ASSERT_TRUE(server->isRunning()) << qPrintable(server->error());
+    ServerTest::SetUpTestSuite();
     ASSERT_TRUE(server->addQueue(QStringLiteral("Tessarin"), {}, {}, {QStringLiteral("--default")}))
         << qPrintable(server->error());
     const QString plain = folder.filePath(QStringLiteral("plain.ppd"));
@@ -61,11 +60,6 @@ void BackOfPicture::SetUpTestSuite()
     QImage image(300, 200, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
     ASSERT_TRUE(image.save(photo()));
-}
-
-void BackOfPicture::TearDownTestSuite()
-{
-    server.reset();
 }
 
 std::optional<QString> BackOfPicture::received(int job, const char* key)

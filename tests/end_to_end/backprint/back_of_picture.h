@@ -1,20 +1,15 @@
 #pragma once
 
 #include "dialog/saved_options.h"
-#include "tests/support/private_cups.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "tests/support/server_test.h"
 
 namespace halvern {
 
 /// One print server with the virtual printer "Tessarin", and "Plain", which has no Backprint options, for all
 /// tests of a suite; and a photo to print.
-class BackOfPicture : public testing::Test {
+class BackOfPicture : public ServerTest {
 protected:
     static void SetUpTestSuite();
-    static void TearDownTestSuite();
 
     static OptionValue resolution() { return {QStringLiteral("Resolution"), QStringLiteral("360dpi")}; }
 
@@ -30,7 +25,6 @@ protected:
     /// without lines, that it put out no back at all.
     static void expectBack(int job, const QStringList& lines);
 
-    inline static std::unique_ptr<PrivateCups> server;
     inline static QTemporaryDir folder;
 };
 

@@ -4,21 +4,13 @@
 #include "tests/end_to_end/backprint/back_of_picture.h"
 #include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
+#include "tests/support/text.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QTest>
 
 namespace halvern {
-
-namespace {
-
-QString u(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
-} // namespace
 
 class BackprintInDialog : public BackOfPicture {
 protected:
@@ -57,12 +49,12 @@ TEST_F(BackprintInDialog, TypedLinesArriveByteForByteAndArePrintedAsTheyWereType
     };
 
     const Case cases[] = {
-        {{longestLine(), u("true")}, {longestLineStored(), u("true")}, {longestLine() + u(" "), u("true")}},
-        {{u("{[YYYY] Resolution=300dpi"), u("She \"said\"  'it\\'s', a=b \\")},
-         {u("{[YYYY] Resolution=300dpi"), u("She \"said\"  æit\\æsæ≤ a=b \\ ")},
-         {u("{[YYYY] Resolution=300dpi"), u("She \"said\"  'it\\'s', a=b \\ ")}},
+        {{longestLine(), q("true")}, {longestLineStored(), q("true")}, {longestLine() + q(" "), q("true")}},
+        {{q("{[YYYY] Resolution=300dpi"), q("She \"said\"  'it\\'s', a=b \\")},
+         {q("{[YYYY] Resolution=300dpi"), q("She \"said\"  æit\\æsæ≤ a=b \\ ")},
+         {q("{[YYYY] Resolution=300dpi"), q("She \"said\"  'it\\'s', a=b \\ ")}},
     };
-    open({u("Tessarin"), {resolution()}, {photo()}});
+    open({q("Tessarin"), {resolution()}, {photo()}});
     for (const Case& c : cases) {
         SCOPED_TRACE(qPrintable(c.typed[0]));
         for (int number : {2, 1})
@@ -71,88 +63,88 @@ TEST_F(BackprintInDialog, TypedLinesArriveByteForByteAndArePrintedAsTheyWereType
         const int job = print();
         EXPECT_EQ(received(job, "CVP1"), c.stored[0]);
         EXPECT_EQ(received(job, "CVP2"), c.stored[1]);
-        EXPECT_EQ(received(job, "EnableCVP1"), u("True"));
-        EXPECT_EQ(received(job, "Resolution"), u("360dpi"));
+        EXPECT_EQ(received(job, "EnableCVP1"), q("True"));
+        EXPECT_EQ(received(job, "Resolution"), q("360dpi"));
         expectBack(job, c.printed);
     }
 }
 
 TEST_F(BackprintInDialog, EmptyAndSwitchedOffLinesPrintNothing)
 {
-    open({u("Tessarin"), {resolution()}, {photo()}});
-    type(1, u(""));
+    open({q("Tessarin"), {resolution()}, {photo()}});
+    type(1, q(""));
     expectBack(print(), {});
-    type(1, u("not this one"));
-    type(2, u("only this one"));
+    type(1, q("not this one"));
+    type(2, q("only this one"));
     switchLine(1, false);
-    expectBack(print(), {u("only this one")});
+    expectBack(print(), {q("only this one")});
     switchLine(2, false);
     const int job = print();
-    EXPECT_EQ(received(job, "EnableCVP2"), u("False"));
-    EXPECT_EQ(received(job, "CVP2"), u("only this one"));
+    EXPECT_EQ(received(job, "EnableCVP2"), q("False"));
+    EXPECT_EQ(received(job, "CVP2"), q("only this one"));
     expectBack(job, {});
 }
 
 TEST_F(BackprintInDialog, WhatTheUserAndTheQueueHaveSavedIsShownAndPrinted)
 {
-    QFile saved(QFile::decodeName(qgetenv("CUPS_SERVERROOT")) + u("/lpoptions"));
+    QFile saved(QFile::decodeName(qgetenv("CUPS_SERVERROOT")) + q("/lpoptions"));
     ASSERT_TRUE(saved.open(QIODevice::WriteOnly));
     saved.write("Dest Tessarin EnableCVP1=True CVP1=Lisbon\\ 2024≤\\ day\\ 1 DebugLog=True\n");
     saved.close();
-    ASSERT_EQ(QProcess::execute(u("lpadmin"), {u("-p"), u("Tessarin"), u("-o"), u("CVP2-default=Queue")}), 0);
-    open({u("Tessarin"), {{u("EnableCVP2"), u("True")}, resolution()}, {photo()}});
-    EXPECT_EQ(line(1)->text(), u("Lisbon 2024, day 1"));
+    ASSERT_EQ(QProcess::execute(q("lpadmin"), {q("-p"), q("Tessarin"), q("-o"), q("CVP2-default=Queue")}), 0);
+    open({q("Tessarin"), {{q("EnableCVP2"), q("True")}, resolution()}, {photo()}});
+    EXPECT_EQ(line(1)->text(), q("Lisbon 2024, day 1"));
     EXPECT_TRUE(line(1)->isEnabled());
     int job = print();
-    EXPECT_EQ(received(job, "DebugLog"), u("True"));
-    expectBack(job, {u("Lisbon 2024, day 1"), u("Queue")});
+    EXPECT_EQ(received(job, "DebugLog"), q("True"));
+    expectBack(job, {q("Lisbon 2024, day 1"), q("Queue")});
     switchLine(1, false);
     job = print();
-    EXPECT_EQ(received(job, "EnableCVP1"), u("False")) << "the click is later than what was saved";
-    expectBack(job, {u("Queue")});
+    EXPECT_EQ(received(job, "EnableCVP1"), q("False")) << "the click is later than what was saved";
+    expectBack(job, {q("Queue")});
     EXPECT_TRUE(saved.remove());
-    ASSERT_EQ(QProcess::execute(u("lpadmin"), {u("-p"), u("Tessarin"), u("-R"), u("CVP2-default")}), 0);
+    ASSERT_EQ(QProcess::execute(q("lpadmin"), {q("-p"), q("Tessarin"), q("-R"), q("CVP2-default")}), 0);
 }
 
 TEST_F(BackprintInDialog, ALineGivenToTheProgramStandsInThePage)
 {
-    SessionRequest request{u("Tessarin"), {{u("TwoSided"), u("LongEdge")}, resolution()}, {photo()}};
-    request.backLines = {u("Smithæs≤ Inc.")};
+    SessionRequest request{q("Tessarin"), {{q("TwoSided"), q("LongEdge")}, resolution()}, {photo()}};
+    request.backLines = {q("Smithæs≤ Inc.")};
     open(request);
-    EXPECT_EQ(line(1)->text(), u("Smith's, Inc."));
+    EXPECT_EQ(line(1)->text(), q("Smith's, Inc."));
     EXPECT_TRUE(real->button(512)->isChecked());
     EXPECT_FALSE(real->button(513)->isChecked());
-    EXPECT_EQ(real->session.model()->value(u("TwoSided")), u("None")) << "a second picture would be there";
+    EXPECT_EQ(real->session.model()->value(q("TwoSided")), q("None")) << "a second picture would be there";
     line(1)->setFocus();
     QTest::keyClick(line(1), Qt::Key_End);
-    QTest::keyClicks(line(1), u(" '26"));
+    QTest::keyClicks(line(1), q(" '26"));
     real->session.undoLastChange();
-    EXPECT_EQ(real->session.model()->value(u("TwoSided")), u("LongEdge"));
+    EXPECT_EQ(real->session.model()->value(q("TwoSided")), q("LongEdge"));
     EXPECT_TRUE(waitUntil([&] { return !real->button(512)->isChecked(); }));
-    EXPECT_EQ(line(1)->text(), u("Smith's, Inc. '26")) << "undoing takes no typed text away";
+    EXPECT_EQ(line(1)->text(), q("Smith's, Inc. '26")) << "undoing takes no typed text away";
     switchLine(1, true);
-    expectBack(print(), {u("Smith's, Inc. '26")});
+    expectBack(print(), {q("Smith's, Inc. '26")});
 }
 
 TEST_F(BackprintInDialog, APrinterThatPrintsNoLinesSaysSoUntilAnotherIsChosen)
 {
-    SessionRequest request{u("Tessarin"), {resolution()}, {photo()}};
-    request.backLines = {u("text")};
+    SessionRequest request{q("Tessarin"), {resolution()}, {photo()}};
+    request.backLines = {q("text")};
     open(request);
-    type(2, u("gone with its printer"));
-    real->session.selectPrinter(u("Plain"));
+    type(2, q("gone with its printer"));
+    real->session.selectPrinter(q("Plain"));
     ASSERT_TRUE(waitUntil([&] { return real->session.canPrint(); }, 60));
-    EXPECT_TRUE(real->session.backLinesProblem().contains(u("Plain")));
+    EXPECT_TRUE(real->session.backLinesProblem().contains(q("Plain")));
     EXPECT_EQ(real->dialog.findChild<MessageBar*>()->text(), real->session.backLinesProblem());
-    real->session.selectPrinter(u("Tessarin"));
+    real->session.selectPrinter(q("Tessarin"));
     ASSERT_TRUE(waitUntil([&] { return real->session.canPrint(); }, 60));
     EXPECT_EQ(real->session.backLinesProblem(), QString());
     EXPECT_EQ(real->dialog.findChild<MessageBar*>()->text(), QString());
     ASSERT_TRUE(real->showPage("com.halvern.print.pde.cvp"));
-    EXPECT_EQ(line(1)->text(), u("text"));
+    EXPECT_EQ(line(1)->text(), q("text"));
     EXPECT_EQ(line(2)->text(), QString());
-    type(2, u("new"));
-    expectBack(print(), {u("text"), u("new")});
+    type(2, q("new"));
+    expectBack(print(), {q("text"), q("new")});
 }
 
 } // namespace halvern

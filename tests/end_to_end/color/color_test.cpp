@@ -4,6 +4,7 @@
 #include "dialog/preview_widget.h"
 #include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
+#include "tests/support/server_test.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -31,17 +32,14 @@ constexpr Typed kTyped[] = {
 
 } // namespace
 
-class ColorEndToEnd : public testing::Test {
+class ColorEndToEnd : public ServerTest {
 protected:
     static void SetUpTestSuite()
     {
         QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
-        server = std::make_unique<PrivateCups>();
-        ASSERT_TRUE(server->isRunning()) << qPrintable(server->error());
-        ASSERT_TRUE(server->addQueue(QStringLiteral("Tessarin"))) << qPrintable(server->error());
+        ServerTest::SetUpTestSuite();
+        addQueue("Tessarin");
     }
-
-    static void TearDownTestSuite() { server.reset(); }
 
     void SetUp() override
     {
@@ -59,7 +57,6 @@ protected:
 
     QImage page(int job) { return QImage(server->jobFile(job, QStringLiteral("page-1.png"))); }
 
-    static inline std::unique_ptr<PrivateCups> server;
     QTemporaryDir folder;
     PluginLoader panels{QStringList{QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).absolutePath()}};
     RealDialog dialog{

@@ -45,7 +45,6 @@ protected:
     {
         useBuiltBundle();
         qputenv("HALVERN_PLUGIN_PATH", QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).path().toUtf8());
-        ASSERT_TRUE(server.isRunning()) << qPrintable(server.error());
         ASSERT_TRUE(server.addQueue(QStringLiteral("Tessarin"))) << qPrintable(server.error());
         photo = folder.filePath(QStringLiteral("quarters.jpg"));
         ASSERT_TRUE(quarters().save(photo, "JPEG", 95));

@@ -1,11 +1,10 @@
 // halvern-print --list-papers as a process, on a real server.
 #include "dialog/paper_table.h"
 #include "platform/printing/jobs.h"
+#include "tests/support/files.h"
 #include "tests/support/observers.h"
 #include "tests/support/private_cups.h"
-
-#include <QFile>
-#include <QProcess>
+#include "tests/support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -15,44 +14,35 @@ namespace halvern {
 
 namespace {
 
-QString q(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
 class ListPapers : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(server.isRunning()) << qPrintable(server.error()); }
-
     void addQueue(const char* name, const char* faults, const QStringList& more = {})
     {
-        QFile list(server.dir() + q("/papers/%1.json").arg(q(name)));
-        ASSERT_TRUE(list.open(QIODevice::WriteOnly));
-        list.write(R"({"abilities": {"duplex": false, "extraFeatures": true}, "papers": [
+        writeFile(server.dir() + q("/papers/%1.json").arg(q(name)),
+                  R"({"abilities": {"duplex": false, "extraFeatures": true}, "papers": [
             {"sheet": "Gloss A4", "width": 210, "surface": 1, "resolutions": [610, 300], "tones": [2]},
             {"roll": 152.4, "surfaces": [2, 4], "resolutions": [610], "tones": [1, 6]}]})");
-        list.setPermissions(list.permissions() | QFileDevice::ReadOther);
         ASSERT_TRUE(
             server.addQueue(q(name), QString(), q("halvern://virtual/%1%2").arg(q(name), q(faults)), more))
             << qPrintable(server.error());
     }
 
-    void start(QProcess& program, const QStringList& arguments)
+    static void start(ChildProcess& program, const QStringList& arguments)
     {
         program.start(QStringLiteral(HALVERN_PRINT_PROGRAM), QStringList{q("--list-papers")} + arguments);
     }
 
-    int finish(QProcess& program)
+    int finish(ChildProcess& program)
     {
-        EXPECT_TRUE(program.waitForFinished(60000));
-        out = QString::fromUtf8(program.readAllStandardOutput());
-        err = QString::fromUtf8(program.readAllStandardError());
-        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+        const int status = program.wait();
+        out = QString::fromUtf8(program.standardOutput());
+        err = QString::fromUtf8(program.standardError());
+        return status;
     }
 
     int run(const QStringList& arguments)
     {
-        QProcess program;
+        ChildProcess program;
         start(program, arguments);
         return finish(program);
     }
@@ -119,7 +109,7 @@ TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
 TEST_F(ListPapers, ABusyPrinterIsNotAskedAndADyingServerEndsTheWaiting)
 {
     addQueue("Slow", "?slow=60");
-    QProcess first;
+    ChildProcess first;
     start(first, {q("--refresh")});
     ASSERT_TRUE(waitUntil([&] {
         const auto active = activeJobs("Slow");

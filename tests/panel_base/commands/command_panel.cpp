@@ -44,28 +44,10 @@ std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue)
     return makePanel<CommandPanel>(host);
 }
 
-void CommandTest::SetUpTestSuite()
-{
-    server = std::make_unique<PrivateCups>();
-    ASSERT_TRUE(server->isRunning()) << server->error().toStdString();
-}
-
-void CommandTest::TearDownTestSuite()
-{
-    server.reset();
-}
-
 void CommandTest::TearDown()
 {
     EXPECT_TRUE(waitForWorkQueues(20000));
     drainMainQueue();
-}
-
-void CommandTest::addQueue(const char* name, const char* faults, const QStringList& more)
-{
-    const QString uri = QStringLiteral("halvern://virtual/x?") + QLatin1StringView(faults);
-    ASSERT_TRUE(server->addQueue(QLatin1StringView(name), QString(), uri, more))
-        << server->error().toStdString();
 }
 
 int CommandTest::sendForeignJob(const char* queue)

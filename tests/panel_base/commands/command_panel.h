@@ -4,9 +4,7 @@
 #include "platform/printing/jobs.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/observers.h"
-#include "tests/support/private_cups.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/server_test.h"
 
 #include <atomic>
 
@@ -42,15 +40,10 @@ std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue);
 
 extern const QStringList kReportAndConfigure;
 
-/// One private server for a suite; each test adds queues of its own. After each test no watch is left.
-class CommandTest : public testing::Test {
+/// After each test no watch is left.
+class CommandTest : public ServerTest {
 protected:
-    static void SetUpTestSuite();
-    static void TearDownTestSuite();
     void TearDown() override;
-
-    /// Adds a queue whose printer has the faults of the query (printer/README.md).
-    static void addQueue(const char* name, const char* faults = "", const QStringList& more = {});
 
     /// A command job that is not the panel's.
     static int sendForeignJob(const char* queue);
@@ -66,7 +59,6 @@ protected:
     /// The only active job of the queue, once there is one.
     static int onlyJob(const char* queue);
 
-    static inline std::unique_ptr<PrivateCups> server;
     LogCapture log;
 };
 

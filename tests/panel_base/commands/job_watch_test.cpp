@@ -32,9 +32,17 @@ TEST(JobWatchTest, LooksAtTheFlagBeforeEachPollAndBailsOutWhenItIsSetOrMissing)
     EXPECT_EQ(watch.step(), Step::sleep);
     watch.slept(0);
     EXPECT_EQ(watch.step(), Step::lookAtUnloadFlag);
+    // Set and cleared between two polls, it was never set.
+    flag = true;
+    flag = false;
+    watch.looked(&flag);
+    EXPECT_EQ(watch.step(), Step::askForActiveJobs);
     flag = true;
     watch.looked(&flag);
     EXPECT_EQ(watch.step(), Step::bailOut);
+    JobWatch interrupted = watchOf({{kWatched, jobs::kProcessing}});
+    interrupted.slept(-1);
+    EXPECT_EQ(interrupted.step(), Step::reportAbort);
     JobWatch orphan(kWatched);
     orphan.looked(nullptr);
     EXPECT_EQ(orphan.step(), Step::bailOut);
@@ -72,15 +80,6 @@ TEST(JobWatchTest, AmongTheCompletedJobsOnlyTheCompletedIsASuccess)
         JobWatch watch = watchOf({});
         watch.gotCompletedJobs(completed);
         EXPECT_EQ(watch.step(), step) << completed.size();
-    }
-}
-
-TEST(JobWatchTest, AnInterruptedSleepEndsTheWatchWithTheStateAtHand)
-{
-    for (const int state : {jobs::kPending, jobs::kProcessing}) {
-        JobWatch watch = watchOf({{kWatched, state}});
-        watch.slept(-1);
-        EXPECT_EQ(watch.step(), Step::reportAbort) << state;
     }
 }
 

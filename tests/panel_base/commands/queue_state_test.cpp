@@ -2,7 +2,6 @@
 #include "tests/panel_base/commands/command_panel.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 
 #include <csignal>
 
@@ -47,10 +46,8 @@ TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
 
 TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsACallAfterItsTimeLimit)
 {
-    QFile pid(server->dir() + QStringLiteral("/server/cupsd.pid"));
-    ASSERT_TRUE(pid.open(QIODevice::ReadOnly));
-    const int process = pid.readLine().split(' ').first().trimmed().toInt();
-    ASSERT_GT(process, 0);
+    const pid_t process = server->process();
+    ASSERT_GT(process, 1);
     addQueue("Frozen", "slow=60");
     const int job = sendForeignJob("Frozen");
     jobs::Server impatient(1);
@@ -60,7 +57,7 @@ TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsACallAfterItsTimeLimit
     clock.start();
     EXPECT_TRUE(impatient.jobs(QStringLiteral("Frozen"), jobs::Which::active).isEmpty());
     EXPECT_LE(jobs::Server(1).createJob(QStringLiteral("Frozen"), QStringLiteral("t")), 0);
-    EXPECT_LT(clock.elapsed(), 20000);
+    EXPECT_LT(clock.elapsed(), 8000) << "two calls, each a second and once again";
     ASSERT_EQ(kill(process, SIGCONT), 0);
     // The same connection works again.
     EXPECT_TRUE(waitUntil([&] { return impatient.cancelAndPurge(QStringLiteral("Frozen"), job); }));

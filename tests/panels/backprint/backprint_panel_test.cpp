@@ -98,19 +98,6 @@ TEST_F(BackprintPanelTest, RestoreDefaultsShowsThePpdsLines)
     EXPECT_FALSE(line(1)->isEnabled());
 }
 
-TEST_F(BackprintPanelTest, AHostsRefusalBringsTheToggleBack)
-{
-    click(512);
-    ASSERT_FALSE(line(1)->isEnabled());
-    host->refusedKeys.insert(QStringLiteral("EnableCVP1"));
-    click(512);
-    EXPECT_TRUE(line(1)->isEnabled());
-    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("False"));
-    EXPECT_TRUE(waitUntil([&] { return !find<QCheckBox>(512)->isChecked(); }));
-    EXPECT_FALSE(line(1)->isEnabled());
-    EXPECT_EQ(beeps.count, 0);
-}
-
 TEST_F(BackprintPanelTest, AChangeFromOutsideIsShownUnswappedAndLeavesTypingAlone)
 {
     type(1, QStringLiteral("typed, still"));

@@ -92,11 +92,6 @@ void BackprintWindow::paste(int number, const QString& text)
     QTest::keyClick(line(number), Qt::Key_V, Qt::ControlModifier);
 }
 
-void BackprintWindow::endEditing(int number)
-{
-    QTest::keyClick(line(number), Qt::Key_Return);
-}
-
 void BackprintWindow::click(int tag)
 {
     auto* button = find<QAbstractButton>(tag);

@@ -40,7 +40,9 @@ protected:
 
     void type(int number, const QString& text);
     void paste(int number, const QString& text);
-    void endEditing(int number);
+
+    void endEditing(int number) { QTest::keyClick(line(number), Qt::Key_Return); }
+
     void click(int tag);
 
     BeepCounter beeps;

@@ -1,16 +1,10 @@
 #include "tests/panels/features/features_fixture.h"
 
 #include "platform/toolkit/control.h"
-#include "platform/toolkit/matrix.h"
-#include "platform/toolkit/stepper.h"
 
 #include <QApplication>
-#include <QHash>
 #include <QRadioButton>
 #include <QThread>
-
-#include <condition_variable>
-#include <mutex>
 
 namespace halvern {
 
@@ -57,113 +51,41 @@ PaperCatalogue catalogueOf(const QList<QVariantMap>& records)
     return catalogue;
 }
 
-namespace {
-
-struct PrinterState {
-    std::mutex mutex;
-    std::condition_variable changed;
-    QHash<QString, QString> attributes;
-    QByteArray archive;
-    QStringList commands;
-    bool holding = false;
-    int held = 0;
-};
-
-PrinterState& printerState()
-{
-    static PrinterState state;
-    return state;
-}
-
-} // namespace
-
 void TestPrinter::reset()
 {
     goOn();
-    const std::scoped_lock lock(printerState().mutex);
-    printerState().attributes = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
-                                 {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
-    printerState().archive.clear();
-    printerState().commands.clear();
+    locked([] {
+        attributes_ = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
+                       {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
+        archive_.clear();
+        commands_.clear();
+    });
 }
 
 void TestPrinter::say(const char* attribute, const char* value)
 {
-    const std::scoped_lock lock(printerState().mutex);
+    const std::scoped_lock lock(mutex_);
     if (value)
-        printerState().attributes.insert(QString::fromLatin1(attribute), QString::fromUtf8(value));
+        attributes_.insert(QString::fromLatin1(attribute), QString::fromUtf8(value));
     else
-        printerState().attributes.remove(QString::fromLatin1(attribute));
+        attributes_.remove(QString::fromLatin1(attribute));
 }
 
 std::optional<QString> TestPrinter::attribute(const QString& keyword)
 {
-    PrinterState& state = printerState();
-    std::unique_lock lock(state.mutex);
-    ++state.held;
+    std::unique_lock lock(mutex_);
+    ++held_;
     if (QThread::currentThread() != qApp->thread())
-        state.changed.wait(lock, [&] { return !state.holding; });
-    --state.held;
-    const auto found = state.attributes.constFind(keyword);
-    return found == state.attributes.constEnd() ? std::nullopt : std::optional<QString>(*found);
-}
-
-void TestPrinter::load(const QByteArray& archive)
-{
-    const std::scoped_lock lock(printerState().mutex);
-    printerState().archive = archive;
-}
-
-QByteArray TestPrinter::loaded()
-{
-    const std::scoped_lock lock(printerState().mutex);
-    return printerState().archive;
-}
-
-void TestPrinter::take(const QStringList& commands)
-{
-    const std::scoped_lock lock(printerState().mutex);
-    printerState().commands.append(commands.join(u','));
-}
-
-QStringList TestPrinter::taken()
-{
-    const std::scoped_lock lock(printerState().mutex);
-    return printerState().commands;
-}
-
-void TestPrinter::hold()
-{
-    const std::scoped_lock lock(printerState().mutex);
-    printerState().holding = true;
+        changed_.wait(lock, [] { return !isHolding_; });
+    --held_;
+    const auto found = attributes_.constFind(keyword);
+    return found == attributes_.constEnd() ? std::nullopt : std::optional<QString>(*found);
 }
 
 void TestPrinter::goOn()
 {
-    const std::scoped_lock lock(printerState().mutex);
-    printerState().holding = false;
-    printerState().changed.notify_all();
-}
-
-bool TestPrinter::isSomebodyHeld()
-{
-    const std::scoped_lock lock(printerState().mutex);
-    return printerState().held > 0;
-}
-
-std::optional<QString> FeaturesPanelWithPrinter::ppdValueForAttribute(const QString& attribute)
-{
-    return TestPrinter::attribute(attribute);
-}
-
-std::optional<QByteArray> FeaturesPanelWithPrinter::ppdSavedDataForAttribute(const QString&)
-{
-    return TestPrinter::loaded();
-}
-
-void FeaturesPanelWithPrinter::sendPrinterCommands(const QStringList& commands)
-{
-    TestPrinter::take(commands);
+    locked([] { isHolding_ = false; });
+    changed_.notify_all();
 }
 
 void FeaturesPanelTest::SetUp()
@@ -201,31 +123,6 @@ void FeaturesPanelTest::give(const PaperCatalogue& catalogue)
 {
     panel->setUnsortedPaper(std::make_shared<const PaperCatalogue>(catalogue));
     panel->updatePaperInfo(nullptr);
-}
-
-QWidget* FeaturesPanelTest::control(int tag) const
-{
-    return panel->view_controlForTag(nullptr, tag);
-}
-
-QComboBox* FeaturesPanelTest::menu(int tag) const
-{
-    return qobject_cast<QComboBox*>(control(tag));
-}
-
-Matrix* FeaturesPanelTest::surfaces() const
-{
-    return qobject_cast<Matrix*>(control(features::kSurfaceTag));
-}
-
-QLineEdit* FeaturesPanelTest::field(int tag) const
-{
-    return qobject_cast<QLineEdit*>(control(tag));
-}
-
-Stepper* FeaturesPanelTest::stepper(int tag) const
-{
-    return qobject_cast<Stepper*>(control(tag));
 }
 
 void FeaturesPanelTest::choose(int tag, const char* value)

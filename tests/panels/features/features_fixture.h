@@ -2,18 +2,21 @@
 
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
+#include "platform/toolkit/matrix.h"
+#include "platform/toolkit/stepper.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/observers.h"
 
 #include <QComboBox>
+#include <QHash>
 #include <QLineEdit>
 
 #include <gtest/gtest.h>
 
-namespace halvern {
+#include <condition_variable>
+#include <mutex>
 
-class Matrix;
-class Stepper;
+namespace halvern {
 
 /// A PPD with the options of the Features panel as the printer's own has them: the names and widths of papers
 /// are left to the catalogue, overspill and binding width to the host.
@@ -28,6 +31,12 @@ PaperCatalogue catalogueOf(const QList<QVariantMap>& records);
 /// A printer of the test's making: what it writes into its PPD, and what it is sent. One at a time, shared by
 /// all panels; any thread.
 class TestPrinter {
+    template <class Work> static auto locked(Work work)
+    {
+        const std::scoped_lock lock(mutex_);
+        return work();
+    }
+
 public:
     static void reset();
 
@@ -36,25 +45,64 @@ public:
     static std::optional<QString> attribute(const QString& keyword);
 
     /// The catalogue's bytes in the PPD.
-    static void load(const QByteArray& archive);
-    static QByteArray loaded();
+    static void load(const QByteArray& archive)
+    {
+        locked([&] { archive_ = archive; });
+    }
+
+    static QByteArray loaded()
+    {
+        return locked([] { return archive_; });
+    }
 
     /// The command jobs' commands, joined by commas.
-    static void take(const QStringList& commands);
-    static QStringList taken();
+    static void take(const QStringList& commands)
+    {
+        locked([&] { commands_.append(commands.join(u',')); });
+    }
+
+    static QStringList taken()
+    {
+        return locked([] { return commands_; });
+    }
 
     /// Holds up the reading of attributes, but for the main thread's, until it is let go on.
-    static void hold();
+    static void hold()
+    {
+        locked([] { isHolding_ = true; });
+    }
+
     static void goOn();
-    static bool isSomebodyHeld();
+
+    static bool isSomebodyHeld()
+    {
+        return locked([] { return held_ > 0; });
+    }
+
+private:
+    static inline std::mutex mutex_;
+    static inline std::condition_variable changed_;
+    static inline QHash<QString, QString> attributes_;
+    static inline QByteArray archive_;
+    static inline QStringList commands_;
+    static inline bool isHolding_ = false;
+    static inline int held_ = 0;
 };
 
 /// The panel with that printer instead of one behind a server.
 class FeaturesPanelWithPrinter : public RZFeaturesPDEHalvern {
 public:
-    std::optional<QString> ppdValueForAttribute(const QString& attribute) override;
-    std::optional<QByteArray> ppdSavedDataForAttribute(const QString& attribute) override;
-    void sendPrinterCommands(const QStringList& commands) override;
+    std::optional<QString> ppdValueForAttribute(const QString& attribute) override
+    {
+        return TestPrinter::attribute(attribute);
+    }
+
+    std::optional<QByteArray> ppdSavedDataForAttribute(const QString&) override
+    {
+        return TestPrinter::loaded();
+    }
+
+    void sendPrinterCommands(const QStringList& commands) override { TestPrinter::take(commands); }
 
     // What the rules work on, for the tests to look at and to set.
     QVariant choice(const char* key) const { return storedChoice(QString::fromLatin1(key)); }
@@ -80,11 +128,15 @@ protected:
     void show(const PaperCatalogue& catalogue);
     void give(const PaperCatalogue& catalogue);
 
-    QComboBox* menu(int tag) const;
-    Matrix* surfaces() const;
-    QLineEdit* field(int tag) const;
-    Stepper* stepper(int tag) const;
-    QWidget* control(int tag) const;
+    QWidget* control(int tag) const { return panel->view_controlForTag(nullptr, tag); }
+
+    QComboBox* menu(int tag) const { return qobject_cast<QComboBox*>(control(tag)); }
+
+    QLineEdit* field(int tag) const { return qobject_cast<QLineEdit*>(control(tag)); }
+
+    Matrix* surfaces() const { return qobject_cast<Matrix*>(control(features::kSurfaceTag)); }
+
+    Stepper* stepper(int tag) const { return qobject_cast<Stepper*>(control(tag)); }
 
     /// What the user does: opens the menu and takes the item with the represented object.
     void choose(int tag, const char* value);

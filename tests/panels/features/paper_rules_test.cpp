@@ -56,16 +56,6 @@ TEST_F(PaperRules, WithRollsOnlyTheSheetIsOutOfReach)
     EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kNameTag);
 }
 
-TEST_F(PaperRules, WithoutAnyPaperNeitherFeedCanBeChosen)
-{
-    make();
-    const BeepCounter beeps;
-    ASSERT_TRUE(panel->panelView());
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
-    EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
-    EXPECT_EQ(beeps.count, 0);
-}
-
 TEST_F(PaperRules, FollowAPrinterWhosePapersChangeUnderAnOpenPanel)
 {
     show(catalogueOf(kSheets));

@@ -28,7 +28,6 @@ TEST(ColorMatchingPanel, OffersThePpdsModesAndStoresTheOneThatTheUserPicks)
     useBuiltBundle(QStringLiteral("de_DE"));
     const auto host = std::make_shared<FakeHost>(matchingPpd());
     const auto panel = makePanel<RZColorMatchingPDEHalvern>(host);
-    EXPECT_EQ(panel->supportedPPDOptionKeys(), QStringList{QStringLiteral("AP_ColorMatchingMode")});
     EXPECT_EQ(panel->panelName(), QStringLiteral("Farbangleichung"));
     EXPECT_EQ(panel->panelKind(), QStringLiteral("com.halvern.print.pde.info"));
     panel->restoreValuesAndReturnError(nullptr);

@@ -2,8 +2,6 @@
 #include "tests/support/fake_host.h"
 #include "tests/support/observers.h"
 
-#include <QLabel>
-
 #include <gtest/gtest.h>
 
 namespace halvern {
@@ -56,6 +54,7 @@ TEST_F(CoverPagePanel, AsksForNoneWhenCreatedRestoredAndSaved)
     ask(QStringLiteral("standard"));
     const auto panel = makePanel<RZUnavailablePDEHalvern>(host);
     ASSERT_NE(panel, nullptr);
+    EXPECT_EQ(panel->panelKind(), QStringLiteral("com.apple.print.pde.CoverPageKind")) << "the system's own";
     const auto nowNone = [this] { return settings->values().value(kSheets) == QStringLiteral("None"); };
     EXPECT_TRUE(nowNone());
     ask(QStringLiteral("classified"));
@@ -109,20 +108,6 @@ TEST_F(CoverPagePanel, DoesNothingForAHostThatCannotCheckConstraints)
     ASSERT_NE(panel, nullptr);
     panel->saveValuesAndReturnError(nullptr);
     EXPECT_EQ(settings->writes, 0);
-}
-
-TEST_F(CoverPagePanel, StandsInForTheSystemsPanelAndExplainsItself)
-{
-    useBuiltBundle(QStringLiteral("de_DE"));
-    const auto panel = makePanel<RZUnavailablePDEHalvern>(host);
-    EXPECT_EQ(panel->panelKind(), QStringLiteral("com.apple.print.pde.CoverPageKind"));
-    EXPECT_EQ(panel->panelName(), QStringLiteral("Deckblatt"));
-    EXPECT_EQ(panel->supportedPPDOptionKeys(), QStringList{QStringLiteral("AP_CoverPage")});
-    EXPECT_FALSE(panel->ppdOptionKeyForTag(1));
-    panel->willShow();
-    const auto* text = panel->panelView()->findChild<QLabel*>();
-    ASSERT_NE(text, nullptr);
-    EXPECT_TRUE(text->text().startsWith(QStringLiteral("Dieser Drucker druckt kein Deckblatt")));
 }
 
 } // namespace

@@ -182,27 +182,23 @@ TEST_F(DistributedNotificationTest, ABusThatNeverAnswersHoldsUpNobody)
 
 TEST_F(DistributedNotificationTest, TheCommandLineToolPostsBothNotificationsAndExplainsFailure)
 {
-    const auto notify = [](const QStringList& arguments, QByteArray* errors = nullptr) {
-        ChildProcess tool;
-        tool.start(QStringLiteral(HALVERN_NOTIFY), arguments);
-        const int status = tool.wait();
-        if (errors)
-            *errors = tool.standardError();
-        return status;
+    const auto notify = [](const char* what) {
+        return runProgram(QStringLiteral(HALVERN_NOTIFY), {QString::fromLatin1(what), kUri});
     };
-    QByteArray errors;
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
-    EXPECT_EQ(notify({QStringLiteral("papers"), kUri}, &errors), 1);
-    EXPECT_TRUE(errors.contains("No such file or directory")) << errors.constData();
-    EXPECT_EQ(notify({QStringLiteral("paper"), kUri}, &errors), 2);
-    EXPECT_TRUE(errors.startsWith("Usage:"));
+    const ProgramResult unheard = notify("papers");
+    EXPECT_EQ(unheard.status, 1);
+    EXPECT_TRUE(unheard.error.contains(QStringLiteral("No such file or directory")));
+    const ProgramResult misspelt = notify("paper");
+    EXPECT_EQ(misspelt.status, 2);
+    EXPECT_TRUE(misspelt.error.startsWith(QStringLiteral("Usage:")));
 
     const PrivateBus bus;
     center.addObserver(&a, kNote, kUri, note("papers"));
     center.addObserver(&a, QStringLiteral("VLXPrinterInfoDidUpdateNotification"), kUri, note("info"));
     ASSERT_TRUE(connected());
-    EXPECT_EQ(notify({QStringLiteral("papers"), kUri}), 0);
-    EXPECT_EQ(notify({QStringLiteral("info"), kUri}), 0);
+    EXPECT_EQ(notify("papers").status, 0);
+    EXPECT_EQ(notify("info").status, 0);
     flush();
     EXPECT_EQ(received, (QStringList{QStringLiteral("papers ") + kNote + QLatin1Char(' ') + kUri,
                                      QStringLiteral("info VLXPrinterInfoDidUpdateNotification ") + kUri}));

@@ -5,13 +5,13 @@
 #include "printer/papers/paper_list.h"
 #include "printer/papers/ppd_archive.h"
 #include "printer/papers/ppd_catalogue.h"
+#include "tests/support/child_process.h"
+#include "tests/support/files.h"
 
 #include <QBuffer>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
-#include <cups/cups.h>
 #include <gtest/gtest.h>
 
 namespace halvern {
@@ -32,24 +32,14 @@ const QByteArray kPpd = "*PPD-Adobe: \"4.3\"\n"
                         "*VLXPapersKnownBest: \"kept\"\n"
                         "*Last: \"without an end of line\"";
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
-}
-
 QByteArray standardList()
 {
-    return contentOf(QStringLiteral(HALVERN_PAPER_LISTS "/standard.json"));
+    return readFile(QStringLiteral(HALVERN_PAPER_LISTS "/standard.json"));
 }
 
 QString written(const QTemporaryDir& folder, const char* name, const QByteArray& content)
 {
-    const QString path = folder.filePath(QString::fromLatin1(name));
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    return path;
+    return writeFile(folder.filePath(QString::fromLatin1(name)), content);
 }
 
 PaperList listOf(const QByteArray& json)
@@ -72,18 +62,9 @@ QByteArray jsonOf(const QVariantMap& catalogue)
     return buffer.data();
 }
 
-struct Finished {
-    int status;
-    QByteArray output;
-    QByteArray errors;
-};
-
-Finished run(const QStringList& arguments)
+ProgramResult run(const QStringList& arguments)
 {
-    QProcess process;
-    process.start(QStringLiteral(HALVERN_PAPERS), arguments);
-    EXPECT_TRUE(process.waitForFinished());
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return runProgram(QStringLiteral(HALVERN_PAPERS), arguments);
 }
 
 } // namespace
@@ -117,26 +98,22 @@ TEST(PaperListTest, FaultsAreNamedWithTheirPlaceAndARemedy)
         {R"({"papers": []})", "papers: give a list of papers with at least one, or a map of records by key"},
         {R"([{"name": "A4"}])",
          "papers[0]: give each paper either \"sheet\" with its name or \"roll\" with its width"},
-        {R"([{"sheet": "A", "resolutions": [300], "color": 1}])",
-         "papers[0]: \"color\" is not known here; use sheet, width, surface, resolutions, tones, note"},
         {R"([{"sheet": "", "resolutions": [300]}])",
          "papers[0].sheet: give the paper's name, a text that is not empty"},
-        {R"([{"sheet": "A"}])", "papers[0].resolutions: give a list, such as [300, 610]"},
+        {R"([{"roll": 152, "surfaces": [1], "resolutions": [300], "tones": 3}])",
+         "papers[0].tones: give a list of tones, such as [1, 2], or leave it out"},
+        {R"({"w1s1r1": 5})", "w1s1r1: give a record, such as {\"paperWidth\": 1524}"},
+        {R"([{"sheet": "A", "resolutions": [300], "color": 1}])",
+         "papers[0]: \"color\" is not known here; use sheet, width, surface, resolutions, tones, note"},
         {R"([{"roll": 152.45, "surfaces": [1], "resolutions": [300]}])",
          "papers[0].roll: give millimetres with at most one decimal place, such as 152.4"},
-        {R"([{"roll": 152, "surfaces": [1, "x"], "resolutions": [300]}])",
-         "papers[0].surfaces[1]: give a surface code, such as 1"},
         {R"([{"roll": 152, "surfaces": [1], "resolutions": [300, 300.4]}])",
          "papers[0].resolutions[1]: makes the record \"w1520s1r300\" once more; papers[0].resolutions[0] has "
          "made it "
          "already. Take one out"},
         {R"([{"roll": 152, "surfaces": [1], "resolutions": [300], "tones": [33]}])",
          "papers[0].tones[0]: give a tone from 1 to 32"},
-        {R"([{"roll": 152, "surfaces": [1], "resolutions": [300], "tones": 3}])",
-         "papers[0].tones: give a list of tones, such as [1, 2], or leave it out"},
         {R"({"papers": {}, "abilities": {"duplex": 1}})", "abilities.duplex: give true or false"},
-        {R"({"papers": {}, "ability": {}})", "\"ability\" is not known here; use abilities, papers"},
-        {R"({"w1s1r1": 5})", "w1s1r1: give a record, such as {\"paperWidth\": 1524}"},
         {R"({"w1s1r1": {"paperWidth": -1}})", "w1s1r1.paperWidth: give a number that is not below zero"},
     };
 
@@ -204,36 +181,20 @@ TEST(PaperPpdTest, EverythingElseInThePpdStaysAsItWas)
               "*PPD-Adobe: \"4.3\"\n" + ppdLines(attributes) + "*After: \"x\"\n");
 }
 
-TEST(PaperPpdTest, AFilterReportsTheSameAttributes)
-{
-    const QList<PpdAttribute> attributes = attributesOf(listOf(standardList()));
-    const QList<QByteArray> lines = filterLines(attributes).trimmed().split('\n');
-    ASSERT_EQ(lines.size(), attributes.size());
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        ASSERT_TRUE(lines[i].startsWith("PPD: "));
-        cups_option_t* options = nullptr;
-        const int count = cupsParseOptions(lines[i].constData() + 5, 0, &options);
-        const char* value = cupsGetOption(attributes[i].keyword.constData(), count, options);
-        EXPECT_EQ(count, 1);
-        EXPECT_STREQ(value, attributes[i].value.constData());
-        cupsFreeOptions(count, options);
-    }
-}
-
 TEST(PapersProgramTest, PacksIntoAPpdAndShowsWhatIsThere)
 {
     const QTemporaryDir folder;
     const QString ppd = written(folder, "queue.ppd", kPpd);
     QFile::setPermissions(ppd, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     const auto permissions = QFile::permissions(ppd);
-    const Finished packed = run(
+    const ProgramResult packed = run(
         {QStringLiteral("pack"), written(folder, "papers.json", kTwoPapers), QStringLiteral("--ppd"), ppd});
-    EXPECT_EQ(packed.status, 0) << packed.errors.constData();
-    EXPECT_EQ(packed.output, QByteArray());
+    EXPECT_EQ(packed.status, 0) << qPrintable(packed.error);
+    EXPECT_EQ(packed.output, QString());
     EXPECT_EQ(QFile::permissions(ppd), permissions);
-    const Finished shown = run({QStringLiteral("show"), ppd});
+    const ProgramResult shown = run({QStringLiteral("show"), ppd});
     EXPECT_EQ(shown.status, 0);
-    EXPECT_EQ(shown.output, jsonOf(listOf(kTwoPapers).records));
+    EXPECT_EQ(shown.output.toUtf8(), jsonOf(listOf(kTwoPapers).records));
 }
 
 TEST(PapersProgramTest, ACorruptCatalogueEndsInStatusOne)
@@ -247,35 +208,11 @@ TEST(PapersProgramTest, ACorruptCatalogueEndsInStatusOne)
     for (const QString& path :
          {written(folder, "cut.plist", cut), written(folder, "cut.ppd", ppd(cut.toBase64().first(200))),
           written(folder, "no-base64.ppd", ppd("!?"))}) {
-        const Finished shown = run({QStringLiteral("show"), path});
+        const ProgramResult shown = run({QStringLiteral("show"), path});
         EXPECT_EQ(shown.status, 1);
-        EXPECT_EQ(shown.output, QByteArray());
-        EXPECT_TRUE(shown.errors.startsWith("corrupt: ")) << shown.errors.constData();
+        EXPECT_EQ(shown.output, QString());
+        EXPECT_TRUE(shown.error.startsWith(QStringLiteral("corrupt: "))) << qPrintable(shown.error);
     }
-}
-
-TEST(PapersProgramTest, PapersAreTakenOutOfAListAndLoadedFromAnother)
-{
-    const QTemporaryDir folder;
-    const QString json = written(folder, "papers.json", kTwoPapers);
-    const QString stock = QStringLiteral(HALVERN_PAPER_LISTS "/standard.json");
-    const auto keys = [&] { return QStringList(listOf(contentOf(json)).records.keys()); };
-    const QString out = QStringLiteral("take-out");
-    const QString load = QStringLiteral("load");
-
-    EXPECT_EQ(run({out, json, QStringLiteral("sheets")}).status, 0);
-    EXPECT_EQ(keys(), (QStringList{QStringLiteral("w1524s1r300"), QStringLiteral("w1524s3r300")}));
-    // The roll that is there makes way for the stock's; what was not named in the change stays.
-    EXPECT_EQ(run({load, json, QStringLiteral("152.4"), QStringLiteral("Matte A5"), QStringLiteral("--stock"),
-                   stock})
-                  .status,
-              0);
-    EXPECT_EQ(keys().filter(QStringLiteral("w1524")).size(), 8);
-    EXPECT_EQ(keys().filter(QStringLiteral("Matte A5-r")).size(), 4);
-    EXPECT_EQ(run({out, json, QStringLiteral("all")}).status, 0);
-    EXPECT_EQ(keys(), QStringList());
-    EXPECT_EQ(run({load, json, QStringLiteral("rolls"), QStringLiteral("--stock"), stock}).status, 0);
-    EXPECT_FALSE(keys().isEmpty());
 }
 
 TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
@@ -293,8 +230,8 @@ TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
         const char* words;
     } cases[] = {
         {{}, 2, "--help"},
-        {{pack, json, QStringLiteral("--pdp"), text}, 2, "pdp"},
         {{pack, json, ppd, text, QStringLiteral("--archive")}, 2, "one of --ppd"},
+        {{pack, json, QStringLiteral("--pdp"), text}, 2, "pdp"},
         {{pack, folder.filePath(QStringLiteral("none.json"))}, 1, "No such file"},
         {{QStringLiteral("take-out"), json, QStringLiteral("127")}, 1, "no paper \"127\" is loaded"},
         {{QStringLiteral("load"), json, QStringLiteral("127")}, 2, "--stock"},
@@ -303,18 +240,17 @@ TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
          "has no paper"},
         {{pack, text}, 1, "line 1, near column 1: this is not JSON"},
         {{pack, json, ppd, text}, 1, "is not a PPD file"},
-        {{pack, json, ppd, folder.filePath(QStringLiteral("none.ppd"))}, 1, "No such file"},
         {{show, written(folder, "bare.ppd", kPpd)}, 1, "holds no papers"},
         {{show, written(folder, "broken.ppd", "*PPD-Adobe: \"4.3\"\n" + QByteArray(300, 'x'))}, 1, "line 2"},
     };
 
     for (const auto& mistake : cases) {
-        const Finished finished = run(mistake.arguments);
+        const ProgramResult finished = run(mistake.arguments);
         EXPECT_EQ(finished.status, mistake.status);
-        EXPECT_TRUE(finished.errors.contains(mistake.words)) << finished.errors.constData();
-        EXPECT_EQ(finished.output, QByteArray());
+        EXPECT_TRUE(finished.error.contains(QLatin1StringView(mistake.words))) << qPrintable(finished.error);
+        EXPECT_EQ(finished.output, QString());
     }
-    EXPECT_EQ(contentOf(text), QByteArray("hello"));
+    EXPECT_EQ(readFile(text), QByteArray("hello"));
 }
 
 } // namespace halvern

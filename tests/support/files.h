@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace halvern {
+
+/// Writes a file that everybody may read, and the folders that it lies in; ends the test program if that
+/// cannot be done. Answers the path.
+QString writeFile(const QString& path, const QByteArray& content);
+
+/// The file's content; a failed test if it cannot be read.
+QByteArray readFile(const QString& path);
+
+} // namespace halvern
