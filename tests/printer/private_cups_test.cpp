@@ -13,16 +13,18 @@ namespace halvern {
 
 namespace {
 
-// Living processes that carry the jobs folder in their environment or DIR in their command line.
+QByteArray contentOf(const QString& pid, const char* name)
+{
+    QFile file(QStringLiteral("/proc/%1/%2").arg(pid, QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Living processes that carry DIR in their command line.
 QStringList processesOf(const QString& dir)
 {
     QStringList found;
     for (const QString& pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-        const auto content = [&pid](const char* name) {
-            QFile file(QStringLiteral("/proc/%1/%2").arg(pid, QLatin1String(name)));
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        };
-        if (content("cmdline").contains(dir.toUtf8() + "/server/etc"))
+        if (contentOf(pid, "cmdline").contains(dir.toUtf8() + "/server/etc"))
             found << pid;
     }
     return found;
@@ -61,13 +63,18 @@ QStringList queuesAt(const QByteArray& server)
 TEST(PrivateCupsScript, StartsOnceStopsWhollyAndKeepsTheQueues)
 {
     const QTemporaryDir folder;
+    qputenv("DISPLAY", ":77");
     const ProgramResult first = runPrivateCups(start(folder.path()));
+    qunsetenv("DISPLAY");
     ASSERT_EQ(first.status, 0) << first.error.toStdString();
     const auto environment = parseAssignments(first.output);
     EXPECT_EQ(first.output.count(QLatin1Char('\n')), qsizetype(environment.size())) << "only assignments";
     const QString files = serverFolder(environment);
     const QStringList before = processesOf(files);
     EXPECT_EQ(before.size(), 2);
+    for (const QString& pid : before)
+        EXPECT_FALSE(contentOf(pid, "environ").contains("DISPLAY=:77"))
+            << "it would look for a session there";
     EXPECT_EQ(runPrivateCups(addQueue(folder.path(), QStringLiteral("Kept"))).status, 0);
 
     const ProgramResult second = runPrivateCups(start(folder.path()));

@@ -100,6 +100,12 @@ void ChildProcess::kill()
     wait();
 }
 
+void ChildProcess::signal(int number) const
+{
+    if (pid_ > 0)
+        ::kill(pid_, number);
+}
+
 QByteArray ChildProcess::standardOutput() const
 {
     return contentOf(output_);

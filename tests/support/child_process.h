@@ -30,6 +30,9 @@ public:
 
     void kill();
 
+    /// Sends it a signal, if it still runs.
+    void signal(int number) const;
+
     QByteArray standardOutput() const;
     QByteArray standardError() const;
 

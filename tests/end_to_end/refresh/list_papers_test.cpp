@@ -125,19 +125,18 @@ TEST_F(ListPapers, ABusyPrinterIsNotAskedAndADyingServerEndsTheWaiting)
 TEST_F(ListPapers, ASignalEndsItAtOnceAndTakesTheJobBackAndLostOutputIsNoSuccess)
 {
     addQueue("Slow", "?slow=60");
-    QProcess program;
+    ChildProcess program;
     start(program, {q("--refresh")});
     ASSERT_TRUE(waitUntil([] { return activeJobs("Slow").size() == 1; }));
-    ASSERT_EQ(::kill(pid_t(program.processId()), SIGTERM), 0);
+    program.signal(SIGTERM);
     EXPECT_EQ(finish(program), 1);
     EXPECT_EQ(out, QString());
     EXPECT_TRUE(waitUntil([] { return activeJobs("Slow").isEmpty(); }));
 
-    QProcess full;
-    full.setStandardOutputFile(q("/dev/full"));
-    start(full, {});
-    EXPECT_EQ(finish(full), 1);
-    EXPECT_TRUE(err.contains(q("could not be written"))) << qPrintable(err);
+    const ProgramResult full = runProgram(
+        q("sh"), {q("-c"), q("exec \"$0\" --list-papers >/dev/full"), QStringLiteral(HALVERN_PRINT_PROGRAM)});
+    EXPECT_EQ(full.status, 1);
+    EXPECT_TRUE(full.error.contains(q("could not be written"))) << qPrintable(full.error);
 }
 
 TEST(PaperTable, KeepsItsColumnsWithNamesOfWideCharacters)

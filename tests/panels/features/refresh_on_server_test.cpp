@@ -65,7 +65,8 @@ protected:
         ASSERT_TRUE(waitUntil([] { return DistributedNotificationCenter::defaultCenter().isConnected(); }));
         ChildProcess script;
         ASSERT_TRUE(script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/printer-papers"),
-                                 QStringList{server.dir(), QStringLiteral("Photo")} + arguments));
+                                 QStringList{server.dir(), QStringLiteral("Photo")} + arguments,
+                                 {{"HALVERN_PAPERS", HALVERN_PAPERS_TOOL}}));
         ASSERT_EQ(script.wait(), 0) << script.standardError().constData();
     }
 
