@@ -202,6 +202,7 @@ private:
     QComboBox* popup(int tag);
     void forceChoice(const QVariant& choice, const QString& key);
     void setAvailable(int tag, bool available, const char* why);
+    bool isFeedItemAvailable(QLatin1StringView feed);
     void setFeedItemAvailable(QLatin1StringView feed, bool available, const char* why);
 
     void chooseName(const QStringList& names);

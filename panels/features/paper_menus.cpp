@@ -60,11 +60,14 @@ void RZFeaturesPDEHalvern::fillNameMenu(const QStringList& names, bool hasNames)
 void RZFeaturesPDEHalvern::chooseName(const QStringList& names)
 {
     const QString key = QStringLiteral("PaperName");
-    if (chooseNameIfListed(printSystemValueForKey(key)))
-        return;
     const std::optional<QString> ofPpd = cupsOptionValueForKey(key);
-    if (chooseNameIfListed(ofPpd ? QVariant(*ofPpd) : QVariant()))
+    if (chooseNameIfListed(printSystemValueForKey(key)) ||
+        chooseNameIfListed(ofPpd ? QVariant(*ofPpd) : QVariant())) {
+        // Not made available, but no longer for want of sheets.
+        if (!isFeedItemAvailable(kSheet))
+            setFeedItemAvailable(kSheet, false, reasons::kSheetFeedNotOffered);
         return;
+    }
     markChoice_forPPDOptionKey_fromSender(names.first(), key, popup(features::kNameTag));
     // The only place that makes the sheet feed available again.
     setFeedItemAvailable(kSheet, true, nullptr);
@@ -117,6 +120,12 @@ void RZFeaturesPDEHalvern::setFeedItemAvailable(QLatin1StringView feed, bool ava
                           why ? localized(QString::fromUtf8(why)) : QString());
 }
 
+bool RZFeaturesPDEHalvern::isFeedItemAvailable(QLatin1StringView feed)
+{
+    const QComboBox* menu = popup(features::kFeedTag);
+    return control::isItemEnabled(menu, control::indexOfItemWithRepresentedObject(menu, QString(feed)));
+}
+
 void RZFeaturesPDEHalvern::setAvailable(int tag, bool available, const char* why)
 {
     availability::setControl(view_controlForTag(nullptr, tag), available,
@@ -129,7 +138,9 @@ void RZFeaturesPDEHalvern::enableControlsForPaperFeed()
     // Nobody is told to choose a feed that cannot be chosen.
     const bool hasSheets = _sortedPaper && !_sortedPaper->names.isEmpty();
     const bool hasRolls = _sortedPaper && !_sortedPaper->widths.isEmpty();
-    setAvailable(features::kNameTag, sheet, hasSheets ? reasons::kNeedsSheetFeed : reasons::kNoSheets);
+    const char* whyNoSheet =
+        isFeedItemAvailable(kSheet) ? reasons::kNeedsSheetFeed : reasons::kSheetFeedNotOffered;
+    setAvailable(features::kNameTag, sheet, hasSheets ? whyNoSheet : reasons::kNoSheets);
     for (const int tag : {features::kOverspillTag, features::kOverspillStepperTag, features::kWidthTag,
                           features::kSurfaceTag})
         setAvailable(tag, !sheet, hasRolls ? reasons::kNeedsRollFeed : reasons::kNoRolls);

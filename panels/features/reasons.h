@@ -4,6 +4,7 @@
 namespace halvern::reasons {
 
 inline constexpr char kNoSheets[] = "The printer has no cut sheets loaded.";
+inline constexpr char kSheetFeedNotOffered[] = "The sheet feed was not available when this page was made.";
 inline constexpr char kNoRolls[] = "The printer has no paper roll loaded.";
 inline constexpr char kNeedsSheetFeed[] = "Only for cut sheets. Choose the sheet feed first.";
 inline constexpr char kNeedsRollFeed[] = "Only for paper rolls. Choose the roll feed first.";

@@ -83,8 +83,11 @@ int pack(const QString& source, const QCommandLineParser& options)
     const PaperListResult papers = readPaperList(*json);
     if (!papers.list)
         return complain(QStringLiteral("%1: %2").arg(source, papers.failure));
+    const QByteArray archive = archiveOfCatalogue(papers.list->records);
+    if (const QString failure = KeyedUnarchiver::unarchiveDictionary(archive).failure; !failure.isEmpty())
+        return complain(QStringLiteral("%1: no dialog would read what this packs (%2)").arg(source, failure));
     if (options.isSet(QStringLiteral("archive")))
-        return writeOut(archiveOfCatalogue(papers.list->records));
+        return writeOut(archive);
     const QList<PpdAttribute> attributes = attributesOf(*papers.list);
     if (options.isSet(QStringLiteral("filter-lines")))
         return writeOut(filterLines(attributes));

@@ -107,6 +107,9 @@ PaperList PaperListReader::read(const QJsonDocument& document)
                     QString()};
     const Place papers = document.isArray() ? Place{top.value, QStringLiteral("papers")}
                                             : top.member(QStringLiteral("papers"));
+    if (const Place abilities = top.member(QStringLiteral("abilities"));
+        document.isObject() && !papers.isGiven() && abilities.isGiven())
+        abilities.fail(QStringLiteral("give the papers too, as \"papers\""));
     if (!papers.isGiven() || papers.value.isObject()) {
         readRecords(papers.isGiven() ? papers : top);
     } else {

@@ -144,6 +144,10 @@
         <translation>nie</translation>
     </message>
     <message>
+        <source>The sheet feed was not available when this page was made.</source>
+        <translation>Die Einzelblattzufuhr stand nicht zur Verfügung, als diese Seite angelegt wurde.</translation>
+    </message>
+    <message>
         <source>The printer has no cut sheets loaded.</source>
         <translation>Im Drucker liegen keine Einzelblätter.</translation>
     </message>

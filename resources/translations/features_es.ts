@@ -144,6 +144,10 @@
         <translation>nunca</translation>
     </message>
     <message>
+        <source>The sheet feed was not available when this page was made.</source>
+        <translation>La alimentación de hojas no estaba disponible cuando se creó esta página.</translation>
+    </message>
+    <message>
         <source>The printer has no cut sheets loaded.</source>
         <translation>La impresora no tiene hojas cargadas.</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>jamais</translation>
     </message>
     <message>
+        <source>The sheet feed was not available when this page was made.</source>
+        <translation>L’alimentation en feuilles n’était pas disponible quand cette page a été créée.</translation>
+    </message>
+    <message>
         <source>The printer has no cut sheets loaded.</source>
         <translation>L’imprimante ne contient pas de feuilles.</translation>
     </message>

@@ -144,6 +144,10 @@
         <translation>なし</translation>
     </message>
     <message>
+        <source>The sheet feed was not available when this page was made.</source>
+        <translation>このページの作成時にカット紙給紙は使用できませんでした。</translation>
+    </message>
+    <message>
         <source>The printer has no cut sheets loaded.</source>
         <translation>プリンターにカット紙がセットされていません。</translation>
     </message>

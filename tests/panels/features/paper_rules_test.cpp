@@ -100,6 +100,8 @@ TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
     EXPECT_TRUE(asked("PaperName").isEmpty());
     // Before there was a catalogue there were no sheets; only the fallback below takes that back.
     EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
+    panel->store("PaperFeed", "Roll");
+    EXPECT_TRUE(menu(kNameTag)->accessibleDescription().startsWith(QStringLiteral("The sheet feed was not")));
 
     make(ppd);
     host->settings->setValue(QStringLiteral("PaperName"), QStringLiteral("Unloaded"), false);

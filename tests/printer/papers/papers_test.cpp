@@ -114,6 +114,7 @@ TEST(PaperListTest, FaultsAreNamedWithTheirPlaceAndARemedy)
         {R"([{"roll": 152, "surfaces": [1], "resolutions": [300], "tones": [33]}])",
          "papers[0].tones[0]: give a tone from 1 to 32"},
         {R"({"papers": {}, "abilities": {"duplex": 1}})", "abilities.duplex: give true or false"},
+        {R"({"abilities": {"duplex": true}})", "abilities: give the papers too, as \"papers\""},
         {R"({"w1s1r1": {"paperWidth": -1}})", "w1s1r1.paperWidth: give a number that is not below zero"},
     };
 
@@ -240,6 +241,10 @@ TEST(PapersProgramTest, MistakesAreExplainedAndChangeNothing)
          "has no paper"},
         {{pack, text}, 1, "line 1, near column 1: this is not JSON"},
         {{pack, json, ppd, text}, 1, "is not a PPD file"},
+        {{pack, written(folder, "deep.json",
+                        "{\"w\": {\"l\": " + QByteArray(70, '[') + QByteArray(70, ']') + "}}")},
+         1,
+         "no dialog would read"},
         {{show, written(folder, "bare.ppd", kPpd)}, 1, "holds no papers"},
         {{show, written(folder, "broken.ppd", "*PPD-Adobe: \"4.3\"\n" + QByteArray(300, 'x'))}, 1, "line 2"},
     };
