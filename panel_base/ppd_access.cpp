@@ -31,14 +31,7 @@ std::optional<QString> KSTRVLBasePDEHalvern::destinationName()
 std::optional<QByteArray> KSTRVLBasePDEHalvern::ppdSavedDataForAttribute_forPPD(const QString& attribute,
                                                                                 ppd_file_t* file)
 {
-    QByteArray text;
-    for (uint serial = 0;; ++serial) {
-        const QString keyword = attribute + QString::asprintf("%05x", serial);
-        const std::optional<QString> piece = ppd::attribute(file, keyword);
-        if (!piece || piece->isEmpty())
-            break;
-        text += piece->toUtf8();
-    }
+    const QByteArray text = ppd::attributeRun(file, attribute);
     if (text.isEmpty())
         return std::nullopt;
     return ppd::decodeBase64(text);

@@ -124,6 +124,17 @@ std::optional<QString> attribute(ppd_file_t* file, const QString& keyword)
     return QString::fromUtf8(found->value);
 }
 
+QByteArray attributeRun(ppd_file_t* file, const QString& keyword)
+{
+    QByteArray text;
+    for (uint serial = 0;; ++serial) {
+        const std::optional<QString> piece = attribute(file, keyword + QString::asprintf("%05x", serial));
+        if (!piece || piece->isEmpty())
+            return text;
+        text += piece->toUtf8();
+    }
+}
+
 std::optional<QString> defaultChoice(ppd_file_t* file, const QString& option)
 {
     if (!file)

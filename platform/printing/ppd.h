@@ -31,9 +31,13 @@ File open(const QString& path, QString* why = nullptr);
 /// The answer is the path of a temporary file that the caller removes; nothing if it cannot be had.
 std::optional<QString> fetch(const QString& destination);
 
-/// The value of the first attribute with the keyword, whatever its spec; nothing if there is none or it has
-/// no value. `file` may be null.
+/// The value of the first attribute with the keyword, whatever option keyword follows it; nothing if there is
+/// none or it has no value. `file` may be null.
 std::optional<QString> attribute(ppd_file_t* file, const QString& keyword);
+
+/// The values of a run of attributes, joined: KEYWORD00000, KEYWORD00001 and so on in five hexadecimal
+/// digits, up to the first that is missing or empty. `file` may be null.
+QByteArray attributeRun(ppd_file_t* file, const QString& keyword);
 
 struct Choice {
     QString keyword;

@@ -1,6 +1,5 @@
 #include "panels/features/inquiry/loaded_papers.h"
 
-#include "panel_base/base_panel.h"
 #include "panels/features/paper_index.h"
 #include "panels/features/refresh_date.h"
 #include "panels/features/tone_mask.h"
@@ -59,10 +58,14 @@ LoadedPapers readLoadedPapers(ppd_file_t* file)
     LoadedPapers loaded;
     if (const auto stamp = ppd::attribute(file, QStringLiteral("VLXTimeStamp")))
         loaded.lastUpdate = dateOfTimeStamp(*stamp);
-    const auto data = std::make_shared<KSTRVLBasePDEHalvern>()->ppdSavedDataForAttribute_forPPD(
-        QStringLiteral("VLXPapersKnown"), file);
-    if (!data || data->isEmpty())
+    const QByteArray run = ppd::attributeRun(file, QStringLiteral("VLXPapersKnown"));
+    if (run.isEmpty())
         return loaded;
+    const std::optional<QByteArray> data = ppd::decodeBase64(run);
+    if (!data) {
+        loaded.corrupt = QStringLiteral("corrupt: it is not base64");
+        return loaded;
+    }
     const KeyedUnarchiver::Result result = KeyedUnarchiver::unarchiveDictionary(*data);
     loaded.corrupt = result.failure;
     if (!result.root)
