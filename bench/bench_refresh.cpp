@@ -6,7 +6,6 @@
 #include "dialog/panel_deck.h"
 #include "dialog/plugin_loader.h"
 #include "dialog/print_dialog.h"
-#include "platform/foundation/work_queue.h"
 #include "platform/printing/jobs.h"
 
 #include <QComboBox>
@@ -147,7 +146,6 @@ int main(int argc, char** argv)
         }
         dialog.close();
     }
-    waitForWorkQueues(kPatience);
     finishQueuedWork();
     return status;
 }

@@ -1,6 +1,7 @@
 #include "dialog/application.h"
 
 #include "dialog/print_run.h"
+#include "platform/foundation/work_queue.h"
 
 #include <QEventLoop>
 #include <QLibraryInfo>
@@ -23,6 +24,7 @@ namespace halvern {
 namespace {
 
 constexpr int kTakeBackMilliseconds = 3000;
+constexpr int kLongestTidying = 3000; // milliseconds
 
 QtMessageHandler usualHandler = nullptr;
 
@@ -105,6 +107,8 @@ void waitForUnfinishedRun(PrintRun* run)
 
 void finishQueuedWork()
 {
+    // Command jobs of panels that have gone are taken back by their watches.
+    waitForWorkQueues(kLongestTidying);
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

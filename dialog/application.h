@@ -25,7 +25,8 @@ QList<std::shared_ptr<QTranslator>> prepareApplication();
 /// Gives a cancelled run's worker a moment to take a half-sent job back, after the window has gone.
 void waitForUnfinishedRun(PrintRun* run);
 
-/// Delivers what panels that have just gone left for the main thread: their widgets and timers.
+/// The end of a program whose windows are closed: waits, seconds at most, until the panels' background work
+/// has taken its command jobs back, and delivers what the panels left for the main thread. Main thread only.
 void finishQueuedWork();
 
 } // namespace halvern

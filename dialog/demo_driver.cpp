@@ -5,7 +5,6 @@
 #include "dialog/demo_steps.h"
 #include "dialog/plugin_loader.h"
 #include "dialog/print_dialog.h"
-#include "platform/foundation/work_queue.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,8 +22,6 @@ constexpr char kUsage[] =
     "| screenshot NAME | print | dark | close. TARGET is name:OBJECT-NAME or tag:NUMBER. # begins a "
     "comment.\n"
     "shown, gone, offers and lacks wait until it is so; run waits until the shell command has ended.\n";
-
-constexpr int kLongestTidying = 3000; // milliseconds
 
 QStringList readSteps(const QString& path)
 {
@@ -86,7 +83,6 @@ int main(int argc, char** argv)
         return kExitUsage;
     }
     const int status = drive(parsed.commandLine->request, steps, screens);
-    waitForWorkQueues(kLongestTidying);
     finishQueuedWork();
     return status;
 }

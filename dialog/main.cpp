@@ -3,7 +3,6 @@
 #include "dialog/plugin_loader.h"
 #include "dialog/print_dialog.h"
 #include "dialog/quit_signals.h"
-#include "platform/foundation/work_queue.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -15,8 +14,6 @@
 namespace {
 
 using namespace halvern;
-
-constexpr int kLongestTidying = 3000; // milliseconds
 
 int runDialog(const CommandLine& line)
 {
@@ -102,8 +99,6 @@ int main(int argc, char** argv)
     for (const QString& remark : parsed.remarks)
         QTextStream(stderr) << remark << Qt::endl;
     const int status = statusWithOutput(run(*parsed.commandLine));
-    // Command jobs of panels that have gone are taken back by their watches.
-    waitForWorkQueues(kLongestTidying);
     finishQueuedWork();
     return status;
 }
