@@ -1,10 +1,14 @@
+#include "platform/printing/ppd.h"
 #include "tests/panel_base/test_panel.h"
 #include "tests/support/files.h"
 #include "tests/support/private_cups.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 
 #include <gtest/gtest.h>
+
+#include <csignal>
 
 namespace halvern {
 
@@ -78,6 +82,20 @@ TEST_F(FreshPpdTest, APpdThatDoesNotOpenIsLoggedAndKept)
     EXPECT_EQ(temporaryFiles(), 1);
     EXPECT_EQ(panel->ppdSavedDataForAttribute(QStringLiteral("X")), std::nullopt);
     EXPECT_EQ(temporaryFiles(), 2);
+}
+
+TEST_F(FreshPpdTest, TheMainThreadLeavesASilentServerAloneForAWhile)
+{
+    // One that is not here as a file: libcups would read that without asking.
+    const QString elsewhere = QStringLiteral("Elsewhere");
+    ASSERT_EQ(kill(server.process(), SIGSTOP), 0);
+    EXPECT_FALSE(ppd::fetch(elsewhere));
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_FALSE(ppd::fetch(elsewhere));
+    const qint64 second = clock.elapsed();
+    ASSERT_EQ(kill(server.process(), SIGCONT), 0);
+    EXPECT_LT(second, 1500) << "it would be silent for two seconds again";
 }
 
 } // namespace halvern

@@ -74,10 +74,11 @@ void TestPrinter::say(const char* attribute, const char* value)
 std::optional<QString> TestPrinter::attribute(const QString& keyword)
 {
     std::unique_lock lock(mutex_);
-    ++held_;
-    if (QThread::currentThread() != qApp->thread())
+    if (QThread::currentThread() != qApp->thread() && isHolding_) {
+        ++held_;
         changed_.wait(lock, [] { return !isHolding_; });
-    --held_;
+        --held_;
+    }
     const auto found = attributes_.constFind(keyword);
     return found == attributes_.constEnd() ? std::nullopt : std::optional<QString>(*found);
 }

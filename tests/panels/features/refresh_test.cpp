@@ -220,6 +220,20 @@ TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
               1);
 }
 
+TEST_F(Refresh, ReadsNewsOfPapersOffTheMainThread)
+{
+    make();
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    TestPrinter::load(archiveOf({QStringLiteral("Gloss")}));
+    TestPrinter::hold();
+    // On the main thread, nothing would be held.
+    panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
+    EXPECT_TRUE(waitUntil([] { return TestPrinter::isSomebodyHeld(); }));
+    EXPECT_FALSE(panel->unsortedPaper());
+    TestPrinter::goOn();
+    EXPECT_TRUE(waitUntil([&] { return panel->unsortedPaper() != nullptr; }));
+}
+
 TEST_F(Refresh, TellsTextsFromNumbersWhenCataloguesAreCompared)
 {
     make();
