@@ -1,7 +1,7 @@
 // bench-archive make COUNT FILE: writes an archive of COUNT papers.
 // bench-archive read FILE: decodes an archive and says how long that took and how far the memory rose.
 
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "printer/papers/catalogue_archive.h"
 
 #include <QElapsedTimer>

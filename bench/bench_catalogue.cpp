@@ -7,9 +7,9 @@
 
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/foundation/bundle.h"
-#include "platform/foundation/keyed_unarchiver.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"

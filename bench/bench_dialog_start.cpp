@@ -1,9 +1,9 @@
 // How long a user waits for the dialog: prints microseconds from the start of the process, as its caller took
 // it (HALVERN_BENCH_START, microseconds since the epoch), until the window is painted and takes input, and
 // until printer, options and photo are there too. "bare" shows an empty window instead, for comparison.
-#include "dialog/application.h"
-#include "dialog/plugin_loader.h"
-#include "dialog/print_dialog.h"
+#include "dialog/program/application.h"
+#include "dialog/session/plugin_loader.h"
+#include "dialog/window/print_dialog.h"
 
 #include <QLabel>
 #include <QTextStream>

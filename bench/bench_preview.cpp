@@ -1,11 +1,11 @@
 // How long a moved slider takes until the preview shows it: works the real dialog on the default printer of
 // the server in use, and prints milliseconds, median and 95th percentile, from the key that moves the slider
 // until the preview has been painted. bench-preview FILE [STEPS]
-#include "dialog/application.h"
-#include "dialog/panel_deck.h"
-#include "dialog/plugin_loader.h"
-#include "dialog/preview_widget.h"
-#include "dialog/print_dialog.h"
+#include "dialog/preview/preview_widget.h"
+#include "dialog/program/application.h"
+#include "dialog/session/plugin_loader.h"
+#include "dialog/window/panel_deck.h"
+#include "dialog/window/print_dialog.h"
 
 #include <QElapsedTimer>
 #include <QTest>

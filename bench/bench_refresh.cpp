@@ -2,10 +2,10 @@
 // reported, shows the Features panel, and prints the main thread's longest stall from there until the paper
 // menus are rebuilt and painted, and the time from the command job's completion until then.
 //   bench-refresh QUEUE FILE
-#include "dialog/application.h"
-#include "dialog/panel_deck.h"
-#include "dialog/plugin_loader.h"
-#include "dialog/print_dialog.h"
+#include "dialog/program/application.h"
+#include "dialog/session/plugin_loader.h"
+#include "dialog/window/panel_deck.h"
+#include "dialog/window/print_dialog.h"
 #include "platform/printing/jobs.h"
 
 #include <QComboBox>

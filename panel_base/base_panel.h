@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/atomic_shared.h"
-#include "platform/printing/panel.h"
+#include "platform/foundation/threads/atomic_shared.h"
+#include "platform/plugin_api/panel.h"
 
 #include <QPointer>
 

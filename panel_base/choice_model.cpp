@@ -3,7 +3,7 @@
 #include "panel_base/tags.h"
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/user_defaults.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/ppd.h"
 #include "platform/toolkit/beep.h"
 #include "platform/toolkit/control.h"

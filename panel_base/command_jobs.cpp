@@ -1,6 +1,6 @@
 #include "panel_base/base_panel.h"
 #include "panel_base/command_file.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/jobs.h"
 #include "platform/printing/printer.h"
 

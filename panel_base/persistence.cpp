@@ -1,7 +1,7 @@
 #include "panel_base/base_panel.h"
 
 #include "platform/foundation/log.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
 

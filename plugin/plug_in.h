@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/printing/panel.h"
+#include "platform/plugin_api/panel.h"
 
 namespace halvern {
 

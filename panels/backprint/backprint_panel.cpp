@@ -5,8 +5,8 @@
 #include "panels/backprint/line_watcher.h"
 #include "panels/backprint/text/backprint_text.h"
 #include "platform/foundation/log.h"
-#include "platform/foundation/notification_center.h"
-#include "platform/printing/host_callback.h"
+#include "platform/foundation/notifications/notification_center.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
 

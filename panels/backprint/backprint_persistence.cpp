@@ -1,7 +1,7 @@
 #include "panels/backprint/backprint_panel.h"
 
 #include "platform/foundation/log.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/print_settings.h"
 
 namespace halvern {

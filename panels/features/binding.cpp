@@ -5,7 +5,7 @@
 #include "panels/features/reasons.h"
 
 #include "platform/foundation/log.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
 #include "platform/toolkit/control.h"

@@ -3,7 +3,7 @@
 
 #include "platform/foundation/description.h"
 #include "platform/foundation/log.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/view_search.h"

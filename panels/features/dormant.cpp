@@ -1,7 +1,7 @@
 #include "panels/features/features_panel.h"
 
 #include "platform/foundation/log.h"
-#include "platform/foundation/notification_center.h"
+#include "platform/foundation/notifications/notification_center.h"
 
 #include <array>
 

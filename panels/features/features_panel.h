@@ -2,7 +2,7 @@
 
 #include "panel_base/base_panel.h"
 #include "panels/features/paper_index.h"
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/threads/work_queue.h"
 
 #include <QDateTime>
 

@@ -1,10 +1,10 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
 
-#include "platform/foundation/distributed_notification_center.h"
 #include "platform/foundation/log.h"
-#include "platform/foundation/run_loop_timer.h"
-#include "platform/printing/host_callback.h"
+#include "platform/foundation/notifications/distributed_notification_center.h"
+#include "platform/foundation/threads/run_loop_timer.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
 #include "platform/toolkit/control.h"

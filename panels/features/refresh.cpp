@@ -2,13 +2,13 @@
 #include "panels/features/features_tags.h"
 #include "panels/features/refresh_date.h"
 
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/foundation/description.h"
-#include "platform/foundation/distributed_notification_center.h"
-#include "platform/foundation/keyed_unarchiver.h"
 #include "platform/foundation/log.h"
-#include "platform/foundation/notification_center.h"
-#include "platform/foundation/run_loop_timer.h"
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/notifications/distributed_notification_center.h"
+#include "platform/foundation/notifications/notification_center.h"
+#include "platform/foundation/threads/run_loop_timer.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/view_search.h"
 

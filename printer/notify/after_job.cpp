@@ -1,6 +1,6 @@
 #include "printer/notify/after_job.h"
 
-#include "platform/foundation/notification_bus.h"
+#include "platform/foundation/notifications/notification_bus.h"
 
 #include <cups/cups.h>
 

@@ -1,6 +1,6 @@
 // Tells the open print dialogs that a printer's data has changed; for back ends and scripts.
 
-#include "platform/foundation/notification_bus.h"
+#include "platform/foundation/notifications/notification_bus.h"
 
 #include <cstdio>
 #include <cstring>

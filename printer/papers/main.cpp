@@ -1,7 +1,7 @@
 // halvern-papers: packs a printer's papers into the form that the print dialog reads, and shows what is
 // packed.
 
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "printer/papers/catalogue_archive.h"
 #include "printer/papers/catalogue_json.h"
 #include "printer/papers/paper_change.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialog/dialog_session.h"
-#include "dialog/panel_source.h"
-#include "dialog/print_dialog.h"
+#include "dialog/session/dialog_session.h"
+#include "dialog/session/panel_source.h"
+#include "dialog/window/print_dialog.h"
 #include "platform/printing/print_settings.h"
 #include "tests/support/private_cups.h"
 

@@ -1,8 +1,8 @@
-#include "dialog/job_options.h"
+#include "dialog/job/job_options.h"
 
-#include "dialog/cups_connection.h"
-#include "dialog/job_status.h"
-#include "dialog/printer_list.h"
+#include "dialog/job/job_status.h"
+#include "dialog/server/cups_connection.h"
+#include "dialog/server/printer_list.h"
 #include "platform/printing/cups_ppd.h"
 #include "tests/support/files.h"
 #include "tests/support/text.h"

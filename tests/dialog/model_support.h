@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/ppd_model.h"
+#include "dialog/options/ppd_model.h"
 #include "tests/support/fake_host.h"
 
 namespace halvern {

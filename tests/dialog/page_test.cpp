@@ -1,7 +1,7 @@
-#include "dialog/page_layout.h"
-#include "dialog/page_renderer.h"
-#include "dialog/photo.h"
-#include "dialog/preview_widget.h"
+#include "dialog/page/page_layout.h"
+#include "dialog/page/page_renderer.h"
+#include "dialog/page/photo.h"
+#include "dialog/preview/preview_widget.h"
 #include "tests/support/files.h"
 
 #include <QBuffer>

@@ -1,4 +1,4 @@
-#include "dialog/plugin_loader.h"
+#include "dialog/session/plugin_loader.h"
 
 #include "tests/support/fake_host.h"
 #include "tests/support/files.h"

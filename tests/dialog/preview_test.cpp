@@ -1,6 +1,6 @@
 // The preview: the printer's adjustments on the screen, the whole page and 1:1.
-#include "dialog/preview_widget.h"
-#include "dialog/screen_photo.h"
+#include "dialog/preview/preview_widget.h"
+#include "dialog/preview/screen_photo.h"
 #include "tests/support/observers.h"
 
 #include <QTemporaryDir>

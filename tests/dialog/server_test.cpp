@@ -1,9 +1,9 @@
 // The dialog's model and window on a real print server with virtual printers.
 #include "tests/support/server_test.h"
-#include "dialog/batch_print.h"
-#include "dialog/job_submitter.h"
-#include "dialog/message_bar.h"
-#include "dialog/panel_deck.h"
+#include "dialog/job/job_submitter.h"
+#include "dialog/program/batch_print.h"
+#include "dialog/window/message_bar.h"
+#include "dialog/window/panel_deck.h"
 #include "platform/printing/printer.h"
 #include "tests/dialog/dialog_support.h"
 #include "tests/support/files.h"

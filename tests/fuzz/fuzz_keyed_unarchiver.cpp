@@ -5,7 +5,7 @@
 //   build/fuzz/bin/fuzz-keyed-unarchiver -dict=tests/fuzz/keyed_archive.dict -max_total_time=600
 //       -rss_limit_mb=300 -max_len=65536 build/fuzz/corpus
 
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 
 #include <cstdlib>
 

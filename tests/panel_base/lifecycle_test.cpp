@@ -1,6 +1,6 @@
 #include "platform/foundation/bundle.h"
-#include "platform/foundation/notification_center.h"
-#include "platform/foundation/semaphore.h"
+#include "platform/foundation/notifications/notification_center.h"
+#include "platform/foundation/threads/semaphore.h"
 #include "tests/panel_base/test_panel.h"
 
 #include <QDesktopServices>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panel_base/base_panel.h"
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/observers.h"
 

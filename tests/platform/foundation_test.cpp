@@ -1,9 +1,9 @@
 #include "platform/foundation/date_additions.h"
 #include "platform/foundation/description.h"
-#include "platform/foundation/notification_center.h"
+#include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/numbers.h"
-#include "platform/foundation/semaphore.h"
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/threads/semaphore.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "tests/support/observers.h"
 
 #include <QCoreApplication>

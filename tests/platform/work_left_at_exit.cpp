@@ -1,7 +1,7 @@
 // Ends with work still queued for the main thread, work that queues more when it is dropped. Passes by
 // ending.
 
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/threads/work_queue.h"
 
 #include <QCoreApplication>
 

@@ -1,8 +1,8 @@
 // The keys that work a page with Alt, beside those of the dialog around it.
-#include "dialog/application.h"
-#include "dialog/dialog_session.h"
-#include "dialog/plugin_loader.h"
-#include "dialog/print_dialog.h"
+#include "dialog/program/application.h"
+#include "dialog/session/dialog_session.h"
+#include "dialog/session/plugin_loader.h"
+#include "dialog/window/print_dialog.h"
 #include "plugin/plug_in.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/observers.h"

@@ -1,5 +1,5 @@
-#include "platform/foundation/distributed_notification_center.h"
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
+#include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/printing/ppd.h"
 #include "printer/papers/paper_list.h"
 #include "printer/papers/ppd_archive.h"

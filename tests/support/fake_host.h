@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/printing/host_callback.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialog/dialog_session.h"
-#include "dialog/panel_deck.h"
-#include "dialog/print_dialog.h"
+#include "dialog/session/dialog_session.h"
+#include "dialog/window/panel_deck.h"
+#include "dialog/window/print_dialog.h"
 #include "tests/support/private_cups.h"
 
 #include <QAbstractButton>

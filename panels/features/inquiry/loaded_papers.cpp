@@ -3,7 +3,7 @@
 #include "panels/features/paper_index.h"
 #include "panels/features/refresh_date.h"
 #include "panels/features/tone_mask.h"
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/printing/ppd.h"
 
 namespace halvern {

@@ -1,8 +1,8 @@
 #include "panels/features/inquiry/printer_inquiry.h"
 
 #include "panel_base/base_panel.h"
-#include "platform/foundation/semaphore.h"
-#include "platform/printing/host_callback.h"
+#include "platform/foundation/threads/semaphore.h"
+#include "platform/plugin_api/host_callback.h"
 #include "platform/printing/printer.h"
 
 #include <condition_variable>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/saved_options.h"
+#include "dialog/server/saved_options.h"
 #include "tests/support/server_test.h"
 
 namespace halvern {

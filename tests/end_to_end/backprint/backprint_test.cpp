@@ -1,6 +1,6 @@
 // Lines typed into the Backprint page of the real dialog, printed on a real server.
-#include "dialog/message_bar.h"
-#include "dialog/plugin_loader.h"
+#include "dialog/session/plugin_loader.h"
+#include "dialog/window/message_bar.h"
 #include "tests/end_to_end/backprint/back_of_picture.h"
 #include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"

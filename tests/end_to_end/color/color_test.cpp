@@ -1,7 +1,7 @@
 // Color Adjustments in the real dialog, with the bundle as it is shipped, as far as the real printer. The
 // user is German: what is typed has "." all the same.
-#include "dialog/plugin_loader.h"
-#include "dialog/preview_widget.h"
+#include "dialog/preview/preview_widget.h"
+#include "dialog/session/plugin_loader.h"
 #include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
 #include "tests/support/server_test.h"

@@ -1,7 +1,7 @@
-#include "dialog/demo_steps.h"
-#include "dialog/dialog_session.h"
-#include "dialog/plugin_loader.h"
-#include "dialog/print_dialog.h"
+#include "demonstration/demo_steps.h"
+#include "dialog/session/dialog_session.h"
+#include "dialog/session/plugin_loader.h"
+#include "dialog/window/print_dialog.h"
 #include "tests/support/observers.h"
 #include "tests/support/private_cups.h"
 

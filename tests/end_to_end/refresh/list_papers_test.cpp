@@ -1,5 +1,5 @@
 // halvern-print --list-papers as a process, on a real server.
-#include "dialog/paper_table.h"
+#include "dialog/program/paper_table.h"
 #include "platform/printing/jobs.h"
 #include "tests/support/files.h"
 #include "tests/support/observers.h"

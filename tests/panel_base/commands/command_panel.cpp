@@ -1,6 +1,6 @@
 #include "tests/panel_base/commands/command_panel.h"
 
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/threads/work_queue.h"
 
 #include <QCoreApplication>
 #include <QThread>

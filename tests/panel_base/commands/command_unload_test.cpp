@@ -1,5 +1,5 @@
-#include "platform/foundation/semaphore.h"
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/threads/semaphore.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
 
 #include <thread>

@@ -1,4 +1,4 @@
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
 
 #include <QElapsedTimer>

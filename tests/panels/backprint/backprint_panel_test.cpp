@@ -1,5 +1,5 @@
 #include "panels/backprint/back_preview.h"
-#include "platform/foundation/notification_center.h"
+#include "platform/foundation/notifications/notification_center.h"
 #include "tests/panels/backprint/backprint_window.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #include "tests/panels/features/features_fixture.h"
 
-#include "platform/foundation/distributed_notification_center.h"
-#include "platform/foundation/work_queue.h"
+#include "platform/foundation/notifications/distributed_notification_center.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/jobs.h"
 #include "tests/support/child_process.h"
 #include "tests/support/private_cups.h"

@@ -1,4 +1,4 @@
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "tests/platform/archive/archive_assembler.h"
 
 #include <QDateTime>

@@ -1,5 +1,5 @@
-#include "platform/foundation/distributed_notification_center.h"
-#include "platform/foundation/notification_bus.h"
+#include "platform/foundation/notifications/distributed_notification_center.h"
+#include "platform/foundation/notifications/notification_bus.h"
 #include "tests/support/observers.h"
 #include "tests/support/private_bus.h"
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/keyed_unarchiver.h"
+#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/printing/ppd.h"
 #include "printer/papers/catalogue_archive.h"
 #include "printer/papers/catalogue_json.h"

@@ -1,0 +1,122 @@
+#include "dialog/options/ppd_lookup.h"
+
+#include "platform/foundation/numbers.h"
+#include "platform/printing/cups_ppd.h"
+#include "platform/printing/ppd.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QtNumeric>
+
+#include <optional>
+
+namespace halvern::ppd_lookup {
+
+namespace {
+
+QString words(const char* text)
+{
+    return QCoreApplication::translate("PpdModel", text);
+}
+
+QString outsideLimits(const QString& optionText, double low, double high)
+{
+    const QLocale locale;
+    return words(QT_TRANSLATE_NOOP("PpdModel", "%1 must be a number from %2 to %3."))
+        .arg(optionText, locale.toString(low), locale.toString(high));
+}
+
+std::optional<double> number(const QString& value, bool integer, NumberReading reading)
+{
+    if (reading == NumberReading::leading)
+        return leadingDouble(value);
+    bool isNumber = false;
+    const double found = integer ? value.toInt(&isNumber) : QLocale::c().toDouble(value, &isNumber);
+    // The conversion takes blanks and "nan" for numbers; a printer's filter would not.
+    const bool isPlain = isNumber && qIsFinite(found) && value == value.trimmed();
+    return isPlain ? std::optional(found) : std::nullopt;
+}
+
+QString numberProblem(const QString& optionText, std::optional<double> number, const ppd::Range& range)
+{
+    const bool fits = number && *number >= range.minimum && *number <= range.maximum;
+    return fits ? QString() : outsideLimits(optionText, range.minimum, range.maximum);
+}
+
+QString lengthProblem(const QString& optionText, const QString& value, int low, int high)
+{
+    const qsizetype length = value.toUtf8().size();
+    if (length >= low && length <= high)
+        return {};
+    return words(QT_TRANSLATE_NOOP("PpdModel", "%1 must have %2 to %3 characters."))
+        .arg(optionText)
+        .arg(low)
+        .arg(high);
+}
+
+} // namespace
+
+ppd_option_t* option(ppd_file_t* file, const QString& key)
+{
+    return ppdFindOption(file, key.toUtf8().constData());
+}
+
+ppd_choice_t* listedChoice(ppd_file_t* file, const QString& key, const QString& choice)
+{
+    ppd_option_t* found = option(file, key);
+    const QByteArray wanted = choice.toUtf8();
+    const bool hasCustom = ppdFindCustomOption(file, key.toUtf8().constData()) != nullptr;
+    for (int i = 0; found && i < found->num_choices; ++i) {
+        ppd_choice_t& listed = found->choices[i];
+        if (qstricmp(listed.choice, wanted.constData()) == 0 && !(hasCustom && wanted == "Custom"))
+            return &listed;
+    }
+    return nullptr;
+}
+
+ppd_cparam_t* customParameter(ppd_file_t* file, const QString& key)
+{
+    ppd_coption_t* custom = ppdFindCustomOption(file, key.toUtf8().constData());
+    if (!custom || cupsArrayCount(custom->params) != 1)
+        return nullptr;
+    return ppdFirstCustomParam(custom);
+}
+
+QString customValueProblem(ppd_file_t* file, const ppd_cparam_t& parameter, const QString& key,
+                           const QString& optionText, const QString& value, NumberReading reading)
+{
+    const auto& low = parameter.minimum;
+    const auto& high = parameter.maximum;
+    switch (parameter.type) {
+    case PPD_CUSTOM_INT:
+    case PPD_CUSTOM_REAL:
+    case PPD_CUSTOM_POINTS:
+    case PPD_CUSTOM_CURVE:
+    case PPD_CUSTOM_INVCURVE: {
+        // The limits as the PPD writes them; without usable ones the printer has to know.
+        const std::optional<ppd::Range> range = ppd::customRange(file, key);
+        const bool isInteger = parameter.type == PPD_CUSTOM_INT;
+        return range ? numberProblem(optionText, number(value, isInteger, reading), *range) : QString();
+    }
+    case PPD_CUSTOM_STRING:
+        return lengthProblem(optionText, value, low.custom_string, high.custom_string);
+    case PPD_CUSTOM_PASSCODE:
+    case PPD_CUSTOM_PASSWORD:
+        return lengthProblem(optionText, value, low.custom_password, high.custom_password);
+    default:
+        return {};
+    }
+}
+
+void unmark(ppd_file_t* file, const QString& key)
+{
+    ppd_option_t* found = option(file, key);
+    for (int i = 0; found && i < found->num_choices; ++i) {
+        if (!found->choices[i].marked)
+            continue;
+        cupsArrayRemove(file->marked, &found->choices[i]);
+        found->choices[i].marked = 0;
+    }
+}
+
+} // namespace halvern::ppd_lookup

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "dialog/page/page_layout.h"
+#include "dialog/page/photo.h"
+
+#include <QIODevice>
+
+#include <functional>
+
+class QPainter;
+
+namespace halvern {
+
+/// The page to print: which photo, and where it lies.
+struct PageToPrint {
+    Photo photo;
+    PageLayout layout;
+};
+
+/// Where the unit square of the upright photo lands on the upright sheet, in points, y growing downwards.
+/// Preview and print job both place the photo by this and by the layout's imageable area, and by nothing
+/// else.
+QTransform photoToSheet(const PageLayout& layout);
+
+/// Draws the page as it will come out: white paper and what of the photo is printed. The painter's units are
+/// points of the page, turned as the user looks at it.
+void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo);
+
+/// Writes one PDF page of exactly the sheet's size for each page. JPEG data go in untouched; other pictures
+/// without loss, at no more than twice `resolution` dots per inch. `keepGoing` is asked between pages, with
+/// the share done. Answers the sentence about what failed, empty on success; also empty if it was told to
+/// stop. Any thread.
+QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, int resolution,
+                 const std::function<bool(double)>& keepGoing);
+
+} // namespace halvern

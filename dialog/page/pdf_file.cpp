@@ -1,0 +1,99 @@
+#include "dialog/page/pdf_file.h"
+
+namespace halvern {
+
+namespace {
+
+constexpr int kCatalog = 1;
+constexpr int kPageTree = 2;
+
+QByteArray number(double value)
+{
+    return QByteArray::number(value, 'f', 3);
+}
+
+QByteArray matrix(const QTransform& t)
+{
+    return number(t.m11()) + ' ' + number(t.m12()) + ' ' + number(t.m21()) + ' ' + number(t.m22()) + ' ' +
+           number(t.dx()) + ' ' + number(t.dy());
+}
+
+QByteArray reference(int object)
+{
+    return QByteArray::number(object) + " 0 R";
+}
+
+} // namespace
+
+PdfFile::PdfFile(QIODevice& device) : device_(device)
+{
+    offsets_.resize(kPageTree + 1, 0);
+    write("%PDF-1.5\n%\xE2\xE3\xCF\xD3\n");
+}
+
+void PdfFile::write(const QByteArray& bytes)
+{
+    ok_ = ok_ && device_.write(bytes) == bytes.size();
+    written_ += bytes.size();
+}
+
+int PdfFile::beginObject()
+{
+    offsets_.push_back(written_);
+    const int object = int(offsets_.size()) - 1;
+    write(QByteArray::number(object) + " 0 obj\n");
+    return object;
+}
+
+void PdfFile::addStream(const QByteArray& dictionary, const QByteArray& bytes)
+{
+    write("<< " + dictionary + " /Length " + QByteArray::number(bytes.size()) + " >>\nstream\n");
+    write(bytes);
+    write("\nendstream\nendobj\n");
+}
+
+void PdfFile::addPage(const QSizeF& paper, const QRectF& clip, const QTransform& placement,
+                      const PdfImage& image)
+{
+    const int picture = beginObject();
+    addStream("/Type /XObject /Subtype /Image /Width " + QByteArray::number(image.size.width()) +
+                  " /Height " + QByteArray::number(image.size.height()) +
+                  " /BitsPerComponent 8 /ColorSpace " +
+                  (image.components == 1 ? "/DeviceGray" : "/DeviceRGB") + " /Interpolate true /Filter /" +
+                  image.filter,
+              image.bytes);
+    // PDF's picture square has its origin at the bottom left, and so has its page.
+    const QTransform flip(1.0, 0.0, 0.0, -1.0, 0.0, 1.0);
+    const QTransform pageFlip(1.0, 0.0, 0.0, -1.0, 0.0, paper.height());
+    const QRectF cut = pageFlip.mapRect(clip);
+    const int content = beginObject();
+    addStream("", "q " + number(cut.left()) + ' ' + number(cut.top()) + ' ' + number(cut.width()) + ' ' +
+                      number(cut.height()) + " re W n " + matrix(flip * placement * pageFlip) +
+                      " cm /I Do Q");
+    pages_.push_back(beginObject());
+    write("<< /Type /Page /Parent " + reference(kPageTree) + " /MediaBox [0 0 " + number(paper.width()) +
+          ' ' + number(paper.height()) + "] /Resources << /XObject << /I " + reference(picture) +
+          " >> >> /Contents " + reference(content) + " >>\nendobj\n");
+}
+
+bool PdfFile::finish()
+{
+    offsets_[kPageTree] = written_;
+    QByteArray kids;
+    for (const int page : pages_)
+        kids += reference(page) + ' ';
+    write(QByteArray::number(kPageTree) + " 0 obj\n<< /Type /Pages /Count " +
+          QByteArray::number(qint64(pages_.size())) + " /Kids [ " + kids + "] >>\nendobj\n");
+    offsets_[kCatalog] = written_;
+    write(QByteArray::number(kCatalog) + " 0 obj\n<< /Type /Catalog /Pages " + reference(kPageTree) +
+          " /ViewerPreferences << /PrintScaling /None >> >>\nendobj\n");
+    const qint64 table = written_;
+    write("xref\n0 " + QByteArray::number(qint64(offsets_.size())) + "\n0000000000 65535 f \n");
+    for (size_t i = 1; i < offsets_.size(); ++i)
+        write(QByteArray::number(offsets_[i]).rightJustified(10, '0') + " 00000 n \n");
+    write("trailer\n<< /Size " + QByteArray::number(qint64(offsets_.size())) + " /Root " +
+          reference(kCatalog) + " >>\nstartxref\n" + QByteArray::number(table) + "\n%%EOF\n");
+    return ok_;
+}
+
+} // namespace halvern

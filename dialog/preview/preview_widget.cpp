@@ -1,0 +1,280 @@
+#include "dialog/preview/preview_widget.h"
+
+#include "dialog/page/page_renderer.h"
+#include "dialog/preview/sharp_photo_reader.h"
+
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QtMath>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+constexpr double kMargin = 28.0;
+constexpr int kCaptionRoom = 10; // above and below the captions
+constexpr double kShadow = 7.0;
+
+// A photo's colours are judged on a neutral gray, light or dark with the rest of the dialog.
+QColor ground(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128 ? QColor(38, 38, 38) : QColor(205, 205, 205);
+}
+
+QColor inkOn(const QColor& background)
+{
+    return background.lightness() < 128 ? QColor(200, 200, 200) : QColor(60, 60, 60);
+}
+
+void paintShadow(QPainter& painter, const QRectF& sheet)
+{
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    for (double spread = kShadow; spread > 0.0; spread -= 1.0) {
+        painter.setBrush(QColor(0, 0, 0, 9));
+        painter.drawRoundedRect(sheet.adjusted(-spread, -spread + 2.0, spread, spread + 2.0), spread, spread);
+    }
+    painter.restore();
+}
+
+} // namespace
+
+QString pageSizeText(const QSizeF& points)
+{
+    const QLocale locale;
+    const auto side = [&](double value, int decimals) {
+        QString text = locale.toString(value, 'f', decimals);
+        const QString zero = locale.decimalPoint() + QLatin1Char('0');
+        if (text.endsWith(zero))
+            text.chop(zero.size());
+        return text;
+    };
+    const double mm = 25.4 / 72.0;
+    const QString metric =
+        PreviewWidget::tr("%1 × %2 mm").arg(side(points.width() * mm, 1), side(points.height() * mm, 1));
+    const QString imperial =
+        PreviewWidget::tr("%1 × %2 in").arg(side(points.width() / 72.0, 1), side(points.height() / 72.0, 1));
+    const bool metricFirst = locale.measurementSystem() == QLocale::MetricSystem;
+    return (metricFirst ? metric : imperial) + QStringLiteral("  ·  ") + (metricFirst ? imperial : metric);
+}
+
+PreviewWidget::PreviewWidget(QWidget* parent)
+    : QWidget(parent), reader_(new DetailReader(this)), zoomButton_(new QToolButton(this))
+{
+    setObjectName(QStringLiteral("preview"));
+    setAccessibleName(tr("Preview"));
+    setMinimumSize(300, 300);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setFocusPolicy(Qt::StrongFocus);
+    zoomButton_->setObjectName(QStringLiteral("zoomButton"));
+    zoomButton_->setText(QStringLiteral("1:1"));
+    zoomButton_->setCheckable(true);
+    zoomButton_->setAccessibleName(tr("Show at 1:1"));
+    zoomButton_->setToolTip(
+        tr("Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)"));
+    connect(zoomButton_, &QToolButton::clicked, this, [this](bool on) { setZoomed(on); });
+    connect(reader_, &DetailReader::ready, this, [this](const QImage& detail) {
+        screen_.setDetail(detail);
+        showState();
+    });
+    connect(reader_, &DetailReader::failed, this, [this](const QString& sentence) {
+        detailProblem_ = sentence;
+        showState();
+    });
+    showState();
+}
+
+QSize PreviewWidget::sizeHint() const
+{
+    return {620, 620};
+}
+
+void PreviewWidget::showPage(const PreviewPage& page)
+{
+    page_ = page;
+    screen_.setPreview(page.photo.preview);
+    screen_.setLook(page.look);
+    text_.clear();
+    hasPage_ = true;
+    if (isZoomed_) {
+        keepPageInView();
+        readDetail();
+    }
+    showState();
+}
+
+void PreviewWidget::showText(const QString& text)
+{
+    text_ = text;
+    hasPage_ = false;
+    setZoomed(false);
+}
+
+void PreviewWidget::showState()
+{
+    const bool canMove = hasPage_ && page_.layout.isCut && !isZoomed_;
+    setCursor(canMove || isZoomed_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
+    setToolTip(canMove ? tr("Drag the photo to choose what is cut away") : QString());
+    setAccessibleDescription(hasPage_ ? captions().join(QStringLiteral(". ")) : text_);
+    zoomButton_->setVisible(hasPage_);
+    update();
+}
+
+int PreviewWidget::captionHeight() const
+{
+    return 2 * fontMetrics().lineSpacing() + 2 * kCaptionRoom;
+}
+
+QRect PreviewWidget::viewRect() const
+{
+    return rect().adjusted(0, 0, 0, -captionHeight());
+}
+
+void PreviewWidget::resizeEvent(QResizeEvent*)
+{
+    const QSize size = zoomButton_->sizeHint();
+    zoomButton_->setGeometry(
+        QRect(QPoint(width() - size.width() - kCaptionRoom, height() - (captionHeight() + size.height()) / 2),
+              size));
+    if (isZoomed_)
+        keepPageInView();
+}
+
+QRectF PreviewWidget::sheetRect() const
+{
+    const QRectF room = QRectF(viewRect()).adjusted(kMargin, kMargin, -kMargin, -kMargin / 2);
+    QRectF sheet(QPointF(), page_.layout.page.scaled(room.size(), Qt::KeepAspectRatio));
+    sheet.moveCenter(room.center());
+    return sheet;
+}
+
+QString PreviewWidget::sizeCaption() const
+{
+    if (isZoomed_)
+        return tr("1:1, a screen pixel for each printer dot (%1 dpi)").arg(page_.resolution);
+    QString caption = pageSizeText(page_.layout.page);
+    if (page_.layout.isCut)
+        caption += QStringLiteral("  ·  ") + tr("part of the photo is cut away");
+    return caption;
+}
+
+QString PreviewWidget::colorCaption() const
+{
+    if (isZoomed_ && !detailProblem_.isEmpty())
+        return detailProblem_;
+    if (isReadingDetail())
+        return tr("Reading the photo...");
+    const bool showsSharpening = page_.look.sharpens() && isZoomed_;
+    if (page_.look.changesColors() || showsSharpening)
+        return tr("The printer's adjustments, approximated on the screen");
+    return page_.look.sharpens() ? tr("Sharpening shows at 1:1") : QString();
+}
+
+QStringList PreviewWidget::captions() const
+{
+    QStringList lines{sizeCaption(), colorCaption()};
+    lines.removeAll(QString());
+    return lines;
+}
+
+void PreviewWidget::paintSheet(QPainter& painter)
+{
+    const PageLayout& layout = page_.layout;
+    const QRectF sheet = sheetRect();
+    const double scale = sheet.width() / layout.page.width();
+    paintShadow(painter, sheet);
+    painter.save();
+    painter.translate(sheet.topLeft());
+    painter.scale(scale, scale);
+    const QSizeF pixels = layout.photo.size() * (scale * devicePixelRatioF());
+    paintPage(painter, layout, screen_.whole({qCeil(pixels.width()), qCeil(pixels.height())}));
+    const QRectF whole(QPointF(), layout.page);
+    const bool isBorderless = layout.imageable.adjusted(-0.5, -0.5, 0.5, 0.5).contains(whole);
+    if (!isBorderless) {
+        QPen dashes(QColor(128, 128, 128, 150), 0.0, Qt::DashLine);
+        painter.setPen(dashes);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(layout.imageable);
+    }
+    painter.restore();
+}
+
+void PreviewWidget::paintCaptions(QPainter& painter) const
+{
+    const int side = zoomButton_->width() + 2 * kCaptionRoom;
+    const int line = fontMetrics().lineSpacing();
+    QRect room(side, height() - captionHeight() + kCaptionRoom, width() - 2 * side, line);
+    const QStringList lines = captions();
+    if (lines.size() == 1)
+        room.translate(0, line / 2);
+    for (const QString& text : lines) {
+        painter.drawText(room, Qt::AlignCenter, fontMetrics().elidedText(text, Qt::ElideRight, room.width()));
+        room.translate(0, line);
+    }
+}
+
+void PreviewWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor background = ground(palette());
+    painter.fillRect(rect(), background);
+    painter.setPen(inkOn(background));
+    if (!hasPage_) {
+        painter.drawText(rect().adjusted(40, 40, -40, -40), Qt::AlignCenter | Qt::TextWordWrap, text_);
+        return;
+    }
+    if (isZoomed_)
+        paintDots(painter);
+    else
+        paintSheet(painter);
+    painter.setPen(inkOn(background));
+    paintCaptions(painter);
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+        painter.drawRect(QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0));
+    }
+}
+
+void PreviewWidget::mousePressEvent(QMouseEvent* event)
+{
+    lastMouse_ = event->position();
+    if (isZoomed_ && event->button() == Qt::LeftButton)
+        setCursor(Qt::ClosedHandCursor);
+}
+
+void PreviewWidget::mouseReleaseEvent(QMouseEvent*)
+{
+    if (isZoomed_)
+        setCursor(Qt::OpenHandCursor);
+}
+
+void PreviewWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!hasPage_ || !(event->buttons() & Qt::LeftButton))
+        return;
+    const QPointF moved = event->position() - lastMouse_;
+    lastMouse_ = event->position();
+    if (isZoomed_)
+        pan(moved);
+    else if (page_.layout.isCut)
+        movePhoto(moved);
+}
+
+void PreviewWidget::movePhoto(const QPointF& by)
+{
+    const PageLayout& layout = page_.layout;
+    const double scale = sheetRect().width() / layout.page.width();
+    const QSizeF room = layout.imageable.size() - layout.photo.size();
+    const QPointF offset = layout.photo.topLeft() - layout.imageable.topLeft() + by / scale;
+    const auto share = [](double at, double all) {
+        return qAbs(all) < 0.01 ? 0.5 : std::clamp(at / all, 0.0, 1.0);
+    };
+    Q_EMIT positionChosen({share(offset.x(), room.width()), share(offset.y(), room.height())});
+}
+
+} // namespace halvern

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "dialog/page/page_layout.h"
+#include "dialog/page/photo.h"
+#include "dialog/preview/screen_photo.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <optional>
+
+class QToolButton;
+
+namespace halvern {
+
+class DetailReader;
+
+/// A page for the preview.
+struct PreviewPage {
+    PageLayout layout;
+    Photo photo;
+    int resolution = 300; ///< dots per inch of the printer
+    Look look;
+};
+
+/// Shows a page as it will come out, on a neutral ground, with its size beneath: whole, or at 1:1, where a
+/// screen pixel is a printer's dot and sharpening can be judged. The printer's adjustments are shown on the
+/// screen only. Main thread only.
+class PreviewWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit PreviewWidget(QWidget* parent);
+
+    void showPage(const PreviewPage& page);
+
+    /// Shows a sentence in place of a page.
+    void showText(const QString& text);
+
+    /// Where the sheet is drawn when it is shown whole, in the widget's coordinates.
+    QRectF sheetRect() const;
+
+    bool isZoomed() const { return isZoomed_; }
+
+    /// Whether the photo's own pixels are still being read for 1:1; its small copy is shown meanwhile.
+    bool isReadingDetail() const;
+
+    /// Shows the page at 1:1 or whole. `around` is a point of the page, in points, that comes to the middle;
+    /// without it, the middle of the photo does.
+    void setZoomed(bool zoomed, std::optional<QPointF> around = std::nullopt);
+
+    QToolButton* zoomButton() const { return zoomButton_; }
+
+    /// The two lines under the page: its size, and what the colours are.
+    QStringList captions() const;
+
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The user drags the photo's cut or place: 0 to 1 each way.
+    void positionChosen(const QPointF& position);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void paintSheet(QPainter& painter);
+    void paintDots(QPainter& painter);
+    void paintCaptions(QPainter& painter) const;
+    QRect viewRect() const;
+    int captionHeight() const;
+    QString sizeCaption() const;
+    QString colorCaption() const;
+    void movePhoto(const QPointF& by);
+    void pan(const QPointF& by);
+    void keepPageInView();
+    double dotsPerPoint() const;
+    QRect photoInDots() const;
+    void readDetail();
+    void showState();
+
+    PreviewPage page_;
+    ScreenPhoto screen_;
+    DetailReader* reader_;
+    QToolButton* zoomButton_;
+    QString text_;
+    QString detailProblem_;
+    bool hasPage_ = false;
+    bool isZoomed_ = false;
+    QPointF middle_; // of the view at 1:1, in points of the page
+    QPointF lastMouse_;
+};
+
+/// "102 x 152 mm (4.0 x 6.0 in)", the units that the user's country uses first.
+QString pageSizeText(const QSizeF& points);
+
+} // namespace halvern

@@ -1,0 +1,156 @@
+// The preview at 1:1: a screen pixel for each printer dot, and moving about in it.
+#include "dialog/preview/preview_widget.h"
+
+#include "dialog/preview/sharp_photo_reader.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+constexpr double kKeyStep = 48.0;   // logical pixels
+constexpr double kEdgeRoom = 24.0;  // logical pixels of ground that can be seen beyond the page
+constexpr double kWheelNotch = 1.0; // logical pixels for an eighth of a degree
+
+double held(double middle, double half, double length, double room)
+{
+    return length <= 2.0 * half ? length / 2.0 : std::clamp(middle, half - room, length - half + room);
+}
+
+} // namespace
+
+double PreviewWidget::dotsPerPoint() const
+{
+    return page_.resolution / kPointsPerInch;
+}
+
+QRect PreviewWidget::photoInDots() const
+{
+    const QRectF photo = page_.layout.photo;
+    const double scale = dotsPerPoint();
+    const QRect dots(qRound(photo.left() * scale), qRound(photo.top() * scale), qRound(photo.width() * scale),
+                     qRound(photo.height() * scale));
+    return {dots.topLeft(), dots.size().expandedTo(QSize(1, 1))};
+}
+
+bool PreviewWidget::isReadingDetail() const
+{
+    return reader_->isReading();
+}
+
+void PreviewWidget::setZoomed(bool zoomed, std::optional<QPointF> around)
+{
+    isZoomed_ = zoomed && hasPage_;
+    zoomButton_->setChecked(isZoomed_);
+    if (isZoomed_) {
+        middle_ = around.value_or(page_.layout.visible().center());
+        keepPageInView();
+        readDetail();
+    } else {
+        // The whole photo is large, and the small copy does for the whole page.
+        reader_->forget();
+        screen_.setDetail({});
+    }
+    showState();
+}
+
+void PreviewWidget::readDetail()
+{
+    reader_->read(page_.photo, photoInDots().size());
+    if (reader_->isReading()) {
+        detailProblem_.clear();
+        screen_.setDetail({});
+    }
+}
+
+void PreviewWidget::keepPageInView()
+{
+    const double points = devicePixelRatioF() / dotsPerPoint(); // in a logical pixel
+    const QSizeF half = QSizeF(viewRect().size()) * (points / 2.0);
+    const QSizeF page = page_.layout.page;
+    middle_ = {held(middle_.x(), half.width(), page.width(), kEdgeRoom * points),
+               held(middle_.y(), half.height(), page.height(), kEdgeRoom * points)};
+}
+
+void PreviewWidget::pan(const QPointF& by)
+{
+    middle_ -= by * (devicePixelRatioF() / dotsPerPoint());
+    keepPageInView();
+    update();
+}
+
+void PreviewWidget::paintDots(QPainter& painter)
+{
+    const double ratio = devicePixelRatioF();
+    const double scale = dotsPerPoint();
+    const QRect view = viewRect();
+    // Everything below is in dots of the page, which are the screen's pixels.
+    const QPoint corner = (middle_ * scale - QPointF(view.width(), view.height()) * (ratio / 2.0)).toPoint();
+    const QRect window(corner, (QSizeF(view.size()) * ratio).toSize());
+    const auto toWidget = [&](const QRectF& dots) {
+        return QRectF(QPointF(view.topLeft()) + (dots.topLeft() - QPointF(corner)) / ratio,
+                      dots.size() / ratio);
+    };
+    painter.save();
+    painter.setClipRect(view);
+    const QSizeF page = page_.layout.page * scale;
+    painter.fillRect(toWidget(QRectF(QPointF(), page)), Qt::white);
+    const QRectF visible = page_.layout.visible();
+    const QRect shown = QRectF(visible.topLeft() * scale, visible.size() * scale).toAlignedRect();
+    const QRect photo = photoInDots();
+    const QRect seen = window.intersected(shown).intersected(photo);
+    if (!seen.isEmpty()) {
+        QImage dots = screen_.part(photo.size(), seen.translated(-photo.topLeft()));
+        dots.setDevicePixelRatio(ratio);
+        painter.drawImage(toWidget(seen).topLeft(), dots);
+    }
+    painter.restore();
+}
+
+void PreviewWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (!hasPage_ || event->button() != Qt::LeftButton)
+        return;
+    const double scale = sheetRect().width() / page_.layout.page.width();
+    setZoomed(!isZoomed_, (event->position() - sheetRect().topLeft()) / scale);
+}
+
+void PreviewWidget::wheelEvent(QWheelEvent* event)
+{
+    if (!isZoomed_) {
+        event->ignore();
+        return;
+    }
+    const bool isTouchpad = !event->pixelDelta().isNull();
+    QPointF by = isTouchpad ? QPointF(event->pixelDelta()) : QPointF(event->angleDelta()) * kWheelNotch;
+    if (event->modifiers() & Qt::ShiftModifier && !isTouchpad)
+        by = by.transposed();
+    pan(by);
+}
+
+void PreviewWidget::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Z && hasPage_ && !(event->modifiers() & ~Qt::ShiftModifier)) {
+        setZoomed(!isZoomed_);
+    } else if (!isZoomed_) {
+        QWidget::keyPressEvent(event);
+    } else if (key == Qt::Key_Left || key == Qt::Key_Right) {
+        pan({key == Qt::Key_Left ? kKeyStep : -kKeyStep, 0.0});
+    } else if (key == Qt::Key_Up || key == Qt::Key_Down) {
+        pan({0.0, key == Qt::Key_Up ? kKeyStep : -kKeyStep});
+    } else if (key == Qt::Key_Escape) {
+        setZoomed(false);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace halvern

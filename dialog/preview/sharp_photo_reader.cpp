@@ -1,0 +1,83 @@
+#include "dialog/preview/sharp_photo_reader.h"
+
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+
+// A PDF has no pixels of its own: its page is drawn at the resolution that gives these dots.
+int resolutionFor(const Photo& photo, const QSize& dots)
+{
+    return std::clamp(int(dots.width() * kPointsPerInch / std::max(photo.ownSize.width(), 1.0)), 1, 1200);
+}
+
+QImage readInDots(const Photo& photo, const QSize& dots, QString* problem)
+{
+    QImage image = readPixels(photo, resolutionFor(photo, dots), problem);
+    if (image.width() > dots.width() && image.height() > dots.height())
+        image = image.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                         : QImage::Format_RGB32);
+}
+
+} // namespace
+
+bool DetailReader::isWanted(const Photo& photo, const QSize& dots) const
+{
+    return photo.path == wanted_.path && photo.page == wanted_.page && dots == wantedDots_;
+}
+
+void DetailReader::read(const Photo& photo, const QSize& dots)
+{
+    if (isWanted(photo, dots))
+        return;
+    wanted_ = photo;
+    wantedDots_ = dots;
+    isAnswered_ = false;
+    if (!isBusy_)
+        start();
+}
+
+void DetailReader::forget()
+{
+    wanted_ = Photo();
+    wantedDots_ = QSize();
+}
+
+void DetailReader::start()
+{
+    isBusy_ = true;
+    QPointer<DetailReader> self(this);
+    WorkQueue().async([self, photo = wanted_, dots = wantedDots_] {
+        QString problem;
+        const QImage detail = readInDots(photo, dots, &problem);
+        mainQueue().async([self, photo, dots, detail, problem] {
+            if (self)
+                self->take(photo, dots, detail, problem);
+        });
+    });
+}
+
+void DetailReader::take(const Photo& photo, const QSize& dots, const QImage& detail, const QString& problem)
+{
+    isBusy_ = false;
+    if (!isWanted(photo, dots)) {
+        if (isReading())
+            start();
+        return;
+    }
+    isAnswered_ = true;
+    if (detail.isNull())
+        Q_EMIT failed(problem);
+    else
+        Q_EMIT ready(detail);
+}
+
+} // namespace halvern

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "dialog/program/command_line.h"
+
+#include <QTextStream>
+
+namespace halvern {
+
+/// Prints without a window, with the same session as the dialog: waits for the printer and the photos, sends
+/// the job, waits for its end and says what became of it. Main thread only; the event loop must run.
+class BatchPrint : public QObject {
+    Q_OBJECT
+
+public:
+    BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream& out, QTextStream& err);
+
+    void start();
+
+Q_SIGNALS:
+    void finished(int exitStatus);
+
+private:
+    void takePrinters();
+    void takePrinterFailure(const QString& sentence);
+    void proceed();
+    void print();
+    void fail(const QString& sentence, int status = kExitFailed);
+    void end(int status);
+
+    CommandLine line_;
+    QTextStream& out_;
+    QTextStream& err_;
+    DialogSession session_;
+    bool hasFailed_ = false;
+    bool hasStarted_ = false;
+    QString lastSentence_;
+};
+
+} // namespace halvern

@@ -1,0 +1,175 @@
+#include "dialog/program/command_line.h"
+
+#include "dialog/options/back_lines.h"
+#include "dialog/page/photo.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+struct Switches {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
+    QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
+                               tr("Print on this queue."),
+                               QStringLiteral("QUEUE")};
+    QCommandLineOption option{{QStringLiteral("o"), QStringLiteral("option")},
+                              tr("Set a printer option. Can be given several times."),
+                              QStringLiteral("KEY=VALUE")};
+    QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
+                              tr("Print this many copies, 1 to %1.").arg(kMostCopies),
+                              QStringLiteral("N")};
+    QCommandLineOption backprint{
+        QStringLiteral("backprint"),
+        tr("Print this text on the back of each picture. Can be given twice, for a first and a second "
+           "line. A line holds 120 characters and placeholders such as [YYYY], which the printer "
+           "replaces."),
+        QStringLiteral("TEXT")};
+    QCommandLineOption noDialog{QStringLiteral("no-dialog"),
+                                tr("Print at once, and wait until the job has ended.")};
+    QCommandLineOption dryRun{
+        QStringLiteral("dry-run"),
+        tr("Write the options that would be sent, one KEY=VALUE a line, and send nothing.")};
+
+    QCommandLineOption listPapers{QStringLiteral("list-papers"),
+                                  tr("Write what the printer has loaded, and how old that knowledge is.")};
+    QCommandLineOption refresh{QStringLiteral("refresh"), tr("With --list-papers: ask the printer first.")};
+
+    static QString seeHelp() { return tr("See \"halvern-print --help\"."); }
+
+    static QString badOption(const QString& text)
+    {
+        return tr("\"%1\" is no option: write KEY=VALUE, for example PageSize=A4.").arg(text);
+    }
+
+    static QString badCopies(const QString& text)
+    {
+        return tr("\"%1\" is no number of copies: write a number from 1 to %2.").arg(text).arg(kMostCopies);
+    }
+
+    static QString tooManyBackLines()
+    {
+        return tr("The back of a picture takes %1 lines: give --backprint once or twice.").arg(kBackLines);
+    }
+
+    static QString refreshAlone() { return tr("--refresh goes with --list-papers."); }
+
+    static QString listAndPrint()
+    {
+        return tr("--list-papers prints no files: leave out the files and the options for printing.");
+    }
+
+    static QString noFile() { return tr("Name at least one photo to print (JPEG, PNG, TIFF or PDF)."); }
+
+    static QString emptyPrinter() { return tr("The queue's name is empty. \"lpstat -e\" lists the queues."); }
+
+    static QString about()
+    {
+        return tr("Prints photos, with a preview and the printer's own pages of options.");
+    }
+
+    static QString fileHelp() { return tr("JPEG, PNG, TIFF or PDF files; each photo becomes a page."); }
+};
+
+ParsedCommandLine wrong(const QString& sentence, int status = kExitUsage)
+{
+    return {std::nullopt, sentence, status};
+}
+
+QString readBackLines(const QStringList& texts, CommandLine& line, QStringList& remarks)
+{
+    if (texts.size() > kBackLines)
+        return Switches::tooManyBackLines();
+    for (const QString& text : texts) {
+        const BackLine read = readBackLine(int(line.request.backLines.size()) + 1, text);
+        line.request.backLines.append(read.stored);
+        remarks.append(read.remarks);
+    }
+    return {};
+}
+
+bool isListOnly(const QCommandLineParser& parser, const Switches& switches, const CommandLine& line)
+{
+    const QList<QCommandLineOption> printing{switches.option, switches.copies, switches.backprint,
+                                             switches.noDialog, switches.dryRun};
+    return line.request.files.isEmpty() &&
+           std::none_of(printing.begin(), printing.end(),
+                        [&](const QCommandLineOption& option) { return parser.isSet(option); });
+}
+
+QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
+{
+    for (const QString& text : parser.values(switches.option)) {
+        const std::optional<OptionValue> option = parseOption(text);
+        if (!option)
+            return Switches::badOption(text);
+        line.request.options.append(*option);
+    }
+    if (parser.isSet(switches.copies)) {
+        bool isNumber = false;
+        line.request.copies = parser.value(switches.copies).toInt(&isNumber);
+        if (!isNumber || line.request.copies < 1 || line.request.copies > kMostCopies)
+            return Switches::badCopies(parser.value(switches.copies));
+    }
+    line.request.printer = parser.value(switches.printer);
+    if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
+        return Switches::emptyPrinter();
+    return {};
+}
+
+} // namespace
+
+ParsedCommandLine parseCommandLine(const QStringList& arguments)
+{
+    const Switches switches;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(Switches::about());
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
+                       switches.noDialog, switches.dryRun, switches.listPapers, switches.refresh});
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
+    if (!parser.parse(arguments))
+        return wrong(parser.errorText() + QLatin1Char(' ') + Switches::seeHelp());
+    if (parser.isSet(help))
+        return {std::nullopt, parser.helpText(), kExitPrinted};
+    if (parser.isSet(version))
+        return {std::nullopt,
+                QCoreApplication::applicationName() + QLatin1Char(' ') +
+                    QCoreApplication::applicationVersion(),
+                kExitPrinted};
+    CommandLine line;
+    line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
+    line.dryRun = parser.isSet(switches.dryRun);
+    QStringList remarks;
+    QString problem = readValues(parser, switches, line);
+    if (problem.isEmpty())
+        problem = readBackLines(parser.values(switches.backprint), line, remarks);
+    if (!problem.isEmpty())
+        return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
+    line.request.files = parser.positionalArguments();
+    if (parser.isSet(switches.listPapers)) {
+        line.listPapers = ListPapersRequest{line.request.printer, parser.isSet(switches.refresh)};
+        if (!isListOnly(parser, switches, line))
+            return wrong(Switches::listAndPrint() + QLatin1Char(' ') + Switches::seeHelp());
+        return {line, {}, kExitPrinted};
+    }
+    if (parser.isSet(switches.refresh))
+        return wrong(Switches::refreshAlone() + QLatin1Char(' ') + Switches::seeHelp());
+    if (line.request.files.isEmpty())
+        return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
+    for (const QString& path : line.request.files) {
+        const QString unusable = fileProblem(path);
+        if (!unusable.isEmpty())
+            return wrong(unusable, kExitFailed);
+    }
+    return {line, {}, kExitPrinted, remarks};
+}
+
+} // namespace halvern

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "dialog/program/list_papers.h"
+#include "dialog/session/dialog_session.h"
+
+#include <optional>
+
+namespace halvern {
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    SessionRequest request;
+    bool showDialog = true;
+    bool dryRun = false;                              ///< say what would be sent, and send nothing
+    std::optional<ListPapersRequest> listPapers = {}; ///< list them and do nothing else
+};
+
+/// How the program ends.
+enum ExitStatus { kExitPrinted = 0, kExitFailed = 1, kExitUsage = 2, kExitUnfinished = 3 };
+
+/// A command line, or what to say and the status to end with.
+struct ParsedCommandLine {
+    std::optional<CommandLine> commandLine;
+    QString text;
+    int status = kExitPrinted;
+    QStringList remarks = {}; ///< what to say about a command line that is carried out all the same
+};
+
+/// Reads the arguments; the first is the program's name. Looks at the files too, but decodes none.
+ParsedCommandLine parseCommandLine(const QStringList& arguments);
+
+} // namespace halvern

@@ -1,0 +1,155 @@
+#include "dialog/program/paper_table.h"
+
+#include "platform/printing/ppd.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+#include <unicode/uchar.h>
+
+namespace halvern {
+
+namespace {
+
+constexpr qint64 kMinute = 60;
+constexpr qint64 kHour = 60 * kMinute;
+constexpr qint64 kDay = 24 * kHour;
+
+struct TableWords {
+    Q_DECLARE_TR_FUNCTIONS(ListPapers)
+};
+
+using Row = std::array<QString, 4>;
+
+QString ageText(qint64 seconds)
+{
+    if (seconds < kMinute)
+        return TableWords::tr("just now");
+    if (seconds < 2 * kHour)
+        return TableWords::tr("%1 min ago").arg(seconds / kMinute);
+    if (seconds < 2 * kDay)
+        return TableWords::tr("%1 h ago").arg(seconds / kHour);
+    return TableWords::tr("%1 days ago").arg(seconds / kDay);
+}
+
+// A choice's text by its keyword, or by its place in the menu.
+class ChoiceTexts {
+public:
+    ChoiceTexts(ppd_file_t* file, const QString& option, const std::function<QString(const QString&)>& words)
+        : choices_(ppd::choices(file, option).value_or(QList<ppd::Choice>())), words_(words)
+    {
+    }
+
+    QString ofKeyword(const QString& keyword) const
+    {
+        for (const ppd::Choice& choice : choices_) {
+            if (choice.keyword == keyword)
+                return words_(choice.text);
+        }
+        return keyword;
+    }
+
+    QString ofPlace(int place) const
+    {
+        return place < choices_.size() ? words_(choices_[place].text) : QString();
+    }
+
+private:
+    QList<ppd::Choice> choices_;
+    const std::function<QString(const QString&)>& words_;
+};
+
+QString resolutionsText(QList<int> dotsPerInch)
+{
+    std::sort(dotsPerInch.begin(), dotsPerInch.end());
+    QStringList texts;
+    for (const int dpi : dotsPerInch)
+        texts.append(QString::number(dpi));
+    return texts.join(QStringLiteral(", ")) + QStringLiteral(" dpi");
+}
+
+// What a terminal would act on has no place in a name.
+QString printable(QString text)
+{
+    for (QChar& character : text) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+// Columns of a terminal: Chinese and Japanese characters take two, combining ones none.
+qsizetype columnsOf(const QString& text)
+{
+    qsizetype columns = 0;
+    for (const uint character : text.toUcs4()) {
+        const int width = u_getIntPropertyValue(UChar32(character), UCHAR_EAST_ASIAN_WIDTH);
+        if (width == U_EA_WIDE || width == U_EA_FULLWIDTH)
+            columns += 2;
+        else if (!QChar::isMark(character))
+            ++columns;
+    }
+    return columns;
+}
+
+QString aligned(const QList<Row>& rows)
+{
+    std::array<qsizetype, 4> widths{};
+    for (const Row& row : rows) {
+        for (size_t i = 0; i < row.size(); ++i)
+            widths[i] = std::max(widths[i], columnsOf(row[i]));
+    }
+    QString table;
+    for (const Row& row : rows) {
+        QString line;
+        for (size_t i = 0; i < row.size(); ++i)
+            line += row[i] + QString(widths[i] + 2 - columnsOf(row[i]), QLatin1Char(' '));
+        while (line.endsWith(QLatin1Char(' ')))
+            line.chop(1);
+        table += line + QLatin1Char('\n');
+    }
+    return table;
+}
+
+} // namespace
+
+QString paperHeading(const QString& queue, const LoadedPapers& loaded, const QDateTime& now)
+{
+    if (!loaded.lastUpdate)
+        return TableWords::tr("%1: last updated never").arg(queue);
+    const QString when = loaded.lastUpdate->toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+    return TableWords::tr("%1: last updated %2 (%3)")
+        .arg(queue, when, ageText(loaded.lastUpdate->secsTo(now)));
+}
+
+QString paperTable(const LoadedPapers& loaded, ppd_file_t* file,
+                   const std::function<QString(const QString&)>& words)
+{
+    const ChoiceTexts surfaces(file, QStringLiteral("PaperSurface"), words);
+    const ChoiceTexts tones(file, QStringLiteral("PaperTone"), words);
+    QList<Row> rows;
+    for (const bool rolls : {false, true}) {
+        bool isFirst = true;
+        for (const LoadedPaper& paper : loaded.papers) {
+            if (paper.isRoll() != rolls)
+                continue;
+            if (std::exchange(isFirst, false))
+                rows.append({rolls ? TableWords::tr("Roll") : TableWords::tr("Sheet"),
+                             TableWords::tr("Surface"), TableWords::tr("Resolution"),
+                             TableWords::tr("Tones")});
+            QStringList toneTexts;
+            for (const int place : paper.tones) {
+                if (const QString text = tones.ofPlace(place); !text.isEmpty())
+                    toneTexts.append(text);
+            }
+            rows.append(
+                {printable(rolls ? paper.width : paper.sheetName),
+                 paper.surface.isEmpty() ? QStringLiteral("-") : printable(surfaces.ofKeyword(paper.surface)),
+                 resolutionsText(paper.dotsPerInch), toneTexts.join(QStringLiteral(", "))});
+        }
+    }
+    return aligned(rows);
+}
+
+} // namespace halvern

@@ -1,0 +1,138 @@
+#include "dialog/server/printer_list.h"
+
+#include "dialog/job/job_status.h"
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kRefreshMilliseconds = 4000;
+constexpr int kDiscoveryMilliseconds = 3000;
+
+QString words(const char* text)
+{
+    return QCoreApplication::translate("PrinterState", text);
+}
+
+} // namespace
+
+QString stateText(const PrinterInfo& printer)
+{
+    QString state = words(QT_TRANSLATE_NOOP("PrinterState", "Ready"));
+    if (!printer.isAccepting)
+        state = words(QT_TRANSLATE_NOOP("PrinterState", "Does not accept jobs"));
+    else if (printer.state == PrinterState::stopped)
+        state = words(QT_TRANSLATE_NOOP("PrinterState", "Paused"));
+    else if (printer.state == PrinterState::processing)
+        state = words(QT_TRANSLATE_NOOP("PrinterState", "Printing"));
+    else if (printer.isDiscovered)
+        state = words(QT_TRANSLATE_NOOP("PrinterState", "Found on the network"));
+    QStringList reasons;
+    for (const QString& reason : printer.reasons) {
+        const QString text = reasonText(reason);
+        if (!text.isEmpty() && reason != QLatin1StringView("paused") && !reasons.contains(text))
+            reasons.append(text);
+    }
+    return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
+}
+
+QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers)
+{
+    QStringList names;
+    for (const PrinterInfo& printer : printers)
+        names.append(printer.name);
+    if (names.isEmpty())
+        return QCoreApplication::translate(
+            "BatchPrint", "The print server has no printers. Add one, for example with lpadmin.");
+    return QCoreApplication::translate("BatchPrint", "The print server has no printer \"%1\". It has: %2.")
+        .arg(name, names.join(QStringLiteral(", ")));
+}
+
+PrinterList::PrinterList(QObject* parent) : QObject(parent), stop_(cups::makeCancelFlag())
+{
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, &PrinterList::refresh);
+}
+
+PrinterList::~PrinterList()
+{
+    stop_->store(true);
+}
+
+void PrinterList::start()
+{
+    refresh();
+    discover();
+}
+
+void PrinterList::refresh()
+{
+    if (isAsking_)
+        return;
+    isAsking_ = true;
+    QPointer<PrinterList> self(this);
+    WorkQueue().async([self, stop = stop_] {
+        PrinterAnswer answer = askPrinters(stop);
+        mainQueue().async([self, answer = std::move(answer)] {
+            if (self)
+                self->take(answer);
+        });
+    });
+}
+
+void PrinterList::discover()
+{
+    QPointer<PrinterList> self(this);
+    WorkQueue().async([self, stop = stop_] {
+        std::vector<PrinterInfo> found = discoverPrinters(kDiscoveryMilliseconds, stop);
+        mainQueue().async([self, found = std::move(found)] {
+            if (!self || found.empty())
+                return;
+            self->discovered_ = found;
+            self->merge();
+            Q_EMIT self->changed();
+        });
+    });
+}
+
+void PrinterList::take(PrinterAnswer answer)
+{
+    isAsking_ = false;
+    timer_.start(kRefreshMilliseconds);
+    const bool isFirst = !hasAnswer_;
+    hasAnswer_ = true;
+    // A server that fails for a moment does not empty the list.
+    const bool isSame =
+        answer.problem == problem_ && (!answer.problem.isEmpty() || answer.printers == queues_);
+    problem_ = answer.problem;
+    if (problem_.isEmpty()) {
+        queues_ = std::move(answer.printers);
+        serverDefault_ = answer.defaultName;
+        merge();
+    }
+    if (isFirst || !isSame)
+        Q_EMIT changed();
+}
+
+void PrinterList::merge()
+{
+    printers_ = queues_;
+    for (const PrinterInfo& printer : discovered_) {
+        if (!find(printer.name))
+            printers_.push_back(printer);
+    }
+}
+
+const PrinterInfo* PrinterList::find(const QString& name) const
+{
+    const auto found = std::ranges::find_if(printers_, [&](const PrinterInfo& p) { return p.name == name; });
+    return found == printers_.end() ? nullptr : &*found;
+}
+
+} // namespace halvern

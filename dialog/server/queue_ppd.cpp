@@ -1,0 +1,105 @@
+#include "dialog/server/queue_ppd.h"
+
+#include "platform/printing/cups_ppd.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace halvern {
+
+namespace {
+
+constexpr char kDefaultEnding[] = "-default";
+
+QString words(const char* text)
+{
+    return QCoreApplication::translate("Server", text);
+}
+
+void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
+{
+    QStringList all;
+    for (int i = 0; i < ippGetCount(names); ++i)
+        all.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
+    const QString sheets = all.join(QLatin1Char(','));
+    if (sheets != QLatin1StringView("none,none") && sheets != QLatin1StringView("none"))
+        result.jobSheets = sheets;
+}
+
+// What the queue says about itself beside its PPD. The server has defaults of its own, too: those are in
+// small letters, the options of a printer's maker are not.
+void readQueue(ipp_t* answer, QueuePpd& result)
+{
+    for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        const QString name = QString::fromUtf8(ippGetName(a));
+        const bool isTruth = ippGetValueTag(a) == IPP_TAG_BOOLEAN;
+        const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
+        if (!value || name.isEmpty())
+            continue;
+        if (name == QLatin1StringView("job-sheets-default")) {
+            readJobSheets(a, result);
+            continue;
+        }
+        if (name == QLatin1StringView("device-uri"))
+            result.deviceUri = QString::fromUtf8(value);
+        else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))
+            result.defaults.append(
+                {name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
+    }
+}
+
+} // namespace
+
+QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
+{
+    QueuePpd result;
+    cups::Connection server(cancelled);
+    if (!server.isConnected()) {
+        result.problem = server.error();
+        return result;
+    }
+    char path[1024] = "";
+    time_t modified = 0;
+    if (cupsGetPPD3(server.http(), queue.toUtf8().constData(), &modified, path, sizeof(path)) !=
+        HTTP_STATUS_OK) {
+        result.problem =
+            cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND
+                ? words(QT_TRANSLATE_NOOP("Server", "The printer \"%1\" has no description on the print "
+                                                    "server. Install it with a driver, or choose another "
+                                                    "printer."))
+                : words(QT_TRANSLATE_NOOP("Server", "The description of the printer \"%1\" cannot be "
+                                                    "fetched. Try again, or choose another printer."));
+        result.problem = result.problem.arg(queue);
+        return result;
+    }
+    // Without an answer the queue has none of it: nothing to keep anybody from printing.
+    if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
+        readQueue(answer.get(), result);
+    QString why;
+    ppd::File file = ppd::open(QFile::decodeName(path), &why);
+    QFile::remove(QFile::decodeName(path));
+    if (file)
+        result.file = std::make_shared<ppd::File>(std::move(file));
+    else
+        result.problem =
+            words(QT_TRANSLATE_NOOP("Server", "The description of the printer \"%1\" is damaged: %2. "
+                                              "Install its driver again, or choose another printer."))
+                .arg(queue, why);
+    return result;
+}
+
+QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled)
+{
+    // The server waits for the printer's own answers.
+    cups::Connection server(cancelled, 30);
+    cups::Ipp request = cups::newRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER, {});
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr,
+                 name.toUtf8().constData());
+    ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_URI, "device-uri", nullptr,
+                 deviceUri.toUtf8().constData());
+    const cups::Ipp answer = server.request(std::move(request), "/");
+    return server.failed(answer) ? server.error() : QString();
+}
+
+} // namespace halvern

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "dialog/server/cups_connection.h"
+#include "dialog/server/saved_options.h"
+#include "platform/printing/ppd.h"
+
+namespace halvern {
+
+/// A queue's PPD as fetched and parsed, or the sentence that says why there is none.
+struct QueuePpd {
+    std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
+    QString deviceUri;               ///< empty if the queue has none
+    /// What the administrator set for the queue beside the PPD, for keywords that the PPD does not list.
+    OptionValues defaults;
+    QString jobSheets; ///< the banner pages that the queue adds by itself; empty if none
+    QString problem;
+};
+
+/// Fetches the PPD of a queue and parses it, on the calling worker. The file belongs to whoever takes it out.
+QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled);
+
+/// Makes a queue for a printer that was found on the network, on the calling worker. The sentence about a
+/// failure, empty on success.
+QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled);
+
+} // namespace halvern

@@ -1,0 +1,357 @@
+#include "dialog/session/dialog_session.h"
+
+#include "dialog/options/back_lines.h"
+#include "platform/foundation/threads/work_queue.h"
+#include "platform/printing/page_format.h"
+#include "platform/printing/print_settings.h"
+#include "platform/printing/printer.h"
+
+#include <QFileInfo>
+#include <QPointer>
+
+namespace halvern {
+
+using ppd_lookup::NumberReading;
+
+namespace {
+
+constexpr int kUsualResolution = 300;
+constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
+
+PageRect toPageRect(const QRectF& rect)
+{
+    return {rect.top(), rect.left(), rect.bottom(), rect.right()};
+}
+
+} // namespace
+
+DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObject* parent)
+    : QObject(parent),
+      request_(std::move(request)),
+      panelSource_(panels),
+      saved_(readSavedOptions()),
+      printers_(new PrinterList(this)),
+      settings_(std::make_shared<PrintSettings>()),
+      stopFetching_(cups::makeCancelFlag()),
+      stopAll_(cups::makeCancelFlag())
+{
+    page_.copies = request_.copies;
+    filesLeft_ = int(request_.files.size());
+    connect(printers_, &PrinterList::changed, this, &DialogSession::takePrinters);
+}
+
+DialogSession::~DialogSession()
+{
+    stopAll_->store(true);
+    leavePrinter();
+}
+
+void DialogSession::start()
+{
+    printers_->start();
+    // A known name need not wait for the list.
+    const QString known = request_.printer.isEmpty() ? saved_.defaultPrinter : request_.printer;
+    if (!known.isEmpty())
+        selectPrinter(known);
+    QPointer<DialogSession> self(this);
+    const WorkQueue queue;
+    for (const QString& path : request_.files) {
+        queue.async([self, path, stop = stopAll_] {
+            if (stop->load())
+                return;
+            PhotoFile file = readPhotoFile(path);
+            mainQueue().async([self, file = std::move(file)] {
+                if (self)
+                    self->takePhotoFile(file);
+            });
+        });
+    }
+}
+
+void DialogSession::takePhotoFile(const PhotoFile& file)
+{
+    --filesLeft_;
+    photos_.insert(photos_.end(), file.pages.begin(), file.pages.end());
+    if (!file.problem.isEmpty())
+        Q_EMIT photoFailed(file.problem);
+    Q_EMIT photosChanged();
+}
+
+void DialogSession::takePrinters()
+{
+    if (!printerName_.isEmpty() || printers_->printers().empty())
+        return;
+    const QString standard = printers_->serverDefault();
+    selectPrinter(printers_->find(standard) ? standard : printers_->printers().front().name);
+}
+
+void DialogSession::selectPrinter(const QString& name)
+{
+    if (name == printerName_ && model_)
+        return;
+    stopFetching_->store(true);
+    leavePrinter();
+    printerName_ = name;
+    stopFetching_ = cups::makeCancelFlag();
+    Q_EMIT printerSelected(name);
+    const PrinterInfo* info = printers_->find(name);
+    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
+    QPointer<DialogSession> self(this);
+    WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
+        QueuePpd ppd;
+        if (!newQueueUri.isEmpty())
+            ppd.problem = createLocalQueue(name, newQueueUri, stop);
+        if (ppd.problem.isEmpty())
+            ppd = fetchQueuePpd(name, stop);
+        mainQueue().async([self, name, ppd = std::move(ppd), stop] {
+            if (self && !stop->load())
+                self->takePpd(name, ppd);
+        });
+    });
+}
+
+void DialogSession::leavePrinter()
+{
+    if (!panels_.empty() || model_)
+        Q_EMIT printerLeaving();
+    // Nothing is asked of the printer any more, and what is asked is taken back, before it is out of reach.
+    for (const std::shared_ptr<Panel>& panel : PanelList(panels_))
+        panel->shouldHide();
+    if (host_)
+        host_->detach();
+    panels_.clear();
+    host_.reset();
+    model_.reset();
+    // New ones, not emptied ones: no value and no lock of the old printer's is left.
+    settings_ = std::make_shared<PrintSettings>();
+    beforeLastChange_.clear();
+    backLinesProblem_.clear();
+}
+
+void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
+{
+    if (!ppd.file) {
+        Q_EMIT printerFailed(ppd.problem);
+        return;
+    }
+    model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
+    model_->setWords([this](const QString& text) {
+        return panels_.empty() ? text : panelSource_.localized(bundleName_, text);
+    });
+    // Not from the list, which may come later: a panel asks once and remembers.
+    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
+                                   model_->sharedFile(), request_.panelsAskPrinter);
+    applyOptions(ppd.defaults, ppd.jobSheets);
+    loadPanels();
+    Q_EMIT printerReady();
+    Q_EMIT optionsChanged();
+}
+
+void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
+{
+    const QMap<QString, QString> byDefault = model_->values();
+    const OptionValues saved = queueDefaults + saved_.byPrinter.value(printerName_);
+    for (const QString& sentence : model_->apply(inPpdTerms(saved)))
+        Q_EMIT notice(tr("A saved setting was left out. %1").arg(sentence));
+    const QStringList refusals = model_->apply(inPpdTerms(request_.options));
+    for (const QString& sentence : refusals)
+        Q_EMIT refused(sentence);
+    applyBackLines();
+    // What the queue would add by itself is the panels' to see and to change.
+    if (!queueJobSheets.isEmpty())
+        settings_->setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
+    // A panel that looks at the settings only, and not at the marks, must find what was chosen before it
+    // came: it would save the PPD's default over it.
+    const QMap<QString, QString> values = model_->values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (model_->isKept(it.key()) || byDefault.value(it.key()) != it.value())
+            settings_->setValue(it.key(), it.value(), false);
+    }
+}
+
+void DialogSession::applyBackLines()
+{
+    for (int number = 1; number <= request_.backLines.size(); ++number) {
+        if (model_->value(backLineSwitch(number)).isEmpty()) {
+            backLinesProblem_ = tr("The printer \"%1\" prints no text on the back of a picture. Leave "
+                                   "--backprint out, or choose another printer.")
+                                    .arg(printerName_);
+            Q_EMIT refused(backLinesProblem_);
+            return;
+        }
+    }
+    for (const OptionValue& option : backLineOptions(request_.backLines)) {
+        const QString before = model_->value(option.key);
+        const ChangeResult result = model_->change(option.key, option.value);
+        if (!result.accepted) {
+            backLinesProblem_ = result.refusal;
+            Q_EMIT refused(result.refusal);
+        }
+        rememberForUndo(option.key, before, result.sideChanges);
+    }
+}
+
+void DialogSession::loadPanels()
+{
+    const std::optional<QString> bundle =
+        ppd::attribute(model_->file(), QString::fromLatin1(kExtensionKeyword));
+    if (!bundle || bundle->isEmpty())
+        return;
+    QString problem;
+    bundleName_ = *bundle;
+    panels_ = panelSource_.panels(*bundle, host_, &problem);
+    if (!problem.isEmpty())
+        Q_EMIT notice(problem);
+    // A restoring panel may ask for changes, which walk this list.
+    const PanelList restoring = panels_;
+    for (const std::shared_ptr<Panel>& panel : restoring)
+        panel->restoreValuesAndReturnError(nullptr);
+}
+
+void DialogSession::setPage(const PageSettings& page)
+{
+    page_ = page;
+    Q_EMIT optionsChanged();
+}
+
+PageLayout DialogSession::layoutFor(const Photo& photo) const
+{
+    SheetGeometry sheet{QSizeF(595.28, 841.89), QRectF(0.0, 0.0, 595.28, 841.89)};
+    if (model_)
+        sheet = model_->sheet();
+    return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
+}
+
+Look DialogSession::look() const
+{
+    if (!model_)
+        return {};
+    const QMap<QString, QString> values = model_->values();
+    return {adjust::colorAdjustments(values), adjust::sharpening(values)};
+}
+
+int DialogSession::resolution() const
+{
+    return model_ ? model_->resolution() : kUsualResolution;
+}
+
+ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)
+{
+    const QString before = model_->value(key);
+    ChangeResult result = model_->change(key, value, reading);
+    if (!result.accepted) {
+        Q_EMIT refused(result.refusal);
+        return result;
+    }
+    storeInSettings(key);
+    for (const SideChange& side : result.sideChanges) {
+        storeInSettings(side.key);
+        tellPanels(side.key, side.choice);
+    }
+    rememberForUndo(key, before, result.sideChanges);
+    Q_EMIT optionsChanged();
+    return result;
+}
+
+void DialogSession::rememberForUndo(const QString& key, const QString& before,
+                                    const QList<SideChange>& changes)
+{
+    if (changes.isEmpty()) {
+        if (beforeLastChange_.contains(key)) {
+            beforeLastChange_.clear();
+            Q_EMIT undoExpired();
+        }
+        return;
+    }
+    beforeLastChange_ = {{key, before}};
+    for (const SideChange& change : changes)
+        beforeLastChange_.insert(change.key, change.before);
+    Q_EMIT otherOptionsChanged(changes);
+}
+
+void DialogSession::storeInSettings(const QString& key)
+{
+    settings_->setValue(key, model_->isKept(key) ? QVariant(model_->value(key)) : QVariant(), false);
+}
+
+void DialogSession::tellPanels(const QString& key, const QString& choice)
+{
+    // Later, because a panel that asked for the change stores its own choice only after our answer.
+    QPointer<DialogSession> self(this);
+    mainQueue().async([self, host = host_, key, choice] {
+        if (!self || self->host_ != host)
+            return;
+        const PanelList told = self->panels_;
+        for (const std::shared_ptr<Panel>& panel : told)
+            panel->PPDOptionKeyValueDidChange_ppdChoice(key, choice);
+    });
+}
+
+bool DialogSession::changeOption(const QString& key, const QVariant& value)
+{
+    if (!model_ || !change(key, value, NumberReading::whole).accepted)
+        return false;
+    tellPanels(key, model_->value(key));
+    return true;
+}
+
+void DialogSession::undoLastChange()
+{
+    if (!model_ || beforeLastChange_.isEmpty())
+        return;
+    const QMap<QString, QString> before = std::exchange(beforeLastChange_, {});
+    model_->restore(before);
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        storeInSettings(it.key());
+        tellPanels(it.key(), it.value());
+    }
+    Q_EMIT optionsChanged();
+}
+
+ppd_file_t* DialogSession::hostPpdFile()
+{
+    return model_ ? model_->file() : nullptr;
+}
+
+bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
+{
+    // Panels ask at every keystroke.
+    return model_ && request_.panelsChangeOptions && change(key, choice, NumberReading::leading).accepted;
+}
+
+std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
+{
+    if (!model_)
+        return nullptr;
+    const SheetGeometry sheet = model_->sheet();
+    const bool turned =
+        photos_.empty() ? page_.turn == PageTurn::landscape : layoutFor(photos_.front()).turned;
+    return std::make_shared<PageFormat>(toPageRect(QRectF(QPointF(), sheet.paper)),
+                                        toPageRect(sheet.imageable),
+                                        turned ? PageOrientation::landscape : PageOrientation::portrait);
+}
+
+bool DialogSession::canPrint() const
+{
+    return model_ && filesLeft_ == 0 && !photos_.empty();
+}
+
+OptionValues DialogSession::collectOptions()
+{
+    const PanelList saving = panels_;
+    for (const std::shared_ptr<Panel>& panel : saving)
+        panel->saveValuesAndReturnError(nullptr);
+    return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
+                            page_.copies, model_ != nullptr});
+}
+
+PrintRun* DialogSession::makeRun()
+{
+    JobRequest job{printerName_, QFileInfo(photos_.front().path).fileName(), {}, collectOptions()};
+    std::vector<PageToPrint> pages;
+    for (const Photo& photo : photos_)
+        pages.push_back({photo, layoutFor(photo)});
+    return new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
+}
+
+} // namespace halvern

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "dialog/job/job_options.h"
+#include "dialog/job/print_run.h"
+#include "dialog/options/ppd_model.h"
+#include "dialog/page/page_renderer.h"
+#include "dialog/preview/screen_photo.h"
+#include "dialog/server/printer_list.h"
+#include "dialog/server/queue_ppd.h"
+#include "dialog/session/panel_host.h"
+#include "dialog/session/panel_source.h"
+
+#include <QObject>
+
+namespace halvern {
+
+/// What the user sets beside the printer's options.
+struct PageSettings {
+    Scaling scaling = Scaling::fit;
+    PageTurn turn = PageTurn::automatic;
+    QPointF position{0.5, 0.5};
+    int copies = 1;
+};
+
+inline constexpr int kMostCopies = 999;
+
+/// What a session starts with.
+struct SessionRequest {
+    QString printer;      ///< empty: the user's or the server's default
+    OptionValues options; ///< typed on the command line
+    QStringList files;
+    int copies = 1;
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
+    /// sends it command jobs.
+    bool panelsAskPrinter = true;
+    /// Whether somebody is at the panels. Without a user they change no options: one that knows no papers yet
+    /// would settle on a feed of its own.
+    bool panelsChangeOptions = true;
+    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
+};
+
+/// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
+/// thread only; what blocks is done by workers.
+class DialogSession : public QObject, public HostSource {
+    Q_OBJECT
+
+public:
+    /// `panels` outlives the session.
+    DialogSession(SessionRequest request, PanelSource& panels, QObject* parent = nullptr);
+    ~DialogSession() override;
+
+    /// Starts to load photos and printers.
+    void start();
+
+    PrinterList& printerList() { return *printers_; }
+
+    const QString& printerName() const { return printerName_; }
+
+    const std::vector<Photo>& photos() const { return photos_; }
+
+    /// Whether all files have been read.
+    bool hasPhotos() const { return filesLeft_ == 0; }
+
+    /// Null while no printer's PPD is there.
+    PpdModel* model() { return model_.get(); }
+
+    const PanelList& panels() const { return panels_; }
+
+    bool hasCustomPanels() const { return !panels_.empty(); }
+
+    /// Selects a queue and fetches its PPD; printerReady() or printerFailed() follows. Selecting the selected
+    /// one again does nothing.
+    void selectPrinter(const QString& name);
+
+    const PageSettings& page() const { return page_; }
+
+    void setPage(const PageSettings& page);
+
+    /// The layout of a photo on the current sheet.
+    PageLayout layoutFor(const Photo& photo) const;
+
+    /// What the printer's adjustments do to the photos, from the options' current values.
+    Look look() const;
+
+    /// The printer's dots per inch.
+    int resolution() const;
+
+    /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
+    /// why.
+    bool changeOption(const QString& key, const QVariant& value);
+
+    /// Takes the last change that changed other options too back, with those. Nothing happens once one of
+    /// them has been changed again.
+    void undoLastChange();
+
+    /// Whether print() would do something.
+    bool canPrint() const;
+
+    /// Why the request's lines for the back cannot be printed on the selected printer; empty if they can, or
+    /// if there are none.
+    const QString& backLinesProblem() const { return backLinesProblem_; }
+
+    /// Lets the panels save and merges the job's options.
+    OptionValues collectOptions();
+
+    /// Makes the run for the current pages; the caller starts it. Owned by the session. Call canPrint()
+    /// first.
+    PrintRun* makeRun();
+
+    // What the panels' callback object asks.
+    ppd_file_t* hostPpdFile() override;
+    bool hostWillChange(const QString& key, const QVariant& choice) override;
+
+    std::shared_ptr<PrintSettings> hostPrintSettings() override { return settings_; }
+
+    std::shared_ptr<PageFormat> hostPageFormat() override;
+
+Q_SIGNALS:
+    void photosChanged();
+    /// A file could not be read; a sentence.
+    void photoFailed(const QString& sentence);
+    /// The old printer's panels are about to go; their views must be handed back.
+    void printerLeaving();
+    void printerSelected(const QString& name);
+    void printerReady();
+    void printerFailed(const QString& sentence);
+    /// Something to tell about the printer that does not keep it from printing.
+    void notice(const QString& sentence);
+    void refused(const QString& sentence);
+    /// A resolver has changed other options too.
+    void otherOptionsChanged(const QList<halvern::SideChange>& changes);
+    /// undoLastChange() would do nothing any more.
+    void undoExpired();
+    /// Option values or the page have changed.
+    void optionsChanged();
+
+private:
+    void takePrinters();
+    void takePpd(const QString& name, const QueuePpd& ppd);
+    void takePhotoFile(const PhotoFile& file);
+    void leavePrinter();
+    void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
+    void applyBackLines();
+    void loadPanels();
+    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
+    void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
+    void storeInSettings(const QString& key);
+    void tellPanels(const QString& key, const QString& choice);
+
+    SessionRequest request_;
+    PanelSource& panelSource_;
+    SavedOptions saved_;
+    PrinterList* printers_;
+    QString printerName_;
+    std::unique_ptr<PpdModel> model_;
+    std::shared_ptr<PrintSettings> settings_;
+    std::shared_ptr<Host> host_;
+    PanelList panels_;
+    QString bundleName_; // of the panels
+    PageSettings page_;
+    std::vector<Photo> photos_;
+    int filesLeft_ = 0;
+    QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
+    QString backLinesProblem_;
+    cups::CancelFlag stopFetching_;
+    cups::CancelFlag stopAll_;
+};
+
+} // namespace halvern

@@ -1,0 +1,292 @@
+#include "dialog/window/panel_deck.h"
+
+#include "dialog/window/options_page.h"
+#include "dialog/window/paper_page.h"
+#include "panels/backprint/text/backprint_text.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+const QString kPage = QStringLiteral("page");
+const QString kOptions = QStringLiteral("options");
+const QString kSummary = QStringLiteral("summary");
+
+// The list of pages is as wide as its longest title wants it, within these.
+constexpr int kLeastListWidth = 146;
+constexpr int kMostListWidth = 200;
+// Wide enough for the pages that photographers use most, so that the preview keeps its size between them.
+constexpr int kUsualPageWidth = 502;
+constexpr int kTitleMargin = 9;
+
+// Leaves a little room before the titles.
+QIcon indent()
+{
+    QPixmap nothing(4, 4);
+    nothing.fill(Qt::transparent);
+    return nothing;
+}
+
+QString tableRow(const QString& name, const QString& value)
+{
+    return QStringLiteral(
+               "<tr><td style='padding:3px 18px 3px 0'>%1</td><td style='padding:3px 0'><b>%2</b></td></tr>")
+        .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
+}
+
+// A line for the back of the picture is kept in the form that travels, and read in the one that prints.
+QString asRead(const QString& key, const QString& value)
+{
+    return key.startsWith(QLatin1StringView("CVP")) ? backprint::stringWithUnsafeCharacters(value) : value;
+}
+
+// A panel tells the choices that the PPD lists; a value of the user's own has no words there, and is told as
+// it is.
+QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
+{
+    QMap<QString, QString> lines = panel.summaryInfo();
+    const PpdModel* model = session.model();
+    if (!model)
+        return lines;
+    for (const QString& key : panel.supportedPPDOptionKeys()) {
+        const QString value = model->kept().value(key);
+        const QString title = model->optionText(key);
+        if (!value.isEmpty() && !lines.contains(title))
+            lines.insert(title, asRead(key, value));
+    }
+    return lines;
+}
+
+} // namespace
+
+PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
+    : QWidget(parent),
+      session_(session),
+      list_(new QListWidget(this)),
+      area_(new QScrollArea(this)),
+      empty_(new QWidget(this)),
+      page_(new PagePage(session, this)),
+      options_(new OptionsPage(session, this)),
+      summary_(new QLabel(this))
+{
+    list_->setObjectName(QStringLiteral("pageList"));
+    list_->setAccessibleName(tr("Pages of options"));
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setSpacing(2);
+    list_->setIconSize(QSize(4, 4));
+    area_->setObjectName(QStringLiteral("pageArea"));
+    area_->setWidgetResizable(true);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area_->viewport()->setAutoFillBackground(false);
+    summary_->setObjectName(QStringLiteral("summaryPage"));
+    summary_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    summary_->setMargin(9);
+    summary_->setTextFormat(Qt::RichText);
+    summary_->setWordWrap(true);
+    summary_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    for (QWidget* page : {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_),
+                          static_cast<QWidget*>(summary_), empty_})
+        page->hide();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(14);
+    row->addWidget(list_);
+    row->addWidget(area_, 1);
+    connect(list_, &QListWidget::currentRowChanged, this, &PanelDeck::showRow);
+    rebuild();
+}
+
+Panel* PanelDeck::panelFor(const QString& identifier) const
+{
+    for (const std::shared_ptr<Panel>& panel : session_.panels()) {
+        if (panel->panelKind() == identifier)
+            return panel.get();
+    }
+    return nullptr;
+}
+
+void PanelDeck::addPage(const QString& identifier, const QString& title)
+{
+    auto* item = new QListWidgetItem(indent(), title, list_);
+    item->setData(Qt::UserRole, identifier);
+    // What the title wants, before a hint of our own replaces it.
+    const QModelIndex index = list_->model()->index(list_->count() - 1, 0);
+    const int wanted =
+        list_->sizeHintForIndex(index).width() + 2 * (list_->spacing() + list_->frameWidth()) + kTitleMargin;
+    list_->setFixedWidth(std::clamp(wanted, list_->minimumWidth(), kMostListWidth));
+    item->setSizeHint(QSize(0, fontMetrics().height() + 14));
+}
+
+void PanelDeck::rebuild()
+{
+    const QString current =
+        list_->currentItem() ? list_->currentItem()->data(Qt::UserRole).toString() : kPage;
+    releasePanels();
+    {
+        const QSignalBlocker quiet(list_);
+        list_->clear();
+        list_->setFixedWidth(kLeastListWidth);
+        addPage(kPage, tr("Page"));
+        for (const std::shared_ptr<Panel>& panel : session_.panels()) {
+            const QString kind = panel->panelKind().value_or(QString());
+            addPage(kind, panel->panelName().value_or(kind));
+        }
+        options_->rebuild();
+        if (!options_->isEmpty())
+            addPage(kOptions, session_.hasCustomPanels() ? tr("More Options") : tr("Options"));
+        addPage(kSummary, tr("Summary"));
+    }
+    if (!showPage(current))
+        showPage(kPage);
+}
+
+QStringList PanelDeck::identifiers() const
+{
+    QStringList all;
+    for (int i = 0; i < list_->count(); ++i)
+        all.append(list_->item(i)->data(Qt::UserRole).toString());
+    return all;
+}
+
+bool PanelDeck::showPage(const QString& identifier)
+{
+    const int row = int(identifiers().indexOf(identifier));
+    if (row < 0)
+        return false;
+    list_->setCurrentRow(row);
+    showRow(row);
+    return true;
+}
+
+bool PanelDeck::hideShownPanel()
+{
+    if (!shown_)
+        return true;
+    if (!shown_->shouldHide())
+        return false;
+    shown_ = nullptr;
+    return true;
+}
+
+QWidget* PanelDeck::viewFor(const QString& identifier)
+{
+    if (identifier == kPage)
+        return page_;
+    if (identifier == kOptions)
+        return options_;
+    if (identifier == kSummary)
+        return summary_;
+    Panel* panel = panelFor(identifier);
+    return panel ? panel->panelView() : nullptr;
+}
+
+void PanelDeck::showRow(int row)
+{
+    if (row == shownRow_ || row < 0)
+        return;
+    if (!hideShownPanel()) {
+        const QSignalBlocker quiet(list_);
+        list_->setCurrentRow(shownRow_);
+        return;
+    }
+    shownRow_ = row;
+    const QString identifier = list_->item(row)->data(Qt::UserRole).toString();
+    QWidget* view = viewFor(identifier);
+    takeShownView();
+    if (Panel* panel = panelFor(identifier); panel && view) {
+        shown_ = panel;
+        panel->willShow();
+    }
+    if (identifier == kSummary)
+        refreshSummary();
+    area_->setWidget(view ? view : empty_);
+    area_->widget()->show();
+    // A page is never cut at its side; the window grows when a panel needs more.
+    const int wanted = area_->widget()->minimumSizeHint().expandedTo(area_->widget()->minimumSize()).width();
+    area_->setMinimumWidth(std::max(
+        {area_->minimumWidth(), kUsualPageWidth, wanted + area_->verticalScrollBar()->sizeHint().width()}));
+    area_->verticalScrollBar()->setValue(0);
+}
+
+void PanelDeck::releasePanels()
+{
+    hideShownPanel();
+    shown_ = nullptr;
+    shownRow_ = -1;
+    takeShownView();
+}
+
+void PanelDeck::takeShownView()
+{
+    // A panel owns its view and must find it alive, so the area lets go of it; our own pages come back to us.
+    QWidget* before = area_->takeWidget();
+    if (!before)
+        return;
+    before->hide();
+    if (before == page_ || before == options_ || before == summary_ || before == empty_)
+        before->setParent(this);
+}
+
+void PanelDeck::pausePanels()
+{
+    const PanelList pausing = session_.panels();
+    for (const std::shared_ptr<Panel>& panel : pausing)
+        panel->shouldHide();
+}
+
+void PanelDeck::resumePanel()
+{
+    if (shown_)
+        shown_->willShow();
+}
+
+bool PanelDeck::showHelpOfShownPanel()
+{
+    return shown_ && !shown_->shouldShowHelp();
+}
+
+void PanelDeck::tellClosing(bool printing)
+{
+    if (toldClosing_)
+        return;
+    toldClosing_ = true;
+    for (const std::shared_ptr<Panel>& panel : session_.panels())
+        panel->printWindowWillClose(printing);
+}
+
+void PanelDeck::refresh()
+{
+    page_->refresh();
+    options_->refresh();
+    if (area_->widget() == summary_)
+        refreshSummary();
+}
+
+void PanelDeck::refreshSummary()
+{
+    QString rows;
+    for (const auto& [name, value] : ownSummary(session_))
+        rows += tableRow(name, value);
+    for (const std::shared_ptr<Panel>& panel : session_.panels()) {
+        const QMap<QString, QString> lines = panelSummary(session_, *panel);
+        if (lines.isEmpty())
+            continue;
+        rows += QStringLiteral("<tr><td colspan='2' style='padding-top:14px'><b>%1</b></td></tr>")
+                    .arg(panel->panelName().value_or(QString()).toHtmlEscaped());
+        for (auto it = lines.cbegin(); it != lines.cend(); ++it)
+            rows += tableRow(it.key(), it.value());
+    }
+    summary_->setText(QStringLiteral("<table>%1</table>").arg(rows));
+}
+
+} // namespace halvern

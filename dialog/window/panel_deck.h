@@ -1,0 +1,74 @@
+#pragma once
+
+#include "dialog/session/dialog_session.h"
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QScrollArea;
+class QStackedWidget;
+
+namespace halvern {
+
+class OptionsPage;
+class PagePage;
+
+/// The list of pages, the dialog's own and the panels', and the page that is shown. It keeps the protocol of
+/// showing and hiding panels. Main thread only.
+class PanelDeck : public QWidget {
+    Q_OBJECT
+
+public:
+    PanelDeck(DialogSession& session, QWidget* parent);
+
+    /// Fills the list for the session's printer.
+    void rebuild();
+
+    /// Takes the current values into the dialog's own pages and the summary.
+    void refresh();
+
+    /// Hides the shown panel and hands its view back, before the panels or this widget go.
+    void releasePanels();
+
+    /// Has all panels end what they do in the background, the shown one and those never shown, so that no
+    /// question to the printer stands before a job that is about to be sent.
+    void pausePanels();
+
+    /// Tells the shown panel that it is shown again, after saving or a pause has marked it as leaving.
+    void resumePanel();
+
+    /// Lets the shown panel open its help. False if no panel is shown or it leaves that to the dialog.
+    bool showHelpOfShownPanel();
+
+    /// Tells all panels, once, that the dialog closes.
+    void tellClosing(bool printing);
+
+    /// Shows the page with this identifier ("page", "options", "summary", or a panel's kind). False: no such
+    /// page.
+    bool showPage(const QString& identifier);
+
+    QStringList identifiers() const;
+
+private:
+    void addPage(const QString& identifier, const QString& title);
+    void showRow(int row);
+    bool hideShownPanel();
+    void takeShownView();
+    QWidget* viewFor(const QString& identifier);
+    Panel* panelFor(const QString& identifier) const;
+    void refreshSummary();
+
+    DialogSession& session_;
+    QListWidget* list_;
+    QScrollArea* area_;
+    QWidget* empty_;
+    PagePage* page_;
+    OptionsPage* options_;
+    QLabel* summary_;
+    Panel* shown_ = nullptr;
+    int shownRow_ = -1;
+    bool toldClosing_ = false;
+};
+
+} // namespace halvern

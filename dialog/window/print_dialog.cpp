@@ -1,0 +1,334 @@
+#include "dialog/window/print_dialog.h"
+
+#include "dialog/preview/preview_widget.h"
+#include "dialog/window/message_bar.h"
+#include "dialog/window/panel_deck.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+QFrame* makeLine(QWidget* parent)
+{
+    auto* line = new QFrame(parent);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    QPalette colours = line->palette();
+    colours.setColor(QPalette::WindowText, colours.color(QPalette::Mid));
+    line->setPalette(colours);
+    return line;
+}
+
+QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setArrowType(arrow);
+    button->setAutoRaise(true);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    return button;
+}
+
+QString itemText(const PrinterInfo& printer)
+{
+    return printer.info == printer.name ? printer.name
+                                        : QStringLiteral("%1  –  %2").arg(printer.name, printer.info);
+}
+
+} // namespace
+
+PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
+    : QDialog(parent), session_(session), message_(new MessageBar(this)), preview_(new PreviewWidget(this))
+{
+    setObjectName(QStringLiteral("printDialog"));
+    setWindowTitle(tr("Print"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* sides = new QHBoxLayout;
+    sides->setSpacing(0);
+    sides->addWidget(makePreviewSide(), 1);
+    sides->addWidget(makeControlSide(), 0);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(message_);
+    column->addLayout(sides, 1);
+    setMinimumSize(900, 600);
+    resize(1240, 780);
+    // The controls come first, although the preview stands first.
+    setTabOrder(print_, preview_);
+    setTabOrder(preview_, preview_->zoomButton());
+    makeShortcuts();
+    connectSession();
+    fillPrinters();
+    showPhotos();
+    updateButtons();
+}
+
+PrintDialog::~PrintDialog()
+{
+    disconnect(&session_, nullptr, this, nullptr);
+    deck_->releasePanels();
+}
+
+QWidget* PrintDialog::makePreviewSide()
+{
+    auto* side = new QWidget(this);
+    pager_ = new QWidget(side);
+    pageNumber_ = new QLabel(pager_);
+    pageNumber_->setObjectName(QStringLiteral("photoNumber"));
+    back_ = makeArrow(Qt::LeftArrow, tr("Previous photo"), pager_);
+    forward_ = makeArrow(Qt::RightArrow, tr("Next photo"), pager_);
+    auto* row = new QHBoxLayout(pager_);
+    row->addStretch();
+    row->addWidget(back_);
+    row->addWidget(pageNumber_);
+    row->addWidget(forward_);
+    row->addStretch();
+    connect(back_, &QToolButton::clicked, this, [this] { step(-1); });
+    connect(forward_, &QToolButton::clicked, this, [this] { step(1); });
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(preview_, 1);
+    column->addWidget(pager_);
+    connect(preview_, &PreviewWidget::positionChosen, this, [this](const QPointF& position) {
+        PageSettings page = session_.page();
+        page.position = position;
+        session_.setPage(page);
+    });
+    return side;
+}
+
+QWidget* PrintDialog::makeControlSide()
+{
+    auto* side = new QWidget(this);
+    side->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(20, 18, 20, 18);
+    column->setSpacing(14);
+    column->addLayout(makePrinterRows(side));
+    column->addWidget(makeLine(side));
+    deck_ = new PanelDeck(session_, side);
+    column->addWidget(deck_, 1);
+    column->addWidget(makeLine(side));
+    status_ = new QLabel(side);
+    status_->setObjectName(QStringLiteral("status"));
+    status_->setWordWrap(true);
+    status_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    status_->hide();
+    progress_ = new QProgressBar(side);
+    progress_->setObjectName(QStringLiteral("progress"));
+    progress_->setAccessibleName(tr("Progress of the print job"));
+    progress_->setTextVisible(false);
+    progress_->setFixedHeight(8);
+    progress_->hide();
+    column->addWidget(status_);
+    column->addWidget(progress_);
+    column->addLayout(makeButtonRow(side));
+    return side;
+}
+
+QLayout* PrintDialog::makePrinterRows(QWidget* parent)
+{
+    printer_ = new QComboBox(parent);
+    printer_->setObjectName(QStringLiteral("printer"));
+    printer_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    printer_->setMinimumContentsLength(24);
+    printer_->setMaxVisibleItems(20);
+    printerState_ = new QLabel(parent);
+    printerState_->setObjectName(QStringLiteral("printerState"));
+    printerState_->setWordWrap(true);
+    auto* label = new QLabel(tr("P&rinter:"), parent);
+    label->setBuddy(printer_);
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setHorizontalSpacing(14);
+    form->setVerticalSpacing(6);
+    form->addRow(label, printer_);
+    form->addRow(QString(), printerState_);
+    connect(printer_, &QComboBox::activated, this,
+            [this] { session_.selectPrinter(printer_->currentData().toString()); });
+    return form;
+}
+
+QLayout* PrintDialog::makeButtonRow(QWidget* parent)
+{
+    copies_ = new QSpinBox(parent);
+    copies_->setObjectName(QStringLiteral("copies"));
+    copies_->setRange(1, kMostCopies);
+    copies_->setValue(session_.page().copies);
+    auto* label = new QLabel(tr("C&opies:"), parent);
+    label->setBuddy(copies_);
+    cancel_ = new QPushButton(tr("Cancel"), parent);
+    cancel_->setObjectName(QStringLiteral("cancelButton"));
+    cancel_->setAutoDefault(false);
+    print_ = new QPushButton(tr("&Print"), parent);
+    print_->setObjectName(QStringLiteral("printButton"));
+    print_->setDefault(true);
+    for (QPushButton* button : {cancel_, print_})
+        button->setMinimumSize(104, 32);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addWidget(label);
+    row->addWidget(copies_);
+    row->addStretch();
+    row->addWidget(cancel_);
+    row->addWidget(print_);
+    connect(copies_, &QSpinBox::valueChanged, this, [this](int copies) {
+        PageSettings page = session_.page();
+        page.copies = copies;
+        session_.setPage(page);
+    });
+    connect(cancel_, &QPushButton::clicked, this, &PrintDialog::reject);
+    connect(print_, &QPushButton::clicked, this, &PrintDialog::print);
+    return row;
+}
+
+void PrintDialog::makeShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, auto slot) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, slot);
+    };
+    add(QKeySequence::Print, [this] { print_->click(); });
+    add(QKeySequence::Close, [this] { close(); });
+    add(QKeySequence::Quit, [this] { close(); });
+    add(QKeySequence::HelpContents, [this] { showHelp(); });
+    add(Qt::CTRL | Qt::Key_PageDown, [this] { step(1); });
+    add(Qt::CTRL | Qt::Key_PageUp, [this] { step(-1); });
+}
+
+void PrintDialog::connectSession()
+{
+    connect(&session_.printerList(), &PrinterList::changed, this, &PrintDialog::fillPrinters);
+    connect(&session_, &DialogSession::printerSelected, this, [this] {
+        message_->clear();
+        fillPrinters();
+        updateButtons();
+    });
+    connect(&session_, &DialogSession::printerLeaving, this, [this] { deck_->releasePanels(); });
+    connect(&session_, &DialogSession::printerReady, this, [this] {
+        deck_->rebuild();
+        updateButtons();
+    });
+    connect(&session_, &DialogSession::printerFailed, this, [this](const QString& sentence) {
+        deck_->rebuild();
+        message_->showMessage(MessageKind::error, sentence);
+        updateButtons();
+    });
+    connect(&session_, &DialogSession::notice, this,
+            [this](const QString& sentence) { message_->showMessage(MessageKind::information, sentence); });
+    connect(&session_, &DialogSession::refused, this,
+            [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
+    connect(&session_, &DialogSession::photoFailed, this,
+            [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
+    connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
+    connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
+    connect(&session_, &DialogSession::optionsChanged, this, [this] {
+        deck_->refresh();
+        showPhotos();
+    });
+    connect(&session_, &DialogSession::undoExpired, this, [this] { message_->clearAction(); });
+    connect(message_, &MessageBar::actionChosen, &session_, &DialogSession::undoLastChange);
+}
+
+void PrintDialog::fillPrinters()
+{
+    const PrinterList& list = session_.printerList();
+    const QString selected = session_.printerName();
+    QList<std::pair<QString, QString>> wanted;
+    for (const PrinterInfo& printer : list.printers())
+        wanted.append({printer.name, itemText(printer)});
+    if (!selected.isEmpty() && !list.find(selected))
+        wanted.prepend({selected, selected});
+    // An open list keeps its place as long as the same printers are in it.
+    for (int i = 0; i < wanted.size(); ++i) {
+        if (i >= printer_->count())
+            printer_->addItem(wanted[i].second, wanted[i].first);
+        else if (printer_->itemData(i) != wanted[i].first || printer_->itemText(i) != wanted[i].second) {
+            printer_->setItemText(i, wanted[i].second);
+            printer_->setItemData(i, wanted[i].first);
+        }
+    }
+    while (printer_->count() > wanted.size())
+        printer_->removeItem(printer_->count() - 1);
+    printer_->setCurrentIndex(printer_->findData(selected));
+    showPrinterState();
+}
+
+void PrintDialog::showPrinterState()
+{
+    const PrinterList& list = session_.printerList();
+    const PrinterInfo* printer = list.find(session_.printerName());
+    QString text = tr("Looking for printers...");
+    if (!list.problem().isEmpty())
+        text = list.problem();
+    else if (printer)
+        text = stateText(*printer);
+    else if (list.hasAnswer() && list.printers().empty())
+        text = tr("The print server has no printers. Add one in the system's settings.");
+    else if (list.hasAnswer())
+        text = tr("The print server has no printer \"%1\". Choose another one.").arg(session_.printerName());
+    printerState_->setText(text);
+    const bool needsAttention = !printer || printer->state == PrinterState::stopped || !printer->isAccepting;
+    QPalette colours = palette();
+    if (needsAttention && list.hasAnswer()) {
+        const bool isDark = colours.color(QPalette::Window).lightness() < 128;
+        colours.setColor(QPalette::WindowText, isDark ? QColor(255, 150, 110) : QColor(170, 60, 10));
+    }
+    printerState_->setPalette(colours);
+    updateButtons();
+}
+
+void PrintDialog::showPhotos()
+{
+    const std::vector<Photo>& photos = session_.photos();
+    pager_->setVisible(photos.size() > 1);
+    if (photos.empty()) {
+        preview_->showText(session_.hasPhotos() ? tr("There is no photo to print.")
+                                                : tr("Reading the photo..."));
+        updateButtons();
+        return;
+    }
+    current_ = std::clamp(current_, 0, int(photos.size()) - 1);
+    const Photo& photo = photos[size_t(current_)];
+    preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
+    const QString name = QFileInfo(photo.path).fileName();
+    setWindowTitle(tr("Print %1").arg(name));
+    pageNumber_->setText(tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(name));
+    back_->setEnabled(current_ > 0);
+    forward_->setEnabled(current_ + 1 < int(photos.size()));
+    updateButtons();
+}
+
+void PrintDialog::step(int by)
+{
+    current_ += by;
+    showPhotos();
+}
+
+void PrintDialog::showOtherChanges(const QList<SideChange>& changes)
+{
+    QStringList texts;
+    for (const SideChange& change : changes)
+        texts.append(tr("%1: %2").arg(change.optionText, change.choiceText));
+    message_->showMessage(
+        MessageKind::information,
+        tr("To make that possible, this was changed too: %1").arg(texts.join(QStringLiteral(", "))),
+        tr("&Undo"));
+}
+
+} // namespace halvern

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "dialog/session/dialog_session.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QSpinBox;
+class QToolButton;
+
+namespace halvern {
+
+class MessageBar;
+class PanelDeck;
+class PreviewWidget;
+
+/// The print dialog's window. It shows a session and passes on what the user does. Main thread only; usable
+/// as soon as it is shown, whatever the print server does.
+class PrintDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `session` outlives the dialog.
+    explicit PrintDialog(DialogSession& session, QWidget* parent = nullptr);
+    ~PrintDialog() override;
+
+    PanelDeck& deck() { return *deck_; }
+
+    /// The run that is under way or the last one; null before the first.
+    PrintRun* run() { return run_; }
+
+    /// How the last run ended.
+    const PrintOutcome& outcome() const { return outcome_; }
+
+    void done(int result) override;
+    void reject() override;
+
+Q_SIGNALS:
+    /// A run has ended, and the dialog says so.
+    void printed(const halvern::PrintOutcome& outcome);
+
+private:
+    QWidget* makePreviewSide();
+    QWidget* makeControlSide();
+    QLayout* makePrinterRows(QWidget* parent);
+    QLayout* makeButtonRow(QWidget* parent);
+    void connectSession();
+    void makeShortcuts();
+    void fillPrinters();
+    void showPrinterState();
+    void showPhotos();
+    void step(int by);
+    void showOtherChanges(const QList<SideChange>& changes);
+    void updateButtons();
+    void showHelp();
+    void print();
+    void followRun();
+    void takeOutcome(const PrintOutcome& outcome);
+
+    bool isRunning() const { return run_ && !run_->isOver(); }
+
+    DialogSession& session_;
+    MessageBar* message_;
+    PreviewWidget* preview_;
+    QComboBox* printer_ = nullptr;
+    QLabel* printerState_ = nullptr;
+    PanelDeck* deck_ = nullptr;
+    QSpinBox* copies_ = nullptr;
+    QPushButton* print_ = nullptr;
+    QPushButton* cancel_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    QLabel* status_ = nullptr;
+    QWidget* pager_ = nullptr;
+    QLabel* pageNumber_ = nullptr;
+    QToolButton* back_ = nullptr;
+    QToolButton* forward_ = nullptr;
+    QPointer<PrintRun> run_;
+    PrintOutcome outcome_;
+    int current_ = 0;
+    bool hasPrinted_ = false;
+};
+
+} // namespace halvern
