@@ -2,20 +2,12 @@
 
 #include "dialog/options/ppd_model.h"
 
-#include "platform/printing/cups_ppd.h"
-
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <array>
 
 namespace halvern {
 
 namespace {
-
-// What IPP limits a name and a text to.
-constexpr qsizetype kLongestName = 255;
-constexpr qsizetype kLongestText = 1023;
 
 // Each would be a second voice beside a PPD keyword, or scale and turn a page that we have already laid out.
 constexpr std::array kDecidedByUs{
@@ -36,13 +28,6 @@ constexpr std::array kDecidedByUs{
     "number-up",
     "print-color-mode",
     "multiple-document-handling",
-};
-
-// Attributes that the server itself reads, and that need their IPP type.
-constexpr std::array kServerAttributes{
-    "copies",        "job-priority", "job-hold-until", "job-sheets",       "job-billing",
-    "page-ranges",   "output-bin",   "finishings",     "print-scaling",    "multiple-document-handling",
-    "print-quality", "media",        "sides",          "print-color-mode",
 };
 
 template <size_t N> bool contains(const std::array<const char*, N>& names, const QString& name)
@@ -110,36 +95,6 @@ OptionValues inPpdTerms(const OptionValues& options)
             result.append(option);
     }
     return result;
-}
-
-QString addJobOption(_ipp_s* request, const OptionValue& option)
-{
-    const QByteArray name = option.key.toUtf8();
-    const QByteArray value = option.value.toUtf8();
-    if (name.size() > kLongestName || value.size() > kLongestText || value.contains('\0')) {
-        return QCoreApplication::translate("PpdModel",
-                                           "The value of %1 is too long to send: it has %2 bytes, and %3 "
-                                           "are possible. Shorten it.")
-            .arg(option.key)
-            .arg(value.size())
-            .arg(kLongestText);
-    }
-    if (contains(kServerAttributes, option.key)) {
-        // It splits lists at commas and knows the attributes' types.
-        cupsEncodeOption(request, IPP_TAG_JOB, name.constData(), value.constData());
-        return {};
-    }
-    const ipp_tag_t tag = value.size() > kLongestName ? IPP_TAG_TEXT : IPP_TAG_NAME;
-    ippAddString(request, IPP_TAG_JOB, tag, name.constData(), nullptr, value.constData());
-    return {};
-}
-
-std::optional<OptionValue> parseOption(const QString& text)
-{
-    const qsizetype equals = text.indexOf(QLatin1Char('='));
-    if (equals <= 0 || text.left(equals).contains(QLatin1Char(' ')))
-        return std::nullopt;
-    return OptionValue{text.left(equals), text.mid(equals + 1)};
 }
 
 } // namespace halvern

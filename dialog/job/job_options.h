@@ -1,13 +1,9 @@
 #pragma once
 
-#include "dialog/server/saved_options.h"
+#include "dialog/options/option_value.h"
 
 #include <QMap>
 #include <QVariantMap>
-
-#include <optional>
-
-struct _ipp_s;
 
 namespace halvern {
 
@@ -28,12 +24,5 @@ OptionValues mergeJobOptions(const JobInputs& inputs);
 /// Saved and typed options in terms of the PPD: "media=A4" becomes "PageSize=A4", "sides" a "Duplex" choice,
 /// and so on. Options that the dialog itself decides (copies, scaling) are dropped.
 OptionValues inPpdTerms(const OptionValues& options);
-
-/// Adds an option to a request's job attributes. Known IPP attributes get their own type; everything else
-/// goes as text, byte for byte, whatever it looks like. Answers the sentence about a value that is too long.
-QString addJobOption(_ipp_s* request, const OptionValue& option);
-
-/// "KEY=VALUE" -> an option; nothing without a key or a "=".
-std::optional<OptionValue> parseOption(const QString& text);
 
 } // namespace halvern

@@ -1,44 +1,13 @@
 #include "dialog/job/job_status.h"
 
+#include "dialog/server/state_reasons.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
 
-#include <array>
-
 namespace halvern {
 
 namespace {
-
-struct ReasonText {
-    const char* reason;
-    const char* text;
-};
-
-constexpr std::array kReasonTexts{
-    ReasonText{"media-empty", QT_TRANSLATE_NOOP("JobStatus", "out of paper")},
-    ReasonText{"media-needed", QT_TRANSLATE_NOOP("JobStatus", "out of paper")},
-    ReasonText{"media-low", QT_TRANSLATE_NOOP("JobStatus", "paper is low")},
-    ReasonText{"media-jam", QT_TRANSLATE_NOOP("JobStatus", "paper jam")},
-    ReasonText{"door-open", QT_TRANSLATE_NOOP("JobStatus", "a door is open")},
-    ReasonText{"cover-open", QT_TRANSLATE_NOOP("JobStatus", "the cover is open")},
-    ReasonText{"offline", QT_TRANSLATE_NOOP("JobStatus", "not connected or switched off")},
-    ReasonText{"connecting-to-device", QT_TRANSLATE_NOOP("JobStatus", "connecting")},
-    ReasonText{"paused", QT_TRANSLATE_NOOP("JobStatus", "paused")},
-    ReasonText{"moving-to-paused", QT_TRANSLATE_NOOP("JobStatus", "pausing")},
-    ReasonText{"shutdown", QT_TRANSLATE_NOOP("JobStatus", "switched off")},
-    ReasonText{"toner-low", QT_TRANSLATE_NOOP("JobStatus", "toner is low")},
-    ReasonText{"toner-empty", QT_TRANSLATE_NOOP("JobStatus", "out of toner")},
-    ReasonText{"marker-supply-low", QT_TRANSLATE_NOOP("JobStatus", "ink is low")},
-    ReasonText{"marker-supply-empty", QT_TRANSLATE_NOOP("JobStatus", "out of ink")},
-    ReasonText{"marker-waste-almost-full", QT_TRANSLATE_NOOP("JobStatus", "the waste tank is nearly full")},
-    ReasonText{"marker-waste-full", QT_TRANSLATE_NOOP("JobStatus", "the waste tank is full")},
-    ReasonText{"output-area-full", QT_TRANSLATE_NOOP("JobStatus", "the output tray is full")},
-    ReasonText{"timed-out", QT_TRANSLATE_NOOP("JobStatus", "does not answer")},
-    ReasonText{"cups-missing-filter", QT_TRANSLATE_NOOP("JobStatus", "its driver is not installed")},
-    ReasonText{"cups-insecure-filter", QT_TRANSLATE_NOOP("JobStatus", "its driver is not installed safely")},
-    ReasonText{"other", QT_TRANSLATE_NOOP("JobStatus", "needs attention")},
-};
 
 QString words(const char* text)
 {
@@ -147,23 +116,6 @@ QString pattern(const JobStatus& status)
 }
 
 } // namespace
-
-QString reasonText(const QString& reason)
-{
-    QString bare = reason;
-    for (const char* suffix : {"-error", "-warning", "-report"}) {
-        if (bare.endsWith(QLatin1StringView(suffix)))
-            bare.chop(int(qstrlen(suffix)));
-    }
-    for (const ReasonText& known : kReasonTexts) {
-        if (bare == QLatin1StringView(known.reason))
-            return words(known.text);
-    }
-    // Drivers and the server have words of their own for what nobody needs to see.
-    if (!reason.endsWith(QLatin1StringView("-error")))
-        return {};
-    return bare.replace(QLatin1Char('-'), QLatin1Char(' '));
-}
 
 JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& cancelled)
 {

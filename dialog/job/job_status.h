@@ -43,7 +43,4 @@ QString jobSentence(const JobStatus& status, const QString& printer, int jobId);
 /// Why a job does not get on, as " (out of paper, Filter failed)"; empty if nothing is known.
 QString jobReasons(const JobStatus& status);
 
-/// A printer's state reason ("media-empty-error") in the user's words; empty for one that says nothing.
-QString reasonText(const QString& reason);
-
 } // namespace halvern

@@ -1,6 +1,6 @@
 #include "dialog/job/job_submitter.h"
 
-#include "dialog/job/job_options.h"
+#include "dialog/job/ipp_options.h"
 
 #include "platform/printing/cups_ppd.h"
 

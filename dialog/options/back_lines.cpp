@@ -1,6 +1,6 @@
 #include "dialog/options/back_lines.h"
 
-#include "panels/backprint/text/backprint_text.h"
+#include "platform/maker/backprint_text.h"
 
 #include <QCoreApplication>
 

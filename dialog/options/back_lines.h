@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/server/saved_options.h"
+#include "dialog/options/option_value.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dialog/options/constraints.h"
+#include "dialog/options/option_value.h"
 #include "dialog/options/ppd_lookup.h"
-#include "dialog/server/saved_options.h"
 #include "platform/printing/ppd.h"
 
 #include <QCoreApplication>

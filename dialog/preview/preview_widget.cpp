@@ -63,7 +63,7 @@ QString pageSizeText(const QSizeF& points)
 }
 
 PreviewWidget::PreviewWidget(QWidget* parent)
-    : QWidget(parent), reader_(new DetailReader(this)), zoomButton_(new QToolButton(this))
+    : QWidget(parent), reader_(new SharpPhotoReader(this)), zoomButton_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("preview"));
     setAccessibleName(tr("Preview"));
@@ -77,11 +77,11 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     zoomButton_->setToolTip(
         tr("Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)"));
     connect(zoomButton_, &QToolButton::clicked, this, [this](bool on) { setZoomed(on); });
-    connect(reader_, &DetailReader::ready, this, [this](const QImage& detail) {
+    connect(reader_, &SharpPhotoReader::ready, this, [this](const QImage& detail) {
         screen_.setDetail(detail);
         showState();
     });
-    connect(reader_, &DetailReader::failed, this, [this](const QString& sentence) {
+    connect(reader_, &SharpPhotoReader::failed, this, [this](const QString& sentence) {
         detailProblem_ = sentence;
         showState();
     });

@@ -13,7 +13,7 @@ class QToolButton;
 
 namespace halvern {
 
-class DetailReader;
+class SharpPhotoReader;
 
 /// A page for the preview.
 struct PreviewPage {
@@ -88,7 +88,7 @@ private:
 
     PreviewPage page_;
     ScreenPhoto screen_;
-    DetailReader* reader_;
+    SharpPhotoReader* reader_;
     QToolButton* zoomButton_;
     QString text_;
     QString detailProblem_;

@@ -1,23 +1,11 @@
 #pragma once
 
-#include "dialog/adjust/adjust.h"
+#include "dialog/adjust/look.h"
 
 #include <QImage>
 #include <QRect>
 
 namespace halvern {
-
-/// What the printer will do to a photo, as far as a screen can show it.
-struct Look {
-    adjust::ColorAdjustments colors;
-    adjust::Sharpening sharpening;
-
-    bool changesColors() const { return colors != adjust::ColorAdjustments(); }
-
-    bool sharpens() const { return sharpening.radius >= 1.0 && sharpening.intensity > 0.0; }
-
-    bool operator==(const Look&) const = default;
-};
 
 /// A photo made ready for the screen, in the pixels that the screen shows and no more. What a step has made
 /// is kept until something that it depends on changes, so a moved slider costs only the last step. One thread

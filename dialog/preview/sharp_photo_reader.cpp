@@ -29,12 +29,12 @@ QImage readInDots(const Photo& photo, const QSize& dots, QString* problem)
 
 } // namespace
 
-bool DetailReader::isWanted(const Photo& photo, const QSize& dots) const
+bool SharpPhotoReader::isWanted(const Photo& photo, const QSize& dots) const
 {
     return photo.path == wanted_.path && photo.page == wanted_.page && dots == wantedDots_;
 }
 
-void DetailReader::read(const Photo& photo, const QSize& dots)
+void SharpPhotoReader::read(const Photo& photo, const QSize& dots)
 {
     if (isWanted(photo, dots))
         return;
@@ -45,16 +45,16 @@ void DetailReader::read(const Photo& photo, const QSize& dots)
         start();
 }
 
-void DetailReader::forget()
+void SharpPhotoReader::forget()
 {
     wanted_ = Photo();
     wantedDots_ = QSize();
 }
 
-void DetailReader::start()
+void SharpPhotoReader::start()
 {
     isBusy_ = true;
-    QPointer<DetailReader> self(this);
+    QPointer<SharpPhotoReader> self(this);
     WorkQueue().async([self, photo = wanted_, dots = wantedDots_] {
         QString problem;
         const QImage detail = readInDots(photo, dots, &problem);
@@ -65,7 +65,8 @@ void DetailReader::start()
     });
 }
 
-void DetailReader::take(const Photo& photo, const QSize& dots, const QImage& detail, const QString& problem)
+void SharpPhotoReader::take(const Photo& photo, const QSize& dots, const QImage& detail,
+                            const QString& problem)
 {
     isBusy_ = false;
     if (!isWanted(photo, dots)) {

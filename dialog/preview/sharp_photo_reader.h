@@ -8,7 +8,7 @@ namespace halvern {
 
 /// Reads a photo again in as many pixels as it has dots on paper, on a worker. One photo is read at a time,
 /// and what nobody wants any more by then is dropped. Main thread only.
-class DetailReader : public QObject {
+class SharpPhotoReader : public QObject {
     Q_OBJECT
 
 public:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/program/command_line.h"
+#include "dialog/session/dialog_session.h"
 
 #include <QTextStream>
 

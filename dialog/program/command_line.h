@@ -1,7 +1,8 @@
 #pragma once
 
+#include "dialog/program/exit_status.h"
 #include "dialog/program/list_papers.h"
-#include "dialog/session/dialog_session.h"
+#include "dialog/session/session_request.h"
 
 #include <optional>
 
@@ -14,9 +15,6 @@ struct CommandLine {
     bool dryRun = false;                              ///< say what would be sent, and send nothing
     std::optional<ListPapersRequest> listPapers = {}; ///< list them and do nothing else
 };
-
-/// How the program ends.
-enum ExitStatus { kExitPrinted = 0, kExitFailed = 1, kExitUsage = 2, kExitUnfinished = 3 };
 
 /// A command line, or what to say and the status to end with.
 struct ParsedCommandLine {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panels/features/inquiry/loaded_papers.h"
+#include "platform/maker/loaded_papers.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "dialog/server/printer_list.h"
 
-#include "dialog/job/job_status.h"
+#include "dialog/server/state_reasons.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QCoreApplication>

@@ -1,20 +1,11 @@
 #pragma once
 
-#include <QList>
+#include "dialog/options/option_value.h"
+
 #include <QMap>
 #include <QString>
 
 namespace halvern {
-
-/// An option keyword with its value, as users write KEY=VALUE.
-struct OptionValue {
-    QString key;
-    QString value;
-
-    bool operator==(const OptionValue&) const = default;
-};
-
-using OptionValues = QList<OptionValue>;
 
 /// What the user saved with lpoptions.
 struct SavedOptions {

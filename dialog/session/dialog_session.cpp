@@ -139,8 +139,8 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
         return panels_.empty() ? text : panelSource_.localized(bundleName_, text);
     });
     // Not from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<Host>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
-                                   model_->sharedFile(), request_.panelsAskPrinter);
+    host_ = std::make_shared<PanelHost>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
+                                        model_->sharedFile(), request_.panelsAskPrinter);
     applyOptions(ppd.defaults, ppd.jobSheets);
     loadPanels();
     Q_EMIT printerReady();

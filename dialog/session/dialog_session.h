@@ -1,14 +1,15 @@
 #pragma once
 
+#include "dialog/adjust/look.h"
 #include "dialog/job/job_options.h"
 #include "dialog/job/print_run.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
-#include "dialog/preview/screen_photo.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
 #include "dialog/session/panel_host.h"
 #include "dialog/session/panel_source.h"
+#include "dialog/session/session_request.h"
 
 #include <QObject>
 
@@ -20,23 +21,6 @@ struct PageSettings {
     PageTurn turn = PageTurn::automatic;
     QPointF position{0.5, 0.5};
     int copies = 1;
-};
-
-inline constexpr int kMostCopies = 999;
-
-/// What a session starts with.
-struct SessionRequest {
-    QString printer;      ///< empty: the user's or the server's default
-    OptionValues options; ///< typed on the command line
-    QStringList files;
-    int copies = 1;
-    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
-    /// sends it command jobs.
-    bool panelsAskPrinter = true;
-    /// Whether somebody is at the panels. Without a user they change no options: one that knows no papers yet
-    /// would settle on a feed of its own.
-    bool panelsChangeOptions = true;
-    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -154,7 +138,7 @@ private:
     QString printerName_;
     std::unique_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
-    std::shared_ptr<Host> host_;
+    std::shared_ptr<PanelHost> host_;
     PanelList panels_;
     QString bundleName_; // of the panels
     PageSettings page_;

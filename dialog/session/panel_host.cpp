@@ -6,8 +6,8 @@
 
 namespace halvern {
 
-Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
-           bool forWorkers)
+PanelHost::PanelHost(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
+                     bool forWorkers)
     : source_(&source),
       printer_(std::move(printer)),
       file_(std::move(file)),
@@ -16,34 +16,34 @@ Host::Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr
 {
 }
 
-void Host::detach()
+void PanelHost::detach()
 {
     source_ = nullptr;
     const QMutexLocker lock(&printerMutex_);
     printer_.reset();
 }
 
-ppd_file_t* Host::ppdFile()
+ppd_file_t* PanelHost::ppdFile()
 {
     return source_ ? source_->hostPpdFile() : nullptr;
 }
 
-bool Host::willChangePPDOptionKeyValue_ppdChoice(const QString& key, const QVariant& choice)
+bool PanelHost::willChangePPDOptionKeyValue_ppdChoice(const QString& key, const QVariant& choice)
 {
     return source_ && source_->hostWillChange(key, choice);
 }
 
-std::shared_ptr<PrintSettings> Host::printSettings()
+std::shared_ptr<PrintSettings> PanelHost::printSettings()
 {
     return source_ ? source_->hostPrintSettings() : nullptr;
 }
 
-std::shared_ptr<PageFormat> Host::pageFormat()
+std::shared_ptr<PageFormat> PanelHost::pageFormat()
 {
     return source_ ? source_->hostPageFormat() : nullptr;
 }
 
-std::shared_ptr<Printer> Host::pmPrinter()
+std::shared_ptr<Printer> PanelHost::pmPrinter()
 {
     if (!forWorkers_ && QThread::currentThreadId() != mainThread_)
         return nullptr;

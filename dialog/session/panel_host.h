@@ -21,13 +21,13 @@ public:
 
 /// The callback object of one printer's panels. When the dialog goes, or another printer is selected, it is
 /// detached and answers null pointers and refusals from then on, however long the panels keep it.
-class Host : public HostCallback {
+class PanelHost : public HostCallback {
 public:
     /// `file` stays open as long as this object lives, since panels keep what ppdFile() answered. If not
     /// `forWorkers`, only the main thread is told the printer: background work of the panels then has nobody
     /// to talk to.
-    Host(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
-         bool forWorkers);
+    PanelHost(HostSource& source, std::shared_ptr<Printer> printer, std::shared_ptr<ppd_file_t> file,
+              bool forWorkers);
 
     /// Main thread only, before the source goes.
     void detach();

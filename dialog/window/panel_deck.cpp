@@ -2,7 +2,7 @@
 
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
-#include "panels/backprint/text/backprint_text.h"
+#include "platform/maker/backprint_text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -74,7 +74,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
       list_(new QListWidget(this)),
       area_(new QScrollArea(this)),
       empty_(new QWidget(this)),
-      page_(new PagePage(session, this)),
+      page_(new PaperPage(session, this)),
       options_(new OptionsPage(session, this)),
       summary_(new QLabel(this))
 {

@@ -12,7 +12,7 @@ class QStackedWidget;
 namespace halvern {
 
 class OptionsPage;
-class PagePage;
+class PaperPage;
 
 /// The list of pages, the dialog's own and the panels', and the page that is shown. It keeps the protocol of
 /// showing and hiding panels. Main thread only.
@@ -63,7 +63,7 @@ private:
     QListWidget* list_;
     QScrollArea* area_;
     QWidget* empty_;
-    PagePage* page_;
+    PaperPage* page_;
     OptionsPage* options_;
     QLabel* summary_;
     Panel* shown_ = nullptr;

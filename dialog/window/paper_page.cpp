@@ -17,7 +17,7 @@ const QString kPageSizeKey = QStringLiteral("PageSize");
 
 } // namespace
 
-PagePage::PagePage(DialogSession& session, QWidget* parent)
+PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       paper_(new QComboBox(this)),
@@ -50,14 +50,14 @@ PagePage::PagePage(DialogSession& session, QWidget* parent)
                                      {int(Scaling::fill), tr("Fill the page, cut what is over")},
                                      {int(Scaling::actualSize), tr("Actual size")}});
     addRow(tr("Photo si&ze:"), scalings, scaling_->button(int(Scaling::fit)));
-    connect(paper_, &QComboBox::activated, this, &PagePage::choosePaper);
-    connect(turn_, &QButtonGroup::idClicked, this, &PagePage::choosePage);
-    connect(scaling_, &QButtonGroup::idClicked, this, &PagePage::choosePage);
+    connect(paper_, &QComboBox::activated, this, &PaperPage::choosePaper);
+    connect(turn_, &QButtonGroup::idClicked, this, &PaperPage::choosePage);
+    connect(scaling_, &QButtonGroup::idClicked, this, &PaperPage::choosePage);
     refresh();
 }
 
-QWidget* PagePage::makeChoices(QButtonGroup* group, const QString& name,
-                               const QList<std::pair<int, QString>>& choices)
+QWidget* PaperPage::makeChoices(QButtonGroup* group, const QString& name,
+                                const QList<std::pair<int, QString>>& choices)
 {
     auto* box = new QWidget(this);
     auto* column = new QVBoxLayout(box);
@@ -72,7 +72,7 @@ QWidget* PagePage::makeChoices(QButtonGroup* group, const QString& name,
     return box;
 }
 
-void PagePage::refresh()
+void PaperPage::refresh()
 {
     const PpdModel* model = session_.model();
     paper_->setEnabled(model != nullptr);
@@ -94,13 +94,13 @@ void PagePage::refresh()
     scaling_->button(int(page.scaling))->setChecked(true);
 }
 
-void PagePage::choosePaper()
+void PaperPage::choosePaper()
 {
     session_.changeOption(kPageSizeKey, paper_->currentData());
     refresh(); // a refused choice goes back
 }
 
-void PagePage::choosePage()
+void PaperPage::choosePage()
 {
     PageSettings page = session_.page();
     page.turn = PageTurn(turn_->checkedId());

@@ -11,11 +11,11 @@ class QSpinBox;
 namespace halvern {
 
 /// The dialog's own first page: paper size, turn, scaling. Main thread only.
-class PagePage : public QWidget {
+class PaperPage : public QWidget {
     Q_OBJECT
 
 public:
-    PagePage(DialogSession& session, QWidget* parent);
+    PaperPage(DialogSession& session, QWidget* parent);
 
     /// Takes the session's current values into the controls; asks nothing of it.
     void refresh();

@@ -1,6 +1,6 @@
 #include "panels/backprint/back_preview.h"
 
-#include "panels/backprint/text/backprint_text.h"
+#include "platform/maker/backprint_text.h"
 
 #include <QLinearGradient>
 #include <QPainter>

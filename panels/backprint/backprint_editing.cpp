@@ -1,7 +1,7 @@
 #include "panels/backprint/backprint_panel.h"
 
 #include "panels/backprint/line_watcher.h"
-#include "panels/backprint/text/backprint_text.h"
+#include "platform/maker/backprint_text.h"
 #include "platform/toolkit/beep.h"
 #include "platform/toolkit/control.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "panel_base/base_panel.h"
-#include "panel_base/string_additions.h"
+#include "platform/foundation/string_additions.h"
 
 namespace halvern {
 

@@ -2,8 +2,8 @@
 
 #include "panels/backprint/backprint_tags.h"
 #include "panels/backprint/line_watcher.h"
-#include "panels/backprint/text/backprint_text.h"
 #include "platform/foundation/user_defaults.h"
+#include "platform/maker/backprint_text.h"
 #include "platform/toolkit/control.h"
 
 #include <QComboBox>

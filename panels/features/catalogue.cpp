@@ -1,9 +1,9 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
 
-#include "panel_base/string_additions.h"
 #include "platform/foundation/description.h"
 #include "platform/foundation/log.h"
+#include "platform/foundation/string_additions.h"
 #include "platform/toolkit/control.h"
 
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "panel_base/base_panel.h"
-#include "panels/features/paper_index.h"
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/maker/paper_index.h"
 
 #include <QDateTime>
 

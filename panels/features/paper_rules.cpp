@@ -2,7 +2,7 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
 #include "panels/features/reasons.h"
-#include "panels/features/tone_mask.h"
+#include "platform/maker/tone_mask.h"
 
 #include "platform/foundation/description.h"
 #include "platform/foundation/log.h"

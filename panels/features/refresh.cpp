@@ -1,6 +1,6 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
-#include "panels/features/refresh_date.h"
+#include "platform/maker/refresh_date.h"
 
 #include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/foundation/description.h"

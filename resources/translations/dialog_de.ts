@@ -95,6 +95,49 @@
 <context>
     <name>JobStatus</name>
     <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten, weil er warten soll%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>Auftrag %1 wartet auf „%2“%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>Auftrag %1 wartet, weil „%2“ angehalten ist%3. Setzen Sie den Drucker fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>Auftrag %1 wird auf „%2“ gedruckt%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>Auftrag %1 ist auf „%2“ stehen geblieben%3. Sehen Sie nach dem Drucker und setzen Sie ihn fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>Auftrag %1 auf „%2“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>Auftrag %1 ist auf „%2“ fehlgeschlagen%3. Drucken Sie erneut; wenn es wieder fehlschlägt, sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>Gedruckt: Auftrag %1 auf „%2“.</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>Der Druckserver sagt nicht, was aus Auftrag %1 auf „%2“ geworden ist%3.</translation>
+    </message>
+</context>
+<context>
+    <name>StateReasons</name>
+    <message>
         <source>out of paper</source>
         <translation>kein Papier</translation>
     </message>
@@ -177,46 +220,6 @@
     <message>
         <source>needs attention</source>
         <translation>braucht Aufmerksamkeit</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>Auftrag %1 ist auf „%2“ zurückgehalten, weil er warten soll%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>Auftrag %1 ist auf „%2“ zurückgehalten%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
-    </message>
-    <message>
-        <source>Job %1 waits for "%2"%3.</source>
-        <translation>Auftrag %1 wartet auf „%2“%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>Auftrag %1 wartet, weil „%2“ angehalten ist%3. Setzen Sie den Drucker fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
-    </message>
-    <message>
-        <source>Job %1 is printing on "%2"%3.</source>
-        <translation>Auftrag %1 wird auf „%2“ gedruckt%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>Auftrag %1 ist auf „%2“ stehen geblieben%3. Sehen Sie nach dem Drucker und setzen Sie ihn fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
-    </message>
-    <message>
-        <source>Job %1 was cancelled on "%2".</source>
-        <translation>Auftrag %1 auf „%2“ wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
-        <translation>Auftrag %1 ist auf „%2“ fehlgeschlagen%3. Drucken Sie erneut; wenn es wieder fehlschlägt, sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
-    </message>
-    <message>
-        <source>Printed: job %1 on "%2".</source>
-        <translation>Gedruckt: Auftrag %1 auf „%2“.</translation>
-    </message>
-    <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>Der Druckserver sagt nicht, was aus Auftrag %1 auf „%2“ geworden ist%3.</translation>
     </message>
 </context>
 <context>
@@ -467,7 +470,7 @@
     </message>
 </context>
 <context>
-    <name>halvern::PagePage</name>
+    <name>halvern::PaperPage</name>
     <message>
         <source>P&amp;aper size:</source>
         <translation>P&amp;apierformat:</translation>

@@ -95,6 +95,49 @@
 <context>
     <name>JobStatus</name>
     <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>El trabajo %1 está retenido en «%2» porque se le pidió esperar%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>El trabajo %1 está retenido en «%2»%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>El trabajo %1 espera a «%2»%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>El trabajo %1 espera porque «%2» está en pausa%3. Reanude la impresora (cupsenable) o cancele el trabajo.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>El trabajo %1 se está imprimiendo en «%2»%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>El trabajo %1 se detuvo en «%2»%3. Revise la impresora y reanúdela (cupsenable), o cancele el trabajo.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>El trabajo %1 en «%2» fue cancelado.</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>El trabajo %1 falló en «%2»%3. Imprima otra vez; si vuelve a fallar, consulte el registro de errores del servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>Impreso: trabajo %1 en «%2».</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>El servidor de impresión no dice qué fue del trabajo %1 en «%2»%3.</translation>
+    </message>
+</context>
+<context>
+    <name>StateReasons</name>
+    <message>
         <source>out of paper</source>
         <translation>sin papel</translation>
     </message>
@@ -177,46 +220,6 @@
     <message>
         <source>needs attention</source>
         <translation>necesita atención</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>El trabajo %1 está retenido en «%2» porque se le pidió esperar%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>El trabajo %1 está retenido en «%2»%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
-    </message>
-    <message>
-        <source>Job %1 waits for "%2"%3.</source>
-        <translation>El trabajo %1 espera a «%2»%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>El trabajo %1 espera porque «%2» está en pausa%3. Reanude la impresora (cupsenable) o cancele el trabajo.</translation>
-    </message>
-    <message>
-        <source>Job %1 is printing on "%2"%3.</source>
-        <translation>El trabajo %1 se está imprimiendo en «%2»%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>El trabajo %1 se detuvo en «%2»%3. Revise la impresora y reanúdela (cupsenable), o cancele el trabajo.</translation>
-    </message>
-    <message>
-        <source>Job %1 was cancelled on "%2".</source>
-        <translation>El trabajo %1 en «%2» fue cancelado.</translation>
-    </message>
-    <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
-        <translation>El trabajo %1 falló en «%2»%3. Imprima otra vez; si vuelve a fallar, consulte el registro de errores del servidor de impresión.</translation>
-    </message>
-    <message>
-        <source>Printed: job %1 on "%2".</source>
-        <translation>Impreso: trabajo %1 en «%2».</translation>
-    </message>
-    <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>El servidor de impresión no dice qué fue del trabajo %1 en «%2»%3.</translation>
     </message>
 </context>
 <context>
@@ -467,7 +470,7 @@
     </message>
 </context>
 <context>
-    <name>halvern::PagePage</name>
+    <name>halvern::PaperPage</name>
     <message>
         <source>P&amp;aper size:</source>
         <translation>Tamaño del p&amp;apel:</translation>

@@ -95,6 +95,49 @@
 <context>
     <name>JobStatus</name>
     <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>La tâche %1 est retenue sur « %2 » car on lui a demandé d’attendre%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>La tâche %1 est retenue sur « %2 »%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>La tâche %1 attend « %2 »%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>La tâche %1 attend car « %2 » est en pause%3. Relancez l’imprimante (cupsenable) ou annulez la tâche.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>La tâche %1 s’imprime sur « %2 »%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>La tâche %1 s’est arrêtée sur « %2 »%3. Vérifiez l’imprimante et relancez-la (cupsenable), ou annulez la tâche.</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>La tâche %1 sur « %2 » a été annulée.</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>La tâche %1 a échoué sur « %2 »%3. Réimprimez ; si elle échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>Imprimé : tâche %1 sur « %2 ».</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>Le serveur d’impression ne dit pas ce qu’est devenue la tâche %1 sur « %2 »%3.</translation>
+    </message>
+</context>
+<context>
+    <name>StateReasons</name>
+    <message>
         <source>out of paper</source>
         <translation>plus de papier</translation>
     </message>
@@ -177,46 +220,6 @@
     <message>
         <source>needs attention</source>
         <translation>demande votre attention</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>La tâche %1 est retenue sur « %2 » car on lui a demandé d’attendre%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>La tâche %1 est retenue sur « %2 »%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
-    </message>
-    <message>
-        <source>Job %1 waits for "%2"%3.</source>
-        <translation>La tâche %1 attend « %2 »%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>La tâche %1 attend car « %2 » est en pause%3. Relancez l’imprimante (cupsenable) ou annulez la tâche.</translation>
-    </message>
-    <message>
-        <source>Job %1 is printing on "%2"%3.</source>
-        <translation>La tâche %1 s’imprime sur « %2 »%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>La tâche %1 s’est arrêtée sur « %2 »%3. Vérifiez l’imprimante et relancez-la (cupsenable), ou annulez la tâche.</translation>
-    </message>
-    <message>
-        <source>Job %1 was cancelled on "%2".</source>
-        <translation>La tâche %1 sur « %2 » a été annulée.</translation>
-    </message>
-    <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
-        <translation>La tâche %1 a échoué sur « %2 »%3. Réimprimez ; si elle échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
-    </message>
-    <message>
-        <source>Printed: job %1 on "%2".</source>
-        <translation>Imprimé : tâche %1 sur « %2 ».</translation>
-    </message>
-    <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>Le serveur d’impression ne dit pas ce qu’est devenue la tâche %1 sur « %2 »%3.</translation>
     </message>
 </context>
 <context>
@@ -467,7 +470,7 @@
     </message>
 </context>
 <context>
-    <name>halvern::PagePage</name>
+    <name>halvern::PaperPage</name>
     <message>
         <source>P&amp;aper size:</source>
         <translation>Format du p&amp;apier :</translation>

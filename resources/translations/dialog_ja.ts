@@ -95,6 +95,49 @@
 <context>
     <name>JobStatus</name>
     <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>ジョブ %1 は待機の指定により「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
+        <translation>ジョブ %1 は「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits for "%2"%3.</source>
+        <translation>ジョブ %1 は「%2」を待っています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
+        <translation>「%2」が一時停止中のため、ジョブ %1 は待っています%3。プリンターを再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 is printing on "%2"%3.</source>
+        <translation>ジョブ %1 を「%2」で印刷しています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
+        <translation>ジョブ %1 は「%2」で停止しました%3。プリンターを確認して再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Job %1 was cancelled on "%2".</source>
+        <translation>「%2」のジョブ %1 はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <translation>ジョブ %1 は「%2」で失敗しました%3。もう一度印刷してください。再び失敗する場合は、プリントサーバーのエラーログをご覧ください。</translation>
+    </message>
+    <message>
+        <source>Printed: job %1 on "%2".</source>
+        <translation>印刷しました: 「%2」のジョブ %1。</translation>
+    </message>
+    <message>
+        <source>The print server does not say what became of job %1 on "%2"%3.</source>
+        <translation>「%2」のジョブ %1 の結果をプリントサーバーから得られません%3。</translation>
+    </message>
+</context>
+<context>
+    <name>StateReasons</name>
+    <message>
         <source>out of paper</source>
         <translation>用紙切れ</translation>
     </message>
@@ -177,46 +220,6 @@
     <message>
         <source>needs attention</source>
         <translation>確認が必要です</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>ジョブ %1 は待機の指定により「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>ジョブ %1 は「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>Job %1 waits for "%2"%3.</source>
-        <translation>ジョブ %1 は「%2」を待っています%3。</translation>
-    </message>
-    <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>「%2」が一時停止中のため、ジョブ %1 は待っています%3。プリンターを再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>Job %1 is printing on "%2"%3.</source>
-        <translation>ジョブ %1 を「%2」で印刷しています%3。</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>ジョブ %1 は「%2」で停止しました%3。プリンターを確認して再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>Job %1 was cancelled on "%2".</source>
-        <translation>「%2」のジョブ %1 はキャンセルされました。</translation>
-    </message>
-    <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
-        <translation>ジョブ %1 は「%2」で失敗しました%3。もう一度印刷してください。再び失敗する場合は、プリントサーバーのエラーログをご覧ください。</translation>
-    </message>
-    <message>
-        <source>Printed: job %1 on "%2".</source>
-        <translation>印刷しました: 「%2」のジョブ %1。</translation>
-    </message>
-    <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>「%2」のジョブ %1 の結果をプリントサーバーから得られません%3。</translation>
     </message>
 </context>
 <context>
@@ -467,7 +470,7 @@
     </message>
 </context>
 <context>
-    <name>halvern::PagePage</name>
+    <name>halvern::PaperPage</name>
     <message>
         <source>P&amp;aper size:</source>
         <translation>用紙サイズ(&amp;A):</translation>

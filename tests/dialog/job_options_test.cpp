@@ -1,4 +1,6 @@
+#include "dialog/job/ipp_options.h"
 #include "dialog/job/job_options.h"
+#include "dialog/server/saved_options.h"
 
 #include "dialog/job/job_status.h"
 #include "dialog/server/cups_connection.h"

@@ -1,4 +1,4 @@
-#include "panel_base/string_additions.h"
+#include "platform/foundation/string_additions.h"
 
 #include <QLocale>
 #include <QStringList>

@@ -1,5 +1,5 @@
 // The Cover Page replacement alone in the roster, on queues that print a banner page by themselves.
-#include "panels/simple/unavailable_panel.h"
+#include "panels/simple/cover_page_panel.h"
 #include "platform/printing/print_settings.h"
 #include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"

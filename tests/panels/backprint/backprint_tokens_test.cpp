@@ -1,5 +1,5 @@
-#include "panels/backprint/text/backprint_text.h"
 #include "platform/foundation/user_defaults.h"
+#include "platform/maker/backprint_text.h"
 #include "tests/panels/backprint/backprint_window.h"
 
 namespace halvern {

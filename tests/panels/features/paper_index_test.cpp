@@ -1,8 +1,8 @@
 #include "tests/panels/features/features_fixture.h"
 
-#include "panel_base/string_additions.h"
 #include "panels/features/binding_margin.h"
-#include "panels/features/tone_mask.h"
+#include "platform/foundation/string_additions.h"
+#include "platform/maker/tone_mask.h"
 
 namespace halvern {
 

@@ -1,9 +1,9 @@
 #include "tests/panels/features/features_fixture.h"
 
-#include "panels/features/refresh_date.h"
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/threads/run_loop_timer.h"
+#include "platform/maker/refresh_date.h"
 #include "printer/papers/catalogue_archive.h"
 
 #include <QLabel>

@@ -1,7 +1,7 @@
-#include "panels/features/paper_index.h"
+#include "platform/maker/paper_index.h"
 
-#include "panel_base/string_additions.h"
 #include "platform/foundation/numbers.h"
+#include "platform/foundation/string_additions.h"
 
 #include <QSet>
 

@@ -1,4 +1,4 @@
-#include "panels/backprint/text/backprint_text.h"
+#include "platform/maker/backprint_text.h"
 
 namespace halvern::backprint {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel_base/string_additions.h"
+#include "platform/foundation/string_additions.h"
 
 #include <QString>
 

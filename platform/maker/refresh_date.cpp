@@ -1,4 +1,4 @@
-#include "panels/features/refresh_date.h"
+#include "platform/maker/refresh_date.h"
 
 #include "platform/foundation/date_additions.h"
 #include "platform/foundation/numbers.h"

@@ -1,4 +1,4 @@
-#include "panels/simple/unavailable_panel.h"
+#include "panels/simple/cover_page_panel.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/observers.h"
 

@@ -1,9 +1,9 @@
-#include "panels/features/inquiry/loaded_papers.h"
+#include "platform/maker/loaded_papers.h"
 
-#include "panels/features/paper_index.h"
-#include "panels/features/refresh_date.h"
-#include "panels/features/tone_mask.h"
 #include "platform/foundation/archive/keyed_unarchiver.h"
+#include "platform/maker/paper_index.h"
+#include "platform/maker/refresh_date.h"
+#include "platform/maker/tone_mask.h"
 #include "platform/printing/ppd.h"
 
 namespace halvern {

@@ -1,4 +1,4 @@
-#include "panels/simple/unavailable_panel.h"
+#include "panels/simple/cover_page_panel.h"
 
 #include "platform/foundation/log.h"
 #include "platform/plugin_api/host_callback.h"

@@ -1,0 +1,55 @@
+#include "dialog/job/ipp_options.h"
+
+#include "platform/printing/cups_ppd.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace halvern {
+
+namespace {
+
+// What IPP limits a name and a text to.
+constexpr qsizetype kLongestName = 255;
+constexpr qsizetype kLongestText = 1023;
+
+// Attributes that the server itself reads, and that need their IPP type.
+constexpr std::array kServerAttributes{
+    "copies",        "job-priority", "job-hold-until", "job-sheets",       "job-billing",
+    "page-ranges",   "output-bin",   "finishings",     "print-scaling",    "multiple-document-handling",
+    "print-quality", "media",        "sides",          "print-color-mode",
+};
+
+bool isServerAttribute(const QString& name)
+{
+    return std::ranges::any_of(kServerAttributes,
+                               [&](const char* known) { return name == QLatin1StringView(known); });
+}
+
+} // namespace
+
+QString addJobOption(_ipp_s* request, const OptionValue& option)
+{
+    const QByteArray name = option.key.toUtf8();
+    const QByteArray value = option.value.toUtf8();
+    if (name.size() > kLongestName || value.size() > kLongestText || value.contains('\0')) {
+        return QCoreApplication::translate("PpdModel",
+                                           "The value of %1 is too long to send: it has %2 bytes, and %3 "
+                                           "are possible. Shorten it.")
+            .arg(option.key)
+            .arg(value.size())
+            .arg(kLongestText);
+    }
+    if (isServerAttribute(option.key)) {
+        // It splits lists at commas and knows the attributes' types.
+        cupsEncodeOption(request, IPP_TAG_JOB, name.constData(), value.constData());
+        return {};
+    }
+    const ipp_tag_t tag = value.size() > kLongestName ? IPP_TAG_TEXT : IPP_TAG_NAME;
+    ippAddString(request, IPP_TAG_JOB, tag, name.constData(), nullptr, value.constData());
+    return {};
+}
+
+} // namespace halvern

@@ -1,0 +1,13 @@
+#include "dialog/options/option_value.h"
+
+namespace halvern {
+
+std::optional<OptionValue> parseOption(const QString& text)
+{
+    const qsizetype equals = text.indexOf(QLatin1Char('='));
+    if (equals <= 0 || text.left(equals).contains(QLatin1Char(' ')))
+        return std::nullopt;
+    return OptionValue{text.left(equals), text.mid(equals + 1)};
+}
+
+} // namespace halvern

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace halvern {
+
+/// An option keyword with its value, as users write KEY=VALUE.
+struct OptionValue {
+    QString key;
+    QString value;
+
+    bool operator==(const OptionValue&) const = default;
+};
+
+using OptionValues = QList<OptionValue>;
+
+/// "KEY=VALUE" -> an option; nothing without a key or a "=".
+std::optional<OptionValue> parseOption(const QString& text);
+
+} // namespace halvern

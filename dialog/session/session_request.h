@@ -1,0 +1,26 @@
+#pragma once
+
+#include "dialog/options/option_value.h"
+
+#include <QStringList>
+
+namespace halvern {
+
+inline constexpr int kMostCopies = 999;
+
+/// What a session starts with.
+struct SessionRequest {
+    QString printer;      ///< empty: the user's or the server's default
+    OptionValues options; ///< typed on the command line
+    QStringList files;
+    int copies = 1;
+    /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
+    /// sends it command jobs.
+    bool panelsAskPrinter = true;
+    /// Whether somebody is at the panels. Without a user they change no options: one that knows no papers yet
+    /// would settle on a feed of its own.
+    bool panelsChangeOptions = true;
+    QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
+};
+
+} // namespace halvern
