@@ -1,6 +1,7 @@
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/stepper.h"
 #include "platform/toolkit/view_search.h"
 #include "tests/support/observers.h"
@@ -13,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -133,6 +135,19 @@ TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
     EXPECT_EQ(viewWithTag(&view, 6), popup);
     EXPECT_EQ(viewWithTag(&view, 9), nullptr);
     EXPECT_EQ(viewWithTag(nullptr, 0), nullptr);
+}
+
+TEST(PlainTextTest, ShowsMarkupAsItIsWritten)
+{
+    const QString markup = QStringLiteral("<img src='/dev/zero'> & [*]");
+    QLabel label;
+    setPlainText(&label, markup);
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(label.text(), markup);
+    setPlainToolTip(&label, markup);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(label.toolTip()).toPlainText(), markup);
+    EXPECT_EQ(plainToolTip(QStringLiteral("1 < 2")), QStringLiteral("1 < 2"));
+    EXPECT_EQ(captionText(QStringLiteral("Black & White")), QStringLiteral("Black && White"));
 }
 
 TEST(ControlTest, RewritingAFieldKeepsItsCaret)

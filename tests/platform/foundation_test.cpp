@@ -1,10 +1,12 @@
 #include "platform/foundation/date_additions.h"
 #include "platform/foundation/description.h"
+#include "platform/foundation/display_text.h"
 #include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/support/observers.h"
+#include "tests/support/text.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -57,6 +59,30 @@ TEST(NumbersTest, WritesAPointInEveryLocale)
     EXPECT_EQ(shortestDouble(-0.0), QStringLiteral("0"));
     EXPECT_DOUBLE_EQ(leadingDouble(u"2.5"), 2.5);
     std::setlocale(LC_NUMERIC, before.c_str());
+}
+
+TEST(DisplayTextTest, LeavesNothingThatActsOnAScreenOrATerminal)
+{
+    struct Case {
+        const char* text;
+        const char* shown;
+        const char* written;
+    };
+
+    for (const Case& c :
+         {Case{"Evening\tat\nthe\u2028lake", "Evening at the lake", "Evening at the lake"},
+          {"a\x1b[31mred\u009b0m\x7f", "a [31mred 0m ", "a [31mred 0m "},
+          {"\u202egpj.exe\u200f", "gpj.exe", "gpj.exe"},
+          {"at \u20684 x 6 in\u2069.", "at \u20684 x 6 in\u2069.", "at 4 x 6 in."},
+          {"out\u2069 of\u2068", "out of", "out of"},
+          {"<b>5 & 6</b> \U0001f5bc", "<b>5 & 6</b> \U0001f5bc", "<b>5 & 6</b> \U0001f5bc"}}) {
+        EXPECT_EQ(displayText(q(c.text)), q(c.shown));
+        EXPECT_EQ(terminalText(q(c.text)), q(c.written));
+    }
+    EXPECT_EQ(displayText(q("0123456789"), 5), q("0123\u2026"));
+    EXPECT_EQ(displayText(q("012\U0001f5bc56"), 5), q("012\u2026"));
+    EXPECT_EQ(displayText(q("\u2068012345\u2069"), 5), q("012\u2026"));
+    EXPECT_EQ(isolated(q("\u06694\u2069\u202e"), 9), q("\u2068\u06694\u2069"));
 }
 
 TEST(DescriptionTest, KeepsDifferentDictionariesApart)

@@ -1,0 +1,56 @@
+#include "platform/toolkit/plain_text.h"
+
+#include <QLabel>
+
+namespace halvern {
+
+void setPlainText(QLabel* label, const QString& text, int longest)
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setText(displayText(text, longest));
+}
+
+QString plainToolTip(const QString& text)
+{
+    const QString shown = displayText(text);
+    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
+}
+
+void setPlainToolTip(QWidget* widget, const QString& text)
+{
+    widget->setToolTip(plainToolTip(text));
+}
+
+void setPlainTitle(QWidget* window, const QString& text)
+{
+    // Qt puts a mark for unsaved changes in the place of "[*]".
+    window->setWindowTitle(displayText(text).replace(QLatin1StringView("[*]"), QLatin1StringView("[*][*]")));
+}
+
+void setPlainName(QWidget* widget, const QString& text)
+{
+    widget->setAccessibleName(displayText(text));
+}
+
+void setPlainDescription(QWidget* widget, const QString& text)
+{
+    widget->setAccessibleDescription(displayText(text));
+}
+
+QString captionText(const QString& text, int longest)
+{
+    return displayText(text, longest).replace(QLatin1Char('&'), QLatin1StringView("&&"));
+}
+
+QString markupText(const QString& text)
+{
+    return displayText(text).toHtmlEscaped();
+}
+
+void setMarkup(QLabel* label, const QString& markup)
+{
+    label->setTextFormat(Qt::RichText);
+    label->setText(markup);
+}
+
+} // namespace halvern
