@@ -1,11 +1,15 @@
 # What every target of ours has in common. No flag is set globally: a target opts in with halvern_target().
 
-option(HALVERN_BUILD_TESTS "Build the tests" ON)
+option(BUILD_TESTING "Build the tests" ON)
+option(HALVERN_WERROR "Treat the compiler's warnings as errors" OFF)
+option(HALVERN_BUILD_BENCH "Build the measuring programs" OFF)
+option(HALVERN_BUILD_DEMO "Build the program that works the dialog for ./demo" OFF)
 option(HALVERN_FUZZ "Build the fuzz targets (clang only)" OFF)
 set(HALVERN_SANITIZE "" CACHE STRING "Sanitizers to compile with, as -fsanitize takes them")
 
 function(halvern_target target)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Werror)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
+                           $<$<BOOL:${HALVERN_WERROR}>:-Werror>)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         target_compile_options(${target} PRIVATE -Wno-unknown-warning-option)
     endif()
