@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/options/option_value.h"
-#include "dialog/server/cups_connection.h"
+#include "platform/printing/cups_connection.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialog/server/cups_connection.h"
+#include "platform/printing/cups_connection.h"
 
 #include <QObject>
 #include <QTimer>

@@ -3,7 +3,6 @@
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 namespace halvern {
 
@@ -48,6 +47,17 @@ void readQueue(ipp_t* answer, QueuePpd& result)
     }
 }
 
+QString whyNoPpd(const QString& queue, cups::Connection& server)
+{
+    if (server.wasNotFound())
+        return words(QT_TRANSLATE_NOOP("Server", "The printer \"%1\" has no description on the print "
+                                                 "server. Install it with a driver, or choose another "
+                                                 "printer."))
+            .arg(queue);
+    server.failed(nullptr);
+    return server.error();
+}
+
 } // namespace
 
 QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
@@ -58,26 +68,16 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = server.error();
         return result;
     }
-    char path[1024] = "";
-    time_t modified = 0;
-    if (cupsGetPPD3(server.http(), queue.toUtf8().constData(), &modified, path, sizeof(path)) !=
-        HTTP_STATUS_OK) {
-        result.problem =
-            cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND
-                ? words(QT_TRANSLATE_NOOP("Server", "The printer \"%1\" has no description on the print "
-                                                    "server. Install it with a driver, or choose another "
-                                                    "printer."))
-                : words(QT_TRANSLATE_NOOP("Server", "The description of the printer \"%1\" cannot be "
-                                                    "fetched. Try again, or choose another printer."));
-        result.problem = result.problem.arg(queue);
+    const std::optional<QByteArray> text = server.get(ppd::resourceOf(queue).constData());
+    if (!text) {
+        result.problem = whyNoPpd(queue, server);
         return result;
     }
     // Without an answer the queue has none of it: nothing to keep anybody from printing.
     if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
         readQueue(answer.get(), result);
     QString why;
-    ppd::File file = ppd::open(QFile::decodeName(path), &why);
-    QFile::remove(QFile::decodeName(path));
+    ppd::File file = ppd::parse(*text, &why);
     if (file)
         result.file = std::make_shared<ppd::File>(std::move(file));
     else
@@ -91,7 +91,8 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
 QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled)
 {
     // The server waits for the printer's own answers.
-    cups::Connection server(cancelled, 30);
+    constexpr std::chrono::seconds kPatience(30);
+    cups::Connection server(cancelled, {kPatience, kPatience});
     cups::Ipp request = cups::newRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER, {});
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
     ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr,

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialog/server/cups_connection.h"
 #include "dialog/server/saved_options.h"
+#include "platform/printing/cups_connection.h"
 #include "platform/printing/ppd.h"
 
 namespace halvern {

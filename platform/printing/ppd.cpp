@@ -6,11 +6,15 @@
 #include <QFile>
 #include <QThread>
 
+#include <cerrno>
 #include <charconv>
 #include <chrono>
 #include <cmath>
+#include <cstring>
 
+#include <sys/mman.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 namespace halvern::ppd {
 
@@ -38,9 +42,15 @@ struct HttpClose {
 
 using Connection = std::unique_ptr<http_t, HttpClose>;
 
-} // namespace
-
-namespace {
+File explained(ppd_file_t* file, QString* why)
+{
+    if (!file && why) {
+        int line = 0;
+        const ppd_status_t status = ppdLastError(&line);
+        *why = QStringLiteral("%1 (line %2)").arg(QString::fromUtf8(ppdErrorString(status))).arg(line);
+    }
+    return File(file);
+}
 
 // The number that the PPD writes: libcups keeps 0.1 as a float, which is a little more than a double's 0.1.
 double asWritten(float limit)
@@ -75,13 +85,33 @@ void Closer::operator()(ppd_file_t* file) const
 
 File open(const QString& path, QString* why)
 {
-    File file(ppdOpenFile(QFile::encodeName(path).constData()));
-    if (!file && why) {
-        int line = 0;
-        const ppd_status_t status = ppdLastError(&line);
-        *why = QStringLiteral("%1 (line %2)").arg(QString::fromUtf8(ppdErrorString(status))).arg(line);
+    return explained(ppdOpenFile(QFile::encodeName(path).constData()), why);
+}
+
+QByteArray resourceOf(const QString& queue)
+{
+    return "/printers/" + queue.toUtf8() + ".ppd";
+}
+
+File parse(const QByteArray& text, QString* why)
+{
+    // libcups would unpack it, to whatever size.
+    if (text.startsWith("\x1f\x8b")) {
+        if (why)
+            *why = QStringLiteral("gzip");
+        return nullptr;
     }
-    return file;
+    const int memory = memfd_create("ppd", MFD_CLOEXEC);
+    QFile file;
+    if (memory < 0 || !file.open(memory, QIODevice::WriteOnly) || file.write(text) != text.size() ||
+        !file.flush() || lseek(memory, 0, SEEK_SET) != 0) {
+        if (memory >= 0)
+            close(memory);
+        if (why)
+            *why = QString::fromLocal8Bit(std::strerror(errno));
+        return nullptr;
+    }
+    return explained(ppdOpenFd(memory), why); // closes it
 }
 
 std::optional<QString> fetch(const QString& destination)

@@ -26,6 +26,12 @@ using File = std::unique_ptr<ppd_file_t, Closer>;
 /// libcups's reason and the line number.
 File open(const QString& path, QString* why = nullptr);
 
+/// Where the server has a queue's PPD, for HTTP.
+QByteArray resourceOf(const QString& queue);
+
+/// The same from the text of a PPD, which is not packed.
+File parse(const QByteArray& text, QString* why = nullptr);
+
 /// cupsGetPPD: asks the CUPS server for the queue's current PPD on a connection of its own; blocks, for
 /// seconds at most when the server does not answer: the main thread for two, and then not at all for a while.
 /// The answer is the path of a temporary file that the caller removes; nothing if it cannot be had.

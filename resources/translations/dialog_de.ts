@@ -385,12 +385,16 @@
         <translation>Der Druckserver meldet: %1</translation>
     </message>
     <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>Der Druckserver hat das Gespräch abgebrochen. Versuchen Sie es erneut; wenn es wieder misslingt, sehen Sie in das Fehlerprotokoll des Druckservers.</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
-        <translation>Die Beschreibung des Druckers „%1“ kann nicht geholt werden. Versuchen Sie es erneut oder wählen Sie einen anderen.</translation>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>Die Antwort des Druckservers nimmt kein Ende. Starten Sie den Druckserver neu und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>

@@ -385,12 +385,16 @@
         <translation>El servidor de impresión informa: %1</translation>
     </message>
     <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>La impresora «%1» no tiene descripción en el servidor. Instálela con un controlador o elija otra.</translation>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>El servidor de impresión interrumpió la conversación. Inténtelo de nuevo; si vuelve a fallar, consulte el registro de errores del servidor de impresión.</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
-        <translation>No se puede obtener la descripción de la impresora «%1». Inténtelo de nuevo o elija otra.</translation>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>La respuesta del servidor de impresión no termina. Reinicie el servidor de impresión e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>La impresora «%1» no tiene descripción en el servidor. Instálela con un controlador o elija otra.</translation>
     </message>
     <message>
         <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>

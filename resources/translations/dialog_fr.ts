@@ -385,12 +385,16 @@
         <translation>Le serveur d’impression signale : %1</translation>
     </message>
     <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>Le serveur d’impression a interrompu la conversation. Réessayez ; si cela échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
-        <translation>La description de l’imprimante « %1 » ne peut pas être obtenue. Réessayez ou choisissez-en une autre.</translation>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>La réponse du serveur d’impression ne se termine pas. Redémarrez le serveur d’impression et réessayez.</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>

@@ -385,12 +385,16 @@
         <translation>プリントサーバーからの報告: %1</translation>
     </message>
     <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>プリントサーバーとの通信が途中で切れました。もう一度お試しください。再び失敗する場合は、プリントサーバーのエラーログをご確認ください。</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" cannot be fetched. Try again, or choose another printer.</source>
-        <translation>プリンター「%1」の記述を取得できません。もう一度試すか、別のプリンターを選んでください。</translation>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>プリントサーバーの応答が終わりません。プリントサーバーを再起動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
     </message>
     <message>
         <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>

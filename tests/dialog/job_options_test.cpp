@@ -3,8 +3,8 @@
 #include "dialog/server/saved_options.h"
 
 #include "dialog/job/job_status.h"
-#include "dialog/server/cups_connection.h"
 #include "dialog/server/printer_list.h"
+#include "platform/printing/cups_connection.h"
 #include "platform/printing/cups_ppd.h"
 #include "tests/support/files.h"
 #include "tests/support/text.h"

@@ -1,0 +1,277 @@
+#include "platform/printing/cups_connection.h"
+
+#include "platform/printing/cups_ppd.h"
+
+#include <sys/socket.h>
+
+namespace halvern::cups {
+
+namespace {
+
+constexpr std::chrono::milliseconds kLookAtSilence(1000);
+// The first, one with a password that the library knows by itself, one after a change to TLS.
+constexpr int kMostAttempts = 3;
+// So long the server may think about whether it wants a document.
+constexpr int kRefusalMilliseconds = 1000;
+
+const char* noPassword(const char*, http_t*, const char*, const char*, void*)
+{
+    // Without this, libcups asks on the terminal.
+    return nullptr;
+}
+
+ExchangeWatch::Clock::time_point fromNow(std::chrono::milliseconds time)
+{
+    return ExchangeWatch::Clock::now() + time;
+}
+
+} // namespace
+
+struct Connection::Question {
+    ipp_t* ipp; ///< null: what is at the resource
+    const char* resource;
+    const NextPiece* nextPiece; ///< null: no document
+};
+
+CancelFlag makeCancelFlag()
+{
+    return std::make_shared<std::atomic<bool>>(false);
+}
+
+void HttpCloser::operator()(_http_s* http) const
+{
+    httpClose(http);
+}
+
+void IppDeleter::operator()(_ipp_s* ipp) const
+{
+    ippDelete(ipp);
+}
+
+Connection::Connection(CancelFlag cancelled, const Limits& limits)
+    : cancelled_(std::move(cancelled)), limits_(limits)
+{
+    ExchangeWatch watch(fromNow(limits_.whole), cancelled_);
+    connect(watch);
+}
+
+Connection::~Connection() = default;
+
+bool Connection::isCancelled() const
+{
+    return cancelled_ && cancelled_->load();
+}
+
+bool Connection::wasNotFound() const
+{
+    return status_ == HTTP_STATUS_NOT_FOUND;
+}
+
+// Called after each second of silence; a byte in between starts the count anew.
+int Connection::keepWaiting(http_t*, void* self)
+{
+    auto* connection = static_cast<Connection*>(self);
+    const auto now = ExchangeWatch::Clock::now();
+    if (now - connection->lastWait_ > kLookAtSilence + kLookAtSilence / 2)
+        connection->waited_ = {};
+    connection->waited_ += kLookAtSilence;
+    connection->lastWait_ = now;
+    return !connection->isCancelled() && connection->waited_ < connection->limits_.silence;
+}
+
+bool Connection::connect(ExchangeWatch& watch)
+{
+    cupsSetPasswordCB2(noPassword, nullptr);
+    // What is there to read before a question is the end of an idle connection.
+    if (http_ && !mustReconnect_ && !httpWait(http_.get(), 0)) {
+        watch.setSocket(httpGetFd(http_.get()));
+        return true;
+    }
+    const char* known = http_ ? httpGetAuthString(http_.get()) : nullptr;
+    const QByteArray password(known);
+    // The port is known once the server is. Not connected yet: the limits come first. Never reused after a
+    // failure, because libcups would then connect once more by itself.
+    const char* server = cupsServer();
+    http_.reset(httpConnect2(server, ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0, nullptr));
+    if (http_) {
+        httpSetTimeout(http_.get(), std::chrono::duration<double>(kLookAtSilence).count(),
+                       &Connection::keepWaiting, this);
+        if (httpReconnect2(http_.get(), watch.millisecondsLeft(), watch.giveUp()) != 0)
+            http_.reset();
+    }
+    if (!http_) {
+        failure_ = Failure::unreachable;
+        error_ = serverUnreachable();
+        return false;
+    }
+    mustReconnect_ = false;
+    watch.setSocket(httpGetFd(http_.get()));
+    if (!password.isEmpty())
+        httpSetAuthString(http_.get(), password.constData(), nullptr);
+    return !mustEncrypt_ || httpEncryption(http_.get(), HTTP_ENCRYPTION_REQUIRED) == 0;
+}
+
+bool Connection::sendQuestion(const Question& question)
+{
+    http_t* http = http_.get();
+    httpClearFields(http);
+    httpSetField(http, HTTP_FIELD_AUTHORIZATION, httpGetAuthString(http));
+    httpSetExpect(http, question.nextPiece ? HTTP_STATUS_CONTINUE : HTTP_STATUS_NONE);
+    if (!question.ipp)
+        return httpGet(http, question.resource) == 0;
+    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    // No length: in pieces, for as long as there are some.
+    httpSetLength(http, question.nextPiece ? 0 : ippLength(question.ipp));
+    if (httpPost(http, question.resource) != 0)
+        return false;
+    ippSetState(question.ipp, IPP_STATE_IDLE);
+    for (ipp_state_t state = IPP_STATE_IDLE; state != IPP_STATE_DATA;) {
+        state = ippWrite(http, question.ipp);
+        if (state == IPP_STATE_ERROR)
+            return false;
+    }
+    return httpFlushWrite(http) >= 0;
+}
+
+// False if the conversation has broken; `status` is what the server said before it had the whole document.
+bool Connection::sendDocument(const NextPiece& nextPiece, ExchangeWatch& watch, int& status)
+{
+    http_t* http = http_.get();
+    if (httpWait(http, kRefusalMilliseconds))
+        status = httpUpdate(http);
+    if (status != HTTP_STATUS_CONTINUE)
+        return status != HTTP_STATUS_ERROR;
+    watch.setDeadline(ExchangeWatch::Clock::time_point::max());
+    for (;;) {
+        const std::optional<QByteArray> piece = nextPiece();
+        if (!piece || isCancelled())
+            return false;
+        if (piece->isEmpty())
+            break;
+        if (httpWrite2(http, piece->constData(), size_t(piece->size())) < 0)
+            return false;
+    }
+    watch.setDeadline(fromNow(limits_.whole));
+    return httpWrite2(http, "", 0) >= 0;
+}
+
+// One question and the head of its answer; HTTP's status.
+int Connection::exchange(const Question& question, ExchangeWatch& watch)
+{
+    int status = HTTP_STATUS_CONTINUE;
+    if (!sendQuestion(question) || (question.nextPiece && !sendDocument(*question.nextPiece, watch, status)))
+        return HTTP_STATUS_ERROR;
+    while (status == HTTP_STATUS_CONTINUE)
+        status = httpUpdate(http_.get());
+    return status;
+}
+
+int Connection::ask(const Question& question, ExchangeWatch& watch)
+{
+    int status = HTTP_STATUS_ERROR;
+    for (int attempt = 0; attempt < kMostAttempts && connect(watch); ++attempt) {
+        status = exchange(question, watch);
+        mustReconnect_ = true;
+        if (status == HTTP_STATUS_UPGRADE_REQUIRED)
+            mustEncrypt_ = true;
+        else if (status != HTTP_STATUS_UNAUTHORIZED ||
+                 cupsDoAuthentication(http_.get(), question.ipp ? "POST" : "GET", question.resource) != 0)
+            return status;
+    }
+    return http_ ? status : int(HTTP_STATUS_ERROR);
+}
+
+ssize_t Connection::read(char* buffer, size_t length)
+{
+    const ssize_t count = httpRead2(http_.get(), buffer, length);
+    received_ += std::max<ssize_t>(count, 0);
+    if (received_ <= limits_.bytes)
+        return count;
+    failure_ = Failure::tooMuch;
+    return -1;
+}
+
+ssize_t Connection::readPiece(void* self, ipp_uchar_t* buffer, size_t length)
+{
+    size_t done = 0;
+    while (done < length) {
+        const ssize_t count =
+            static_cast<Connection*>(self)->read(reinterpret_cast<char*>(buffer) + done, length - done);
+        if (count <= 0)
+            return -1;
+        done += size_t(count);
+    }
+    return ssize_t(done);
+}
+
+// Whether the answer is there to its last byte; what is left of it goes to `content`, if that is wanted.
+bool Connection::readToTheEnd(QByteArray* content)
+{
+    QByteArray buffer(64 * 1024, Qt::Uninitialized);
+    ssize_t count = 0;
+    while ((count = read(buffer.data(), size_t(buffer.size()))) > 0) {
+        if (content)
+            content->append(buffer.constData(), count);
+    }
+    return count == 0 && httpGetState(http_.get()) == HTTP_STATE_WAITING;
+}
+
+// Asks, and has `readAnswer` read what comes; false if the answer is not there as a whole.
+bool Connection::converse(const Question& question, const std::function<bool()>& readAnswer)
+{
+    ExchangeWatch watch(fromNow(limits_.whole), cancelled_);
+    waited_ = {};
+    received_ = 0;
+    failure_ = Failure::none;
+    status_ = ask(question, watch);
+    if (status_ == HTTP_STATUS_OK && readAnswer()) {
+        mustReconnect_ = qstricmp(httpGetField(http_.get(), HTTP_FIELD_CONNECTION), "close") == 0;
+        return true;
+    }
+    if (isCancelled())
+        failure_ = Failure::cancelled;
+    else if (watch.hasFired() || waited_ >= limits_.silence)
+        failure_ = Failure::silent;
+    else if (failure_ == Failure::none)
+        failure_ = status_ >= HTTP_STATUS_BAD_REQUEST ? Failure::refused : Failure::brokenOff;
+    return false;
+}
+
+Ipp Connection::request(Ipp request, const char* resource, const NextPiece& nextPiece)
+{
+    Ipp answer(ippNew());
+    const bool isWhole = converse({request.get(), resource, nextPiece ? &nextPiece : nullptr}, [&] {
+        return ippReadIO(this, &Connection::readPiece, 1, nullptr, answer.get()) == IPP_STATE_DATA &&
+               (httpGetState(http_.get()) == HTTP_STATE_WAITING || readToTheEnd(nullptr));
+    });
+    return isWhole ? std::move(answer) : nullptr;
+}
+
+std::optional<QByteArray> Connection::get(const char* resource)
+{
+    QByteArray content;
+    const bool isWhole = converse({nullptr, resource, nullptr}, [&] { return readToTheEnd(&content); });
+    return isWhole ? std::optional(content) : std::nullopt;
+}
+
+Ipp newRequest(int operation, const QString& queue)
+{
+    Ipp request(ippNewRequest(ipp_op_t(operation)));
+    if (!queue.isEmpty()) {
+        char uri[HTTP_MAX_URI];
+        // The server looks at the path only; a port would be a guess for a UNIX socket.
+        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
+                         "/printers/%s", queue.toUtf8().constData());
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    }
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    return request;
+}
+
+int jobIdOf(const Ipp& answer)
+{
+    ipp_attribute_t* id = answer ? ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER) : nullptr;
+    return id ? std::max(ippGetInteger(id, 0), 0) : 0;
+}
+
+} // namespace halvern::cups

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "platform/printing/exchange_watch.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+struct _http_s;
+struct _ipp_s;
+
+/// The one way to the CUPS server, for the dialog and for panels.
+namespace halvern::cups {
+
+CancelFlag makeCancelFlag();
+
+struct HttpCloser {
+    void operator()(_http_s* http) const;
+};
+
+struct IppDeleter {
+    void operator()(_ipp_s* ipp) const;
+};
+
+using Http = std::unique_ptr<_http_s, HttpCloser>;
+using Ipp = std::unique_ptr<_ipp_s, IppDeleter>;
+
+/// How much a server may ask of who asks it.
+struct Limits {
+    std::chrono::milliseconds silence{10000}; ///< without a byte
+    std::chrono::milliseconds whole{
+        10000};                      ///< to connect, ask and read the whole answer; not to send a document
+    qint64 bytes = 16 * 1024 * 1024; ///< of an answer, unpacked
+};
+
+/// The next piece of a document to be sent, empty at its end; nothing to give up.
+using NextPiece = std::function<std::optional<QByteArray>()>;
+
+/// A connection of one thread at a time to the CUPS server that the environment names. Every wait ends at its
+/// limits or when the flag is raised. Nobody is asked for a password. After a failed exchange the next one
+/// connects anew.
+class Connection {
+public:
+    explicit Connection(CancelFlag cancelled, const Limits& limits = {});
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Null if the server cannot be reached; error() then says why. Who hands it to libcups is held to the
+    /// limit of silence only.
+    _http_s* http() const { return http_.get(); }
+
+    bool isConnected() const { return http_ != nullptr; }
+
+    bool isCancelled() const;
+
+    /// Sends a request (ownership taken) to `resource`, with a document behind it if one is given, and waits
+    /// for the answer. Null without an answer. An answer may still carry a failure: see failed().
+    Ipp request(Ipp request, const char* resource, const NextPiece& nextPiece = {});
+
+    /// What the server has under `resource`; nothing after a failure.
+    std::optional<QByteArray> get(const char* resource);
+
+    /// Whether the answer is missing or reports a failure; fills error().
+    bool failed(const Ipp& answer);
+
+    /// Whether the last exchange ended because the server was silent or took too long.
+    bool wasSilent() const { return failure_ == Failure::silent; }
+
+    /// Whether the server said in the last exchange that what was asked for is not there.
+    bool wasNotFound() const;
+
+    /// A sentence about the last failure in the user's language: what happened and what to do.
+    QString error() const { return error_; }
+
+private:
+    enum class Failure { none, unreachable, silent, cancelled, tooMuch, brokenOff, refused };
+    struct Question;
+
+    static int keepWaiting(_http_s* http, void* self);
+    static ssize_t readPiece(void* self, unsigned char* buffer, size_t length);
+    bool connect(ExchangeWatch& watch);
+    int ask(const Question& question, ExchangeWatch& watch);
+    int exchange(const Question& question, ExchangeWatch& watch);
+    bool sendQuestion(const Question& question);
+    bool sendDocument(const NextPiece& nextPiece, ExchangeWatch& watch, int& status);
+    ssize_t read(char* buffer, size_t length);
+    bool readToTheEnd(QByteArray* content);
+    bool converse(const Question& question, const std::function<bool()>& readAnswer);
+    QString sentence(int ippStatus, const QString& message) const;
+
+    CancelFlag cancelled_;
+    Limits limits_;
+    std::chrono::milliseconds waited_{0};
+    ExchangeWatch::Clock::time_point lastWait_;
+    bool mustReconnect_ = false;
+    bool mustEncrypt_ = false;
+    int status_ = 0; ///< HTTP's, of the last exchange
+    qint64 received_ = 0;
+    Failure failure_ = Failure::none;
+    Http http_;
+    QString error_;
+};
+
+/// A new request for `operation` on the queue, with the attributes that every request needs. With an empty
+/// queue name it is a request to the server itself.
+Ipp newRequest(int operation, const QString& queue);
+
+/// The job that an answer names; 0 if it names none.
+int jobIdOf(const Ipp& answer);
+
+/// The sentence for a server that cannot be reached.
+QString serverUnreachable();
+
+} // namespace halvern::cups

@@ -1,0 +1,119 @@
+// What a failed conversation with the server is called in the user's language.
+#include "platform/printing/cups_connection.h"
+#include "platform/printing/cups_ppd.h"
+
+#include <QCoreApplication>
+
+#include <cstring>
+
+namespace halvern::cups {
+
+namespace {
+
+QString words(const char* text)
+{
+    return QCoreApplication::translate("Server", text);
+}
+
+// libcups has a text where nothing is known, too: "Success" of an error number that nobody set.
+bool saysNothing(const QString& text)
+{
+    return text.isEmpty() || text == QString::fromLocal8Bit(std::strerror(0)) ||
+           text.startsWith(QLatin1StringView("successful-ok"));
+}
+
+QString brokenOff()
+{
+    return words(QT_TRANSLATE_NOOP("Server", "The print server broke off the conversation. Try again; if it "
+                                             "fails again, look into the print server's error log."));
+}
+
+QString statusMessage(const Ipp& answer)
+{
+    ipp_attribute_t* found = ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT);
+    const QString message = found ? QString::fromUtf8(ippGetString(found, 0, nullptr)) : QString();
+    return saysNothing(message) ? QString::fromUtf8(ippErrorString(ippGetStatusCode(answer.get()))) : message;
+}
+
+ipp_status_t ippStatusOf(int httpStatus)
+{
+    switch (httpStatus) {
+    case HTTP_STATUS_NOT_FOUND:
+        return IPP_STATUS_ERROR_NOT_FOUND;
+    case HTTP_STATUS_UNAUTHORIZED:
+    case HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED:
+        return IPP_STATUS_ERROR_NOT_AUTHORIZED;
+    case HTTP_STATUS_FORBIDDEN:
+        return IPP_STATUS_ERROR_FORBIDDEN;
+    default:
+        return IPP_STATUS_ERROR_INTERNAL;
+    }
+}
+
+} // namespace
+
+QString serverUnreachable()
+{
+    return QCoreApplication::translate("Server",
+                                       "The print server at %1 cannot be reached. Start it, for example with "
+                                       "\"systemctl start cups\", and try again.")
+        .arg(QString::fromUtf8(cupsServer()));
+}
+
+bool Connection::failed(const Ipp& answer)
+{
+    if (answer) {
+        const ipp_status_t status = ippGetStatusCode(answer.get());
+        if (status < IPP_STATUS_REDIRECTION_OTHER_SITE)
+            return false;
+        error_ = sentence(status, statusMessage(answer));
+    } else if (failure_ != Failure::none) {
+        error_ = sentence(ippStatusOf(status_), QString::fromUtf8(httpStatus(http_status_t(status_))));
+    } else {
+        // The caller has spoken to the server through libcups itself.
+        if (waited_ >= limits_.silence)
+            failure_ = Failure::silent;
+        error_ = sentence(cupsLastError(), QString::fromUtf8(cupsLastErrorString()));
+    }
+    return true;
+}
+
+QString Connection::sentence(int ippStatus, const QString& message) const
+{
+    switch (failure_) {
+    case Failure::unreachable:
+        return serverUnreachable();
+    case Failure::silent:
+        return words(QT_TRANSLATE_NOOP("Server", "The print server does not answer. Wait a moment and try "
+                                                 "again, or restart it."));
+    case Failure::tooMuch:
+        return words(QT_TRANSLATE_NOOP("Server", "The print server's answer does not end. Restart the print "
+                                                 "server, and try again."));
+    case Failure::cancelled:
+    case Failure::brokenOff:
+        return brokenOff();
+    case Failure::none:
+    case Failure::refused:
+        break;
+    }
+    switch (ippStatus) {
+    case IPP_STATUS_ERROR_NOT_FOUND:
+        return words(QT_TRANSLATE_NOOP("Server", "The printer is not on the print server any more. Choose "
+                                                 "another one."));
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+        return words(QT_TRANSLATE_NOOP("Server", "The printer does not accept jobs at the moment. Choose "
+                                                 "another one, or let it accept jobs (cupsaccept)."));
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+    case IPP_STATUS_ERROR_FORBIDDEN:
+        return words(QT_TRANSLATE_NOOP("Server", "The print server does not allow you to do this. Ask "
+                                                 "whoever looks after it."));
+    default:
+        break;
+    }
+    if (ippStatus < IPP_STATUS_REDIRECTION_OTHER_SITE || saysNothing(message))
+        return brokenOff();
+    return words(QT_TRANSLATE_NOOP("Server", "The print server reports: %1")).arg(message);
+}
+
+} // namespace halvern::cups
