@@ -1,7 +1,9 @@
 #include "panel_base/broken_pipe.h"
 
+#include <time.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
@@ -10,10 +12,29 @@ namespace halvern {
 
 namespace {
 
+static_assert(std::atomic<long>::is_always_lock_free, "a signal handler uses it");
+
+std::atomic<bool> isOnTerminal = false;
+std::atomic<long> nextLineAt = 0; // seconds of the monotonic clock
+
+// A server that goes away breaks a pipe with each question, and a terminal has a reader.
+bool isTooSoon()
+{
+    timespec now = {};
+    if (!isOnTerminal || clock_gettime(CLOCK_MONOTONIC, &now) != 0)
+        return false;
+    long next = nextLineAt;
+    return now.tv_sec < next || !nextLineAt.compare_exchange_strong(next, now.tv_sec + 1);
+}
+
 // Only async-signal-safe calls here, and the interrupted code's errno stays.
 extern "C" void brokenPipeHandler(int number)
 {
     const int error = errno;
+    if (isTooSoon()) {
+        errno = error;
+        return;
+    }
     char line[] = "caught a signal ..........\n";
     char* at = line + sizeof("caught a signal ") - 1;
     char digits[10];
@@ -35,6 +56,7 @@ extern "C" void brokenPipeHandler(int number)
 
 bool installBrokenPipeHandler()
 {
+    isOnTerminal = isatty(STDERR_FILENO) != 0;
     return std::signal(SIGPIPE, brokenPipeHandler) != SIG_ERR;
 }
 
