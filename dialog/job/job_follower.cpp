@@ -1,6 +1,5 @@
 #include "dialog/job/job_follower.h"
 
-#include "dialog/job/job_submitter.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QPointer>
@@ -10,17 +9,24 @@ namespace halvern {
 namespace {
 
 constexpr int kAskEveryMilliseconds = 300;
-// After this many rounds without an answer the user hears of it.
-constexpr int kPatientRounds = 2;
 
 } // namespace
 
-JobFollower::JobFollower(QString queue, int jobId, QObject* parent)
+JobFollower::JobFollower(QString queue, int jobId, Patience patience, QObject* parent)
     : QObject(parent), queue_(std::move(queue)), jobId_(jobId), stop_(cups::makeCancelFlag())
 {
-    timer_.setSingleShot(true);
+    for (QTimer* timer : {&timer_, &silence_, &patienceEnd_})
+        timer->setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &JobFollower::ask);
+    // Not the failed questions are counted: one of them may take any time.
+    connect(&silence_, &QTimer::timeout, this, &JobFollower::tellSilence);
+    connect(&patienceEnd_, &QTimer::timeout, this, [this] { end({}); });
+    silence_.setInterval(patience.untilTold);
+    patienceEnd_.setInterval(patience.untilGivenUp);
     timer_.start(0);
+    silence_.start();
+    if (patience.untilGivenUp.count() > 0)
+        patienceEnd_.start();
 }
 
 JobFollower::~JobFollower()
@@ -33,8 +39,8 @@ void JobFollower::ask()
     QPointer<JobFollower> self(this);
     WorkQueue().async([self, queue = queue_, jobId = jobId_, stop = stop_] {
         const JobStatus status = askJobStatus(queue, jobId, stop);
-        mainQueue().async([self, status] {
-            if (self)
+        mainQueue().async([self, status, stop] {
+            if (self && !stop->load())
                 self->take(status);
         });
     });
@@ -42,32 +48,72 @@ void JobFollower::ask()
 
 void JobFollower::take(const JobStatus& status)
 {
-    if (status.stage == JobStage::unknown && ++silentRounds_ < kPatientRounds) {
-        timer_.start(kAskEveryMilliseconds);
-        return;
-    }
-    if (status.stage != JobStage::unknown)
-        silentRounds_ = 0;
-    const bool isNew = status.stage != status_.stage || status.printerReasons != status_.printerReasons ||
-                       status.message != status_.message || status.pagesDone != status_.pagesDone;
-    status_ = status;
-    if (hasEnded(status.stage)) {
-        Q_EMIT ended(status);
-        return;
-    }
     timer_.start(kAskEveryMilliseconds);
+    if (status.stage == JobStage::unknown)
+        return;
+    silence_.start();
+    if (patienceEnd_.isActive())
+        patienceEnd_.start();
+    if (hasEnded(status.stage)) {
+        end(status);
+        return;
+    }
+    const bool isNew = status != status_;
+    status_ = status;
+    if (wantsCancel_)
+        sendCancel();
     if (isNew)
         Q_EMIT changed(status);
 }
 
+void JobFollower::tellSilence()
+{
+    status_ = {};
+    Q_EMIT changed(status_);
+}
+
+void JobFollower::end(const JobStatus& status)
+{
+    stop_->store(true);
+    for (QTimer* timer : {&timer_, &silence_, &patienceEnd_})
+        timer->stop();
+    status_ = status;
+    Q_EMIT ended(status);
+}
+
 void JobFollower::cancel()
 {
+    wantsCancel_ = true;
+    sendCancel();
+}
+
+void JobFollower::sendCancel()
+{
+    if (isCancelling_)
+        return;
+    isCancelling_ = true;
     QPointer<JobFollower> self(this);
     WorkQueue().async([self, queue = queue_, jobId = jobId_] {
-        const QString problem = cancelJob(queue, jobId);
+        const ActionResult result = cancelJob(queue, jobId);
+        mainQueue().async([self, result] {
+            if (!self)
+                return;
+            self->isCancelling_ = false;
+            self->wantsCancel_ = !result.isAnswered;
+            if (result.isAnswered && !result.problem.isEmpty())
+                Q_EMIT self->actionFailed(result.problem);
+        });
+    });
+}
+
+void JobFollower::apply(Remedy remedy)
+{
+    QPointer<JobFollower> self(this);
+    WorkQueue().async([self, remedy, queue = queue_, jobId = jobId_] {
+        const QString problem = applyRemedy(remedy, queue, jobId).problem;
         mainQueue().async([self, problem] {
             if (self && !problem.isEmpty())
-                Q_EMIT self->cancelFailed(problem);
+                Q_EMIT self->actionFailed(problem);
         });
     });
 }

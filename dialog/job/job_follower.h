@@ -1,11 +1,19 @@
 #pragma once
 
-#include "dialog/job/job_status.h"
+#include "dialog/job/job_actions.h"
 
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
+
 namespace halvern {
+
+/// How long a follower bears with a server that has gone silent.
+struct Patience {
+    std::chrono::milliseconds untilTold{4000};
+    std::chrono::milliseconds untilGivenUp{0}; ///< 0: never
+};
 
 /// Watches a job until it has ended for good, asking the server from a worker. Main thread only; deleting it
 /// stops the watch at once.
@@ -13,34 +21,44 @@ class JobFollower : public QObject {
     Q_OBJECT
 
 public:
-    JobFollower(QString queue, int jobId, QObject* parent);
+    JobFollower(QString queue, int jobId, Patience patience, QObject* parent);
     ~JobFollower() override;
 
     int jobId() const { return jobId_; }
 
     const JobStatus& status() const { return status_; }
 
-    /// Asks the server to cancel the job; the change of status follows by the watch.
+    /// Asks the server to cancel the job, again and again until it answers; the change of status follows by
+    /// the watch.
     void cancel();
 
+    /// Asks the server to get the resting job on its way; the change of status follows too.
+    void apply(Remedy remedy);
+
 Q_SIGNALS:
-    /// The status has changed.
+    /// The status has changed, or the server has been silent for a while (JobStage::unknown).
     void changed(const halvern::JobStatus& status);
-    /// The job has ended; nothing follows.
+    /// The job has ended, or the patience has (JobStage::unknown); nothing follows.
     void ended(const halvern::JobStatus& status);
-    /// Cancelling failed; a sentence.
-    void cancelFailed(const QString& problem);
+    /// What was asked of the server was not done; a sentence.
+    void actionFailed(const QString& problem);
 
 private:
     void ask();
     void take(const JobStatus& status);
+    void sendCancel();
+    void tellSilence();
+    void end(const JobStatus& status);
 
     QString queue_;
     int jobId_;
     JobStatus status_;
     QTimer timer_;
+    QTimer silence_;
+    QTimer patienceEnd_;
     cups::CancelFlag stop_;
-    int silentRounds_ = 0;
+    bool wantsCancel_ = false;
+    bool isCancelling_ = false;
 };
 
 } // namespace halvern

@@ -4,10 +4,14 @@
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace halvern {
 
 namespace {
+
+// The next question follows soon.
+constexpr cups::Limits kLimits{std::chrono::seconds(3), std::chrono::seconds(3)};
 
 QString words(const char* text)
 {
@@ -33,15 +37,27 @@ int integer(ipp_t* answer, const char* name)
 }
 
 // A waiting job does not say that its printer is paused: the printer does.
-void askPrinter(cups::Connection& server, const QString& queue, JobStatus& status)
+cups::Ipp askPrinter(cups::Connection& server, const QString& queue)
 {
     static const char* const kAttributes[] = {"printer-state-reasons"};
     cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   int(std::size(kAttributes)), nullptr, kAttributes);
-    const cups::Ipp answer = server.request(std::move(request), "/");
-    if (answer)
-        status.printerReasons += strings(answer.get(), "printer-state-reasons");
+    return server.request(std::move(request), "/");
+}
+
+bool isUnknownThere(const cups::Ipp& answer)
+{
+    return answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
+// A server keeps no record of ended jobs if it is told so, and a deleted queue takes its jobs along.
+JobStage whereTo(cups::Connection& server, const QString& queue)
+{
+    const cups::Ipp answer = askPrinter(server, queue);
+    if (isUnknownThere(answer))
+        return JobStage::lost;
+    return answer ? JobStage::gone : JobStage::unknown;
 }
 
 bool isPaused(const JobStatus& status)
@@ -72,34 +88,22 @@ JobStage stageOf(int state, const JobStatus& status)
     }
 }
 
-QString heldWhy(const JobStatus& status)
-{
-    if (status.reasons.contains(QStringLiteral("job-hold-until-specified")))
-        return words(QT_TRANSLATE_NOOP("JobStatus",
-                                       "Job %1 is held on \"%2\" because it was asked to wait%3. Release it "
-                                       "with \"lp -i %1 -H resume\", or cancel it."));
-    return words(QT_TRANSLATE_NOOP("JobStatus",
-                                   "Job %1 is held on \"%2\"%3. Release it with \"lp -i %1 -H resume\", or "
-                                   "cancel it."));
-}
-
 QString pattern(const JobStatus& status)
 {
     switch (status.stage) {
     case JobStage::waiting:
         return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 waits for \"%2\"%3."));
     case JobStage::blocked:
-        return words(QT_TRANSLATE_NOOP("JobStatus",
-                                       "Job %1 waits because \"%2\" is paused%3. Resume the printer "
-                                       "(cupsenable), or cancel the job."));
+        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 waits because \"%2\" is paused%3."));
     case JobStage::held:
-        return heldWhy(status);
+        if (status.reasons.contains(QStringLiteral("job-hold-until-specified")))
+            return words(
+                QT_TRANSLATE_NOOP("JobStatus", "Job %1 is held on \"%2\" because it was asked to wait%3."));
+        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 is held on \"%2\"%3."));
     case JobStage::printing:
         return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 is printing on \"%2\"%3."));
     case JobStage::stopped:
-        return words(QT_TRANSLATE_NOOP("JobStatus",
-                                       "Job %1 stopped on \"%2\"%3. See to the printer and resume it "
-                                       "(cupsenable), or cancel the job."));
+        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 stopped on \"%2\"%3."));
     case JobStage::cancelled:
         return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 was cancelled on \"%2\"."));
     case JobStage::aborted:
@@ -108,11 +112,37 @@ QString pattern(const JobStatus& status)
                                        "the print server's error log."));
     case JobStage::completed:
         return words(QT_TRANSLATE_NOOP("JobStatus", "Printed: job %1 on \"%2\"."));
+    case JobStage::gone:
+        return words(QT_TRANSLATE_NOOP("JobStatus",
+                                       "Job %1 has left the queue of \"%2\". The print server keeps no "
+                                       "record of how it ended."));
+    case JobStage::lost:
+        return words(QT_TRANSLATE_NOOP("JobStatus",
+                                       "\"%2\" is not on the print server any more, and job %1 with it. Look "
+                                       "at the printer before you print again."));
     case JobStage::unknown:
         break;
     }
-    return words(
-        QT_TRANSLATE_NOOP("JobStatus", "The print server does not say what became of job %1 on \"%2\"%3."));
+    return words(QT_TRANSLATE_NOOP(
+        "JobStatus", "The print server does not answer. Job %1 was sent to \"%2\", and may be printed."));
+}
+
+// What filters say of their work rather than of what is wrong with it.
+bool isFiltersChatter(const QString& message)
+{
+    static const QRegularExpression chatter(
+        QStringLiteral("^(color manager|printing page|processing page|(start )?rendering|loading|loaded|"
+                       "ready to print|print(ing)? (file|job)|sending|sent |spooling|connect(ed|ing) to|"
+                       "looking up|paused\\.?$)|\\d ?%"),
+        QRegularExpression::CaseInsensitiveOption);
+    return chatter.match(message).hasMatch();
+}
+
+// While a job gets on, its message is a filter's account of it; where it does not, it may be the reason.
+bool isNews(const JobStatus& status)
+{
+    return (isResting(status.stage) || status.stage == JobStage::aborted) && !status.message.isEmpty() &&
+           !isFiltersChatter(status.message);
 }
 
 } // namespace
@@ -122,7 +152,7 @@ JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& 
     static const char* const kAttributes[] = {"job-state", "job-state-reasons", "job-printer-state-message",
                                               "job-printer-state-reasons", "job-media-sheets-completed"};
     JobStatus status;
-    cups::Connection server(cancelled);
+    cups::Connection server(cancelled, kLimits);
     if (!server.isConnected()) {
         status.problem = server.error();
         return status;
@@ -132,6 +162,10 @@ JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& 
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   int(std::size(kAttributes)), nullptr, kAttributes);
     const cups::Ipp answer = server.request(std::move(request), "/jobs/");
+    if (isUnknownThere(answer)) {
+        status.stage = whereTo(server, queue);
+        return status;
+    }
     if (server.failed(answer)) {
         status.problem = server.error();
         return status;
@@ -139,17 +173,28 @@ JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& 
     status.reasons = strings(answer.get(), "job-state-reasons");
     status.printerReasons = strings(answer.get(), "job-printer-state-reasons");
     status.message = strings(answer.get(), "job-printer-state-message").join(QLatin1Char(' '));
+    // It becomes part of a sentence.
+    if (status.message.endsWith(QLatin1Char('.')))
+        status.message.chop(1);
     status.pagesDone = integer(answer.get(), "job-media-sheets-completed");
     const int state = integer(answer.get(), "job-state");
-    if (state == IPP_JSTATE_PENDING || state == IPP_JSTATE_STOPPED)
-        askPrinter(server, queue, status);
+    if (state == IPP_JSTATE_PENDING || state == IPP_JSTATE_STOPPED) {
+        if (const cups::Ipp printer = askPrinter(server, queue))
+            status.printerReasons += strings(printer.get(), "printer-state-reasons");
+    }
     status.stage = stageOf(state, status);
     return status;
 }
 
 bool hasEnded(JobStage stage)
 {
-    return stage == JobStage::cancelled || stage == JobStage::aborted || stage == JobStage::completed;
+    return stage == JobStage::cancelled || stage == JobStage::aborted || stage == JobStage::lost ||
+           isPrinted(stage);
+}
+
+bool isPrinted(JobStage stage)
+{
+    return stage == JobStage::completed || stage == JobStage::gone;
 }
 
 bool isResting(JobStage stage)
@@ -157,15 +202,33 @@ bool isResting(JobStage stage)
     return stage == JobStage::held || stage == JobStage::stopped || stage == JobStage::blocked;
 }
 
+Remedy remedyFor(const JobStatus& status)
+{
+    switch (status.stage) {
+    case JobStage::blocked:
+        return Remedy::resumePrinter;
+    case JobStage::held:
+        // That one needs a name and a password.
+        return status.reasons.contains(QStringLiteral("cups-held-for-authentication")) ? Remedy::none
+                                                                                       : Remedy::releaseJob;
+    case JobStage::stopped:
+        return isPaused(status) ? Remedy::resumePrinter : Remedy::restartJob;
+    default:
+        return Remedy::none;
+    }
+}
+
 QString jobReasons(const JobStatus& status)
 {
     QStringList texts;
     for (const QString& reason : status.printerReasons) {
         const QString text = reasonText(reason);
-        if (!text.isEmpty() && !texts.contains(text))
+        // A resting job's sentence says so itself.
+        const bool isSaid = reason == QLatin1StringView("paused") && isResting(status.stage);
+        if (!text.isEmpty() && !isSaid && !texts.contains(text))
             texts.append(text);
     }
-    if (!status.message.isEmpty())
+    if (isNews(status) && !texts.contains(status.message, Qt::CaseInsensitive))
         texts.append(status.message);
     return texts.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(texts.join(QStringLiteral(", ")));
 }
@@ -176,6 +239,28 @@ QString jobSentence(const JobStatus& status, const QString& printer, int jobId)
     if (!text.contains(QLatin1StringView("%3")))
         return text.arg(QString::number(jobId), printer);
     return text.arg(QString::number(jobId), printer, jobReasons(status));
+}
+
+QString jobAdvice(const JobStatus& status, const QString& printer, int jobId)
+{
+    const char* text = nullptr;
+    switch (remedyFor(status)) {
+    case Remedy::none:
+        return {};
+    case Remedy::resumePrinter:
+        text = QT_TRANSLATE_NOOP("JobStatus", "See to the printer and resume it with \"cupsenable %2\", or "
+                                              "cancel the job with \"cancel %2-%1\".");
+        break;
+    case Remedy::releaseJob:
+        text = QT_TRANSLATE_NOOP(
+            "JobStatus", "Release it with \"lp -i %1 -H resume\", or cancel it with \"cancel %2-%1\".");
+        break;
+    case Remedy::restartJob:
+        text = QT_TRANSLATE_NOOP(
+            "JobStatus", "Print it again with \"lp -i %1 -H restart\", or cancel it with \"cancel %2-%1\".");
+        break;
+    }
+    return words(text).arg(QString::number(jobId), printer);
 }
 
 } // namespace halvern

@@ -8,7 +8,7 @@ namespace halvern {
 
 /// What a job is doing, in the stages that a user tells apart.
 enum class JobStage {
-    unknown, ///< the server has not answered, or has forgotten the job
+    unknown, ///< the server has not answered
     waiting, ///< pending, and its printer will get to it
     blocked, ///< pending, and its printer is paused
     held,
@@ -17,7 +17,12 @@ enum class JobStage {
     cancelled,
     aborted,
     completed,
+    gone, ///< not known to the server any more: it has left the queue, and no record of it is kept
+    lost, ///< its queue is not on the server any more, and the job neither
 };
+
+/// What can be done about a job that rests.
+enum class Remedy { none, resumePrinter, releaseJob, restartJob };
 
 struct JobStatus {
     JobStage stage = JobStage::unknown;
@@ -26,19 +31,32 @@ struct JobStatus {
     QString message;            ///< what the printer's driver last said
     int pagesDone = 0;
     QString problem; ///< why the server could not be asked; a sentence
+
+    bool operator==(const JobStatus&) const = default;
 };
 
-/// Asks the server about a job, on the calling worker.
+/// Asks the server about a job that it has accepted, on the calling worker. If it does not know the job any
+/// more, it is asked once whether it knows the queue.
 JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& cancelled);
 
 /// Whether the job has ended for good.
 bool hasEnded(JobStage stage);
 
+/// Whether the job has been printed, as far as the server tells.
+bool isPrinted(JobStage stage);
+
 /// Whether the job stays as it is until somebody does something.
 bool isResting(JobStage stage);
 
-/// The status as a sentence in the user's language: what happened, why, and what to do.
+/// What gets a resting job on its way again.
+Remedy remedyFor(const JobStatus& status);
+
+/// The status as a sentence in the user's language: what happened, and why.
 QString jobSentence(const JobStatus& status, const QString& printer, int jobId);
+
+/// What to do about a resting job in a terminal: a sentence with the commands; empty if nothing is to be
+/// done.
+QString jobAdvice(const JobStatus& status, const QString& printer, int jobId);
 
 /// Why a job does not get on, as " (out of paper, Filter failed)"; empty if nothing is known.
 QString jobReasons(const JobStatus& status);

@@ -1,25 +1,113 @@
 #include "dialog/job/job_submitter.h"
 
 #include "dialog/job/ipp_options.h"
+#include "dialog/job/job_actions.h"
 
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QThread>
+
+#include <algorithm>
+#include <vector>
 
 namespace halvern {
 
 namespace {
 
 constexpr qint64 kChunk = 64 * 1024;
+constexpr int kLongestTitle = 255; // bytes of an IPP name
+constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
+constexpr int kTakeBackTries = 3;
 
-// Short: the name goes over the wire as an IPP name.
+QString words(const char* text)
+{
+    return QCoreApplication::translate("JobSubmitter", text);
+}
+
 QByteArray shortTitle(const QString& title)
 {
     QString text = title;
-    while (text.toUtf8().size() > 255)
-        text.chop(1);
+    while (text.toUtf8().size() > kLongestTitle)
+        text.chop(text.back().isLowSurrogate() ? 2 : 1);
     return text.toUtf8();
+}
+
+QByteArray resourceOf(const JobRequest& job)
+{
+    return "/printers/" + job.queue.toUtf8();
+}
+
+struct ListedJob {
+    int id = 0;
+    QByteArray title;
+    bool isEmpty = false;
+};
+
+std::vector<ListedJob> readJobs(ipp_t* answer)
+{
+    std::vector<ListedJob> jobs(1);
+    for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        const QByteArray name(ippGetName(a));
+        if (name.isEmpty())
+            jobs.emplace_back();
+        else if (name == "job-id")
+            jobs.back().id = ippGetInteger(a, 0);
+        else if (name == "job-name")
+            jobs.back().title = ippGetString(a, 0, nullptr);
+        else if (name == "number-of-documents")
+            jobs.back().isEmpty = ippGetInteger(a, 0) == 0;
+    }
+    return jobs;
+}
+
+// The job of this title that has no document yet: the server made it, and its answer was lost.
+int findEmptyJob(const JobRequest& job)
+{
+    static const char* const kAttributes[] = {"job-id", "job-name", "number-of-documents"};
+    cups::Connection server(nullptr, kLimits);
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_JOBS, job.queue);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "my-jobs", 1);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(kAttributes)), nullptr, kAttributes);
+    const cups::Ipp answer = server.request(std::move(request), "/");
+    if (server.failed(answer))
+        return 0;
+    int found = 0;
+    for (const ListedJob& listed : readJobs(answer.get())) {
+        if (listed.isEmpty && listed.title == shortTitle(job.title))
+            found = std::max(found, listed.id);
+    }
+    return found;
+}
+
+// Whether the server has the job's document.
+bool hasDocument(const JobRequest& job, int jobId)
+{
+    cups::Connection server(nullptr, kLimits);
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_JOB_ATTRIBUTES, job.queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "number-of-documents");
+    const cups::Ipp answer = server.request(std::move(request), "/jobs/");
+    ipp_attribute_t* count =
+        answer ? ippFindAttribute(answer.get(), "number-of-documents", IPP_TAG_INTEGER) : nullptr;
+    return count && ippGetInteger(count, 0) > 0;
+}
+
+// On connections of its own: the job's is broken, or in the middle of a document. The sentence if the job may
+// still be there.
+QString takeBack(const JobRequest& job, int jobId)
+{
+    for (int i = 0; i < kTakeBackTries; ++i) {
+        const ActionResult result = cancelJob(job.queue, jobId);
+        if (result.isAnswered && result.problem.isEmpty())
+            return {};
+        QThread::sleep(1);
+    }
+    return words(QT_TRANSLATE_NOOP("JobSubmitter", " Job %1 may still be on the queue of \"%2\" without its "
+                                                   "pages: cancel it there before you print again."))
+        .arg(QString::number(jobId), job.queue);
 }
 
 int createJob(cups::Connection& server, const JobRequest& job, QString* problem)
@@ -32,75 +120,68 @@ int createJob(cups::Connection& server, const JobRequest& job, QString* problem)
         if (!problem->isEmpty())
             return 0;
     }
-    const QByteArray resource = "/printers/" + job.queue.toUtf8();
-    const cups::Ipp answer = server.request(std::move(request), resource.constData());
+    const cups::Ipp answer = server.request(std::move(request), resourceOf(job).constData());
     if (server.failed(answer)) {
         *problem = server.error();
+        if (const int lost = answer ? 0 : findEmptyJob(job); lost > 0)
+            *problem += takeBack(job, lost);
         return 0;
     }
-    ipp_attribute_t* id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
-    return id ? ippGetInteger(id, 0) : 0;
+    const int jobId = cups::jobIdOf(answer);
+    if (jobId == 0)
+        *problem = words(QT_TRANSLATE_NOOP(
+            "JobSubmitter", "The print server gave the job no number. Look into its error log."));
+    return jobId;
 }
 
-bool sendFile(cups::Connection& server, const JobRequest& job, int jobId, QFile& file,
-              const std::function<void(double)>& progress)
+bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, QIODevice& document,
+                  const std::function<void(double)>& progress, QString* problem)
 {
-    const QByteArray queue = job.queue.toUtf8();
-    if (cupsStartDocument(server.http(), queue.constData(), jobId, shortTitle(job.title).constData(),
-                          CUPS_FORMAT_PDF, 1) != HTTP_STATUS_CONTINUE)
-        return false;
-    qint64 sent = 0;
-    while (!file.atEnd()) {
-        const QByteArray piece = file.read(kChunk);
-        if (piece.isEmpty() || server.isCancelled() ||
-            cupsWriteRequestData(server.http(), piece.constData(), size_t(piece.size())) !=
-                HTTP_STATUS_CONTINUE)
-            return false;
-        sent += piece.size();
-        progress(double(sent) / double(file.size()));
-    }
-    return cupsFinishDocument(server.http(), queue.constData()) < IPP_STATUS_REDIRECTION_OTHER_SITE;
+    cups::Ipp request = cups::newRequest(IPP_OP_SEND_DOCUMENT, job.queue);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                 shortTitle(job.title).constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 CUPS_FORMAT_PDF);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
+    const auto size = double(document.size());
+    bool isWritten = false;
+    const auto nextPiece = [&]() -> std::optional<QByteArray> {
+        isWritten = document.atEnd();
+        if (isWritten)
+            return QByteArray();
+        const QByteArray piece = document.read(kChunk);
+        if (piece.isEmpty())
+            return std::nullopt;
+        progress(double(document.pos()) / size);
+        return piece;
+    };
+    const cups::Ipp answer = server.request(std::move(request), resourceOf(job).constData(), nextPiece);
+    if (!server.failed(answer))
+        return true;
+    *problem = server.error();
+    // Only the answer may be lost.
+    return isWritten && !answer && !server.isCancelled() && hasDocument(job, jobId);
 }
 
 } // namespace
 
-QString cancelJob(const QString& queue, int jobId)
-{
-    cups::Connection server(nullptr);
-    cups::Ipp request = cups::newRequest(IPP_OP_CANCEL_JOB, queue);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
-    const cups::Ipp answer = server.request(std::move(request), "/jobs/");
-    if (answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_POSSIBLE)
-        return {};
-    return server.failed(answer) ? server.error() : QString();
-}
-
-SubmitResult submitJob(const JobRequest& job, const cups::CancelFlag& cancelled,
+SubmitResult submitJob(const JobRequest& job, QIODevice& document, const cups::CancelFlag& cancelled,
                        const std::function<void(double)>& progress)
 {
     SubmitResult result;
-    QFile file(job.documentPath);
-    if (!file.open(QIODevice::ReadOnly)) {
-        result.problem =
-            QCoreApplication::translate("Photo", "The print job's temporary file is gone. Print again.");
-        return result;
-    }
     cups::Connection server(cancelled);
     if (!server.isConnected()) {
         result.problem = server.error();
         return result;
     }
-    result.jobId = createJob(server, job, &result.problem);
-    const bool isSent = result.jobId > 0 && sendFile(server, job, result.jobId, file, progress);
-    if (isSent)
-        return result;
+    const int jobId = createJob(server, job, &result.problem);
+    if (jobId > 0 && sendDocument(server, job, jobId, document, progress, &result.problem))
+        return {jobId, {}, false};
     result.wasCancelled = server.isCancelled();
-    if (result.jobId > 0) {
-        server.failed(nullptr);
-        result.problem = server.error();
-        // On a connection of its own: this one is in the middle of a document.
-        cancelJob(job.queue, result.jobId);
-        result.jobId = 0;
+    if (jobId > 0) {
+        const QString left = takeBack(job, jobId);
+        result.problem = result.wasCancelled ? left : result.problem + left;
     }
     return result;
 }

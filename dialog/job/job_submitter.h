@@ -3,6 +3,8 @@
 #include "dialog/options/option_value.h"
 #include "platform/printing/cups_connection.h"
 
+#include <QIODevice>
+
 #include <functional>
 
 namespace halvern {
@@ -11,7 +13,6 @@ namespace halvern {
 struct JobRequest {
     QString queue;
     QString title;
-    QString documentPath; ///< a PDF file
     OptionValues options;
 };
 
@@ -22,13 +23,10 @@ struct SubmitResult {
     bool wasCancelled = false;
 };
 
-/// Creates the job and sends its document, on the calling worker. A job whose document could not be sent
-/// whole is cancelled again. `progress` gets the share sent, from 0 to 1.
-SubmitResult submitJob(const JobRequest& job, const cups::CancelFlag& cancelled,
+/// Creates the job and sends its document, a PDF that `document` holds from its beginning, on the calling
+/// worker. A job whose document did not arrive whole is cancelled again, for some seconds if need be.
+/// `progress` gets the share sent, from 0 to 1.
+SubmitResult submitJob(const JobRequest& job, QIODevice& document, const cups::CancelFlag& cancelled,
                        const std::function<void(double)>& progress);
-
-/// Cancels a job, on the calling worker. The sentence about a failure, empty on success or if the job has
-/// already ended.
-QString cancelJob(const QString& queue, int jobId);
 
 } // namespace halvern

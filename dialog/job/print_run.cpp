@@ -14,15 +14,26 @@ constexpr double kRenderingShare = 0.5;
 
 using Report = std::function<void(double, bool)>;
 
-SubmitResult renderAndSend(JobRequest job, const std::vector<PageToPrint>& pages, int resolution,
+// Without a name: whatever ends the program, nothing of the pages is left behind.
+bool openNameless(QTemporaryFile& file)
+{
+    if (!file.open())
+        return false;
+    file.setAutoRemove(false);
+    return QFile::remove(file.fileName());
+}
+
+SubmitResult renderAndSend(const JobRequest& job, const std::vector<PageToPrint>& pages, int resolution,
                            const cups::CancelFlag& cancelled, const Report& report)
 {
     SubmitResult result;
     QTemporaryFile file;
-    if (!file.open()) {
-        result.problem =
-            PrintRun::tr("No temporary file can be made: %1. Make room on the disk and try again.")
-                .arg(file.errorString());
+    const auto fileProblem = [&file] {
+        return PrintRun::tr("No temporary file can be made: %1. Make room on the disk and try again.")
+            .arg(file.errorString());
+    };
+    if (!openNameless(file)) {
+        result.problem = fileProblem();
         return result;
     }
     result.problem = writePdf(file, pages, resolution, [&](double share) {
@@ -32,14 +43,11 @@ SubmitResult renderAndSend(JobRequest job, const std::vector<PageToPrint>& pages
     result.wasCancelled = cancelled->load();
     if (!result.problem.isEmpty() || result.wasCancelled)
         return result;
-    if (!file.flush()) {
-        result.problem =
-            PrintRun::tr("No temporary file can be made: %1. Make room on the disk and try again.")
-                .arg(file.errorString());
+    if (!file.flush() || !file.seek(0)) {
+        result.problem = fileProblem();
         return result;
     }
-    job.documentPath = file.fileName();
-    return submitJob(job, cancelled,
+    return submitJob(job, file, cancelled,
                      [&](double share) { report(kRenderingShare + share * (1.0 - kRenderingShare), true); });
 }
 
@@ -81,21 +89,17 @@ void PrintRun::start()
 
 void PrintRun::takeSubmission(const SubmitResult& result)
 {
-    if (result.wasCancelled) {
-        finish({false, 0, JobStage::cancelled, tr("Cancelled: nothing was printed.")});
-        return;
-    }
     if (result.jobId == 0) {
-        finish({false, 0, JobStage::unknown, tr("Nothing was printed. %1").arg(result.problem)});
+        const JobStage stage = result.wasCancelled ? JobStage::cancelled : JobStage::unknown;
+        const QString words = result.wasCancelled ? tr("Cancelled: nothing was printed.") + result.problem
+                                                  : tr("Nothing was printed. %1").arg(result.problem);
+        finish({false, 0, stage, words});
         return;
     }
-    follower_ = new JobFollower(job_.queue, result.jobId, this);
+    follower_ = new JobFollower(job_.queue, result.jobId, patience_, this);
     connect(follower_, &JobFollower::changed, this, &PrintRun::takeStatus);
-    connect(follower_, &JobFollower::ended, this, [this](const JobStatus& status) {
-        finish({status.stage == JobStage::completed, follower_->jobId(), status.stage,
-                jobSentence(status, job_.queue, follower_->jobId())});
-    });
-    connect(follower_, &JobFollower::cancelFailed, this,
+    connect(follower_, &JobFollower::ended, this, &PrintRun::takeEnd);
+    connect(follower_, &JobFollower::actionFailed, this,
             [this](const QString& problem) { Q_EMIT followed(follower_->status(), problem); });
     Q_EMIT submitted(result.jobId);
     if (cancelled_->load())
@@ -104,16 +108,39 @@ void PrintRun::takeSubmission(const SubmitResult& result)
 
 void PrintRun::takeStatus(const JobStatus& status)
 {
+    const bool isCancelOpen = status.stage == JobStage::unknown && cancelled_->load();
+    Q_EMIT followed(status, isCancelOpen ? tr("The print server does not answer. Job %1 is cancelled as soon "
+                                              "as it does, if this window is still open.")
+                                               .arg(follower_->jobId())
+                                         : jobSentence(status, job_.queue, follower_->jobId()));
+}
+
+void PrintRun::takeEnd(const JobStatus& status)
+{
+    const int jobId = follower_->jobId();
     const QString sentence =
-        status.problem.isEmpty() ? jobSentence(status, job_.queue, follower_->jobId()) : status.problem;
-    Q_EMIT followed(status, sentence);
+        status.stage == JobStage::unknown
+            ? tr("Job %1 was sent to \"%2\", but the print server has not answered for %3 seconds: whether "
+                 "it was printed is not known. Look at the printer before you print again.")
+                  .arg(QString::number(jobId), job_.queue,
+                       QString::number(
+                           std::chrono::round<std::chrono::seconds>(patience_.untilGivenUp).count()))
+            : jobSentence(status, job_.queue, jobId);
+    finish({isPrinted(status.stage), jobId, status.stage, sentence});
 }
 
 void PrintRun::cancel()
 {
     cancelled_->store(true);
+    Q_EMIT cancelling();
     if (follower_)
         follower_->cancel();
+}
+
+void PrintRun::apply(Remedy remedy)
+{
+    if (follower_)
+        follower_->apply(remedy);
 }
 
 void PrintRun::finish(PrintOutcome outcome)

@@ -1,14 +1,19 @@
 #include "dialog/program/application.h"
 
 #include "dialog/job/print_run.h"
+#include "dialog/program/exit_status.h"
 #include "platform/foundation/threads/work_queue.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QEventLoop>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTextStream>
 #include <QTimer>
 
 #include <cstring>
+#include <utility>
 
 #include <syslog.h>
 #include <unistd.h>
@@ -24,6 +29,7 @@ namespace halvern {
 namespace {
 
 constexpr int kTakeBackMilliseconds = 3000;
+constexpr int kNoticeMilliseconds = 3000;
 constexpr int kLongestTidying = 3000; // milliseconds
 
 QtMessageHandler usualHandler = nullptr;
@@ -48,6 +54,40 @@ void routeLog()
 
 bool displayIsMissing = false;
 
+// The program's words before there is an application object to translate them.
+QString earlyWords(const char* text)
+{
+    initTranslations();
+    QTranslator translator;
+    QString found;
+    if (translator.load(QLocale(), QStringLiteral("dialog"), QStringLiteral("_"),
+                        QStringLiteral(":/halvern/translations")))
+        found = translator.translate("CommandLine", text);
+    return found.isEmpty() ? QString::fromUtf8(text) : found;
+}
+
+QtMessageHandler handlerBeforeApplication = nullptr;
+QString displayComplaint;
+
+// The toolkit ends a program whose display does not work by abort(), in the application object's constructor.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type == QtFatalMsg) {
+        QTextStream(stderr)
+            << earlyWords(QT_TRANSLATE_NOOP("CommandLine",
+                                            "The display cannot be used: %1. Print with --no-dialog, or set "
+                                            "DISPLAY to one that works."))
+                   .arg(displayComplaint)
+            << Qt::endl;
+        _exit(kExitFailed);
+    }
+    const bool isAboutDisplay = context.category && std::strncmp(context.category, "qt.qpa", 6) == 0;
+    if (!isAboutDisplay && handlerBeforeApplication)
+        handlerBeforeApplication(type, context, text);
+    else if (displayComplaint.isEmpty())
+        displayComplaint = text;
+}
+
 } // namespace
 
 void sendTraceToSystemLog()
@@ -58,15 +98,19 @@ void sendTraceToSystemLog()
     usualHandler = qInstallMessageHandler(toSystemLog);
 }
 
-void prepareProcess()
+void prepareProcess(bool showsWindow)
 {
     routeLog();
     const bool hasDisplay =
         qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    displayIsMissing = !hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    // Without it, Qt would end the program where it only has to say something, or to print without a window.
-    if (displayIsMissing)
+    displayIsMissing = showsWindow && !hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (displayIsMissing || !showsWindow) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        // A desktop's theme would open the display by itself.
+        qunsetenv("QT_QPA_PLATFORMTHEME");
+        return;
+    }
+    handlerBeforeApplication = qInstallMessageHandler(endWithoutDisplay);
 }
 
 QString displayProblem()
@@ -79,6 +123,8 @@ QString displayProblem()
 
 QList<std::shared_ptr<QTranslator>> prepareApplication()
 {
+    if (handlerBeforeApplication)
+        qInstallMessageHandler(std::exchange(handlerBeforeApplication, nullptr));
     initTranslations();
     QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
@@ -95,14 +141,36 @@ QList<std::shared_ptr<QTranslator>> prepareApplication()
     return translators;
 }
 
-void waitForUnfinishedRun(PrintRun* run)
+bool waitForUnfinishedRun(PrintRun* run)
 {
     if (!run || run->isOver() || run->jobId() != 0)
-        return;
+        return false;
     QEventLoop loop;
+    QObject::connect(run, &PrintRun::submitted, &loop, &QEventLoop::quit);
     QObject::connect(run, &PrintRun::finished, &loop, &QEventLoop::quit);
-    QTimer::singleShot(kTakeBackMilliseconds, &loop, &QEventLoop::quit);
+    QTimer patience;
+    patience.setSingleShot(true);
+    QObject::connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
+    const auto limit = [&patience] { patience.start(kTakeBackMilliseconds); };
+    QObject::connect(run, &PrintRun::cancelling, &loop, limit);
+    if (run->isCancelled())
+        limit();
     loop.exec();
+    return true;
+}
+
+void tellAfterwards(const QString& sentence)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
+        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
+    const QString title = QCoreApplication::translate("CommandLine", "Printing");
+    // The body is markup.
+    call.setArguments({QCoreApplication::applicationName(), 0U, QStringLiteral("printer"), title,
+                       sentence.toHtmlEscaped(), QStringList(), QVariantMap(), -1});
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kNoticeMilliseconds);
+    if (answer.type() != QDBusMessage::ReplyMessage)
+        QTextStream(stderr) << sentence << Qt::endl;
 }
 
 void finishQueuedWork()

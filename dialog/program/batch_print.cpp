@@ -1,8 +1,12 @@
 #include "dialog/program/batch_print.h"
 
+#include <QTimer>
+
 namespace halvern {
 
 namespace {
+
+constexpr int kTakeBackMilliseconds = 3000;
 
 // Nobody sees here what is loaded, and a dry run sends nothing: the panels work from the options alone.
 SessionRequest unattended(SessionRequest request)
@@ -44,16 +48,18 @@ void BatchPrint::takePrinters()
         fail(list.problem());
     else if (list.printers().empty() || !list.find(session_.printerName()))
         fail(unknownPrinterText(session_.printerName(), list.printers()));
+    else if (!printerFailure_.isEmpty())
+        fail(printerFailure_);
     else
         proceed();
 }
 
 void BatchPrint::takePrinterFailure(const QString& sentence)
 {
-    const PrinterList& list = session_.printerList();
     // An unknown queue is better told with the known ones, which may still be on their way.
-    if (list.hasAnswer() && list.find(session_.printerName()))
-        fail(sentence);
+    printerFailure_ = sentence;
+    if (session_.printerList().hasAnswer())
+        takePrinters();
 }
 
 void BatchPrint::proceed()
@@ -75,20 +81,54 @@ void BatchPrint::proceed()
 
 void BatchPrint::print()
 {
-    PrintRun* run = session_.makeRun();
-    connect(run, &PrintRun::followed, this, [this](const JobStatus& status, const QString& sentence) {
-        if (sentence != lastSentence_)
-            err_ << sentence << Qt::endl;
-        lastSentence_ = sentence;
-        // Nobody is here to release or resume it.
-        if (isResting(status.stage))
-            end(kExitUnfinished);
-    });
-    connect(run, &PrintRun::finished, this, [this](const PrintOutcome& outcome) {
-        (outcome.printed ? out_ : err_) << outcome.sentence << Qt::endl;
-        end(outcome.printed ? kExitPrinted : kExitFailed);
-    });
-    run->start();
+    run_ = session_.makeRun();
+    run_->setPatience({.untilGivenUp = line_.wait});
+    connect(run_, &PrintRun::followed, this, &BatchPrint::takeStatus);
+    connect(run_, &PrintRun::finished, this, &BatchPrint::takeOutcome);
+    run_->start();
+}
+
+void BatchPrint::takeStatus(const JobStatus& status, const QString& sentence)
+{
+    if (sentence != lastSentence_)
+        err_ << sentence << Qt::endl;
+    lastSentence_ = sentence;
+    // Nobody is here to release or resume it.
+    if (!isResting(status.stage))
+        return;
+    const QString advice = jobAdvice(status, session_.printerName(), run_->jobId());
+    if (!advice.isEmpty())
+        err_ << advice << Qt::endl;
+    end(kExitUnfinished);
+}
+
+void BatchPrint::takeOutcome(const PrintOutcome& outcome)
+{
+    (outcome.printed ? out_ : err_) << outcome.sentence << Qt::endl;
+    if (outcome.printed)
+        end(kExitPrinted);
+    else if (outcome.stage == JobStage::cancelled)
+        end(kExitCancelled);
+    else
+        end(outcome.jobId > 0 && outcome.stage == JobStage::unknown ? kExitUnknown : kExitFailed);
+}
+
+void BatchPrint::leave()
+{
+    if (run_ && run_->jobId() > 0) {
+        err_ << tr("Job %1 stays on the queue; \"cancel %2-%1\" takes it away.")
+                    .arg(QString::number(run_->jobId()), session_.printerName())
+             << Qt::endl;
+        end(kExitUnfinished);
+        return;
+    }
+    if (!run_) {
+        fail(tr("Cancelled: nothing was printed."), kExitCancelled);
+        return;
+    }
+    run_->cancel();
+    // A silent server does not let the run end.
+    QTimer::singleShot(kTakeBackMilliseconds, this, [this] { end(kExitCancelled); });
 }
 
 void BatchPrint::fail(const QString& sentence, int status)

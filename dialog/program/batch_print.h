@@ -3,6 +3,7 @@
 #include "dialog/program/command_line.h"
 #include "dialog/session/dialog_session.h"
 
+#include <QPointer>
 #include <QTextStream>
 
 namespace halvern {
@@ -17,6 +18,9 @@ public:
 
     void start();
 
+    /// Ends as soon as possible: takes back what is not yet sent whole, and leaves alone what the server has.
+    void leave();
+
 Q_SIGNALS:
     void finished(int exitStatus);
 
@@ -25,6 +29,8 @@ private:
     void takePrinterFailure(const QString& sentence);
     void proceed();
     void print();
+    void takeStatus(const JobStatus& status, const QString& sentence);
+    void takeOutcome(const PrintOutcome& outcome);
     void fail(const QString& sentence, int status = kExitFailed);
     void end(int status);
 
@@ -34,6 +40,8 @@ private:
     DialogSession session_;
     bool hasFailed_ = false;
     bool hasStarted_ = false;
+    QString printerFailure_;
+    QPointer<PrintRun> run_;
     QString lastSentence_;
 };
 

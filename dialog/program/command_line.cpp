@@ -12,6 +12,8 @@ namespace halvern {
 
 namespace {
 
+constexpr int kLongestWait = 86400; // seconds
+
 struct Switches {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 
@@ -33,6 +35,11 @@ public:
         QStringLiteral("TEXT")};
     QCommandLineOption noDialog{QStringLiteral("no-dialog"),
                                 tr("Print at once, and wait until the job has ended.")};
+    QCommandLineOption wait{
+        QStringLiteral("wait"),
+        tr("With --no-dialog: give a print server that goes silent after the job was sent this long; "
+           "60 seconds without it."),
+        QStringLiteral("SECONDS")};
     QCommandLineOption dryRun{
         QStringLiteral("dry-run"),
         tr("Write the options that would be sent, one KEY=VALUE a line, and send nothing.")};
@@ -51,6 +58,13 @@ public:
     static QString badCopies(const QString& text)
     {
         return tr("\"%1\" is no number of copies: write a number from 1 to %2.").arg(text).arg(kMostCopies);
+    }
+
+    static QString badWait(const QString& text)
+    {
+        return tr("\"%1\" is no time to wait: write a number of seconds from 1 to %2.")
+            .arg(text)
+            .arg(kLongestWait);
     }
 
     static QString tooManyBackLines()
@@ -72,6 +86,17 @@ public:
     static QString about()
     {
         return tr("Prints photos, with a preview and the printer's own pages of options.");
+    }
+
+    static QString exitStatuses()
+    {
+        return tr("Exit status:\n"
+                  "  0  Printed, or written what was asked for.\n"
+                  "  1  Failed; standard error says why.\n"
+                  "  2  Wrong usage.\n"
+                  "  3  The job is on the queue, and had not ended yet.\n"
+                  "  4  Cancelled: nothing was printed.\n"
+                  "  5  The job was sent, but the print server does not answer: the outcome is not known.");
     }
 
     static QString fileHelp() { return tr("JPEG, PNG, TIFF or PDF files; each photo becomes a page."); }
@@ -117,6 +142,13 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
         if (!isNumber || line.request.copies < 1 || line.request.copies > kMostCopies)
             return Switches::badCopies(parser.value(switches.copies));
     }
+    if (parser.isSet(switches.wait)) {
+        bool isNumber = false;
+        const int seconds = parser.value(switches.wait).toInt(&isNumber);
+        if (!isNumber || seconds < 1 || seconds > kLongestWait)
+            return Switches::badWait(parser.value(switches.wait));
+        line.wait = std::chrono::seconds(seconds);
+    }
     line.request.printer = parser.value(switches.printer);
     if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
         return Switches::emptyPrinter();
@@ -131,14 +163,15 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
-                       switches.noDialog, switches.dryRun, switches.listPapers, switches.refresh});
+                       switches.noDialog, switches.wait, switches.dryRun, switches.listPapers,
+                       switches.refresh});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
     if (!parser.parse(arguments))
         return wrong(parser.errorText() + QLatin1Char(' ') + Switches::seeHelp());
     if (parser.isSet(help))
-        return {std::nullopt, parser.helpText(), kExitPrinted};
+        return {std::nullopt, parser.helpText() + QLatin1Char('\n') + Switches::exitStatuses(), kExitPrinted};
     if (parser.isSet(version))
         return {std::nullopt,
                 QCoreApplication::applicationName() + QLatin1Char(' ') +
@@ -170,6 +203,20 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
             return wrong(unusable, kExitFailed);
     }
     return {line, {}, kExitPrinted, remarks};
+}
+
+bool asksForWindow(const QStringList& arguments)
+{
+    const Switches switches;
+    QCommandLineParser parser;
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint, switches.wait,
+                       switches.noDialog, switches.dryRun, switches.listPapers});
+    const QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(),
+                                               switches.noDialog, switches.dryRun, switches.listPapers};
+    // What it does not know may be the toolkit's own.
+    parser.parse(arguments);
+    return std::none_of(windowless.begin(), windowless.end(),
+                        [&](const QCommandLineOption& option) { return parser.isSet(option); });
 }
 
 } // namespace halvern

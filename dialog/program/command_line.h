@@ -4,6 +4,7 @@
 #include "dialog/program/list_papers.h"
 #include "dialog/session/session_request.h"
 
+#include <chrono>
 #include <optional>
 
 namespace halvern {
@@ -14,6 +15,8 @@ struct CommandLine {
     bool showDialog = true;
     bool dryRun = false;                              ///< say what would be sent, and send nothing
     std::optional<ListPapersRequest> listPapers = {}; ///< list them and do nothing else
+    std::chrono::seconds wait{
+        60}; ///< how long a server that goes silent after the job was sent is borne with
 };
 
 /// A command line, or what to say and the status to end with.
@@ -26,5 +29,8 @@ struct ParsedCommandLine {
 
 /// Reads the arguments; the first is the program's name. Looks at the files too, but decodes none.
 ParsedCommandLine parseCommandLine(const QStringList& arguments);
+
+/// Whether these arguments ask for the dialog's window. Needs no application object.
+bool asksForWindow(const QStringList& arguments);
 
 } // namespace halvern

@@ -2,7 +2,14 @@
 
 namespace halvern {
 
-/// How the program ends.
-enum ExitStatus { kExitPrinted = 0, kExitFailed = 1, kExitUsage = 2, kExitUnfinished = 3 };
+/// How the program ends. --help lists them.
+enum ExitStatus {
+    kExitPrinted = 0,
+    kExitFailed = 1,
+    kExitUsage = 2,
+    kExitUnfinished = 3, ///< the job is on the queue, and has not ended
+    kExitCancelled = 4,  ///< nothing was printed, because somebody said so
+    kExitUnknown = 5,    ///< the job was sent, and the server has gone silent
+};
 
 } // namespace halvern

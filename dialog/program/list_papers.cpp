@@ -1,7 +1,6 @@
 #include "dialog/program/list_papers.h"
 
-#include "dialog/job/job_status.h"
-#include "dialog/job/job_submitter.h"
+#include "dialog/job/job_actions.h"
 #include "dialog/program/command_line.h"
 #include "dialog/program/paper_table.h"
 #include "dialog/program/quit_signals.h"

@@ -15,28 +15,48 @@ namespace {
 
 using namespace halvern;
 
+int statusOf(const PrintDialog& dialog)
+{
+    if (dialog.isRunning())
+        return kExitUnfinished;
+    const PrintOutcome& outcome = dialog.outcome();
+    if (outcome.printed)
+        return kExitPrinted;
+    const bool nobodyPrinted = outcome.sentence.isEmpty();
+    return nobodyPrinted || outcome.stage == JobStage::cancelled ? kExitCancelled : kExitFailed;
+}
+
 int runDialog(const CommandLine& line)
 {
     if (const QString problem = displayProblem(); !problem.isEmpty()) {
         QTextStream(stderr) << problem << Qt::endl;
         return kExitFailed;
     }
+    // The job may still be on its way when the window has gone.
+    QApplication::setQuitOnLastWindowClosed(false);
     PluginLoader panels;
     DialogSession session(line.request, panels);
     PrintDialog dialog(session);
     dialog.show();
     session.start();
-    onQuitSignal(&dialog, [&dialog] { dialog.done(QDialog::Rejected); });
+    onQuitSignal(&dialog, [&dialog] {
+        // Whoever ends the program wants no half of a job; what the server has, it prints.
+        if (dialog.isRunning() && dialog.run()->jobId() == 0)
+            dialog.run()->cancel();
+        if (dialog.isVisible())
+            dialog.done(QDialog::Rejected);
+    });
     QObject::connect(&dialog, &QDialog::finished, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
-    waitForUnfinishedRun(dialog.run());
+    const bool wasClosedEarly = waitForUnfinishedRun(dialog.run());
+    const int status = statusOf(dialog);
+    if (wasClosedEarly && status == kExitFailed)
+        tellAfterwards(dialog.outcome().sentence);
     if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {
         QTextStream(stderr) << problem << Qt::endl;
         return kExitFailed;
     }
-    if (quitWasSignalled())
-        return kExitFailed;
-    return dialog.outcome().printed || dialog.outcome().sentence.isEmpty() ? kExitPrinted : kExitFailed;
+    return status;
 }
 
 int runBatch(const CommandLine& line)
@@ -51,6 +71,7 @@ int runBatch(const CommandLine& line)
         status = exitStatus;
         loop.quit();
     });
+    onQuitSignal(&batch, [&batch] { batch.leave(); });
     QTimer::singleShot(0, &batch, &BatchPrint::start);
     loop.exec();
     return status;
@@ -88,7 +109,10 @@ int statusWithOutput(int status)
 
 int main(int argc, char** argv)
 {
-    prepareProcess();
+    QStringList given;
+    for (int i = 0; i < argc; ++i)
+        given.append(QString::fromLocal8Bit(argv[i]));
+    prepareProcess(asksForWindow(given));
     QApplication app(argc, argv);
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
     const ParsedCommandLine parsed = parseCommandLine(QCoreApplication::arguments());

@@ -1,6 +1,5 @@
 #include "dialog/server/printer_list.h"
 
-#include "dialog/server/state_reasons.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QCoreApplication>
@@ -33,6 +32,8 @@ QString stateText(const PrinterInfo& printer)
         state = words(QT_TRANSLATE_NOOP("PrinterState", "Printing"));
     else if (printer.isDiscovered)
         state = words(QT_TRANSLATE_NOOP("PrinterState", "Found on the network"));
+    else if (stateSeverity(printer) == Severity::error)
+        state = words(QT_TRANSLATE_NOOP("PrinterState", "Needs attention"));
     QStringList reasons;
     for (const QString& reason : printer.reasons) {
         const QString text = reasonText(reason);
@@ -40,6 +41,18 @@ QString stateText(const PrinterInfo& printer)
             reasons.append(text);
     }
     return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
+}
+
+Severity stateSeverity(const PrinterInfo& printer)
+{
+    Severity worst = Severity::report;
+    if (!printer.isAccepting || printer.state == PrinterState::stopped)
+        worst = Severity::error;
+    for (const QString& reason : printer.reasons) {
+        if (!reasonText(reason).isEmpty())
+            worst = std::max(worst, severityOf(reason));
+    }
+    return worst;
 }
 
 QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog/server/state_reasons.h"
 #include "platform/printing/cups_connection.h"
 
 #include <QObject>
@@ -26,6 +27,9 @@ struct PrinterInfo {
 
 /// "Ready", "Paused: out of paper" and so on, in the user's language.
 QString stateText(const PrinterInfo& printer);
+
+/// How bad that is: an error keeps the printer from printing.
+Severity stateSeverity(const PrinterInfo& printer);
 
 /// The sentence for a queue name that is not among the server's.
 QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers);

@@ -347,7 +347,7 @@ OptionValues DialogSession::collectOptions()
 
 PrintRun* DialogSession::makeRun()
 {
-    JobRequest job{printerName_, QFileInfo(photos_.front().path).fileName(), {}, collectOptions()};
+    JobRequest job{printerName_, QFileInfo(photos_.front().path).fileName(), collectOptions()};
     std::vector<PageToPrint> pages;
     for (const Photo& photo : photos_)
         pages.push_back({photo, layoutFor(photo)});

@@ -3,13 +3,13 @@
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
+#include "dialog/window/run_bar.h"
 
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
@@ -125,19 +125,12 @@ QWidget* PrintDialog::makeControlSide()
     deck_ = new PanelDeck(session_, side);
     column->addWidget(deck_, 1);
     column->addWidget(makeLine(side));
-    status_ = new QLabel(side);
-    status_->setObjectName(QStringLiteral("status"));
-    status_->setWordWrap(true);
-    status_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    status_->hide();
-    progress_ = new QProgressBar(side);
-    progress_->setObjectName(QStringLiteral("progress"));
-    progress_->setAccessibleName(tr("Progress of the print job"));
-    progress_->setTextVisible(false);
-    progress_->setFixedHeight(8);
-    progress_->hide();
-    column->addWidget(status_);
-    column->addWidget(progress_);
+    runBar_ = new RunBar(side);
+    connect(runBar_, &RunBar::remedyChosen, this, [this](Remedy remedy) {
+        if (run_)
+            run_->apply(remedy);
+    });
+    column->addWidget(runBar_);
     column->addLayout(makeButtonRow(side));
     return side;
 }
@@ -173,19 +166,23 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     copies_->setValue(session_.page().copies);
     auto* label = new QLabel(tr("C&opies:"), parent);
     label->setBuddy(copies_);
+    cancelJob_ = new QPushButton(tr("Cancel &Job"), parent);
+    cancelJob_->setObjectName(QStringLiteral("cancelJobButton"));
+    cancelJob_->setAutoDefault(false);
     cancel_ = new QPushButton(tr("Cancel"), parent);
     cancel_->setObjectName(QStringLiteral("cancelButton"));
     cancel_->setAutoDefault(false);
     print_ = new QPushButton(tr("&Print"), parent);
     print_->setObjectName(QStringLiteral("printButton"));
     print_->setDefault(true);
-    for (QPushButton* button : {cancel_, print_})
+    for (QPushButton* button : {cancelJob_, cancel_, print_})
         button->setMinimumSize(104, 32);
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
     row->addWidget(label);
     row->addWidget(copies_);
     row->addStretch();
+    row->addWidget(cancelJob_);
     row->addWidget(cancel_);
     row->addWidget(print_);
     connect(copies_, &QSpinBox::valueChanged, this, [this](int copies) {
@@ -193,6 +190,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
         page.copies = copies;
         session_.setPage(page);
     });
+    connect(cancelJob_, &QPushButton::clicked, this, &PrintDialog::cancelJob);
     connect(cancel_, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(print_, &QPushButton::clicked, this, &PrintDialog::print);
     return row;
@@ -216,6 +214,7 @@ void PrintDialog::connectSession()
     connect(&session_.printerList(), &PrinterList::changed, this, &PrintDialog::fillPrinters);
     connect(&session_, &DialogSession::printerSelected, this, [this] {
         message_->clear();
+        clearOldOutcome();
         fillPrinters();
         updateButtons();
     });
@@ -227,7 +226,7 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::printerFailed, this, [this](const QString& sentence) {
         deck_->rebuild();
         message_->showMessage(MessageKind::error, sentence);
-        updateButtons();
+        showPrinterState();
     });
     connect(&session_, &DialogSession::notice, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::information, sentence); });
@@ -238,6 +237,7 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
     connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
+        clearOldOutcome();
         deck_->refresh();
         showPhotos();
     });
@@ -274,8 +274,9 @@ void PrintDialog::showPrinterState()
     const PrinterList& list = session_.printerList();
     const PrinterInfo* printer = list.find(session_.printerName());
     QString text = tr("Looking for printers...");
+    // One failure of the server's is told once, wherever it was noticed first.
     if (!list.problem().isEmpty())
-        text = list.problem();
+        text = list.problem() == message_->text() ? tr("No answer from the print server.") : list.problem();
     else if (printer)
         text = stateText(*printer);
     else if (list.hasAnswer() && list.printers().empty())
@@ -283,12 +284,19 @@ void PrintDialog::showPrinterState()
     else if (list.hasAnswer())
         text = tr("The print server has no printer \"%1\". Choose another one.").arg(session_.printerName());
     printerState_->setText(text);
-    const bool needsAttention = !printer || printer->state == PrinterState::stopped || !printer->isAccepting;
+    Severity severity = printer ? stateSeverity(*printer) : Severity::error;
+    if (!list.hasAnswer())
+        severity = Severity::report;
+    else if (!list.problem().isEmpty())
+        severity = Severity::error;
     QPalette colours = palette();
-    if (needsAttention && list.hasAnswer()) {
+    if (severity != Severity::report) {
         const bool isDark = colours.color(QPalette::Window).lightness() < 128;
         colours.setColor(QPalette::WindowText, isDark ? QColor(255, 150, 110) : QColor(170, 60, 10));
     }
+    QFont font = printer_->font();
+    font.setBold(severity == Severity::error);
+    printerState_->setFont(font);
     printerState_->setPalette(colours);
     updateButtons();
 }

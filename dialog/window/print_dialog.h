@@ -7,7 +7,6 @@
 
 class QComboBox;
 class QLabel;
-class QProgressBar;
 class QPushButton;
 class QSpinBox;
 class QToolButton;
@@ -17,6 +16,7 @@ namespace halvern {
 class MessageBar;
 class PanelDeck;
 class PreviewWidget;
+class RunBar;
 
 /// The print dialog's window. It shows a session and passes on what the user does. Main thread only; usable
 /// as soon as it is shown, whatever the print server does.
@@ -33,11 +33,14 @@ public:
     /// The run that is under way or the last one; null before the first.
     PrintRun* run() { return run_; }
 
+    bool isRunning() const { return run_ && !run_->isOver(); }
+
     /// How the last run ended.
     const PrintOutcome& outcome() const { return outcome_; }
 
+    /// Leaves at once, whatever is under way: a job that the server has stays on its queue, and one that is
+    /// still being sent goes on as long as the session lives.
     void done(int result) override;
-    void reject() override;
 
 Q_SIGNALS:
     /// A run has ended, and the dialog says so.
@@ -60,8 +63,8 @@ private:
     void print();
     void followRun();
     void takeOutcome(const PrintOutcome& outcome);
-
-    bool isRunning() const { return run_ && !run_->isOver(); }
+    void cancelJob();
+    void clearOldOutcome();
 
     DialogSession& session_;
     MessageBar* message_;
@@ -72,8 +75,8 @@ private:
     QSpinBox* copies_ = nullptr;
     QPushButton* print_ = nullptr;
     QPushButton* cancel_ = nullptr;
-    QProgressBar* progress_ = nullptr;
-    QLabel* status_ = nullptr;
+    QPushButton* cancelJob_ = nullptr;
+    RunBar* runBar_ = nullptr;
     QWidget* pager_ = nullptr;
     QLabel* pageNumber_ = nullptr;
     QToolButton* back_ = nullptr;

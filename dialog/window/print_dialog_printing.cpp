@@ -3,20 +3,13 @@
 
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
+#include "dialog/window/run_bar.h"
 
 #include <QComboBox>
-#include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 
 namespace halvern {
-
-namespace {
-
-constexpr int kProgressSteps = 1000;
-
-} // namespace
 
 void PrintDialog::updateButtons()
 {
@@ -27,7 +20,9 @@ void PrintDialog::updateButtons()
     printer_->setEnabled(!isBusy);
     deck_->setEnabled(!isBusy);
     copies_->setEnabled(!isBusy);
-    cancel_->setText(isBusy ? tr("Cancel Job") : hasPrinted_ ? tr("Close") : tr("Cancel"));
+    cancelJob_->setVisible(isBusy);
+    cancelJob_->setEnabled(isBusy && !run_->isCancelled());
+    cancel_->setText(isBusy || hasPrinted_ ? tr("Close") : tr("Cancel"));
 }
 
 void PrintDialog::print()
@@ -42,44 +37,64 @@ void PrintDialog::print()
     run_ = session_.makeRun();
     deck_->pausePanels();
     followRun();
-    progress_->setRange(0, kProgressSteps);
-    progress_->setValue(0);
-    progress_->show();
-    status_->setText(tr("Preparing the pages..."));
-    status_->show();
+    runBar_->showProgress(0, tr("Preparing the pages..."));
     run_->start();
     updateButtons();
+    // Print is off now, and focus would go to whatever comes next.
+    if (!focusWidget() || !focusWidget()->isEnabled())
+        cancel_->setFocus(Qt::OtherFocusReason);
 }
 
 void PrintDialog::followRun()
 {
     connect(run_, &PrintRun::progressed, this, [this](double share, const QString& words) {
-        progress_->setValue(int(share * kProgressSteps));
-        status_->setText(words);
+        if (!run_->isCancelled())
+            runBar_->showProgress(share, words);
     });
     connect(run_, &PrintRun::submitted, this, [this](int jobId) {
-        progress_->setRange(0, 0);
-        status_->setText(tr("Job %1 was sent to \"%2\".").arg(jobId).arg(session_.printerName()));
+        if (!run_->isCancelled())
+            runBar_->showSent(
+                tr("Job %1 was sent to \"%2\".").arg(QString::number(jobId), session_.printerName()));
     });
     connect(run_, &PrintRun::followed, this, [this](const JobStatus& status, const QString& sentence) {
-        status_->setText(sentence);
-        progress_->setVisible(!isResting(status.stage));
+        runBar_->showStatus(status, sentence);
     });
     connect(run_, &PrintRun::finished, this, &PrintDialog::takeOutcome);
+}
+
+void PrintDialog::cancelJob()
+{
+    if (!isRunning())
+        return;
+    runBar_->setText(run_->jobId() == 0
+                         ? tr("Cancelling...")
+                         : tr("Asking the print server to cancel job %1...").arg(run_->jobId()));
+    run_->cancel();
+    updateButtons();
 }
 
 void PrintDialog::takeOutcome(const PrintOutcome& outcome)
 {
     outcome_ = outcome;
     hasPrinted_ = hasPrinted_ || outcome.printed;
-    progress_->hide();
-    status_->setText(outcome.sentence);
-    status_->show();
-    if (!outcome.printed && outcome.stage != JobStage::cancelled)
+    const bool isFailure = !outcome.printed && outcome.stage != JobStage::cancelled;
+    if (isFailure) {
+        runBar_->clear();
         message_->showMessage(MessageKind::error, outcome.sentence);
-    deck_->resumePanel();
+    } else {
+        runBar_->showEnd(outcome.sentence);
+    }
+    if (isVisible())
+        deck_->resumePanel();
     updateButtons();
     Q_EMIT printed(outcome);
+}
+
+void PrintDialog::clearOldOutcome()
+{
+    // "Printed" was said of other choices.
+    if (!isRunning())
+        runBar_->clear();
 }
 
 void PrintDialog::showHelp()
@@ -92,22 +107,8 @@ void PrintDialog::showHelp()
            "left of the options has the printer's own pages."));
 }
 
-void PrintDialog::reject()
-{
-    if (isRunning() && !run_->isCancelled()) {
-        // The first press ends the job; closing the window, or a second press, leaves at once.
-        status_->setText(tr("Cancelling..."));
-        run_->cancel();
-        return;
-    }
-    QDialog::reject();
-}
-
 void PrintDialog::done(int result)
 {
-    // What is only half sent is taken back by its worker; what the server has, it prints.
-    if (isRunning() && run_->jobId() == 0)
-        run_->cancel();
     deck_->tellClosing(hasPrinted_ || isRunning());
     deck_->releasePanels();
     QDialog::done(result);

@@ -67,6 +67,12 @@ bool Connection::wasNotFound() const
     return status_ == HTTP_STATUS_NOT_FOUND;
 }
 
+bool Connection::wasForbidden() const
+{
+    return status_ == HTTP_STATUS_UNAUTHORIZED || status_ == HTTP_STATUS_FORBIDDEN ||
+           status_ == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+}
+
 // Called after each second of silence; a byte in between starts the count anew.
 int Connection::keepWaiting(http_t*, void* self)
 {

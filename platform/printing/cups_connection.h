@@ -72,6 +72,9 @@ public:
     /// Whether the server said in the last exchange that what was asked for is not there.
     bool wasNotFound() const;
 
+    /// Whether it wanted a name and a password, or another one's, before it looked at the question.
+    bool wasForbidden() const;
+
     /// A sentence about the last failure in the user's language: what happened and what to do.
     QString error() const { return error_; }
 

@@ -109,25 +109,44 @@ TEST(SavedOptions, TheUsersFileWinsOverTheSystems)
               (OptionValues{{q("PaperTone"), q("Very Warm")}, {q("Resolution"), q("300dpi")}}));
 }
 
-TEST(JobWords, EveryStageHasASentenceWithTheJobAndWhatToDo)
+TEST(JobWords, EveryStageHasASentenceAndARestingJobAWayOn)
 {
     struct Case {
         JobStage stage;
         const char* words;
+        Remedy remedy = Remedy::none;
+        const char* advice = "";
     };
 
-    const Case cases[] = {{JobStage::completed, "Printed"},       {JobStage::held, "resume"},
-                          {JobStage::stopped, "paper jam"},       {JobStage::blocked, "cupsenable"},
-                          {JobStage::cancelled, "was cancelled"}, {JobStage::aborted, "error log"},
-                          {JobStage::printing, "is printing"},    {JobStage::unknown, "does not say"}};
+    const Case cases[] = {
+        {JobStage::completed, "Printed"},
+        {JobStage::held, "is held", Remedy::releaseJob, "-H resume"},
+        {JobStage::stopped, "(paper jam, Filter failed)", Remedy::resumePrinter, "cupsenable"},
+        {JobStage::blocked, "is paused (paper jam, Filter", Remedy::resumePrinter, "cancel Tess"},
+        {JobStage::cancelled, "was cancelled"},
+        {JobStage::aborted, "error log"},
+        {JobStage::printing, "is printing on \"Tessarin\" (paper jam, paused)."},
+        {JobStage::gone, "has left the queue"},
+        {JobStage::lost, "not on the print server any more"},
+        {JobStage::unknown, "does not answer"}};
     for (const Case& c : cases) {
         JobStatus status;
         status.stage = c.stage;
-        status.printerReasons = {q("media-jam-error"), q("cups-waiting-for-job-completed")};
+        status.printerReasons = {q("media-jam-error"), q("paused"), q("cups-waiting-for-job-completed")};
+        status.message = q("Filter failed");
         const QString sentence = jobSentence(status, q("Tessarin"), 17);
         EXPECT_TRUE(sentence.contains(q(c.words))) << qPrintable(sentence);
         EXPECT_TRUE(sentence.contains(q("17")) && sentence.contains(q("Tessarin"))) << qPrintable(sentence);
         EXPECT_FALSE(sentence.contains(u"%") || sentence.contains(q("cups-"))) << qPrintable(sentence);
+        EXPECT_EQ(remedyFor(status), c.remedy) << c.words;
+        const QString advice = jobAdvice(status, q("Tessarin"), 17);
+        EXPECT_EQ(advice.isEmpty(), c.remedy == Remedy::none);
+        EXPECT_TRUE(advice.contains(q(c.advice))) << qPrintable(advice);
+        for (const char* chatter :
+             {"Printing page 1, 7%", "Color Manager: no profiles specified in PPD", "Paused"}) {
+            status.message = q(chatter);
+            EXPECT_FALSE(jobSentence(status, q("Tessarin"), 17).contains(q(chatter))) << chatter;
+        }
     }
 }
 
@@ -135,6 +154,12 @@ TEST(JobWords, APrintersStateNamesWhatIsWrong)
 {
     PrinterInfo printer;
     EXPECT_EQ(stateText(printer), q("Ready"));
+    EXPECT_EQ(stateSeverity(printer), Severity::report);
+    printer.reasons = {q("toner-low"), q("connecting-to-device")};
+    EXPECT_EQ(stateText(printer), q("Ready: toner is low, connecting"));
+    EXPECT_EQ(stateSeverity(printer), Severity::warning);
+    printer.reasons = {q("marker-supply-empty")};
+    EXPECT_EQ(stateText(printer), q("Needs attention: out of ink"));
     printer.state = PrinterState::stopped;
     printer.reasons = {q("paused"), q("media-empty-error"), q("weird-thing-error"), q("harmless-report")};
     EXPECT_EQ(stateText(printer), q("Paused: out of paper, weird thing"));

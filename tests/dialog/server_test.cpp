@@ -1,6 +1,5 @@
 // The dialog's model and window on a real print server with virtual printers.
 #include "tests/support/server_test.h"
-#include "dialog/job/job_submitter.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
@@ -138,10 +137,6 @@ TEST_F(DialogServerTest, ARefusedJobLeavesNothingOnTheServer)
     runJob(*run, &sentence);
     EXPECT_TRUE(containsText(sentence, "does not accept jobs")) << qPrintable(sentence);
     EXPECT_EQ(run->jobId(), 0);
-    const SubmitResult unsent =
-        submitJob({q("Tessarin"), q("x"), q("/nowhere.pdf"), {}}, cups::makeCancelFlag(), [](double) {});
-    EXPECT_EQ(unsent.jobId, 0);
-    EXPECT_FALSE(unsent.problem.isEmpty());
 }
 
 TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)

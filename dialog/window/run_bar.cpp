@@ -1,0 +1,115 @@
+#include "dialog/window/run_bar.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kProgressSteps = 1000;
+
+QString buttonText(Remedy remedy)
+{
+    switch (remedy) {
+    case Remedy::resumePrinter:
+        return RunBar::tr("Resume Prin&ter");
+    case Remedy::releaseJob:
+        return RunBar::tr("Rele&ase Job");
+    case Remedy::restartJob:
+        return RunBar::tr("Print Job A&gain");
+    case Remedy::none:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+RunBar::RunBar(QWidget* parent)
+    : QWidget(parent),
+      text_(new QLabel(this)),
+      progress_(new QProgressBar(this)),
+      button_(new QPushButton(this))
+{
+    text_->setObjectName(QStringLiteral("status"));
+    text_->setWordWrap(true);
+    text_->setTextFormat(Qt::PlainText);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    progress_->setObjectName(QStringLiteral("progress"));
+    progress_->setAccessibleName(tr("Progress of the print job"));
+    progress_->setTextVisible(false);
+    progress_->setFixedHeight(8);
+    button_->setObjectName(QStringLiteral("remedyButton"));
+    button_->setAutoDefault(false);
+    button_->setMinimumSize(104, 32);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(10);
+    grid->addWidget(text_, 0, 0);
+    grid->addWidget(button_, 0, 1, Qt::AlignTop);
+    grid->addWidget(progress_, 1, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    connect(button_, &QPushButton::clicked, this, [this] {
+        // One press is one request; the next status brings the button back if it is still needed.
+        button_->setEnabled(false);
+        Q_EMIT remedyChosen(remedy_);
+    });
+    clear();
+}
+
+void RunBar::showProgress(double share, const QString& words)
+{
+    progress_->setRange(0, kProgressSteps);
+    progress_->setValue(int(share * kProgressSteps));
+    progress_->show();
+    showRemedy(Remedy::none);
+    setText(words);
+}
+
+void RunBar::showSent(const QString& words)
+{
+    progress_->setRange(0, 0);
+    progress_->show();
+    setText(words);
+}
+
+void RunBar::showStatus(const JobStatus& status, const QString& sentence)
+{
+    progress_->setRange(0, 0);
+    progress_->setVisible(!isResting(status.stage) && status.stage != JobStage::unknown);
+    showRemedy(remedyFor(status));
+    setText(sentence);
+}
+
+void RunBar::showEnd(const QString& sentence)
+{
+    clear();
+    setText(sentence);
+}
+
+void RunBar::setText(const QString& text)
+{
+    text_->setText(text);
+    show();
+}
+
+void RunBar::clear()
+{
+    hide();
+    text_->clear();
+    progress_->hide();
+    showRemedy(Remedy::none);
+}
+
+void RunBar::showRemedy(Remedy remedy)
+{
+    remedy_ = remedy;
+    button_->setText(buttonText(remedy));
+    button_->setVisible(remedy != Remedy::none);
+    button_->setEnabled(true);
+}
+
+} // namespace halvern

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "dialog/job/job_status.h"
+
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace halvern {
+
+/// What becomes of a print run, above the dialog's buttons: a sentence, the progress, and a button that gets
+/// a resting job on its way. Hidden while there is nothing to tell. Main thread only.
+class RunBar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit RunBar(QWidget* parent);
+
+    /// Preparing and sending; `share` from 0 to 1.
+    void showProgress(double share, const QString& words);
+
+    /// The server has the job; it takes as long as it takes.
+    void showSent(const QString& words);
+
+    void showStatus(const JobStatus& status, const QString& sentence);
+
+    /// A last sentence, without progress or button.
+    void showEnd(const QString& sentence);
+
+    /// A sentence in between, which leaves the rest as it is.
+    void setText(const QString& text);
+
+    void clear();
+
+Q_SIGNALS:
+    void remedyChosen(halvern::Remedy remedy);
+
+private:
+    void showRemedy(Remedy remedy);
+
+    QLabel* text_;
+    QProgressBar* progress_;
+    QPushButton* button_;
+    Remedy remedy_ = Remedy::none;
+};
+
+} // namespace halvern
