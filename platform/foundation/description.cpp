@@ -94,6 +94,33 @@ void appendNested(QString& out, const QVariant& value)
     }
 }
 
+bool isNumber(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool areSameNumbers(const QVariant& left, const QVariant& right)
+{
+    // Wide enough for 64 bits with and without a sign, and for a double.
+    const auto wide = [](const QVariant& value) -> long double {
+        if (value.typeId() == QMetaType::Double)
+            return value.toDouble();
+        return value.typeId() == QMetaType::ULongLong ? static_cast<long double>(value.toULongLong())
+                                                      : static_cast<long double>(value.toLongLong());
+    };
+    return wide(left) == wide(right);
+}
+
 bool areSameMaps(const QVariantMap& left, const QVariantMap& right)
 {
     return left.size() == right.size() && std::equal(left.keyValueBegin(), left.keyValueEnd(),
@@ -121,6 +148,8 @@ QString descriptionOf(const QVariant& value)
 
 bool isSameValue(const QVariant& left, const QVariant& right)
 {
+    if (isNumber(left) && isNumber(right))
+        return areSameNumbers(left, right);
     if (left.typeId() != right.typeId())
         return false;
     if (left.typeId() == QMetaType::QVariantMap) {

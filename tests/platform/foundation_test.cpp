@@ -95,14 +95,15 @@ TEST(DescriptionTest, KeepsDifferentDictionariesApart)
               QStringLiteral("(1, \"300 dpi\", {}, (null))"));
 }
 
-TEST(SameValueTest, ComparesTypesAllTheWayDown)
+TEST(SameValueTest, NumbersAreTheSameWhateverTheirWidthButNeverATexts)
 {
     const auto record = [](const QVariant& resolution) {
         return QVariantList{QVariantMap{{QStringLiteral("r"), resolution}}};
     };
-    EXPECT_TRUE(isSameValue(record(qint64(3000)), record(qint64(3000))));
-    for (const QVariant& other :
-         {QVariant(QStringLiteral("3000")), QVariant(quint64(3000)), QVariant(qint64(3001))})
+    for (const QVariant& same : {QVariant(qint64(3000)), QVariant(quint64(3000)), QVariant(3000.0)})
+        EXPECT_TRUE(isSameValue(record(qint64(3000)), record(same)));
+    EXPECT_FALSE(isSameValue(quint64(-1), qint64(-1)));
+    for (const QVariant& other : {QVariant(QStringLiteral("3000")), QVariant(3000.5), QVariant(qint64(3001))})
         EXPECT_FALSE(isSameValue(record(qint64(3000)), record(other)));
     EXPECT_FALSE(isSameValue(QVariantMap(), QVariantMap{{QStringLiteral("a"), QVariant()}}));
 }

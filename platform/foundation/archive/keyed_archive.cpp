@@ -15,6 +15,10 @@ namespace {
 /// How many ancestors of a class are looked at.
 constexpr quint32 kMaxClassNames = 16;
 
+/// What each keyed archive says of itself.
+constexpr char kArchiver[] = "NSKeyedArchiver";
+constexpr quint64 kVersion = 100'000;
+
 constexpr char kNoElements[] = "a collection lacks its elements";
 
 } // namespace
@@ -25,7 +29,13 @@ KeyedArchive::KeyedArchive(const PropertyListObjectTable& table)
     const Object archive = table.object(table.topObject());
     if (archive.kind != Kind::dictionary)
         throw CorruptArchive{"it is not a keyed archive"};
-    const char* why = "it has no list of objects";
+    const std::optional<quint32> archiver = table.valueForKey(archive, "$archiver");
+    if (!archiver || !table.isText(table.object(*archiver), kArchiver))
+        throw CorruptArchive{"it does not say that it is a keyed archive"};
+    const char* why = "it is of an unknown version";
+    if (table.integerBits(table.object(required(archive, "$version", Kind::integer, why))) != kVersion)
+        throw CorruptArchive{why};
+    why = "it has no list of objects";
     objects_ = table.object(required(archive, "$objects", Kind::array, why));
     why = "it does not name its root";
     const Object top = table.object(required(archive, "$top", Kind::dictionary, why));
@@ -43,10 +53,8 @@ quint32 KeyedArchive::required(const Object& fields, QByteArrayView key, Kind ki
 std::optional<quint32> KeyedArchive::target(quint32 reference) const
 {
     const Object object = table_.object(reference);
-    if (object.kind == Kind::null)
-        return std::nullopt;
     if (object.kind != Kind::uid)
-        return reference;
+        throw CorruptArchive{"an archived object holds something that is no reference"};
     const quint64 number = table_.integerBits(object);
     if (number >= objects_.count)
         throw CorruptArchive{"a reference points to no archived object"};
@@ -70,7 +78,6 @@ ArchivedValue KeyedArchive::value(quint32 target)
         return instance(object);
     case Kind::array:
     case Kind::set:
-    case Kind::uid:
         throw CorruptArchive{"an archived object has no class"};
     default:
         return {ArchivedValue::Kind::plain, target, 0};
@@ -126,6 +133,12 @@ KeyedArchive::Reading KeyedArchive::listOf(const Object& fields) const
     return {{ArchivedValue::Kind::list, *elements, 0}};
 }
 
+/// A single value is kept in its field, or referred to from there.
+std::optional<quint32> KeyedArchive::contentOf(quint32 field) const
+{
+    return table_.object(field).kind == Kind::uid ? target(field) : field;
+}
+
 std::optional<quint32> KeyedArchive::arrayField(const Object& fields, QByteArrayView key) const
 {
     const std::optional<quint32> found = table_.valueForKey(fields, key);
@@ -154,7 +167,7 @@ KeyedArchive::Reading KeyedArchive::scalarOf(const Object& fields, Meaning meani
             field.meaning == meaning ? table_.valueForKey(fields, field.key) : std::nullopt;
         if (!found)
             continue;
-        const std::optional<quint32> content = target(*found);
+        const std::optional<quint32> content = contentOf(*found);
         if (!content || std::ranges::count(field.kinds, table_.object(*content).kind) == 0)
             return {{}, "a value is not of its class"};
         const bool date = meaning == Meaning::date;

@@ -30,8 +30,8 @@ public:
     /// The table's object for the archive's root. Nothing if the root is nil.
     std::optional<quint32> root() { return target(root_); }
 
-    /// Follows a reference to the object that it means, nothing for nil. An object that is no reference
-    /// means itself, as in archives that do not share values.
+    /// Follows a reference to the object that it means, nothing for nil. Whatever an archived object holds,
+    /// it holds by reference: an object that is none is corrupt.
     std::optional<quint32> target(quint32 reference) const;
 
     /// What the object, an answer of target(), stands for. Takes time in proportion to the object's own
@@ -61,6 +61,7 @@ private:
     Reading dictionaryOf(const PropertyListObjectTable::Object& fields) const;
     Reading listOf(const PropertyListObjectTable::Object& fields) const;
     Reading scalarOf(const PropertyListObjectTable::Object& fields, Meaning meaning) const;
+    std::optional<quint32> contentOf(quint32 field) const;
     std::optional<quint32> arrayField(const PropertyListObjectTable::Object& fields,
                                       QByteArrayView key) const;
     quint32 required(const PropertyListObjectTable::Object& fields, QByteArrayView key,

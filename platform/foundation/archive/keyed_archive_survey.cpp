@@ -31,7 +31,18 @@ void KeyedArchiveSurvey::run()
     const std::optional<quint32> root = archive_.root();
     if (!root || archive_.value(*root).kind != ArchivedValue::Kind::dictionary)
         throw CorruptArchive{"its root is not a dictionary"};
-    surveyTarget(*root, 1);
+    checkGrowth(surveyTarget(*root, 1));
+}
+
+/// A few hundred bytes that share what they hold level by level come to millions of values, and everything
+/// that compares, shows or describes them walks through all.
+void KeyedArchiveSurvey::checkGrowth(const Extent& whole) const
+{
+    constexpr quint64 growth = KeyedUnarchiver::kMaxGrowth;
+    if (whole.values > KeyedUnarchiver::kFreeValues + growth * walked_)
+        throw CorruptArchive{"it comes to many times the values that it holds"};
+    if (whole.characters > KeyedUnarchiver::kFreeCharacters + growth * quint64(table_.byteCount()))
+        throw CorruptArchive{"it comes to many times the text that it holds"};
 }
 
 KeyedArchiveSurvey::Extent KeyedArchiveSurvey::surveyReference(quint32 reference, int depth)

@@ -8,8 +8,8 @@
 namespace halvern {
 
 /// Walks a keyed archive from its root as decoding would, each object once, and holds it to the limits of
-/// KeyedUnarchiver: no container inside itself, depth, expanded number of values and characters, memory.
-/// Takes eight bytes an object.
+/// KeyedUnarchiver: no container inside itself, depth, expanded number of values and characters, growth,
+/// memory. Takes eight bytes an object.
 class KeyedArchiveSurvey {
 public:
     KeyedArchiveSurvey(const PropertyListObjectTable& table, KeyedArchive& archive);
@@ -37,6 +37,7 @@ private:
     Extent surveyTarget(quint32 target, int depth);
     Extent surveyContainer(const ArchivedValue& value, int depth);
     Extent surveyPlain(quint32 object);
+    void checkGrowth(const Extent& whole) const;
     void include(Extent& whole, const Extent& part);
     void spend(quint64 bytes);
 

@@ -12,9 +12,10 @@ namespace halvern {
 ///
 /// All or nothing: a broken rule anywhere on the way from the root makes the whole archive corrupt. A file is
 /// at most 32 MiB and four million objects; the decoded tree at most 64 levels, four million values and
-/// kMaxCharacters, with each shared one counted wherever it appears, and kMaxDecodedBytes. The archive is
-/// surveyed first and decoded only if it passes, so that a hostile one costs little more than its own size.
-/// Any thread; never throws.
+/// kMaxCharacters, with each shared one counted wherever it appears, and kMaxDecodedBytes. Beyond a small
+/// amount that tree is at most kMaxGrowth times what the file holds. The archive is surveyed first and
+/// decoded only if it passes, so that a hostile one costs little more than its own size. Any thread; never
+/// throws.
 class KeyedUnarchiver {
 public:
     static constexpr int kMaxDepth = 64;
@@ -22,6 +23,12 @@ public:
 
     /// Characters of texts and bytes of data. 100,000 papers have some ten million.
     static constexpr quint32 kMaxCharacters = 32 * 1024 * 1024;
+
+    /// How much larger than the file the tree may be by sharing: values as against the elements of its
+    /// collections, characters as against its bytes. Records that share their keys come to four times.
+    static constexpr quint32 kMaxGrowth = 16;
+    static constexpr quint32 kFreeValues = 4'000;
+    static constexpr quint32 kFreeCharacters = 64 * 1024;
 
     /// An estimate of the memory that the decoded values take.
     static constexpr quint64 kMaxDecodedBytes = 128 * 1024 * 1024;

@@ -115,6 +115,8 @@ void PropertyListObjectTable::checkObjects() const
 
 PropertyListObjectTable::Object PropertyListObjectTable::object(quint32 index) const
 {
+    if (++looks_ > kMaxLooksPerByte * quint64(bytes_.size()))
+        throw CorruptArchive{"it takes more steps to read than any honest one"};
     const quint64 offset = bigEndian(offsetTable_ + quint64(index) * offsetSize_, offsetSize_);
     if (offset < kMagicSize || offset >= offsetTable_)
         throw CorruptArchive{"an object lies outside the file"};

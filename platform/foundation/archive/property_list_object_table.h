@@ -14,11 +14,14 @@ struct CorruptArchive {
 
 inline constexpr qsizetype kMaxArchiveBytes = 32 * 1024 * 1024;
 inline constexpr quint32 kMaxArchiveObjects = 4'000'000;
+inline constexpr quint64 kMaxLooksPerByte = 8;
 
 /// The flat object table of a binary property list, read in place: nothing is copied, expanded or followed.
 ///
 /// The constructor checks every object once (place, length, references, text), so that reading afterwards
-/// cannot fail. It takes time in proportion to the bytes, and no memory of its own. Any thread.
+/// cannot fail but in one way: whoever looks at more objects than kMaxLooksPerByte for each byte of the file
+/// is stopped, by CorruptArchive, because honest archives need less than one. So reading takes time in
+/// proportion to the bytes whatever they hold. No memory of its own. One thread at a time.
 class PropertyListObjectTable {
 public:
     enum class Kind : quint8 {
@@ -51,6 +54,8 @@ public:
     static bool hasMagic(QByteArrayView bytes);
 
     quint32 objectCount() const { return objectCount_; }
+
+    qsizetype byteCount() const { return bytes_.size(); }
 
     /// The index of the list's outermost object.
     quint32 topObject() const { return topObject_; }
@@ -99,6 +104,7 @@ private:
     quint32 offsetTable_ = 0;
     quint8 offsetSize_ = 0;
     quint8 referenceSize_ = 0;
+    mutable quint64 looks_ = 0;
 };
 
 } // namespace halvern

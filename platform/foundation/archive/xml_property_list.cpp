@@ -1,7 +1,6 @@
 #include "platform/foundation/archive/xml_property_list.h"
 
 #include "platform/foundation/archive/binary_property_list_writer.h"
-#include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/foundation/archive/property_list_object_table.h"
 #include "platform/foundation/archive/xml_markup_guard.h"
 
@@ -19,9 +18,8 @@ namespace halvern {
 
 namespace {
 
-/// Two elements for each level of values, an instance and the array in it, and those of the archive around
-/// them.
-constexpr std::size_t kMaxNesting = 2 * KeyedUnarchiver::kMaxDepth + 8;
+/// An archive is flat: five levels, and what classes that we do not know keep in their fields.
+constexpr std::size_t kMaxNesting = 64;
 
 /// What is parsed and decoded in less than a second. A catalogue of 32 MiB without any space has 900,000.
 constexpr quint32 kMaxXmlObjects = 1'100'000;

@@ -120,11 +120,11 @@ int ArchiveAssembler::archivedInstance(const char* className, const char* field,
     return archived(dictionary({text(field), text("$class")}, {fieldObject, type}));
 }
 
-QByteArray ArchiveAssembler::finish(int root)
+QByteArray ArchiveAssembler::finish(int root, const char* archiver, qint64 version)
 {
     const int top = dictionary({text("root")}, {uid(quint64(root))});
-    return propertyList(dictionary({text("$archiver"), text("$objects"), text("$top")},
-                                   {text("NSKeyedArchiver"), array(archived_), top}));
+    return propertyList(dictionary({text("$version"), text("$archiver"), text("$objects"), text("$top")},
+                                   {integer(version), text(archiver), array(archived_), top}));
 }
 
 QByteArray ArchiveAssembler::finishWithField(int value)
@@ -181,17 +181,13 @@ QByteArray xmlArchive(const QByteArray& value)
     const auto classNamed = [](const char* name) {
         return QByteArray("<dict><key>$classname</key><string>") + name + "</string></dict>";
     };
-    return "<?xml version='1.0' encoding='UTF-8'?><plist version='1.0'><dict><key>$top</key><dict>"
+    return "<?xml version='1.0' encoding='UTF-8'?><plist version='1.0'><dict><key>$version</key>"
+           "<integer>100000</integer><key>$archiver</key><string>NSKeyedArchiver</string><key>$top</"
+           "key><dict>"
            "<key>root</key>" +
            xmlReference(1) + "</dict><key>$objects</key><array><string>$null</string>" + dictionary(2, 3) +
            "<string>paper</string>" + dictionary(4, 5) + "<string>field</string>" + value +
-           classNamed("NSDictionary") + classNamed("NSArray") + "</array></dict></plist>";
-}
-
-QByteArray xmlList(const QByteArray& elements)
-{
-    return "<dict><key>$class</key>" + xmlReference(7) + "<key>NS.objects</key><array>" + elements +
-           "</array></dict>";
+           classNamed("NSDictionary") + "</array></dict></plist>";
 }
 
 } // namespace halvern::test

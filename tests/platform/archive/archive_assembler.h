@@ -40,7 +40,7 @@ public:
     QList<int> references(const QList<int>& archivedNumbers);
 
     /// The archive whose root is the given place of the object list.
-    QByteArray finish(int root);
+    QByteArray finish(int root, const char* archiver = "NSKeyedArchiver", qint64 version = 100'000);
 
     /// The archive that has one record "paper" whose "field" is the given place of the object list.
     QByteArray finishWithField(int value);
@@ -61,8 +61,5 @@ QByteArray honestArchive(int count);
 
 /// An XML archive that has one record "paper" with one "field".
 QByteArray xmlArchive(const QByteArray& value);
-
-/// A list for such an archive.
-QByteArray xmlList(const QByteArray& elements);
 
 } // namespace halvern::test

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ctime>
 #include <tuple>
 
 namespace halvern {
@@ -14,35 +13,17 @@ namespace {
 using test::ArchiveAssembler;
 using test::bigEndian;
 using test::xmlArchive;
-using test::xmlList;
 
 constexpr int kMegabyte = 1000 * 1000;
 constexpr qsizetype kLargestFile = 32 * 1024 * 1024;
 
-/// Reading is to take a second in a release build. The sanitizers make it more: the million reals below
-/// take 0.63 s there, 2.9 s with addresses checked, 6.8 to 9.1 s with threads checked (measured).
-#ifdef __SANITIZE_THREAD__
-constexpr double kMaxCpuSeconds = 20.0;
-#else
-constexpr double kMaxCpuSeconds = 5.0;
-#endif
-
-double cpuSeconds()
-{
-    timespec now = {};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) + double(now.tv_nsec) / 1e9;
-}
-
-/// Reads the archive within the second and the memory that the reader promises.
+/// Reads the archive within the memory that the reader promises. It counts its steps itself.
 KeyedUnarchiver::Result readWithinLimits(const QByteArray& archive)
 {
-    const double start = cpuSeconds();
     KeyedUnarchiver::Result result;
     const auto read = [&] { result = KeyedUnarchiver::unarchiveDictionary(archive); };
     const std::size_t peak = test::peakMemoryOf(read).value_or(0);
     EXPECT_LT(peak + std::size_t(archive.size()), 200u * kMegabyte);
-    EXPECT_LT(cpuSeconds() - start, kMaxCpuSeconds);
     return result;
 }
 
@@ -142,21 +123,12 @@ QByteArray manyAttributes(int count)
 /// An XML archive with a value that nothing refers to.
 QByteArray xmlBeside(const QByteArray& value)
 {
-    return xmlArchive("<true/>").replace("<dict><key>$top", "<dict><key>x</key>" + value + "<key>$top");
+    return xmlArchive("<true/>").replace("<key>$top", "<key>x</key>" + value + "<key>$top");
 }
 
 } // namespace
 
-class HostileArchives : public testing::Test {
-protected:
-    void TearDown() override
-    {
-        if (!test::peakMemoryOf([] {}))
-            GTEST_SKIP() << "the memory is only looked at with a sanitizer";
-    }
-};
-
-TEST_F(HostileArchives, BrokenTablesAreCorrupt)
+TEST(HostileArchives, BrokenTablesAreCorrupt)
 {
     expectCorrupt("empty", "", "no property list");
     expectCorrupt("magic only", "bplist00");
@@ -178,7 +150,7 @@ TEST_F(HostileArchives, BrokenTablesAreCorrupt)
     expectCorrupt("overlapping objects", overlappingObjects(), "overlap");
 }
 
-TEST_F(HostileArchives, BrokenArchivesAreCorrupt)
+TEST(HostileArchives, BrokenArchivesAreCorrupt)
 {
     const QByteArray noNumber = char(0x23) + bigEndian(0x7FF8000000000000, 8);
     ArchiveAssembler noRoot;
@@ -195,6 +167,26 @@ TEST_F(HostileArchives, BrokenArchivesAreCorrupt)
     expectCorrupt("reference to a reference", withField([](auto& a) { return a.archived(a.uid(1)); }));
     expectCorrupt("more keys than values", keysAndValues(3, 2), "as many keys as values");
     expectCorrupt("more values than keys", keysAndValues(2, 3));
+    for (const char* field : {"NS.keys", "NS.objects"})
+        expectCorrupt(field, withField([field](auto& a) {
+                          const int inlined = a.array({a.text("x")});
+                          const int referred = a.array(a.references({a.archived(a.text("y"))}));
+                          const bool key = field == QByteArrayView("NS.keys");
+                          return a.archived(
+                              a.dictionary({a.text("NS.keys"), a.text("NS.objects"), a.text("$class")},
+                                           {key ? inlined : referred, key ? referred : inlined,
+                                            a.uid(quint64(a.classEntry("NSDictionary")))}));
+                      }),
+                      "no reference");
+    expectCorrupt("element that is no reference", withField([](auto& a) {
+                      return a.archivedInstance("NSArray", "NS.objects", a.array({a.integer(1)}));
+                  }),
+                  "no reference");
+    for (const auto& [archiver, version] :
+         {std::pair("NSKeyedArchives", 100'000), {"NSKeyedArchiver", 99'999}}) {
+        ArchiveAssembler other;
+        expectCorrupt(archiver, other.finish(other.archivedDictionary({}, {}), archiver, version));
+    }
     expectCorrupt("plain list", withField([](auto& a) { return a.archived(a.array({})); }));
     expectCorrupt("no class", withField([](auto& a) { return a.archived(a.dictionary({}, {})); }));
     expectCorrupt("class is nil", withField([](auto& a) {
@@ -213,11 +205,12 @@ TEST_F(HostileArchives, BrokenArchivesAreCorrupt)
     expectCorrupt("contains itself over others", selfContaining(5));
 }
 
-TEST_F(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
+TEST(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
 {
     expectCorrupt("too deep", chainOfLists(63, 1), "nested too deeply");
     expectCorrupt("far too deep", chainOfLists(100'000, 1));
     expectCorrupt("doubled 60 times", chainOfLists(60, 2), "four million values");
+    expectCorrupt("doubled 20 times", chainOfLists(20, 2), "many times the values");
     // A list of one long text: small here, forty times as long when it is printed.
     expectCorrupt("long text shared", withField([](auto& a) {
                       const QByteArray text(kMegabyte, 'x');
@@ -226,7 +219,7 @@ TEST_F(HostileArchives, BombsAreCorruptAtTheCostOfTheirSize)
                   "32 million characters");
 }
 
-TEST_F(HostileArchives, AnInstanceIsLookedThroughOnceHoweverOftenItIsReferredTo)
+TEST(HostileArchives, AnInstanceIsLookedThroughOnceHoweverOftenItIsReferredTo)
 {
     const QByteArray archive = withField([](auto& a) {
         const int type = a.uid(quint64(a.classEntry("Spool")));
@@ -239,7 +232,7 @@ TEST_F(HostileArchives, AnInstanceIsLookedThroughOnceHoweverOftenItIsReferredTo)
     EXPECT_TRUE(readWithinLimits(archive).root);
 }
 
-TEST_F(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
+TEST(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
 {
     ASSERT_TRUE(readWithinLimits(xmlBeside("<array/>")).root);
     const char* const values[] = {
@@ -263,11 +256,11 @@ TEST_F(HostileArchives, XmlThatIsNoPropertyListIsCorrupt)
                   QByteArray(good).replace("<plist", "<!DOCTYPE plist [<!ENTITY lol 'lol'>]><plist"), "DTD");
 }
 
-TEST_F(HostileArchives, XmlIsReadInASecondOrIsCorrupt)
+TEST(HostileArchives, XmlIsReadUpToItsLimitsOrIsCorrupt)
 {
     EXPECT_TRUE(readWithinLimits(xmlArchive("<data>" + QByteArray(16'000'000, 'A') + "</data>")).root);
     const QByteArray reals = QByteArray("<real>1</real>").repeated(kMegabyte);
-    EXPECT_TRUE(readWithinLimits(xmlArchive(xmlList(reals))).root);
+    EXPECT_TRUE(readWithinLimits(xmlBeside("<array>" + reals + "</array>")).root);
     expectCorrupt("many attributes", manyAttributes(80'000), "a tag that is too long");
     expectCorrupt("nesting", filled("<plist>", "<array>", kMegabyte), "nested too deeply");
     expectCorrupt("long text", filled("<plist><string>", "x"), "16 MiB");
@@ -277,7 +270,7 @@ TEST_F(HostileArchives, XmlIsReadInASecondOrIsCorrupt)
     expectCorrupt("many tags", filled("<plist><array>", "<true/>"), "four million tags");
 }
 
-TEST_F(HostileArchives, ManyHonestPapersTakeMemoryInProportion)
+TEST(HostileArchives, ManyHonestPapersTakeMemoryInProportion)
 {
     const QByteArray archive = test::honestArchive(30'000);
     KeyedUnarchiver::Result result;

@@ -15,7 +15,6 @@ namespace {
 using test::ArchiveAssembler;
 using test::bigEndian;
 using test::xmlArchive;
-using test::xmlList;
 
 /// What the reader makes of one field. Invalid if the field was dropped.
 QVariant decodedField(const QByteArray& archive)
@@ -99,20 +98,6 @@ TEST(KeyedUnarchiverValues, XmlValuesKeepTheirKind)
         EXPECT_EQ(field.typeId(), value.expected.typeId());
         EXPECT_EQ(field, value.expected);
     }
-}
-
-TEST(KeyedUnarchiverValues, XmlMayNestAsManyLevelsOfValuesAsBinary)
-{
-    const auto nestedLists = [](int levels) {
-        QByteArray list;
-        for (int i = 0; i < levels; ++i)
-            list = xmlList(list);
-        return xmlArchive(list);
-    };
-    // The catalogue and its record are two levels more.
-    EXPECT_EQ(decodedField(nestedLists(62)).typeId(), QMetaType::QVariantList);
-    EXPECT_EQ(KeyedUnarchiver::unarchiveDictionary(nestedLists(63)).failure,
-              QStringLiteral("corrupt: it is nested too deeply"));
 }
 
 TEST(KeyedUnarchiverValues, ObjectsAreReadByTheirClass)
