@@ -42,5 +42,5 @@ function(halvern_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/tsan.supp:die_after_fork=0"
-        TIMEOUT 240 LABELS "${T_LABELS}")
+        TIMEOUT 1800 LABELS "${T_LABELS}")
 endfunction()

@@ -75,7 +75,7 @@ protected:
             isOver = true;
         });
         run.start();
-        EXPECT_TRUE(waitUntil([&] { return isOver; }, 60)) << qPrintable(*sentence);
+        EXPECT_TRUE(waitUntil([&] { return isOver; })) << qPrintable(*sentence);
         return stage;
     }
 
@@ -238,7 +238,7 @@ TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
     QTest::mouseClick(print, Qt::LeftButton);
     EXPECT_EQ(panels.calls, (QStringList{q("first: save"), q("second: save"), q("first: shouldHide"),
                                          q("second: shouldHide")}));
-    ASSERT_TRUE(waitUntil([&] { return dialog.run() && dialog.run()->isOver(); }, 60));
+    ASSERT_TRUE(waitUntil([&] { return dialog.run() && dialog.run()->isOver(); }));
     EXPECT_TRUE(dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
     EXPECT_TRUE(containsText(dialog.findChild<QLabel*>(q("status"))->text(), "Printed"));
     EXPECT_EQ(panels.calls.mid(4), QStringList{q("first: willShow")}) << "the panel is in use again";

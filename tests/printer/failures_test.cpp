@@ -59,7 +59,7 @@ TEST_F(FailuresTest, AnOfflinePrinterKeepsTheJobUntilItIsCancelled)
 
 TEST_F(FailuresTest, ASlowPrinterReportsProgressAndStopsWhenCancelled)
 {
-    addQueue("Slow", "slow=60");
+    addQueue("Slow", "slow=9999");
     const int job = printPages("Slow", 1);
     ASSERT_TRUE(waitUntil([] { return queueState("Slow").message == QStringLiteral("Printing page 1."); }));
     EXPECT_EQ(jobState(job), IPP_JSTATE_PROCESSING);
@@ -116,7 +116,7 @@ TEST_F(FailuresTest, StoppingTheServerEndsTheProcessesOfAJobThatIsPrinting)
 {
     PrivateCups own;
     const QByteArray uri =
-        "halvern://virtual/" + QByteArray::number(QCoreApplication::applicationPid()) + "?slow=60";
+        "halvern://virtual/" + QByteArray::number(QCoreApplication::applicationPid()) + "?slow=9999";
     ASSERT_TRUE(own.addQueue(QStringLiteral("Busy"), QString(), QString::fromLatin1(uri)));
     const int job = printPages("Busy", 1);
     ASSERT_TRUE(

@@ -26,7 +26,7 @@ public:
                const std::map<QByteArray, QByteArray>& more = {});
 
     /// Waits until it has ended: its exit status, -1 if a signal ended it or it has not ended in time.
-    int wait(int milliseconds = 60000);
+    int wait(int milliseconds = 300'000);
 
     void kill();
 
@@ -43,7 +43,7 @@ private:
 };
 
 struct ProgramResult {
-    /// -1: a signal ended it, or it has not ended within a minute.
+    /// -1: a signal ended it, or it has not ended in time.
     int status = -1;
     QString output;
     QString error;

@@ -87,9 +87,9 @@ void useBuiltBundle(const QString& language)
     Bundle::setMainBundle(std::move(bundle));
 }
 
-bool waitUntil(const std::function<bool()>& condition, int seconds)
+bool waitUntil(const std::function<bool()>& condition)
 {
-    return QTest::qWaitFor(condition, seconds * 1000);
+    return QTest::qWaitFor(condition, 1000 * kPatience);
 }
 
 void drainMainQueue()

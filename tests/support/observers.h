@@ -36,8 +36,12 @@ public:
 /// translations; in `language` ("de_DE") until the next call.
 void useBuiltBundle(const QString& language = QStringLiteral("en_US"));
 
-/// Runs the event loop until the condition holds; false if it does not within `seconds`.
-bool waitUntil(const std::function<bool()>& condition, int seconds = 20);
+/// Seconds after which a test gives up. No test waits for a time: what takes a moment here takes a minute on
+/// a machine that is busy with something else.
+inline constexpr int kPatience = 300;
+
+/// Runs the event loop until the condition holds; false if patience ends first.
+bool waitUntil(const std::function<bool()>& condition);
 
 /// Delivers everything that is queued for the main thread, deletions included.
 void drainMainQueue();

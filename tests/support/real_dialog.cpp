@@ -25,7 +25,8 @@ RealDialog::~RealDialog()
 
 bool RealDialog::isReady()
 {
-    return waitUntil([this] { return session.canPrint(); }, 60) && QTest::qWaitForWindowActive(&dialog);
+    return waitUntil([this] { return session.canPrint(); }) &&
+           waitUntil([&] { return dialog.isActiveWindow(); });
 }
 
 bool RealDialog::showPage(const char* identifier)
@@ -94,7 +95,7 @@ int RealDialog::printByKey()
 
 int RealDialog::jobWhenOver()
 {
-    const bool ended = waitUntil([this] { return dialog.run() && dialog.run()->isOver(); }, 60);
+    const bool ended = waitUntil([this] { return dialog.run() && dialog.run()->isOver(); });
     EXPECT_TRUE(ended && dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
     return dialog.outcome().printed ? dialog.outcome().jobId : 0;
 }

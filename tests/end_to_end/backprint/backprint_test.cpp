@@ -133,11 +133,11 @@ TEST_F(BackprintInDialog, APrinterThatPrintsNoLinesSaysSoUntilAnotherIsChosen)
     open(request);
     type(2, q("gone with its printer"));
     real->session.selectPrinter(q("Plain"));
-    ASSERT_TRUE(waitUntil([&] { return real->session.canPrint(); }, 60));
+    ASSERT_TRUE(waitUntil([&] { return real->session.canPrint(); }));
     EXPECT_TRUE(real->session.backLinesProblem().contains(q("Plain")));
     EXPECT_EQ(real->dialog.findChild<MessageBar*>()->text(), real->session.backLinesProblem());
     real->session.selectPrinter(q("Tessarin"));
-    ASSERT_TRUE(waitUntil([&] { return real->session.canPrint(); }, 60));
+    ASSERT_TRUE(waitUntil([&] { return real->session.canPrint(); }));
     EXPECT_EQ(real->session.backLinesProblem(), QString());
     EXPECT_EQ(real->dialog.findChild<MessageBar*>()->text(), QString());
     ASSERT_TRUE(real->showPage("com.halvern.print.pde.cvp"));

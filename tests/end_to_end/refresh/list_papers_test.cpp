@@ -108,7 +108,7 @@ TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
 
 TEST_F(ListPapers, ABusyPrinterIsNotAskedAndADyingServerEndsTheWaiting)
 {
-    addQueue("Slow", "?slow=60");
+    addQueue("Slow", "?slow=9999");
     ChildProcess first;
     start(first, {q("--refresh")});
     ASSERT_TRUE(waitUntil([&] {
@@ -124,7 +124,7 @@ TEST_F(ListPapers, ABusyPrinterIsNotAskedAndADyingServerEndsTheWaiting)
 
 TEST_F(ListPapers, ASignalEndsItAtOnceAndTakesTheJobBackAndLostOutputIsNoSuccess)
 {
-    addQueue("Slow", "?slow=60");
+    addQueue("Slow", "?slow=9999");
     ChildProcess program;
     start(program, {q("--refresh")});
     ASSERT_TRUE(waitUntil([] { return activeJobs("Slow").size() == 1; }));

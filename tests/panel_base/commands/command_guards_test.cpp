@@ -7,7 +7,7 @@ class CommandGuardsTest : public CommandTest {};
 
 TEST_F(CommandGuardsTest, WhileAJobIsWatchedNoOtherIsSent)
 {
-    addQueue("Busy", "slow=60");
+    addQueue("Busy", "slow=9999");
     const auto panel = makeCommandPanel("Busy");
     panel->sendPrinterCommands(kReportAndConfigure);
     EXPECT_TRUE(panel->isWatching());
@@ -15,7 +15,7 @@ TEST_F(CommandGuardsTest, WhileAJobIsWatchedNoOtherIsSent)
     panel->sendPrinterCommands(kReportAndConfigure);
     EXPECT_EQ(onlyJob("Busy"), job);
     jobs::Server().cancelAndPurge(QStringLiteral("Busy"), job);
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
 }
 
@@ -32,7 +32,7 @@ TEST_F(CommandGuardsTest, AHiddenPanelSendsNothing)
 
 TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
 {
-    addQueue("Other", "slow=60");
+    addQueue("Other", "slow=9999");
     const int processing = sendForeignJob("Other");
     ASSERT_TRUE(reaches("Other", processing, jobs::kProcessing));
     const auto panel = makeCommandPanel("Other");
@@ -50,7 +50,7 @@ TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
     EXPECT_TRUE(second->isWatching());
     EXPECT_EQ(active("Waiting").size(), 2);
     second->shouldHide();
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_TRUE(jobs::Server().cancelAndPurge(QStringLiteral("Other"), processing));
     EXPECT_EQ(panel->aborts + panel->updates + second->aborts + second->updates, 0);
 }
@@ -61,12 +61,12 @@ TEST_F(CommandGuardsTest, ACommandFromWithinAHookIsRefusedAndOneAfterItIsSent)
     const auto panel = makeCommandPanel("Hook");
     panel->inHook = [](CommandPanel& self) { self.sendPrinterCommands(kReportAndConfigure); };
     panel->sendPrinterCommands(kReportAndConfigure);
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->updates, 1);
     EXPECT_EQ(list("Hook", jobs::Which::completed).size(), 1);
     panel->inHook = nullptr;
     panel->sendPrinterCommands(kReportAndConfigure);
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->updates, 2);
     EXPECT_EQ(list("Hook", jobs::Which::completed).size(), 2);
 }
@@ -79,7 +79,7 @@ TEST_F(CommandGuardsTest, APrinterWithoutANameEndsInOneAbortAndTouchesNoOtherQue
     EXPECT_EQ(panel->activeJobIDForDesinationName(QString()), 0);
     EXPECT_EQ(panel->printerStateReasons(), std::nullopt);
     panel->sendPrinterCommands(kReportAndConfigure);
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
     EXPECT_EQ(onlyJob("Bystander"), job);
 }

@@ -27,7 +27,7 @@ protected:
     {
         auto panel = makeCommandPanel(queue);
         panel->sendPrinterCommands(kReportAndConfigure);
-        EXPECT_TRUE(waitForWorkQueues(20000));
+        EXPECT_TRUE(waitForWorkQueues(1000 * kPatience));
         EXPECT_FALSE(panel->isWatching());
         return panel;
     }
@@ -38,7 +38,7 @@ TEST_F(CommandOutcomesTest, ACompletedJobBringsItsExactBytesAndOneUpdate)
     addQueue("Good");
     const auto panel = makeCommandPanel("Good");
     panel->sendPrinterCommands({QStringLiteral("ReportStatus"), QStringLiteral("Größe")});
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->updates, 1);
     EXPECT_EQ(panel->aborts, 0);
     EXPECT_FALSE(panel->hooksRanOnTheMainThread);
@@ -86,20 +86,20 @@ TEST_F(CommandOutcomesTest, AnInterruptedSleepEndsTheWatchOfAPendingJob)
         return panel->aborts == 1;
     }));
     EXPECT_EQ(stateOf("Interrupted", job), jobs::kPending);
-    EXPECT_TRUE(waitForWorkQueues(20000));
+    EXPECT_TRUE(waitForWorkQueues(1000 * kPatience));
     sigaction(SIGUSR1, &before, nullptr);
 }
 
 TEST_F(CommandOutcomesTest, AServerThatDiesDuringTheWatchIsAnAbort)
 {
     PrivateCups mortal;
-    ASSERT_TRUE(
-        mortal.addQueue(QStringLiteral("Mortal"), QString(), QStringLiteral("halvern://virtual/x?slow=60")));
+    ASSERT_TRUE(mortal.addQueue(QStringLiteral("Mortal"), QString(),
+                                QStringLiteral("halvern://virtual/x?slow=9999")));
     const auto panel = makeCommandPanel("Mortal");
     panel->sendPrinterCommands(kReportAndConfigure);
     ASSERT_NE(onlyJob("Mortal"), 0);
     ASSERT_TRUE(mortal.stop());
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
     EXPECT_EQ(panel->updates, 0);
     EXPECT_FALSE(panel->isWatching());

@@ -46,7 +46,7 @@ std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue)
 
 void CommandTest::TearDown()
 {
-    EXPECT_TRUE(waitForWorkQueues(20000));
+    EXPECT_TRUE(waitForWorkQueues(1000 * kPatience));
     drainMainQueue();
 }
 

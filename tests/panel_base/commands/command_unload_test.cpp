@@ -32,7 +32,7 @@ TEST_F(CommandUnloadTest, HidingEndsTheWatchAndPurgesTheJobWithoutAHook)
     const auto panel = panelWithPendingJob("Hide");
     const int job = onlyJob("Hide");
     panel->shouldHide();
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(stateOf("Hide", job), 0);
     EXPECT_EQ(log.count(kBailOut), 1);
     EXPECT_EQ(panel->aborts + panel->updates, 0);
@@ -51,7 +51,7 @@ TEST_F(CommandUnloadTest, TheDialogLetsGoAtOnceAndThePanelGoesWithItsWatch)
     panel->printWindowWillClose(false);
     panel.reset();
     EXPECT_EQ(log.count(QStringLiteral("entered dealloc in CommandPanel")), 0);
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_TRUE(weak.expired());
     EXPECT_TRUE(active("LetGo").isEmpty());
     EXPECT_LT(position(kBailOut), position(QStringLiteral("entered dealloc in CommandPanel")));
@@ -70,7 +70,7 @@ TEST_F(CommandUnloadTest, ADestructionThatFindsTheWatchWaitsForItAndReleasesTheS
     ASSERT_NE(onlyJob("Waits"), 0);
     const std::weak_ptr<Semaphore> semaphore = panel->pdeUnloadSemaphore.get();
     std::thread([&] { panel->dealloc(); }).join();
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(log.lines(),
               (QStringList{QStringLiteral("entered dealloc in CommandPanel"), kBailOut,
                            QStringLiteral("continuing dealloc after waiting for unload semaphore")}));
@@ -81,7 +81,7 @@ TEST_F(CommandUnloadTest, ADestructionThatFindsTheWatchWaitsForItAndReleasesTheS
 
 TEST_F(CommandUnloadTest, TheUnloadOfAWatchWithoutAJobCancelsNobodyElses)
 {
-    addQueue("Neighbour", "slow=60");
+    addQueue("Neighbour", "slow=9999");
     const int foreign = sendForeignJob("Neighbour");
     ASSERT_TRUE(reaches("Neighbour", foreign, jobs::kProcessing));
     // CUPS would take these for the current job and for all jobs.
@@ -89,7 +89,7 @@ TEST_F(CommandUnloadTest, TheUnloadOfAWatchWithoutAJobCancelsNobodyElses)
         const auto panel = makeCommandPanel("Neighbour");
         panel->shouldHide();
         panel->waitForJobCompletion(none);
-        ASSERT_TRUE(waitForWorkQueues(20000));
+        ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     }
     EXPECT_EQ(log.count(kBailOut), 2);
     EXPECT_EQ(stateOf("Neighbour", foreign), jobs::kProcessing);

@@ -35,7 +35,7 @@ protected:
 
     ~NoServerTest() override
     {
-        EXPECT_TRUE(waitForWorkQueues(20000));
+        EXPECT_TRUE(waitForWorkQueues(1000 * kPatience));
         qunsetenv("CUPS_SERVER");
         cupsSetServer(nullptr);
     }
@@ -54,7 +54,7 @@ TEST_F(NoServerTest, AJobThatCannotBeMadeEndsInOneAbort)
 {
     const auto panel = makeCommandPanel("Photo");
     panel->sendPrinterCommands(kReportAndConfigure);
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
     EXPECT_EQ(panel->updates, 0);
     EXPECT_FALSE(panel->hooksRanOnTheMainThread);
@@ -80,7 +80,7 @@ TEST_F(NoServerTest, WithoutMemoryForTheCopiesNothingIsWatchedAndNobodyCalled)
         EXPECT_FALSE(panel->isWatching());
         log.clear();
     }
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts + panel->updates, 0);
 }
 

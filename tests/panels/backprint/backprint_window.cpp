@@ -54,7 +54,7 @@ void BackprintWindow::open()
     panel->willShow();
     window->show();
     window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
 }
 
 void BackprintWindow::close()

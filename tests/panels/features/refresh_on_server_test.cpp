@@ -134,7 +134,7 @@ TEST_F(RefreshOnServer, TheJobsEndBringsThePapers)
 
 TEST_F(RefreshOnServer, HidingThePanelCancelsTheJob)
 {
-    open(QStringLiteral("?slow=60"));
+    open(QStringLiteral("?slow=9999"));
     ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
     EXPECT_TRUE(panel->isWaitingOnPaper());
     EXPECT_TRUE(panel->shouldHide());
@@ -145,7 +145,7 @@ TEST_F(RefreshOnServer, HidingThePanelCancelsTheJob)
 
 TEST_F(RefreshOnServer, APanelThatGoesDuringTheJobLeavesNoneBehind)
 {
-    open(QStringLiteral("?slow=60"));
+    open(QStringLiteral("?slow=9999"));
     ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
     panel->printWindowWillClose(true);
     EXPECT_TRUE(letGo());
@@ -154,7 +154,7 @@ TEST_F(RefreshOnServer, APanelThatGoesDuringTheJobLeavesNoneBehind)
 
 TEST_F(RefreshOnServer, AServerThatGoesDuringTheJobEndsTheWaiting)
 {
-    open(QStringLiteral("?slow=60"));
+    open(QStringLiteral("?slow=9999"));
     ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
     ASSERT_TRUE(server.stop());
     EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
@@ -171,9 +171,9 @@ TEST_F(RefreshOnServer, NewsOfPapersReachesEveryOpenDialogAndOnlyChangesItsOwnPr
     open(QString());
     ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1 && news == 1; }));
     center.removeObserver(&news);
-    addQueue(QStringLiteral("Other"), QStringLiteral("?slow=60"));
+    addQueue(QStringLiteral("Other"), QStringLiteral("?slow=9999"));
     const auto second = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Photo"));
-    const auto other = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Other"), QStringLiteral("?slow=60"));
+    const auto other = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Other"), QStringLiteral("?slow=9999"));
     ASSERT_TRUE(
         waitUntil([&] { return menuOf(*second, kWidthTag) && menuOf(*second, kWidthTag)->count() == 1; }));
 

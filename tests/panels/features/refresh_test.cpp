@@ -211,7 +211,7 @@ TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
     EXPECT_EQ(log.count(kRecovered.arg(0)), 3);
     TestPrinter::load(archiveOf({QStringLiteral("Kept")}));
     panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     drainMainQueue();
     EXPECT_EQ(panel->unsortedPaper(), held);
     EXPECT_EQ(log.count(QStringLiteral("received new paper dictionary")), 0);
@@ -223,7 +223,7 @@ TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
 TEST_F(Refresh, ReadsNewsOfPapersOffTheMainThread)
 {
     make();
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     TestPrinter::load(archiveOf({QStringLiteral("Gloss")}));
     TestPrinter::hold();
     // On the main thread, nothing would be held.

@@ -35,7 +35,7 @@ protected:
         (new QVBoxLayout(&window))->addWidget(panel->panelView());
         window.show();
         window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
     }
 
     void TearDown() override
