@@ -14,7 +14,7 @@ function(halvern_target target)
         target_compile_options(${target} PRIVATE -Wno-unknown-warning-option)
     endif()
     target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII)
-    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>)
     if(HALVERN_SANITIZE)
         target_compile_options(${target} PUBLIC -fsanitize=${HALVERN_SANITIZE} -fno-sanitize-recover=all
                                -fno-omit-frame-pointer)

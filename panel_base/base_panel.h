@@ -18,6 +18,8 @@ using ppd_file_t = ppd_file_s;
 
 namespace halvern {
 
+class Bundle;
+class HostCallback;
 class Semaphore;
 struct Notification;
 class SpeechSynthesizer;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/plugin_api/panel.h"
+#include "platform/plugin_api/principal_class.h"
 
 namespace halvern {
 

@@ -4,6 +4,8 @@
 
 namespace halvern {
 
+class HostCallback;
+
 /// Where the dialog gets a printer's panels from. Main thread only.
 class PanelSource {
 public:

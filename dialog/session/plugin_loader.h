@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/session/panel_source.h"
+#include "platform/plugin_api/principal_class.h"
 
 #include <QCoreApplication>
 #include <QMap>

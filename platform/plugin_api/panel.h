@@ -4,7 +4,6 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
-#include <QtPlugin>
 
 #include <memory>
 #include <optional>
@@ -14,16 +13,14 @@ class QWidget;
 
 namespace halvern {
 
-class Bundle;
-class HostCallback;
-
 /// What a panel reports when saving or restoring fails. The panels that we ship never fill it.
 struct PanelError {
     QString message;
 };
 
 /// A page of options in the print dialog, as the dialog sees it. Main thread only. The last reference may
-/// drop on a background queue: the panel hands its widgets back to the main thread by itself.
+/// drop on a background queue: the panel hands its widgets back to the main thread by itself. Nothing is
+/// thrown across an operation.
 class Panel {
 public:
     virtual ~Panel() = default;
@@ -72,31 +69,4 @@ public:
 
 using PanelList = std::vector<std::shared_ptr<Panel>>;
 
-/// The principal object of a plug-in bundle. Main thread only.
-class PrincipalClass {
-public:
-    virtual ~PrincipalClass() = default;
-
-    /// initWithBundle: false refuses the bundle; the dialog then drops the plug-in.
-    virtual bool initWithBundle(const Bundle& bundle) = 0;
-
-    /// PDEPanelsForType:withHostInfo: a fresh list of panels for a known type, no list for another one. The
-    /// caller owns the panels.
-    virtual std::optional<PanelList>
-    PDEPanelsForType_withHostInfo(const QString& type, const std::shared_ptr<HostCallback>& host) = 0;
-};
-
-/// The root object of the loadable module: makes the principal object.
-class PlugInModule {
-public:
-    virtual ~PlugInModule() = default;
-    virtual std::unique_ptr<PrincipalClass> makePrincipalObject() = 0;
-};
-
-/// The type string under which the print dialog asks for its panels.
-inline constexpr char kPrintDialogExtensionType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
-
 } // namespace halvern
-
-#define HalvernPlugInModule_iid "com.halvern.print.PlugInModule/1.0"
-Q_DECLARE_INTERFACE(halvern::PlugInModule, HalvernPlugInModule_iid)
