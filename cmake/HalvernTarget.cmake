@@ -23,11 +23,26 @@ function(halvern_target target)
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
 endfunction()
 
-# Precompiles the Qt headers that almost every source includes.
+# The Qt headers that almost every source includes, precompiled once for all targets of the product.
 function(halvern_precompile target)
-    target_precompile_headers(${target} PRIVATE
+    halvern_precompiled(halvern-precompiled LIBS Qt6::Widgets HEADERS
         <memory> <optional> <functional> <vector>
         <QString> <QStringList> <QVariant> <QMap> <QWidget>)
+    target_precompile_headers(${target} REUSE_FROM halvern-precompiled)
+endfunction()
+
+# A target that is nothing but precompiled headers; made once.
+function(halvern_precompiled target)
+    cmake_parse_arguments(P "" "" "LIBS;HEADERS" ${ARGN})
+    if(TARGET ${target})
+        return()
+    endif()
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled.cpp CONTENT "")
+    add_library(${target} OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+    halvern_target(${target})
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+    target_link_libraries(${target} PRIVATE ${P_LIBS})
+    target_precompile_headers(${target} PRIVATE ${P_HEADERS})
 endfunction()
 
 # A test program: its sources are compiled together, and ctest runs it as one test.
@@ -37,6 +52,7 @@ function(halvern_test name)
     add_executable(${name} ${T_SOURCES})
     halvern_target(${name})
     target_link_libraries(${name} PRIVATE halvern-test-support ${T_LIBS})
+    target_precompile_headers(${name} REUSE_FROM halvern-test-precompiled)
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 4
                           RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
