@@ -1,6 +1,8 @@
 #include "dialog/page/page_renderer.h"
 
+#include "dialog/page/jpeg_data.h"
 #include "dialog/page/pdf_file.h"
+#include "dialog/page/photo_problem.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -15,12 +17,12 @@ constexpr double kPointsPerInch = 72.0;
 constexpr int kMostTimesPrinterResolution = 2;
 
 // From the stored picture's unit square to the upright one's.
-QTransform uprightFromStored(const JpegData& jpeg)
+QTransform uprightFromStored(const Orientation& how)
 {
     QTransform t;
     t.translate(0.5, 0.5);
-    t.rotate(90.0 * jpeg.quarterTurns);
-    if (jpeg.isMirrored)
+    t.rotate(90.0 * how.quarterTurns);
+    if (how.isMirrored)
         t.scale(-1.0, 1.0);
     t.translate(-0.5, -0.5);
     return t;
@@ -71,7 +73,7 @@ QString addPage(PdfFile& pdf, const PageToPrint& page, int resolution)
     if (!gone.isEmpty())
         return gone;
     if (std::optional<JpegData> jpeg = readJpegData(page.photo)) {
-        const QTransform placement = uprightFromStored(*jpeg) * photoToSheet(layout);
+        const QTransform placement = uprightFromStored(jpeg->orientation) * photoToSheet(layout);
         pdf.addPage(paper, clip, placement, {jpeg->size, jpeg->components, "DCTDecode", jpeg->bytes});
         return {};
     }

@@ -1,7 +1,7 @@
 #include "dialog/program/command_line.h"
 
 #include "dialog/options/back_lines.h"
-#include "dialog/page/photo.h"
+#include "dialog/page/photo_problem.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+#include "dialog/page/jpeg_data.h"
 #include "dialog/page/page_layout.h"
 #include "dialog/page/page_renderer.h"
 #include "dialog/page/photo.h"

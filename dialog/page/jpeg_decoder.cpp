@@ -1,0 +1,185 @@
+#include "dialog/page/jpeg_decoder.h"
+
+#include "dialog/page/srgb.h"
+
+#include <algorithm>
+#include <csetjmp>
+#include <cstdio>
+#include <cstdlib>
+#include <type_traits>
+
+#include <jpeglib.h>
+
+#include <jerror.h>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kProfileMarker = JPEG_APP0 + 2;
+constexpr int kMostScans = 500;    // a progressive file of a camera has about ten
+constexpr int kHarmlessStray = 64; // bytes between two markers; some cameras pad
+constexpr int kEighths = 8;
+constexpr double kCentimetresPerInch = 2.54;
+
+double dotsPerInch(const jpeg_decompress_struct& info)
+{
+    if (info.density_unit == 2)
+        return info.X_density * kCentimetresPerInch;
+    return info.density_unit == 1 ? info.X_density : 0.0;
+}
+
+bool suitsPdf(const jpeg_decompress_struct& info)
+{
+    if (info.arith_code || info.data_precision != 8)
+        return false;
+    const bool isYcc = info.num_components == 3 && info.jpeg_color_space == JCS_YCbCr &&
+                       (!info.saw_Adobe_marker || info.Adobe_transform == 1);
+    return info.num_components == 1 || isYcc;
+}
+
+} // namespace
+
+struct JpegDecoder::State {
+    jpeg_decompress_struct info = {};
+    jpeg_error_mgr errors = {};
+    jpeg_progress_mgr progress = {};
+    std::jmp_buf onError = {};
+    bool isDamaged = false;
+
+    static State& of(j_common_ptr info) { return *static_cast<State*>(info->client_data); }
+
+    // libjpeg leaves a failed call by longjmp, which may skip no destructor: a step calls libjpeg and owns
+    // nothing.
+    template <typename Step> bool guarded(Step step)
+    {
+        static_assert(std::is_trivially_destructible_v<Step>);
+        if (setjmp(onError))
+            return false;
+        step();
+        return true;
+    }
+
+    static void leave(j_common_ptr info) { std::longjmp(of(info).onError, 1); }
+
+    static void takeMessage(j_common_ptr info, int level)
+    {
+        if (level < 0)
+            of(info).takeWarning(info->err->msg_code, info->err->msg_parm.i[0]);
+    }
+
+    static void limitScans(j_common_ptr info)
+    {
+        if (of(info).info.input_scan_number > kMostScans)
+            leave(info);
+    }
+
+    void takeWarning(int code, int number)
+    {
+        switch (code) {
+        case JWRN_HIT_MARKER:
+        case JWRN_HUFF_BAD_CODE:
+        case JWRN_ARITH_BAD_CODE:
+        case JWRN_MUST_RESYNC:
+        case JWRN_BOGUS_PROGRESSION:
+            isDamaged = true;
+            break;
+        case JWRN_JPEG_EOF: // harmless where all has been decoded and only the end's marker is missing
+            isDamaged = isDamaged || info.progressive_mode || info.comps_in_scan < info.num_components;
+            break;
+        case JWRN_EXTRANEOUS_DATA:
+            isDamaged = isDamaged || (info.input_scan_number > 0 && number > kHarmlessStray);
+            break;
+        default:
+            break;
+        }
+    }
+};
+
+JpegDecoder::JpegDecoder(const QByteArray& bytes) : bytes_(bytes), state_(std::make_unique<State>())
+{
+    jpeg_decompress_struct& info = state_->info;
+    info.err = jpeg_std_error(&state_->errors);
+    info.client_data = state_.get();
+    state_->errors.error_exit = &State::leave;
+    state_->errors.emit_message = &State::takeMessage;
+    state_->errors.output_message = [](j_common_ptr) {};
+    state_->progress.progress_monitor = &State::limitScans;
+    const bool isRead = state_->guarded([&info, this] {
+        jpeg_create_decompress(&info);
+        info.progress = &state_->progress;
+        jpeg_mem_src(&info, reinterpret_cast<const unsigned char*>(bytes_.constData()),
+                     static_cast<unsigned long>(bytes_.size()));
+        jpeg_save_markers(&info, kProfileMarker, 0xFFFF);
+        jpeg_read_header(&info, TRUE);
+    });
+    if (isRead)
+        header_ = describe();
+}
+
+JpegDecoder::~JpegDecoder()
+{
+    jpeg_destroy_decompress(&state_->info);
+}
+
+JpegHeader JpegDecoder::describe()
+{
+    jpeg_decompress_struct& info = state_->info;
+    JpegHeader header;
+    header.size = QSize(int(info.image_width), int(info.image_height));
+    header.components = info.num_components;
+    header.dotsPerInch = dotsPerInch(info);
+    header.isInverted = info.saw_Adobe_marker;
+    header.suitsPdf = suitsPdf(info);
+    JOCTET* profile = nullptr;
+    unsigned int length = 0;
+    const bool isRead = state_->guarded([&] { jpeg_read_icc_profile(&info, &profile, &length); });
+    if (isRead && profile)
+        header.profile = QByteArray(reinterpret_cast<const char*>(profile), length);
+    std::free(profile);
+    return header;
+}
+
+void JpegDecoder::scaleDown(int leastEdge)
+{
+    const int edge = std::max(header_->size.width(), header_->size.height());
+    int eighths = kEighths;
+    while (leastEdge > 0 && eighths > 1 && edge * (eighths / 2) / kEighths >= leastEdge)
+        eighths /= 2;
+    state_->info.scale_num = static_cast<unsigned int>(eighths);
+    state_->info.scale_denom = kEighths;
+}
+
+QImage JpegDecoder::read(int leastEdge)
+{
+    jpeg_decompress_struct& info = state_->info;
+    const bool isInk = info.num_components == 4;
+    const bool isGray = info.num_components == 1;
+    scaleDown(leastEdge);
+    info.out_color_space = isInk ? JCS_CMYK : isGray ? JCS_GRAYSCALE : JCS_RGB;
+    if (!state_->guarded([&info] { jpeg_start_decompress(&info); }))
+        return {};
+    const int width = int(info.output_width);
+    QImage image(width, int(info.output_height), isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+    if (image.isNull())
+        return {};
+    QByteArray inks(isInk ? qsizetype(width) * 4 : 0, '\0');
+    const InkConverter converter(isInk ? header_->profile : QByteArray(), header_->isInverted);
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* line = image.scanLine(y);
+        JSAMPROW row = isInk ? reinterpret_cast<JSAMPROW>(inks.data()) : line;
+        if (!state_->guarded([&info, &row] { jpeg_read_scanlines(&info, &row, 1); }))
+            return {};
+        if (isInk)
+            converter.convert(row, line, width);
+    }
+    state_->guarded([&info] { jpeg_finish_decompress(&info); });
+    return isInk ? image : inSrgb(std::move(image), header_->profile);
+}
+
+bool JpegDecoder::isDamaged() const
+{
+    return state_->isDamaged;
+}
+
+} // namespace halvern

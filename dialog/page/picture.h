@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+#include <vector>
+
+namespace halvern {
+
+/// How a stored picture becomes an upright one.
+struct Orientation {
+    int quarterTurns = 0;    ///< clockwise
+    bool isMirrored = false; ///< left to right, before it is turned
+
+    QSize upright(const QSize& stored) const { return quarterTurns % 2 ? stored.transposed() : stored; }
+};
+
+/// What the camera has noted in a JPEG file.
+Orientation jpegOrientation(const QByteArray& bytes);
+
+/// A decoded picture: upright and in sRGB, or the sentence that says why there is none.
+struct Picture {
+    QImage image;
+    QSize pixels;             ///< of the whole, also where `image` was scaled down
+    double dotsPerInch = 0.0; ///< 0: not said
+    bool isDamaged = false;   ///< some of the pixels are made up
+    QString problem;
+};
+
+/// The file's pictures: 0, or a TIFF file's directories that are photos. Any thread, like all here.
+std::vector<int> picturesIn(const QString& path);
+
+/// Decodes one of a file's pictures: JPEG, PNG, TIFF and what else Qt reads. It may come scaled down, as long
+/// as its longer edge has `leastEdge` pixels; 0: never.
+Picture readPicture(const QString& path, int page, int leastEdge);
+
+/// The bytes of a file that is small enough to be held in memory and begins as a JPEG file; else nothing.
+QByteArray jpegBytes(const QString& path);
+
+} // namespace halvern
