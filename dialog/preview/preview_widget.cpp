@@ -168,6 +168,8 @@ QString PreviewWidget::colorCaption() const
         return detailProblem_;
     if (isReadingDetail())
         return tr("Reading the photo...");
+    if (page_.photo.isDamaged)
+        return tr("A part of this photo is missing");
     const bool showsSharpening = page_.look.sharpens() && isZoomed_;
     if (page_.look.changesColors() || showsSharpening)
         return tr("The printer's adjustments, approximated on the screen");

@@ -25,6 +25,7 @@ BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream
     connect(&session_, &DialogSession::photosChanged, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::photoFailed, this,
             [this](const QString& sentence) { fail(sentence); });
+    connect(&session_, &DialogSession::photoDamaged, this, &BatchPrint::takeDamage);
     connect(&session_, &DialogSession::printerReady, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::printerFailed, this, &BatchPrint::takePrinterFailure);
     connect(&session_, &DialogSession::refused, this, [this](const QString& sentence) { fail(sentence); });
@@ -60,6 +61,14 @@ void BatchPrint::takePrinterFailure(const QString& sentence)
     printerFailure_ = sentence;
     if (session_.printerList().hasAnswer())
         takePrinters();
+}
+
+void BatchPrint::takeDamage(const QString& sentence)
+{
+    if (line_.request.printDamaged)
+        err_ << sentence << Qt::endl;
+    else
+        fail(sentence + QLatin1Char(' ') + tr("With --print-damaged it is printed all the same."));
 }
 
 void BatchPrint::proceed()

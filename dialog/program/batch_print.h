@@ -27,6 +27,7 @@ Q_SIGNALS:
 private:
     void takePrinters();
     void takePrinterFailure(const QString& sentence);
+    void takeDamage(const QString& sentence);
     void proceed();
     void print();
     void takeStatus(const JobStatus& status, const QString& sentence);

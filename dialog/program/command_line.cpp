@@ -33,6 +33,8 @@ public:
            "line. A line holds 120 characters and placeholders such as [YYYY], which the printer "
            "replaces."),
         QStringLiteral("TEXT")};
+    QCommandLineOption printDamaged{QStringLiteral("print-damaged"),
+                                    tr("Print photos of which a part is missing, too, without asking.")};
     QCommandLineOption noDialog{QStringLiteral("no-dialog"),
                                 tr("Print at once, and wait until the job has ended.")};
     QCommandLineOption wait{
@@ -121,8 +123,8 @@ QString readBackLines(const QStringList& texts, CommandLine& line, QStringList& 
 
 bool isListOnly(const QCommandLineParser& parser, const Switches& switches, const CommandLine& line)
 {
-    const QList<QCommandLineOption> printing{switches.option, switches.copies, switches.backprint,
-                                             switches.noDialog, switches.dryRun};
+    const QList<QCommandLineOption> printing{switches.option,       switches.copies,   switches.backprint,
+                                             switches.printDamaged, switches.noDialog, switches.dryRun};
     return line.request.files.isEmpty() &&
            std::none_of(printing.begin(), printing.end(),
                         [&](const QCommandLineOption& option) { return parser.isSet(option); });
@@ -163,8 +165,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
-                       switches.noDialog, switches.wait, switches.dryRun, switches.listPapers,
-                       switches.refresh});
+                       switches.printDamaged, switches.noDialog, switches.wait, switches.dryRun,
+                       switches.listPapers, switches.refresh});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -179,6 +181,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
                 kExitPrinted};
     CommandLine line;
     line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
+    line.request.printDamaged = parser.isSet(switches.printDamaged);
     line.dryRun = parser.isSet(switches.dryRun);
     QStringList remarks;
     QString problem = readValues(parser, switches, line);

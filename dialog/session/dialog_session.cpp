@@ -72,9 +72,30 @@ void DialogSession::takePhotoFile(const PhotoFile& file)
 {
     --filesLeft_;
     photos_.insert(photos_.end(), file.pages.begin(), file.pages.end());
-    if (!file.problem.isEmpty())
+    if (!file.problem.isEmpty() && file.pages.empty()) {
         Q_EMIT photoFailed(file.problem);
+    } else if (!file.problem.isEmpty()) {
+        if (!request_.printDamaged)
+            damagedFiles_.append(file.problem);
+        Q_EMIT photoDamaged(file.problem);
+    }
     Q_EMIT photosChanged();
+}
+
+void DialogSession::setPosition(size_t photo, const QPointF& position)
+{
+    if (photo < photos_.size())
+        photos_[photo].position = position;
+    Q_EMIT optionsChanged();
+}
+
+void DialogSession::settleDamaged(bool print)
+{
+    damagedFiles_.clear();
+    if (!print) {
+        std::erase_if(photos_, [](const Photo& photo) { return photo.isDamaged; });
+        Q_EMIT photosChanged();
+    }
 }
 
 void DialogSession::takePrinters()
@@ -210,6 +231,10 @@ void DialogSession::loadPanels()
 
 void DialogSession::setPage(const PageSettings& page)
 {
+    if (page.scaling != page_.scaling) {
+        for (Photo& photo : photos_)
+            photo.position = Photo().position;
+    }
     page_ = page;
     Q_EMIT optionsChanged();
 }
@@ -219,7 +244,7 @@ PageLayout DialogSession::layoutFor(const Photo& photo) const
     SheetGeometry sheet{QSizeF(595.28, 841.89), QRectF(0.0, 0.0, 595.28, 841.89)};
     if (model_)
         sheet = model_->sheet();
-    return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, page_.position});
+    return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, photo.position});
 }
 
 Look DialogSession::look() const

@@ -19,7 +19,6 @@ namespace halvern {
 struct PageSettings {
     Scaling scaling = Scaling::fit;
     PageTurn turn = PageTurn::automatic;
-    QPointF position{0.5, 0.5};
     int copies = 1;
 };
 
@@ -42,6 +41,16 @@ public:
 
     const std::vector<Photo>& photos() const { return photos_; }
 
+    /// Moves the cut or the place of one photo: 0 to 1 each way.
+    void setPosition(size_t photo, const QPointF& position);
+
+    /// A sentence for each file of which a part is missing. They print only if the user says so: ask before
+    /// makeRun(), and settle it.
+    const QStringList& damagedFiles() const { return damagedFiles_; }
+
+    /// What the user says: the damaged photos print as they are, or are left out.
+    void settleDamaged(bool print);
+
     /// Whether all files have been read.
     bool hasPhotos() const { return filesLeft_ == 0; }
 
@@ -58,6 +67,7 @@ public:
 
     const PageSettings& page() const { return page_; }
 
+    /// Another scaling puts all photos back in the middle.
     void setPage(const PageSettings& page);
 
     /// The layout of a photo on the current sheet.
@@ -103,6 +113,8 @@ Q_SIGNALS:
     void photosChanged();
     /// A file could not be read; a sentence.
     void photoFailed(const QString& sentence);
+    /// A part of a file is missing; a sentence.
+    void photoDamaged(const QString& sentence);
     /// The old printer's panels are about to go; their views must be handed back.
     void printerLeaving();
     void printerSelected(const QString& name);
@@ -143,6 +155,7 @@ private:
     QString bundleName_; // of the panels
     PageSettings page_;
     std::vector<Photo> photos_;
+    QStringList damagedFiles_;
     int filesLeft_ = 0;
     QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
     QString backLinesProblem_;

@@ -14,6 +14,7 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
+    bool printDamaged = false; ///< also photos of which a part is missing, without asking
     /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
     /// sends it command jobs.
     bool panelsAskPrinter = true;

@@ -104,8 +104,6 @@ void PaperPage::choosePage()
 {
     PageSettings page = session_.page();
     page.turn = PageTurn(turn_->checkedId());
-    if (page.scaling != Scaling(scaling_->checkedId()))
-        page.position = {0.5, 0.5};
     page.scaling = Scaling(scaling_->checkedId());
     session_.setPage(page);
 }

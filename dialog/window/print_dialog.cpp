@@ -105,11 +105,8 @@ QWidget* PrintDialog::makePreviewSide()
     column->setSpacing(0);
     column->addWidget(preview_, 1);
     column->addWidget(pager_);
-    connect(preview_, &PreviewWidget::positionChosen, this, [this](const QPointF& position) {
-        PageSettings page = session_.page();
-        page.position = position;
-        session_.setPage(page);
-    });
+    connect(preview_, &PreviewWidget::positionChosen, this,
+            [this](const QPointF& position) { session_.setPosition(size_t(current_), position); });
     return side;
 }
 
@@ -234,6 +231,8 @@ void PrintDialog::connectSession()
             [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
     connect(&session_, &DialogSession::photoFailed, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
+    connect(&session_, &DialogSession::photoDamaged, this,
+            [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
     connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
     connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
@@ -316,7 +315,8 @@ void PrintDialog::showPhotos()
     preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
     const QString name = QFileInfo(photo.path).fileName();
     setWindowTitle(tr("Print %1").arg(name));
-    pageNumber_->setText(tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(name));
+    const QString page = photo.pageNumber > 0 ? tr("%1, page %2").arg(name).arg(photo.pageNumber) : name;
+    pageNumber_->setText(tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(page));
     back_->setEnabled(current_ > 0);
     forward_->setEnabled(current_ + 1 < int(photos.size()));
     updateButtons();

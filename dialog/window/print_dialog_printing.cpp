@@ -1,6 +1,7 @@
 // Printing and closing.
 #include "dialog/window/print_dialog.h"
 
+#include "dialog/window/damage_question.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/run_bar.h"
@@ -29,6 +30,10 @@ void PrintDialog::print()
 {
     if (isRunning() || !session_.canPrint())
         return;
+    if (!session_.damagedFiles().isEmpty()) {
+        askAboutDamagedPhotos(this, session_, [this] { print(); });
+        return;
+    }
     // A field is saved as its editing leaves it, and the keyboard's ways to print move no focus.
     if (QWidget* editor = focusWidget(); editor && deck_->isAncestorOf(editor))
         print_->setFocus(Qt::OtherFocusReason);
