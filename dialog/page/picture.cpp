@@ -73,6 +73,7 @@ Picture readJpeg(const QString& path, const QByteArray& bytes, int leastEdge)
 
 Picture readWithQt(const QString& path, int page)
 {
+    silenceTiffLibrary();
     QImageReader::setAllocationLimit(kAllocationMegabytes);
     QImageReader reader(path);
     reader.setAutoTransform(true);

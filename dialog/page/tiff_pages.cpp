@@ -66,6 +66,16 @@ bool looksLikeTiff(const QString& path)
     return std::find(std::begin(starts), std::end(starts), start) != std::end(starts);
 }
 
+void silenceTiffLibrary()
+{
+    static const bool isSilent = [] {
+        TIFFSetErrorHandler(nullptr);
+        TIFFSetWarningHandler(nullptr);
+        return true;
+    }();
+    Q_UNUSED(isSilent)
+}
+
 std::vector<int> tiffPages(const QString& path)
 {
     std::vector<int> pages;

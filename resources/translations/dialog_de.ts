@@ -2,7 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>Beschädigte Fotos drucken?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>Was fehlt, wird grau oder verschmiert gedruckt.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>&amp;Trotzdem drucken</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
+    <message>
+        <source>Print photos of which a part is missing, too, without asking.</source>
+        <translation>Auch Fotos, von denen ein Teil fehlt, ohne Rückfrage drucken.</translation>
+    </message>
     <message>
         <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
         <translation>Es gibt keinen Bildschirm für den Dialog. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY.</translation>
@@ -225,6 +252,10 @@
 <context>
     <name>Photo</name>
     <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt. Kopieren Sie die Datei erneut von der Kamera oder exportieren Sie sie erneut.</translation>
+    </message>
+    <message>
         <source>The print job's temporary file is gone. Print again.</source>
         <translation>Die temporäre Datei des Druckauftrags ist weg. Drucken Sie erneut.</translation>
     </message>
@@ -404,6 +435,10 @@
 <context>
     <name>halvern::BatchPrint</name>
     <message>
+        <source>With --print-damaged it is printed all the same.</source>
+        <translation>Mit --print-damaged wird es trotzdem gedruckt.</translation>
+    </message>
+    <message>
         <source>Changed to fit: %1=%2</source>
         <translation>Passend geändert: %1=%2</translation>
     </message>
@@ -538,6 +573,10 @@
 <context>
     <name>halvern::PreviewWidget</name>
     <message>
+        <source>A part of this photo is missing</source>
+        <translation>Ein Teil dieses Fotos fehlt</translation>
+    </message>
+    <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
     </message>
@@ -584,6 +623,10 @@
 </context>
 <context>
     <name>halvern::PrintDialog</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, Seite %2</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>Drucken</translation>

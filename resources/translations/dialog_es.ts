@@ -2,7 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>¿Imprimir las fotos dañadas?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>Lo que falta sale gris o emborronado.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Omitirlas</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>&amp;Imprimir de todos modos</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
+    <message>
+        <source>Print photos of which a part is missing, too, without asking.</source>
+        <translation>Imprimir también, sin preguntar, las fotos a las que les falta una parte.</translation>
+    </message>
     <message>
         <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
         <translation>No hay pantalla para mostrar el diálogo. Imprima con --no-dialog o defina DISPLAY.</translation>
@@ -225,6 +252,10 @@
 <context>
     <name>Photo</name>
     <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>«%1» está dañado: falta una parte de la imagen. Vuelva a copiarlo de la cámara o a exportarlo.</translation>
+    </message>
+    <message>
         <source>The print job's temporary file is gone. Print again.</source>
         <translation>El archivo temporal del trabajo ha desaparecido. Imprima de nuevo.</translation>
     </message>
@@ -404,6 +435,10 @@
 <context>
     <name>halvern::BatchPrint</name>
     <message>
+        <source>With --print-damaged it is printed all the same.</source>
+        <translation>Con --print-damaged se imprime de todos modos.</translation>
+    </message>
+    <message>
         <source>Changed to fit: %1=%2</source>
         <translation>Adaptado: %1=%2</translation>
     </message>
@@ -538,6 +573,10 @@
 <context>
     <name>halvern::PreviewWidget</name>
     <message>
+        <source>A part of this photo is missing</source>
+        <translation>Falta una parte de esta foto</translation>
+    </message>
+    <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
     </message>
@@ -584,6 +623,10 @@
 </context>
 <context>
     <name>halvern::PrintDialog</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, página %2</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>Imprimir</translation>

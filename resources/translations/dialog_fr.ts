@@ -2,7 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>Imprimer les photos endommagées ?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>Ce qui manque sort gris ou brouillé.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Les omettre</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>&amp;Imprimer quand même</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
+    <message>
+        <source>Print photos of which a part is missing, too, without asking.</source>
+        <translation>Imprimer aussi, sans demander, les photos dont une partie manque.</translation>
+    </message>
     <message>
         <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
         <translation>Aucun écran pour afficher le dialogue. Imprimez avec --no-dialog ou définissez DISPLAY.</translation>
@@ -225,6 +252,10 @@
 <context>
     <name>Photo</name>
     <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>« %1 » est endommagé : une partie de l’image manque. Copiez-le à nouveau depuis l’appareil photo ou exportez-le à nouveau.</translation>
+    </message>
+    <message>
         <source>The print job's temporary file is gone. Print again.</source>
         <translation>Le fichier temporaire de la tâche a disparu. Imprimez à nouveau.</translation>
     </message>
@@ -404,6 +435,10 @@
 <context>
     <name>halvern::BatchPrint</name>
     <message>
+        <source>With --print-damaged it is printed all the same.</source>
+        <translation>Avec --print-damaged, il est imprimé quand même.</translation>
+    </message>
+    <message>
         <source>Changed to fit: %1=%2</source>
         <translation>Adapté : %1=%2</translation>
     </message>
@@ -538,6 +573,10 @@
 <context>
     <name>halvern::PreviewWidget</name>
     <message>
+        <source>A part of this photo is missing</source>
+        <translation>Une partie de cette photo manque</translation>
+    </message>
+    <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
     </message>
@@ -584,6 +623,10 @@
 </context>
 <context>
     <name>halvern::PrintDialog</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, page %2</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>Imprimer</translation>

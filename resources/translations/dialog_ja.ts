@@ -2,7 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>破損した写真を印刷しますか?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>欠けている部分は灰色または乱れて印刷されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>除外する(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>そのまま印刷(&amp;P)</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
+    <message>
+        <source>Print photos of which a part is missing, too, without asking.</source>
+        <translation>一部が欠けている写真も確認せずに印刷します。</translation>
+    </message>
     <message>
         <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
         <translation>ダイアログを表示する画面がありません。--no-dialog で印刷するか、DISPLAY を設定してください。</translation>
@@ -225,6 +252,10 @@
 <context>
     <name>Photo</name>
     <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>「%1」は破損しています: 画像の一部が欠けています。カメラからもう一度コピーするか、もう一度書き出してください。</translation>
+    </message>
+    <message>
         <source>The print job's temporary file is gone. Print again.</source>
         <translation>印刷ジョブの一時ファイルがなくなりました。もう一度印刷してください。</translation>
     </message>
@@ -404,6 +435,10 @@
 <context>
     <name>halvern::BatchPrint</name>
     <message>
+        <source>With --print-damaged it is printed all the same.</source>
+        <translation>--print-damaged を指定すると、そのまま印刷します。</translation>
+    </message>
+    <message>
         <source>Changed to fit: %1=%2</source>
         <translation>合わせて変更しました: %1=%2</translation>
     </message>
@@ -538,6 +573,10 @@
 <context>
     <name>halvern::PreviewWidget</name>
     <message>
+        <source>A part of this photo is missing</source>
+        <translation>この写真の一部が欠けています</translation>
+    </message>
+    <message>
         <source>%1 × %2 mm</source>
         <translation>%1 × %2 mm</translation>
     </message>
@@ -584,6 +623,10 @@
 </context>
 <context>
     <name>halvern::PrintDialog</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1、%2 ページ</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>印刷</translation>
