@@ -98,6 +98,15 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
     EXPECT_EQ(text.status, 1);
     EXPECT_TRUE(text.error.contains(q("JPEG, PNG, TIFF or PDF"))) << qPrintable(text.error);
 
+    QImage(photo()).save(folder.filePath(q("whole.jpg")));
+    const QByteArray whole = readFile(folder.filePath(q("whole.jpg")));
+    const QString cut = writeFile(folder.filePath(q("cut.jpg")), whole.first(whole.size() * 3 / 4));
+    const ProgramResult damaged = runPrint({q("--no-dialog"), photo(), cut});
+    EXPECT_EQ(damaged.status, 1);
+    EXPECT_TRUE(damaged.error.contains(q("cut.jpg")) && damaged.error.contains(q("--print-damaged")))
+        << qPrintable(damaged.error);
+    EXPECT_EQ(runPrint({q("--dry-run"), q("--print-damaged"), cut}).status, 0);
+
     EXPECT_FALSE(server.receivedOptions(1)) << "none of these has made a job";
     const ProgramResult printed = runPrint(options + QStringList{q("--no-dialog"), photo()});
     EXPECT_EQ(printed.status, 0) << qPrintable(printed.error);

@@ -7,11 +7,17 @@
 
 #include <QBuffer>
 #include <QColorSpace>
+#include <QDataStream>
 #include <QImageWriter>
 #include <QPainter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <jpeglib.h>
 
 #include <poppler-qt6.h>
 
@@ -51,16 +57,75 @@ QColor at(const QImage& image, double x, double y)
     return {c.red() > 127 ? 255 : 0, c.green() > 127 ? 255 : 0, c.blue() > 127 ? 255 : 0};
 }
 
+// A JPEG file with another segment right after its start.
+QByteArray withSegment(const QByteArray& jpeg, int marker, const QByteArray& content)
+{
+    const qsizetype length = content.size() + 2;
+    return jpeg.first(2) + '\xFF' + char(marker) + char(length >> 8) + char(length & 0xFF) + content +
+           jpeg.mid(2);
+}
+
+// A flat picture in four inks, with Adobe's marker and a profile.
+QByteArray inkJpeg(const QByteArray& inks, const QByteArray& profile)
+{
+    jpeg_compress_struct info;
+    jpeg_error_mgr errors;
+    info.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&info);
+    unsigned char* bytes = nullptr;
+    unsigned long size = 0;
+    jpeg_mem_dest(&info, &bytes, &size);
+    info.image_width = info.image_height = 64;
+    info.input_components = 4;
+    info.in_color_space = JCS_CMYK;
+    jpeg_set_defaults(&info);
+    jpeg_start_compress(&info, TRUE);
+    jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET*>(profile.constData()),
+                           unsigned(profile.size()));
+    QByteArray line = inks.repeated(64);
+    JSAMPROW row = reinterpret_cast<JSAMPROW>(line.data());
+    while (info.next_scanline < 64)
+        jpeg_write_scanlines(&info, &row, 1);
+    jpeg_finish_compress(&info);
+    const QByteArray file(reinterpret_cast<char*>(bytes), qsizetype(size));
+    jpeg_destroy_compress(&info);
+    std::free(bytes);
+    return file;
+}
+
+// Gray RGB pictures of 40 x 30, each lighter than the one before by 60; a kind is the NewSubfileType.
+QByteArray tiffOf(const std::vector<quint32>& kinds)
+{
+    constexpr quint32 kDirectory = 2 + 10 * 12 + 4;
+    constexpr quint32 kDepths = 3 * 2;
+    constexpr quint32 kPixels = 40 * 30 * 3;
+    QByteArray file;
+    QDataStream out(&file, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint32(0x002A4949) << quint32(8);
+    for (size_t i = 0; i < kinds.size(); ++i) {
+        const quint32 depths = quint32(file.size()) + kDirectory;
+        const quint32 data = depths + kDepths;
+        out << quint16(10);
+        const std::tuple<quint16, quint32, quint32> entries[] = {
+            {254, 1, kinds[i]}, {256, 1, 40},   {257, 1, 30}, {258, 3, depths}, {259, 1, 1},
+            {262, 1, 2},        {273, 1, data}, {277, 1, 3},  {278, 1, 30},     {279, 1, kPixels}};
+        for (const auto& [tag, count, value] : entries)
+            out << tag << quint16(count == 1 ? 4 : 3) << count << value;
+        out << (i + 1 < kinds.size() ? data + kPixels : 0) << quint16(8) << quint16(8) << quint16(8);
+        out.writeRawData(QByteArray(kPixels, char(60 * i)).constData(), kPixels);
+    }
+    return file;
+}
+
 } // namespace
 
 class PageTest : public testing::Test {
 protected:
-    QString save(const QImage& image, const QString& name,
-                 QImageIOHandler::Transformations turn = QImageIOHandler::TransformationNone)
+    QString save(const QImage& image, const QString& name)
     {
         const QString path = folder.filePath(name);
         QImageWriter writer(path);
-        writer.setTransformation(turn);
         writer.setQuality(95);
         EXPECT_TRUE(writer.write(image)) << qPrintable(writer.errorString());
         return path;
@@ -114,6 +179,11 @@ TEST_F(PageTest, LiesWhereTheTableSays)
         EXPECT_EQ(layout.isCut, !layout.imageable.contains(c.wanted)) << c.name;
         EXPECT_TRUE(layout.imageable.contains(layout.visible())) << c.name;
     }
+}
+
+TEST_F(PageTest, ASquarePhotoLeavesAWideSheetAsItIs)
+{
+    EXPECT_FALSE(layOut({k4x6.transposed(), {9, 9, 414, 270}, {300, 300}}).turned);
 }
 
 TEST_F(PageTest, PositionMovesTheCutAndUnevenMarginsTurnWithTheSheet)
@@ -170,26 +240,131 @@ TEST_F(PageTest, PdfHasThePapersSizeAndThePhotoWhereThePreviewShowsIt)
 
 TEST_F(PageTest, JpegDataGoIntoTheJobUntouchedInEveryOrientation)
 {
-    for (int turn = 0; turn < 8; ++turn) {
-        SCOPED_TRACE(turn);
-        const auto transformation = QImageIOHandler::Transformations(turn);
-        const QString path = save(quarters({320, 200}), QStringLiteral("t%1.jpg").arg(turn), transformation);
-        const PhotoFile read = readPhotoFile(path);
+    struct Case {
+        char orientation;
+        QColor topLeft, topRight, bottomLeft;
+    };
+
+    const QColor red = Qt::red;
+    const QColor green = Qt::green;
+    const QColor blue = Qt::blue;
+    const QColor yellow = Qt::yellow;
+    const Case cases[] = {
+        {1, red, green, blue}, {2, green, red, yellow}, {3, yellow, blue, green}, {4, blue, yellow, red},
+        {5, red, blue, green}, {6, blue, red, yellow},  {7, yellow, green, blue}, {8, green, yellow, red},
+    };
+    const QByteArray stored = readFile(save(quarters({320, 200}), QStringLiteral("stored.jpg")));
+    for (const Case& c : cases) {
+        SCOPED_TRACE(int(c.orientation));
+        // One Exif entry, the orientation, in an APP1 segment of its own.
+        const QByteArray entry =
+            QByteArray("\x12\x01\x03\0\x01\0\0\0", 8) + c.orientation + QByteArray(3, '\0');
+        const QByteArray exif = QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0", 16) + entry + QByteArray(4, '\0');
+        const QByteArray file = withSegment(stored, 0xE1, exif);
+        const PhotoFile read = readPhotoFile(put("turned.jpg", file));
         ASSERT_EQ(read.pages.size(), 1u);
         const Photo& photo = read.pages.front();
-        EXPECT_EQ(photo.pixels, turn & 4 ? QSize(200, 320) : QSize(320, 200));
-        ASSERT_TRUE(readJpegData(photo));
+        EXPECT_EQ(photo.pixels, c.orientation > 4 ? QSize(200, 320) : QSize(320, 200));
         const PageLayout layout = layOut({k4x6, k4x6Area, photo.ownSize, Scaling::fit, PageTurn::portrait});
         const QImage sheet = printed(photo, layout)->page(0)->renderToImage(72, 72);
-        EXPECT_TRUE(pdf.contains(readFile(path))) << "not compressed a second time";
-        const QImage& upright = photo.preview;
-        for (const QPointF& spot : {QPointF(0.25, 0.25), QPointF(0.75, 0.25), QPointF(0.25, 0.75)}) {
-            const QPointF p(layout.photo.left() + layout.photo.width() * spot.x(),
-                            layout.photo.top() + layout.photo.height() * spot.y());
-            EXPECT_EQ(at(sheet, p.x(), p.y()),
-                      at(upright, upright.width() * spot.x(), upright.height() * spot.y()));
+        EXPECT_TRUE(pdf.contains(file)) << "not compressed a second time";
+        const std::pair<QPointF, QColor> spots[] = {
+            {{0.25, 0.25}, c.topLeft}, {{0.75, 0.25}, c.topRight}, {{0.25, 0.75}, c.bottomLeft}};
+        for (const auto& [spot, wanted] : spots) {
+            EXPECT_EQ(at(photo.preview, photo.pixels.width() * spot.x(), photo.pixels.height() * spot.y()),
+                      wanted);
+            EXPECT_EQ(at(sheet, layout.photo.left() + layout.photo.width() * spot.x(),
+                         layout.photo.top() + layout.photo.height() * spot.y()),
+                      wanted);
         }
     }
+}
+
+TEST_F(PageTest, JpegDataThatPdfReadersWouldReadOtherwiseAreDecoded)
+{
+    QImage image(64, 64, QImage::Format_RGB32);
+    image.fill(QColor(254, 0, 0)); // stored as 76, 85, 255
+    const QByteArray jfif = readFile(save(image, QStringLiteral("red.jpg")));
+    const QByteArray bare = jfif.first(2) + jfif.mid(20);
+    const QByteArray adobe("Adobe\0\x64\0\0\0\0\0", 12);
+    const Photo rgb = readPhotoFile(put("rgb.jpg", withSegment(bare, 0xEE, adobe))).pages.at(0);
+    EXPECT_FALSE(readJpegData(rgb));
+    EXPECT_EQ(at(rgb.preview, 32, 32), QColor(Qt::blue)) << "the numbers are red, green and blue";
+    const Photo plain =
+        readPhotoFile(put("ycc.jpg", withSegment(bare, 0xEE, adobe.chopped(1) + '\x01'))).pages.at(0);
+    EXPECT_TRUE(readJpegData(plain));
+}
+
+TEST_F(PageTest, AResolutionIsBelievedOnlyIfSomebodyMeantIt)
+{
+    for (const auto& [written, wanted] : {std::pair(72, 300), std::pair(96, 300), std::pair(240, 240)}) {
+        QImage image = quarters({480, 240});
+        image.setDotsPerMeterX(qRound(written / 0.0254));
+        image.setDotsPerMeterY(qRound(written / 0.0254));
+        for (const char* name : {"size.jpg", "size.png"}) {
+            const Photo photo = readPhotoFile(save(image, QString::fromLatin1(name))).pages.at(0);
+            EXPECT_NEAR(photo.ownSize.width(), 480.0 * 72.0 / wanted, 0.2) << name << written;
+        }
+    }
+}
+
+TEST_F(PageTest, InksAndColoursComeThroughTheFilesOwnProfile)
+{
+    // Ghostscript's package has a table profile for four inks. What is expected was computed by transicc.
+    const QString profile = QStringLiteral("/usr/share/color/icc/ghostscript/default_cmyk.icc");
+    ASSERT_TRUE(QFile::exists(profile)) << "install libgs-common";
+    const QByteArray inks("\x58\xFF\x00\xFF", 4); // 65 % cyan, 100 % yellow, as Adobe's programs store them
+    const Photo photo = readPhotoFile(put("inks.jpg", inkJpeg(inks, readFile(profile)))).pages.at(0);
+    EXPECT_FALSE(readJpegData(photo));
+    const PageLayout layout = layOut({k4x6, k4x6Area, photo.ownSize});
+    const QImage sheet = printed(photo, layout)->page(0)->renderToImage(72, 72);
+    for (const QColor& color : {photo.preview.pixelColor(20, 20), sheet.pixelColor(144, 216)}) {
+        EXPECT_NEAR(color.red(), 99, 2);
+        EXPECT_NEAR(color.green(), 188, 2);
+        EXPECT_NEAR(color.blue(), 74, 2);
+    }
+}
+
+TEST_F(PageTest, APartThatIsMissingIsTold)
+{
+    const QByteArray jpeg = readFile(save(quarters({400, 300}), QStringLiteral("good.jpg")));
+    const QByteArray tiff = tiffOf({0, 1, 0});
+    printed(readPhotoFile(folder.filePath(QStringLiteral("good.jpg"))).pages.at(0),
+            layOut({k4x6, k4x6Area, k4x6}));
+
+    struct Case {
+        const char* name;
+        QByteArray bytes;
+        bool isToldOf;
+    };
+
+    const Case cases[] = {
+        {"cut.jpg", jpeg.first(jpeg.size() * 3 / 4), true},
+        {"no_end_marker.jpg", jpeg.chopped(2), false},
+        {"padded.jpg", jpeg + QByteArray(5000, '\0'), false},
+        {"cut.tif", tiff.chopped(500), true},
+        {"cut.pdf", pdf.chopped(8), true},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const PhotoFile read = readPhotoFile(put(c.name, c.bytes));
+        ASSERT_FALSE(read.pages.empty()) << qPrintable(read.problem);
+        EXPECT_EQ(read.problem.contains(QStringLiteral("part of the picture is missing")), c.isToldOf);
+        EXPECT_EQ(readJpegData(read.pages.back()).has_value(),
+                  !c.isToldOf && QByteArray(c.name).endsWith("jpg"))
+            << "printed as it was shown";
+    }
+}
+
+TEST_F(PageTest, TiffFilesGiveAPageForEachPhotoAndNoneForAThumbnail)
+{
+    const PhotoFile read = readPhotoFile(put("three.tif", tiffOf({0, 1, 0})));
+    ASSERT_EQ(read.pages.size(), 2u) << qPrintable(read.problem);
+    EXPECT_EQ(read.problem, QString());
+    EXPECT_EQ(read.pages[1].pageNumber, 2);
+    QString problem;
+    const QImage second = readPixels(read.pages[1], 300, &problem);
+    EXPECT_EQ(second.pixelColor(5, 5).red(), 120) << "the third directory's gray";
 }
 
 TEST_F(PageTest, ColoursOfATaggedPhotoAreConverted)

@@ -1,6 +1,7 @@
 // The preview: the printer's adjustments on the screen, the whole page and 1:1.
 #include "dialog/preview/preview_widget.h"
 #include "dialog/preview/screen_photo.h"
+#include "dialog/preview/sharp_photo_reader.h"
 #include "tests/support/observers.h"
 
 #include <QTemporaryDir>
@@ -178,6 +179,23 @@ TEST_F(PreviewTest, APhotoThatIsGoneStaysAsItsSmallCopyAndSaysSo)
     zoom();
     EXPECT_TRUE(preview.captions().back().contains(QStringLiteral("photo.png")));
     EXPECT_NE(grabbed().pixel(200, 150), grabbed().pixel(1, 399)) << "a photo, not the ground";
+}
+
+TEST_F(PreviewTest, APhotoThatIsNoLongerWantedIsNotDelivered)
+{
+    const Photo first = page().photo;
+    picture.fill(Qt::red);
+    const QString path = folder.filePath(QStringLiteral("red.png"));
+    ASSERT_TRUE(picture.save(path));
+    SharpPhotoReader reader;
+    std::vector<QColor> delivered;
+    QObject::connect(&reader, &SharpPhotoReader::ready, &reader,
+                     [&](const QImage& detail) { delivered.push_back(detail.pixelColor(1, 1)); });
+    reader.read(first, {180, 120});
+    reader.read(readPhotoFile(path).pages.at(0), {180, 120});
+    ASSERT_TRUE(waitUntil([&] { return !reader.isReading(); }));
+    drainMainQueue();
+    EXPECT_EQ(delivered, std::vector<QColor>{QColor(Qt::red)});
 }
 
 } // namespace halvern

@@ -12,6 +12,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -244,6 +245,35 @@ TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
     EXPECT_EQ(panels.calls.mid(4), QStringList{q("first: willShow")}) << "the panel is in use again";
     dialog.close();
     EXPECT_TRUE(panels.calls.contains(q("first: closing to print")));
+}
+
+TEST_F(DialogServerTest, ADamagedPhotoPrintsOnlyIfTheUserSaysSo)
+{
+    const QByteArray whole = readFile(photoPath());
+    SessionRequest wanted = request(q("Tessarin"));
+    wanted.files.append(writeFile(folder.filePath(q("cut.jpg")), whole.first(whole.size() * 3 / 4)));
+    DialogSession session(wanted, panels);
+    PrintDialog dialog(session);
+    dialog.show();
+    ASSERT_TRUE(isReady(session));
+    session.setPosition(1, {0.5, 1.0});
+    EXPECT_EQ(session.photos()[0].position, QPointF(0.5, 0.5)) << "each photo has a place of its own";
+    const auto answer = [&](QMessageBox::ButtonRole role) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(q("printButton")), Qt::LeftButton);
+        auto* box = dialog.findChild<QMessageBox*>();
+        EXPECT_TRUE(box && containsText(box->text(), "cut.jpg"));
+        for (QAbstractButton* button : box ? box->buttons() : QList<QAbstractButton*>()) {
+            if (box->buttonRole(button) == role)
+                button->click();
+        }
+        drainMainQueue();
+    };
+    answer(QMessageBox::RejectRole);
+    EXPECT_FALSE(dialog.run());
+    answer(QMessageBox::DestructiveRole);
+    ASSERT_TRUE(dialog.run());
+    EXPECT_EQ(session.photos().size(), 1u) << "the whole one";
+    EXPECT_TRUE(waitUntil([&] { return dialog.run()->isOver(); }, 60));
 }
 
 TEST_F(DialogServerTest, AStoppedServerNeverHoldsTheWindowUp)
