@@ -1,5 +1,7 @@
 #include "dialog/page/photo_problem.h"
 
+#include "platform/foundation/display_text.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -10,7 +12,7 @@ namespace {
 
 QString named(const char* text, const QString& path)
 {
-    return QCoreApplication::translate("Photo", text).arg(QDir::toNativeSeparators(path));
+    return QCoreApplication::translate("Photo", text).arg(isolated(QDir::toNativeSeparators(path)));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "dialog/program/batch_print.h"
 
+#include "platform/foundation/display_text.h"
+
 #include <QTimer>
 
 namespace halvern {
@@ -66,7 +68,7 @@ void BatchPrint::takePrinterFailure(const QString& sentence)
 void BatchPrint::takeDamage(const QString& sentence)
 {
     if (line_.request.printDamaged)
-        err_ << sentence << Qt::endl;
+        writeLine(err_, sentence);
     else
         fail(sentence + QLatin1Char(' ') + tr("With --print-damaged it is printed all the same."));
 }
