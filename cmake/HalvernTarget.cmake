@@ -45,7 +45,8 @@ function(halvern_precompiled target)
     target_precompile_headers(${target} PRIVATE ${P_HEADERS})
 endfunction()
 
-# A test program: its sources are compiled together, and ctest runs it as one test.
+# A test program, test-<room>-<what>: its sources are compiled together, and ctest runs it as one test, because
+# each start costs as much as many tests and the servers are shared. Its room, the folder below tests/, is a label.
 #   halvern_test(NAME SOURCES a.cpp b.cpp LIBS target... [LABELS label...])
 function(halvern_test name)
     cmake_parse_arguments(T "" "" "SOURCES;LIBS;LABELS" ${ARGN})
@@ -56,7 +57,9 @@ function(halvern_test name)
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 4
                           RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/tests OUTPUT_VARIABLE room)
+    string(REGEX REPLACE "/.*" "" room ${room})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=0;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/tsan.supp:die_after_fork=0"
-        TIMEOUT 1800 LABELS "${T_LABELS}")
+        ENVIRONMENT "ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/tsan.supp:die_after_fork=0"
+        TIMEOUT 1800 LABELS "${room};${T_LABELS}")
 endfunction()

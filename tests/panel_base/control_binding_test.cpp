@@ -5,7 +5,7 @@
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/files.h"
+#include "tests/support/test.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,11 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QVBoxLayout>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 
@@ -50,12 +46,12 @@ TEST_F(ControlBindingTest, ShowsChoicesInTagOrderOverOneGapAndStopsAtTwo)
     QList<QLabel*> labels;
     for (const int tag : {1, 2, 4, 7}) {
         labels.append(addControl<QLabel>(view, tag));
-        panel->setChoice_forKey(QStringLiteral("v%1").arg(tag), panel->ppdOptionKeyForTag(tag));
+        panel->setChoice_forKey(q("v%1").arg(tag), panel->ppdOptionKeyForTag(tag));
     }
     auto* toggle = addControl<QCheckBox>(view, 0x201);
-    panel->setChoice_forKey(QStringLiteral("tRUE"), QStringLiteral("T"));
+    panel->setChoice_forKey(q("tRUE"), q("T"));
     panel->updateUI();
-    EXPECT_EQ(labels[2]->text(), QStringLiteral("v4"));
+    EXPECT_EQ(labels[2]->text(), q("v4"));
     EXPECT_EQ(labels[3]->text(), QString());
     EXPECT_TRUE(toggle->isChecked());
 }
@@ -66,9 +62,9 @@ TEST_F(ControlBindingTest, AViewThatIsNoControlEndsTheWalk)
     addControl<QGroupBox>(view, 2);
     auto* third = addControl<QLabel>(view, 3);
     for (const char* key : {"A", "B", "C"})
-        panel->setChoice_forKey(QStringLiteral("v"), QString::fromLatin1(key));
+        panel->setChoice_forKey(q("v"), QString::fromLatin1(key));
     panel->updateUI();
-    EXPECT_EQ(first->text(), QStringLiteral("v"));
+    EXPECT_EQ(first->text(), q("v"));
     EXPECT_EQ(third->text(), QString());
 }
 
@@ -79,7 +75,7 @@ TEST_F(ControlBindingTest, AToggleReachesEveryGroupUpToItsFirstGap)
         controls.insert(tag, addControl<QLineEdit>(view, tag));
     panel->unsupportedTags.insert(2);
     auto* toggle = addControl<QCheckBox>(view, 0x201);
-    panel->updateControl_withValue(toggle, QStringLiteral("False"));
+    panel->updateControl_withValue(toggle, q("False"));
     for (const int tag : {1, 2, 0x141, 0x142, 0x281, 0x1401})
         EXPECT_FALSE(controls[tag]->isEnabled()) << tag;
     EXPECT_TRUE(controls[4]->isEnabled());
@@ -89,7 +85,7 @@ TEST_F(ControlBindingTest, AToggleReachesEveryGroupUpToItsFirstGap)
     EXPECT_FALSE(controls[2]->isEnabled());
     for (const int tag : {1, 0x141, 0x142, 0x281, 0x1401})
         EXPECT_TRUE(controls[tag]->isEnabled()) << tag;
-    EXPECT_EQ(panel->stored("T"), QStringLiteral("True"));
+    EXPECT_EQ(panel->stored("T"), q("True"));
 }
 
 TEST_F(ControlBindingTest, ALongFirstGroupSkipsTheCompanions)
@@ -108,20 +104,20 @@ TEST_F(ControlBindingTest, ALongFirstGroupSkipsTheCompanions)
 TEST_F(ControlBindingTest, FillsMenusFromThePpdAndTranslatesKeywordsFirst)
 {
     auto* popup = addControl<QComboBox>(view, 1);
-    popup->addItem(QStringLiteral("from the layout"));
+    popup->addItem(q("from the layout"));
     auto* unknown = addControl<QComboBox>(view, 2);
-    unknown->addItem(QStringLiteral("from the layout"));
-    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
-    useBuiltBundle(QStringLiteral("de_DE"));
+    unknown->addItem(q("from the layout"));
+    QLocale::setDefault(QLocale(q("de_DE")));
+    useBuiltBundle(q("de_DE"));
     const auto german = makePanel<TestPanel>(host);
     german->populateMenuObjectsInView(view);
     ASSERT_EQ(popup->count(), 3);
-    EXPECT_EQ(popup->itemText(0), QStringLiteral("Ein"));
-    EXPECT_EQ(popup->itemText(1), QStringLiteral("A plain choice"));
-    EXPECT_EQ(popup->itemText(2), QStringLiteral("Schärferadius"));
-    EXPECT_EQ(popup->itemData(2).toString(), QStringLiteral("SharpnessRadius"));
+    EXPECT_EQ(popup->itemText(0), q("Ein"));
+    EXPECT_EQ(popup->itemText(1), q("A plain choice"));
+    EXPECT_EQ(popup->itemText(2), q("Schärferadius"));
+    EXPECT_EQ(popup->itemData(2).toString(), q("SharpnessRadius"));
     EXPECT_EQ(popup->currentIndex(), 0);
-    EXPECT_EQ(unknown->itemText(0), QStringLiteral("from the layout"));
+    EXPECT_EQ(unknown->itemText(0), q("from the layout"));
     EXPECT_TRUE(host->asked.isEmpty());
 }
 
@@ -129,37 +125,37 @@ TEST_F(ControlBindingTest, APopUpShowsNoItemForAnUnknownChoice)
 {
     auto* popup = addControl<QComboBox>(view, 1);
     panel->populateMenuObjectsInView(view);
-    panel->updateControl_withValue(popup, QStringLiteral("Plain"));
+    panel->updateControl_withValue(popup, q("Plain"));
     EXPECT_EQ(popup->currentIndex(), 1);
     panel->updateControl_withValue(popup, 3);
     EXPECT_EQ(popup->currentIndex(), 1);
-    panel->updateControl_withValue(popup, QStringLiteral("gone"));
+    panel->updateControl_withValue(popup, q("gone"));
     EXPECT_EQ(popup->currentIndex(), -1);
 }
 
 TEST_F(ControlBindingTest, LocalizesTitlesLabelsTabsToolTipsAndAccessibleNames)
 {
     auto* tabs = new QTabWidget(view);
-    auto* page = new QGroupBox(QStringLiteral("Sharpness"));
+    auto* page = new QGroupBox(q("Sharpness"));
     auto* column = new QVBoxLayout(page);
-    auto* label = new QLabel(QStringLiteral("Strong"));
-    label->setToolTip(QStringLiteral("None"));
-    label->setAccessibleName(QStringLiteral("Fine detail"));
+    auto* label = new QLabel(q("Strong"));
+    label->setToolTip(q("None"));
+    label->setAccessibleName(q("Fine detail"));
     column->addWidget(label);
     auto* matrix = new Matrix;
-    matrix->setCellTitles({QStringLiteral("On"), QStringLiteral("no entry")});
+    matrix->setCellTitles({q("On"), q("no entry")});
     column->addWidget(matrix);
-    tabs->addTab(page, QStringLiteral("Restore Defaults"));
-    useBuiltBundle(QStringLiteral("de_DE"));
+    tabs->addTab(page, q("Restore Defaults"));
+    useBuiltBundle(q("de_DE"));
     const auto german = makePanel<TestPanel>(host);
     // The answer is the last child's, and the view itself has no text.
     EXPECT_TRUE(german->localizeStringsInView_andSubviews_resizeTofit(view, true, false));
-    EXPECT_EQ(page->title(), QStringLiteral("Schärfe"));
-    EXPECT_EQ(label->text(), QStringLiteral("Stark"));
-    EXPECT_EQ(label->toolTip(), QStringLiteral("Keine"));
-    EXPECT_EQ(label->accessibleName(), QStringLiteral("Feine Details"));
-    EXPECT_EQ(matrix->cellTitles(), (QStringList{QStringLiteral("Ein"), QStringLiteral("no entry")}));
-    EXPECT_EQ(tabs->tabText(0), QStringLiteral("Standardwerte"));
+    EXPECT_EQ(page->title(), q("Schärfe"));
+    EXPECT_EQ(label->text(), q("Stark"));
+    EXPECT_EQ(label->toolTip(), q("Keine"));
+    EXPECT_EQ(label->accessibleName(), q("Feine Details"));
+    EXPECT_EQ(matrix->cellTitles(), (QStringList{q("Ein"), q("no entry")}));
+    EXPECT_EQ(tabs->tabText(0), q("Standardwerte"));
     EXPECT_FALSE(german->localizeStringsInView_andSubviews_resizeTofit(view, true, false));
 }
 
@@ -170,7 +166,7 @@ TEST_F(ControlBindingTest, StepsByOneWithinTheRange)
     auto* down = addControl<QPushButton>(view, 0x282);
     slider->setRealValue(1.9);
     panel->incrementControl(up);
-    EXPECT_EQ(panel->stored("B"), QStringLiteral("2"));
+    EXPECT_EQ(panel->stored("B"), q("2"));
     panel->incrementControl(up);
     panel->incrementControl(up);
     EXPECT_DOUBLE_EQ(slider->realValue(), 3.0);
@@ -195,34 +191,34 @@ TEST_F(ControlBindingTest, AControlWithoutAnOptionIsRefused)
 TEST_F(ControlBindingTest, AFieldWithAnActionOnlyProposesOnceWhenEditingEnds)
 {
     const QTemporaryDir folder;
-    writeFile(folder.filePath(QStringLiteral("Info.plist")),
+    writeFile(folder.filePath(q("Info.plist")),
               "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
-    writeFile(folder.filePath(QStringLiteral("Resources/Quiet.ui")),
+    writeFile(folder.filePath(q("Resources/Quiet.ui")),
               R"(<ui version="4.0"><widget class="QLineEdit" name="quiet">
                  <property name="tag" stdset="0"><number>2</number></property>
                  <property name="action" stdset="0"><string>changePrinterSetting:</string></property>
                  </widget></ui>)");
     Bundle::setMainBundle(Bundle::load(folder.path()));
     const auto wired = makePanel<TestPanel>(host);
-    wired->layout = QStringLiteral("Quiet");
+    wired->layout = q("Quiet");
     auto* field = qobject_cast<QLineEdit*>(wired->panelView());
     ASSERT_NE(field, nullptr);
-    QTest::keyClicks(field, QStringLiteral("123"));
+    QTest::keyClicks(field, q("123"));
     EXPECT_TRUE(host->asked.isEmpty());
     QTest::keyClick(field, Qt::Key_Return);
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(host->asked.size(), 1);
-    EXPECT_EQ(wired->stored("B"), QStringLiteral("123"));
+    EXPECT_EQ(wired->stored("B"), q("123"));
 }
 
 TEST_F(ControlBindingTest, AMinusLeftInAFieldBecomesZeroWithoutAChoice)
 {
     auto* field = addControl<QLineEdit>(view, 1);
-    field->setText(QStringLiteral("-"));
+    field->setText(q("-"));
     panel->controlTextDidChange(field);
     panel->controlTextDidEndEditing(field);
-    EXPECT_EQ(field->text(), QStringLiteral("0"));
-    EXPECT_EQ(panel->stored("A"), QStringLiteral("-"));
+    EXPECT_EQ(field->text(), q("0"));
+    EXPECT_EQ(panel->stored("A"), q("-"));
     EXPECT_EQ(host->asked.size(), 1);
 }
 
@@ -236,16 +232,16 @@ TEST_F(ControlBindingTest, AMatrixPanelReadsAndShowsCellsOnly)
 
     const auto cells = makePanel<Cells>(host);
     auto* matrix = addControl<Matrix>(view, 1);
-    matrix->setCellTitles({QStringLiteral("a"), QStringLiteral("b")});
-    matrix->setToolTip(QStringLiteral("tip"));
-    cells->updateControl_withValue(matrix, QStringLiteral("20"));
+    matrix->setCellTitles({q("a"), q("b")});
+    matrix->setToolTip(q("tip"));
+    cells->updateControl_withValue(matrix, q("20"));
     EXPECT_EQ(matrix->selectedTag(), 2);
     EXPECT_EQ(matrix->toolTip(), QString());
-    EXPECT_EQ(cells->newChoiceForSender(matrix).toString(), QStringLiteral("20"));
+    EXPECT_EQ(cells->newChoiceForSender(matrix).toString(), q("20"));
     auto* label = addControl<QLabel>(view, 3);
-    cells->updateControl_withValue(label, QStringLiteral("20"));
+    cells->updateControl_withValue(label, q("20"));
     EXPECT_EQ(label->text(), QString());
-    EXPECT_EQ(cells->newChoiceForSender(label).toString(), QStringLiteral("30"));
+    EXPECT_EQ(cells->newChoiceForSender(label).toString(), q("30"));
 }
 
 } // namespace halvern

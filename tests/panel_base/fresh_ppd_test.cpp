@@ -1,12 +1,8 @@
 #include "platform/printing/ppd.h"
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/files.h"
 #include "tests/support/private_cups.h"
 #include "tests/support/silent_socket.h"
-
-#include <QDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <cups/cups.h>
 
@@ -18,12 +14,11 @@ protected:
     void SetUp() override
     {
         useBuiltBundle();
-        writePpd(folder.filePath(QStringLiteral("fresh.ppd")), "1.5");
-        ASSERT_TRUE(server.addQueue(QStringLiteral("Fresh"), folder.filePath(QStringLiteral("fresh.ppd"))))
+        writePpd(folder.filePath(q("fresh.ppd")), "1.5");
+        ASSERT_TRUE(server.addQueue(q("Fresh"), folder.filePath(q("fresh.ppd"))))
             << qPrintable(server.error());
-        host->printer =
-            std::make_shared<Printer>(QStringLiteral("Fresh"), QStringLiteral("halvern://virtual/Fresh"));
-        ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("tmp")));
+        host->printer = std::make_shared<Printer>(q("Fresh"), q("halvern://virtual/Fresh"));
+        ASSERT_TRUE(QDir(folder.path()).mkdir(q("tmp")));
         qputenv("TMPDIR", temporary().path().toLocal8Bit());
     }
 
@@ -35,9 +30,9 @@ protected:
                             "\"\n*Nothing: \"\"\n*X00000: \"QUJD\"\n*X00001: \"REVG\"\n");
     }
 
-    QString queuePpd() const { return server.dir() + QStringLiteral("/server/etc/ppd/Fresh.ppd"); }
+    QString queuePpd() const { return server.dir() + q("/server/etc/ppd/Fresh.ppd"); }
 
-    QDir temporary() const { return QDir(folder.filePath(QStringLiteral("tmp"))); }
+    QDir temporary() const { return QDir(folder.filePath(q("tmp"))); }
 
     qsizetype temporaryFiles() const { return temporary().entryList(QDir::Files | QDir::System).size(); }
 
@@ -50,48 +45,47 @@ protected:
 
 TEST_F(FreshPpdTest, ReadsWhatTheServerHasNowAndLeavesNoFile)
 {
-    const QStringList keys{QStringLiteral("Stamp"), QStringLiteral("Nothing"), QStringLiteral("Absent")};
+    const QStringList keys{q("Stamp"), q("Nothing"), q("Absent")};
     const QMap<QString, QString> values = panel->ppdValuesForAttributes(keys);
-    EXPECT_EQ(values, (QMap<QString, QString>{{QStringLiteral("Stamp"), QStringLiteral("1.5")},
-                                              {QStringLiteral("Nothing"), QString()}}));
-    EXPECT_EQ(log.count(QStringLiteral("searching fresh ppd for key Absent")), 1);
-    EXPECT_EQ(panel->ppdSavedDataForAttribute(QStringLiteral("X")), QByteArray("ABCDEF"));
+    EXPECT_EQ(values, (QMap<QString, QString>{{q("Stamp"), q("1.5")}, {q("Nothing"), QString()}}));
+    EXPECT_EQ(log.count(q("searching fresh ppd for key Absent")), 1);
+    EXPECT_EQ(panel->ppdSavedDataForAttribute(q("X")), QByteArray("ABCDEF"));
     writePpd(queuePpd(), "2.5");
-    EXPECT_EQ(panel->ppdValueForAttribute(QStringLiteral("Stamp")), QStringLiteral("2.5"));
-    EXPECT_EQ(panel->ppdValueForAttribute(QStringLiteral("Absent")), std::nullopt);
+    EXPECT_EQ(panel->ppdValueForAttribute(q("Stamp")), q("2.5"));
+    EXPECT_EQ(panel->ppdValueForAttribute(q("Absent")), std::nullopt);
     EXPECT_EQ(temporaryFiles(), 0);
 }
 
 TEST_F(FreshPpdTest, AQueueOrAServerThatIsNotThereAnswersNothing)
 {
-    host->printer = std::make_shared<Printer>(QStringLiteral("Gone"), QString());
-    EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
-    EXPECT_EQ(panel->ppdSavedDataForAttribute(QStringLiteral("X")), std::nullopt);
+    host->printer = std::make_shared<Printer>(q("Gone"), QString());
+    EXPECT_TRUE(panel->ppdValuesForAttributes({q("Stamp")}).isEmpty());
+    EXPECT_EQ(panel->ppdSavedDataForAttribute(q("X")), std::nullopt);
     host->printer = nullptr;
-    EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
-    host->printer = std::make_shared<Printer>(QStringLiteral("Fresh"), QString());
+    EXPECT_TRUE(panel->ppdValuesForAttributes({q("Stamp")}).isEmpty());
+    host->printer = std::make_shared<Printer>(q("Fresh"), QString());
     ASSERT_TRUE(server.stop());
-    EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
+    EXPECT_TRUE(panel->ppdValuesForAttributes({q("Stamp")}).isEmpty());
 }
 
 TEST_F(FreshPpdTest, APpdThatDoesNotOpenIsLoggedAndKept)
 {
     writeFile(queuePpd(), "no PPD at all\n");
-    EXPECT_TRUE(panel->ppdValuesForAttributes({QStringLiteral("Stamp")}).isEmpty());
-    EXPECT_EQ(log.lines().last(), QStringLiteral("failed to open fresh ppd = 0x0"));
+    EXPECT_TRUE(panel->ppdValuesForAttributes({q("Stamp")}).isEmpty());
+    EXPECT_EQ(log.lines().last(), q("failed to open fresh ppd = 0x0"));
     EXPECT_EQ(temporaryFiles(), 1);
-    EXPECT_EQ(panel->ppdSavedDataForAttribute(QStringLiteral("X")), std::nullopt);
+    EXPECT_EQ(panel->ppdSavedDataForAttribute(q("X")), std::nullopt);
     EXPECT_EQ(temporaryFiles(), 2);
 }
 
 TEST(SilentServerTest, TheMainThreadLeavesItAloneForAWhile)
 {
     const QTemporaryDir folder;
-    const QByteArray path = folder.filePath(QStringLiteral("cups.sock")).toUtf8();
+    const QByteArray path = folder.filePath(q("cups.sock")).toUtf8();
     SilentSocket silent(path);
     cupsSetServer(path.constData());
-    EXPECT_FALSE(ppd::fetch(QStringLiteral("Elsewhere")));
-    EXPECT_FALSE(ppd::fetch(QStringLiteral("Elsewhere")));
+    EXPECT_FALSE(ppd::fetch(q("Elsewhere")));
+    EXPECT_FALSE(ppd::fetch(q("Elsewhere")));
     EXPECT_EQ(silent.calls(), 1);
     cupsSetServer(nullptr);
 }

@@ -2,12 +2,11 @@
 #include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/threads/semaphore.h"
 #include "tests/panel_base/test_panel.h"
+#include "tests/support/test.h"
 
 #include <QDesktopServices>
 #include <QPointer>
 #include <QUrl>
-
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <future>
@@ -32,7 +31,7 @@ TEST_F(LifecycleTest, AHostWithoutAPpdOrWithoutConstraintHandlingGetsNoPanel)
     host->responds = false;
     EXPECT_EQ(makePanel<TestPanel>(host), nullptr);
     // The panel that said no was released in the ordinary way.
-    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in TestPanel")), 2);
+    EXPECT_EQ(log.count(q("entered dealloc in TestPanel")), 2);
 }
 
 TEST_F(LifecycleTest, TheUnloadFlagFollowsShowingHidingClosingAndSaving)
@@ -50,11 +49,11 @@ TEST_F(LifecycleTest, TheUnloadFlagFollowsShowingHidingClosingAndSaving)
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
     EXPECT_TRUE(panel->pdePluginDidUnload);
     EXPECT_TRUE(host->settings->values().isEmpty());
-    EXPECT_EQ(log.lines(), (QStringList{QStringLiteral("entered shouldHide in TestPanel"),
-                                        QStringLiteral("entered willShow in TestPanel"),
-                                        QStringLiteral("entered printWindowWillClose: in TestPanel"),
-                                        QStringLiteral("entered willShow in TestPanel"),
-                                        QStringLiteral("entered saveValuesAndReturnError: in TestPanel")}));
+    EXPECT_EQ(
+        log.lines(),
+        (QStringList{q("entered shouldHide in TestPanel"), q("entered willShow in TestPanel"),
+                     q("entered printWindowWillClose: in TestPanel"), q("entered willShow in TestPanel"),
+                     q("entered saveValuesAndReturnError: in TestPanel")}));
 }
 
 TEST_F(LifecycleTest, AFailedLayoutIsLoggedAndTriedAgain)
@@ -62,11 +61,11 @@ TEST_F(LifecycleTest, AFailedLayoutIsLoggedAndTriedAgain)
     const auto panel = makePanel<TestPanel>(host);
     EXPECT_EQ(panel->panelView(), nullptr);
     EXPECT_TRUE(log.lines().isEmpty());
-    panel->layout = QStringLiteral("NoSuchLayout");
+    panel->layout = q("NoSuchLayout");
     EXPECT_EQ(panel->panelView(), nullptr);
     EXPECT_EQ(panel->panelView(), nullptr);
-    EXPECT_EQ(log.count(QStringLiteral("Failed to load nib named NoSuchLayout")), 2);
-    panel->layout = QStringLiteral("TessarinSharpness");
+    EXPECT_EQ(log.count(q("Failed to load nib named NoSuchLayout")), 2);
+    panel->layout = q("TessarinSharpness");
     QWidget* loaded = panel->panelView();
     EXPECT_NE(loaded, nullptr);
     EXPECT_EQ(panel->panelView(), loaded);
@@ -76,12 +75,12 @@ TEST_F(LifecycleTest, AFailedLayoutIsLoggedAndTriedAgain)
 TEST_F(LifecycleTest, LastReferenceOnAnotherThreadLeavesTheViewToTheMainThread)
 {
     auto panel = makePanel<TestPanel>(host);
-    panel->layout = QStringLiteral("TessarinSharpness");
+    panel->layout = q("TessarinSharpness");
     const QPointer<QWidget> view = panel->panelView();
     ASSERT_FALSE(view.isNull());
     std::thread([panel = std::move(panel)]() mutable { panel.reset(); }).join();
     EXPECT_FALSE(view.isNull());
-    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in TestPanel")), 1);
+    EXPECT_EQ(log.count(q("entered dealloc in TestPanel")), 1);
     drainMainQueue();
     EXPECT_TRUE(view.isNull());
 }
@@ -92,7 +91,7 @@ TEST_F(LifecycleTest, DestructionWaitsForTheUnloadSemaphore)
     const auto semaphore = std::make_shared<Semaphore>();
     panel->pdeUnloadSemaphore.set(semaphore);
     auto released = std::async(std::launch::async, [panel = std::move(panel)]() mutable { panel.reset(); });
-    ASSERT_TRUE(waitUntil([this] { return log.count(QStringLiteral("entered dealloc in TestPanel")) == 1; }));
+    ASSERT_TRUE(waitUntil([this] { return log.count(q("entered dealloc in TestPanel")) == 1; }));
     // Not woken yet: nothing after the wait has happened. The signal tells once somebody waits.
     ASSERT_TRUE(waitUntil([&] {
         if (semaphore->signal())
@@ -101,7 +100,7 @@ TEST_F(LifecycleTest, DestructionWaitsForTheUnloadSemaphore)
         return false;
     }));
     released.get();
-    EXPECT_EQ(log.lines().last(), QStringLiteral("continuing dealloc after waiting for unload semaphore"));
+    EXPECT_EQ(log.lines().last(), q("continuing dealloc after waiting for unload semaphore"));
 }
 
 TEST_F(LifecycleTest, DestructionEndsAllNotifications)
@@ -109,11 +108,10 @@ TEST_F(LifecycleTest, DestructionEndsAllNotifications)
     auto panel = makePanel<TestPanel>(host);
     int received = 0;
     NotificationCenter& center = NotificationCenter::defaultCenter();
-    center.addObserver(panel.get(), QStringLiteral("test.note"), nullptr,
-                       [&](const Notification&) { ++received; });
-    center.post(QStringLiteral("test.note"), nullptr);
+    center.addObserver(panel.get(), q("test.note"), nullptr, [&](const Notification&) { ++received; });
+    center.post(q("test.note"), nullptr);
     panel.reset();
-    center.post(QStringLiteral("test.note"), nullptr);
+    center.post(q("test.note"), nullptr);
     EXPECT_EQ(received, 1);
 }
 
@@ -142,12 +140,12 @@ public:
 TEST_F(LifecycleTest, HelpIsLeftToTheDialogOnlyIfTheBookDidNotOpen)
 {
     HelpHandler handler;
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), &handler, "open");
+    QDesktopServices::setUrlHandler(q("file"), &handler, "open");
     const auto panel = makePanel<TestPanel>(host);
     EXPECT_FALSE(panel->shouldShowHelp());
     ASSERT_EQ(handler.opened.size(), 1);
     EXPECT_TRUE(handler.opened.first().path().endsWith(QLatin1String("Resources/TessarinHelp/index.html")));
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QDesktopServices::unsetUrlHandler(q("file"));
     panel->pdeBundle.reset();
     EXPECT_TRUE(panel->shouldShowHelp());
 }

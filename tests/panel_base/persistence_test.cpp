@@ -1,6 +1,5 @@
 #include "tests/panel_base/test_panel.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -24,22 +23,22 @@ TEST_F(PersistenceTest, WithoutPrintSettingsAKeyTakesWhatTheKeyBeforeItLeft)
         panelFor("*ADefault: \"a default\"\n" + ppdOption("B", {"X", "Y"}) + "*CDefault: \"c default\"\n");
     host->settings.reset();
     EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
-    EXPECT_EQ(panel->stored("A"), QStringLiteral("a default"));
-    EXPECT_EQ(panel->stored("B"), QStringLiteral("X"));
-    EXPECT_EQ(panel->stored("C"), QStringLiteral("X"));
+    EXPECT_EQ(panel->stored("A"), q("a default"));
+    EXPECT_EQ(panel->stored("B"), q("X"));
+    EXPECT_EQ(panel->stored("C"), q("X"));
 }
 
 TEST_F(PersistenceTest, WithPrintSettingsTheLookUpClearsTheHolder)
 {
     const auto panel = panelFor(ppdOption("A", {"X", "Y"}) + "*BDefault: \"b default\"\n");
-    host->settings->setValue(QStringLiteral("A"), QStringLiteral("not used"), false);
-    host->settings->setValue(QStringLiteral("C"), 7, false);
+    host->settings->setValue(q("A"), q("not used"), false);
+    host->settings->setValue(q("C"), 7, false);
     panel->restoreValuesAndReturnError(nullptr);
-    EXPECT_EQ(panel->stored("A"), QStringLiteral("X"));
-    EXPECT_EQ(panel->stored("B"), QStringLiteral("b default"));
+    EXPECT_EQ(panel->stored("A"), q("X"));
+    EXPECT_EQ(panel->stored("B"), q("b default"));
     // A number stays a number; a key with no value and no default has no entry.
-    EXPECT_EQ(panel->storedChoice(QStringLiteral("C")).typeId(), QMetaType::Int);
-    EXPECT_FALSE(panel->choices()->contains(QStringLiteral("D")));
+    EXPECT_EQ(panel->storedChoice(q("C")).typeId(), QMetaType::Int);
+    EXPECT_FALSE(panel->choices()->contains(q("D")));
     EXPECT_EQ(panel->refreshes, 0);
 }
 
@@ -54,15 +53,15 @@ TEST_F(PersistenceTest, WithoutAPpdNothingIsRestored)
 TEST_F(PersistenceTest, FollowsTheHostsNoticesForItsOwnKeys)
 {
     const auto panel = panelFor({});
-    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("Other"), QStringLiteral("1"));
-    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("A"), {});
-    panel->PPDOptionKeyValueDidChange_ppdChoice(std::nullopt, QStringLiteral("1"));
+    panel->PPDOptionKeyValueDidChange_ppdChoice(q("Other"), q("1"));
+    panel->PPDOptionKeyValueDidChange_ppdChoice(q("A"), {});
+    panel->PPDOptionKeyValueDidChange_ppdChoice(std::nullopt, q("1"));
     EXPECT_TRUE(panel->choices()->isEmpty());
     EXPECT_EQ(panel->refreshes, 0);
     // A notice loads the view, which restoring does not.
-    panel->layout = QStringLiteral("TessarinSharpness");
-    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("A"), QStringLiteral("1"));
-    EXPECT_EQ(panel->stored("A"), QStringLiteral("1"));
+    panel->layout = q("TessarinSharpness");
+    panel->PPDOptionKeyValueDidChange_ppdChoice(q("A"), q("1"));
+    EXPECT_EQ(panel->stored("A"), q("1"));
     EXPECT_EQ(panel->customCalls, 1);
     EXPECT_TRUE(host->asked.isEmpty());
 }

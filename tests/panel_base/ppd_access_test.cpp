@@ -1,6 +1,5 @@
 #include "tests/panel_base/test_panel.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -12,7 +11,7 @@ protected:
     {
         host = std::make_shared<FakeHost>(ppdHeader() + attributes);
         panel = makePanel<TestPanel>(host);
-        return panel->ppdSavedDataForAttribute_forPPD(QStringLiteral("X"), host->ppdFile());
+        return panel->ppdSavedDataForAttribute_forPPD(q("X"), host->ppdFile());
     }
 
     std::shared_ptr<FakeHost> host;
@@ -38,28 +37,27 @@ TEST_F(PpdAccessTest, CountsThePiecesInHexadecimal)
 TEST_F(PpdAccessTest, FindsDefaultsUnderThePpdsOptionOrUnderTheKeywordWithDefaultAtItsEnd)
 {
     decoded(ppdOption("A", {"first", "second"}) + "*BDefault: \"2.50\"\n*DefaultC: wrong\n");
-    EXPECT_EQ(panel->defaultValueForOptionKey(QStringLiteral("A")), QStringLiteral("first"));
-    EXPECT_EQ(panel->defaultValueForOptionKey(QStringLiteral("B")), QStringLiteral("2.50"));
-    EXPECT_EQ(panel->defaultValueForOptionKey(QStringLiteral("C")), std::nullopt);
+    EXPECT_EQ(panel->defaultValueForOptionKey(q("A")), q("first"));
+    EXPECT_EQ(panel->defaultValueForOptionKey(q("B")), q("2.50"));
+    EXPECT_EQ(panel->defaultValueForOptionKey(q("C")), std::nullopt);
     EXPECT_EQ(panel->defaultValueForOptionKey(std::nullopt), std::nullopt);
-    ppd::mark(host->ppdFile(), QStringLiteral("A"), QStringLiteral("second"));
-    EXPECT_EQ(panel->cupsOptionValueForKey(QStringLiteral("A")), QStringLiteral("second"));
-    EXPECT_EQ(panel->cupsValueForAttribute_forPPD(QStringLiteral("bdefault"), host->ppdFile()),
-              QStringLiteral("2.50"));
-    EXPECT_EQ(panel->cupsValueForAttribute_forPPD(QStringLiteral("BDefault"), nullptr), std::nullopt);
+    ppd::mark(host->ppdFile(), q("A"), q("second"));
+    EXPECT_EQ(panel->cupsOptionValueForKey(q("A")), q("second"));
+    EXPECT_EQ(panel->cupsValueForAttribute_forPPD(q("bdefault"), host->ppdFile()), q("2.50"));
+    EXPECT_EQ(panel->cupsValueForAttribute_forPPD(q("BDefault"), nullptr), std::nullopt);
 }
 
 TEST_F(PpdAccessTest, KeepsTheDeviceUriOnceItIsKnown)
 {
     decoded({});
     const auto printer = std::exchange(host->printer, nullptr);
-    EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("null://"));
+    EXPECT_EQ(panel->printerDeviceURI(), q("null://"));
     EXPECT_EQ(panel->destinationName(), std::nullopt);
     host->printer = printer;
-    EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
-    host->printer = std::make_shared<Printer>(QStringLiteral("Other"), QStringLiteral("ipp://elsewhere"));
-    EXPECT_EQ(panel->printerDeviceURI(), QStringLiteral("halvern://virtual/test"));
-    EXPECT_EQ(panel->destinationName(), QStringLiteral("Other"));
+    EXPECT_EQ(panel->printerDeviceURI(), q("halvern://virtual/test"));
+    host->printer = std::make_shared<Printer>(q("Other"), q("ipp://elsewhere"));
+    EXPECT_EQ(panel->printerDeviceURI(), q("halvern://virtual/test"));
+    EXPECT_EQ(panel->destinationName(), q("Other"));
 }
 
 } // namespace halvern

@@ -1,9 +1,8 @@
 #include "platform/foundation/string_additions.h"
+#include "tests/support/test.h"
 
 #include <QLocale>
 #include <QStringList>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -13,24 +12,22 @@ TEST(StringAdditionsTest, SortsNumbersByValueAndIgnoresCaseInEveryLocale)
 {
     for (const char* locale : {"C", "en_US", "tr_TR", "ja_JP"}) {
         QLocale::setDefault(QLocale(QString::fromLatin1(locale)));
-        QStringList names{QStringLiteral("a10"),
-                          QStringLiteral("A2"),
-                          QStringLiteral("b1"),
-                          QStringLiteral("A"),
-                          QStringLiteral("a010x"),
-                          QStringLiteral("I3"),
-                          QStringLiteral("99999999999999999999"),
-                          QStringLiteral("100000000000000000000")};
+        QStringList names{q("a10"),
+                          q("A2"),
+                          q("b1"),
+                          q("A"),
+                          q("a010x"),
+                          q("I3"),
+                          q("99999999999999999999"),
+                          q("100000000000000000000")};
         std::sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
             return KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(left, right) < 0;
         });
         EXPECT_EQ(names.join(QLatin1Char(' ')),
-                  QStringLiteral("99999999999999999999 100000000000000000000 A A2 a10 a010x b1 I3"))
+                  q("99999999999999999999 100000000000000000000 A A2 a10 a010x b1 I3"))
             << locale;
     }
-    EXPECT_EQ(KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(QStringLiteral("Matt 7"),
-                                                                        QStringLiteral("mATT 07")),
-              0);
+    EXPECT_EQ(KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(q("Matt 7"), q("mATT 07")), 0);
 }
 
 TEST(StringAdditionsTest, KeepsThePrefixBeforeEachDisallowedCharacter)
@@ -44,7 +41,7 @@ TEST(StringAdditionsTest, KeepsThePrefixBeforeEachDisallowedCharacter)
                   QString::fromLatin1(expected))
             << text;
     }
-    const QString none = WMKastrovelExtras::stringWithOnlyCharactersInSet(QStringLiteral("ab"), nullptr);
+    const QString none = WMKastrovelExtras::stringWithOnlyCharactersInSet(q("ab"), nullptr);
     EXPECT_TRUE(none.isEmpty() && !none.isNull());
 }
 

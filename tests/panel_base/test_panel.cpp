@@ -1,4 +1,5 @@
 #include "tests/panel_base/test_panel.h"
+#include "tests/support/test.h"
 
 #include "panel_base/tags.h"
 #include "platform/toolkit/decimal_slider.h"
@@ -8,7 +9,7 @@ namespace halvern {
 std::optional<QString> TestPanel::ppdOptionKeyForTag(int tag)
 {
     if (tag == tags::kToggle + 1)
-        return QStringLiteral("T");
+        return q("T");
     const int option = tags::withoutCompanionBits(tag);
     if (option < 1 || option > kOptions)
         return std::nullopt;
@@ -23,7 +24,7 @@ void TestPanel::updateUI()
 
 QVariant TestPanel::ppdChoiceForTag(int tag)
 {
-    return tag >= 1 && tag <= 3 ? QVariant(QStringLiteral("cell %1").arg(tag)) : QVariant();
+    return tag >= 1 && tag <= 3 ? QVariant(q("cell %1").arg(tag)) : QVariant();
 }
 
 int TestPanel::tagForStringValue(const QVariant& value)

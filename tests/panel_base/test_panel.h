@@ -3,7 +3,7 @@
 #include "panel_base/base_panel.h"
 #include "platform/plugin_api/host_callback.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 namespace halvern {
 

@@ -1,12 +1,9 @@
 #include "platform/foundation/bundle.h"
 #include "platform/toolkit/help_viewer.h"
 #include "platform/toolkit/layout_loader.h"
-#include "tests/support/files.h"
+#include "tests/support/test.h"
 
-#include <QTemporaryDir>
 #include <QWidget>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 
@@ -50,14 +47,14 @@ TEST_F(BundleTest, AnswersItsPropertiesAndKeepsPathsInside)
     write("Resources/page.ui", "x");
     const auto bundle = Bundle::load(folder.path());
     ASSERT_NE(bundle, nullptr);
-    EXPECT_EQ(bundle->bundleIdentifier(), QStringLiteral("com.example"));
-    EXPECT_EQ(bundle->objectForInfoDictionaryKey(QStringLiteral("n")).toInt(), 7);
-    EXPECT_FALSE(bundle->objectForInfoDictionaryKey(QStringLiteral("absent")).isValid());
+    EXPECT_EQ(bundle->bundleIdentifier(), q("com.example"));
+    EXPECT_EQ(bundle->objectForInfoDictionaryKey(q("n")).toInt(), 7);
+    EXPECT_FALSE(bundle->objectForInfoDictionaryKey(q("absent")).isValid());
     EXPECT_EQ(bundle->executablePath(), std::nullopt);
-    EXPECT_TRUE(bundle->pathForResource(QStringLiteral("page.ui")).has_value());
-    EXPECT_FALSE(bundle->pathForResource(QStringLiteral("../Info.plist")).has_value());
-    EXPECT_FALSE(bundle->pathForResource(QStringLiteral("absent.ui")).has_value());
-    EXPECT_NE(gotoHelpPage(*bundle, QStringLiteral("NoBook")), 0);
+    EXPECT_TRUE(bundle->pathForResource(q("page.ui")).has_value());
+    EXPECT_FALSE(bundle->pathForResource(q("../Info.plist")).has_value());
+    EXPECT_FALSE(bundle->pathForResource(q("absent.ui")).has_value());
+    EXPECT_NE(gotoHelpPage(*bundle, q("NoBook")), 0);
 }
 
 TEST_F(BundleTest, AMalformedLayoutIsReportedNotLoaded)
@@ -65,28 +62,26 @@ TEST_F(BundleTest, AMalformedLayoutIsReportedNotLoaded)
     write("Info.plist", plist("<dict/>"));
     const auto bundle = Bundle::load(folder.path());
     QString why;
-    EXPECT_EQ(loadLayout(*bundle, QStringLiteral("absent"), &why), nullptr);
+    EXPECT_EQ(loadLayout(*bundle, q("absent"), &why), nullptr);
     EXPECT_TRUE(why.contains(QLatin1String("absent.ui")));
     for (const char* broken :
          {"", "garbage", "<ui version=\"4.0\"/>", "<ui version=\"4.0\"><widget class=\"QWidget\""}) {
         write("Resources/broken.ui", broken);
-        EXPECT_EQ(loadLayout(*bundle, QStringLiteral("broken")), nullptr) << broken;
+        EXPECT_EQ(loadLayout(*bundle, q("broken")), nullptr) << broken;
     }
 }
 
 TEST_F(BundleTest, ALookUpFallsBackToEnglishThenToTheKey)
 {
-    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
-    const auto german = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE));
-    EXPECT_EQ(german->localizedString(QStringLiteral("Sharpness")), QStringLiteral("Schärfe"));
-    EXPECT_EQ(german->localizedString(QStringLiteral("no such key")), QStringLiteral("no such key"));
-    EXPECT_EQ(german->localizedString(QStringLiteral("no such key"), QStringLiteral("else")),
-              QStringLiteral("else"));
-    QLocale::setDefault(QLocale(QStringLiteral("fi_FI")));
-    const auto finnish = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE));
-    EXPECT_EQ(finnish->localizedString(QStringLiteral("SharpnessRadius")),
-              QStringLiteral("Sharpening radius"));
-    EXPECT_EQ(finnish->localizedString(QStringLiteral("Sharpness")), QStringLiteral("Sharpness"));
+    QLocale::setDefault(QLocale(q("de_DE")));
+    const auto german = Bundle::load(q(HALVERN_TEST_BUNDLE));
+    EXPECT_EQ(german->localizedString(q("Sharpness")), q("Schärfe"));
+    EXPECT_EQ(german->localizedString(q("no such key")), q("no such key"));
+    EXPECT_EQ(german->localizedString(q("no such key"), q("else")), q("else"));
+    QLocale::setDefault(QLocale(q("fi_FI")));
+    const auto finnish = Bundle::load(q(HALVERN_TEST_BUNDLE));
+    EXPECT_EQ(finnish->localizedString(q("SharpnessRadius")), q("Sharpening radius"));
+    EXPECT_EQ(finnish->localizedString(q("Sharpness")), q("Sharpness"));
 }
 
 } // namespace halvern

@@ -4,7 +4,7 @@
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/stepper.h"
 #include "platform/toolkit/view_search.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -13,13 +13,10 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTabWidget>
-#include <QTest>
 #include <QTextDocumentFragment>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
-
-#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -40,7 +37,7 @@ TEST(DecimalSliderTest, KeepsTheProgramsValueExactlyAndTellsOnlyOfTheUsers)
     EXPECT_EQ(moved.count(), 0);
     slider.setRealValue(0.29);
     QTest::keyClick(&slider, Qt::Key_Right);
-    EXPECT_EQ(control::stringValue(&slider), QStringLiteral("0.3"));
+    EXPECT_EQ(control::stringValue(&slider), q("0.3"));
     QWheelEvent wheel(QPointF(5, 5), slider.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&slider, &wheel);
@@ -87,10 +84,9 @@ TEST(StepperTest, StepsWithinItsRange)
 TEST(MatrixTest, SelectsCellsByTagAndTellsOnlyOfTheUsers)
 {
     Matrix matrix;
-    matrix.setCellTitles({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
-    matrix.setCellTags({QStringLiteral("7"), QStringLiteral("8")});
-    EXPECT_EQ(matrix.cellTags(),
-              (QStringList{QStringLiteral("7"), QStringLiteral("8"), QStringLiteral("3")}));
+    matrix.setCellTitles({q("1"), q("2"), q("3")});
+    matrix.setCellTags({q("7"), q("8")});
+    EXPECT_EQ(matrix.cellTags(), (QStringList{q("7"), q("8"), q("3")}));
     const QSignalSpy selected(&matrix, &Matrix::userSelected);
     EXPECT_EQ(matrix.selectedTag(), std::nullopt);
     matrix.cells()[1]->setEnabled(false);
@@ -107,9 +103,9 @@ TEST(MatrixTest, SelectsCellsByTagAndTellsOnlyOfTheUsers)
 TEST(ControlTest, ANumberIsNotTheItemOfTheSameText)
 {
     QComboBox popup;
-    popup.addItem(QStringLiteral("a"), 3000);
-    popup.addItem(QStringLiteral("b"), QStringLiteral("3000"));
-    EXPECT_EQ(control::indexOfItemWithRepresentedObject(&popup, QStringLiteral("3000")), 1);
+    popup.addItem(q("a"), 3000);
+    popup.addItem(q("b"), q("3000"));
+    EXPECT_EQ(control::indexOfItemWithRepresentedObject(&popup, q("3000")), 1);
 }
 
 TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
@@ -121,8 +117,8 @@ TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
     auto* page = new QWidget;
     auto* inner = new QLabel(page);
     inner->setProperty("tag", 5);
-    tabs->addTab(new QWidget, QStringLiteral("one"));
-    tabs->addTab(page, QStringLiteral("two"));
+    tabs->addTab(new QWidget, q("one"));
+    tabs->addTab(page, q("two"));
     auto* outer = new QLabel;
     outer->setProperty("tag", 5);
     column->addWidget(outer);
@@ -139,25 +135,25 @@ TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
 
 TEST(PlainTextTest, ShowsMarkupAsItIsWritten)
 {
-    const QString markup = QStringLiteral("<img src='/dev/zero'> & [*]");
+    const QString markup = q("<img src='/dev/zero'> & [*]");
     QLabel label;
     setPlainText(&label, markup);
     EXPECT_EQ(label.textFormat(), Qt::PlainText);
     EXPECT_EQ(label.text(), markup);
     setPlainToolTip(&label, markup);
     EXPECT_EQ(QTextDocumentFragment::fromHtml(label.toolTip()).toPlainText(), markup);
-    EXPECT_EQ(plainToolTip(QStringLiteral("1 < 2")), QStringLiteral("1 < 2"));
-    EXPECT_EQ(captionText(QStringLiteral("Black & White")), QStringLiteral("Black && White"));
+    EXPECT_EQ(plainToolTip(q("1 < 2")), q("1 < 2"));
+    EXPECT_EQ(captionText(q("Black & White")), q("Black && White"));
 }
 
 TEST(ControlTest, RewritingAFieldKeepsItsCaret)
 {
-    QLineEdit field(QStringLiteral("abcdef"));
+    QLineEdit field(q("abcdef"));
     field.setCursorPosition(2);
-    control::setStringValue(&field, QStringLiteral("abXcdef"));
+    control::setStringValue(&field, q("abXcdef"));
     EXPECT_EQ(field.cursorPosition(), 2);
     field.setCursorPosition(7);
-    control::setStringValue(&field, QStringLiteral("abc"));
+    control::setStringValue(&field, q("abc"));
     EXPECT_EQ(field.cursorPosition(), 3);
 }
 

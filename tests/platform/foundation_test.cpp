@@ -5,14 +5,10 @@
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
-#include "tests/support/observers.h"
-#include "tests/support/text.h"
+#include "tests/support/test.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <QThread>
-
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <clocale>
@@ -47,18 +43,20 @@ TEST(NumbersTest, ReadsTheNumberAtTheStartOfAText)
 
 TEST(NumbersTest, WritesAPointInEveryLocale)
 {
-    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    QLocale::setDefault(QLocale(q("de_DE")));
     const std::string before = std::setlocale(LC_NUMERIC, nullptr);
-    std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
-    EXPECT_EQ(formatDouble("%.2f", 1.237), QStringLiteral("1.24"));
-    EXPECT_EQ(formatDouble("%.2f", 0.125), QStringLiteral("0.12"));
-    EXPECT_EQ(formatDouble("%.2f", 2.675), QStringLiteral("2.67"));
-    EXPECT_EQ(formatDouble("%.1f", 0.25), QStringLiteral("0.2"));
+    const bool isGerman = std::setlocale(LC_NUMERIC, "de_DE.UTF-8") != nullptr;
+    EXPECT_EQ(formatDouble("%.2f", 1.237), q("1.24"));
+    EXPECT_EQ(formatDouble("%.2f", 0.125), q("0.12"));
+    EXPECT_EQ(formatDouble("%.2f", 2.675), q("2.67"));
+    EXPECT_EQ(formatDouble("%.1f", 0.25), q("0.2"));
     EXPECT_EQ(formatDouble("%.2f", std::numeric_limits<double>::max()).size(), 312);
-    EXPECT_EQ(shortestDouble(0.1), QStringLiteral("0.1"));
-    EXPECT_EQ(shortestDouble(-0.0), QStringLiteral("0"));
+    EXPECT_EQ(shortestDouble(0.1), q("0.1"));
+    EXPECT_EQ(shortestDouble(-0.0), q("0"));
     EXPECT_DOUBLE_EQ(leadingDouble(u"2.5"), 2.5);
     std::setlocale(LC_NUMERIC, before.c_str());
+    if (!isGerman)
+        GTEST_SKIP() << "seen in Qt's German only: the C library has none here";
 }
 
 TEST(DisplayTextTest, LeavesNothingThatActsOnAScreenOrATerminal)
@@ -87,34 +85,33 @@ TEST(DisplayTextTest, LeavesNothingThatActsOnAScreenOrATerminal)
 
 TEST(DescriptionTest, KeepsDifferentDictionariesApart)
 {
-    const QString key = QStringLiteral("Name");
-    const QVariantMap plain{{key, QStringLiteral("x")}, {QStringLiteral("Other"), QStringLiteral("y")}};
-    EXPECT_EQ(descriptionOf(plain), QStringLiteral("{Name = x; Other = y;}"));
-    EXPECT_NE(descriptionOf(QVariantMap{{key, QStringLiteral("x; Other = \"y\"\n")}}), descriptionOf(plain));
-    EXPECT_EQ(descriptionOf(QVariantList{1, QStringLiteral("300 dpi"), QVariantMap(), QVariant()}),
-              QStringLiteral("(1, \"300 dpi\", {}, (null))"));
+    const QString key = q("Name");
+    const QVariantMap plain{{key, q("x")}, {q("Other"), q("y")}};
+    EXPECT_EQ(descriptionOf(plain), q("{Name = x; Other = y;}"));
+    EXPECT_NE(descriptionOf(QVariantMap{{key, q("x; Other = \"y\"\n")}}), descriptionOf(plain));
+    EXPECT_EQ(descriptionOf(QVariantList{1, q("300 dpi"), QVariantMap(), QVariant()}),
+              q("(1, \"300 dpi\", {}, (null))"));
 }
 
 TEST(SameValueTest, NumbersAreTheSameWhateverTheirWidthButNeverATexts)
 {
     const auto record = [](const QVariant& resolution) {
-        return QVariantList{QVariantMap{{QStringLiteral("r"), resolution}}};
+        return QVariantList{QVariantMap{{q("r"), resolution}}};
     };
     for (const QVariant& same : {QVariant(qint64(3000)), QVariant(quint64(3000)), QVariant(3000.0)})
         EXPECT_TRUE(isSameValue(record(qint64(3000)), record(same)));
     EXPECT_FALSE(isSameValue(quint64(-1), qint64(-1)));
-    for (const QVariant& other : {QVariant(QStringLiteral("3000")), QVariant(3000.5), QVariant(qint64(3001))})
+    for (const QVariant& other : {QVariant(q("3000")), QVariant(3000.5), QVariant(qint64(3001))})
         EXPECT_FALSE(isSameValue(record(qint64(3000)), record(other)));
-    EXPECT_FALSE(isSameValue(QVariantMap(), QVariantMap{{QStringLiteral("a"), QVariant()}}));
+    EXPECT_FALSE(isSameValue(QVariantMap(), QVariantMap{{q("a"), QVariant()}}));
 }
 
 TEST(DateAdditionsTest, FormatsUnicodePatternsInTheUsersLocale)
 {
     const QDateTime afternoon(QDate(2026, 3, 9), QTime(13, 5));
-    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
-    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(afternoon, QStringLiteral("EEEE")),
-              QStringLiteral("Montag"));
-    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(QDateTime(), QStringLiteral("yyyy")), std::nullopt);
+    QLocale::setDefault(QLocale(q("de_DE")));
+    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(afternoon, q("EEEE")), q("Montag"));
+    EXPECT_EQ(KSTRVL_NSDateAdditions::stringWithUTSFormat(QDateTime(), q("yyyy")), std::nullopt);
 }
 
 TEST(SemaphoreTest, TwoSignalsDoNotBothWakeOneWaiter)
@@ -163,10 +160,9 @@ TEST(NotificationCenterTest, AHandlerMayRemoveTheNextOne)
     int first = 0;
     int second = 0;
     int delivered = 0;
-    center.addObserver(&first, QStringLiteral("N"), nullptr,
-                       [&](const Notification&) { center.removeObserver(&second); });
-    center.addObserver(&second, QStringLiteral("N"), nullptr, [&](const Notification&) { ++delivered; });
-    center.post(QStringLiteral("N"), nullptr);
+    center.addObserver(&first, q("N"), nullptr, [&](const Notification&) { center.removeObserver(&second); });
+    center.addObserver(&second, q("N"), nullptr, [&](const Notification&) { ++delivered; });
+    center.post(q("N"), nullptr);
     EXPECT_EQ(delivered, 0);
 }
 

@@ -2,11 +2,7 @@
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/files.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <array>
 
@@ -15,10 +11,10 @@ namespace halvern {
 TEST(PrintSettingsTest, ALockedKeyTakesLockedValuesOnly)
 {
     PrintSettings settings;
-    settings.setValue(QStringLiteral("Key"), 1, true);
-    EXPECT_EQ(settings.setValue(QStringLiteral("Key"), 2, false), kPrintingKeyLocked);
-    EXPECT_EQ(settings.setValue(QStringLiteral("Key"), 3, true), 0);
-    EXPECT_EQ(settings.values().value(QStringLiteral("Key")), QVariant(3));
+    settings.setValue(q("Key"), 1, true);
+    EXPECT_EQ(settings.setValue(q("Key"), 2, false), kPrintingKeyLocked);
+    EXPECT_EQ(settings.setValue(q("Key"), 3, true), 0);
+    EXPECT_EQ(settings.values().value(q("Key")), QVariant(3));
 }
 
 TEST(PageFormatTest, TheAdjustedSheetIsTheUprightOneTurned)
@@ -40,13 +36,13 @@ TEST(PageFormatTest, TheAdjustedSheetIsTheUprightOneTurned)
 TEST(PpdTest, AMalformedFileDoesNotOpenAndSaysWhere)
 {
     QTemporaryDir folder;
-    const QString broken = writeFile(folder.filePath(QStringLiteral("broken.ppd")),
+    const QString broken = writeFile(folder.filePath(q("broken.ppd")),
                                      ppdHeader() + "*OpenUI *A/A: PickOne\n*OpenUI *B/B: PickOne\n" +
                                          QByteArray(300, 'x') + "\n");
     QString why;
     EXPECT_EQ(ppd::open(broken, &why), nullptr);
     EXPECT_TRUE(why.contains(QLatin1String("line"))) << qPrintable(why);
-    EXPECT_EQ(ppd::open(folder.filePath(QStringLiteral("absent.ppd")), &why), nullptr);
+    EXPECT_EQ(ppd::open(folder.filePath(q("absent.ppd")), &why), nullptr);
 }
 
 } // namespace halvern

@@ -5,13 +5,11 @@
 #include "dialog/window/print_dialog.h"
 #include "plugin/plug_in.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QAbstractButton>
 #include <QKeySequence>
 #include <QLabel>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 
@@ -59,7 +57,7 @@ TEST(PanelKeys, AreNotTheDialogsOwnInAnyLanguage)
         EXPECT_GE(mnemonics(dialog).size(), 7) << language;
         EXPECT_EQ(collisions(mnemonics(dialog)), "") << language;
 
-        const auto* ownPage = dialog.findChild<QWidget*>(QStringLiteral("pagePage"));
+        const auto* ownPage = dialog.findChild<QWidget*>(q("pagePage"));
         const auto host = std::make_shared<FakeHost>();
         auto panels = RZPDEPlugInHalvern().PDEPanelsForType_withHostInfo(
             QLatin1StringView(kPrintDialogExtensionType), host);

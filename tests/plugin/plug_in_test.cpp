@@ -1,13 +1,8 @@
 #include "plugin/plug_in.h"
+#include "tests/support/test.h"
 
 #include "platform/foundation/bundle.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/files.h"
-#include "tests/support/observers.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 
@@ -19,7 +14,7 @@ std::shared_ptr<Bundle> bundleWith(const QTemporaryDir& folder, const char* iden
         "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>CFBundleName</key><string>x</string>";
     if (identifier)
         text += QByteArray("<key>CFBundleIdentifier</key><string>") + identifier + "</string>";
-    writeFile(folder.filePath(QStringLiteral("Info.plist")), text + "</dict></plist>");
+    writeFile(folder.filePath(q("Info.plist")), text + "</dict></plist>");
     return Bundle::load(folder.path());
 }
 
@@ -55,9 +50,8 @@ TEST(PlugInTest, AcceptsItsOwnBundleOnly)
     EXPECT_TRUE(plugIn.initWithBundle(*bundleWith(folder, "com.halvern.tessarin.pde")));
     EXPECT_TRUE(log.lines().isEmpty());
     EXPECT_FALSE(plugIn.initWithBundle(*bundleWith(folder, "com.halvern.Tessarin.pde")));
-    EXPECT_EQ(log.lines().last(),
-              QStringLiteral("ERROR: bad bundle id \"com.halvern.Tessarin.pde\" not equal to "
-                             "\"com.halvern.tessarin.pde\""));
+    EXPECT_EQ(log.lines().last(), q("ERROR: bad bundle id \"com.halvern.Tessarin.pde\" not equal to "
+                                    "\"com.halvern.tessarin.pde\""));
     EXPECT_FALSE(plugIn.initWithBundle(*bundleWith(folder, nullptr)));
 }
 
@@ -67,7 +61,7 @@ TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
     LogCapture log;
     const auto host = std::make_shared<FakeHost>();
     RZPDEPlugInHalvern plugIn;
-    EXPECT_FALSE(plugIn.PDEPanelsForType_withHostInfo(QStringLiteral("another"), host).has_value());
+    EXPECT_FALSE(plugIn.PDEPanelsForType_withHostInfo(q("another"), host).has_value());
     auto first = plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
     auto second = plugIn.PDEPanelsForType_withHostInfo(QLatin1StringView(kPrintDialogExtensionType), host);
     ASSERT_FALSE(first->empty());
@@ -76,7 +70,7 @@ TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
     QStringList kinds;
     for (const auto& panel : *first)
         kinds.append(panel->panelKind()->section(u'.', -1));
-    EXPECT_EQ(kinds.join(u' '), QStringLiteral("features cvp coloradjust sharpness"));
+    EXPECT_EQ(kinds.join(u' '), q("features cvp coloradjust sharpness"));
     first.reset();
     second.reset();
     EXPECT_TRUE(areAllGone(host));
@@ -90,13 +84,13 @@ TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
 TEST(PlugInTest, ThePrintersDescriptionHasTheOptionsOfAllPanels)
 {
     useBuiltBundle();
-    const auto host = std::make_shared<FakeHost>(readFile(QStringLiteral(HALVERN_TESSARIN_PPD)));
+    const auto host = std::make_shared<FakeHost>(readFile(q(HALVERN_TESSARIN_PPD)));
     auto panels = RZPDEPlugInHalvern().PDEPanelsForType_withHostInfo(
         QLatin1StringView(kPrintDialogExtensionType), host);
     int found = 0;
     for (const auto& panel : *panels) {
         for (const QString& key : panel->supportedPPDOptionKeys()) {
-            const bool isFreeText = key == QStringLiteral("CVP1") || key == QStringLiteral("CVP2");
+            const bool isFreeText = key == q("CVP1") || key == q("CVP2");
             EXPECT_EQ(ppd::choices(host->ppdFile(), key).has_value(), !isFreeText) << qPrintable(key);
             ++found;
         }
@@ -114,7 +108,7 @@ TEST(PlugInTest, TheListEndsBeforeTheFirstFailureAndLaterPanelsAreReleased)
     made = 0;
     EXPECT_EQ(makePanels({&aPanel, &noPanel, &aPanel, &aPanel}, host).size(), 1U);
     EXPECT_EQ(made, 4);
-    EXPECT_GE(log.count(QStringLiteral("entered dealloc in RZSharpnessPDEHalvern")), 3);
+    EXPECT_GE(log.count(q("entered dealloc in RZSharpnessPDEHalvern")), 3);
     EXPECT_TRUE(makePanels({&noPanel, &aPanel}, host).empty());
     EXPECT_TRUE(areAllGone(host));
 }

@@ -1,15 +1,8 @@
 #include "tests/printer/print_job.h"
-#include "tests/support/observers.h"
 #include "tests/support/server_test.h"
-
-#include <QCoreApplication>
-#include <QDir>
+#include "tests/support/test.h"
 
 #include <cups/cups.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace halvern {
 
@@ -20,14 +13,14 @@ class FailuresTest : public ServerTest {
 protected:
     int printPages(const char* queue, int pages) const
     {
-        const QString file = documents.filePath(QStringLiteral("%1.pdf").arg(pages));
+        const QString file = documents.filePath(q("%1.pdf").arg(pages));
         return printFile(queue, makePdf(file, pages), "application/pdf");
     }
 
     QStringList files(int job) const
     {
         QStringList names = QDir(server->jobFile(job, QString())).entryList(QDir::Files, QDir::Name);
-        names.removeOne(QStringLiteral("log.txt"));
+        names.removeOne(q("log.txt"));
         return names;
     }
 
@@ -45,8 +38,7 @@ TEST_F(FailuresTest, AnOfflinePrinterKeepsTheJobUntilItIsCancelled)
     const int job = printPages("Offline", 1);
     ASSERT_TRUE(waitUntil([] { return hasReason("Offline", "offline-report"); }));
     EXPECT_EQ(jobState(job), IPP_JSTATE_PROCESSING);
-    EXPECT_TRUE(
-        waitUntil([] { return queueState("Offline").message == QStringLiteral("The printer is offline."); }));
+    EXPECT_TRUE(waitUntil([] { return queueState("Offline").message == q("The printer is offline."); }));
     EXPECT_EQ(cupsCancelJob2(CUPS_HTTP_DEFAULT, "Offline", job, 0), IPP_STATUS_OK);
     EXPECT_TRUE(reaches(job, IPP_JSTATE_CANCELED));
     EXPECT_TRUE(waitUntil([] { return !hasReason("Offline", "offline-report"); }));
@@ -61,12 +53,12 @@ TEST_F(FailuresTest, ASlowPrinterReportsProgressAndStopsWhenCancelled)
 {
     addQueue("Slow", "slow=9999");
     const int job = printPages("Slow", 1);
-    ASSERT_TRUE(waitUntil([] { return queueState("Slow").message == QStringLiteral("Printing page 1."); }));
+    ASSERT_TRUE(waitUntil([] { return queueState("Slow").message == q("Printing page 1."); }));
     EXPECT_EQ(jobState(job), IPP_JSTATE_PROCESSING);
-    ASSERT_TRUE(waitUntil([this, job] { return files(job).contains(QStringLiteral("page-1.png.part")); }));
+    ASSERT_TRUE(waitUntil([this, job] { return files(job).contains(q("page-1.png.part")); }));
     EXPECT_EQ(cupsCancelJob2(CUPS_HTTP_DEFAULT, "Slow", job, 0), IPP_STATUS_OK);
     EXPECT_TRUE(reaches(job, IPP_JSTATE_CANCELED));
-    EXPECT_TRUE(waitUntil([this, job] { return files(job) == QStringList{QStringLiteral("options.txt")}; }));
+    EXPECT_TRUE(waitUntil([this, job] { return files(job) == QStringList{q("options.txt")}; }));
 }
 
 TEST_F(FailuresTest, AStoppedPrinterKeepsTheWholePagesAndPrintsAgainWhenRestarted)
@@ -77,7 +69,7 @@ TEST_F(FailuresTest, AStoppedPrinterKeepsTheWholePagesAndPrintsAgainWhenRestarte
     EXPECT_TRUE(hasReason("Stop", "cover-open"));
     EXPECT_THAT(queueState("Stop").message.toStdString(), testing::StartsWith("The printer has stopped"));
     EXPECT_EQ(jobState(job), IPP_JSTATE_PENDING);
-    EXPECT_EQ(files(job), (QStringList{QStringLiteral("options.txt"), QStringLiteral("page-1.png")}));
+    EXPECT_EQ(files(job), (QStringList{q("options.txt"), q("page-1.png")}));
 
     addQueue("Stop", "reason=cover-open");
     EXPECT_TRUE(reaches(job, IPP_JSTATE_COMPLETED));
@@ -85,28 +77,12 @@ TEST_F(FailuresTest, AStoppedPrinterKeepsTheWholePagesAndPrintsAgainWhenRestarte
     EXPECT_EQ(files(job).size(), 4);
 }
 
-TEST_F(FailuresTest, AFailedJobFollowsTheQueuesErrorPolicy)
-{
-    addQueue("Fail", "fail=1", {QStringLiteral("--error-policy"), QStringLiteral("abort-job")});
-    const int failed = printPages("Fail", 2);
-    EXPECT_TRUE(reaches(failed, IPP_JSTATE_ABORTED)) << jobState(failed);
-    EXPECT_EQ(queueState("Fail").state, IPP_PSTATE_IDLE);
-}
-
-TEST_F(FailuresTest, AParameterThatIsNotKnownIsNamedInThePrintersMessage)
-{
-    addQueue("Typo", "ofline");
-    printPages("Typo", 1);
-    ASSERT_TRUE(waitUntil([] { return queueState("Typo").state == IPP_PSTATE_STOPPED; }));
-    EXPECT_THAT(queueState("Typo").message.toStdString(), testing::HasSubstr("\"ofline\""));
-}
-
 // Living processes with the text in their command line: a back end's first word is its device URI.
 int processesWith(const QByteArray& text)
 {
     int found = 0;
-    for (const QString& pid : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-        QFile file(QStringLiteral("/proc/%1/cmdline").arg(pid));
+    for (const QString& pid : QDir(q("/proc")).entryList(QDir::Dirs)) {
+        QFile file(q("/proc/%1/cmdline").arg(pid));
         found += file.open(QIODevice::ReadOnly) && file.readAll().contains(text) ? 1 : 0;
     }
     return found;
@@ -117,10 +93,9 @@ TEST_F(FailuresTest, StoppingTheServerEndsTheProcessesOfAJobThatIsPrinting)
     PrivateCups own;
     const QByteArray uri =
         "halvern://virtual/" + QByteArray::number(QCoreApplication::applicationPid()) + "?slow=9999";
-    ASSERT_TRUE(own.addQueue(QStringLiteral("Busy"), QString(), QString::fromLatin1(uri)));
+    ASSERT_TRUE(own.addQueue(q("Busy"), QString(), QString::fromLatin1(uri)));
     const int job = printPages("Busy", 1);
-    ASSERT_TRUE(
-        waitUntil([&] { return QFile::exists(own.jobFile(job, QStringLiteral("page-1.png.part"))); }));
+    ASSERT_TRUE(waitUntil([&] { return QFile::exists(own.jobFile(job, q("page-1.png.part"))); }));
     ASSERT_EQ(processesWith(uri), 1);
     EXPECT_TRUE(own.stop()) << own.error().toStdString();
     EXPECT_EQ(processesWith(uri), 0);

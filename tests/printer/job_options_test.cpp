@@ -1,8 +1,6 @@
 #include "printer/fault_plan.h"
 #include "printer/job_options.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <cmath>
 

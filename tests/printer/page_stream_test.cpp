@@ -1,9 +1,7 @@
 #include "printer/page_stream.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <cstdio>
-#include <memory>
 
 namespace halvern {
 

@@ -1,13 +1,10 @@
 #include "platform/printing/cups_ppd.h"
 #include "tests/support/private_cups.h"
+#include "tests/support/test.h"
 
 #include <QRegularExpression>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <map>
-#include <memory>
 #include <span>
 
 namespace halvern {
@@ -49,14 +46,11 @@ std::optional<Marks> resolve(ppd_file_t* ppd, const char* option, const char* ch
 TEST(TessarinPpd, PassesTheConformanceTestWithItsFiltersInPlace)
 {
     PrivateCups server;
-    const ProgramResult test =
-        runProgram(QStringLiteral("cupstestppd"),
-                   {QStringLiteral("-W"), QStringLiteral("none"), QStringLiteral(HALVERN_TEST_PPD)});
+    const ProgramResult test = runProgram(q("cupstestppd"), {q("-W"), q("none"), q(HALVERN_TEST_PPD)});
     EXPECT_EQ(test.status, 0) << test.output.toStdString();
     // Roll pages have names of their own on purpose: a sheet of the same size may have other margins.
     QString warnings = test.output;
-    warnings.remove(
-        QRegularExpression(QStringLiteral("^.*(PASS|Size \"Roll).*\n"), QRegularExpression::MultilineOption));
+    warnings.remove(QRegularExpression(q("^.*(PASS|Size \"Roll).*\n"), QRegularExpression::MultilineOption));
     EXPECT_EQ(warnings.toStdString(), "");
 }
 
@@ -71,45 +65,6 @@ TEST(TessarinPpd, ItsDefaultsAgreeWithEachOther)
         const bool marked = ppdFindMarkedChoice(ppd.get(), option->keyword) != nullptr;
         EXPECT_TRUE(marked || std::string_view(option->keyword) == "PageRegion") << option->keyword;
     }
-}
-
-TEST(TessarinPpd, WhatThePanelsFindBesideTheirOptions)
-{
-    const Ppd ppd = openTessarin();
-    // Free text is no option; what stands in for its default is an attribute.
-    EXPECT_EQ(ppdFindOption(ppd.get(), "CVP1"), nullptr);
-    EXPECT_STREQ(ppdFindAttr(ppd.get(), "CVP1Default", nullptr)->value, "");
-    EXPECT_STREQ(ppdFindAttr(ppd.get(), "HalvernDialogExtension", nullptr)->value, "tessarin.pde");
-    for (const ppd_choice_t& choice : std::span(ppdFindOption(ppd.get(), "Resolution")->choices, 4))
-        EXPECT_EQ(std::string(choice.choice) + "/" + choice.text,
-                  std::to_string(std::atoi(choice.choice)) + "dpi/" +
-                      std::to_string(std::atoi(choice.choice)) + " dpi");
-}
-
-TEST(TessarinPpd, EachPageSizeHasItsPlaceOnThePaper)
-{
-    const Ppd ppd = openTessarin();
-    const ppd_option_t* sizes = ppdFindOption(ppd.get(), "PageSize");
-    int borderless = 0;
-    for (const ppd_choice_t& choice : std::span(sizes->choices, size_t(sizes->num_choices))) {
-        const ppd_size_t* size = ppdPageSize(ppd.get(), choice.choice);
-        ASSERT_NE(size, nullptr) << choice.choice;
-        if (std::string_view(choice.choice) == "Custom")
-            continue;
-        const bool full =
-            size->left == 0 && size->bottom == 0 && size->right == size->width && size->top == size->length;
-        const bool inside =
-            size->left > 0 && size->bottom > 0 && size->right < size->width && size->top < size->length;
-        EXPECT_TRUE(full || inside) << choice.choice;
-        borderless += full ? 1 : 0;
-        int width = 0;
-        int length = 0;
-        if (std::sscanf(choice.choice, "Roll%dx%d", &width, &length) == 2) {
-            EXPECT_NEAR(double(size->width) / 72 * 254, width, 0.05) << choice.choice;
-            EXPECT_NEAR(double(size->length) / 72 * 254, length, 0.05) << choice.choice;
-        }
-    }
-    EXPECT_EQ(borderless, 1);
 }
 
 struct Clash {

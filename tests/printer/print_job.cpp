@@ -1,15 +1,11 @@
 #include "tests/printer/print_job.h"
+#include "tests/support/test.h"
 
-#include "tests/support/observers.h"
-
-#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 
 #include <cups/cups.h>
-
-#include <memory>
 
 namespace halvern {
 

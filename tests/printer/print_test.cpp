@@ -1,15 +1,10 @@
 #include "tests/printer/print_job.h"
-#include "tests/support/observers.h"
 #include "tests/support/server_test.h"
+#include "tests/support/test.h"
 
-#include <QDir>
 #include <QImage>
 
 #include <cups/cups.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace halvern {
 
@@ -36,8 +31,7 @@ protected:
 
     QStringList pages(int job) const
     {
-        return QDir(server->jobFile(job, QString()))
-            .entryList({QStringLiteral("page-*")}, QDir::Files, QDir::Name);
+        return QDir(server->jobFile(job, QString())).entryList({q("page-*")}, QDir::Files, QDir::Name);
     }
 
     QTemporaryDir documents;
@@ -66,8 +60,8 @@ TEST_F(PrintingTest, EachKindOfDocumentBecomesWholeSheetsInTheRastersPixels)
     };
     for (const Case& one : cases) {
         const int job = print(one.file, one.format, one.options);
-        EXPECT_EQ(pages(job), QStringList{QStringLiteral("page-1.png")});
-        const QImage page(server->jobFile(job, QStringLiteral("page-1.png")));
+        EXPECT_EQ(pages(job), QStringList{q("page-1.png")});
+        const QImage page(server->jobFile(job, q("page-1.png")));
         EXPECT_EQ(page.size(), one.size) << one.file.toStdString();
         EXPECT_EQ(page.dotsPerMeterX(), one.dotsPerMetre);
         EXPECT_EQ(page.dotsPerMeterY(), one.dotsPerMetre);
@@ -79,9 +73,9 @@ TEST_F(PrintingTest, ThePrinterLeavesTheMarginsOfThePageWhite)
 {
     const QString file = makePdf(document("full.pdf"), 1);
     const QImage framed(
-        server->jobFile(print(file, "application/pdf", {{"PageSize", "4x6"}}), QStringLiteral("page-1.png")));
-    const QImage full(server->jobFile(print(file, "application/pdf", {{"PageSize", "4x6.Fullbleed"}}),
-                                      QStringLiteral("page-1.png")));
+        server->jobFile(print(file, "application/pdf", {{"PageSize", "4x6"}}), q("page-1.png")));
+    const QImage full(
+        server->jobFile(print(file, "application/pdf", {{"PageSize", "4x6.Fullbleed"}}), q("page-1.png")));
     // 8.5 points at the sides and above, 12 below: 35 and 50 pixels.
     for (const QPoint& inMargin : {QPoint(20, 900), QPoint(600, 20), QPoint(1180, 900), QPoint(600, 1760)}) {
         EXPECT_EQ(framed.pixelColor(inMargin), QColor(Qt::white)) << inMargin.x() << ' ' << inMargin.y();
@@ -117,8 +111,8 @@ TEST_F(PrintingTest, OptionsArriveByteForByteWhetherThePpdListsThemOrNot)
     for (const char* line : {"{", "{a=b c}", "it's \"so\\", "\\", "\\ \\\\ ", "noCVP1", " ", "<&>%41$x;|"}) {
         const auto got = server->receivedOptions(
             print(makePhoto(document("a.jpg")), "image/jpeg", {{"EnableCVP1", "False"}, {"CVP1", line}}));
-        EXPECT_EQ(got.value().at(QStringLiteral("CVP1")).toStdString(), line);
-        EXPECT_EQ(got.value().at(QStringLiteral("EnableCVP1")), QStringLiteral("False"));
+        EXPECT_EQ(got.value().at(q("CVP1")).toStdString(), line);
+        EXPECT_EQ(got.value().at(q("EnableCVP1")), q("False"));
     }
 }
 
@@ -127,8 +121,7 @@ TEST_F(PrintingTest, TwoSidedPagesShareASheetByEitherOption)
     for (const TextOptions& option :
          {TextOptions{{"TwoSided", "ShortEdge"}}, TextOptions{{"Duplex", "DuplexNoTumble"}}}) {
         EXPECT_EQ(pages(print(makePdf(document("three.pdf"), 3), "application/pdf", option)),
-                  (QStringList{QStringLiteral("page-1-back.png"), QStringLiteral("page-1.png"),
-                               QStringLiteral("page-2.png")}));
+                  (QStringList{q("page-1-back.png"), q("page-1.png"), q("page-2.png")}));
     }
 }
 
@@ -136,8 +129,8 @@ TEST_F(PrintingTest, EachCopyIsASheetWithItsBackprint)
 {
     const TextOptions options = {{"copies", "2"}, {"EnableCVP1", "True"}, {"CVP1", "Summer 2026"}};
     const int job = print(makePdf(document("one.pdf"), 1), "application/pdf", options);
-    EXPECT_EQ(pages(job), (QStringList{QStringLiteral("page-1-back.png"), QStringLiteral("page-1.png"),
-                                       QStringLiteral("page-2-back.png"), QStringLiteral("page-2.png")}));
+    EXPECT_EQ(pages(job),
+              (QStringList{q("page-1-back.png"), q("page-1.png"), q("page-2-back.png"), q("page-2.png")}));
 }
 
 } // namespace

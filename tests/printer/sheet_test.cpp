@@ -1,8 +1,7 @@
 #include "printer/back_text.h"
 #include "printer/page_stream.h"
 #include "printer/sheet_layout.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <algorithm>
 

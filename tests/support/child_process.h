@@ -1,20 +1,15 @@
 #pragma once
 
-#include <QByteArray>
-#include <QStringList>
-#include <QTemporaryFile>
-
-#include <sys/types.h>
+#include <QProcess>
 
 #include <map>
 
 namespace halvern {
 
-/// A program of the test's own. QProcess starts its children on memory that they share with this process,
-/// which puts the thread sanitizer out of order for the rest of the run; this class does not.
+/// A program of the test's own.
 class ChildProcess {
 public:
-    ChildProcess() = default;
+    ChildProcess();
     /// Kills the program if it still runs.
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
@@ -33,13 +28,13 @@ public:
     /// Sends it a signal, if it still runs.
     void signal(int number) const;
 
-    QByteArray standardOutput() const;
-    QByteArray standardError() const;
+    QByteArray standardOutput();
+    QByteArray standardError();
 
 private:
-    pid_t pid_ = 0;
-    QTemporaryFile output_;
-    QTemporaryFile error_;
+    QProcess process_;
+    QByteArray output_;
+    QByteArray error_;
 };
 
 struct ProgramResult {

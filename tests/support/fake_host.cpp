@@ -1,4 +1,5 @@
 #include "tests/support/fake_host.h"
+#include "tests/support/text.h"
 
 #include "tests/support/files.h"
 
@@ -39,7 +40,7 @@ ppd::File ppdOf(const QByteArray& text)
 {
     const QTemporaryDir folder;
     QString why;
-    ppd::File file = ppd::open(writeFile(folder.filePath(QStringLiteral("test.ppd")), text), &why);
+    ppd::File file = ppd::open(writeFile(folder.filePath(q("test.ppd")), text), &why);
     if (!file)
         qFatal("the test's PPD does not open: %s", qPrintable(why));
     return file;

@@ -1,4 +1,5 @@
 #include "tests/support/observers.h"
+#include "tests/support/text.h"
 
 #include "platform/foundation/bundle.h"
 #include "platform/toolkit/beep.h"
@@ -81,15 +82,15 @@ void useBuiltBundle(const QString& language)
     static const QTemporaryDir settingsFolder;
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsFolder.path());
     QString why;
-    auto bundle = Bundle::load(QStringLiteral(HALVERN_TEST_BUNDLE), &why);
+    auto bundle = Bundle::load(q(HALVERN_TEST_BUNDLE), &why);
     if (!bundle)
         qFatal("the built bundle does not load: %s", qPrintable(why));
     Bundle::setMainBundle(std::move(bundle));
 }
 
-bool waitUntil(const std::function<bool()>& condition)
+bool waitUntil(const std::function<bool()>& condition, int seconds)
 {
-    return QTest::qWaitFor(condition, 1000 * kPatience);
+    return QTest::qWaitFor(condition, 1000 * seconds);
 }
 
 void drainMainQueue()

@@ -41,7 +41,7 @@ void useBuiltBundle(const QString& language = QStringLiteral("en_US"));
 inline constexpr int kPatience = 300;
 
 /// Runs the event loop until the condition holds; false if patience ends first.
-bool waitUntil(const std::function<bool()>& condition);
+bool waitUntil(const std::function<bool()>& condition, int seconds = kPatience);
 
 /// Delivers everything that is queued for the main thread, deletions included.
 void drainMainQueue();

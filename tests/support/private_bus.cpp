@@ -1,4 +1,5 @@
 #include "tests/support/private_bus.h"
+#include "tests/support/text.h"
 
 #include "tests/support/observers.h"
 
@@ -11,12 +12,12 @@ static const char kBusVariable[] = "DBUS_SYSTEM_BUS_ADDRESS";
 PrivateBus::PrivateBus()
     : addressBefore_(qgetenv(kBusVariable)), hadAddress_(qEnvironmentVariableIsSet(kBusVariable))
 {
-    const QString address = QStringLiteral("unix:path=%1/bus").arg(folder_.path());
-    QFile config(folder_.filePath(QStringLiteral("bus.conf")));
-    const QString text = QStringLiteral("<busconfig><type>system</type><listen>%1</listen>"
-                                        "<auth>EXTERNAL</auth><policy context=\"default\">"
-                                        "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                                        "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>")
+    const QString address = q("unix:path=%1/bus").arg(folder_.path());
+    QFile config(folder_.filePath(q("bus.conf")));
+    const QString text = q("<busconfig><type>system</type><listen>%1</listen>"
+                           "<auth>EXTERNAL</auth><policy context=\"default\">"
+                           "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                           "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>")
                              .arg(address);
     if (!config.open(QIODevice::WriteOnly) || config.write(text.toUtf8()) < 0)
         qFatal("the private bus's configuration could not be written");
@@ -36,11 +37,9 @@ PrivateBus::~PrivateBus()
 
 void PrivateBus::start()
 {
-    QFile::remove(folder_.filePath(QStringLiteral("bus")));
-    daemon_.start(QStringLiteral("dbus-daemon"),
-                  {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                   QStringLiteral("--print-address"),
-                   QStringLiteral("--config-file=") + folder_.filePath(QStringLiteral("bus.conf"))});
+    QFile::remove(folder_.filePath(q("bus")));
+    daemon_.start(q("dbus-daemon"), {q("--nofork"), q("--nopidfile"), q("--print-address"),
+                                     q("--config-file=") + folder_.filePath(q("bus.conf"))});
     // It prints its address once it listens.
     if (!waitUntil([this] { return !daemon_.standardOutput().isEmpty(); }))
         qFatal("dbus-daemon does not start: %s", daemon_.standardError().constData());

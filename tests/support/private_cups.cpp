@@ -1,4 +1,5 @@
 #include "tests/support/private_cups.h"
+#include "tests/support/text.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -23,19 +24,19 @@ void setEnvironment(const QByteArray& name, const std::optional<QByteArray>& val
 
 ProgramResult runPrivateCups(const QStringList& arguments)
 {
-    return runProgram(QStringLiteral(HALVERN_TEST_SCRIPTS "/private-cups"), arguments,
+    return runProgram(q(HALVERN_TEST_SCRIPTS "/private-cups"), arguments,
                       {{"HALVERN_PRINTER_BIN", HALVERN_TEST_PRINTER_BIN}});
 }
 
 std::map<QByteArray, QByteArray> parseAssignments(const QString& text)
 {
-    static const QRegularExpression kLine(QStringLiteral("^export ([A-Z_]+)='(.*)'$"),
+    static const QRegularExpression kLine(q("^export ([A-Z_]+)='(.*)'$"),
                                           QRegularExpression::MultilineOption);
     std::map<QByteArray, QByteArray> found;
     for (auto lines = kLine.globalMatch(text); lines.hasNext();) {
         const auto line = lines.next();
         QString value = line.captured(2);
-        value.replace(QStringLiteral("'\\''"), QStringLiteral("'"));
+        value.replace(q("'\\''"), q("'"));
         found[line.captured(1).toLatin1()] = value.toUtf8();
     }
     return found;
@@ -58,7 +59,7 @@ QStringList jobAttribute(int job, const char* name)
 
 PrivateCups::PrivateCups()
 {
-    const ProgramResult result = runPrivateCups({QStringLiteral("start"), dir()});
+    const ProgramResult result = runPrivateCups({q("start"), dir()});
     if (result.status != 0)
         qFatal("the private print server does not start: %s", qPrintable(result.error));
     for (const auto& [name, value] : parseAssignments(result.output)) {
@@ -82,7 +83,7 @@ bool PrivateCups::stop()
 {
     if (!running_)
         return true;
-    const ProgramResult result = runPrivateCups({QStringLiteral("stop"), dir()});
+    const ProgramResult result = runPrivateCups({q("stop"), dir()});
     running_ = false;
     error_ = result.error;
     return result.status == 0;
@@ -91,11 +92,11 @@ bool PrivateCups::stop()
 bool PrivateCups::addQueue(const QString& name, const QString& ppd, const QString& uri,
                            const QStringList& more)
 {
-    QStringList arguments = {QStringLiteral("add-queue"), dir(), name};
+    QStringList arguments = {q("add-queue"), dir(), name};
     if (!ppd.isEmpty())
-        arguments << QStringLiteral("--ppd") << ppd;
+        arguments << q("--ppd") << ppd;
     if (!uri.isEmpty())
-        arguments << QStringLiteral("--uri") << uri;
+        arguments << q("--uri") << uri;
     const ProgramResult result = runPrivateCups(arguments + more);
     error_ = result.error;
     return result.status == 0;
@@ -103,7 +104,7 @@ bool PrivateCups::addQueue(const QString& name, const QString& ppd, const QStrin
 
 pid_t PrivateCups::process() const
 {
-    QFile file(dir() + QStringLiteral("/server/cupsd.pid"));
+    QFile file(dir() + q("/server/cupsd.pid"));
     return file.open(QIODevice::ReadOnly) ? pid_t(file.readAll().split(' ').first().toInt()) : 0;
 }
 
@@ -114,21 +115,21 @@ QString PrivateCups::dir() const
 
 QString PrivateCups::jobsDir() const
 {
-    return dir() + QStringLiteral("/jobs");
+    return dir() + q("/jobs");
 }
 
 QString PrivateCups::jobFile(int job, const QString& file) const
 {
-    return QStringLiteral("%1/%2/%3").arg(jobsDir()).arg(job).arg(file);
+    return q("%1/%2/%3").arg(jobsDir()).arg(job).arg(file);
 }
 
 std::optional<std::map<QString, QString>> PrivateCups::receivedOptions(int job) const
 {
-    QFile file(jobFile(job, QStringLiteral("options.txt")));
+    QFile file(jobFile(job, q("options.txt")));
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QString text = QString::fromUtf8(file.readAll());
-    text.replace(QStringLiteral("\n\t"), QStringLiteral("\v"));
+    text.replace(q("\n\t"), q("\v"));
     std::map<QString, QString> options;
     for (const QString& line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         const qsizetype equals = line.indexOf(QLatin1Char('='));

@@ -1,4 +1,5 @@
 #include "tests/support/real_dialog.h"
+#include "tests/support/text.h"
 
 #include "tests/support/observers.h"
 
@@ -81,7 +82,7 @@ void RealDialog::type(int tag, const QString& text)
 
 int RealDialog::print()
 {
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("printButton")), Qt::LeftButton);
+    QTest::mouseClick(dialog.findChild<QPushButton*>(q("printButton")), Qt::LeftButton);
     return jobWhenOver();
 }
 
@@ -113,7 +114,7 @@ QString makeTestPhoto(const QString& path)
 
 qsizetype sheetsOf(const PrivateCups& server, int job)
 {
-    return QDir(server.jobFile(job, QString())).entryList({QStringLiteral("page-*.png")}, QDir::Files).size();
+    return QDir(server.jobFile(job, QString())).entryList({q("page-*.png")}, QDir::Files).size();
 }
 
 } // namespace halvern

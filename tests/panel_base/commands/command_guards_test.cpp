@@ -1,5 +1,6 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
+#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -14,7 +15,7 @@ TEST_F(CommandGuardsTest, WhileAJobIsWatchedNoOtherIsSent)
     const int job = onlyJob("Busy");
     panel->sendPrinterCommands(kReportAndConfigure);
     EXPECT_EQ(onlyJob("Busy"), job);
-    jobs::Server().cancelAndPurge(QStringLiteral("Busy"), job);
+    jobs::Server().cancelAndPurge(q("Busy"), job);
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
 }
@@ -36,22 +37,22 @@ TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
     const int processing = sendForeignJob("Other");
     ASSERT_TRUE(reaches("Other", processing, jobs::kProcessing));
     const auto panel = makeCommandPanel("Other");
-    EXPECT_EQ(panel->activeJobIDForDesinationName(QStringLiteral("Other")), processing);
+    EXPECT_EQ(panel->activeJobIDForDesinationName(q("Other")), processing);
     panel->sendPrinterCommands(kReportAndConfigure);
     EXPECT_FALSE(panel->isWatching());
     EXPECT_EQ(active("Other").size(), 1);
 
-    addQueue("Waiting", "", {QStringLiteral("--disabled")});
+    addQueue("Waiting", "", {q("--disabled")});
     const int pending = sendForeignJob("Waiting");
     ASSERT_TRUE(reaches("Waiting", pending, jobs::kPending));
     const auto second = makeCommandPanel("Waiting");
-    EXPECT_EQ(second->activeJobIDForDesinationName(QStringLiteral("Waiting")), 0);
+    EXPECT_EQ(second->activeJobIDForDesinationName(q("Waiting")), 0);
     second->sendPrinterCommands(kReportAndConfigure);
     EXPECT_TRUE(second->isWatching());
     EXPECT_EQ(active("Waiting").size(), 2);
     second->shouldHide();
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
-    EXPECT_TRUE(jobs::Server().cancelAndPurge(QStringLiteral("Other"), processing));
+    EXPECT_TRUE(jobs::Server().cancelAndPurge(q("Other"), processing));
     EXPECT_EQ(panel->aborts + panel->updates + second->aborts + second->updates, 0);
 }
 
@@ -73,8 +74,9 @@ TEST_F(CommandGuardsTest, ACommandFromWithinAHookIsRefusedAndOneAfterItIsSent)
 
 TEST_F(CommandGuardsTest, APrinterWithoutANameEndsInOneAbortAndTouchesNoOtherQueue)
 {
-    addQueue("Bystander", "", {QStringLiteral("--disabled"), QStringLiteral("--default")});
+    addQueue("Bystander", "slow=9999", {q("--default")});
     const int job = sendForeignJob("Bystander");
+    ASSERT_TRUE(reaches("Bystander", job, jobs::kProcessing));
     const auto panel = makeCommandPanel("");
     EXPECT_EQ(panel->activeJobIDForDesinationName(QString()), 0);
     EXPECT_EQ(panel->printerStateReasons(), std::nullopt);
@@ -82,6 +84,7 @@ TEST_F(CommandGuardsTest, APrinterWithoutANameEndsInOneAbortAndTouchesNoOtherQue
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
     EXPECT_EQ(onlyJob("Bystander"), job);
+    EXPECT_TRUE(jobs::Server().cancelAndPurge(q("Bystander"), job));
 }
 
 } // namespace halvern

@@ -1,8 +1,6 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
-#include "tests/support/files.h"
-
-#include <QDir>
+#include "tests/support/test.h"
 
 #include <csignal>
 
@@ -15,7 +13,7 @@ namespace {
 
 QStringList threadsOfThisProcess()
 {
-    return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return QDir(q("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
 }
 
 } // namespace
@@ -37,7 +35,7 @@ TEST_F(CommandOutcomesTest, ACompletedJobBringsItsExactBytesAndOneUpdate)
 {
     addQueue("Good");
     const auto panel = makeCommandPanel("Good");
-    panel->sendPrinterCommands({QStringLiteral("ReportStatus"), QStringLiteral("Größe")});
+    panel->sendPrinterCommands({q("ReportStatus"), q("Größe")});
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->updates, 1);
     EXPECT_EQ(panel->aborts, 0);
@@ -45,13 +43,11 @@ TEST_F(CommandOutcomesTest, ACompletedJobBringsItsExactBytesAndOneUpdate)
     const jobs::JobList done = list("Good", jobs::Which::completed);
     ASSERT_EQ(done.size(), 1);
     const int job = done.first().id;
-    EXPECT_EQ(readFile(server->jobFile(job, QStringLiteral("command"))),
-              "#CUPS-COMMAND\nReportStatus\nGr\xc3\xb6\xc3\x9f"
-              "e\n");
-    EXPECT_EQ(jobAttribute(job, "job-name").value(0), QStringLiteral("Updating status ..."));
-    EXPECT_EQ(jobAttribute(job, "document-name-supplied").value(0), QStringLiteral("CommandJob"));
-    EXPECT_EQ(jobAttribute(job, "document-format-supplied").value(0),
-              QStringLiteral("application/vnd.cups-command"));
+    EXPECT_EQ(readFile(server->jobFile(job, q("command"))), "#CUPS-COMMAND\nReportStatus\nGr\xc3\xb6\xc3\x9f"
+                                                            "e\n");
+    EXPECT_EQ(jobAttribute(job, "job-name").value(0), q("Updating status ..."));
+    EXPECT_EQ(jobAttribute(job, "document-name-supplied").value(0), q("CommandJob"));
+    EXPECT_EQ(jobAttribute(job, "document-format-supplied").value(0), q("application/vnd.cups-command"));
 }
 
 TEST_F(CommandOutcomesTest, EveryOtherEndIsOneAbort)
@@ -59,7 +55,7 @@ TEST_F(CommandOutcomesTest, EveryOtherEndIsOneAbort)
     addQueue("Refusing", "reject");
     addQueue("Stopped", "filter-fails");
     addQueue("Held", "hold");
-    addQueue("Rejecting", "", {QStringLiteral("--rejecting")});
+    addQueue("Rejecting", "", {q("--rejecting")});
     for (const char* queue : {"Refusing", "Stopped", "Held", "Rejecting", "Missing"}) {
         const auto panel = outcomeOn(queue);
         EXPECT_EQ(panel->aborts, 1) << queue;
@@ -69,7 +65,7 @@ TEST_F(CommandOutcomesTest, EveryOtherEndIsOneAbort)
 
 TEST_F(CommandOutcomesTest, AnInterruptedSleepEndsTheWatchOfAPendingJob)
 {
-    addQueue("Interrupted", "", {QStringLiteral("--disabled")});
+    addQueue("Interrupted", "", {q("--disabled")});
     struct sigaction quiet = {};
     struct sigaction before = {};
     quiet.sa_handler = [](int) {};
@@ -88,21 +84,6 @@ TEST_F(CommandOutcomesTest, AnInterruptedSleepEndsTheWatchOfAPendingJob)
     EXPECT_EQ(stateOf("Interrupted", job), jobs::kPending);
     EXPECT_TRUE(waitForWorkQueues(1000 * kPatience));
     sigaction(SIGUSR1, &before, nullptr);
-}
-
-TEST_F(CommandOutcomesTest, AServerThatDiesDuringTheWatchIsAnAbort)
-{
-    PrivateCups mortal;
-    ASSERT_TRUE(mortal.addQueue(QStringLiteral("Mortal"), QString(),
-                                QStringLiteral("halvern://virtual/x?slow=9999")));
-    const auto panel = makeCommandPanel("Mortal");
-    panel->sendPrinterCommands(kReportAndConfigure);
-    ASSERT_NE(onlyJob("Mortal"), 0);
-    ASSERT_TRUE(mortal.stop());
-    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
-    EXPECT_EQ(panel->aborts, 1);
-    EXPECT_EQ(panel->updates, 0);
-    EXPECT_FALSE(panel->isWatching());
 }
 
 } // namespace halvern

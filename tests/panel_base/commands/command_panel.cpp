@@ -1,13 +1,13 @@
 #include "tests/panel_base/commands/command_panel.h"
+#include "tests/support/test.h"
 
 #include "platform/foundation/threads/work_queue.h"
 
-#include <QCoreApplication>
 #include <QThread>
 
 namespace halvern {
 
-const QStringList kReportAndConfigure{QStringLiteral("ReportStatus"), QStringLiteral("AutoConfigure")};
+const QStringList kReportAndConfigure{q("ReportStatus"), q("AutoConfigure")};
 
 void CommandPanel::ppdDidUpdate()
 {
@@ -39,8 +39,7 @@ std::unique_ptr<char[]> CommandPanel::copyForWatch(const std::optional<QString>&
 std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue)
 {
     auto host = std::make_shared<FakeHost>();
-    host->printer =
-        std::make_shared<Printer>(QString::fromLatin1(queue), QStringLiteral("halvern://virtual/test"));
+    host->printer = std::make_shared<Printer>(QString::fromLatin1(queue), q("halvern://virtual/test"));
     return makePanel<CommandPanel>(host);
 }
 
@@ -54,9 +53,8 @@ int CommandTest::sendForeignJob(const char* queue)
 {
     jobs::Server connection;
     const QString name = QLatin1StringView(queue);
-    const int job = connection.createJob(name, QStringLiteral("somebody's"));
-    EXPECT_TRUE(
-        connection.sendDocument(name, job, QStringLiteral("d"), jobs::kCommandFormat, "#CUPS-COMMAND\n"));
+    const int job = connection.createJob(name, q("somebody's"));
+    EXPECT_TRUE(connection.sendDocument(name, job, q("d"), jobs::kCommandFormat, "#CUPS-COMMAND\n"));
     return job;
 }
 

@@ -3,8 +3,8 @@
 #include "panel_base/base_panel.h"
 #include "platform/printing/jobs.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
 #include "tests/support/server_test.h"
+#include "tests/support/test.h"
 
 #include <atomic>
 

@@ -1,6 +1,7 @@
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
+#include "tests/support/test.h"
 
 #include <thread>
 
@@ -8,7 +9,7 @@ namespace halvern {
 
 namespace {
 
-const QString kBailOut = QStringLiteral("bailing out of wait loop bc pde plugin unloaded.");
+const QString kBailOut = q("bailing out of wait loop bc pde plugin unloaded.");
 
 } // namespace
 
@@ -17,7 +18,7 @@ protected:
     /// A job that never starts, watched by the panel.
     std::shared_ptr<CommandPanel> panelWithPendingJob(const char* queue)
     {
-        addQueue(queue, "", {QStringLiteral("--disabled")});
+        addQueue(queue, "", {q("--disabled")});
         auto panel = makeCommandPanel(queue);
         panel->sendPrinterCommands(kReportAndConfigure);
         EXPECT_NE(onlyJob(queue), 0);
@@ -50,20 +51,20 @@ TEST_F(CommandUnloadTest, TheDialogLetsGoAtOnceAndThePanelGoesWithItsWatch)
     const std::weak_ptr<CommandPanel> weak = panel;
     panel->printWindowWillClose(false);
     panel.reset();
-    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in CommandPanel")), 0);
+    EXPECT_EQ(log.count(q("entered dealloc in CommandPanel")), 0);
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_TRUE(weak.expired());
     EXPECT_TRUE(active("LetGo").isEmpty());
-    EXPECT_LT(position(kBailOut), position(QStringLiteral("entered dealloc in CommandPanel")));
-    EXPECT_EQ(log.count(QStringLiteral("continuing dealloc after waiting for unload semaphore")), 0);
+    EXPECT_LT(position(kBailOut), position(q("entered dealloc in CommandPanel")));
+    EXPECT_EQ(log.count(q("continuing dealloc after waiting for unload semaphore")), 0);
 }
 
 TEST_F(CommandUnloadTest, ADestructionThatFindsTheWatchWaitsForItAndReleasesTheSemaphore)
 {
     // A panel whose destruction runs although the watch still holds it.
-    addQueue("Waits", "", {QStringLiteral("--disabled")});
+    addQueue("Waits", "", {q("--disabled")});
     auto host = std::make_shared<FakeHost>();
-    host->printer = std::make_shared<Printer>(QStringLiteral("Waits"), QString());
+    host->printer = std::make_shared<Printer>(q("Waits"), QString());
     const auto panel = std::make_shared<CommandPanel>();
     ASSERT_TRUE(panel->initWithCallback(host));
     panel->sendPrinterCommands(kReportAndConfigure);
@@ -71,9 +72,8 @@ TEST_F(CommandUnloadTest, ADestructionThatFindsTheWatchWaitsForItAndReleasesTheS
     const std::weak_ptr<Semaphore> semaphore = panel->pdeUnloadSemaphore.get();
     std::thread([&] { panel->dealloc(); }).join();
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
-    EXPECT_EQ(log.lines(),
-              (QStringList{QStringLiteral("entered dealloc in CommandPanel"), kBailOut,
-                           QStringLiteral("continuing dealloc after waiting for unload semaphore")}));
+    EXPECT_EQ(log.lines(), (QStringList{q("entered dealloc in CommandPanel"), kBailOut,
+                                        q("continuing dealloc after waiting for unload semaphore")}));
     EXPECT_TRUE(semaphore.expired());
     EXPECT_TRUE(active("Waits").isEmpty());
     EXPECT_EQ(panel->aborts + panel->updates, 0);
@@ -93,7 +93,7 @@ TEST_F(CommandUnloadTest, TheUnloadOfAWatchWithoutAJobCancelsNobodyElses)
     }
     EXPECT_EQ(log.count(kBailOut), 2);
     EXPECT_EQ(stateOf("Neighbour", foreign), jobs::kProcessing);
-    EXPECT_TRUE(jobs::Server().cancelAndPurge(QStringLiteral("Neighbour"), foreign));
+    EXPECT_TRUE(jobs::Server().cancelAndPurge(q("Neighbour"), foreign));
     EXPECT_TRUE(reaches("Neighbour", foreign, jobs::kCanceled));
 }
 

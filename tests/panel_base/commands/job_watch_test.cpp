@@ -1,6 +1,5 @@
 #include "panel_base/job_watch.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
 

@@ -2,6 +2,7 @@
 #include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
+#include "tests/support/test.h"
 
 #include <cups/cups.h>
 
@@ -47,7 +48,7 @@ TEST_F(NoServerTest, TheCommandFileHasALineFeedAfterEachLine)
 {
     EXPECT_EQ(commandFile({}).toUtf8(), "#CUPS-COMMAND\n\n");
     // A command is text, not a pattern.
-    EXPECT_EQ(commandFile({QStringLiteral("é %1 %2")}).toUtf8(), "#CUPS-COMMAND\n\xc3\xa9 %1 %2\n");
+    EXPECT_EQ(commandFile({q("é %1 %2")}).toUtf8(), "#CUPS-COMMAND\n\xc3\xa9 %1 %2\n");
 }
 
 TEST_F(NoServerTest, AJobThatCannotBeMadeEndsInOneAbort)
@@ -64,10 +65,10 @@ TEST_F(NoServerTest, AJobThatCannotBeMadeEndsInOneAbort)
 TEST_F(NoServerTest, QueriesAnswerThatThereIsNothing)
 {
     const auto panel = makeCommandPanel("Photo");
-    EXPECT_EQ(panel->activeJobIDForDesinationName(QStringLiteral("Photo")), 0);
+    EXPECT_EQ(panel->activeJobIDForDesinationName(q("Photo")), 0);
     EXPECT_EQ(panel->printerStateReasons(), std::nullopt);
     EXPECT_EQ(panel->statesForDestinationName(std::nullopt), std::nullopt);
-    EXPECT_NE(Printer(QStringLiteral("Photo"), QString()).sendCommand(QString(), QString()), 0);
+    EXPECT_NE(Printer(q("Photo"), QString()).sendCommand(QString(), QString()), 0);
 }
 
 TEST_F(NoServerTest, WithoutMemoryForTheCopiesNothingIsWatchedAndNobodyCalled)
@@ -76,7 +77,7 @@ TEST_F(NoServerTest, WithoutMemoryForTheCopiesNothingIsWatchedAndNobodyCalled)
     for (const int copies : {0, 1}) {
         panel->copiesLeft = copies;
         panel->waitForJobCompletion(1);
-        EXPECT_EQ(log.lines(), QStringList{QStringLiteral("memory allocation error")});
+        EXPECT_EQ(log.lines(), QStringList{q("memory allocation error")});
         EXPECT_FALSE(panel->isWatching());
         log.clear();
     }
@@ -87,13 +88,12 @@ TEST_F(NoServerTest, WithoutMemoryForTheCopiesNothingIsWatchedAndNobodyCalled)
 TEST_F(NoServerTest, TheOtherRouteLeavesTheCommandFileToThePrinter)
 {
     auto host = std::make_shared<FakeHost>();
-    const auto printer = std::make_shared<RecordingPrinter>(QStringLiteral("Photo"), QString());
+    const auto printer = std::make_shared<RecordingPrinter>(q("Photo"), QString());
     host->printer = printer;
     const auto panel = makePanel<CommandPanel>(host);
     panel->shouldHide();
     panel->dsendPrinterCommands(kReportAndConfigure);
-    EXPECT_EQ(printer->sent,
-              QStringList{QStringLiteral("Status Check...|#CUPS-COMMAND\nReportStatus\nAutoConfigure\n")});
+    EXPECT_EQ(printer->sent, QStringList{q("Status Check...|#CUPS-COMMAND\nReportStatus\nAutoConfigure\n")});
     host->printer.reset();
     panel->dsendPrinterCommands(kReportAndConfigure);
     EXPECT_FALSE(panel->isWatching());

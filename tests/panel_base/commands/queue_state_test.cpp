@@ -1,5 +1,6 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
+#include "tests/support/test.h"
 
 #include <csignal>
 
@@ -11,16 +12,16 @@ TEST_F(QueueStateTest, AJobsStateIsWaitedForOrToldAtOnce)
 {
     addQueue("State", "slow=9999");
     const auto panel = makeCommandPanel("State");
-    const QString queue = QStringLiteral("State");
+    const QString queue = q("State");
     EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, 999, false), jobs::kCompleted);
-    EXPECT_EQ(log.lines(), QStringList{QStringLiteral("Cups Job 999 is completed")});
+    EXPECT_EQ(log.lines(), QStringList{q("Cups Job 999 is completed")});
     const int job = sendForeignJob("State");
     ASSERT_TRUE(reaches("State", job, jobs::kProcessing));
     EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, job, false),
               jobs::kProcessing);
     WorkQueue().async([&] {
         // Once it has been seen running, so that the wait is one.
-        const QString running = QStringLiteral("Cups Job %1 is processing").arg(job);
+        const QString running = q("Cups Job %1 is processing").arg(job);
         while (log.count(running) < 2)
             std::this_thread::yield();
         jobs::Server().cancelAndPurge(queue, job);
@@ -33,13 +34,13 @@ TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
     addQueue("Reasons", "stop&reason=cover-open");
     addQueue("Idle");
     const auto panel = makeCommandPanel("Reasons");
-    EXPECT_EQ(makeCommandPanel("Idle")->printerStateReasons(), QStringList{QStringLiteral("none")});
+    EXPECT_EQ(makeCommandPanel("Idle")->printerStateReasons(), QStringList{q("none")});
     sendForeignJob("Reasons");
     ASSERT_TRUE(waitUntil([&] { return panel->printerStateReasons().value_or(QStringList()).size() == 2; }));
-    EXPECT_EQ(panel->printerStateReasons(), panel->statesForDestinationName(QStringLiteral("Reasons")));
-    EXPECT_TRUE(panel->printerStateReasons()->contains(QStringLiteral("cover-open")));
-    EXPECT_TRUE(panel->printerStateReasons()->contains(QStringLiteral("paused")));
-    EXPECT_EQ(panel->statesForDestinationName(QStringLiteral("Unknown")), std::nullopt);
+    EXPECT_EQ(panel->printerStateReasons(), panel->statesForDestinationName(q("Reasons")));
+    EXPECT_TRUE(panel->printerStateReasons()->contains(q("cover-open")));
+    EXPECT_TRUE(panel->printerStateReasons()->contains(q("paused")));
+    EXPECT_EQ(panel->statesForDestinationName(q("Unknown")), std::nullopt);
 }
 
 TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsTheCalls)
@@ -49,14 +50,13 @@ TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsTheCalls)
     addQueue("Frozen", "slow=9999");
     const int job = sendForeignJob("Frozen");
     jobs::Server impatient(1);
-    ASSERT_TRUE(
-        waitUntil([&] { return impatient.jobs(QStringLiteral("Frozen"), jobs::Which::active).size() == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return impatient.jobs(q("Frozen"), jobs::Which::active).size() == 1; }));
     ASSERT_EQ(kill(process, SIGSTOP), 0);
-    EXPECT_TRUE(impatient.jobs(QStringLiteral("Frozen"), jobs::Which::active).isEmpty());
-    EXPECT_LE(jobs::Server(1).createJob(QStringLiteral("Frozen"), QStringLiteral("t")), 0);
+    EXPECT_TRUE(impatient.jobs(q("Frozen"), jobs::Which::active).isEmpty());
+    EXPECT_LE(jobs::Server(1).createJob(q("Frozen"), q("t")), 0);
     ASSERT_EQ(kill(process, SIGCONT), 0);
     // The same connection works again.
-    EXPECT_TRUE(waitUntil([&] { return impatient.cancelAndPurge(QStringLiteral("Frozen"), job); }));
+    EXPECT_TRUE(waitUntil([&] { return impatient.cancelAndPurge(q("Frozen"), job); }));
 }
 
 } // namespace halvern

@@ -1,4 +1,5 @@
 #include "tests/panels/backprint/backprint_window.h"
+#include "tests/support/test.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -20,15 +21,15 @@ using BackprintEditingTest = BackprintWindow;
 
 TEST_F(BackprintEditingTest, TypingStoresTheTypedTextAndEndingStoresTheSafeFormAndAsksTheHost)
 {
-    type(1, QStringLiteral("Smith's, Inc."));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("Smith's, Inc."));
+    type(1, q("Smith's, Inc."));
+    EXPECT_EQ(stored("CVP1"), q("Smith's, Inc."));
     EXPECT_TRUE(host->asked.isEmpty());
     endEditing(1);
     const QString safe = QStringLiteral(u"Smith\u00e6s\u2264 Inc.");
     EXPECT_EQ(stored("CVP1"), safe);
     ASSERT_EQ(host->asked.size(), 1);
-    EXPECT_EQ(host->asked.first(), qMakePair(QStringLiteral("CVP1"), QVariant(safe)));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("Smith's, Inc."));
+    EXPECT_EQ(host->asked.first(), qMakePair(q("CVP1"), QVariant(safe)));
+    EXPECT_EQ(line(1)->text(), q("Smith's, Inc."));
     // Leaving the line after Return ends nothing again.
     line(2)->setFocus();
     EXPECT_EQ(host->asked.size(), 1);
@@ -42,9 +43,9 @@ TEST_F(BackprintEditingTest, ARefusedCharacterGoesAtOnceWithABeep)
     EXPECT_EQ(beeps.count, 2);
     EXPECT_EQ(stored("CVP1"), QStringLiteral(u"abcd\u00a9"));
     line(1)->setCursorPosition(2);
-    QTest::keyClicks(line(1), QStringLiteral("~"));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("ab"));
+    QTest::keyClicks(line(1), q("~"));
+    EXPECT_EQ(line(1)->text(), q("ab"));
+    EXPECT_EQ(stored("CVP1"), q("ab"));
     EXPECT_EQ(beeps.count, 3);
 }
 
@@ -54,8 +55,8 @@ TEST_F(BackprintEditingTest, ALongPasteIsCutWithOneBeepAndTheCaretStays)
     EXPECT_EQ(line(1)->text(), QString(120, u'x'));
     EXPECT_EQ(beeps.count, 1);
     line(1)->setCursorPosition(3);
-    QTest::keyClicks(line(1), QStringLiteral("ab"));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("xxxab") + QString(115, u'x'));
+    QTest::keyClicks(line(1), q("ab"));
+    EXPECT_EQ(line(1)->text(), q("xxxab") + QString(115, u'x'));
     EXPECT_EQ(line(1)->cursorPosition(), 5);
     EXPECT_EQ(beeps.count, 3);
 }
@@ -65,70 +66,68 @@ TEST_F(BackprintEditingTest, ABackslashAtTheEndGetsASpaceThatTheNextKeystrokeTak
     paste(1, QString(119, u'x') + u'\\');
     endEditing(1);
     EXPECT_EQ(line(1)->text().size(), 121);
-    EXPECT_EQ(panel->panelView()->findChild<QLabel*>(QStringLiteral("count1"))->text(),
-              QStringLiteral("0 left"));
-    EXPECT_EQ(stored("CVP1"), QString(119, u'x') + QStringLiteral("\\ "));
+    EXPECT_EQ(panel->panelView()->findChild<QLabel*>(q("count1"))->text(), q("0 left"));
+    EXPECT_EQ(stored("CVP1"), QString(119, u'x') + q("\\ "));
     EXPECT_EQ(beeps.count, 0);
     EXPECT_EQ(host->asked.size(), 1);
     line(2)->setFocus();
     EXPECT_EQ(host->asked.size(), 1) << "the space is not the user's, and asks for nothing";
     line(1)->setFocus();
     QTest::keyClick(line(1), Qt::Key_Home);
-    QTest::keyClicks(line(1), QStringLiteral("y"));
+    QTest::keyClicks(line(1), q("y"));
     EXPECT_EQ(line(1)->text(), u'y' + QString(119, u'x'));
     EXPECT_EQ(beeps.count, 1);
 }
 
 TEST_F(BackprintEditingTest, UndoGoesBackBeyondWhatWasRefused)
 {
-    type(1, QStringLiteral("one"));
+    type(1, q("one"));
     QTest::keyClick(line(1), Qt::Key_Left);
     QTest::keyClick(line(1), Qt::Key_End);
-    type(1, QStringLiteral(" two~"));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("one two"));
+    type(1, q(" two~"));
+    EXPECT_EQ(line(1)->text(), q("one two"));
     QTest::keyClick(line(1), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("one"));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("one"));
+    EXPECT_EQ(line(1)->text(), q("one"));
+    EXPECT_EQ(stored("CVP1"), q("one"));
     QTest::keyClick(line(1), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(line(1)->text(), QString());
-    EXPECT_EQ(panel->panelView()->findChild<QLabel*>(QStringLiteral("count1"))->text(),
-              QStringLiteral("120 left"));
+    EXPECT_EQ(panel->panelView()->findChild<QLabel*>(q("count1"))->text(), q("120 left"));
     // The empty line is a choice like any other.
     EXPECT_EQ(stored("CVP1"), QString());
     QTest::keyClick(line(1), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("one"));
+    EXPECT_EQ(line(1)->text(), q("one"));
     // Only the keystroke itself was refused, not the way back.
     EXPECT_EQ(beeps.count, 1);
 }
 
 TEST_F(BackprintEditingTest, WhatAnInputMethodComposesIsHeldToTheRulesWhenItIsCommitted)
 {
-    type(1, QStringLiteral("ab"));
+    type(1, q("ab"));
     compose(line(1), QStringLiteral(u"\u304b"), {});
-    EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
+    EXPECT_EQ(line(1)->text(), q("ab"));
     EXPECT_EQ(beeps.count, 0);
     compose(line(1), {}, QStringLiteral(u"c\u304b"));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("abc"));
+    EXPECT_EQ(line(1)->text(), q("abc"));
     EXPECT_EQ(beeps.count, 1);
-    compose(line(1), {}, QStringLiteral("d"));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("abcd"));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("abcd"));
+    compose(line(1), {}, q("d"));
+    EXPECT_EQ(line(1)->text(), q("abcd"));
+    EXPECT_EQ(stored("CVP1"), q("abcd"));
 }
 
 TEST_F(BackprintEditingTest, ACommitThatGoesOnComposingIsHeldToTheRulesAfterwards)
 {
-    type(1, QStringLiteral("ab"));
+    type(1, q("ab"));
     compose(line(1), QStringLiteral(u"\u1102"), QStringLiteral(u"\uac00"));
     // The field has not been touched under the composition, but what is stored is clean.
     EXPECT_EQ(line(1)->text(), QStringLiteral(u"ab\uac00"));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("ab"));
+    EXPECT_EQ(stored("CVP1"), q("ab"));
     compose(line(1), {}, {});
-    EXPECT_TRUE(waitUntil([&] { return line(1)->text() == QStringLiteral("ab"); }));
+    EXPECT_TRUE(waitUntil([&] { return line(1)->text() == q("ab"); }));
     EXPECT_EQ(beeps.count, 1);
     compose(line(1), QStringLiteral(u"\u1102"), QStringLiteral(u"\uac00"));
     endEditing(1);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("ab"));
-    EXPECT_EQ(saved("CVP1"), QStringLiteral("ab"));
+    EXPECT_EQ(line(1)->text(), q("ab"));
+    EXPECT_EQ(saved("CVP1"), q("ab"));
 }
 
 TEST_F(BackprintEditingTest, ACompositionThatEndsWithoutAWordDoesNotLetRefusedCharactersIn)
@@ -139,18 +138,15 @@ TEST_F(BackprintEditingTest, ACompositionThatEndsWithoutAWordDoesNotLetRefusedCh
         QString left;
     } cases[] = {
         {"a change from outside",
-         [this] {
-             panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("CVP1"), QStringLiteral("new"));
-         },
-         QStringLiteral("new")},
-        {"the focus elsewhere", [this] { line(2)->setFocus(); }, QStringLiteral("ab")},
+         [this] { panel->PPDOptionKeyValueDidChange_ppdChoice(q("CVP1"), q("new")); }, q("new")},
+        {"the focus elsewhere", [this] { line(2)->setFocus(); }, q("ab")},
         {"a menu over the line",
          [this] {
              QFocusEvent out(QEvent::FocusOut, Qt::PopupFocusReason);
              QApplication::sendEvent(line(1), &out);
          },
-         QStringLiteral("ab")},
-        {"a cursor key", [this] { QTest::keyClick(line(1), Qt::Key_Home); }, QStringLiteral("ab")},
+         q("ab")},
+        {"a cursor key", [this] { QTest::keyClick(line(1), Qt::Key_Home); }, q("ab")},
     };
 
     for (const auto& c : cases) {
@@ -158,12 +154,12 @@ TEST_F(BackprintEditingTest, ACompositionThatEndsWithoutAWordDoesNotLetRefusedCh
         for (const QString& commit : {QStringLiteral(u"\uac00"), QString()}) {
             SCOPED_TRACE(c.how);
             line(1)->clear();
-            type(1, QStringLiteral("ab"));
+            type(1, q("ab"));
             compose(line(1), QStringLiteral(u"\u1102"), commit);
             c.drop();
             EXPECT_TRUE(waitUntil([&] { return line(1)->text() == c.left; }));
             beeps.count = 0;
-            type(1, QStringLiteral("~"));
+            type(1, q("~"));
             EXPECT_FALSE(line(1)->text().contains(u'~'));
             EXPECT_EQ(beeps.count, 1);
         }

@@ -1,6 +1,7 @@
 #include "panels/backprint/back_preview.h"
 #include "platform/foundation/notifications/notification_center.h"
 #include "tests/panels/backprint/backprint_window.h"
+#include "tests/support/test.h"
 
 #include <QCheckBox>
 
@@ -30,14 +31,14 @@ TEST_F(BackprintPanelTest, CreationRestoresTheSettingsOrTheDefaultsAndWritesThem
 {
     close();
     host = std::make_shared<FakeHost>(backprintOptions() + "*CVP2Default: \"it's, default\"\n");
-    host->settings->setValue(QStringLiteral("CVP1"), QStringLiteral(u"Smith\u00e6s\u2264 Inc."), false);
+    host->settings->setValue(q("CVP1"), QStringLiteral(u"Smith\u00e6s\u2264 Inc."), false);
     open();
-    EXPECT_EQ(line(1)->text(), QStringLiteral("Smith's, Inc."));
-    EXPECT_EQ(line(2)->text(), QStringLiteral("it's, default"));
+    EXPECT_EQ(line(1)->text(), q("Smith's, Inc."));
+    EXPECT_EQ(line(2)->text(), q("it's, default"));
     EXPECT_EQ(saved("CVP1"), QStringLiteral(u"Smith\u00e6s\u2264 Inc."));
     EXPECT_EQ(saved("CVP2"), QStringLiteral(u"it\u00e6s\u2264 default"));
-    EXPECT_EQ(saved("EnableCVP1"), QStringLiteral("False"));
-    EXPECT_EQ(saved("DebugLog"), QStringLiteral("False"));
+    EXPECT_EQ(saved("EnableCVP1"), q("False"));
+    EXPECT_EQ(saved("DebugLog"), q("False"));
     EXPECT_TRUE(host->asked.isEmpty());
     EXPECT_EQ(beeps.count, 0);
     EXPECT_FALSE(line(1)->isEnabled());
@@ -46,13 +47,13 @@ TEST_F(BackprintPanelTest, CreationRestoresTheSettingsOrTheDefaultsAndWritesThem
 
 TEST_F(BackprintPanelTest, SavesTheLinesSafelyAndTheTogglesAsTheyAre)
 {
-    type(1, QStringLiteral("a,b"));
-    panel->setChoice_forKey(QStringLiteral("x,y"), QStringLiteral("EnableCVP1"));
-    panel->setChoice_forKey(7, QStringLiteral("CVP2"));
+    type(1, q("a,b"));
+    panel->setChoice_forKey(q("x,y"), q("EnableCVP1"));
+    panel->setChoice_forKey(7, q("CVP2"));
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
     EXPECT_EQ(saved("CVP1"), QStringLiteral(u"a\u2264b"));
-    EXPECT_EQ(saved("EnableCVP1"), QStringLiteral("x,y"));
-    EXPECT_EQ(host->settings->values().value(QStringLiteral("CVP2")).typeId(), QMetaType::Int);
+    EXPECT_EQ(saved("EnableCVP1"), q("x,y"));
+    EXPECT_EQ(host->settings->values().value(q("CVP2")).typeId(), QMetaType::Int);
     EXPECT_FALSE(Leaving::of(*panel)) << "saving is not the base's, which says that the panel leaves";
 }
 
@@ -60,26 +61,26 @@ TEST_F(BackprintPanelTest, AFailedWriteIsLoggedAndTheOthersGoOn)
 {
     host->settings = std::make_shared<LockedSettings>();
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
-    EXPECT_EQ(log.count(QStringLiteral("PDE got an error 2 setting the value for CVP2 !")), 1);
-    EXPECT_EQ(saved("EnableCVP2"), QStringLiteral("True"));
+    EXPECT_EQ(log.count(q("PDE got an error 2 setting the value for CVP2 !")), 1);
+    EXPECT_EQ(saved("EnableCVP2"), q("True"));
     host->settings = nullptr;
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
 }
 
 TEST_F(BackprintPanelTest, RestoringWithoutSettingsMarksTheDefaultsUnlessAllIsKnown)
 {
-    host->settings->setValue(QStringLiteral("CVP1"), QStringLiteral("kept"), false);
+    host->settings->setValue(q("CVP1"), q("kept"), false);
     EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("kept"));
+    EXPECT_EQ(stored("CVP1"), q("kept"));
     host->settings = nullptr;
     EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
     // One line has no value yet: every default is marked.
-    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("False"));
-    EXPECT_EQ(stored("CVP1"), QStringLiteral("kept"));
-    panel->setChoice_forKey(QStringLiteral(""), QStringLiteral("CVP2"));
-    panel->setChoice_forKey(QStringLiteral("True"), QStringLiteral("EnableCVP1"));
+    EXPECT_EQ(stored("EnableCVP1"), q("False"));
+    EXPECT_EQ(stored("CVP1"), q("kept"));
+    panel->setChoice_forKey(q(""), q("CVP2"));
+    panel->setChoice_forKey(q("True"), q("EnableCVP1"));
     panel->restoreValuesAndReturnError(nullptr);
-    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("True"));
+    EXPECT_EQ(stored("EnableCVP1"), q("True"));
     EXPECT_TRUE(line(1)->isEnabled());
 }
 
@@ -87,37 +88,37 @@ TEST_F(BackprintPanelTest, RestoreDefaultsShowsThePpdsLines)
 {
     close();
     host = std::make_shared<FakeHost>(backprintOptions() + "*CVP1Default: \"[F]\"\n");
-    host->settings->setValue(QStringLiteral("EnableCVP1"), QStringLiteral("True"), false);
+    host->settings->setValue(q("EnableCVP1"), q("True"), false);
     open();
-    type(1, QStringLiteral("more"));
+    type(1, q("more"));
     click(514);
     click(32);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("[F]"));
-    EXPECT_EQ(stored("DebugLog"), QStringLiteral("False"));
+    EXPECT_EQ(line(1)->text(), q("[F]"));
+    EXPECT_EQ(stored("DebugLog"), q("False"));
     EXPECT_FALSE(find<QCheckBox>(512)->isChecked());
     EXPECT_FALSE(line(1)->isEnabled());
 }
 
 TEST_F(BackprintPanelTest, AChangeFromOutsideIsShownUnswappedAndLeavesTypingAlone)
 {
-    type(1, QStringLiteral("typed, still"));
+    type(1, q("typed, still"));
     line(1)->setCursorPosition(3);
-    panel->PPDOptionKeyValueDidChange_ppdChoice(QStringLiteral("CVP2"), QStringLiteral(u"a\u2264b"));
-    EXPECT_EQ(line(2)->text(), QStringLiteral("a,b"));
-    EXPECT_EQ(line(1)->text(), QStringLiteral("typed, still"));
+    panel->PPDOptionKeyValueDidChange_ppdChoice(q("CVP2"), QStringLiteral(u"a\u2264b"));
+    EXPECT_EQ(line(2)->text(), q("a,b"));
+    EXPECT_EQ(line(1)->text(), q("typed, still"));
     EXPECT_EQ(line(1)->cursorPosition(), 3);
 }
 
 TEST_F(BackprintPanelTest, ThePreviewShowsTheSwitchedOnLinesAsTyped)
 {
-    auto* holder = panel->panelView()->findChild<QWidget*>(QStringLiteral("previewHolder"));
+    auto* holder = panel->panelView()->findChild<QWidget*>(q("previewHolder"));
     auto* preview = dynamic_cast<BackPreview*>(holder->findChild<QWidget*>());
     ASSERT_NE(preview, nullptr);
     const QImage empty = preview->grab().toImage();
-    type(1, QStringLiteral("Lake, [YYYY]"));
-    type(2, QStringLiteral("It's ours"));
-    EXPECT_EQ(preview->line(0), QStringLiteral("Lake, [YYYY]"));
-    EXPECT_EQ(preview->line(1), QStringLiteral("It's ours"));
+    type(1, q("Lake, [YYYY]"));
+    type(2, q("It's ours"));
+    EXPECT_EQ(preview->line(0), q("Lake, [YYYY]"));
+    EXPECT_EQ(preview->line(1), q("It's ours"));
     EXPECT_NE(preview->grab().toImage(), empty);
     click(512);
     EXPECT_EQ(preview->line(0), QString());
@@ -125,7 +126,7 @@ TEST_F(BackprintPanelTest, ThePreviewShowsTheSwitchedOnLinesAsTyped)
     click(512);
     click(513);
     line(1)->clear();
-    type(1, QStringLiteral("It's ours"));
+    type(1, q("It's ours"));
     EXPECT_EQ(preview->grab().toImage(), second) << "the printer leaves no gap for a missing line";
     click(512);
     EXPECT_EQ(preview->grab().toImage(), empty);
@@ -135,11 +136,11 @@ TEST_F(BackprintPanelTest, DestructionTellsTheOtherPanelsOfTheSameHost)
 {
     int own = 0;
     int others = 0;
-    const QString name = QStringLiteral("com.halvern.vlx.PDEPluginIsUnloading");
+    const QString name = q("com.halvern.vlx.PDEPluginIsUnloading");
     NotificationCenter& center = NotificationCenter::defaultCenter();
     center.addObserver(&own, name, static_cast<HostCallback*>(host.get()), [&](const Notification&) {
         // Before the base's part of the destruction.
-        EXPECT_EQ(log.count(QStringLiteral("entered dealloc in RZBackprintPDEHalvern")), 0);
+        EXPECT_EQ(log.count(q("entered dealloc in RZBackprintPDEHalvern")), 0);
         ++own;
     });
     center.addObserver(&others, name, &others, [&](const Notification&) { ++others; });
@@ -148,7 +149,7 @@ TEST_F(BackprintPanelTest, DestructionTellsTheOtherPanelsOfTheSameHost)
     center.removeObserver(&others);
     EXPECT_EQ(own, 1);
     EXPECT_EQ(others, 0);
-    EXPECT_EQ(log.count(QStringLiteral("entered dealloc in RZBackprintPDEHalvern")), 1);
+    EXPECT_EQ(log.count(q("entered dealloc in RZBackprintPDEHalvern")), 1);
 }
 
 } // namespace halvern

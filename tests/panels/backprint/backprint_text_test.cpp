@@ -1,6 +1,5 @@
 #include "platform/maker/backprint_text.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern::backprint {
 
@@ -29,7 +28,7 @@ TEST(BackprintTextTest, AllowsSpaceToClosingBraceAndTheCopyrightSignOnly)
 
 TEST(BackprintTextTest, SwapsCommasAndApostrophesBothWays)
 {
-    const QString shown = QStringLiteral("Smith's, Inc.'s,");
+    const QString shown = q("Smith's, Inc.'s,");
     const QString stored = QStringLiteral(u"Smith\u00e6s\u2264 Inc.\u00e6s\u2264");
     EXPECT_EQ(stringWithSafeCharacters(shown), stored);
     EXPECT_EQ(stringWithSafeCharacters(stored), stored);
@@ -44,15 +43,15 @@ TEST(BackprintTextTest, LimitsALineAndNeverLeavesABackslashAtItsEnd)
         QString text;
         QString limited;
     } cases[] = {
-        {QStringLiteral(""), QStringLiteral("")},
+        {q(""), q("")},
         {run(120), run(120)},
         {run(121), run(120)},
         {run(120) + u' ', run(120) + u' '},
         {run(121) + u' ', run(120)},
-        {QStringLiteral("\\"), QStringLiteral("\\ ")},
-        {run(118) + u'\\', run(118) + QStringLiteral("\\ ")},
-        {run(119) + u'\\', run(119) + QStringLiteral("\\ ")},
-        {run(119) + QStringLiteral("\\\\"), run(119) + QStringLiteral("\\ ")},
+        {q("\\"), q("\\ ")},
+        {run(118) + u'\\', run(118) + q("\\ ")},
+        {run(119) + u'\\', run(119) + q("\\ ")},
+        {run(119) + q("\\\\"), run(119) + q("\\ ")},
     };
 
     for (const auto& row : cases) {
@@ -68,13 +67,13 @@ TEST(BackprintTextTest, HoldsATypedTextToTheAlphabetAndTheLength)
         QString left;
         bool refused;
     } cases[] = {
-        {QStringLiteral("plain [MM]"), QStringLiteral("plain [MM]"), false},
-        {QStringLiteral("ab~cd"), QStringLiteral("ab"), true},
+        {q("plain [MM]"), q("plain [MM]"), false},
+        {q("ab~cd"), q("ab"), true},
         {run(120), run(120), false},
         {run(125), run(120), true},
         {run(120) + u' ', run(120), true},
         // What the alphabet leaves may happen to be what was there, and is refused all the same.
-        {QStringLiteral("~a").repeated(60), QStringLiteral("~a").repeated(60), true},
+        {q("~a").repeated(60), q("~a").repeated(60), true},
     };
 
     for (const auto& row : cases) {
@@ -87,7 +86,7 @@ TEST(BackprintTextTest, HoldsATypedTextToTheAlphabetAndTheLength)
 TEST(BackprintTextTest, AnEnteredLineIsTheOneThatSingleKeystrokesGive)
 {
     const QStringList texts = {QStringLiteral(u"caf\u00e9, it's ~ \u00a9 \U0001F4F7 [YY]\\"),
-                               run(119) + QStringLiteral("~\\more"), QStringLiteral("")};
+                               run(119) + q("~\\more"), q("")};
     for (const QString& text : texts) {
         QString typed;
         for (const QChar character : text)

@@ -1,6 +1,7 @@
 #include "platform/foundation/user_defaults.h"
 #include "platform/maker/backprint_text.h"
 #include "tests/panels/backprint/backprint_window.h"
+#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -26,7 +27,7 @@ protected:
 
     QWidget* dialogsField() { return window->findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly); }
 
-    inline static const QString lastTokenKey = QStringLiteral("com.halvern.print.pde.cvp.lastToken");
+    inline static const QString lastTokenKey = q("com.halvern.print.pde.cvp.lastToken");
 };
 
 TEST_F(BackprintTokensTest, EveryTokenHasAReadableTitleInEveryLanguage)
@@ -48,68 +49,68 @@ TEST_F(BackprintTokensTest, EveryTokenHasAReadableTitleInEveryLanguage)
 
 TEST_F(BackprintTokensTest, InsertsIntoTheFocusedLineAtItsCursorAndRemembersTheToken)
 {
-    type(2, QStringLiteral("ab"));
+    type(2, q("ab"));
     line(2)->setCursorPosition(1);
     choose("[MM]");
     click(257);
-    EXPECT_EQ(line(2)->text(), QStringLiteral("a[MM]b"));
+    EXPECT_EQ(line(2)->text(), q("a[MM]b"));
     EXPECT_EQ(line(2)->cursorPosition(), 5);
-    EXPECT_EQ(stored("CVP2"), QStringLiteral("a[MM]b"));
+    EXPECT_EQ(stored("CVP2"), q("a[MM]b"));
     EXPECT_EQ(line(1)->text(), QString());
-    EXPECT_EQ(UserDefaults::standardUserDefaults().objectForKey(lastTokenKey), QStringLiteral("[MM]"));
+    EXPECT_EQ(UserDefaults::standardUserDefaults().objectForKey(lastTokenKey), q("[MM]"));
     // The line goes on being edited: its end is the stored form's.
     endEditing(2);
-    EXPECT_EQ(host->asked.last(), qMakePair(QStringLiteral("CVP2"), QVariant(QStringLiteral("a[MM]b"))));
+    EXPECT_EQ(host->asked.last(), qMakePair(q("CVP2"), QVariant(q("a[MM]b"))));
     close();
     open();
-    EXPECT_EQ(menu()->currentData(), QStringLiteral("[MM]"));
-    remember(QStringLiteral("[ZZ]"));
+    EXPECT_EQ(menu()->currentData(), q("[MM]"));
+    remember(q("[ZZ]"));
     panel->populateMenuObjectsInView(panel->panelView());
     EXPECT_EQ(menu()->currentIndex(), 0);
 }
 
 TEST_F(BackprintTokensTest, AFocusElsewhereComesBackToTheLastLineWithTheUsersSelection)
 {
-    type(1, QStringLiteral("first"));
-    type(2, QStringLiteral("second"));
+    type(1, q("first"));
+    type(2, q("second"));
     line(2)->setSelection(1, 3);
     find(257)->setFocus(Qt::MouseFocusReason);
     EXPECT_FALSE(line(2)->hasSelectedText());
     choose("[D]");
     QTest::keyClick(find(257), Qt::Key_Space);
-    EXPECT_EQ(line(2)->text(), QStringLiteral("s[D]nd"));
+    EXPECT_EQ(line(2)->text(), q("s[D]nd"));
     EXPECT_TRUE(line(2)->hasFocus());
     // Without a selection it is the cursor that counts, and another field of the dialog takes no token.
     line(1)->setFocus();
     line(1)->setCursorPosition(2);
     dialogsField()->setFocus();
     click(257);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("fi[D]rst"));
+    EXPECT_EQ(line(1)->text(), q("fi[D]rst"));
     EXPECT_TRUE(dialogsField()->property("text").toString().isEmpty());
     EXPECT_EQ(line(1)->cursorPosition(), 5);
     dialogsField()->setFocus();
-    EXPECT_EQ(host->asked.last(), qMakePair(QStringLiteral("CVP1"), QVariant(QStringLiteral("fi[D]rst"))));
+    EXPECT_EQ(host->asked.last(), qMakePair(q("CVP1"), QVariant(q("fi[D]rst"))));
 }
 
 TEST_F(BackprintTokensTest, ASelectionThatCameWithTheFocusIsNotReplaced)
 {
-    type(1, QStringLiteral("text"));
+    type(1, q("text"));
     choose("[U]");
     QTest::keyClick(line(1), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
     ASSERT_TRUE(line(1)->hasFocus());
-    ASSERT_EQ(line(1)->selectedText(), QStringLiteral("text"));
+    ASSERT_EQ(line(1)->selectedText(), q("text"));
     click(257);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("text[U]"));
+    EXPECT_EQ(line(1)->text(), q("text[U]"));
     QTest::keyClick(line(1), Qt::Key_A, Qt::ControlModifier);
     click(257);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("[U]"));
+    EXPECT_EQ(line(1)->text(), q("[U]"));
     line(1)->setFocus(Qt::TabFocusReason);
     find(257)->setFocus();
     line(1)->setFocus(Qt::TabFocusReason);
     find(257)->setFocus();
     QTest::keyClick(find(257), Qt::Key_Space);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("[U][U]"));
+    EXPECT_EQ(line(1)->text(), q("[U][U]"));
 }
 
 TEST_F(BackprintTokensTest, ATokenCountsAsTyped)
@@ -117,7 +118,7 @@ TEST_F(BackprintTokensTest, ATokenCountsAsTyped)
     paste(1, QString(118, u'x'));
     choose("[YYYY]");
     click(257);
-    EXPECT_EQ(line(1)->text(), QString(118, u'x') + QStringLiteral("[Y"));
+    EXPECT_EQ(line(1)->text(), QString(118, u'x') + q("[Y"));
     EXPECT_EQ(beeps.count, 1);
     EXPECT_EQ(stored("CVP1"), line(1)->text());
 }
@@ -126,13 +127,13 @@ TEST_F(BackprintTokensTest, InsertsNothingWithoutALineOrAToken)
 {
     dialogsField()->setFocus();
     click(257);
-    type(1, QStringLiteral("a"));
+    type(1, q("a"));
     menu()->setCurrentIndex(-1);
     click(257);
     click(512);
     choose("[P]");
     click(257);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("a"));
+    EXPECT_EQ(line(1)->text(), q("a"));
     EXPECT_EQ(line(2)->text(), QString());
     EXPECT_FALSE(UserDefaults::standardUserDefaults().objectForKey(lastTokenKey).isValid());
     EXPECT_EQ(beeps.count, 0);
@@ -140,14 +141,13 @@ TEST_F(BackprintTokensTest, InsertsNothingWithoutALineOrAToken)
 
 TEST_F(BackprintTokensTest, FollowsTheFocusOnlyWhileShown)
 {
-    EXPECT_EQ(log.count(QStringLiteral("will show backprint")), 1);
-    type(1, QStringLiteral("a"));
+    EXPECT_EQ(log.count(q("will show backprint")), 1);
+    type(1, q("a"));
     EXPECT_TRUE(panel->shouldHide());
-    EXPECT_EQ(
-        log.count(QStringLiteral("entering RZBackprintPDEHalvern -[RZBackprintPDEHalvern shouldHide] ")), 1);
+    EXPECT_EQ(log.count(q("entering RZBackprintPDEHalvern -[RZBackprintPDEHalvern shouldHide] ")), 1);
     find(257)->setFocus();
     QTest::keyClick(find(257), Qt::Key_Space);
-    EXPECT_EQ(line(1)->text(), QStringLiteral("a"));
+    EXPECT_EQ(line(1)->text(), q("a"));
 }
 
 TEST_F(BackprintTokensTest, TheTokenControlsStayUsableWhileALineIsSwitchedOn)
@@ -156,7 +156,7 @@ TEST_F(BackprintTokensTest, TheTokenControlsStayUsableWhileALineIsSwitchedOn)
     EXPECT_FALSE(line(1)->isEnabled());
     EXPECT_TRUE(line(2)->isEnabled());
     EXPECT_TRUE(menu()->isEnabled());
-    EXPECT_EQ(stored("EnableCVP1"), QStringLiteral("False"));
+    EXPECT_EQ(stored("EnableCVP1"), q("False"));
     click(513);
     EXPECT_FALSE(line(2)->isEnabled());
     EXPECT_FALSE(menu()->isEnabled());

@@ -1,4 +1,5 @@
 #include "tests/panels/backprint/backprint_window.h"
+#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 QString textOf(const QVariant& value)
 {
-    return value.isValid() ? value.toString() : QStringLiteral("(none)");
+    return value.isValid() ? value.toString() : q("(none)");
 }
 
 } // namespace
@@ -29,8 +30,8 @@ void BackprintWindow::SetUp()
 {
     useBuiltBundle();
     host = std::make_shared<FakeHost>(backprintOptions());
-    host->settings->setValue(QStringLiteral("EnableCVP1"), QStringLiteral("True"), false);
-    host->settings->setValue(QStringLiteral("EnableCVP2"), QStringLiteral("True"), false);
+    host->settings->setValue(q("EnableCVP1"), q("True"), false);
+    host->settings->setValue(q("EnableCVP2"), q("True"), false);
     open();
 }
 

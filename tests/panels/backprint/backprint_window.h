@@ -2,15 +2,12 @@
 
 #include "panels/backprint/backprint_panel.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 

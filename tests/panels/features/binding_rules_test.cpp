@@ -1,4 +1,5 @@
 #include "tests/panels/features/features_fixture.h"
+#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/stepper.h"
@@ -19,7 +20,7 @@ protected:
     void SetUp() override
     {
         FeaturesPanelTest::SetUp();
-        show(catalogueOf({sheetRecord(QStringLiteral("Gloss A4"), 300), rollRecord(1524, 1, 300)}));
+        show(catalogueOf({sheetRecord(q("Gloss A4"), 300), rollRecord(1524, 1, 300)}));
         choose(kFeedTag, "Sheet");
     }
 
@@ -53,9 +54,9 @@ TEST_F(BindingRules, ARollHasNoBackSide)
     choose(kTwoSidedTag, "LongEdge");
     choose(kFeedTag, "Roll");
     EXPECT_FALSE(isAvailable(kTwoSidedTag));
-    EXPECT_EQ(choice("TwoSided"), QStringLiteral("None"));
-    EXPECT_EQ(menu(kTwoSidedTag)->currentText(), QStringLiteral("Off"));
-    EXPECT_EQ(asked("TwoSided").last(), QStringLiteral("None"));
+    EXPECT_EQ(choice("TwoSided"), q("None"));
+    EXPECT_EQ(menu(kTwoSidedTag)->currentText(), q("Off"));
+    EXPECT_EQ(asked("TwoSided").last(), q("None"));
     EXPECT_FALSE(isAvailable(kBindingMarginTag));
 }
 
@@ -93,15 +94,15 @@ TEST_F(BindingRules, StoreTheMarginAsThePaperLiesAndShowItAsThePageIsSeen)
     choose(kTwoSidedTag, "LongEdge");
     const LogCapture log;
     choose(kBindingMarginTag, "Bottom");
-    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Right"));
+    EXPECT_EQ(choice("BindingMargin"), q("Right"));
     EXPECT_GE(log.count(QStringLiteral(
                   "flopping \"Binding Margin\" from \"Bottom\" to \"Right\" for \"Landscape\" orientation")),
               1);
     panel->willShow();
-    EXPECT_EQ(shownMargin(), QStringLiteral("Bottom"));
+    EXPECT_EQ(shownMargin(), q("Bottom"));
     panel->restoreValuesAndReturnError(nullptr);
-    EXPECT_EQ(shownMargin(), QStringLiteral("Bottom"));
-    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Right"));
+    EXPECT_EQ(shownMargin(), q("Bottom"));
+    EXPECT_EQ(choice("BindingMargin"), q("Right"));
 }
 
 TEST_F(BindingRules, TakeTheFirstMarginThatIsOfferedWhenTheChosenOneIsNot)
@@ -109,11 +110,11 @@ TEST_F(BindingRules, TakeTheFirstMarginThatIsOfferedWhenTheChosenOneIsNot)
     choose(kTwoSidedTag, "ShortEdge");
     choose(kBindingMarginTag, "Bottom");
     choose(kTwoSidedTag, "LongEdge");
-    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Left"));
-    EXPECT_EQ(shownMargin(), QStringLiteral("Left"));
+    EXPECT_EQ(choice("BindingMargin"), q("Left"));
+    EXPECT_EQ(shownMargin(), q("Left"));
     choose(kTwoSidedTag, "None");
     // Not available, so there is no margin.
-    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("None"));
+    EXPECT_EQ(choice("BindingMargin"), q("None"));
 }
 
 TEST_F(BindingRules, EndAtTheLastMarginWhenNoneIsOffered)
@@ -122,12 +123,12 @@ TEST_F(BindingRules, EndAtTheLastMarginWhenNoneIsOffered)
     choose(kTwoSidedTag, "LongEdge");
     for (const char* gone : {"Left", "Right"})
         popup->removeItem(popup->findData(QString::fromLatin1(gone)));
-    host->willChangePPDOptionKeyValue_ppdChoice(QStringLiteral("BindingMargin"), QStringLiteral("Top"));
+    host->willChangePPDOptionKeyValue_ppdChoice(q("BindingMargin"), q("Top"));
     panel->didSelectTwoSided(nullptr);
-    EXPECT_EQ(choice("BindingMargin"), QStringLiteral("Bottom"));
+    EXPECT_EQ(choice("BindingMargin"), q("Bottom"));
     while (popup->count() > 1)
         popup->removeItem(0);
-    host->willChangePPDOptionKeyValue_ppdChoice(QStringLiteral("BindingMargin"), QStringLiteral("Bottom"));
+    host->willChangePPDOptionKeyValue_ppdChoice(q("BindingMargin"), q("Bottom"));
     panel->didSelectTwoSided(nullptr);
     EXPECT_EQ(popup->currentIndex(), 0);
 }
@@ -140,7 +141,7 @@ TEST_F(BindingRules, APageFormatThatCannotBeReadCountsAsPortrait)
 
     host->format = std::make_shared<Broken>();
     EXPECT_FALSE(panel->isLandscapeOrientation());
-    EXPECT_EQ(panel->bindingMarginForMargin_reverse(QStringLiteral("Top"), false), QStringLiteral("Top"));
+    EXPECT_EQ(panel->bindingMarginForMargin_reverse(q("Top"), false), q("Top"));
     host->format.reset();
     EXPECT_FALSE(panel->isLandscapeOrientation());
     EXPECT_FALSE(panel->paperIsTallerThanWide());
@@ -152,13 +153,10 @@ TEST_F(BindingRules, RecordAbilitiesAndTheDuplexSetting)
     panel->setHardwareSupportsDuplex(false);
     panel->setHardwareSupportsExtraFeatures(true);
     EXPECT_EQ(panel->choice("VLXDuplex"), QVariant(false));
-    EXPECT_EQ(log.count(QStringLiteral("Setting Duplex capability ... this printer CANNOT duplex")), 1);
-    EXPECT_EQ(
-        log.count(QStringLiteral("Setting Features capability ... this printer does have extra features.")),
-        1);
+    EXPECT_EQ(log.count(q("Setting Duplex capability ... this printer CANNOT duplex")), 1);
+    EXPECT_EQ(log.count(q("Setting Features capability ... this printer does have extra features.")), 1);
     EXPECT_TRUE(panel->setDuplexEnabled(true));
-    EXPECT_EQ(host->settings->values().value(QStringLiteral("com.apple.print.PrintSettings.PMDuplexing")),
-              QVariant(true));
+    EXPECT_EQ(host->settings->values().value(q("com.apple.print.PrintSettings.PMDuplexing")), QVariant(true));
     host->settings.reset();
     EXPECT_FALSE(panel->setDuplexEnabled(true));
 }

@@ -1,4 +1,5 @@
 #include "tests/panels/features/features_fixture.h"
+#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 
@@ -22,29 +23,28 @@ QByteArray featuresPpd()
 
 QVariantMap sheetRecord(const QString& name, int dotsPerInch, uint tones)
 {
-    return {{QStringLiteral("paperName"), name},
-            {QStringLiteral("paperResolution"), qint64(dotsPerInch) * 10},
-            {QStringLiteral("paperTone"), quint64(tones)}};
+    return {{q("paperName"), name},
+            {q("paperResolution"), qint64(dotsPerInch) * 10},
+            {q("paperTone"), quint64(tones)}};
 }
 
 QVariantMap rollRecord(int width, int surface, int dotsPerInch, uint tones)
 {
-    return {{QStringLiteral("paperWidth"), qint64(width)},
-            {QStringLiteral("paperSurface"), qint64(surface)},
-            {QStringLiteral("paperResolution"), qint64(dotsPerInch) * 10},
-            {QStringLiteral("paperTone"), quint64(tones)}};
+    return {{q("paperWidth"), qint64(width)},
+            {q("paperSurface"), qint64(surface)},
+            {q("paperResolution"), qint64(dotsPerInch) * 10},
+            {q("paperTone"), quint64(tones)}};
 }
 
 PaperCatalogue catalogueOf(const QList<QVariantMap>& records)
 {
     PaperCatalogue catalogue;
     for (const QVariantMap& record : records) {
-        const int dotsPerInch = record.value(QStringLiteral("paperResolution")).toInt() / 10;
-        const QString name = record.value(QStringLiteral("paperName")).toString();
+        const int dotsPerInch = record.value(q("paperResolution")).toInt() / 10;
+        const QString name = record.value(q("paperName")).toString();
         catalogue.insert(name.isEmpty()
-                             ? rollPaperKey(record.value(QStringLiteral("paperWidth")).toString(),
-                                            record.value(QStringLiteral("paperSurface")).toString(),
-                                            dotsPerInch)
+                             ? rollPaperKey(record.value(q("paperWidth")).toString(),
+                                            record.value(q("paperSurface")).toString(), dotsPerInch)
                              : sheetPaperKey(name, dotsPerInch),
                          record);
     }
@@ -55,8 +55,7 @@ void TestPrinter::reset()
 {
     goOn();
     locked([] {
-        attributes_ = {{QStringLiteral("VLXDuplex"), QStringLiteral("True")},
-                       {QStringLiteral("VLXExtraFeatures"), QStringLiteral("true")}};
+        attributes_ = {{q("VLXDuplex"), q("True")}, {q("VLXExtraFeatures"), q("true")}};
         archive_.clear();
         commands_.clear();
     });

@@ -5,13 +5,11 @@
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QComboBox>
 #include <QHash>
 #include <QLineEdit>
-
-#include <gtest/gtest.h>
 
 #include <condition_variable>
 #include <mutex>

@@ -1,10 +1,10 @@
 #include "tests/panels/features/features_fixture.h"
+#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
 
 #include <QRadioButton>
-#include <QTest>
 
 namespace halvern {
 
@@ -12,9 +12,9 @@ namespace {
 
 using namespace features;
 
-const QVariantMap kGloss300 = sheetRecord(QStringLiteral("Gloss A4"), 300);
-const QVariantMap kGloss610 = sheetRecord(QStringLiteral("Gloss A4"), 610);
-const QVariantMap kMatte720 = sheetRecord(QStringLiteral("Matte A3"), 720);
+const QVariantMap kGloss300 = sheetRecord(q("Gloss A4"), 300);
+const QVariantMap kGloss610 = sheetRecord(q("Gloss A4"), 610);
+const QVariantMap kMatte720 = sheetRecord(q("Matte A3"), 720);
 const QVariantMap kNarrow1 = rollRecord(1524, 1, 300);
 const QVariantMap kNarrow3 = rollRecord(1524, 3, 610);
 const QVariantMap kWide2 = rollRecord(2100, 2, 720);
@@ -32,7 +32,7 @@ class PaperRules : public FeaturesPanelTest {};
 TEST_F(PaperRules, WithSheetsOnlyTheRollIsOutOfReach)
 {
     show(catalogueOf(kSheets));
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Sheet"));
+    EXPECT_EQ(choice("PaperFeed"), q("Sheet"));
     EXPECT_EQ(enabledTitles(kFeedTag), words("Cut Sheet"));
     EXPECT_EQ(titles(kNameTag), words("Gloss A4,Matte A3"));
     EXPECT_TRUE(menu(kNameTag)->isEnabled());
@@ -45,13 +45,12 @@ TEST_F(PaperRules, WithSheetsOnlyTheRollIsOutOfReach)
 TEST_F(PaperRules, WithRollsOnlyTheSheetIsOutOfReach)
 {
     show(catalogueOf(kRolls));
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
-    EXPECT_EQ(menu(kFeedTag)->currentText(), QStringLiteral("Roll"));
+    EXPECT_EQ(choice("PaperFeed"), q("Roll"));
+    EXPECT_EQ(menu(kFeedTag)->currentText(), q("Roll"));
     EXPECT_EQ(enabledTitles(kFeedTag), words("Roll"));
     EXPECT_EQ(titles(kWidthTag), words("152.4 mm,210 mm"));
     EXPECT_FALSE(menu(kNameTag)->isEnabled());
-    EXPECT_EQ(menu(kNameTag)->accessibleDescription(),
-              QStringLiteral("The printer has no cut sheets loaded."));
+    EXPECT_EQ(menu(kNameTag)->accessibleDescription(), q("The printer has no cut sheets loaded."));
     EXPECT_TRUE(menu(kWidthTag)->isEnabled());
     EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kNameTag);
 }
@@ -63,14 +62,14 @@ TEST_F(PaperRules, FollowAPrinterWhosePapersChangeUnderAnOpenPanel)
     give(catalogueOf(kSheets + kRolls));
     EXPECT_EQ(enabledTitles(kFeedTag), words("Cut Sheet,Roll"));
     EXPECT_EQ(titles(kFeedTag), words("Cut Sheet,Roll"));
-    EXPECT_EQ(menu(kNameTag)->currentText(), QStringLiteral("Matte A3"));
+    EXPECT_EQ(menu(kNameTag)->currentText(), q("Matte A3"));
 
     give(catalogueOf({kGloss300, kNarrow1}));
-    EXPECT_EQ(menu(kNameTag)->currentText(), QStringLiteral("Gloss A4"));
-    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
+    EXPECT_EQ(menu(kNameTag)->currentText(), q("Gloss A4"));
+    EXPECT_EQ(choice("PaperName"), q("Gloss A4"));
 
     give(catalogueOf(kRolls));
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
+    EXPECT_EQ(choice("PaperFeed"), q("Roll"));
     EXPECT_EQ(enabledTitles(kFeedTag), words("Roll"));
     EXPECT_EQ(titles(kNameTag), QStringList());
 
@@ -83,7 +82,7 @@ TEST_F(PaperRules, DoNotRebuildTheMenusForAnIndexThatIsTheOneHeld)
     show(catalogueOf(kSheets + kRolls));
     const LogCapture log;
     give(catalogueOf(kSheets + kRolls));
-    EXPECT_EQ(log.count(QStringLiteral("entering -[RZFeaturesPDEHalvern updatePaperUI]")), 0);
+    EXPECT_EQ(log.count(q("entering -[RZFeaturesPDEHalvern updatePaperUI]")), 0);
     EXPECT_EQ(titles(kNameTag), words("Gloss A4,Matte A3"));
     EXPECT_EQ(titles(kWidthTag), words("152.4 mm,210 mm"));
     EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kWidthTag);
@@ -94,24 +93,24 @@ TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
 {
     const QByteArray ppd = featuresPpd() + "*PaperNameDefault: \"Matte A3\"\n";
     make(ppd);
-    host->settings->setValue(QStringLiteral("PaperName"), QStringLiteral("Gloss A4"), false);
+    host->settings->setValue(q("PaperName"), q("Gloss A4"), false);
     show(catalogueOf(kSheets));
-    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
+    EXPECT_EQ(choice("PaperName"), q("Gloss A4"));
     EXPECT_TRUE(asked("PaperName").isEmpty());
     // Before there was a catalogue there were no sheets; only the fallback below takes that back.
     EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
     panel->store("PaperFeed", "Roll");
-    EXPECT_TRUE(menu(kNameTag)->accessibleDescription().startsWith(QStringLiteral("The sheet feed was not")));
+    EXPECT_TRUE(menu(kNameTag)->accessibleDescription().startsWith(q("The sheet feed was not")));
 
     make(ppd);
-    host->settings->setValue(QStringLiteral("PaperName"), QStringLiteral("Unloaded"), false);
+    host->settings->setValue(q("PaperName"), q("Unloaded"), false);
     show(catalogueOf(kSheets));
-    EXPECT_EQ(menu(kNameTag)->findText(QStringLiteral("Matte A3")), 1);
+    EXPECT_EQ(menu(kNameTag)->findText(q("Matte A3")), 1);
     EXPECT_TRUE(asked("PaperName").isEmpty());
 
     make();
     show(catalogueOf(kSheets));
-    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gloss A4"));
+    EXPECT_EQ(choice("PaperName"), q("Gloss A4"));
     EXPECT_EQ(asked("PaperName"), words("Gloss A4"));
     EXPECT_EQ(enabledTitles(kFeedTag), words("Cut Sheet"));
 }
@@ -120,11 +119,11 @@ TEST_F(PaperRules, CountTwoHundredAndFiftySixNamesAsNone)
 {
     QList<QVariantMap> records;
     for (int i = 0; i < 256; ++i)
-        records.append(sheetRecord(QStringLiteral("Paper %1").arg(i), 300));
+        records.append(sheetRecord(q("Paper %1").arg(i), 300));
     show(catalogueOf(records));
     EXPECT_EQ(menu(kNameTag)->count(), 0);
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
-    records.append(sheetRecord(QStringLiteral("One more"), 300));
+    EXPECT_EQ(choice("PaperFeed"), q("Roll"));
+    records.append(sheetRecord(q("One more"), 300));
     give(catalogueOf(records));
     EXPECT_EQ(menu(kNameTag)->count(), 257);
 }
@@ -139,19 +138,19 @@ TEST_F(PaperRules, OfferTheResolutionsOfTheChosenSheet)
     choose(kNameTag, "Matte A3");
     EXPECT_EQ(enabledTitles(kResolutionTag), words("720 dpi"));
     // The correction is shown, stored and told to the host.
-    EXPECT_EQ(menu(kResolutionTag)->currentText(), QStringLiteral("720 dpi"));
-    EXPECT_EQ(choice("Resolution"), QStringLiteral("720dpi"));
-    EXPECT_EQ(asked("Resolution").last(), QStringLiteral("720dpi"));
+    EXPECT_EQ(menu(kResolutionTag)->currentText(), q("720 dpi"));
+    EXPECT_EQ(choice("Resolution"), q("720dpi"));
+    EXPECT_EQ(asked("Resolution").last(), q("720dpi"));
 }
 
 TEST_F(PaperRules, NeverFallBackToTheFirstResolution)
 {
     show(catalogueOf({kGloss300, kMatte720}));
     choose(kNameTag, "Matte A3");
-    ASSERT_EQ(choice("Resolution"), QStringLiteral("720dpi"));
+    ASSERT_EQ(choice("Resolution"), q("720dpi"));
     choose(kNameTag, "Gloss A4");
     EXPECT_EQ(enabledTitles(kResolutionTag), words("300 dpi"));
-    EXPECT_EQ(choice("Resolution"), QStringLiteral("720dpi"));
+    EXPECT_EQ(choice("Resolution"), q("720dpi"));
 }
 
 TEST_F(PaperRules, LeaveTheResolutionOfASheetThatIsGoneAlone)
@@ -159,7 +158,7 @@ TEST_F(PaperRules, LeaveTheResolutionOfASheetThatIsGoneAlone)
     show(catalogueOf({kGloss610}));
     panel->store("PaperName", "Gone");
     EXPECT_TRUE(enabledTitles(kResolutionTag).isEmpty());
-    EXPECT_EQ(choice("PaperName"), QStringLiteral("Gone"));
+    EXPECT_EQ(choice("PaperName"), q("Gone"));
 }
 
 TEST_F(PaperRules, AlwaysOfferTheFirstResolutionOnARoll)
@@ -178,12 +177,12 @@ TEST_F(PaperRules, ForceASurfaceThatTheWidthHas)
     choose(kWidthTag, "1524");
     EXPECT_EQ(enabledSurfaces(), words("1,3"));
     surfaces()->cells()[2]->click();
-    EXPECT_EQ(choice("PaperSurface"), QStringLiteral("3"));
+    EXPECT_EQ(choice("PaperSurface"), q("3"));
     EXPECT_EQ(enabledTitles(kResolutionTag), words("300 dpi,610 dpi"));
     choose(kWidthTag, "2100");
-    EXPECT_EQ(choice("PaperSurface"), QStringLiteral("2"));
+    EXPECT_EQ(choice("PaperSurface"), q("2"));
     EXPECT_EQ(surfaces()->selectedTag(), 2);
-    EXPECT_EQ(asked("PaperSurface").last(), QStringLiteral("2"));
+    EXPECT_EQ(asked("PaperSurface").last(), q("2"));
 }
 
 TEST_F(PaperRules, ReplaceAWidthThatIsNoLongerLoadedByTheOneSelected)
@@ -193,8 +192,8 @@ TEST_F(PaperRules, ReplaceAWidthThatIsNoLongerLoadedByTheOneSelected)
     choose(kWidthTag, "2100");
     const LogCapture log;
     give(catalogueOf({kNarrow1, kNarrow3}));
-    EXPECT_EQ(choice("PaperWidth"), QStringLiteral("1524"));
-    EXPECT_EQ(asked("PaperWidth").last(), QStringLiteral("1524"));
+    EXPECT_EQ(choice("PaperWidth"), q("1524"));
+    EXPECT_EQ(asked("PaperWidth").last(), q("1524"));
     EXPECT_EQ(log.count(QStringLiteral(
                   "existing paper width of 2100 is not a valid selection; changing width to 1524")),
               1);
@@ -205,7 +204,7 @@ TEST_F(PaperRules, CheckTheResolutionsOncePerStateOfTheChoices)
     show(catalogueOf(kSheets + kRolls));
     choose(kFeedTag, "Sheet");
     panel->store("BindingWidth", "17.3");
-    const QString entered = QStringLiteral("exiting -[RZFeaturesPDEHalvern enableResolutionsForPaper]");
+    const QString entered = q("exiting -[RZFeaturesPDEHalvern enableResolutionsForPaper]");
     const LogCapture log;
     panel->didSelectNewPaper(nullptr);
     panel->didSelectNewPaper(nullptr);
@@ -217,28 +216,27 @@ TEST_F(PaperRules, CheckTheResolutionsOncePerStateOfTheChoices)
 
 TEST_F(PaperRules, OfferTheTonesOfTheLoadedPapers)
 {
-    show(catalogueOf(
-        {sheetRecord(QStringLiteral("A"), 300, 0x01), sheetRecord(QStringLiteral("B"), 300, 0x04)}));
+    show(catalogueOf({sheetRecord(q("A"), 300, 0x01), sheetRecord(q("B"), 300, 0x04)}));
     EXPECT_EQ(enabledTitles(kToneTag), words("Standard,Vivid,Warm"));
     choose(kToneTag, "Warm");
-    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0x01)}));
+    give(catalogueOf({sheetRecord(q("A"), 300, 0x01)}));
     EXPECT_EQ(enabledTitles(kToneTag), words("Standard,Vivid"));
-    EXPECT_EQ(choice("PaperTone"), QStringLiteral("Standard"));
-    EXPECT_EQ(asked("PaperTone").last(), QStringLiteral("Standard"));
+    EXPECT_EQ(choice("PaperTone"), q("Standard"));
+    EXPECT_EQ(asked("PaperTone").last(), q("Standard"));
 
-    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0x1FF)}));
+    give(catalogueOf({sheetRecord(q("A"), 300, 0x1FF)}));
     EXPECT_EQ(enabledTitles(kToneTag).size(), 9);
-    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0)}));
+    give(catalogueOf({sheetRecord(q("A"), 300, 0)}));
     EXPECT_FALSE(menu(kToneTag)->isEnabled());
     EXPECT_EQ(enabledTitles(kToneTag).size(), 9);
-    give(catalogueOf({sheetRecord(QStringLiteral("A"), 300, 0x100)}));
+    give(catalogueOf({sheetRecord(q("A"), 300, 0x100)}));
     EXPECT_FALSE(menu(kToneTag)->isEnabled());
     EXPECT_EQ(enabledTitles(kToneTag), words("Standard"));
 }
 
 TEST_F(PaperRules, FindTheRecordOfTheChoices)
 {
-    show(catalogueOf({sheetRecord(QStringLiteral("A"), 610, 5), rollRecord(1524, 3, 610, 9)}));
+    show(catalogueOf({sheetRecord(q("A"), 610, 5), rollRecord(1524, 3, 610, 9)}));
     choose(kFeedTag, "Sheet");
     EXPECT_EQ(panel->paperToneForStuff(), 5U);
     choose(kFeedTag, "Roll");
@@ -268,23 +266,23 @@ TEST_F(PaperRules, RefuseTheSheetByValueUnderAnyKey)
     TestPrinter::say("VLXExtraFeatures", nullptr);
     const LogCapture log;
     panel->store("PaperTone", "Sheet");
-    EXPECT_EQ(choice("PaperTone"), QStringLiteral("Standard"));
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
-    EXPECT_EQ(asked("PaperFeed").last(), QStringLiteral("Roll"));
+    EXPECT_EQ(choice("PaperTone"), q("Standard"));
+    EXPECT_EQ(choice("PaperFeed"), q("Roll"));
+    EXPECT_EQ(asked("PaperFeed").last(), q("Roll"));
     choose(kFeedTag, "Sheet");
-    EXPECT_EQ(choice("PaperFeed"), QStringLiteral("Roll"));
-    EXPECT_EQ(menu(kFeedTag)->currentText(), QStringLiteral("Roll"));
-    EXPECT_EQ(log.count(QStringLiteral("This printer does not support sheet printing")), 2);
+    EXPECT_EQ(choice("PaperFeed"), q("Roll"));
+    EXPECT_EQ(menu(kFeedTag)->currentText(), q("Roll"));
+    EXPECT_EQ(log.count(q("This printer does not support sheet printing")), 2);
 }
 
 TEST_F(PaperRules, EndWhenTheHostRefusesTheRollTooAndKeepsTheSheet)
 {
     show(catalogueOf(kSheets + kRolls));
     TestPrinter::say("VLXExtraFeatures", nullptr);
-    host->refusedKeys.insert(QStringLiteral("PaperFeed"));
+    host->refusedKeys.insert(q("PaperFeed"));
     const LogCapture log;
     panel->store("PaperFeed", "Sheet");
-    EXPECT_EQ(log.count(QStringLiteral("This printer does not support sheet printing")), 1);
+    EXPECT_EQ(log.count(q("This printer does not support sheet printing")), 1);
 }
 
 } // namespace

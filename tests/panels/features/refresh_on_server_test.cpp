@@ -1,12 +1,11 @@
 #include "tests/panels/features/features_fixture.h"
+#include "tests/support/test.h"
 
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/jobs.h"
-#include "tests/support/child_process.h"
 #include "tests/support/private_cups.h"
 
-#include <QFile>
 #include <QLabel>
 #include <QProgressBar>
 
@@ -35,8 +34,8 @@ protected:
 
     void open(const QString& faults)
     {
-        addQueue(QStringLiteral("Photo"), faults);
-        panel = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Photo"), faults);
+        addQueue(q("Photo"), faults);
+        panel = panelOn<RZFeaturesPDEHalvern>(q("Photo"), faults);
         ASSERT_TRUE(panel);
     }
 
@@ -48,7 +47,7 @@ protected:
 
     static QString uriOf(const QString& name, const QString& faults)
     {
-        return QStringLiteral("halvern://virtual/") + name + faults;
+        return q("halvern://virtual/") + name + faults;
     }
 
     // As another dialog would have it, with a host of its own.
@@ -64,8 +63,8 @@ protected:
     {
         ASSERT_TRUE(waitUntil([] { return DistributedNotificationCenter::defaultCenter().isConnected(); }));
         ChildProcess script;
-        ASSERT_TRUE(script.start(QStringLiteral(HALVERN_TEST_SCRIPTS "/printer-papers"),
-                                 QStringList{server.dir(), QStringLiteral("Photo")} + arguments,
+        ASSERT_TRUE(script.start(q(HALVERN_TEST_SCRIPTS "/printer-papers"),
+                                 QStringList{server.dir(), q("Photo")} + arguments,
                                  {{"HALVERN_PAPERS", HALVERN_PAPERS_TOOL}}));
         ASSERT_EQ(script.wait(), 0) << script.standardError().constData();
     }
@@ -73,7 +72,7 @@ protected:
     // Loads one cut sheet and one roll into the printer.
     bool loadPapers() const
     {
-        QFile list(server.dir() + QStringLiteral("/papers/Photo.json"));
+        QFile list(server.dir() + q("/papers/Photo.json"));
         const QByteArray papers = R"({"abilities": {"duplex": false, "extraFeatures": true}, "papers": [
             {"sheet": "Gloss A4", "resolutions": [300], "tones": [1]},
             {"roll": 152.4, "surfaces": [2], "resolutions": [610], "tones": [1]}]})";
@@ -81,14 +80,11 @@ protected:
                list.setPermissions(list.permissions() | QFileDevice::ReadOther);
     }
 
-    jobs::JobList jobsOf(jobs::Which which) const
-    {
-        return jobs::Server().jobs(QStringLiteral("Photo"), which);
-    }
+    jobs::JobList jobsOf(jobs::Which which) const { return jobs::Server().jobs(q("Photo"), which); }
 
     QByteArray commandFile(int job) const
     {
-        QFile file(server.jobFile(job, QStringLiteral("command")));
+        QFile file(server.jobFile(job, q("command")));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
@@ -122,7 +118,7 @@ TEST_F(RefreshOnServer, TheJobsEndBringsThePapers)
 {
     open(QString());
     ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
-    EXPECT_EQ(names()->itemText(0), QStringLiteral("Gloss A4"));
+    EXPECT_EQ(names()->itemText(0), q("Gloss A4"));
     EXPECT_TRUE(
         waitUntil([&] { return !panel->isWaitingOnPaper() && panel->progressIndicator()->isHidden(); }));
     const auto completed = jobsOf(jobs::Which::completed);
@@ -134,7 +130,7 @@ TEST_F(RefreshOnServer, TheJobsEndBringsThePapers)
 
 TEST_F(RefreshOnServer, HidingThePanelCancelsTheJob)
 {
-    open(QStringLiteral("?slow=9999"));
+    open(q("?slow=9999"));
     ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
     EXPECT_TRUE(panel->isWaitingOnPaper());
     EXPECT_TRUE(panel->shouldHide());
@@ -145,7 +141,7 @@ TEST_F(RefreshOnServer, HidingThePanelCancelsTheJob)
 
 TEST_F(RefreshOnServer, APanelThatGoesDuringTheJobLeavesNoneBehind)
 {
-    open(QStringLiteral("?slow=9999"));
+    open(q("?slow=9999"));
     ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
     panel->printWindowWillClose(true);
     EXPECT_TRUE(letGo());
@@ -154,7 +150,7 @@ TEST_F(RefreshOnServer, APanelThatGoesDuringTheJobLeavesNoneBehind)
 
 TEST_F(RefreshOnServer, AServerThatGoesDuringTheJobEndsTheWaiting)
 {
-    open(QStringLiteral("?slow=9999"));
+    open(q("?slow=9999"));
     ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
     ASSERT_TRUE(server.stop());
     EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
@@ -165,30 +161,30 @@ TEST_F(RefreshOnServer, NewsOfPapersReachesEveryOpenDialogAndOnlyChangesItsOwnPr
 {
     DistributedNotificationCenter& center = DistributedNotificationCenter::defaultCenter();
     int news = 0;
-    center.addObserver(&news, QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt,
+    center.addObserver(&news, q("VLXPrinterPaperDidUpdateNotification"), std::nullopt,
                        [&](const DistributedNotification&) { ++news; });
     ASSERT_TRUE(waitUntil([&] { return center.isConnected(); }));
     open(QString());
     ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1 && news == 1; }));
     center.removeObserver(&news);
-    addQueue(QStringLiteral("Other"), QStringLiteral("?slow=9999"));
-    const auto second = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Photo"));
-    const auto other = panelOn<RZFeaturesPDEHalvern>(QStringLiteral("Other"), QStringLiteral("?slow=9999"));
+    addQueue(q("Other"), q("?slow=9999"));
+    const auto second = panelOn<RZFeaturesPDEHalvern>(q("Photo"));
+    const auto other = panelOn<RZFeaturesPDEHalvern>(q("Other"), q("?slow=9999"));
     ASSERT_TRUE(
         waitUntil([&] { return menuOf(*second, kWidthTag) && menuOf(*second, kWidthTag)->count() == 1; }));
 
     const LogCapture log;
-    printerPapers({QStringLiteral("take-out"), QStringLiteral("rolls")});
+    printerPapers({q("take-out"), q("rolls")});
     for (const auto& each : {panel, second}) {
         EXPECT_TRUE(waitUntil([&] { return menuOf(*each, kWidthTag)->count() == 0; }));
         EXPECT_EQ(menuOf(*each, kNameTag)->count(), 1);
     }
-    const QString heard = QStringLiteral("entering -[RZFeaturesPDEHalvern newPaperDict:] for "
-                                         "VLXPrinterPaperDidUpdateNotification with object ") +
-                          uriOf(QStringLiteral("Photo"), QString());
+    const QString heard = q("entering -[RZFeaturesPDEHalvern newPaperDict:] for "
+                            "VLXPrinterPaperDidUpdateNotification with object ") +
+                          uriOf(q("Photo"), QString());
     // Twice by each of this printer's, once by the other's.
     EXPECT_TRUE(waitUntil([&] { return log.count(heard) == 5; }));
-    ASSERT_TRUE(waitUntil([&] { return log.count(QStringLiteral("received new paper dictionary")) == 2; }));
+    ASSERT_TRUE(waitUntil([&] { return log.count(q("received new paper dictionary")) == 2; }));
     EXPECT_FALSE(other->unsortedPaper());
     EXPECT_TRUE(other->shouldHide());
     EXPECT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
@@ -199,11 +195,11 @@ TEST_F(RefreshOnServer, ACatalogueThatBecomesCorruptLeavesThePapersAsTheyWere)
     open(QString());
     ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
     ASSERT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
-    addQueue(QStringLiteral("Photo"), QStringLiteral("?garbled"));
+    addQueue(q("Photo"), q("?garbled"));
     const auto held = panel->unsortedPaper();
     const LogCapture log;
-    printerPapers({QStringLiteral("report")});
-    EXPECT_TRUE(waitUntil([&] { return log.count(QStringLiteral("PDE recovered 0 Tessarin Papers")) > 0; }));
+    printerPapers({q("report")});
+    EXPECT_TRUE(waitUntil([&] { return log.count(q("PDE recovered 0 Tessarin Papers")) > 0; }));
     EXPECT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
     EXPECT_EQ(panel->unsortedPaper(), held);
     EXPECT_EQ(names()->count(), 1);
@@ -266,8 +262,8 @@ protected:
             });
             done.acquire();
         };
-        addQueue(QStringLiteral("Photo"), QString());
-        panel = panelOn<SteppedPanel>(QStringLiteral("Photo"));
+        addQueue(q("Photo"), QString());
+        panel = panelOn<SteppedPanel>(q("Photo"));
         ASSERT_TRUE(panel);
         ASSERT_TRUE(waitUntil([&] { return isDone->load(); }));
         ASSERT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));

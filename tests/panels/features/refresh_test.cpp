@@ -1,4 +1,5 @@
 #include "tests/panels/features/features_fixture.h"
+#include "tests/support/test.h"
 
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/notifications/notification_center.h"
@@ -36,7 +37,7 @@ QByteArray archiveOf(const QStringList& names)
     return archiveOfCatalogue(catalogueOf(records));
 }
 
-const QString kRecovered = QStringLiteral("PDE recovered %1 Tessarin Papers");
+const QString kRecovered = q("PDE recovered %1 Tessarin Papers");
 
 TEST(RefreshDate, DataAreStaleOnlyBeyondTwoMinutes)
 {
@@ -49,21 +50,21 @@ TEST(RefreshDate, DataAreStaleOnlyBeyondTwoMinutes)
 
 TEST(RefreshDate, ShowsTheTimeOfADayAndThenTheDay)
 {
-    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+    QLocale::setDefault(QLocale(q("en_US")));
     const QDateTime now(QDate(2024, 3, 10), QTime(13, 5));
-    EXPECT_EQ(refreshDateText(now.addSecs(-23 * 3600), now), QStringLiteral("2:05 PM"));
-    EXPECT_EQ(refreshDateText(now.addDays(-1), now), QStringLiteral("1:05 PM"));
-    EXPECT_EQ(refreshDateText(now.addSecs(-25 * 3600), now), QStringLiteral("2024/03/09"));
-    EXPECT_EQ(refreshDateText(now.addSecs(3600), now), QStringLiteral("2:05 PM"));
+    EXPECT_EQ(refreshDateText(now.addSecs(-23 * 3600), now), q("2:05 PM"));
+    EXPECT_EQ(refreshDateText(now.addDays(-1), now), q("1:05 PM"));
+    EXPECT_EQ(refreshDateText(now.addSecs(-25 * 3600), now), q("2024/03/09"));
+    EXPECT_EQ(refreshDateText(now.addSecs(3600), now), q("2:05 PM"));
     EXPECT_FALSE(refreshDateText(std::nullopt, now));
 }
 
 TEST(RefreshDate, ReadsStampsThatNoPrinterShouldWrite)
 {
-    EXPECT_EQ(dateOfTimeStamp(QStringLiteral("86400.5 s")), since2001(86400.5));
-    EXPECT_EQ(dateOfTimeStamp(QStringLiteral("soon")), since2001(0));
-    EXPECT_TRUE(dateOfTimeStamp(QStringLiteral("-1e300")).isValid());
-    EXPECT_TRUE(dateOfTimeStamp(QStringLiteral("1e999")).isValid());
+    EXPECT_EQ(dateOfTimeStamp(q("86400.5 s")), since2001(86400.5));
+    EXPECT_EQ(dateOfTimeStamp(q("soon")), since2001(0));
+    EXPECT_TRUE(dateOfTimeStamp(q("-1e300")).isValid());
+    EXPECT_TRUE(dateOfTimeStamp(q("1e999")).isValid());
 }
 
 TEST(RunLoopTimer, RepeatsUntilAnyThreadLetsItGo)
@@ -132,9 +133,9 @@ protected:
 TEST_F(Refresh, AsksAPrinterThatHasNeverReported)
 {
     makeAndCheck();
-    EXPECT_EQ(status(), QStringLiteral("Last updated never"));
+    EXPECT_EQ(status(), q("Last updated never"));
     ASSERT_TRUE(waitForJobs(1));
-    EXPECT_EQ(TestPrinter::taken().first(), QStringLiteral("ReportStatus,AutoConfigure"));
+    EXPECT_EQ(TestPrinter::taken().first(), q("ReportStatus,AutoConfigure"));
     EXPECT_TRUE(isStatusShown());
     EXPECT_TRUE(panel->isWaitingOnPaper());
 }
@@ -142,10 +143,10 @@ TEST_F(Refresh, AsksAPrinterThatHasNeverReported)
 TEST_F(Refresh, ShowsWhatAPrinterReportedAMinuteAgoWithoutAsking)
 {
     TestPrinter::say("VLXTimeStamp", stampOfAge(60));
-    TestPrinter::load(archiveOf({QStringLiteral("Gloss"), QStringLiteral("Matte")}));
+    TestPrinter::load(archiveOf({q("Gloss"), q("Matte")}));
     makeAndCheck();
     ASSERT_TRUE(waitUntil([&] { return menu(kNameTag)->count() == 2; }));
-    EXPECT_TRUE(status().startsWith(QStringLiteral("Last updated ")));
+    EXPECT_TRUE(status().startsWith(q("Last updated ")));
     EXPECT_TRUE(TestPrinter::taken().isEmpty());
     EXPECT_FALSE(isTurning());
     EXPECT_FALSE(isStatusShown());
@@ -154,16 +155,16 @@ TEST_F(Refresh, ShowsWhatAPrinterReportedAMinuteAgoWithoutAsking)
 TEST_F(Refresh, ShowsTheOldPapersFirstAndTheNewOnesWhenTheJobEnds)
 {
     TestPrinter::say("VLXTimeStamp", stampOfAge(600));
-    TestPrinter::load(archiveOf({QStringLiteral("Old")}));
+    TestPrinter::load(archiveOf({q("Old")}));
     makeAndCheck();
     ASSERT_TRUE(waitForJobs(1));
-    ASSERT_TRUE(waitUntil([&] { return titles(kNameTag) == QStringList{QStringLiteral("Old")}; }));
-    TestPrinter::load(archiveOf({QStringLiteral("New")}));
+    ASSERT_TRUE(waitUntil([&] { return titles(kNameTag) == QStringList{q("Old")}; }));
+    TestPrinter::load(archiveOf({q("New")}));
     const LogCapture log;
     complete();
-    EXPECT_EQ(titles(kNameTag), QStringList{QStringLiteral("New")});
+    EXPECT_EQ(titles(kNameTag), QStringList{q("New")});
     EXPECT_FALSE(isStatusShown());
-    EXPECT_EQ(log.count(QStringLiteral("-[RZFeaturesPDEHalvern ppdDidUpdate] ...")), 1);
+    EXPECT_EQ(log.count(q("-[RZFeaturesPDEHalvern ppdDidUpdate] ...")), 1);
     // No further check until the panel is shown again.
     panel->shouldHide();
     panel->willShow();
@@ -176,7 +177,7 @@ TEST_F(Refresh, LeavesTheOldTimeToBeSeenWhenTheJobFails)
     ASSERT_TRUE(waitForJobs(1));
     abort();
     EXPECT_TRUE(isStatusShown());
-    EXPECT_EQ(status(), QStringLiteral("Last updated never"));
+    EXPECT_EQ(status(), q("Last updated never"));
 }
 
 TEST_F(Refresh, WaitsForAJobThatWasNeverSentUntilThePanelIsHidden)
@@ -199,7 +200,7 @@ TEST_F(Refresh, WaitsForAJobThatWasNeverSentUntilThePanelIsHidden)
 TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
 {
     TestPrinter::say("VLXTimeStamp", stampOfAge(60));
-    TestPrinter::load(archiveOf({QStringLiteral("Kept")}));
+    TestPrinter::load(archiveOf({q("Kept")}));
     makeAndCheck();
     ASSERT_TRUE(waitUntil([&] { return menu(kNameTag)->count() == 1; }));
     const auto held = panel->unsortedPaper();
@@ -209,14 +210,14 @@ TEST_F(Refresh, KeepsTheCatalogueWhenTheNewOneIsCorruptOrEmptyOrTheSame)
         panel->updatePaperDict();
     }
     EXPECT_EQ(log.count(kRecovered.arg(0)), 3);
-    TestPrinter::load(archiveOf({QStringLiteral("Kept")}));
-    panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
+    TestPrinter::load(archiveOf({q("Kept")}));
+    panel->newPaperDict({q("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     drainMainQueue();
     EXPECT_EQ(panel->unsortedPaper(), held);
-    EXPECT_EQ(log.count(QStringLiteral("received new paper dictionary")), 0);
-    EXPECT_EQ(log.count(QStringLiteral("entering -[RZFeaturesPDEHalvern newPaperDict:] for "
-                                       "VLXPrinterPaperDidUpdateNotification with object (null)")),
+    EXPECT_EQ(log.count(q("received new paper dictionary")), 0);
+    EXPECT_EQ(log.count(q("entering -[RZFeaturesPDEHalvern newPaperDict:] for "
+                          "VLXPrinterPaperDidUpdateNotification with object (null)")),
               1);
 }
 
@@ -224,10 +225,10 @@ TEST_F(Refresh, ReadsNewsOfPapersOffTheMainThread)
 {
     make();
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
-    TestPrinter::load(archiveOf({QStringLiteral("Gloss")}));
+    TestPrinter::load(archiveOf({q("Gloss")}));
     TestPrinter::hold();
     // On the main thread, nothing would be held.
-    panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
+    panel->newPaperDict({q("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
     EXPECT_TRUE(waitUntil([] { return TestPrinter::isSomebodyHeld(); }));
     EXPECT_FALSE(panel->unsortedPaper());
     TestPrinter::goOn();
@@ -237,14 +238,14 @@ TEST_F(Refresh, ReadsNewsOfPapersOffTheMainThread)
 TEST_F(Refresh, TellsTextsFromNumbersWhenCataloguesAreCompared)
 {
     make();
-    QVariantMap record = sheetRecord(QStringLiteral("Gloss"), 300);
+    QVariantMap record = sheetRecord(q("Gloss"), 300);
     panel->setUnsortedPaper(std::make_shared<const PaperCatalogue>(catalogueOf({record})));
-    record.insert(QStringLiteral("paperResolution"), QStringLiteral("3000"));
+    record.insert(q("paperResolution"), q("3000"));
     TestPrinter::load(archiveOfCatalogue(catalogueOf({record})));
     const LogCapture log;
     panel->updatePaperDict();
     drainMainQueue();
-    EXPECT_EQ(log.count(QStringLiteral("received new paper dictionary")), 1);
+    EXPECT_EQ(log.count(q("received new paper dictionary")), 1);
 }
 
 TEST_F(Refresh, StopsWhenThePlugInUnloads)
@@ -253,12 +254,11 @@ TEST_F(Refresh, StopsWhenThePlugInUnloads)
     ASSERT_TRUE(waitForJobs(1));
     const LogCapture log;
     int other = 0;
-    NotificationCenter::defaultCenter().post(QStringLiteral("com.halvern.vlx.PDEPluginIsUnloading"), &other);
+    NotificationCenter::defaultCenter().post(q("com.halvern.vlx.PDEPluginIsUnloading"), &other);
     EXPECT_TRUE(panel->isUnloading());
-    EXPECT_EQ(log.count(QStringLiteral("got notification to unload ")), 1);
-    NotificationCenter::defaultCenter().post(QStringLiteral("com.halvern.vlx.PDEPluginIsUnloading"),
-                                             host.get());
-    EXPECT_EQ(log.count(QStringLiteral("got notification to unload ")), 3);
+    EXPECT_EQ(log.count(q("got notification to unload ")), 1);
+    NotificationCenter::defaultCenter().post(q("com.halvern.vlx.PDEPluginIsUnloading"), host.get());
+    EXPECT_EQ(log.count(q("got notification to unload ")), 3);
     EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper() && !isTurning(); }));
 }
 

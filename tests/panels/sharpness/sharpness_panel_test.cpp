@@ -3,16 +3,13 @@
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/view_search.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionSlider>
-#include <QTest>
 #include <QVBoxLayout>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 
@@ -71,8 +68,8 @@ protected:
 TEST_F(SharpnessPanelTest, ShowsWhatIsStoredAndAsksTheHostNothing)
 {
     EXPECT_DOUBLE_EQ(slider(1)->realValue(), 2.0);
-    EXPECT_EQ(field(1)->text(), QStringLiteral("2"));
-    EXPECT_EQ(field(2)->text(), QStringLiteral("1.00"));
+    EXPECT_EQ(field(1)->text(), q("2"));
+    EXPECT_EQ(field(2)->text(), q("1.00"));
     EXPECT_TRUE(button(0x200)->isChecked());
     EXPECT_EQ(slider(2)->maximumValue(), 3.5) << "the PPD's, not the layout's";
     EXPECT_TRUE(host->asked.isEmpty());
@@ -99,38 +96,38 @@ TEST_F(SharpnessPanelTest, DraggingASliderStoresTheFormattedValueAndShowsItInThe
     EXPECT_EQ(host->asked.last().second.toString(), stored("SharpnessIntensity"));
     slider(1)->setFocus();
     QTest::keyClick(slider(1), Qt::Key_Right);
-    EXPECT_EQ(stored("SharpnessRadius"), QStringLiteral("3"));
-    EXPECT_EQ(field(1)->text(), QStringLiteral("3"));
+    EXPECT_EQ(stored("SharpnessRadius"), q("3"));
+    EXPECT_EQ(field(1)->text(), q("3"));
 }
 
 TEST_F(SharpnessPanelTest, EachKeystrokeIsOneChoiceAndTheCaretStays)
 {
     typeInto(field(1), "1");
     EXPECT_EQ(host->asked.size(), 1);
-    QTest::keyClicks(field(1), QStringLiteral("0"));
+    QTest::keyClicks(field(1), q("0"));
     EXPECT_EQ(host->asked.size(), 2);
-    EXPECT_EQ(field(1)->text(), QStringLiteral("10"));
-    EXPECT_EQ(stored("SharpnessRadius"), QStringLiteral("10"));
+    EXPECT_EQ(field(1)->text(), q("10"));
+    EXPECT_EQ(stored("SharpnessRadius"), q("10"));
     EXPECT_DOUBLE_EQ(slider(1)->realValue(), 10.0);
     typeInto(field(2), "2");
-    EXPECT_EQ(field(2)->text(), QStringLiteral("2.00"));
-    EXPECT_EQ(stored("SharpnessIntensity"), QStringLiteral("2.00"));
+    EXPECT_EQ(field(2)->text(), q("2.00"));
+    EXPECT_EQ(stored("SharpnessIntensity"), q("2.00"));
     EXPECT_EQ(beeps.count, 0);
 }
 
 TEST_F(SharpnessPanelTest, EndingTheEditNormalisesOnceAndASecondEndChangesNothing)
 {
     typeInto(field(2), "3");
-    field(2)->setText(QStringLiteral("3.456"));
+    field(2)->setText(q("3.456"));
     QTest::keyClick(field(2), Qt::Key_Return);
-    EXPECT_EQ(field(2)->text(), QStringLiteral("3.46"));
-    EXPECT_EQ(stored("SharpnessIntensity"), QStringLiteral("3.46"));
+    EXPECT_EQ(field(2)->text(), q("3.46"));
+    EXPECT_EQ(stored("SharpnessIntensity"), q("3.46"));
     const qsizetype asked = host->asked.size();
     slider(1)->setFocus();
     EXPECT_EQ(host->asked.size(), asked);
-    field(2)->setText(QStringLiteral("-1"));
+    field(2)->setText(q("-1"));
     panel->changePrinterSetting(field(2));
-    EXPECT_EQ(stored("SharpnessIntensity"), QStringLiteral("1.00")) << "there is no negative intensity";
+    EXPECT_EQ(stored("SharpnessIntensity"), q("1.00")) << "there is no negative intensity";
     const qsizetype askedBefore = host->asked.size();
     // Passing through a field without touching it proposes nothing.
     field(2)->setFocus();
@@ -141,32 +138,31 @@ TEST_F(SharpnessPanelTest, EndingTheEditNormalisesOnceAndASecondEndChangesNothin
 TEST_F(SharpnessPanelTest, TheToggleSwitchesTheControlsAndStoresItsChoice)
 {
     QTest::mouseClick(button(0x200), Qt::LeftButton, {}, QPoint(8, button(0x200)->height() / 2));
-    EXPECT_EQ(stored("SharpnessEnabled"), QStringLiteral("False"));
-    EXPECT_EQ(ppd::markedChoice(host->ppdFile(), QStringLiteral("SharpnessEnabled"))->keyword,
-              QStringLiteral("False"));
+    EXPECT_EQ(stored("SharpnessEnabled"), q("False"));
+    EXPECT_EQ(ppd::markedChoice(host->ppdFile(), q("SharpnessEnabled"))->keyword, q("False"));
     for (const int tag : {1, 2, 0x141, 0x142, 0x281, 0x282, 0x1401, 0x1402})
         EXPECT_FALSE(viewWithTag(panel->panelView(), tag)->isEnabled()) << tag;
     QTest::keyClick(button(0x200), Qt::Key_Space);
-    EXPECT_EQ(stored("SharpnessEnabled"), QStringLiteral("True"));
+    EXPECT_EQ(stored("SharpnessEnabled"), q("True"));
     EXPECT_TRUE(slider(1)->isEnabled());
 }
 
 TEST_F(SharpnessPanelTest, StepButtonsStepByOneAndStopAtTheLimits)
 {
     QTest::mouseClick(button(0x1402), Qt::LeftButton);
-    EXPECT_EQ(stored("SharpnessIntensity"), QStringLiteral("2.00"));
-    EXPECT_EQ(field(2)->text(), QStringLiteral("2.00"));
+    EXPECT_EQ(stored("SharpnessIntensity"), q("2.00"));
+    EXPECT_EQ(field(2)->text(), q("2.00"));
     slider(1)->setRealValue(0);
     QTest::mouseClick(button(0x281), Qt::LeftButton);
-    EXPECT_EQ(stored("SharpnessRadius"), QStringLiteral("2"));
+    EXPECT_EQ(stored("SharpnessRadius"), q("2"));
     EXPECT_EQ(beeps.count, 0);
 }
 
 TEST_F(SharpnessPanelTest, MapsRadiusChoicesToMatrixCells)
 {
-    EXPECT_EQ(panel->tagForStringValue(QStringLiteral("2")), 4);
+    EXPECT_EQ(panel->tagForStringValue(q("2")), 4);
     EXPECT_EQ(panel->tagForStringValue({}), 0);
-    EXPECT_EQ(panel->ppdChoiceForTag(5).toString(), QStringLiteral("3"));
+    EXPECT_EQ(panel->ppdChoiceForTag(5).toString(), q("3"));
 }
 
 TEST_F(SharpnessPanelTest, EveryControlCanBeReachedAndHasAName)

@@ -4,13 +4,10 @@
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/view_search.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 namespace {
@@ -63,7 +60,7 @@ protected:
     void switchOn()
     {
         click(tags::kToggle);
-        ASSERT_EQ(stored("AdjustmentsEnabled"), QStringLiteral("True"));
+        ASSERT_EQ(stored("AdjustmentsEnabled"), q("True"));
     }
 
     BeepCounter beeps;
@@ -75,13 +72,12 @@ protected:
 TEST_F(ColorAdjustPanel, ANumberTypedIntoAFieldIsStoredAsTypedAndMovesItsSlider)
 {
     switchOn();
-    for (const auto& [text, number] :
-         {std::pair(QStringLiteral("abc"), 0.0), {QStringLiteral("0.850 "), 0.85}}) {
+    for (const auto& [text, number] : {std::pair(q("abc"), 0.0), {q("0.850 "), 0.85}}) {
         type(7, text);
         EXPECT_EQ(stored("Gamma"), text);
         EXPECT_EQ(field(7)->text(), text);
         EXPECT_EQ(slider(7)->realValue(), number);
-        EXPECT_EQ(host->asked.last(), qMakePair(QStringLiteral("Gamma"), QVariant(text)));
+        EXPECT_EQ(host->asked.last(), qMakePair(q("Gamma"), QVariant(text)));
     }
     EXPECT_EQ(beeps.count, 0);
 }
@@ -90,15 +86,15 @@ TEST_F(ColorAdjustPanel, SlidersAndStepButtonsWriteTheirNumberIntoTheField)
 {
     switchOn();
     QTest::keyClick(slider(2), Qt::Key_Left);
-    EXPECT_EQ(stored("Green"), QStringLiteral("-1"));
-    EXPECT_EQ(field(2)->text(), QStringLiteral("-1"));
+    EXPECT_EQ(stored("Green"), q("-1"));
+    EXPECT_EQ(field(2)->text(), q("-1"));
     click(tags::kIncrement + 3);
-    EXPECT_EQ(stored("Blue"), QStringLiteral("1"));
+    EXPECT_EQ(stored("Blue"), q("1"));
     click(tags::kDecrement + 3);
-    EXPECT_EQ(field(3)->text(), QStringLiteral("0"));
+    EXPECT_EQ(field(3)->text(), q("0"));
     QTest::keyClick(slider(7), Qt::Key_Right);
-    EXPECT_EQ(stored("Gamma"), QStringLiteral("1.05"));
-    EXPECT_EQ(field(7)->text(), QStringLiteral("1.05"));
+    EXPECT_EQ(stored("Gamma"), q("1.05"));
+    EXPECT_EQ(field(7)->text(), q("1.05"));
 }
 
 TEST_F(ColorAdjustPanel, TheToggleSwitchesEveryControlThatBelongsToAnAdjustment)
@@ -116,7 +112,7 @@ TEST_F(ColorAdjustPanel, TheToggleSwitchesEveryControlThatBelongsToAnAdjustment)
     switchOn();
     EXPECT_TRUE(allEnabled(true));
     click(tags::kToggle);
-    EXPECT_EQ(stored("AdjustmentsEnabled"), QStringLiteral("False"));
+    EXPECT_EQ(stored("AdjustmentsEnabled"), q("False"));
     EXPECT_TRUE(allEnabled(false));
     EXPECT_TRUE(tagged(tags::kToggle)->isEnabled());
     EXPECT_TRUE(tagged(tags::kRestoreDefaults)->isEnabled());
@@ -125,16 +121,16 @@ TEST_F(ColorAdjustPanel, TheToggleSwitchesEveryControlThatBelongsToAnAdjustment)
 TEST_F(ColorAdjustPanel, RestoringDefaultsOffersThemInTheSavingOrderAndShowsThem)
 {
     switchOn();
-    type(4, QStringLiteral("40"));
-    type(7, QStringLiteral("3"));
+    type(4, q("40"));
+    type(7, q("3"));
     host->asked.clear();
     click(tags::kRestoreDefaults);
     QStringList offered;
     for (const auto& [key, choice] : host->asked)
         offered.append(key + u'=' + choice.toString());
-    EXPECT_EQ(offered.join(u' '), QStringLiteral("Brightness=0 Contrast=0 Saturation=0 Gamma=1.0 Red=0 "
-                                                 "Green=0 Blue=0 AdjustmentsEnabled=False"));
-    EXPECT_EQ(field(4)->text(), QStringLiteral("0"));
+    EXPECT_EQ(offered.join(u' '), q("Brightness=0 Contrast=0 Saturation=0 Gamma=1.0 Red=0 "
+                                    "Green=0 Blue=0 AdjustmentsEnabled=False"));
+    EXPECT_EQ(field(4)->text(), q("0"));
     EXPECT_EQ(slider(7)->realValue(), 1.0);
     EXPECT_FALSE(control::asButton(tagged(tags::kToggle))->isChecked());
 }
@@ -142,15 +138,12 @@ TEST_F(ColorAdjustPanel, RestoringDefaultsOffersThemInTheSavingOrderAndShowsThem
 TEST_F(ColorAdjustPanel, TheSummaryNeverShowsTheInternalSwitch)
 {
     class WithSwitch : public RZColorAdjustPDEHalvern {
-        QStringList supportedPPDOptionKeys() override
-        {
-            return {QStringLiteral("Red"), QStringLiteral("AllowCUPS11")};
-        }
+        QStringList supportedPPDOptionKeys() override { return {q("Red"), q("AllowCUPS11")}; }
     };
 
     const auto withSwitch = makePanel<WithSwitch>(
         std::make_shared<FakeHost>(colorPpd() + ppdOption("AllowCUPS11", {"Yes", "No"})));
-    EXPECT_EQ(withSwitch->summaryInfo().keys(), QStringList{QStringLiteral("Red")});
+    EXPECT_EQ(withSwitch->summaryInfo().keys(), QStringList{q("Red")});
 }
 
 struct RangeCase {

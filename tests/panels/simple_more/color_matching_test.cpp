@@ -2,12 +2,9 @@
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/view_search.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
+#include "tests/support/test.h"
 
 #include <QComboBox>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 namespace {
@@ -25,19 +22,18 @@ QComboBox* matchingMenu(RZColorMatchingPDEHalvern& panel)
 
 TEST(ColorMatchingPanel, OffersThePpdsModesAndStoresTheOneThatTheUserPicks)
 {
-    useBuiltBundle(QStringLiteral("de_DE"));
+    useBuiltBundle(q("de_DE"));
     const auto host = std::make_shared<FakeHost>(matchingPpd());
     const auto panel = makePanel<RZColorMatchingPDEHalvern>(host);
-    EXPECT_EQ(panel->panelName(), QStringLiteral("Farbangleichung"));
-    EXPECT_EQ(panel->panelKind(), QStringLiteral("com.halvern.print.pde.info"));
+    EXPECT_EQ(panel->panelName(), q("Farbangleichung"));
+    EXPECT_EQ(panel->panelKind(), q("com.halvern.print.pde.info"));
     panel->restoreValuesAndReturnError(nullptr);
     panel->willShow();
     QComboBox* menu = matchingMenu(*panel);
     ASSERT_EQ(menu->count(), 2);
-    EXPECT_EQ(menu->currentText(), QStringLiteral("Durch das Programm"));
+    EXPECT_EQ(menu->currentText(), q("Durch das Programm"));
     QTest::keyClick(menu, Qt::Key_Down);
-    EXPECT_EQ(panel->choices()->value(QStringLiteral("AP_ColorMatchingMode")),
-              QVariant(QStringLiteral("AP_VendorColorMatching")));
+    EXPECT_EQ(panel->choices()->value(q("AP_ColorMatchingMode")), QVariant(q("AP_VendorColorMatching")));
     EXPECT_EQ(host->asked.size(), 1);
 }
 
@@ -48,7 +44,7 @@ TEST(ColorMatchingPanel, KeepsItsOwnItemsIfThePpdHasNoSuchOption)
     const auto panel = makePanel<RZColorMatchingPDEHalvern>(host);
     panel->restoreValuesAndReturnError(nullptr);
     panel->willShow();
-    EXPECT_EQ(matchingMenu(*panel)->currentText(), QStringLiteral("As the printer is set up"));
+    EXPECT_EQ(matchingMenu(*panel)->currentText(), q("As the printer is set up"));
     EXPECT_TRUE(host->asked.isEmpty());
 }
 

@@ -1,13 +1,11 @@
 #include "panels/simple/cover_page_panel.h"
 #include "tests/support/fake_host.h"
-#include "tests/support/observers.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
 namespace {
 
-const QString kSheets = QStringLiteral("job-sheets");
+const QString kSheets = q("job-sheets");
 
 // Counts writes, and fails or forgets on demand.
 class WatchedSettings : public PrintSettings {
@@ -51,30 +49,30 @@ protected:
 
 TEST_F(CoverPagePanel, AsksForNoneWhenCreatedRestoredAndSaved)
 {
-    ask(QStringLiteral("standard"));
+    ask(q("standard"));
     const auto panel = makePanel<RZUnavailablePDEHalvern>(host);
     ASSERT_NE(panel, nullptr);
-    EXPECT_EQ(panel->panelKind(), QStringLiteral("com.apple.print.pde.CoverPageKind")) << "the system's own";
-    const auto nowNone = [this] { return settings->values().value(kSheets) == QStringLiteral("None"); };
+    EXPECT_EQ(panel->panelKind(), q("com.apple.print.pde.CoverPageKind")) << "the system's own";
+    const auto nowNone = [this] { return settings->values().value(kSheets) == q("None"); };
     EXPECT_TRUE(nowNone());
-    ask(QStringLiteral("classified"));
+    ask(q("classified"));
     EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
     EXPECT_TRUE(nowNone());
-    ask(QStringLiteral("secret"));
+    ask(q("secret"));
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
     EXPECT_TRUE(nowNone());
     EXPECT_EQ(settings->writes, 3);
     EXPECT_EQ(log.lines().join(u'|'),
-              QStringLiteral("Print settings:job-sheets = standard|After change ... job-sheets = None|"
-                             "Print settings:job-sheets = classified|After change ... job-sheets = None|"
-                             "Print settings:job-sheets = secret|After change ... job-sheets = None"));
+              q("Print settings:job-sheets = standard|After change ... job-sheets = None|"
+                "Print settings:job-sheets = classified|After change ... job-sheets = None|"
+                "Print settings:job-sheets = secret|After change ... job-sheets = None"));
     EXPECT_EQ(settings->values().keys(), QStringList{kSheets}) << "nothing else is saved";
 }
 
 TEST_F(CoverPagePanel, LeavesSettingsAloneThatAskForNoCoverPage)
 {
     const auto panel = makePanel<RZUnavailablePDEHalvern>(host);
-    ask(QStringLiteral("None"));
+    ask(q("None"));
     panel->restoreValuesAndReturnError(nullptr);
     panel->saveValuesAndReturnError(nullptr);
     host->settings.reset();
@@ -85,15 +83,15 @@ TEST_F(CoverPagePanel, LeavesSettingsAloneThatAskForNoCoverPage)
 
 TEST_F(CoverPagePanel, SaysWhatWentWrong)
 {
-    ask(QStringLiteral("standard"));
+    ask(q("standard"));
     settings->refuses = true;
     const auto panel = makePanel<RZUnavailablePDEHalvern>(host);
-    EXPECT_EQ(log.count(QStringLiteral("error setting PMPrintSettings value for job-sheets")), 1);
-    EXPECT_EQ(log.count(QStringLiteral("After change ... job-sheets = standard")), 1);
+    EXPECT_EQ(log.count(q("error setting PMPrintSettings value for job-sheets")), 1);
+    EXPECT_EQ(log.count(q("After change ... job-sheets = standard")), 1);
     settings->forgetsOnWrite = true;
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
-    EXPECT_EQ(log.count(QStringLiteral("error getting PMPrintSettings value for job-sheets")), 1);
-    EXPECT_EQ(log.count(QStringLiteral("After change ... job-sheets = (null)")), 1);
+    EXPECT_EQ(log.count(q("error getting PMPrintSettings value for job-sheets")), 1);
+    EXPECT_EQ(log.count(q("After change ... job-sheets = (null)")), 1);
 }
 
 TEST_F(CoverPagePanel, DoesNothingForAHostThatCannotCheckConstraints)
@@ -102,7 +100,7 @@ TEST_F(CoverPagePanel, DoesNothingForAHostThatCannotCheckConstraints)
         ppd_file_t* getPPDOnTiger() override { return pdePluginCallbackObject->ppdFile(); }
     };
 
-    ask(QStringLiteral("standard"));
+    ask(q("standard"));
     host->responds = false;
     const auto panel = makePanel<Legacy>(host);
     ASSERT_NE(panel, nullptr);

@@ -1,12 +1,9 @@
 #include "platform/foundation/archive/keyed_unarchiver.h"
+#include "tests/support/test.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 
@@ -14,7 +11,7 @@ namespace {
 
 QByteArray contentOf(const QString& file)
 {
-    QFile source(QDir(QStringLiteral(HALVERN_FIXTURES)).filePath(file));
+    QFile source(QDir(q(HALVERN_FIXTURES)).filePath(file));
     EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << qPrintable(file);
     return source.readAll();
 }
@@ -29,16 +26,15 @@ QJsonObject described(const QVariant& value)
         const QVariantMap map = value.toMap();
         for (auto entry = map.begin(); entry != map.end(); ++entry)
             entries.insert(entry.key(), described(entry.value()));
-        return {{QStringLiteral("type"), QStringLiteral("dict")}, {QStringLiteral("value"), entries}};
+        return {{q("type"), q("dict")}, {q("value"), entries}};
     }
     case QMetaType::QString:
-        return {{QStringLiteral("type"), QStringLiteral("string")},
-                {QStringLiteral("value"), value.toString()}};
+        return {{q("type"), q("string")}, {q("value"), value.toString()}};
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-        return {{QStringLiteral("type"), QStringLiteral("int")}, {QStringLiteral("value"), value.toDouble()}};
+        return {{q("type"), q("int")}, {q("value"), value.toDouble()}};
     default:
-        return {{QStringLiteral("type"), QString::fromLatin1(value.typeName())}};
+        return {{q("type"), QString::fromLatin1(value.typeName())}};
     }
 }
 
@@ -46,23 +42,22 @@ QJsonObject described(const QVariant& value)
 
 TEST(KeyedUnarchiverFixtures, EachFileHoldsWhatItsWriterPutIn)
 {
-    const QDir folder(QStringLiteral(HALVERN_FIXTURES));
+    const QDir folder(q(HALVERN_FIXTURES));
     int files = 0;
-    for (const QString& name : folder.entryList({QStringLiteral("*.json")})) {
+    for (const QString& name : folder.entryList({q("*.json")})) {
         const QJsonObject expected = QJsonDocument::fromJson(contentOf(name)).object();
-        for (const QJsonValue& file : expected[QStringLiteral("files")].toArray()) {
+        for (const QJsonValue& file : expected[q("files")].toArray()) {
             SCOPED_TRACE(qPrintable(file.toString()));
             ++files;
             const auto result = KeyedUnarchiver::unarchiveDictionary(contentOf(file.toString()));
-            if (!expected[QStringLiteral("catalogue")].toBool()) {
+            if (!expected[q("catalogue")].toBool()) {
                 EXPECT_FALSE(result.root);
-                EXPECT_EQ(result.failure, QStringLiteral("corrupt: its root is not a dictionary"));
+                EXPECT_EQ(result.failure, q("corrupt: its root is not a dictionary"));
                 continue;
             }
             ASSERT_TRUE(result.root) << qPrintable(result.failure);
-            EXPECT_EQ(result.root->size(), expected[QStringLiteral("record_count")].toInt());
-            EXPECT_EQ(described(*result.root)[QStringLiteral("value")].toObject(),
-                      expected[QStringLiteral("records")].toObject());
+            EXPECT_EQ(result.root->size(), expected[q("record_count")].toInt());
+            EXPECT_EQ(described(*result.root)[q("value")].toObject(), expected[q("records")].toObject());
         }
     }
     EXPECT_GE(files, 10);
@@ -70,10 +65,10 @@ TEST(KeyedUnarchiverFixtures, EachFileHoldsWhatItsWriterPutIn)
 
 TEST(KeyedUnarchiverFixtures, AFileCutAnywhereIsCorrupt)
 {
-    const QByteArray binary = contentOf(QStringLiteral("platform_mutable.bin.plist"));
+    const QByteArray binary = contentOf(q("platform_mutable.bin.plist"));
     for (qsizetype size = 0; size < binary.size(); ++size)
         ASSERT_FALSE(KeyedUnarchiver::unarchiveDictionary(binary.first(size)).root) << size;
-    const QByteArray xml = contentOf(QStringLiteral("mutable_strings.xml.plist")).trimmed();
+    const QByteArray xml = contentOf(q("mutable_strings.xml.plist")).trimmed();
     for (qsizetype size = 0; size < xml.size(); ++size)
         ASSERT_FALSE(KeyedUnarchiver::unarchiveDictionary(xml.first(size)).root) << size;
 }

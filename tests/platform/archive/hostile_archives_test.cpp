@@ -1,8 +1,7 @@
 #include "platform/foundation/archive/keyed_unarchiver.h"
 #include "tests/platform/archive/archive_assembler.h"
 #include "tests/platform/archive/peak_memory.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <tuple>
 
@@ -33,7 +32,7 @@ void expectCorrupt(const char* name, const QByteArray& archive, const char* word
     SCOPED_TRACE(name);
     const KeyedUnarchiver::Result result = readWithinLimits(archive);
     EXPECT_FALSE(result.root);
-    EXPECT_TRUE(result.failure.startsWith(QStringLiteral("corrupt: ")) &&
+    EXPECT_TRUE(result.failure.startsWith(q("corrupt: ")) &&
                 result.failure.contains(QLatin1StringView(words)))
         << qPrintable(result.failure);
 }
@@ -277,9 +276,7 @@ TEST(HostileArchives, ManyHonestPapersTakeMemoryInProportion)
     const auto peak = test::peakMemoryOf([&] { result = KeyedUnarchiver::unarchiveDictionary(archive); });
     ASSERT_TRUE(result.root) << qPrintable(result.failure);
     EXPECT_EQ(result.root->size(), 30'000);
-    EXPECT_EQ(result.root->value(QStringLiteral("Photo Paper 29999-r300"))
-                  .toMap()
-                  .value(QStringLiteral("paperWidth")),
+    EXPECT_EQ(result.root->value(q("Photo Paper 29999-r300")).toMap().value(q("paperWidth")),
               QVariant(qint64(30'999)));
     EXPECT_LT(peak.value_or(0), 10u * std::size_t(archive.size()));
 }

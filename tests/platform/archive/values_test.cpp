@@ -1,9 +1,8 @@
 #include "platform/foundation/archive/keyed_unarchiver.h"
 #include "tests/platform/archive/archive_assembler.h"
+#include "tests/support/test.h"
 
 #include <QDateTime>
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <limits>
@@ -22,9 +21,9 @@ QVariant decodedField(const QByteArray& archive)
     const auto result = KeyedUnarchiver::unarchiveDictionary(archive);
     EXPECT_TRUE(result.root) << qPrintable(result.failure);
     if (!result.root)
-        return QStringLiteral("corrupt");
+        return q("corrupt");
     EXPECT_EQ(result.root->size(), 1);
-    return result.root->value(QStringLiteral("paper")).toMap().value(QStringLiteral("field"));
+    return result.root->value(q("paper")).toMap().value(q("field"));
 }
 
 QDateTime moment(const char* text)
@@ -58,7 +57,7 @@ TEST(KeyedUnarchiverValues, BinaryValuesKeepTheirKind)
         {QByteArray("\x09"), true},
         {QByteArray("\x43\x00\x01\x02", 4), QByteArray("\x00\x01\x02", 3)},
         {halfDay, moment("2001-01-01T12:00:00Z")},
-        {QByteArray("\x50"), QStringLiteral("")},
+        {QByteArray("\x50"), q("")},
         {QByteArray("\x53\xE7\xB4\x99"), QStringLiteral(u"紙")},
         {QByteArray("\x73\xE7\xB4\x99"), QStringLiteral(u"紙")},
         {QByteArray("\x62\xD8\x3D\xDC\x04"), QStringLiteral(u"🐄")},
@@ -87,7 +86,7 @@ TEST(KeyedUnarchiverValues, XmlValuesKeepTheirKind)
         {"<true/>", true},
         {"<date>2026-02-28T06:30:00Z</date>", moment("2026-02-28T06:30:00Z")},
         {"<data>\n AAEC\n </data>", QByteArray("\x00\x01\x02", 3)},
-        {"<string/>", QStringLiteral("")},
+        {"<string/>", q("")},
         {"<string>a &lt;b&gt; &amp;&#x7D19;<!-- no --><![CDATA[<c>]]></string>",
          QStringLiteral(u"a <b> &紙<c>")},
     };
@@ -118,8 +117,8 @@ TEST(KeyedUnarchiverValues, ObjectsAreReadByTheirClass)
     const int null = archive.archivedInstance("NSNull", "any", archive.integer(3));
     const int list = archive.archivedList(
         {wrapped, distant, data, date, wholeDate, number, set, unknown, null, 0, one}, "NSMutableArray");
-    const QVariantList expected{QStringLiteral("inline"),
-                                QStringLiteral("far"),
+    const QVariantList expected{q("inline"),
+                                q("far"),
                                 QByteArray("hi"),
                                 moment("2001-01-01T00:00:00Z"),
                                 moment("2000-12-31T23:59:00Z"),
@@ -168,7 +167,7 @@ TEST(KeyedUnarchiverValues, EntriesWithoutAKeyOrValueAreLeftOutAndTheLastOfEqual
         archive.archivedDictionary({first, last, number, 0, again}, {number, unknown, number, number, last}));
     const auto result = KeyedUnarchiver::unarchiveDictionary(bytes);
     ASSERT_TRUE(result.root) << qPrintable(result.failure);
-    EXPECT_EQ(*result.root, (QVariantMap{{QStringLiteral("first"), QStringLiteral("last")}}));
+    EXPECT_EQ(*result.root, (QVariantMap{{q("first"), q("last")}}));
 }
 
 TEST(KeyedUnarchiverValues, ReferencesMayHaveOneToEightBytesAndPointBackOrForth)
@@ -183,8 +182,7 @@ TEST(KeyedUnarchiverValues, ReferencesMayHaveOneToEightBytesAndPointBackOrForth)
             archive.archived(archive.dictionary({archive.text("$class"), archive.text("NS.objects")},
                                                 {archive.uid(quint64(type), width), members}));
         EXPECT_EQ(quint64(archive.archived(archive.text("late"))), late);
-        EXPECT_EQ(decodedField(archive.finishWithField(list)),
-                  QVariant(QVariantList{QStringLiteral("early"), QStringLiteral("late")}))
+        EXPECT_EQ(decodedField(archive.finishWithField(list)), QVariant(QVariantList{q("early"), q("late")}))
             << width;
     }
 }
@@ -196,7 +194,7 @@ TEST(KeyedUnarchiverValues, OnlyWhatTheRootReachesCounts)
     archive.archived(archive.array({}));
     archive.archivedList({999});
     const int value = archive.archived(archive.text("kept"));
-    EXPECT_EQ(decodedField(archive.finishWithField(value)), QVariant(QStringLiteral("kept")));
+    EXPECT_EQ(decodedField(archive.finishWithField(value)), QVariant(q("kept")));
 }
 
 TEST(KeyedUnarchiverValues, ASharedRecordIsSharedAndNotCopied)

@@ -1,13 +1,10 @@
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/notifications/notification_bus.h"
-#include "tests/support/observers.h"
 #include "tests/support/private_bus.h"
 #include "tests/support/silent_socket.h"
+#include "tests/support/test.h"
 
-#include <QCoreApplication>
 #include <QThread>
-
-#include <gtest/gtest.h>
 
 #include <thread>
 
@@ -15,8 +12,8 @@ namespace halvern {
 
 namespace {
 
-const QString kNote = QStringLiteral("VLXPrinterPaperDidUpdateNotification");
-const QString kUri = QStringLiteral("halvern://virtual/photo?width=10%22");
+const QString kNote = q("VLXPrinterPaperDidUpdateNotification");
+const QString kUri = q("halvern://virtual/photo?width=10%22");
 
 } // namespace
 
@@ -27,7 +24,7 @@ protected:
         return [this, observer](const DistributedNotification& notification) {
             EXPECT_EQ(QThread::currentThread(), qApp->thread());
             received.append(QLatin1StringView(observer) + QLatin1Char(' ') + notification.name +
-                            QLatin1Char(' ') + notification.object.value_or(QStringLiteral("nothing")));
+                            QLatin1Char(' ') + notification.object.value_or(q("nothing")));
         };
     }
 
@@ -36,10 +33,9 @@ protected:
     {
         int key = 0;
         bool arrived = false;
-        center.addObserver(&key, QStringLiteral("test.flush"), std::nullopt,
-                           [&](const auto&) { arrived = true; });
+        center.addObserver(&key, q("test.flush"), std::nullopt, [&](const auto&) { arrived = true; });
         QString why;
-        ASSERT_TRUE(DistributedNotificationCenter::post(QStringLiteral("test.flush"), QString(), &why))
+        ASSERT_TRUE(DistributedNotificationCenter::post(q("test.flush"), QString(), &why))
             << why.toStdString();
         ASSERT_TRUE(waitUntil([&] { return arrived; }));
         center.removeObserver(&key);
@@ -62,16 +58,16 @@ TEST_F(DistributedNotificationTest, NotificationsReachTheObserversOfTheirNameAnd
     const PrivateBus bus;
     center.addObserver(&a, kNote, kUri, note("this"));
     center.addObserver(&a, kNote, std::nullopt, note("any"));
-    center.addObserver(&b, QStringLiteral("other.name"), std::nullopt, note("other"));
+    center.addObserver(&b, q("other.name"), std::nullopt, note("other"));
     ASSERT_TRUE(connected());
     ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
-    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, QStringLiteral("halvern://virtual/é")));
+    ASSERT_TRUE(DistributedNotificationCenter::post(kNote, q("halvern://virtual/é")));
     ASSERT_TRUE(DistributedNotificationCenter::post(kNote, QString()));
     flush();
-    EXPECT_EQ(received, (QStringList{QStringLiteral("this ") + kNote + QLatin1Char(' ') + kUri,
-                                     QStringLiteral("any ") + kNote + QLatin1Char(' ') + kUri,
-                                     QStringLiteral("any ") + kNote + QStringLiteral(" halvern://virtual/é"),
-                                     QStringLiteral("any ") + kNote + QStringLiteral(" nothing")}));
+    EXPECT_EQ(received, (QStringList{q("this ") + kNote + QLatin1Char(' ') + kUri,
+                                     q("any ") + kNote + QLatin1Char(' ') + kUri,
+                                     q("any ") + kNote + q(" halvern://virtual/é"),
+                                     q("any ") + kNote + q(" nothing")}));
     EXPECT_TRUE(log.lines().isEmpty());
 }
 
@@ -79,7 +75,7 @@ TEST_F(DistributedNotificationTest, ARemovedObserverHearsNothingMore)
 {
     const PrivateBus bus;
     center.addObserver(&a, kNote, std::nullopt, [this](const DistributedNotification&) {
-        received.append(QStringLiteral("a"));
+        received.append(q("a"));
         center.removeObserver(&b);
         std::thread([this] { center.removeObserver(&a); }).join();
     });
@@ -88,7 +84,7 @@ TEST_F(DistributedNotificationTest, ARemovedObserverHearsNothingMore)
     ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
     ASSERT_TRUE(DistributedNotificationCenter::post(kNote, kUri));
     flush();
-    EXPECT_EQ(received, QStringList{QStringLiteral("a")});
+    EXPECT_EQ(received, QStringList{q("a")});
 }
 
 TEST_F(DistributedNotificationTest, AMissingBusIsLoggedOnceAndTriedAgainAtTheNextRegistration)
@@ -102,7 +98,7 @@ TEST_F(DistributedNotificationTest, AMissingBusIsLoggedOnceAndTriedAgainAtTheNex
     EXPECT_TRUE(log.lines().first().contains(QLatin1String("No such file or directory")));
     QString why;
     EXPECT_FALSE(DistributedNotificationCenter::post(kNote, kUri, &why));
-    EXPECT_EQ(why, QStringLiteral("No such file or directory"));
+    EXPECT_EQ(why, q("No such file or directory"));
 
     const PrivateBus bus;
     center.addObserver(&b, kNote, std::nullopt, note("b"));
@@ -130,7 +126,7 @@ TEST_F(DistributedNotificationTest, ABusThatBreaksOffIsLoggedAndMayComeBack)
 TEST_F(DistributedNotificationTest, ABusThatNeverAnswersHoldsUpNobody)
 {
     QTemporaryDir folder;
-    const QByteArray path = folder.filePath(QStringLiteral("bus")).toUtf8();
+    const QByteArray path = folder.filePath(q("bus")).toUtf8();
     SilentSocket silent(path);
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + path);
     center.addObserver(&a, kNote, std::nullopt, note("a"));
@@ -147,25 +143,25 @@ TEST_F(DistributedNotificationTest, ABusThatNeverAnswersHoldsUpNobody)
 TEST_F(DistributedNotificationTest, TheCommandLineToolPostsBothNotificationsAndExplainsFailure)
 {
     const auto notify = [](const char* what) {
-        return runProgram(QStringLiteral(HALVERN_NOTIFY), {QString::fromLatin1(what), kUri});
+        return runProgram(q(HALVERN_NOTIFY), {QString::fromLatin1(what), kUri});
     };
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
     const ProgramResult unheard = notify("papers");
     EXPECT_EQ(unheard.status, 1);
-    EXPECT_TRUE(unheard.error.contains(QStringLiteral("No such file or directory")));
+    EXPECT_TRUE(unheard.error.contains(q("No such file or directory")));
     const ProgramResult misspelt = notify("paper");
     EXPECT_EQ(misspelt.status, 2);
-    EXPECT_TRUE(misspelt.error.startsWith(QStringLiteral("Usage:")));
+    EXPECT_TRUE(misspelt.error.startsWith(q("Usage:")));
 
     const PrivateBus bus;
     center.addObserver(&a, kNote, kUri, note("papers"));
-    center.addObserver(&a, QStringLiteral("VLXPrinterInfoDidUpdateNotification"), kUri, note("info"));
+    center.addObserver(&a, q("VLXPrinterInfoDidUpdateNotification"), kUri, note("info"));
     ASSERT_TRUE(connected());
     EXPECT_EQ(notify("papers").status, 0);
     EXPECT_EQ(notify("info").status, 0);
     flush();
-    EXPECT_EQ(received, (QStringList{QStringLiteral("papers ") + kNote + QLatin1Char(' ') + kUri,
-                                     QStringLiteral("info VLXPrinterInfoDidUpdateNotification ") + kUri}));
+    EXPECT_EQ(received, (QStringList{q("papers ") + kNote + QLatin1Char(' ') + kUri,
+                                     q("info VLXPrinterInfoDidUpdateNotification ") + kUri}));
 }
 
 } // namespace halvern
