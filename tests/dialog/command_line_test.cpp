@@ -49,6 +49,7 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         {{}, 2, "at least one photo"},
         {{q("--nonsense"), photo()}, 2, "nonsense"},
         {{q("--copies"), q("0"), photo()}, 2, "1 to 999"},
+        {{q("--wait"), q("soon"), photo()}, 2, "seconds from 1"},
         {{q("--option"), q("PageSize"), photo()}, 2, "KEY=VALUE"},
         {{q("--printer"), q(""), photo()}, 2, "name is empty"},
         {{folder.filePath(q("none.jpg"))}, 1, "no file"},
@@ -60,7 +61,13 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         EXPECT_TRUE(result.error.contains(q(c.words))) << c.words << " in: " << qPrintable(result.error);
         EXPECT_EQ(result.output, QString());
     }
-    EXPECT_EQ(runPrint({q("--help")}).status, 0);
+    const std::map<QByteArray, QByteArray> dead{{"DISPLAY", ":4711"}, {"QT_QPA_PLATFORM", {}}};
+    const ProgramResult help = runProgram(q(HALVERN_PRINT_PROGRAM), {q("--help")}, dead);
+    EXPECT_TRUE(help.status == 0 && help.output.contains(q("  5  The job was sent")))
+        << qPrintable(help.output);
+    const ProgramResult window = runProgram(q(HALVERN_PRINT_PROGRAM), {photo()}, dead);
+    EXPECT_TRUE(window.status == 1 && window.error.contains(q("display cannot be used")))
+        << qPrintable(window.error);
 }
 
 TEST_F(CommandLineTest, ADeadServerIsNamedWithTheWayToStartIt)

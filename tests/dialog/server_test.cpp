@@ -1,5 +1,6 @@
 // The dialog's model and window on a real print server with virtual printers.
 #include "tests/support/server_test.h"
+#include "dialog/job/job_actions.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
@@ -274,6 +275,32 @@ TEST_F(DialogServerTest, ADamagedPhotoPrintsOnlyIfTheUserSaysSo)
     ASSERT_TRUE(dialog.run());
     EXPECT_EQ(session.photos().size(), 1u) << "the whole one";
     EXPECT_TRUE(waitUntil([&] { return dialog.run()->isOver(); }, 60));
+}
+
+TEST_F(DialogServerTest, ARestingJobIsReleasedByItsButtonAndLeftAloneByClosing)
+{
+    const OptionValues held{{q("job-hold-until"), q("indefinite")}};
+    for (const bool isReleased : {true, false}) {
+        DialogSession session(request(q("Tessarin"), held), panels);
+        PrintDialog dialog(session);
+        dialog.show();
+        ASSERT_TRUE(isReady(session));
+        QTest::mouseClick(dialog.findChild<QPushButton*>(q("printButton")), Qt::LeftButton);
+        auto* remedy = dialog.findChild<QPushButton*>(q("remedyButton"));
+        ASSERT_TRUE(waitUntil([&] { return remedy->isVisible(); }));
+        if (isReleased) {
+            QTest::mouseClick(remedy, Qt::LeftButton);
+            EXPECT_TRUE(waitUntil([&] { return dialog.outcome().printed; }, 60));
+            ASSERT_TRUE(session.changeOption(q("PaperTone"), q("Warm")));
+            EXPECT_FALSE(dialog.findChild<QLabel*>(q("status"))->isVisible()) << "said of other choices";
+            continue;
+        }
+        const int job = dialog.run()->jobId();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(askJobStatus(q("Tessarin"), job, cups::makeCancelFlag()).stage, JobStage::held);
+        EXPECT_EQ(cancelJob(q("Tessarin"), job).problem, QString());
+    }
 }
 
 TEST_F(DialogServerTest, AStoppedServerNeverHoldsTheWindowUp)

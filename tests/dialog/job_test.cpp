@@ -1,0 +1,172 @@
+// Sending, following and acting on jobs, with a print server that the tests play.
+#include "dialog/job/job_follower.h"
+#include "dialog/job/job_submitter.h"
+#include "tests/support/observers.h"
+#include "tests/support/scripted_server.h"
+#include "tests/support/text.h"
+
+#include <QBuffer>
+
+#include <cups/cups.h>
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+namespace {
+
+cups::Ipp jobAnswer(int id, int state, const char* reason = "none")
+{
+    cups::Ipp answer = scriptedAnswer();
+    ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", id);
+    ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_ENUM, "job-state", state);
+    ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-state-reasons", nullptr, reason);
+    return answer;
+}
+
+cups::Ipp listedJob(int documents)
+{
+    cups::Ipp answer = scriptedAnswer();
+    ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", documents);
+    ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", 7);
+    ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_NAME, "job-name", nullptr, "title");
+    return answer;
+}
+
+SubmitResult send(const QString& title = q("title"))
+{
+    QByteArray pages(200000, 'x');
+    QBuffer document(&pages);
+    document.open(QIODevice::ReadOnly);
+    return submitJob({q("Queue"), title, {}}, document, cups::makeCancelFlag(), [](double) {});
+}
+
+} // namespace
+
+TEST(Jobs, WhatDoesNotArriveWholeIsTakenBack)
+{
+    struct Case {
+        const char* name;
+        int created;   // the job's number; 0: the answer is lost
+        int documents; // that the server has afterwards
+        int job;
+        bool isCancelled;
+    };
+
+    const Case cases[] = {{"the document's answer is lost", 7, 1, 7, false},
+                          {"the document is lost", 7, 0, 0, true},
+                          {"the number is lost", 0, 0, 0, true},
+                          {"somebody else's job of that title", 0, 1, 0, false},
+                          {"a number that is none", -7, 0, 0, false}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const ScriptedServer server([&c](ipp_t* request) -> cups::Ipp {
+            switch (ippGetOperation(request)) {
+            case IPP_OP_CREATE_JOB:
+                return c.created ? jobAnswer(c.created, IPP_JSTATE_HELD) : nullptr;
+            case IPP_OP_SEND_DOCUMENT:
+                return nullptr;
+            default:
+                return listedJob(c.documents);
+            }
+        });
+        const SubmitResult result = send();
+        EXPECT_EQ(result.jobId, c.job);
+        EXPECT_EQ(result.problem.isEmpty(), c.job > 0);
+        EXPECT_EQ(server.asked().contains(q("Cancel-Job")), c.isCancelled);
+    }
+}
+
+TEST(Jobs, ALongTitleIsCutBetweenCharacters)
+{
+    QByteArray name;
+    const ScriptedServer server([&](ipp_t* request) {
+        if (ipp_attribute_t* title = ippFindAttribute(request, "job-name", IPP_TAG_NAME))
+            name = ippGetString(title, 0, nullptr);
+        return jobAnswer(7, IPP_JSTATE_PENDING);
+    });
+    EXPECT_EQ(send(QString(100, QChar(0x2603)) + q(".jpg")).jobId, 7);
+    EXPECT_EQ(QString::fromUtf8(name), QString(85, QChar(0x2603)));
+}
+
+TEST(Jobs, AJobThatTheServerDoesNotKnowHasLeftTheQueueIfTheQueueIsThere)
+{
+    bool hasQueue = true;
+    const ScriptedServer server([&](ipp_t* request) {
+        const bool isKnown = hasQueue && ippGetOperation(request) == IPP_OP_GET_PRINTER_ATTRIBUTES;
+        return scriptedAnswer(isKnown ? IPP_STATUS_OK : IPP_STATUS_ERROR_NOT_FOUND);
+    });
+    EXPECT_EQ(askJobStatus(q("Queue"), 7, cups::makeCancelFlag()).stage, JobStage::gone);
+    hasQueue = false;
+    EXPECT_EQ(askJobStatus(q("Queue"), 7, cups::makeCancelFlag()).stage, JobStage::lost);
+}
+
+TEST(Jobs, APrinterThatStoppedBlocksItsJobs)
+{
+    const ScriptedServer server([](ipp_t*) { return jobAnswer(7, IPP_JSTATE_PENDING, "printer-stopped"); });
+    EXPECT_EQ(askJobStatus(q("Queue"), 7, cups::makeCancelFlag()).stage, JobStage::blocked);
+}
+
+TEST(Jobs, WhatIsNotAllowedIsSaidAndAnEndedJobNeedsNoCancelling)
+{
+    int status = IPP_STATUS_ERROR_NOT_POSSIBLE;
+    const ScriptedServer server([&](ipp_t*) { return scriptedAnswer(status); });
+    EXPECT_EQ(cancelJob(q("Queue"), 7).problem, QString());
+    status = IPP_STATUS_ERROR_NOT_AUTHORIZED;
+    const ActionResult result = applyRemedy(Remedy::resumePrinter, q("Queue"), 7);
+    EXPECT_TRUE(result.isAnswered && result.problem.contains(q("does not let you resume \"Queue\"")))
+        << qPrintable(result.problem);
+}
+
+TEST(Jobs, ALostAnswerIsNoNewsButAChangedTextIs)
+{
+    std::atomic<int> asked = 0;
+    const ScriptedServer server([&](ipp_t*) -> cups::Ipp {
+        if (++asked == 2)
+            return nullptr;
+        cups::Ipp answer = jobAnswer(7, IPP_JSTATE_PROCESSING);
+        ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-printer-state-reasons", nullptr,
+                     asked < 4 ? "none" : "media-jam");
+        return answer;
+    });
+    QStringList told;
+    JobFollower follower(q("Queue"), 7, {std::chrono::minutes(1), {}}, nullptr);
+    QObject::connect(&follower, &JobFollower::changed,
+                     [&](const JobStatus& s) { told.append(jobSentence(s, q("Queue"), 7)); });
+    EXPECT_TRUE(waitUntil([&] { return told.size() > 1; }));
+    EXPECT_EQ(told, (QStringList{q("Job 7 is printing on \"Queue\"."),
+                                 q("Job 7 is printing on \"Queue\" (paper jam).")}));
+}
+
+TEST(Jobs, ASilentServerIsToldAndHearsOfACancelWhenItIsBack)
+{
+    std::atomic<bool> isSilent = true;
+    std::atomic<bool> isCancelled = false;
+    const ScriptedServer server([&](ipp_t* request) -> cups::Ipp {
+        if (isSilent)
+            return nullptr;
+        isCancelled = isCancelled || ippGetOperation(request) == IPP_OP_CANCEL_JOB;
+        return jobAnswer(7, isCancelled ? IPP_JSTATE_CANCELED : IPP_JSTATE_PROCESSING);
+    });
+    bool isTold = false;
+    JobFollower follower(q("Queue"), 7, {std::chrono::milliseconds(50), {}}, nullptr);
+    QObject::connect(&follower, &JobFollower::changed,
+                     [&](const JobStatus& s) { isTold = s.stage == JobStage::unknown; });
+    EXPECT_TRUE(waitUntil([&] { return isTold; }));
+    follower.cancel();
+    EXPECT_TRUE(waitUntil([&] { return server.asked().contains(q("Cancel-Job")); }));
+    isSilent = false;
+    EXPECT_TRUE(waitUntil([&] { return follower.status().stage == JobStage::cancelled; }));
+}
+
+TEST(Jobs, AFollowerGivesUpWhenItsPatienceEnds)
+{
+    const ScriptedServer server([](ipp_t*) -> cups::Ipp { return nullptr; });
+    bool hasEnded = false;
+    JobFollower follower(q("Queue"), 7, {std::chrono::milliseconds(50), std::chrono::milliseconds(500)},
+                         nullptr);
+    QObject::connect(&follower, &JobFollower::ended, [&] { hasEnded = true; });
+    EXPECT_TRUE(waitUntil([&] { return hasEnded; }));
+    EXPECT_EQ(follower.status().stage, JobStage::unknown);
+}
+
+} // namespace halvern
