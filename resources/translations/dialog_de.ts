@@ -118,32 +118,48 @@
         <source>The output could not be written: %1.</source>
         <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
     </message>
+    <message>
+        <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
+        <translation>Mit --no-dialog: so lange auf einen Druckserver warten, der nach dem Senden des Auftrags verstummt; sonst 60 Sekunden.</translation>
+    </message>
+    <message>
+        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <translation>„%1“ ist keine Wartezeit: Schreiben Sie eine Zahl von Sekunden von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
+        <translation>Rückgabewert:
+  0  Gedruckt, oder ausgegeben, was verlangt war.
+  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
+  2  Falscher Aufruf.
+  3  Der Auftrag ist in der Warteschlange und noch nicht beendet.
+  4  Abgebrochen: Es wurde nichts gedruckt.
+  5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>Der Bildschirm ist nicht benutzbar: %1. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY auf einen, der geht.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>Auftrag %1 ist auf „%2“ zurückgehalten, weil er warten soll%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>Auftrag %1 ist auf „%2“ zurückgehalten%3. Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn ab.</translation>
-    </message>
     <message>
         <source>Job %1 waits for "%2"%3.</source>
         <translation>Auftrag %1 wartet auf „%2“%3.</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>Auftrag %1 wartet, weil „%2“ angehalten ist%3. Setzen Sie den Drucker fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
-    </message>
-    <message>
         <source>Job %1 is printing on "%2"%3.</source>
         <translation>Auftrag %1 wird auf „%2“ gedruckt%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>Auftrag %1 ist auf „%2“ stehen geblieben%3. Sehen Sie nach dem Drucker und setzen Sie ihn fort (cupsenable) oder brechen Sie den Auftrag ab.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled on "%2".</source>
@@ -158,8 +174,44 @@
         <translation>Gedruckt: Auftrag %1 auf „%2“.</translation>
     </message>
     <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>Der Druckserver sagt nicht, was aus Auftrag %1 auf „%2“ geworden ist%3.</translation>
+        <source>Job %1 waits because "%2" is paused%3.</source>
+        <translation>Auftrag %1 wartet, weil „%2“ angehalten ist%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten, weil er warten soll%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3.</source>
+        <translation>Auftrag %1 ist auf „%2“ stehen geblieben%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <translation>Auftrag %1 hat die Warteschlange von „%2“ verlassen. Der Druckserver bewahrt nicht auf, wie er geendet hat.</translation>
+    </message>
+    <message>
+        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <translation>„%2“ ist nicht mehr auf dem Druckserver und Auftrag %1 mit ihm. Sehen Sie am Drucker nach, bevor Sie erneut drucken.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <translation>Der Druckserver antwortet nicht. Auftrag %1 wurde an „%2“ gesendet und wird vielleicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <translation>Sehen Sie nach dem Drucker und setzen Sie ihn mit „cupsenable %2“ fort oder brechen Sie den Auftrag mit „cancel %2-%1“ ab.</translation>
+    </message>
+    <message>
+        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <translation>Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn mit „cancel %2-%1“ ab.</translation>
+    </message>
+    <message>
+        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <translation>Drucken Sie ihn mit „lp -i %1 -H restart“ erneut oder brechen Sie ihn mit „cancel %2-%1“ ab.</translation>
     </message>
 </context>
 <context>
@@ -254,10 +306,6 @@
     <message>
         <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
         <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt. Kopieren Sie die Datei erneut von der Kamera oder exportieren Sie sie erneut.</translation>
-    </message>
-    <message>
-        <source>The print job's temporary file is gone. Print again.</source>
-        <translation>Die temporäre Datei des Druckauftrags ist weg. Drucken Sie erneut.</translation>
     </message>
     <message>
         <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
@@ -388,6 +436,10 @@
         <source>Found on the network</source>
         <translation>Im Netz gefunden</translation>
     </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Braucht Hilfe</translation>
+    </message>
 </context>
 <context>
     <name>Server</name>
@@ -449,6 +501,14 @@
     <message>
         <source>The print server has no printer "%1". It has: %2.</source>
         <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>Abgebrochen: Es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <translation>Auftrag %1 bleibt in der Warteschlange; „cancel %2-%1“ nimmt ihn weg.</translation>
     </message>
 </context>
 <context>
@@ -640,10 +700,6 @@
         <translation>Nächstes Foto</translation>
     </message>
     <message>
-        <source>Progress of the print job</source>
-        <translation>Fortschritt des Druckauftrags</translation>
-    </message>
-    <message>
         <source>P&amp;rinter:</source>
         <translation>D&amp;rucker:</translation>
     </message>
@@ -700,10 +756,6 @@
         <translation>Rü&amp;ckgängig</translation>
     </message>
     <message>
-        <source>Cancel Job</source>
-        <translation>Auftrag abbrechen</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
@@ -722,6 +774,18 @@
     <message>
         <source>Cancelling...</source>
         <translation>Wird abgebrochen ...</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>A&amp;uftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Asking the print server to cancel job %1...</source>
+        <translation>Der Druckserver wird gebeten, Auftrag %1 abzubrechen ...</translation>
+    </message>
+    <message>
+        <source>No answer from the print server.</source>
+        <translation>Keine Antwort vom Druckserver.</translation>
     </message>
 </context>
 <context>
@@ -745,6 +809,14 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>Es wurde nichts gedruckt. %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 is cancelled as soon as it does, if this window is still open.</source>
+        <translation>Der Druckserver antwortet nicht. Auftrag %1 wird abgebrochen, sobald er es tut, falls dieses Fenster dann noch offen ist.</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <translation>Auftrag %1 wurde an „%2“ gesendet, aber der Druckserver hat seit %3 Sekunden nicht geantwortet: Ob er gedruckt wurde, ist nicht bekannt. Sehen Sie am Drucker nach, bevor Sie erneut drucken.</translation>
     </message>
 </context>
 <context>
@@ -868,6 +940,55 @@
     <message>
         <source>Look into the print server's error log, and ask again.</source>
         <translation>Sehen Sie im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>Der Druckserver lässt Sie diesen Auftrag nicht abbrechen. Fragen Sie, wer ihn betreut.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Der Druckserver lässt Sie „%1“ nicht fortsetzen. Fragen Sie, wer ihn betreut; der Auftrag wartet so lange.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Der Druckserver lässt Sie den Auftrag nicht freigeben. Fragen Sie, wer ihn betreut; der Auftrag wartet so lange.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>Der Druckserver lässt Sie den Auftrag nicht erneut drucken. Fragen Sie, wer ihn betreut.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
+        <translation> Auftrag %1 ist vielleicht noch ohne seine Seiten in der Warteschlange von „%2“: Brechen Sie ihn dort ab, bevor Sie erneut drucken.</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>Der Druckserver hat dem Auftrag keine Nummer gegeben. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::RunBar</name>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>Fortschritt des Druckauftrags</translation>
+    </message>
+    <message>
+        <source>Resume Prin&amp;ter</source>
+        <translation>Drucker &amp;fortsetzen</translation>
+    </message>
+    <message>
+        <source>Rele&amp;ase Job</source>
+        <translation>Auftrag frei&amp;geben</translation>
+    </message>
+    <message>
+        <source>Print Job A&amp;gain</source>
+        <translation>Auftrag &amp;erneut drucken</translation>
     </message>
 </context>
 </TS>

@@ -118,32 +118,48 @@
         <source>The output could not be written: %1.</source>
         <translation>No se pudo escribir la salida: %1.</translation>
     </message>
+    <message>
+        <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
+        <translation>Con --no-dialog: esperar este tiempo a un servidor de impresión que enmudece tras enviar el trabajo; si no se indica, 60 segundos.</translation>
+    </message>
+    <message>
+        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <translation>«%1» no es un tiempo de espera: escriba un número de segundos de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
+        <translation>Código de salida:
+  0  Impreso, o escrito lo que se pidió.
+  1  Fallo; la salida de error dice por qué.
+  2  Uso incorrecto.
+  3  El trabajo está en la cola y aún no había terminado.
+  4  Cancelado: no se imprimió nada.
+  5  El trabajo se envió, pero el servidor de impresión no responde: el resultado es desconocido.</translation>
+    </message>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>La pantalla no se puede usar: %1. Imprima con --no-dialog o defina DISPLAY con una que funcione.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>El trabajo %1 está retenido en «%2» porque se le pidió esperar%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>El trabajo %1 está retenido en «%2»%3. Libérelo con «lp -i %1 -H resume» o cancélelo.</translation>
-    </message>
     <message>
         <source>Job %1 waits for "%2"%3.</source>
         <translation>El trabajo %1 espera a «%2»%3.</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>El trabajo %1 espera porque «%2» está en pausa%3. Reanude la impresora (cupsenable) o cancele el trabajo.</translation>
-    </message>
-    <message>
         <source>Job %1 is printing on "%2"%3.</source>
         <translation>El trabajo %1 se está imprimiendo en «%2»%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>El trabajo %1 se detuvo en «%2»%3. Revise la impresora y reanúdela (cupsenable), o cancele el trabajo.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled on "%2".</source>
@@ -158,8 +174,44 @@
         <translation>Impreso: trabajo %1 en «%2».</translation>
     </message>
     <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>El servidor de impresión no dice qué fue del trabajo %1 en «%2»%3.</translation>
+        <source>Job %1 waits because "%2" is paused%3.</source>
+        <translation>El trabajo %1 espera porque «%2» está en pausa%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <translation>El trabajo %1 está retenido en «%2» porque se le pidió esperar%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3.</source>
+        <translation>El trabajo %1 está retenido en «%2»%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3.</source>
+        <translation>El trabajo %1 se detuvo en «%2»%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <translation>El trabajo %1 ha salido de la cola de «%2». El servidor de impresión no guarda cómo terminó.</translation>
+    </message>
+    <message>
+        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <translation>«%2» ya no está en el servidor de impresión, ni el trabajo %1. Mire la impresora antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <translation>El servidor de impresión no responde. El trabajo %1 se envió a «%2» y quizá se imprima.</translation>
+    </message>
+    <message>
+        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <translation>Revise la impresora y reanúdela con «cupsenable %2», o cancele el trabajo con «cancel %2-%1».</translation>
+    </message>
+    <message>
+        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <translation>Libérelo con «lp -i %1 -H resume» o cancélelo con «cancel %2-%1».</translation>
+    </message>
+    <message>
+        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <translation>Imprímalo otra vez con «lp -i %1 -H restart» o cancélelo con «cancel %2-%1».</translation>
     </message>
 </context>
 <context>
@@ -254,10 +306,6 @@
     <message>
         <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
         <translation>«%1» está dañado: falta una parte de la imagen. Vuelva a copiarlo de la cámara o a exportarlo.</translation>
-    </message>
-    <message>
-        <source>The print job's temporary file is gone. Print again.</source>
-        <translation>El archivo temporal del trabajo ha desaparecido. Imprima de nuevo.</translation>
     </message>
     <message>
         <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
@@ -388,6 +436,10 @@
         <source>Found on the network</source>
         <translation>Encontrada en la red</translation>
     </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Requiere atención</translation>
+    </message>
 </context>
 <context>
     <name>Server</name>
@@ -449,6 +501,14 @@
     <message>
         <source>The print server has no printer "%1". It has: %2.</source>
         <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>Cancelado: no se imprimió nada.</translation>
+    </message>
+    <message>
+        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <translation>El trabajo %1 sigue en la cola; «cancel %2-%1» lo quita.</translation>
     </message>
 </context>
 <context>
@@ -640,10 +700,6 @@
         <translation>Foto siguiente</translation>
     </message>
     <message>
-        <source>Progress of the print job</source>
-        <translation>Progreso del trabajo</translation>
-    </message>
-    <message>
         <source>P&amp;rinter:</source>
         <translation>Imp&amp;resora:</translation>
     </message>
@@ -700,10 +756,6 @@
         <translation>&amp;Deshacer</translation>
     </message>
     <message>
-        <source>Cancel Job</source>
-        <translation>Cancelar trabajo</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
@@ -722,6 +774,18 @@
     <message>
         <source>Cancelling...</source>
         <translation>Cancelando...</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Cancelar &amp;trabajo</translation>
+    </message>
+    <message>
+        <source>Asking the print server to cancel job %1...</source>
+        <translation>Pidiendo al servidor de impresión que cancele el trabajo %1...</translation>
+    </message>
+    <message>
+        <source>No answer from the print server.</source>
+        <translation>El servidor de impresión no responde.</translation>
     </message>
 </context>
 <context>
@@ -745,6 +809,14 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>No se imprimió nada. %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 is cancelled as soon as it does, if this window is still open.</source>
+        <translation>El servidor de impresión no responde. El trabajo %1 se cancelará en cuanto responda, si esta ventana sigue abierta.</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <translation>El trabajo %1 se envió a «%2», pero el servidor de impresión no responde desde hace %3 segundos: no se sabe si se imprimió. Mire la impresora antes de volver a imprimir.</translation>
     </message>
 </context>
 <context>
@@ -868,6 +940,55 @@
     <message>
         <source>Look into the print server's error log, and ask again.</source>
         <translation>Consulte el registro de errores del servidor de impresión y vuelva a preguntar.</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite cancelar este trabajo. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>El servidor de impresión no le permite reanudar «%1». Pregunte a quien lo administra; el trabajo espera mientras tanto.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>El servidor de impresión no le permite liberar el trabajo. Pregunte a quien lo administra; el trabajo espera mientras tanto.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite imprimir de nuevo el trabajo. Pregunte a quien lo administra.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
+        <translation> Quizá el trabajo %1 siga en la cola de «%2» sin sus páginas: cancélelo allí antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>El servidor de impresión no dio número al trabajo. Consulte su registro de errores.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::RunBar</name>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>Progreso del trabajo</translation>
+    </message>
+    <message>
+        <source>Resume Prin&amp;ter</source>
+        <translation>&amp;Reanudar impresora</translation>
+    </message>
+    <message>
+        <source>Rele&amp;ase Job</source>
+        <translation>&amp;Liberar trabajo</translation>
+    </message>
+    <message>
+        <source>Print Job A&amp;gain</source>
+        <translation>Imprimir de &amp;nuevo</translation>
     </message>
 </context>
 </TS>

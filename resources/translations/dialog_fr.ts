@@ -118,32 +118,48 @@
         <source>The output could not be written: %1.</source>
         <translation>La sortie n'a pas pu être écrite : %1.</translation>
     </message>
+    <message>
+        <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
+        <translation>Avec --no-dialog : attendre aussi longtemps un serveur d’impression qui se tait après l’envoi de la tâche ; sinon 60 secondes.</translation>
+    </message>
+    <message>
+        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <translation>« %1 » n’est pas une durée d’attente : écrivez un nombre de secondes de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
+        <translation>Code de sortie :
+  0  Imprimé, ou écrit ce qui était demandé.
+  1  Échec ; la sortie d’erreur dit pourquoi.
+  2  Mauvais usage.
+  3  La tâche est dans la file et n’était pas encore terminée.
+  4  Annulé : rien n’a été imprimé.
+  5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue est inconnue.</translation>
+    </message>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>L’écran est inutilisable : %1. Imprimez avec --no-dialog ou définissez DISPLAY sur un écran qui fonctionne.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>La tâche %1 est retenue sur « %2 » car on lui a demandé d’attendre%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>La tâche %1 est retenue sur « %2 »%3. Libérez-la avec « lp -i %1 -H resume » ou annulez-la.</translation>
-    </message>
     <message>
         <source>Job %1 waits for "%2"%3.</source>
         <translation>La tâche %1 attend « %2 »%3.</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>La tâche %1 attend car « %2 » est en pause%3. Relancez l’imprimante (cupsenable) ou annulez la tâche.</translation>
-    </message>
-    <message>
         <source>Job %1 is printing on "%2"%3.</source>
         <translation>La tâche %1 s’imprime sur « %2 »%3.</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>La tâche %1 s’est arrêtée sur « %2 »%3. Vérifiez l’imprimante et relancez-la (cupsenable), ou annulez la tâche.</translation>
     </message>
     <message>
         <source>Job %1 was cancelled on "%2".</source>
@@ -158,8 +174,44 @@
         <translation>Imprimé : tâche %1 sur « %2 ».</translation>
     </message>
     <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>Le serveur d’impression ne dit pas ce qu’est devenue la tâche %1 sur « %2 »%3.</translation>
+        <source>Job %1 waits because "%2" is paused%3.</source>
+        <translation>La tâche %1 attend car « %2 » est en pause%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <translation>La tâche %1 est retenue sur « %2 » car on lui a demandé d’attendre%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3.</source>
+        <translation>La tâche %1 est retenue sur « %2 »%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3.</source>
+        <translation>La tâche %1 s’est arrêtée sur « %2 »%3.</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <translation>La tâche %1 a quitté la file de « %2 ». Le serveur d’impression ne garde pas trace de sa fin.</translation>
+    </message>
+    <message>
+        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <translation>« %2 » n’est plus sur le serveur d’impression, et la tâche %1 non plus. Regardez l’imprimante avant de réimprimer.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <translation>Le serveur d’impression ne répond pas. La tâche %1 a été envoyée à « %2 » et sera peut-être imprimée.</translation>
+    </message>
+    <message>
+        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <translation>Vérifiez l’imprimante et relancez-la avec « cupsenable %2 », ou annulez la tâche avec « cancel %2-%1 ».</translation>
+    </message>
+    <message>
+        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <translation>Libérez-la avec « lp -i %1 -H resume » ou annulez-la avec « cancel %2-%1 ».</translation>
+    </message>
+    <message>
+        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <translation>Réimprimez-la avec « lp -i %1 -H restart » ou annulez-la avec « cancel %2-%1 ».</translation>
     </message>
 </context>
 <context>
@@ -254,10 +306,6 @@
     <message>
         <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
         <translation>« %1 » est endommagé : une partie de l’image manque. Copiez-le à nouveau depuis l’appareil photo ou exportez-le à nouveau.</translation>
-    </message>
-    <message>
-        <source>The print job's temporary file is gone. Print again.</source>
-        <translation>Le fichier temporaire de la tâche a disparu. Imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
@@ -388,6 +436,10 @@
         <source>Found on the network</source>
         <translation>Trouvée sur le réseau</translation>
     </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Demande votre attention</translation>
+    </message>
 </context>
 <context>
     <name>Server</name>
@@ -449,6 +501,14 @@
     <message>
         <source>The print server has no printer "%1". It has: %2.</source>
         <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>Annulé : rien n’a été imprimé.</translation>
+    </message>
+    <message>
+        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <translation>La tâche %1 reste dans la file ; « cancel %2-%1 » l’enlève.</translation>
     </message>
 </context>
 <context>
@@ -640,10 +700,6 @@
         <translation>Photo suivante</translation>
     </message>
     <message>
-        <source>Progress of the print job</source>
-        <translation>Progression de la tâche</translation>
-    </message>
-    <message>
         <source>P&amp;rinter:</source>
         <translation>Imp&amp;rimante :</translation>
     </message>
@@ -700,10 +756,6 @@
         <translation>Ann&amp;uler la modification</translation>
     </message>
     <message>
-        <source>Cancel Job</source>
-        <translation>Annuler la tâche</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
@@ -722,6 +774,18 @@
     <message>
         <source>Cancelling...</source>
         <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Annuler la &amp;tâche</translation>
+    </message>
+    <message>
+        <source>Asking the print server to cancel job %1...</source>
+        <translation>Demande d’annulation de la tâche %1 au serveur d’impression...</translation>
+    </message>
+    <message>
+        <source>No answer from the print server.</source>
+        <translation>Pas de réponse du serveur d’impression.</translation>
     </message>
 </context>
 <context>
@@ -745,6 +809,14 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>Rien n’a été imprimé. %1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 is cancelled as soon as it does, if this window is still open.</source>
+        <translation>Le serveur d’impression ne répond pas. La tâche %1 sera annulée dès qu’il répondra, si cette fenêtre est encore ouverte.</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <translation>La tâche %1 a été envoyée à « %2 », mais le serveur d’impression ne répond plus depuis %3 secondes : on ne sait pas si elle a été imprimée. Regardez l’imprimante avant de réimprimer.</translation>
     </message>
 </context>
 <context>
@@ -868,6 +940,55 @@
     <message>
         <source>Look into the print server's error log, and ask again.</source>
         <translation>Consultez le journal d'erreurs du serveur d'impression et recommencez.</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous laisse pas annuler cette tâche. Demandez à qui s’en occupe.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Le serveur d’impression ne vous laisse pas relancer « %1 ». Demandez à qui s’en occupe ; la tâche attend entre-temps.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Le serveur d’impression ne vous laisse pas libérer la tâche. Demandez à qui s’en occupe ; la tâche attend entre-temps.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous laisse pas réimprimer la tâche. Demandez à qui s’en occupe.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
+        <translation> La tâche %1 est peut-être encore dans la file de « %2 » sans ses pages : annulez-la avant de réimprimer.</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>Le serveur d’impression n’a pas donné de numéro à la tâche. Consultez son journal d’erreurs.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::RunBar</name>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>Progression de la tâche</translation>
+    </message>
+    <message>
+        <source>Resume Prin&amp;ter</source>
+        <translation>&amp;Relancer l’imprimante</translation>
+    </message>
+    <message>
+        <source>Rele&amp;ase Job</source>
+        <translation>&amp;Libérer la tâche</translation>
+    </message>
+    <message>
+        <source>Print Job A&amp;gain</source>
+        <translation>Réimprimer la tâ&amp;che</translation>
     </message>
 </context>
 </TS>

@@ -118,32 +118,48 @@
         <source>The output could not be written: %1.</source>
         <translation>出力を書き込めませんでした: %1</translation>
     </message>
+    <message>
+        <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
+        <translation>--no-dialog と共に: ジョブの送信後に応答しなくなったプリントサーバーを待つ秒数。省略時は 60 秒。</translation>
+    </message>
+    <message>
+        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <translation>「%1」は待ち時間ではありません。1 から %2 までの秒数を指定してください。</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
+        <translation>終了ステータス:
+  0  印刷した、または求められたものを出力した。
+  1  失敗。理由は標準エラーに出力。
+  2  使い方の誤り。
+  3  ジョブはキューにあり、まだ終わっていない。
+  4  キャンセル: 何も印刷していない。
+  5  ジョブは送信したが、プリントサーバーが応答せず、結果は不明。</translation>
+    </message>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>画面を使用できません: %1。--no-dialog で印刷するか、DISPLAY に使える画面を設定してください。</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
 </context>
 <context>
     <name>JobStatus</name>
-    <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>ジョブ %1 は待機の指定により「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>Job %1 is held on "%2"%3. Release it with "lp -i %1 -H resume", or cancel it.</source>
-        <translation>ジョブ %1 は「%2」で保留されています%3。「lp -i %1 -H resume」で再開するか、キャンセルしてください。</translation>
-    </message>
     <message>
         <source>Job %1 waits for "%2"%3.</source>
         <translation>ジョブ %1 は「%2」を待っています%3。</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3. Resume the printer (cupsenable), or cancel the job.</source>
-        <translation>「%2」が一時停止中のため、ジョブ %1 は待っています%3。プリンターを再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
-    </message>
-    <message>
         <source>Job %1 is printing on "%2"%3.</source>
         <translation>ジョブ %1 を「%2」で印刷しています%3。</translation>
-    </message>
-    <message>
-        <source>Job %1 stopped on "%2"%3. See to the printer and resume it (cupsenable), or cancel the job.</source>
-        <translation>ジョブ %1 は「%2」で停止しました%3。プリンターを確認して再開する (cupsenable) か、ジョブをキャンセルしてください。</translation>
     </message>
     <message>
         <source>Job %1 was cancelled on "%2".</source>
@@ -158,8 +174,44 @@
         <translation>印刷しました: 「%2」のジョブ %1。</translation>
     </message>
     <message>
-        <source>The print server does not say what became of job %1 on "%2"%3.</source>
-        <translation>「%2」のジョブ %1 の結果をプリントサーバーから得られません%3。</translation>
+        <source>Job %1 waits because "%2" is paused%3.</source>
+        <translation>「%2」が一時停止中のため、ジョブ %1 は待っています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <translation>ジョブ %1 は待機の指定により「%2」で保留されています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held on "%2"%3.</source>
+        <translation>ジョブ %1 は「%2」で保留されています%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 stopped on "%2"%3.</source>
+        <translation>ジョブ %1 は「%2」で停止しました%3。</translation>
+    </message>
+    <message>
+        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <translation>ジョブ %1 は「%2」のキューを出ました。プリントサーバーは終了の記録を残していません。</translation>
+    </message>
+    <message>
+        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <translation>「%2」はプリントサーバーになくなり、ジョブ %1 も失われました。もう一度印刷する前にプリンターをご確認ください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <translation>プリントサーバーが応答しません。ジョブ %1 は「%2」に送信済みで、印刷される可能性があります。</translation>
+    </message>
+    <message>
+        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <translation>プリンターを確認して「cupsenable %2」で再開するか、「cancel %2-%1」でジョブをキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <translation>「lp -i %1 -H resume」で再開するか、「cancel %2-%1」でキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <translation>「lp -i %1 -H restart」でもう一度印刷するか、「cancel %2-%1」でキャンセルしてください。</translation>
     </message>
 </context>
 <context>
@@ -254,10 +306,6 @@
     <message>
         <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
         <translation>「%1」は破損しています: 画像の一部が欠けています。カメラからもう一度コピーするか、もう一度書き出してください。</translation>
-    </message>
-    <message>
-        <source>The print job's temporary file is gone. Print again.</source>
-        <translation>印刷ジョブの一時ファイルがなくなりました。もう一度印刷してください。</translation>
     </message>
     <message>
         <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
@@ -388,6 +436,10 @@
         <source>Found on the network</source>
         <translation>ネットワークで見つかりました</translation>
     </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>確認が必要です</translation>
+    </message>
 </context>
 <context>
     <name>Server</name>
@@ -449,6 +501,14 @@
     <message>
         <source>The print server has no printer "%1". It has: %2.</source>
         <translation>プリントサーバーに「%1」というプリンターはありません。使えるプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was printed.</source>
+        <translation>キャンセルしました。何も印刷していません。</translation>
+    </message>
+    <message>
+        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <translation>ジョブ %1 はキューに残ります。「cancel %2-%1」で取り除けます。</translation>
     </message>
 </context>
 <context>
@@ -640,10 +700,6 @@
         <translation>次の写真</translation>
     </message>
     <message>
-        <source>Progress of the print job</source>
-        <translation>印刷ジョブの進み具合</translation>
-    </message>
-    <message>
         <source>P&amp;rinter:</source>
         <translation>プリンター(&amp;R):</translation>
     </message>
@@ -700,10 +756,6 @@
         <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
-        <source>Cancel Job</source>
-        <translation>ジョブをキャンセル</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
@@ -722,6 +774,18 @@
     <message>
         <source>Cancelling...</source>
         <translation>キャンセルしています...</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>ジョブをキャンセル(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Asking the print server to cancel job %1...</source>
+        <translation>プリントサーバーにジョブ %1 のキャンセルを依頼しています...</translation>
+    </message>
+    <message>
+        <source>No answer from the print server.</source>
+        <translation>プリントサーバーから応答がありません。</translation>
     </message>
 </context>
 <context>
@@ -745,6 +809,14 @@
     <message>
         <source>Nothing was printed. %1</source>
         <translation>何も印刷していません。%1</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Job %1 is cancelled as soon as it does, if this window is still open.</source>
+        <translation>プリントサーバーが応答しません。このウィンドウが開いていれば、応答があり次第ジョブ %1 をキャンセルします。</translation>
+    </message>
+    <message>
+        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <translation>ジョブ %1 は「%2」に送信しましたが、プリントサーバーが %3 秒間応答していません。印刷されたかどうかは不明です。もう一度印刷する前にプリンターをご確認ください。</translation>
     </message>
 </context>
 <context>
@@ -868,6 +940,55 @@
     <message>
         <source>Look into the print server's error log, and ask again.</source>
         <translation>プリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>プリントサーバーはこのジョブのキャンセルを許可していません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>プリントサーバーは「%1」の再開を許可していません。管理者にお尋ねください。その間ジョブは待っています。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>プリントサーバーはジョブの再開を許可していません。管理者にお尋ねください。その間ジョブは待っています。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>プリントサーバーはジョブの再印刷を許可していません。管理者にお尋ねください。</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
+        <translation> ジョブ %1 がページのないまま「%2」のキューに残っている可能性があります。もう一度印刷する前にキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>プリントサーバーがジョブに番号を付けませんでした。エラーログをご覧ください。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::RunBar</name>
+    <message>
+        <source>Progress of the print job</source>
+        <translation>印刷ジョブの進み具合</translation>
+    </message>
+    <message>
+        <source>Resume Prin&amp;ter</source>
+        <translation>プリンターを再開(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Rele&amp;ase Job</source>
+        <translation>ジョブを再開(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Print Job A&amp;gain</source>
+        <translation>もう一度印刷(&amp;G)</translation>
     </message>
 </context>
 </TS>
