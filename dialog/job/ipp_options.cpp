@@ -17,9 +17,25 @@ constexpr qsizetype kLongestText = 1023;
 
 // Attributes that the server itself reads, and that need their IPP type.
 constexpr std::array kServerAttributes{
-    "copies",        "job-priority", "job-hold-until", "job-sheets",       "job-billing",
-    "page-ranges",   "output-bin",   "finishings",     "print-scaling",    "multiple-document-handling",
-    "print-quality", "media",        "sides",          "print-color-mode",
+    "copies",
+    "job-priority",
+    "job-hold-until",
+    "job-sheets",
+    "job-billing",
+    "page-ranges",
+    "output-bin",
+    "finishings",
+    "print-scaling",
+    "multiple-document-handling",
+    "print-quality",
+    "media",
+    "sides",
+    "print-color-mode",
+    "number-up",
+    "page-set",
+    "orientation-requested",
+    "landscape",
+    "mirror",
 };
 
 bool isServerAttribute(const QString& name)

@@ -9,31 +9,29 @@ namespace halvern {
 
 namespace {
 
-// Each would be a second voice beside a PPD keyword, or scale and turn a page that we have already laid out.
+// Each would be a second voice beside a PPD keyword, or beside what the dialog has laid out.
 constexpr std::array kDecidedByUs{
-    "media",
-    "sides",
-    "print-quality",
-    "printer-resolution",
-    "orientation-requested",
-    "print-scaling",
-    "fit-to-page",
-    "fitplot",
-    "scaling",
-    "natural-scaling",
-    "ppi",
-    "landscape",
-    "position",
-    "copies",
-    "number-up",
-    "print-color-mode",
-    "multiple-document-handling",
+    "media",        "sides",         "print-quality",    "printer-resolution",
+    "fit-to-page",  "fitplot",       "scaling",          "natural-scaling",
+    "ppi",          "position",      "number-up-layout", "page-border",
+    "output-order", "page-delivery", "print-color-mode",
 };
 
-template <size_t N> bool contains(const std::array<const char*, N>& names, const QString& name)
-{
-    return std::ranges::any_of(names, [&](const char* known) { return name == QLatin1StringView(known); });
-}
+struct Neutral {
+    const char* name;
+    const char* value;
+};
+
+// With each of these a server could turn, scale, mirror, label, leave out or reorder pages that are already
+// laid out, and does so by a default of its own where a job says nothing.
+constexpr std::array kNeutral{
+    Neutral{"number-up", "1"},  Neutral{"orientation-requested", "3"}, Neutral{"landscape", "false"},
+    Neutral{"mirror", "false"}, Neutral{"print-scaling", "none"},      Neutral{"page-set", "all"},
+    Neutral{"booklet", "off"},  Neutral{"outputorder", "normal"},      Neutral{"page-label", ""},
+};
+
+// The keywords with which PPDs print on both sides.
+constexpr std::array kDuplexKeywords{"Duplex", "JCLDuplex", "EFDuplex", "EFDuplexing", "KD03Duplex"};
 
 // The platform's own settings have reverse-domain names; they are not options of a printer.
 bool isPlatformSetting(const QString& key)
@@ -41,20 +39,34 @@ bool isPlatformSetting(const QString& key)
     return key.count(QLatin1Char('.')) >= 2;
 }
 
-QString duplexForSides(const QString& sides)
-{
-    if (sides == QLatin1StringView("two-sided-long-edge"))
-        return QStringLiteral("DuplexNoTumble");
-    if (sides == QLatin1StringView("two-sided-short-edge"))
-        return QStringLiteral("DuplexTumble");
-    return QStringLiteral("None");
-}
-
 // The server refuses a job that spells its word for no banner page otherwise; panels write "None".
 QString asServerSpells(const QString& jobSheets)
 {
     const QString none = QStringLiteral("none");
     return jobSheets.compare(none, Qt::CaseInsensitive) == 0 ? none : jobSheets;
+}
+
+void layOut(QMap<QString, QString>& merged, const JobInputs& inputs)
+{
+    for (const char* name : kDecidedByUs)
+        merged.remove(QLatin1StringView(name));
+    for (const Neutral& neutral : kNeutral)
+        merged.insert(QLatin1StringView(neutral.name), QString::fromLatin1(neutral.value));
+    const bool hasDuplex = std::ranges::any_of(
+        kDuplexKeywords, [&](const char* keyword) { return merged.contains(QLatin1StringView(keyword)); });
+    if (!hasDuplex)
+        merged.insert(QStringLiteral("sides"), QStringLiteral("one-sided"));
+    if (!merged.contains(QStringLiteral("page-ranges")) && inputs.pages > 0)
+        merged.insert(QStringLiteral("page-ranges"), QStringLiteral("1-%1").arg(inputs.pages));
+}
+
+// The server looks at the one, filters at the other.
+void collate(QMap<QString, QString>& merged, bool isCollated)
+{
+    merged.insert(QStringLiteral("multiple-document-handling"),
+                  isCollated ? QStringLiteral("separate-documents-collated-copies")
+                             : QStringLiteral("separate-documents-uncollated-copies"));
+    merged.insert(QStringLiteral("Collate"), isCollated ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
 } // namespace
@@ -66,14 +78,11 @@ OptionValues mergeJobOptions(const JobInputs& inputs)
         if (!isPlatformSetting(it.key()))
             merged.insert(it.key(), valueText(it.value()));
     }
-    if (inputs.hasPpd) {
-        for (const char* name : kDecidedByUs)
-            merged.remove(QLatin1StringView(name));
-    }
+    layOut(merged, inputs);
+    collate(merged, inputs.isCollated);
     if (const auto sheets = merged.find(QStringLiteral("job-sheets")); sheets != merged.end())
         *sheets = asServerSpells(*sheets);
     merged.insert(QStringLiteral("copies"), QString::number(inputs.copies));
-    merged.insert(QStringLiteral("print-scaling"), QStringLiteral("none"));
     OptionValues options;
     for (auto it = merged.cbegin(); it != merged.cend(); ++it)
         options.append({it.key(), it.value()});
@@ -81,20 +90,6 @@ OptionValues mergeJobOptions(const JobInputs& inputs)
     std::ranges::stable_partition(
         options, [](const OptionValue& option) { return !option.value.startsWith(QLatin1Char('{')); });
     return options;
-}
-
-OptionValues inPpdTerms(const OptionValues& options)
-{
-    OptionValues result;
-    for (const OptionValue& option : options) {
-        if (option.key == QLatin1StringView("media"))
-            result.append({QStringLiteral("PageSize"), option.value.section(QLatin1Char(','), 0, 0)});
-        else if (option.key == QLatin1StringView("sides"))
-            result.append({QStringLiteral("Duplex"), duplexForSides(option.value)});
-        else if (!contains(kDecidedByUs, option.key))
-            result.append(option);
-    }
-    return result;
 }
 
 } // namespace halvern

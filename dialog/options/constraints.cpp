@@ -24,7 +24,15 @@ bool applies(const ConstraintSide& side, const OptionMarks& marks)
     const QString marked = marks.value(side.option);
     if (side.choice.isEmpty())
         return !isOff(marked);
+    if (side.choice == QLatin1StringView("Custom") && marked.startsWith(QLatin1StringView("Custom.")))
+        return true;
     return marked.compare(side.choice, Qt::CaseInsensitive) == 0;
+}
+
+// The page's region follows its size, and is marked nowhere.
+QString markedName(const QString& option)
+{
+    return option == QLatin1StringView("PageRegion") ? QStringLiteral("PageSize") : option;
 }
 
 // "*PaperFeed Roll *TwoSided" -> (PaperFeed, Roll), (TwoSided, "")
@@ -33,7 +41,7 @@ std::vector<ConstraintSide> parseSides(const QString& text)
     std::vector<ConstraintSide> sides;
     for (const QString& word : text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         if (word.startsWith(QLatin1Char('*')))
-            sides.push_back({word.mid(1), {}});
+            sides.push_back({markedName(word.mid(1)), {}});
         else if (!sides.empty() && sides.back().choice.isEmpty())
             sides.back().choice = word;
     }
@@ -60,28 +68,40 @@ std::vector<Constraint> readNamed(ppd_file_t* file)
 
 } // namespace
 
-std::vector<Constraint> readConstraints(ppd_file_t* file)
+Constraints::Constraints(ppd_file_t* file)
 {
-    std::vector<Constraint> constraints = readNamed(file);
-    if (!constraints.empty())
-        return constraints;
+    for (Constraint& constraint : readNamed(file))
+        add(std::move(constraint));
+    if (!all_.empty())
+        return;
     for (int i = 0; i < file->num_consts; ++i) {
         const ppd_const_t& old = file->consts[i];
-        constraints.push_back({{{QString::fromUtf8(old.option1), QString::fromUtf8(old.choice1)},
-                                {QString::fromUtf8(old.option2), QString::fromUtf8(old.choice2)}},
-                               {}});
+        add({{{markedName(QString::fromUtf8(old.option1)), QString::fromUtf8(old.choice1)},
+              {markedName(QString::fromUtf8(old.option2)), QString::fromUtf8(old.choice2)}},
+             {}});
     }
-    return constraints;
 }
 
-std::vector<const Constraint*> violatedBy(const std::vector<Constraint>& constraints,
-                                          const OptionMarks& marks, const QString& option)
+void Constraints::add(Constraint constraint)
+{
+    for (const ConstraintSide& side : constraint.sides) {
+        std::vector<size_t>& known = ofOption_[side.option];
+        if (known.empty() || known.back() != all_.size())
+            known.push_back(all_.size());
+    }
+    all_.push_back(std::move(constraint));
+}
+
+std::vector<const Constraint*> Constraints::violatedBy(const OptionMarks& marks, const QString& option) const
 {
     std::vector<const Constraint*> violated;
-    for (const Constraint& constraint : constraints) {
-        const auto involves = [&](const ConstraintSide& side) { return side.option == option; };
-        const auto active = [&](const ConstraintSide& side) { return applies(side, marks); };
-        if (std::ranges::any_of(constraint.sides, involves) && std::ranges::all_of(constraint.sides, active))
+    const auto found = ofOption_.constFind(option);
+    if (found == ofOption_.cend())
+        return violated;
+    for (const size_t index : *found) {
+        const Constraint& constraint = all_[index];
+        if (std::ranges::all_of(constraint.sides,
+                                [&](const ConstraintSide& side) { return applies(side, marks); }))
             violated.push_back(&constraint);
     }
     return violated;

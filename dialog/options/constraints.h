@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 
@@ -25,10 +26,19 @@ struct Constraint {
 using OptionMarks = QMap<QString, QString>;
 
 /// The constraints of a PPD as plain data. The PPD's newer form counts where it has one, the older otherwise.
-std::vector<Constraint> readConstraints(ppd_file_t* file);
+class Constraints {
+public:
+    /// Reads them; keeps nothing of the file.
+    explicit Constraints(ppd_file_t* file);
 
-/// The constraints that `marks` violate and that involve `option`.
-std::vector<const Constraint*> violatedBy(const std::vector<Constraint>& constraints,
-                                          const OptionMarks& marks, const QString& option);
+    /// Those that `marks` violate and that involve `option`. They live as long as this object.
+    std::vector<const Constraint*> violatedBy(const OptionMarks& marks, const QString& option) const;
+
+private:
+    void add(Constraint constraint);
+
+    std::vector<Constraint> all_;
+    QHash<QString, std::vector<size_t>> ofOption_;
+};
 
 } // namespace halvern

@@ -1,9 +1,14 @@
 #include "dialog/options/option_value.h"
 
+#include <QRegularExpression>
+
 namespace halvern {
 
 std::optional<OptionValue> parseOption(const QString& text)
 {
+    static const QRegularExpression bareWord(QStringLiteral("^[a-z]+(-[a-z]+)*$"));
+    if (bareWord.match(text).hasMatch())
+        return OptionValue{text, QStringLiteral("true")};
     const qsizetype equals = text.indexOf(QLatin1Char('='));
     if (equals <= 0 || text.left(equals).contains(QLatin1Char(' ')))
         return std::nullopt;

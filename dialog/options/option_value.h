@@ -17,7 +17,8 @@ struct OptionValue {
 
 using OptionValues = QList<OptionValue>;
 
-/// "KEY=VALUE" -> an option; nothing without a key or a "=".
+/// "KEY=VALUE" -> an option, and "fit-to-page" -> "fit-to-page=true", as the server's own words are written;
+/// nothing without a key or, for a printer's option, a "=".
 std::optional<OptionValue> parseOption(const QString& text);
 
 } // namespace halvern

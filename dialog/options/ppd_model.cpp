@@ -32,21 +32,11 @@ QString valueText(const QVariant& value)
     }
 }
 
-PpdModel::PpdModel(ppd::File file) : file_(std::move(file)), constraints_(readConstraints(file_.get()))
+PpdModel::PpdModel(ppd::File file) : file_(std::move(file)), constraints_(file_.get())
 {
     ppdLocalize(file_.get());
     ppdMarkDefaults(file_.get());
-}
-
-QStringList PpdModel::apply(const OptionValues& options)
-{
-    QStringList refusals;
-    for (const OptionValue& option : options) {
-        const ChangeResult result = change(option.key, option.value);
-        if (!result.accepted)
-            refusals.append(result.refusal);
-    }
-    return refusals;
+    readOptions();
 }
 
 ChangeResult PpdModel::refuse(const QString& sentence) const
@@ -58,118 +48,170 @@ ChangeResult PpdModel::change(const QString& key, const QVariant& value, ppd_loo
 {
     if (key.isEmpty() || !value.isValid())
         return refuse(tr("An option without a name or a value cannot be set."));
-    QString text = valueText(value);
-    if (!ppd_lookup::option(file_.get(), key)) {
-        keep(key, text);
-        return {true, {}, {}};
-    }
-    if (const ppd_choice_t* listed = ppd_lookup::listedChoice(file_.get(), key, text))
-        return changeListed(key, QString::fromUtf8(listed->choice));
-    if (isPageSize(key))
-        return keepPageSize(text);
-    return keepCustom(key, text, reading);
-}
-
-ChangeResult PpdModel::keepCustom(const QString& key, const QString& value, ppd_lookup::NumberReading reading)
-{
-    QString plain = value;
-    if (const ppd_cparam_t* parameter = ppd_lookup::customParameter(file_.get(), key)) {
-        // The command line and saved options may name a custom value so; what a panel proposes is the value.
-        if (reading == ppd_lookup::NumberReading::whole && plain.startsWith(QLatin1StringView(kCustomPrefix)))
-            plain = plain.mid(int(sizeof(kCustomPrefix)) - 1);
-        const QString problem =
-            ppd_lookup::customValueProblem(file_.get(), *parameter, key, optionText(key), plain, reading);
-        if (!problem.isEmpty())
-            return refuse(problem);
-    }
-    keep(key, plain);
+    const Proposal proposal = propose(key, valueText(value), reading);
+    if (!proposal.refusal.isEmpty())
+        return refuse(proposal.refusal);
+    if (proposal.isListed)
+        return changeListed(proposal.key, proposal.value);
+    keep(proposal.key, proposal.value);
     return {true, {}, {}};
 }
 
-ChangeResult PpdModel::keepPageSize(const QString& value)
+PpdModel::Proposal PpdModel::propose(const QString& key, const QString& value,
+                                     ppd_lookup::NumberReading reading) const
+{
+    const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    if (!option)
+        return {key, value};
+    Proposal proposal{QString::fromUtf8(option->keyword), value};
+    if (isInstallable(proposal.key)) {
+        proposal.refusal =
+            tr("\"%1\" is part of the printer's equipment, and is set by whoever installed the "
+               "printer.")
+                .arg(optionText(proposal.key));
+        return proposal;
+    }
+    if (const ppd_choice_t* listed = ppd_lookup::listedChoice(file_.get(), proposal.key, value)) {
+        proposal.value = QString::fromUtf8(listed->choice);
+        proposal.isListed = true;
+        return proposal;
+    }
+    return isPageSize(proposal.key) ? proposePageSize(proposal) : proposeCustom(proposal, reading);
+}
+
+PpdModel::Proposal PpdModel::proposeCustom(Proposal proposal, ppd_lookup::NumberReading reading) const
+{
+    const ppd_cparam_t* parameter = ppd_lookup::customParameter(file_.get(), proposal.key);
+    if (!parameter)
+        return proposal;
+    // The command line and saved options may name a custom value so; what a panel proposes is the value.
+    if (reading == ppd_lookup::NumberReading::whole &&
+        proposal.value.startsWith(QLatin1StringView(kCustomPrefix)))
+        proposal.value = proposal.value.mid(int(sizeof(kCustomPrefix)) - 1);
+    proposal.refusal = ppd_lookup::customValueProblem(file_.get(), *parameter, proposal.key,
+                                                      optionText(proposal.key), proposal.value, reading);
+    return proposal;
+}
+
+PpdModel::Proposal PpdModel::proposePageSize(Proposal proposal) const
 {
     // libcups answers null for a size that the printer does not take.
     ppd_size_t least{};
     ppd_size_t most{};
-    const bool isCustom = value.startsWith(QLatin1StringView(kCustomPrefix));
-    const ppd_size_t* size = isCustom ? ppdPageSize(file_.get(), value.toUtf8().constData()) : nullptr;
-    if (!size)
-        return refuse(tr("The printer has no page size \"%1\". Choose one from the list.").arg(value));
-    if (ppdPageSizeLimits(file_.get(), &least, &most) &&
-        (size->width < least.width || size->width > most.width || size->length < least.length ||
-         size->length > most.length)) {
-        return refuse(
-            tr("The printer cannot take the page size \"%1\". Choose one from the list.").arg(value));
+    const bool isCustom = proposal.value.startsWith(QLatin1StringView(kCustomPrefix));
+    const ppd_size_t* size =
+        isCustom ? ppdPageSize(file_.get(), proposal.value.toUtf8().constData()) : nullptr;
+    if (!size) {
+        proposal.refusal =
+            tr("The printer has no page size \"%1\". Choose one from the list.").arg(proposal.value);
+    } else if (ppdPageSizeLimits(file_.get(), &least, &most) &&
+               (size->width < least.width || size->width > most.width || size->length < least.length ||
+                size->length > most.length)) {
+        proposal.refusal =
+            tr("The printer cannot take the page size \"%1\". Choose one from the list.").arg(proposal.value);
     }
-    keep(QLatin1StringView(kPageSize), value);
-    ppd_lookup::unmark(file_.get(), QStringLiteral("PageRegion"));
-    return {true, {}, {}};
+    return proposal;
+}
+
+OptionMarks PpdModel::marksWith(const OptionMarks& changed) const
+{
+    OptionMarks marks = values_;
+    marks.insert(equipment_);
+    marks.insert(changed);
+    return marks;
+}
+
+SideChange PpdModel::sideChange(const QString& key, const QString& choice) const
+{
+    return {key, value(key), choice, optionText(key), choiceText(key, choice)};
 }
 
 ChangeResult PpdModel::changeListed(const QString& key, const QString& choice)
 {
-    const OptionMarks current = values();
-    if (current.value(key) == choice && !isKept(key))
+    if (value(key) == choice && !isKept(key))
         return {true, {}, {}};
-    OptionMarks proposed = current;
-    proposed[key] = choice;
-    for (const Constraint* constraint : violatedBy(constraints_, proposed, key)) {
+    OptionMarks proposed = marksWith({{key, choice}});
+    const std::vector<const Constraint*> clashes = constraints_.violatedBy(proposed, key);
+    for (const Constraint* constraint : clashes) {
         // Without a resolver, libcups would try choices until something fits, which nobody could follow.
         if (constraint->resolver.isEmpty())
-            return refuse(conflictSentence(key, choice, proposed, *constraint));
-    }
-    if (const auto clashes = violatedBy(constraints_, proposed, key); !clashes.empty()) {
-        OptionMarks resolved = proposed;
-        if (!resolve(key, choice, resolved))
-            return refuse(conflictSentence(key, choice, proposed, *clashes.front()));
-        proposed = resolved;
+            return refuse(conflictSentence(key, proposed, *constraint));
     }
     ChangeResult result{true, {}, {}};
-    setMark(key, choice);
-    for (auto it = proposed.cbegin(); it != proposed.cend(); ++it) {
-        if (it.key() == key || current.value(it.key()) == it.value())
-            continue;
-        setMark(it.key(), it.value());
-        result.sideChanges.append({it.key(), current.value(it.key()), it.value(), optionText(it.key()),
-                                   choiceText(it.key(), it.value())});
+    if (!clashes.empty()) {
+        OptionMarks resolved = proposed;
+        if (!resolve(key, {{key, choice}}, resolved))
+            return refuse(conflictSentence(key, proposed, *clashes.front()));
+        for (auto it = resolved.cbegin(); it != resolved.cend(); ++it) {
+            if (it.key() != key && value(it.key()) != it.value())
+                result.sideChanges.append(sideChange(it.key(), it.value()));
+        }
     }
+    setMark(key, choice);
+    for (const SideChange& side : result.sideChanges)
+        setMark(side.key, side.choice);
     return result;
 }
 
-bool PpdModel::resolve(const QString& key, const QString& choice, OptionMarks& proposed) const
+// Lets libcups settle what clashes with `key` without touching any of `fixed`.
+bool PpdModel::resolve(const QString& key, const OptionMarks& fixed, OptionMarks& proposed) const
 {
     cups_option_t* options = nullptr;
-    int count = cupsAddOption(key.toUtf8().constData(), choice.toUtf8().constData(), 0, &options);
+    int count = 0;
+    for (auto it = fixed.cbegin(); it != fixed.cend(); ++it)
+        count = cupsAddOption(it.key().toUtf8().constData(), it->toUtf8().constData(), count, &options);
     // It answers a list of changes and marks nothing.
     const bool settled = cupsResolveConflicts(file_.get(), key.toUtf8().constData(),
-                                              choice.toUtf8().constData(), &count, &options) != 0;
+                                              fixed.value(key).toUtf8().constData(), &count, &options) != 0;
     for (int i = 0; settled && i < count; ++i) {
         const QString changed = QString::fromUtf8(options[i].name);
         if (changed != QLatin1StringView("PageRegion"))
             proposed[changed] = QString::fromUtf8(options[i].value);
     }
     cupsFreeOptions(count, options);
-    if (!settled || proposed.value(key) != choice)
+    if (!settled)
         return false;
     for (auto it = proposed.cbegin(); it != proposed.cend(); ++it) {
-        const bool changes = it.key() == key || value(it.key()) != it.value();
-        if (changes && !violatedBy(constraints_, proposed, it.key()).empty())
+        const bool changes = fixed.contains(it.key()) || value(it.key()) != it.value();
+        if (fixed.value(it.key(), it.value()) != it.value() ||
+            equipment_.value(it.key(), it.value()) != it.value() ||
+            (changes && !constraints_.violatedBy(proposed, it.key()).empty()))
             return false;
     }
     return true;
 }
 
-QString PpdModel::conflictSentence(const QString& key, const QString& choice, const OptionMarks& proposed,
+QString PpdModel::conflictSentence(const QString& key, const OptionMarks& proposed,
                                    const Constraint& constraint) const
 {
     QStringList others;
+    QStringList built;
     for (const ConstraintSide& side : constraint.sides) {
-        if (side.option != key)
-            others.append(tr("%1: %2").arg(optionText(side.option),
-                                           choiceText(side.option, proposed.value(side.option))));
+        const QString text =
+            tr("%1: %2").arg(optionText(side.option), choiceText(side.option, proposed.value(side.option)));
+        if (isInstallable(side.option))
+            built.append(text);
+        else if (side.option != key)
+            others.append(text);
     }
-    return tr("\"%1: %2\" does not go together with \"%3\". Change that first.")
-        .arg(optionText(key), choiceText(key, choice), others.join(QStringLiteral("\", \"")));
+    const QString chosen = tr("%1: %2").arg(optionText(key), choiceText(key, proposed.value(key)));
+    const QString between = QStringLiteral("\", \"");
+    if (others.isEmpty() && !built.isEmpty())
+        return tr("The printer's equipment does not allow \"%1\": whoever installed the printer has set "
+                  "\"%2\".")
+            .arg(chosen, built.join(between));
+    return tr("\"%1\" does not go together with \"%2\". Change that first.")
+        .arg(chosen, (others + built).join(between));
+}
+
+QString PpdModel::equipmentObstacle(const QString& key, const QString& choice) const
+{
+    if (equipment_.isEmpty())
+        return {};
+    OptionMarks marks = equipment_;
+    marks[key] = choice;
+    const std::vector<const Constraint*> clashes = constraints_.violatedBy(marks, key);
+    return clashes.empty() ? QString() : conflictSentence(key, marks, *clashes.front());
 }
 
 void PpdModel::setMark(const QString& key, const QString& choice)
@@ -179,13 +221,17 @@ void PpdModel::setMark(const QString& key, const QString& choice)
         return;
     }
     kept_.remove(key);
+    values_.insert(key, choice);
     ppdMarkOption(file_.get(), key.toUtf8().constData(), choice.toUtf8().constData());
 }
 
 void PpdModel::keep(const QString& key, const QString& value)
 {
     ppd_lookup::unmark(file_.get(), key);
+    if (isPageSize(key))
+        ppd_lookup::unmark(file_.get(), QStringLiteral("PageRegion"));
     kept_.insert(key, value);
+    values_.insert(key, value);
 }
 
 void PpdModel::restore(const QMap<QString, QString>& values)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/options/constraints.h"
-#include "dialog/options/option_value.h"
+#include "dialog/options/given_options.h"
 #include "dialog/options/ppd_lookup.h"
 #include "platform/printing/ppd.h"
 
@@ -29,10 +29,24 @@ struct ChangeResult {
     QList<SideChange> sideChanges;
 };
 
+/// Given options that another one could only be had by changing.
+struct SettledOption {
+    QString key;
+    QString before;
+    QList<SideChange> sideChanges;
+};
+
+/// What became of given options.
+struct ApplyResult {
+    QList<LeftOut> leftOut;
+    QList<SettledOption> settled;
+};
+
 /// A choice or an option of the PPD as the user sees it.
 struct ChoiceItem {
     QString keyword;
     QString text;
+    QString obstacle; ///< the sentence why the printer's equipment rules it out; empty if it does not
 };
 
 struct OptionItem {
@@ -51,7 +65,8 @@ struct SheetGeometry {
 
 /// The printer's options with their current choices: the PPD's marks, and the values that the PPD cannot mark
 /// (custom values, values and keywords that it does not know), which are kept beside them. No option is ever
-/// left marked as "Custom". Main thread only.
+/// left marked as "Custom". The printer's equipment (its installable options) takes part in the constraints
+/// and is nobody's to change. One thread at a time; it may be made on a worker.
 class PpdModel {
     Q_DECLARE_TR_FUNCTIONS(PpdModel)
 
@@ -71,8 +86,10 @@ public:
     /// PPD's.
     void setWords(Words words) { words_ = std::move(words); }
 
-    /// Applies options in order. Answers the sentences about those that were refused.
-    QStringList apply(const OptionValues& options);
+    /// Applies options as one set: of an option that was given twice the later one counts, and only what is
+    /// chosen in the end has to go together. Where it does not, the option gives way that has the least say.
+    /// A value that the printer cannot take is left out, and so is an unknown option that no job carries.
+    ApplyResult apply(const GivenOptions& given);
 
     /// Proposes a choice: listed values are checked against the PPD's constraints, custom values against
     /// their limits, unknown ones are kept as they are. Nothing has changed if it is refused.
@@ -92,15 +109,27 @@ public:
 
     const QMap<QString, QString>& kept() const { return kept_; }
 
-    /// Every current value: marks and kept ones.
-    QMap<QString, QString> values() const;
+    /// Every current value: marks and kept ones, without the printer's equipment.
+    const QMap<QString, QString>& values() const { return values_; }
 
     /// The user's words for an option and a value; the keyword or value itself if nobody has any.
     QString optionText(const QString& key) const;
     QString choiceText(const QString& key, const QString& choice) const;
 
-    /// The options in the PPD's order. PageRegion, which follows PageSize, is not among them.
-    QList<OptionItem> options() const;
+    /// The keywords of the options in the PPD's order. PageRegion, which follows PageSize, is not among them.
+    const QStringList& keys() const { return keys_; }
+
+    /// How many choices the PPD lists for an option; 0 if it does not know it.
+    int choiceCount(const QString& key) const;
+
+    /// Whether the option says what is built into the printer.
+    bool isInstallable(const QString& key) const { return equipment_.contains(key); }
+
+    /// An option with its words; one without choices if the PPD does not know it.
+    OptionItem option(const QString& key) const;
+
+    /// What the PPD names as the option's default although it does not list it; empty if it lists it.
+    QString unlistedDefault(const QString& key) const;
 
     /// The sheet of the current page size; A4 with half-inch margins if the PPD knows no size at all.
     SheetGeometry sheet() const;
@@ -111,19 +140,40 @@ public:
 private:
     QString inWords(const QString& text) const { return words_ ? words_(text) : text; }
 
-    OptionItem makeItem(const ppd_option_s& option) const;
+    /// What a value would become.
+    struct Proposal {
+        QString key; ///< as the PPD spells it
+        QString value;
+        bool isListed = false;
+        QString refusal = {};
+    };
+
+    struct GivenSet;
+
+    void readOptions();
+    Proposal propose(const QString& key, const QString& value, ppd_lookup::NumberReading reading) const;
+    Proposal proposeCustom(Proposal proposal, ppd_lookup::NumberReading reading) const;
+    Proposal proposePageSize(Proposal proposal) const;
+    Proposal proposeGiven(const GivenOption& option) const;
+    GivenSet checkGiven(const GivenOptions& given, ApplyResult& result) const;
+    bool settleGiven(GivenSet& set, ApplyResult& result) const;
+    OptionMarks marksWith(const OptionMarks& changed) const;
     ChangeResult changeListed(const QString& key, const QString& choice);
-    ChangeResult keepCustom(const QString& key, const QString& value, ppd_lookup::NumberReading reading);
-    ChangeResult keepPageSize(const QString& value);
-    bool resolve(const QString& key, const QString& choice, OptionMarks& proposed) const;
+    bool resolve(const QString& key, const OptionMarks& fixed, OptionMarks& proposed) const;
     ChangeResult refuse(const QString& sentence) const;
-    QString conflictSentence(const QString& key, const QString& choice, const OptionMarks& proposed,
+    QString conflictSentence(const QString& key, const OptionMarks& proposed,
                              const Constraint& constraint) const;
+    QString equipmentObstacle(const QString& key, const QString& choice) const;
+    SideChange sideChange(const QString& key, const QString& choice) const;
     void setMark(const QString& key, const QString& choice);
     void keep(const QString& key, const QString& value);
 
     std::shared_ptr<ppd_file_t> file_;
-    std::vector<Constraint> constraints_;
+    Constraints constraints_;
+    QStringList keys_;
+    QHash<QString, int> groups_; ///< the options' groups in the PPD
+    QMap<QString, QString> values_;
+    QMap<QString, QString> equipment_;
     QMap<QString, QString> kept_;
     Words words_;
 };

@@ -20,28 +20,39 @@ QString textOr(const char* text, const QString& other)
 
 } // namespace
 
-QString PpdModel::value(const QString& key) const
+void PpdModel::readOptions()
 {
-    if (const auto found = kept_.constFind(key); found != kept_.cend())
-        return *found;
-    const ppd_choice_t* marked = ppdFindMarkedChoice(file_.get(), key.toUtf8().constData());
-    return marked ? QString::fromUtf8(marked->choice) : QString();
+    for (int g = 0; g < file_->num_groups; ++g) {
+        const ppd_group_t& group = file_->groups[g];
+        const bool isEquipment = qstrcmp(group.name, "InstallableOptions") == 0;
+        for (int i = 0; i < group.num_options; ++i) {
+            const char* keyword = group.options[i].keyword;
+            if (qstrcmp(keyword, "PageRegion") == 0)
+                continue;
+            const QString key = QString::fromUtf8(keyword);
+            keys_.append(key);
+            groups_.insert(key, g);
+            const ppd_choice_t* marked = ppdFindMarkedChoice(file_.get(), keyword);
+            const QString choice = marked ? QString::fromUtf8(marked->choice) : QString();
+            if (isEquipment)
+                equipment_.insert(key, choice);
+            else if (marked)
+                values_.insert(key, choice);
+        }
+    }
 }
 
-QMap<QString, QString> PpdModel::values() const
+QString PpdModel::value(const QString& key) const
 {
-    QMap<QString, QString> all = kept_;
-    for (const OptionItem& option : options()) {
-        const QString current = value(option.key);
-        if (!current.isEmpty() && !option.isInstallable)
-            all.insert(option.key, current);
-    }
-    return all;
+    const auto built = equipment_.constFind(key);
+    return built != equipment_.cend() ? *built : values_.value(key);
 }
 
 // A keyword may have words of its own, which say more than the PPD's short text does.
 QString PpdModel::optionText(const QString& key) const
 {
+    if (key == QLatin1StringView("PageSize"))
+        return tr("Paper size");
     const QString own = inWords(key);
     const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
     return own == key && option ? inWords(textOr(option->text, key)) : own;
@@ -53,32 +64,39 @@ QString PpdModel::choiceText(const QString& key, const QString& choice) const
     return listed ? inWords(textOr(listed->text, choice)) : choice;
 }
 
-OptionItem PpdModel::makeItem(const ppd_option_t& option) const
+int PpdModel::choiceCount(const QString& key) const
 {
-    const QString key = QString::fromUtf8(option.keyword);
-    OptionItem item{key, optionText(key), {}, {}};
-    for (int i = 0; i < option.num_choices; ++i) {
-        const QString keyword = QString::fromUtf8(option.choices[i].choice);
-        if (ppd_lookup::listedChoice(file_.get(), key, keyword))
-            item.choices.append({keyword, inWords(textOr(option.choices[i].text, keyword))});
+    const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    const bool hasCustom = option && ppdFindCustomOption(file_.get(), option->keyword);
+    return option ? option->num_choices - (hasCustom ? 1 : 0) : 0;
+}
+
+OptionItem PpdModel::option(const QString& key) const
+{
+    OptionItem item{key, optionText(key), {}, {}, isInstallable(key)};
+    const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    if (!option)
+        return item;
+    if (const auto group = groups_.constFind(key); group != groups_.cend())
+        item.group = inWords(QString::fromUtf8(file_->groups[*group].text));
+    const bool hasCustom = ppdFindCustomOption(file_.get(), option->keyword) != nullptr;
+    item.choices.reserve(option->num_choices);
+    for (int i = 0; i < option->num_choices; ++i) {
+        const ppd_choice_t& choice = option->choices[i];
+        if (hasCustom && qstrcmp(choice.choice, "Custom") == 0)
+            continue;
+        const QString keyword = QString::fromUtf8(choice.choice);
+        item.choices.append({keyword, inWords(textOr(choice.text, keyword)),
+                             item.isInstallable ? QString() : equipmentObstacle(key, keyword)});
     }
     return item;
 }
 
-QList<OptionItem> PpdModel::options() const
+QString PpdModel::unlistedDefault(const QString& key) const
 {
-    QList<OptionItem> items;
-    for (int g = 0; g < file_->num_groups; ++g) {
-        const ppd_group_t& group = file_->groups[g];
-        for (int i = 0; i < group.num_options; ++i) {
-            if (qstrcmp(group.options[i].keyword, "PageRegion") == 0)
-                continue;
-            items.append(makeItem(group.options[i]));
-            items.last().group = inWords(QString::fromUtf8(group.text));
-            items.last().isInstallable = qstrcmp(group.name, "InstallableOptions") == 0;
-        }
-    }
-    return items;
+    const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    const QString name = option ? QString::fromUtf8(option->defchoice) : QString();
+    return name.isEmpty() || ppd_lookup::listedChoice(file_.get(), key, name) ? QString() : name;
 }
 
 SheetGeometry PpdModel::sheet() const

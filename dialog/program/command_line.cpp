@@ -172,7 +172,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
     if (!parser.parse(arguments))
         return wrong(parser.errorText() + QLatin1Char(' ') + Switches::seeHelp());
-    if (parser.isSet(help))
+    if (parser.isSet(help) || parser.isSet(QStringLiteral("help-all")))
         return {std::nullopt, parser.helpText() + QLatin1Char('\n') + Switches::exitStatuses(), kExitPrinted};
     if (parser.isSet(version))
         return {std::nullopt,

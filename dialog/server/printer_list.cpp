@@ -1,5 +1,6 @@
 #include "dialog/server/printer_list.h"
 
+#include "platform/foundation/near_names.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,8 @@ namespace {
 
 constexpr int kRefreshMilliseconds = 4000;
 constexpr int kDiscoveryMilliseconds = 3000;
+// More names than these nobody reads in a sentence.
+constexpr qsizetype kMostNamed = 8;
 
 QString words(const char* text)
 {
@@ -63,8 +66,20 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
     if (names.isEmpty())
         return QCoreApplication::translate(
             "BatchPrint", "The print server has no printers. Add one, for example with lpadmin.");
-    return QCoreApplication::translate("BatchPrint", "The print server has no printer \"%1\". It has: %2.")
-        .arg(name, names.join(QStringLiteral(", ")));
+    const qsizetype count = names.size();
+    if (count > kMostNamed) {
+        names = nearNames(name, names, kMostNamed) + names;
+        names.removeDuplicates();
+        names.resize(kMostNamed);
+    }
+    const QString list = names.join(QStringLiteral(", "));
+    if (count == names.size())
+        return QCoreApplication::translate("BatchPrint",
+                                           "The print server has no printer \"%1\". It has: %2.")
+            .arg(name, list);
+    return QCoreApplication::translate(
+               "BatchPrint", "The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
+        .arg(name, list, QString::number(count - names.size()));
 }
 
 PrinterList::PrinterList(QObject* parent) : QObject(parent), stop_(cups::makeCancelFlag())

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace halvern {
 
@@ -20,20 +21,29 @@ void setOption(OptionValues& options, const QString& key, const QString& value)
     options.append({key, value});
 }
 
-void readLine(const QByteArray& line, SavedOptions& saved)
+// The line's next word; the rest stays in `line`.
+QByteArray takeWord(QByteArray& line)
 {
-    const QList<QByteArray> words = line.simplified().split(' ');
-    if (words.size() < 2)
+    line = line.trimmed();
+    qsizetype end = 0;
+    while (end < line.size() && line[end] != ' ' && line[end] != '\t')
+        ++end;
+    const QByteArray word = line.left(end);
+    line = line.mid(end).trimmed();
+    return word;
+}
+
+void readLine(QByteArray line, SavedOptions& saved)
+{
+    const QByteArray kind = takeWord(line);
+    const QString printer = QString::fromUtf8(takeWord(line));
+    const bool isDefault = kind.compare("default", Qt::CaseInsensitive) == 0;
+    if (printer.isEmpty() || (!isDefault && kind.compare("dest", Qt::CaseInsensitive) != 0))
         return;
-    const bool isDefault = words[0].compare("default", Qt::CaseInsensitive) == 0;
-    if (!isDefault && words[0].compare("dest", Qt::CaseInsensitive) != 0)
-        return;
-    const QString printer = QString::fromUtf8(words[1]);
     if (isDefault)
-        saved.defaultPrinter = printer.section(QLatin1Char('/'), 0, 0);
-    const QByteArray rest = line.mid(line.indexOf(words[1]) + words[1].size());
+        saved.defaultPrinter = printer;
     cups_option_t* parsed = nullptr;
-    const int count = cupsParseOptions(rest.trimmed().constData(), 0, &parsed);
+    const int count = cupsParseOptions(line.constData(), 0, &parsed);
     OptionValues& options = saved.byPrinter[printer];
     for (int i = 0; i < count; ++i)
         setOption(options, QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value));
@@ -42,12 +52,27 @@ void readLine(const QByteArray& line, SavedOptions& saved)
 
 } // namespace
 
+QString queueOf(const QString& printer)
+{
+    return printer.section(QLatin1Char('/'), 0, 0);
+}
+
+OptionValues SavedOptions::optionsOf(const QString& printer) const
+{
+    OptionValues options = byPrinter.value(queueOf(printer));
+    if (printer != queueOf(printer)) {
+        for (const OptionValue& own : byPrinter.value(printer))
+            setOption(options, own.key, own.value);
+    }
+    return options;
+}
+
 SavedOptions readSavedOptions(const QStringList& paths)
 {
     SavedOptions saved;
     for (const QString& path : paths) {
         QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
         while (!file.atEnd())
             readLine(file.readLine(), saved);

@@ -7,13 +7,21 @@
 
 namespace halvern {
 
-/// What the user saved with lpoptions.
+/// What the user saved with lpoptions. A printer may have instances ("queue/name"), each with options of its
+/// own over the queue's.
 struct SavedOptions {
-    QString defaultPrinter; ///< empty if none was chosen
+    QString defaultPrinter; ///< a queue or an instance; empty if none was chosen
     QMap<QString, OptionValues> byPrinter;
+
+    /// The options of a queue, or of an instance: the queue's with its own after them.
+    OptionValues optionsOf(const QString& printer) const;
 };
 
-/// Reads lpoptions files in this order, later ones winning. Files that cannot be read count as empty.
+/// The queue of a printer's name: "queue/name" -> "queue".
+QString queueOf(const QString& printer);
+
+/// Reads lpoptions files in this order, later ones winning. Files that cannot be read, and what is no file
+/// (a pipe would never end), count as empty.
 SavedOptions readSavedOptions(const QStringList& paths);
 
 /// The same for the system's file and the user's own, with the LPDEST and PRINTER variables over both.

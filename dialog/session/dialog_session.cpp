@@ -50,9 +50,9 @@ void DialogSession::start()
 {
     printers_->start();
     // A known name need not wait for the list.
-    const QString known = request_.printer.isEmpty() ? saved_.defaultPrinter : request_.printer;
-    if (!known.isEmpty())
-        selectPrinter(known);
+    startedWith_ = request_.printer.isEmpty() ? saved_.defaultPrinter : request_.printer;
+    if (!startedWith_.isEmpty())
+        selectPrinter(queueOf(startedWith_));
     QPointer<DialogSession> self(this);
     const WorkQueue queue;
     for (const QString& path : request_.files) {
@@ -100,10 +100,17 @@ void DialogSession::settleDamaged(bool print)
 
 void DialogSession::takePrinters()
 {
-    if (!printerName_.isEmpty() || printers_->printers().empty())
+    const bool isLost = request_.printer.isEmpty() && request_.replacesLostDefault && !model_ &&
+                        printerName_ == queueOf(startedWith_) && !printers_->find(printerName_);
+    if ((!printerName_.isEmpty() && !isLost) || printers_->printers().empty())
         return;
+    const QString lost = printerName_;
     const QString standard = printers_->serverDefault();
     selectPrinter(printers_->find(standard) ? standard : printers_->printers().front().name);
+    if (!lost.isEmpty())
+        Q_EMIT notice(
+            tr("Your default printer \"%1\" is none of the print server's. \"%2\" was chosen instead.")
+                .arg(lost, printerName_));
 }
 
 void DialogSession::selectPrinter(const QString& name)
@@ -171,12 +178,21 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
 void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
 {
     const QMap<QString, QString> byDefault = model_->values();
-    const OptionValues saved = queueDefaults + saved_.byPrinter.value(printerName_);
-    for (const QString& sentence : model_->apply(inPpdTerms(saved)))
-        Q_EMIT notice(tr("A saved setting was left out. %1").arg(sentence));
-    const QStringList refusals = model_->apply(inPpdTerms(request_.options));
-    for (const QString& sentence : refusals)
-        Q_EMIT refused(sentence);
+    const QString savedFor = printerName_ == queueOf(startedWith_) ? startedWith_ : printerName_;
+    const UnderstoodOptions given =
+        understand(model_->file(), givenBy(OptionOrigin::queue, queueDefaults) +
+                                       givenBy(OptionOrigin::saved, saved_.optionsOf(savedFor)) +
+                                       givenBy(OptionOrigin::typed, request_.options));
+    takeWishes(given.page);
+    const ApplyResult result = model_->apply(given.options);
+    for (const LeftOut& left : given.leftOut + result.leftOut) {
+        if (left.origin == OptionOrigin::typed)
+            Q_EMIT refused(left.sentence);
+        else
+            Q_EMIT notice(tr("A saved setting was left out. %1").arg(left.sentence));
+    }
+    for (const SettledOption& settled : result.settled)
+        rememberForUndo(settled.key, settled.before, settled.sideChanges);
     applyBackLines();
     // What the queue would add by itself is the panels' to see and to change.
     if (!queueJobSheets.isEmpty())
@@ -188,6 +204,18 @@ void DialogSession::applyOptions(const OptionValues& queueDefaults, const QStrin
         if (model_->isKept(it.key()) || byDefault.value(it.key()) != it.value())
             settings_->setValue(it.key(), it.value(), false);
     }
+}
+
+// Once: what the user sets afterwards is not taken back by the next printer.
+void DialogSession::takeWishes(const PageWishes& wishes)
+{
+    if (std::exchange(hasTakenWishes_, true))
+        return;
+    if (wishes.scaling == QLatin1StringView("fill"))
+        page_.scaling = Scaling::fill;
+    else if (wishes.scaling == QLatin1StringView("none"))
+        page_.scaling = Scaling::actualSize;
+    page_.isCollated = wishes.isCollated.value_or(page_.isCollated);
 }
 
 void DialogSession::applyBackLines()
@@ -367,7 +395,7 @@ OptionValues DialogSession::collectOptions()
     for (const std::shared_ptr<Panel>& panel : saving)
         panel->saveValuesAndReturnError(nullptr);
     return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
-                            page_.copies, model_ != nullptr});
+                            page_.copies, int(photos_.size()), page_.isCollated});
 }
 
 PrintRun* DialogSession::makeRun()

@@ -20,6 +20,7 @@ struct PageSettings {
     Scaling scaling = Scaling::fit;
     PageTurn turn = PageTurn::automatic;
     int copies = 1;
+    bool isCollated = true;
 };
 
 /// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
@@ -136,6 +137,7 @@ private:
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
     void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
+    void takeWishes(const PageWishes& wishes);
     void applyBackLines();
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
@@ -148,12 +150,14 @@ private:
     SavedOptions saved_;
     PrinterList* printers_;
     QString printerName_;
+    QString startedWith_; ///< a queue or an instance; empty if nobody named one
     std::unique_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<PanelHost> host_;
     PanelList panels_;
     QString bundleName_; // of the panels
     PageSettings page_;
+    bool hasTakenWishes_ = false;
     std::vector<Photo> photos_;
     QStringList damagedFiles_;
     int filesLeft_ = 0;

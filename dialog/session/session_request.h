@@ -10,11 +10,13 @@ inline constexpr int kMostCopies = 999;
 
 /// What a session starts with.
 struct SessionRequest {
-    QString printer;      ///< empty: the user's or the server's default
+    QString printer;      ///< a queue or its instance; empty: the user's or the server's default
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
     bool printDamaged = false; ///< also photos of which a part is missing, without asking
+    /// Whether another printer is taken if the user's default is none of the server's.
+    bool replacesLostDefault = true;
     /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
     /// sends it command jobs.
     bool panelsAskPrinter = true;

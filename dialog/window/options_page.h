@@ -3,12 +3,16 @@
 #include "dialog/session/dialog_session.h"
 
 #include <QMap>
+#include <QTimer>
 #include <QWidget>
 
 class QComboBox;
 class QFormLayout;
+class QLabel;
 
 namespace halvern {
+
+class ChoiceList;
 
 /// The PPD's options that no panel offers, as a list of pop-ups under their groups' titles. Main thread only.
 class OptionsPage : public QWidget {
@@ -24,15 +28,32 @@ public:
     void refresh();
 
     /// Whether there is anything on the page.
-    bool isEmpty() const { return boxes_.isEmpty(); }
+    bool isEmpty() const { return keys_.isEmpty(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addOption(QFormLayout* form, const OptionItem& option);
+    struct Box {
+        QComboBox* box = nullptr;
+        ChoiceList* choices = nullptr;
+    };
+
+    void addRows();
+    void addOption(const OptionItem& option);
+    QComboBox* makeBox(const OptionItem& option);
+    void refreshBox(const QString& key);
     void choose(const QString& key);
 
     DialogSession& session_;
     QWidget* content_ = nullptr;
-    QMap<QString, QComboBox*> boxes_;
+    QFormLayout* form_ = nullptr;
+    QLabel* more_;
+    QTimer timer_;
+    QStringList keys_;
+    qsizetype built_ = 0; ///< how many of them have their row
+    QString group_;       ///< of the last row
+    QMap<QString, Box> boxes_;
 };
 
 /// An option's title and its value's, for the summary.
@@ -41,7 +62,7 @@ using SummaryLines = QList<std::pair<QString, QString>>;
 /// The dialog's own lines of the summary: printer, paper, size, copies, and the options of OptionsPage.
 SummaryLines ownSummary(DialogSession& session);
 
-/// The options that no panel owns and that are a matter of the job.
-QList<OptionItem> optionsWithoutPanel(DialogSession& session);
+/// The keywords of the options that no panel owns, the printer's equipment among them.
+QStringList optionsWithoutPanel(DialogSession& session);
 
 } // namespace halvern

@@ -1,5 +1,7 @@
 #include "dialog/window/paper_page.h"
 
+#include "dialog/window/choice_list.h"
+
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QFormLayout>
@@ -21,6 +23,7 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
       paper_(new QComboBox(this)),
+      papers_(new ChoiceList(paper_)),
       turn_(new QButtonGroup(this)),
       scaling_(new QButtonGroup(this))
 {
@@ -76,19 +79,12 @@ void PaperPage::refresh()
 {
     const PpdModel* model = session_.model();
     paper_->setEnabled(model != nullptr);
-    paper_->clear();
-    if (model) {
-        const QString current = model->value(kPageSizeKey);
-        for (const OptionItem& option : model->options()) {
-            if (option.key != kPageSizeKey)
-                continue;
-            for (const ChoiceItem& choice : option.choices)
-                paper_->addItem(choice.text, choice.keyword);
-        }
-        if (paper_->findData(current) < 0 && !current.isEmpty())
-            paper_->addItem(current, current);
-        paper_->setCurrentIndex(paper_->findData(current));
+    const std::shared_ptr<ppd_file_t> file = model ? model->sharedFile() : nullptr;
+    if (!file || listedFor_.lock() != file) {
+        listedFor_ = file;
+        papers_->setChoices(model ? model->option(kPageSizeKey).choices : QList<ChoiceItem>());
     }
+    papers_->select(model ? model->value(kPageSizeKey) : QString());
     const PageSettings& page = session_.page();
     turn_->button(int(page.turn))->setChecked(true);
     scaling_->button(int(page.scaling))->setChecked(true);

@@ -10,6 +10,8 @@ class QSpinBox;
 
 namespace halvern {
 
+class ChoiceList;
+
 /// The dialog's own first page: paper size, turn, scaling. Main thread only.
 class PaperPage : public QWidget {
     Q_OBJECT
@@ -28,6 +30,8 @@ private:
 
     DialogSession& session_;
     QComboBox* paper_;
+    ChoiceList* papers_;
+    std::weak_ptr<ppd_file_t> listedFor_; ///< whose sizes are listed
     QButtonGroup* turn_;
     QButtonGroup* scaling_;
 };

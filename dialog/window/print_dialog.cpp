@@ -5,6 +5,7 @@
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/run_bar.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -178,6 +179,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     row->setSpacing(10);
     row->addWidget(label);
     row->addWidget(copies_);
+    row->addWidget(makeCollateBox(parent));
     row->addStretch();
     row->addWidget(cancelJob_);
     row->addWidget(cancel_);
@@ -191,6 +193,20 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     connect(cancel_, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(print_, &QPushButton::clicked, this, &PrintDialog::print);
     return row;
+}
+
+QWidget* PrintDialog::makeCollateBox(QWidget* parent)
+{
+    collate_ = new QCheckBox(tr("Co&llate"), parent);
+    collate_->setObjectName(QStringLiteral("collate"));
+    collate_->setToolTip(tr("Whole sets one after the other: 1, 2, 3, 1, 2, 3"));
+    collate_->setChecked(session_.page().isCollated);
+    connect(collate_, &QCheckBox::toggled, this, [this](bool isCollated) {
+        PageSettings page = session_.page();
+        page.isCollated = isCollated;
+        session_.setPage(page);
+    });
+    return collate_;
 }
 
 void PrintDialog::makeShortcuts()

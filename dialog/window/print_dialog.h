@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QPointer>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -51,6 +52,7 @@ private:
     QWidget* makeControlSide();
     QLayout* makePrinterRows(QWidget* parent);
     QLayout* makeButtonRow(QWidget* parent);
+    QWidget* makeCollateBox(QWidget* parent);
     void connectSession();
     void makeShortcuts();
     void fillPrinters();
@@ -73,6 +75,7 @@ private:
     QLabel* printerState_ = nullptr;
     PanelDeck* deck_ = nullptr;
     QSpinBox* copies_ = nullptr;
+    QCheckBox* collate_ = nullptr;
     QPushButton* print_ = nullptr;
     QPushButton* cancel_ = nullptr;
     QPushButton* cancelJob_ = nullptr;

@@ -6,6 +6,7 @@
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/run_bar.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
 #include <QSpinBox>
@@ -21,6 +22,8 @@ void PrintDialog::updateButtons()
     printer_->setEnabled(!isBusy);
     deck_->setEnabled(!isBusy);
     copies_->setEnabled(!isBusy);
+    collate_->setEnabled(!isBusy);
+    collate_->setVisible(copies_->value() > 1 && session_.photos().size() > 1);
     cancelJob_->setVisible(isBusy);
     cancelJob_->setEnabled(isBusy && !run_->isCancelled());
     cancel_->setText(isBusy || hasPrinted_ ? tr("Close") : tr("Cancel"));

@@ -2,18 +2,77 @@
 
 #include "platform/foundation/log.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
+#include <QStandardPaths>
 
-#include <memory>
+#include <cstdio>
 
 namespace halvern {
 
 namespace {
 
-std::unique_ptr<QSettings> openSettings()
+constexpr int kLockMilliseconds = 1000;
+
+QString settingsPath()
 {
-    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("halvern"),
-                                       QStringLiteral("print"));
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/halvern/print.ini");
+}
+
+QVariantMap readAll(const QString& path)
+{
+    QVariantMap values;
+    // A pipe would never end.
+    if (!QFileInfo(path).isFile())
+        return values;
+    const QSettings settings(path, QSettings::IniFormat);
+    for (const QString& key : settings.allKeys())
+        values.insert(key, settings.value(key));
+    return values;
+}
+
+bool isSame(const QVariantMap& read, const QVariantMap& wanted)
+{
+    if (read.keys() != wanted.keys())
+        return false;
+    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+        if (read.value(it.key()).toString() != it->toString())
+            return false;
+    }
+    return true;
+}
+
+bool moveFile(const QString& from, const QString& to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+// QSettings takes a full disk for a success and leaves an empty file. So it writes beside the file, and what
+// it wrote is read again under another name, because it keeps in memory what it knows under the first one.
+bool writeWhole(const QString& path, const QVariantMap& values)
+{
+    const QFileInfo before(path);
+    if (!QDir().mkpath(before.path()) || (before.exists() && !before.isFile()))
+        return false;
+    const QString target = before.exists() ? before.canonicalFilePath() : path;
+    const QString draft = target + QStringLiteral(".draft");
+    const QString proof = target + QStringLiteral(".new");
+    {
+        QSettings settings(draft, QSettings::IniFormat);
+        settings.clear();
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            settings.setValue(it.key(), it.value());
+        settings.sync();
+    }
+    const bool isWritten = moveFile(draft, proof) && isSame(readAll(proof), values);
+    if (isWritten && moveFile(proof, target))
+        return true;
+    QFile::remove(draft);
+    QFile::remove(proof);
+    return false;
 }
 
 } // namespace
@@ -31,26 +90,33 @@ QString UserDefaults::globalDomain()
 
 QVariantMap UserDefaults::persistentDomain(const QString& domain) const
 {
-    const std::unique_ptr<QSettings> settings = openSettings();
-    settings->beginGroup(domain);
+    const QString prefix = domain + QLatin1Char('/');
+    const QVariantMap all = readAll(settingsPath());
     QVariantMap values;
-    const QStringList keys = settings->allKeys();
-    for (const QString& key : keys)
-        values.insert(key, settings->value(key));
+    for (auto it = all.cbegin(); it != all.cend(); ++it) {
+        if (it.key().startsWith(prefix))
+            values.insert(it.key().mid(prefix.size()), it.value());
+    }
     return values;
 }
 
 void UserDefaults::setPersistentDomain(const QVariantMap& values, const QString& domain)
 {
-    const std::unique_ptr<QSettings> settings = openSettings();
-    settings->remove(domain);
-    settings->beginGroup(domain);
-    for (auto it = values.cbegin(); it != values.cend(); ++it)
-        settings->setValue(it.key(), it.value());
-    settings->endGroup();
-    settings->sync();
-    if (settings->status() != QSettings::NoError)
-        logLine(QStringLiteral("could not write the user's defaults to %1").arg(settings->fileName()));
+    const QString path = settingsPath();
+    const QString prefix = domain + QLatin1Char('/');
+    QDir().mkpath(QFileInfo(path).path());
+    QLockFile lock(path + QStringLiteral(".lock"));
+    bool isWritten = lock.tryLock(kLockMilliseconds);
+    if (isWritten) {
+        QVariantMap all = readAll(path);
+        all.removeIf(
+            [&](std::pair<const QString&, QVariant&> entry) { return entry.first.startsWith(prefix); });
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            all.insert(prefix + it.key(), it.value());
+        isWritten = writeWhole(path, all);
+    }
+    if (!isWritten)
+        logLine(QStringLiteral("could not write the user's defaults to %1").arg(path));
 }
 
 QVariant UserDefaults::objectForKey(const QString& key) const

@@ -17,7 +17,8 @@ public:
     /// All keys of a domain with their values; empty if the domain does not exist or the file cannot be read.
     QVariantMap persistentDomain(const QString& domain) const;
 
-    /// Replaces the whole domain and writes it out. Logs a line if the file cannot be written.
+    /// Replaces the whole domain and writes it out. Logs a line if the file cannot be written, which is then
+    /// as it was.
     void setPersistentDomain(const QVariantMap& values, const QString& domain);
 
     /// A single value of the global domain, invalid if absent.

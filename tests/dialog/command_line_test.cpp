@@ -68,6 +68,7 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
     const ProgramResult window = runProgram(q(HALVERN_PRINT_PROGRAM), {photo()}, dead);
     EXPECT_TRUE(window.status == 1 && window.error.contains(q("display cannot be used")))
         << qPrintable(window.error);
+    EXPECT_EQ(runPrint({q("--help-all")}).status, 0);
 }
 
 TEST_F(CommandLineTest, ADeadServerIsNamedWithTheWayToStartIt)

@@ -9,9 +9,12 @@
 #include "tests/support/files.h"
 #include "tests/support/text.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 namespace halvern {
 
@@ -35,6 +38,7 @@ TEST(JobOptions, EveryChoiceIsThereAndASavedValueWinsOverAMark)
         {q("PageSize"), q("4x6")}, {q("PaperName"), q("Loaded")}, {q("SharpnessIntensity"), q("1.24")}};
     inputs.settings = {{q("PaperName"), q("Matte A4")}, {q("BindingWidth"), 12.5}, {q("EnableCVP1"), true}};
     inputs.copies = 3;
+    inputs.pages = 2;
     const OptionValues merged = mergeJobOptions(inputs);
     EXPECT_EQ(valueOf(merged, "PageSize"), q("4x6")) << "a default too";
     EXPECT_EQ(valueOf(merged, "PaperName"), q("Matte A4"));
@@ -42,29 +46,29 @@ TEST(JobOptions, EveryChoiceIsThereAndASavedValueWinsOverAMark)
     EXPECT_EQ(valueOf(merged, "BindingWidth"), q("12.5"));
     EXPECT_EQ(valueOf(merged, "EnableCVP1"), q("True"));
     EXPECT_EQ(valueOf(merged, "copies"), q("3"));
-    EXPECT_EQ(valueOf(merged, "print-scaling"), q("none"));
+    EXPECT_EQ(valueOf(merged, "Collate"), q("True"));
+    inputs.isCollated = false;
+    EXPECT_EQ(valueOf(mergeJobOptions(inputs), "Collate"), q("False"));
 }
 
 TEST(JobOptions, WhatWouldContradictThePageIsLeftOut)
 {
     JobInputs inputs;
-    inputs.values = {{q("PageSize"), q("A4")}, {q("media"), q("Letter")}, {q("fit-to-page"), q("true")}};
+    inputs.values = {{q("PageSize"), q("A4")}, {q("media"), q("Letter")}, {q("fit-to-page"), q("true")},
+                     {q("ppi"), q("72")},      {q("number-up"), q("2")},  {q("Duplex"), q("None")}};
+    inputs.pages = 4;
     inputs.settings = {{q("sides"), q("two-sided-long-edge")}, {q("job-sheets"), q("None")}, {q("a.b.c"), 1}};
     const OptionValues merged = mergeJobOptions(inputs);
-    for (const char* key : {"media", "fit-to-page", "sides", "a.b.c"})
+    for (const char* key : {"media", "fit-to-page", "ppi", "sides", "a.b.c"})
         EXPECT_FALSE(valueOf(merged, key)) << key;
+    const std::pair<const char*, const char*> neutral[] = {
+        {"number-up", "1"},        {"orientation-requested", "3"},
+        {"landscape", "false"},    {"mirror", "false"},
+        {"page-set", "all"},       {"print-scaling", "none"},
+        {"outputorder", "normal"}, {"page-ranges", "1-4"}};
+    for (const auto& [key, value] : neutral)
+        EXPECT_EQ(valueOf(merged, key), q(value)) << "else the queue's default would turn or scale the page";
     EXPECT_EQ(valueOf(merged, "job-sheets"), q("none")) << "the server refuses every other spelling";
-}
-
-TEST(JobOptions, SavedIppOptionsAreUnderstoodInThePpdsTerms)
-{
-    const OptionValues options = inPpdTerms({{q("media"), q("A4,Roll")},
-                                             {q("sides"), q("two-sided-short-edge")},
-                                             {q("number-up"), q("4")},
-                                             {q("PaperTone"), q("Warm")}});
-    EXPECT_EQ(options,
-              (OptionValues{
-                  {q("PageSize"), q("A4")}, {q("Duplex"), q("DuplexTumble")}, {q("PaperTone"), q("Warm")}}));
 }
 
 TEST(JobOptions, TextGoesIntoTheRequestByteForByteWhateverItLooksLike)
@@ -91,6 +95,7 @@ TEST(JobOptions, OptionsOnTheCommandLineNeedAKeyAndAnEqualsSign)
 {
     EXPECT_EQ(parseOption(q("CVP1=a=b c")), (OptionValue{q("CVP1"), q("a=b c")}));
     EXPECT_EQ(parseOption(q("CVP1=")), (OptionValue{q("CVP1"), q("")}));
+    EXPECT_EQ(parseOption(q("fit-to-page")), (OptionValue{q("fit-to-page"), q("true")}));
     for (const char* bad : {"", "=x", "PageSize", "a b=c"})
         EXPECT_FALSE(parseOption(q(bad))) << bad;
 }
@@ -102,11 +107,34 @@ TEST(SavedOptions, TheUsersFileWinsOverTheSystems)
         writeFile(folder.filePath(q("system")),
                   "Default Office PageSize=A4\nDest Tessarin PaperTone=Soft Resolution=300dpi\n");
     const QString user = writeFile(folder.filePath(q("user")),
-                                   "Dest Tessarin PaperTone='Very Warm'\nDefault Tessarin\nnonsense\n");
-    const SavedOptions saved = readSavedOptions({system, user, q("/nowhere/lpoptions")});
-    EXPECT_EQ(saved.defaultPrinter, q("Tessarin"));
-    EXPECT_EQ(saved.byPrinter.value(q("Tessarin")),
-              (OptionValues{{q("PaperTone"), q("Very Warm")}, {q("Resolution"), q("300dpi")}}));
+                                   "Dest Tessarin PaperTone='Very Warm'\nDefault Tessarin/photo Gloss=1\n"
+                                   "nonsense\nDefault a\n");
+    const QString pipe = folder.filePath(q("pipe")); // opening it would wait for a writer
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const SavedOptions saved = readSavedOptions({system, user, q("/nowhere/lpoptions"), pipe});
+    EXPECT_EQ(saved.defaultPrinter, q("a")) << "not what the word Default holds of it";
+    EXPECT_TRUE(saved.optionsOf(q("a")).isEmpty());
+    const OptionValues own{{q("PaperTone"), q("Very Warm")}, {q("Resolution"), q("300dpi")}};
+    EXPECT_EQ(saved.optionsOf(q("Tessarin")), own);
+    EXPECT_EQ(saved.optionsOf(q("Tessarin/photo")), (own + OptionValues{{q("Gloss"), q("1")}}));
+}
+
+TEST(SavedOptions, AVariableNamesThePrinterUnlessItSaysLp)
+{
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(q("lpoptions")), "Default Office\n");
+    const char* cases[][3] = {
+        {"", "", "Office"}, {"lp", "", "Office"}, {"lp", "Lab", "Lab"}, {"Tessarin", "Lab", "Lab"}};
+    qputenv("CUPS_SERVERROOT", folder.path().toUtf8());
+    qputenv("HOME", folder.path().toUtf8());
+    for (const auto& [printer, lpdest, wanted] : cases) {
+        qputenv("PRINTER", printer);
+        qputenv("LPDEST", lpdest);
+        EXPECT_EQ(readSavedOptions().defaultPrinter, q(wanted)) << printer << ' ' << lpdest;
+    }
+    qunsetenv("PRINTER");
+    qunsetenv("LPDEST");
+    qunsetenv("CUPS_SERVERROOT");
 }
 
 TEST(JobWords, EveryStageHasASentenceAndARestingJobAWayOn)

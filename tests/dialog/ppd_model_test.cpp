@@ -125,6 +125,7 @@ TEST(PpdModel, PageSizesThatThePrinterCannotTakeAreRefused)
     EXPECT_FALSE(model->change(q("PageSize"), q("Tabloid")).accepted);
     EXPECT_FALSE(model->change(q("PageSize"), q("Custom.20x20")).accepted);
     ASSERT_TRUE(model->change(q("PageSize"), q("Custom.300x500")).accepted);
+    EXPECT_FALSE(ppd::markedChoice(model->file(), q("PageRegion"))) << "a second size in the job";
     EXPECT_EQ(model->sheet().paper, QSizeF(300, 500));
     ASSERT_TRUE(model->change(q("PageSize"), q("A4")).accepted);
     EXPECT_NEAR(model->sheet().paper.height(), 841.89, 0.01);
@@ -140,15 +141,116 @@ TEST(PpdModel, SheetsHaveTheirImageableAreaFromTheTopLeft)
     EXPECT_EQ(tessarin->sheet().imageable, QRectF(0, 0, 288, 432)) << "borderless";
 }
 
-TEST(PpdModel, SavedOptionsAreAppliedInOrderAndTheBadOnesNamed)
+TEST(PpdModel, GivenOptionsGoInWhateverTheirOrderIfTheyGoTogetherInTheEnd)
 {
+    const QByteArray ppd =
+        ppdHeader() + ppdOption("Quality", {"Plain", "Photo"}) + ppdOption("Edge", {"White", "Full"}) +
+        ppdOption("Tray", {"Main", "Rear"}) +
+        "*UIConstraints: *Edge Full *Quality Plain\n*UIConstraints: *Tray Rear *Edge Full\n";
+    GivenOptions given = givenBy(OptionOrigin::typed, {{q("Edge"), q("Full")}, {q("Quality"), q("Photo")}});
+    for (int turn = 0; turn < 2; ++turn) {
+        const auto model = modelOf(ppd);
+        EXPECT_TRUE(model->apply(given).leftOut.isEmpty());
+        EXPECT_EQ(model->value(q("Edge")) + model->value(q("Quality")), q("FullPhoto"));
+        given.swapItemsAt(0, 1);
+    }
+    const auto model = modelOf(ppd);
+    const ApplyResult result = model->apply(givenBy(OptionOrigin::saved, {{q("Tray"), q("Rear")}}) + given);
+    ASSERT_EQ(result.leftOut.size(), 1) << "what is saved gives way to what is typed";
+    EXPECT_EQ(result.leftOut.front().origin, OptionOrigin::saved);
+    EXPECT_EQ(model->value(q("Tray")) + model->value(q("Edge")), q("MainFull"));
+    EXPECT_EQ(modelOf(ppd)->apply(givenBy(OptionOrigin::typed, {{q("Edge"), q("Full")}})).leftOut.size(), 1);
+    const auto settled = modelOf(smallPpd());
+    settled->change(q("Gloss"), q("On"));
+    const ApplyResult roll = settled->apply(givenBy(OptionOrigin::typed, {{q("Feed"), q("Roll")}}));
+    ASSERT_EQ(roll.settled.size(), 1);
+    EXPECT_EQ(asTexts(roll.settled.front().sideChanges), QStringList{q("Gloss=Off")});
+    EXPECT_EQ(settled->value(q("Feed")) + settled->value(q("Gloss")), q("RollOff"));
+}
+
+TEST(PpdModel, GivenOptionsThatThePrinterDoesNotKnowAreLeftOutWithTheNearOnes)
+{
+    struct Case {
+        const char* key;
+        const char* value;
+        const char* words; ///< of the sentence; empty if it is followed
+    };
+
+    const Case cases[] = {
+        {"PaperTone", "Warm", ""},
+        {"papertone", "warm", ""},
+        {"PaperTone", "Wram", "Did you mean Warm?"},
+        {"PaperTone", "Nonsense", "It has: "},
+        {"PaprTone", "Warm", "Did you mean PaperTone?"},
+        {"SharpnessIntensity", "99", "Intensity"},
+        {"SharpnessIntensity", "1.24", ""},
+        {"PageSize", "Tabloid", "no page size"},
+        {"PaperName", "My own 4x6", ""},
+        {"CVP1", "any text", ""},
+        {"job-priority", "70", ""},
+    };
+    for (const Case& c : cases) {
+        const auto model = tessarinModel();
+        const OptionValues one{{q(c.key), q(c.value)}};
+        const ApplyResult result = model->apply(givenBy(OptionOrigin::typed, one));
+        EXPECT_EQ(result.leftOut.isEmpty(), *c.words == 0) << c.key << '=' << c.value;
+        if (!result.leftOut.isEmpty()) {
+            EXPECT_TRUE(result.leftOut.front().sentence.contains(q(c.words)))
+                << qPrintable(result.leftOut.front().sentence);
+        }
+    }
+}
+
+TEST(PpdModel, TheServersOwnNamesAreUnderstoodOrRefusedWithASentence)
+{
+    struct Case {
+        const char* key;
+        const char* value;
+        const char* result;
+    };
+
+    const Case cases[] = {{"media", "iso_a4_210x297mm", "PageSize=A4"},
+                          {"media", "na_index-4x6_4x6in", "PageSize=4x6"},
+                          {"media", "om_own_100x150mm", "PageSize=Custom.100x150mm"},
+                          {"media", "A4", "PageSize=A4"},
+                          {"sides", "two-sided-short-edge", "Duplex=DuplexTumble"},
+                          {"number-up", "1", ""},
+                          {"PaperTone", "Gone", "PaperTone=Gone"}};
     const auto model = tessarinModel();
-    const QStringList refusals = model->apply(
-        {{q("PaperTone"), q("Warm")}, {q("SharpnessIntensity"), q("99")}, {q("Resolution"), q("610dpi")}});
-    ASSERT_EQ(refusals.size(), 1);
-    EXPECT_TRUE(refusals.front().contains(q("Intensity")));
-    EXPECT_EQ(model->value(q("PaperTone")), q("Warm"));
-    EXPECT_EQ(model->resolution(), 610);
+    for (const Case& c : cases) {
+        const UnderstoodOptions got =
+            understand(model->file(), givenBy(OptionOrigin::typed, {{q(c.key), q(c.value)}}));
+        QStringList texts;
+        for (const GivenOption& option : got.options)
+            texts.append(option.key + u'=' + option.value);
+        EXPECT_EQ(texts.join(u' '), q(c.result)) << c.key;
+        EXPECT_TRUE(got.leftOut.isEmpty()) << c.key;
+    }
+    for (const char* refused : {"number-up=2", "scaling=50", "landscape", "copies=2", "media=Nonsense"}) {
+        const UnderstoodOptions got =
+            understand(model->file(), givenBy(OptionOrigin::typed, {*parseOption(q(refused))}));
+        EXPECT_EQ(got.leftOut.size(), 1) << refused;
+        EXPECT_TRUE(got.options.isEmpty()) << refused;
+    }
+    const UnderstoodOptions page =
+        understand(model->file(), givenBy(OptionOrigin::typed,
+                                          {{q("print-scaling"), q("fill")}, {q("Collate"), q("False")}}));
+    EXPECT_EQ(page.page.scaling, q("fill"));
+    EXPECT_EQ(page.page.isCollated, false);
+}
+
+TEST(PpdModel, TheEquipmentTakesPartInTheConstraintsAndIsNobodysToChange)
+{
+    const auto model =
+        modelOf(ppdHeader() + "*OpenGroup: InstallableOptions/Installed\n" +
+                ppdOption("Turner", {"False/Not there", "True/There"}) + "*CloseGroup: InstallableOptions\n" +
+                ppdOption("Sides", {"One", "Both"}) + "*UIConstraints: *Sides Both *Turner False\n");
+    EXPECT_TRUE(model->change(q("Sides"), q("Both")).refusal.contains(q("Turner title: Not there")));
+    EXPECT_FALSE(model->change(q("Turner"), q("True")).accepted);
+    EXPECT_EQ(model->apply(givenBy(OptionOrigin::saved, {{q("Turner"), q("True")}})).leftOut.size(), 1);
+    EXPECT_FALSE(model->values().contains(q("Turner"))) << "it is no part of a job";
+    const QList<ChoiceItem> sides = model->option(q("Sides")).choices;
+    EXPECT_TRUE(sides[0].obstacle.isEmpty() && !sides[1].obstacle.isEmpty());
 }
 
 TEST(PpdModel, RestoringUndoesAResolversWork)

@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QMutex>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -80,7 +79,7 @@ void useBuiltBundle(const QString& language)
     QLocale::setDefault(QLocale(language));
     // The user's own settings stay as they are.
     static const QTemporaryDir settingsFolder;
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsFolder.path());
+    qputenv("XDG_CONFIG_HOME", settingsFolder.path().toUtf8());
     QString why;
     auto bundle = Bundle::load(q(HALVERN_TEST_BUNDLE), &why);
     if (!bundle)

@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QSettings>
 
 namespace halvern {
 
@@ -48,7 +47,6 @@ bool writePlainPpd(const QString& path)
 void BackOfPicture::SetUpTestSuite()
 {
     // The user's own settings stay as they are, and have no say here.
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     qputenv("HOME", folder.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     ServerTest::SetUpTestSuite();
