@@ -65,7 +65,7 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
         names.append(printer.name);
     if (names.isEmpty())
         return QCoreApplication::translate(
-            "BatchPrint", "The print server has no printers. Add one, for example with lpadmin.");
+            "halvern::BatchPrint", "The print server has no printers. Add one, for example with lpadmin.");
     const qsizetype count = names.size();
     if (count > kMostNamed) {
         names = nearNames(name, names, kMostNamed) + names;
@@ -74,11 +74,12 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
     }
     const QString list = names.join(QStringLiteral(", "));
     if (count == names.size())
-        return QCoreApplication::translate("BatchPrint",
+        return QCoreApplication::translate("halvern::BatchPrint",
                                            "The print server has no printer \"%1\". It has: %2.")
             .arg(name, list);
     return QCoreApplication::translate(
-               "BatchPrint", "The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
+               "halvern::BatchPrint",
+               "The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
         .arg(name, list, QString::number(count - names.size()));
 }
 

@@ -131,9 +131,11 @@ void DialogSession::selectPrinter(const QString& name)
             ppd.problem = createLocalQueue(name, newQueueUri, stop);
         if (ppd.problem.isEmpty())
             ppd = fetchQueuePpd(name, stop);
-        mainQueue().async([self, name, ppd = std::move(ppd), stop] {
+        // Here, because a PPD may have ten thousand options.
+        auto model = ppd.file ? std::make_shared<PpdModel>(std::move(*ppd.file)) : nullptr;
+        mainQueue().async([self, name, ppd = std::move(ppd), model = std::move(model), stop] {
             if (self && !stop->load())
-                self->takePpd(name, ppd);
+                self->takePpd(name, ppd, model);
         });
     });
 }
@@ -156,13 +158,13 @@ void DialogSession::leavePrinter()
     backLinesProblem_.clear();
 }
 
-void DialogSession::takePpd(const QString& name, const QueuePpd& ppd)
+void DialogSession::takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model)
 {
-    if (!ppd.file) {
+    if (!model) {
         Q_EMIT printerFailed(ppd.problem);
         return;
     }
-    model_ = std::make_unique<PpdModel>(std::move(*ppd.file));
+    model_ = std::move(model);
     model_->setWords([this](const QString& text) {
         return panels_.empty() ? text : panelSource_.localized(bundleName_, text);
     });

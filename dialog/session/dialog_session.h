@@ -133,7 +133,7 @@ Q_SIGNALS:
 
 private:
     void takePrinters();
-    void takePpd(const QString& name, const QueuePpd& ppd);
+    void takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
     void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
@@ -151,7 +151,7 @@ private:
     PrinterList* printers_;
     QString printerName_;
     QString startedWith_; ///< a queue or an instance; empty if nobody named one
-    std::unique_ptr<PpdModel> model_;
+    std::shared_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
     std::shared_ptr<PanelHost> host_;
     PanelList panels_;

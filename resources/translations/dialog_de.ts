@@ -413,6 +413,26 @@
         <source>"%1: %2" does not go together with "%3". Change that first.</source>
         <translation>„%1: %2“ passt nicht zu „%3“. Ändern Sie das zuerst.</translation>
     </message>
+    <message>
+        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
+        <translation>„%1“ gehört zur Ausstattung des Druckers und wird bei dessen Einrichtung festgelegt.</translation>
+    </message>
+    <message>
+        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
+        <translation>„%1“ ist mit der Ausstattung des Druckers nicht möglich: Bei der Einrichtung wurde „%2“ festgelegt.</translation>
+    </message>
+    <message>
+        <source>"%1" has no choice "%2".</source>
+        <translation>„%1“ kennt die Auswahl „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>The printer has no option "%1".</source>
+        <translation>Der Drucker hat keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
 </context>
 <context>
     <name>PrinterState</name>
@@ -510,6 +530,10 @@
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>Auftrag %1 bleibt in der Warteschlange; „cancel %2-%1“ nimmt ihn weg.</translation>
     </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2 und %3 weitere (lpstat -e).</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -520,6 +544,10 @@
     <message>
         <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
         <translation>Der Drucker „%1“ druckt keinen Text auf die Rückseite. Lassen Sie --backprint weg oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
     </message>
 </context>
 <context>
@@ -566,6 +594,18 @@
     <message>
         <source>Copies</source>
         <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>More options follow...</source>
+        <translation>Weitere Optionen folgen ...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>Bei der Einrichtung des Druckers festgelegt.</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (Vorgabe des Druckers)</translation>
     </message>
 </context>
 <context>
@@ -787,6 +827,14 @@
         <source>No answer from the print server.</source>
         <translation>Keine Antwort vom Druckserver.</translation>
     </message>
+    <message>
+        <source>Co&amp;llate</source>
+        <translation>&amp;Sortieren</translation>
+    </message>
+    <message>
+        <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
+        <translation>Ganze Sätze nacheinander: 1, 2, 3, 1, 2, 3</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -989,6 +1037,45 @@
     <message>
         <source>Print Job A&amp;gain</source>
         <translation>Auftrag &amp;erneut drucken</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper "%1".</source>
+        <translation>Der Drucker hat kein Papier „%1“.</translation>
+    </message>
+    <message>
+        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
+        <translation>Der Drucker kennt „sides=%1“ nicht. Lassen Sie es weg, oder nehmen Sie die eigene Option des Druckers für beidseitigen Druck.</translation>
+    </message>
+    <message>
+        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>„%1“ ist keine Art zu skalieren. Schreiben Sie print-scaling=fit, fill oder none.</translation>
+    </message>
+    <message>
+        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>„%1=%2“ ist nicht möglich: Die Seite wird vor dem Senden angelegt, mit einem Foto auf jeder. Lassen Sie es weg.</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>Die Zahl der Kopien ist keine Option des Druckers. Geben Sie sie mit --copies an.</translation>
+    </message>
+    <message>
+        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
+        <translation>„%1“ wird hier mit den eigenen Optionen des Druckers gewählt. „lpoptions -p QUEUE -l“ listet sie auf.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>Es gibt: %1 und %2 weitere.</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>Es gibt: %1.</translation>
     </message>
 </context>
 </TS>

@@ -413,6 +413,26 @@
         <source>"%1: %2" does not go together with "%3". Change that first.</source>
         <translation>«%1: %2» no es compatible con «%3». Cambie eso primero.</translation>
     </message>
+    <message>
+        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
+        <translation>«%1» forma parte del equipo de la impresora y lo establece quien la instaló.</translation>
+    </message>
+    <message>
+        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
+        <translation>El equipo de la impresora no permite «%1»: quien la instaló estableció «%2».</translation>
+    </message>
+    <message>
+        <source>"%1" has no choice "%2".</source>
+        <translation>«%1» no tiene la opción «%2».</translation>
+    </message>
+    <message>
+        <source>The printer has no option "%1".</source>
+        <translation>La impresora no tiene la opción «%1».</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Tamaño de papel</translation>
+    </message>
 </context>
 <context>
     <name>PrinterState</name>
@@ -510,6 +530,10 @@
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>El trabajo %1 sigue en la cola; «cancel %2-%1» lo quita.</translation>
     </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2 y %3 más (lpstat -e).</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -520,6 +544,10 @@
     <message>
         <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
         <translation>La impresora «%1» no imprime texto en el dorso de las fotos. Quite --backprint o elija otra impresora.</translation>
+    </message>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>Su impresora predeterminada «%1» no está en el servidor de impresión. Se eligió «%2» en su lugar.</translation>
     </message>
 </context>
 <context>
@@ -566,6 +594,18 @@
     <message>
         <source>Copies</source>
         <translation>Copias</translation>
+    </message>
+    <message>
+        <source>More options follow...</source>
+        <translation>Siguen más opciones...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>Lo estableció quien instaló la impresora.</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (valor de la impresora)</translation>
     </message>
 </context>
 <context>
@@ -787,6 +827,14 @@
         <source>No answer from the print server.</source>
         <translation>El servidor de impresión no responde.</translation>
     </message>
+    <message>
+        <source>Co&amp;llate</source>
+        <translation>&amp;Intercalar</translation>
+    </message>
+    <message>
+        <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
+        <translation>Juegos completos, uno tras otro: 1, 2, 3, 1, 2, 3</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -989,6 +1037,45 @@
     <message>
         <source>Print Job A&amp;gain</source>
         <translation>Imprimir de &amp;nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper "%1".</source>
+        <translation>La impresora no tiene el papel «%1».</translation>
+    </message>
+    <message>
+        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
+        <translation>La impresora no tiene «sides=%1». Quítelo o use la opción propia de la impresora para imprimir a doble cara.</translation>
+    </message>
+    <message>
+        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>«%1» no es un modo de escala. Escriba print-scaling=fit, fill o none.</translation>
+    </message>
+    <message>
+        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>«%1=%2» no es posible: la página se compone antes de enviarla, con una foto en cada una. Quítelo.</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>El número de copias no es una opción de la impresora. Indíquelo con --copies.</translation>
+    </message>
+    <message>
+        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
+        <translation>«%1» se elige aquí con las opciones propias de la impresora. «lpoptions -p QUEUE -l» las muestra.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>¿Quiso decir %1?</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>Hay: %1 y %2 más.</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>Hay: %1.</translation>
     </message>
 </context>
 </TS>

@@ -413,6 +413,26 @@
         <source>"%1: %2" does not go together with "%3". Change that first.</source>
         <translation>« %1 : %2 » ne va pas avec « %3 ». Changez d’abord cela.</translation>
     </message>
+    <message>
+        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
+        <translation>« %1 » fait partie de l’équipement de l’imprimante et est réglé par la personne qui l’a installée.</translation>
+    </message>
+    <message>
+        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
+        <translation>L’équipement de l’imprimante ne permet pas « %1 » : la personne qui l’a installée a réglé « %2 ».</translation>
+    </message>
+    <message>
+        <source>"%1" has no choice "%2".</source>
+        <translation>« %1 » n’a pas le choix « %2 ».</translation>
+    </message>
+    <message>
+        <source>The printer has no option "%1".</source>
+        <translation>L’imprimante n’a pas d’option « %1 ».</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Format de papier</translation>
+    </message>
 </context>
 <context>
     <name>PrinterState</name>
@@ -510,6 +530,10 @@
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>La tâche %1 reste dans la file ; « cancel %2-%1 » l’enlève.</translation>
     </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2 et %3 de plus (lpstat -e).</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -520,6 +544,10 @@
     <message>
         <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
         <translation>L’imprimante « %1 » n’imprime pas de texte au dos des photos. Retirez --backprint ou choisissez une autre imprimante.</translation>
+    </message>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
     </message>
 </context>
 <context>
@@ -566,6 +594,18 @@
     <message>
         <source>Copies</source>
         <translation>Copies</translation>
+    </message>
+    <message>
+        <source>More options follow...</source>
+        <translation>D’autres options suivent...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>Réglé par la personne qui a installé l’imprimante.</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (valeur de l’imprimante)</translation>
     </message>
 </context>
 <context>
@@ -787,6 +827,14 @@
         <source>No answer from the print server.</source>
         <translation>Pas de réponse du serveur d’impression.</translation>
     </message>
+    <message>
+        <source>Co&amp;llate</source>
+        <translation>Asse&amp;mbler</translation>
+    </message>
+    <message>
+        <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
+        <translation>Jeux complets l’un après l’autre : 1, 2, 3, 1, 2, 3</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -989,6 +1037,45 @@
     <message>
         <source>Print Job A&amp;gain</source>
         <translation>Réimprimer la tâ&amp;che</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper "%1".</source>
+        <translation>L’imprimante n’a pas de papier « %1 ».</translation>
+    </message>
+    <message>
+        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
+        <translation>L’imprimante ne connaît pas « sides=%1 ». Retirez-le, ou utilisez l’option de l’imprimante pour l’impression recto verso.</translation>
+    </message>
+    <message>
+        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>« %1 » n’est pas un mode de mise à l’échelle. Écrivez print-scaling=fit, fill ou none.</translation>
+    </message>
+    <message>
+        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>« %1=%2 » n’est pas possible : la page est composée avant l’envoi, une photo sur chacune. Retirez-le.</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>Le nombre de copies n’est pas une option de l’imprimante. Donnez-le avec --copies.</translation>
+    </message>
+    <message>
+        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
+        <translation>« %1 » se choisit ici avec les options de l’imprimante. « lpoptions -p QUEUE -l » les affiche.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Vouliez-vous dire %1 ?</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>Il y a : %1 et %2 de plus.</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>Il y a : %1.</translation>
     </message>
 </context>
 </TS>

@@ -413,6 +413,26 @@
         <source>"%1: %2" does not go together with "%3". Change that first.</source>
         <translation>「%1: %2」は「%3」と一緒に使えません。先にそちらを変えてください。</translation>
     </message>
+    <message>
+        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
+        <translation>「%1」はプリンターの装備の一部で、プリンターを設定した人が決めます。</translation>
+    </message>
+    <message>
+        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
+        <translation>プリンターの装備では「%1」は使えません。設定した人が「%2」としています。</translation>
+    </message>
+    <message>
+        <source>"%1" has no choice "%2".</source>
+        <translation>「%1」に「%2」という選択肢はありません。</translation>
+    </message>
+    <message>
+        <source>The printer has no option "%1".</source>
+        <translation>プリンターに「%1」というオプションはありません。</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
 </context>
 <context>
     <name>PrinterState</name>
@@ -510,6 +530,10 @@
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>ジョブ %1 はキューに残ります。「cancel %2-%1」で取り除けます。</translation>
     </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。あるもの: %2、ほか %3 台 (lpstat -e)。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -520,6 +544,10 @@
     <message>
         <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
         <translation>プリンター「%1」は写真の裏面に文字を印刷できません。--backprint を外すか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
     </message>
 </context>
 <context>
@@ -566,6 +594,18 @@
     <message>
         <source>Copies</source>
         <translation>部数</translation>
+    </message>
+    <message>
+        <source>More options follow...</source>
+        <translation>続きがあります...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>プリンターを設定した人が決めたものです。</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (プリンターの既定値)</translation>
     </message>
 </context>
 <context>
@@ -787,6 +827,14 @@
         <source>No answer from the print server.</source>
         <translation>プリントサーバーから応答がありません。</translation>
     </message>
+    <message>
+        <source>Co&amp;llate</source>
+        <translation>部単位(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
+        <translation>一部ずつそろえて印刷: 1, 2, 3, 1, 2, 3</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -989,6 +1037,45 @@
     <message>
         <source>Print Job A&amp;gain</source>
         <translation>もう一度印刷(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper "%1".</source>
+        <translation>プリンターに「%1」という用紙はありません。</translation>
+    </message>
+    <message>
+        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
+        <translation>プリンターに「sides=%1」はありません。省くか、プリンター自身の両面印刷オプションを使ってください。</translation>
+    </message>
+    <message>
+        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>「%1」という拡大縮小の方法はありません。print-scaling=fit、fill、none のいずれかを書いてください。</translation>
+    </message>
+    <message>
+        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>「%1=%2」は使えません。ページは送信前に 1 枚ずつ配置されます。省いてください。</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>部数はプリンターのオプションではありません。--copies で指定してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
+        <translation>「%1」はプリンター自身のオプションで指定します。「lpoptions -p QUEUE -l」で一覧できます。</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>%1 のことですか？</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>次のものがあります: %1、ほか %2 件。</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>次のものがあります: %1。</translation>
     </message>
 </context>
 </TS>
