@@ -4,6 +4,7 @@
 #include "platform/printing/ppd.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/user_action.h"
 #include "platform/toolkit/view_search.h"
 
 #include <QAbstractButton>
@@ -123,6 +124,7 @@ void KSTRVLBasePDEHalvern::changePrinterSetting(QWidget* sender)
     const std::optional<QString> key = ppdOptionKeyForTag(tag);
     QVariant choice = newChoiceForSender(sender);
     if (tag == tags::kRestoreDefaults) {
+        const UserAction everything(UserAction::Reach::allOptions);
         setDefaults();
         updateUI();
         return;

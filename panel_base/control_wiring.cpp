@@ -5,6 +5,7 @@
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
+#include "platform/toolkit/user_action.h"
 #include "platform/toolkit/view_search.h"
 
 #include <QAbstractButton>
@@ -102,6 +103,7 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
     QObject::connect(field, &QLineEdit::textEdited, field, [weak = weak_from_this(), field] {
         field->setProperty(kEdited, true);
         const auto self = weak.lock();
+        const UserAction action;
         if (self && field->property(kDelegate).toBool())
             self->controlTextDidChange(field);
     });
@@ -112,6 +114,7 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
         if (!self || !field->property(kEdited).toBool())
             return;
         field->setProperty(kEdited, false);
+        const UserAction action;
         // A field whose keystrokes were proposed has nothing left to send.
         if (field->property(kDelegate).toBool())
             self->controlTextDidEndEditing(field);
@@ -125,6 +128,7 @@ void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
 void KSTRVLBasePDEHalvern::sendAction(QWidget* sender)
 {
     const QString name = sender->property(kAction).toString();
+    const UserAction userAction;
     for (const Action& action : kActions) {
         if (action.name == name)
             (this->*action.operation)(sender);

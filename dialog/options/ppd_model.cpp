@@ -234,6 +234,27 @@ void PpdModel::keep(const QString& key, const QString& value)
     values_.insert(key, value);
 }
 
+void PpdModel::hide(const QString& key)
+{
+    ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    if (!option || isHidden(key))
+        return;
+    if (const QString now = value(key); !now.isEmpty())
+        keep(key, now);
+    hidden_.insert(key, QByteArray(option->defchoice));
+    option->defchoice[0] = '\0';
+}
+
+void PpdModel::show(const QString& key)
+{
+    ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    if (!option || !isHidden(key))
+        return;
+    qstrncpy(option->defchoice, hidden_.take(key).constData(), sizeof(option->defchoice));
+    if (const QString now = kept_.value(key); !now.isEmpty())
+        setMark(key, now);
+}
+
 void PpdModel::restore(const QMap<QString, QString>& values)
 {
     for (auto it = values.cbegin(); it != values.cend(); ++it)

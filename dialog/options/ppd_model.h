@@ -109,6 +109,13 @@ public:
 
     const QMap<QString, QString>& kept() const { return kept_; }
 
+    /// Leaves the option without a mark and without a default for whoever looks at the PPD itself, until
+    /// show(). What this class answers stays the same.
+    void hide(const QString& key);
+    void show(const QString& key);
+
+    bool isHidden(const QString& key) const { return hidden_.contains(key); }
+
     /// Every current value: marks and kept ones, without the printer's equipment.
     const QMap<QString, QString>& values() const { return values_; }
 
@@ -175,6 +182,7 @@ private:
     QMap<QString, QString> values_;
     QMap<QString, QString> equipment_;
     QMap<QString, QString> kept_;
+    QMap<QString, QByteArray> hidden_; // the PPD's defaults
     Words words_;
 };
 

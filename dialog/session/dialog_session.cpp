@@ -5,9 +5,11 @@
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
 #include "platform/printing/printer.h"
+#include "platform/toolkit/user_action.h"
 
 #include <QFileInfo>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 namespace halvern {
 
@@ -17,6 +19,12 @@ namespace {
 
 constexpr int kUsualResolution = 300;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
+const QString kPaperFeed = QStringLiteral("PaperFeed");
+
+PrinterOffer offerOf(const QueuePpd& ppd)
+{
+    return ppd.file && *ppd.file ? readPrinterOffer(ppd.file->get()) : PrinterOffer();
+}
 
 PageRect toPageRect(const QRectF& rect)
 {
@@ -133,9 +141,10 @@ void DialogSession::selectPrinter(const QString& name)
             ppd = fetchQueuePpd(name, stop);
         // Here, because a PPD may have ten thousand options.
         auto model = ppd.file ? std::make_shared<PpdModel>(std::move(*ppd.file)) : nullptr;
-        mainQueue().async([self, name, ppd = std::move(ppd), model = std::move(model), stop] {
+        const PrinterOffer offer = model ? readPrinterOffer(model->file()) : PrinterOffer();
+        mainQueue().async([self, name, offer, ppd = std::move(ppd), model = std::move(model), stop] {
             if (self && !stop->load())
-                self->takePpd(name, ppd, model);
+                self->takePpd(name, ppd, model, offer);
         });
     });
 }
@@ -151,14 +160,17 @@ void DialogSession::leavePrinter()
         host_->detach();
     panels_.clear();
     host_.reset();
+    keeper_.reset();
     model_.reset();
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
-    beforeLastChange_.clear();
+    history_.clear();
+    isReadingOffer_ = readsOfferAgain_ = false;
     backLinesProblem_.clear();
 }
 
-void DialogSession::takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model)
+void DialogSession::takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model,
+                            const PrinterOffer& offer)
 {
     if (!model) {
         Q_EMIT printerFailed(ppd.problem);
@@ -172,6 +184,7 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd, std::share
     host_ = std::make_shared<PanelHost>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
                                         model_->sharedFile(), request_.panelsAskPrinter);
     applyOptions(ppd.defaults, ppd.jobSheets);
+    keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, offer);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
@@ -193,8 +206,10 @@ void DialogSession::applyOptions(const OptionValues& queueDefaults, const QStrin
         else
             Q_EMIT notice(tr("A saved setting was left out. %1").arg(left.sentence));
     }
-    for (const SettledOption& settled : result.settled)
-        rememberForUndo(settled.key, settled.before, settled.sideChanges);
+    for (const SettledOption& settled : result.settled) {
+        history_.endGroup();
+        remember(settled.key, settled.before, ChangeOrigin::user, settled.sideChanges);
+    }
     applyBackLines();
     // What the queue would add by itself is the panels' to see and to change.
     if (!queueJobSheets.isEmpty())
@@ -238,7 +253,8 @@ void DialogSession::applyBackLines()
             backLinesProblem_ = result.refusal;
             Q_EMIT refused(result.refusal);
         }
-        rememberForUndo(option.key, before, result.sideChanges);
+        history_.endGroup();
+        remember(option.key, before, ChangeOrigin::user, result.sideChanges);
     }
 }
 
@@ -255,8 +271,13 @@ void DialogSession::loadPanels()
         Q_EMIT notice(problem);
     // A restoring panel may ask for changes, which walk this list.
     const PanelList restoring = panels_;
-    for (const std::shared_ptr<Panel>& panel : restoring)
+    for (const std::shared_ptr<Panel>& panel : restoring) {
+        // The panel of the papers makes its view soon anyway, and settles on a feed then. Made now, the view
+        // shows what is chosen before the papers come.
+        if (request_.panelsChangeOptions && panel->supportedPPDOptionKeys().contains(kPaperFeed))
+            panel->panelView();
         panel->restoreValuesAndReturnError(nullptr);
+    }
 }
 
 void DialogSession::setPage(const PageSettings& page)
@@ -290,7 +311,8 @@ int DialogSession::resolution() const
     return model_ ? model_->resolution() : kUsualResolution;
 }
 
-ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading)
+ChangeResult DialogSession::change(const QString& key, const QVariant& value, NumberReading reading,
+                                   ChangeOrigin origin)
 {
     const QString before = model_->value(key);
     ChangeResult result = model_->change(key, value, reading);
@@ -303,25 +325,40 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
         storeInSettings(side.key);
         tellPanels(side.key, side.choice);
     }
-    rememberForUndo(key, before, result.sideChanges);
+    keeper_->forget(key);
+    remember(key, before, origin, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
 }
 
-void DialogSession::rememberForUndo(const QString& key, const QString& before,
-                                    const QList<SideChange>& changes)
+void DialogSession::remember(const QString& key, const QString& before, ChangeOrigin origin,
+                             const QList<SideChange>& others)
 {
-    if (changes.isEmpty()) {
-        if (beforeLastChange_.contains(key)) {
-            beforeLastChange_.clear();
-            Q_EMIT undoExpired();
-        }
+    const QString now = model_->value(key);
+    const SideChange change{key, before, now, model_->optionText(key), model_->choiceText(key, now)};
+    const ChangeHistory::Effect effect = history_.note(change, origin, others);
+    if (effect == ChangeHistory::Effect::expired)
+        Q_EMIT undoExpired();
+    if (effect != ChangeHistory::Effect::toTell)
         return;
-    }
-    beforeLastChange_ = {{key, before}};
-    for (const SideChange& change : changes)
-        beforeLastChange_.insert(change.key, change.before);
-    Q_EMIT otherOptionsChanged(changes);
+    // Together with what else follows from the same cause.
+    QPointer<DialogSession> self(this);
+    mainQueue().async([self, host = host_] {
+        if (self && self->host_ == host)
+            self->tellChanges();
+    });
+}
+
+void DialogSession::tellChanges()
+{
+    const QList<SideChange> changes = history_.takeTold();
+    history_.endGroup();
+    if (changes.isEmpty())
+        return;
+    if (history_.isUsers())
+        Q_EMIT otherOptionsChanged(changes);
+    else
+        Q_EMIT optionsCorrected(changes);
 }
 
 void DialogSession::storeInSettings(const QString& key)
@@ -336,6 +373,7 @@ void DialogSession::tellPanels(const QString& key, const QString& choice)
     mainQueue().async([self, host = host_, key, choice] {
         if (!self || self->host_ != host)
             return;
+        const QScopedValueRollback<bool> telling(self->isTellingPanels_, true);
         const PanelList told = self->panels_;
         for (const std::shared_ptr<Panel>& panel : told)
             panel->PPDOptionKeyValueDidChange_ppdChoice(key, choice);
@@ -344,17 +382,20 @@ void DialogSession::tellPanels(const QString& key, const QString& choice)
 
 bool DialogSession::changeOption(const QString& key, const QVariant& value)
 {
-    if (!model_ || !change(key, value, NumberReading::whole).accepted)
+    history_.endGroup();
+    if (!model_ || !change(key, value, NumberReading::whole, ChangeOrigin::user).accepted)
         return false;
+    history_.endGroup();
     tellPanels(key, model_->value(key));
     return true;
 }
 
 void DialogSession::undoLastChange()
 {
-    if (!model_ || beforeLastChange_.isEmpty())
+    const QMap<QString, QString> before = history_.takeUndo();
+    if (!model_ || before.isEmpty())
         return;
-    const QMap<QString, QString> before = std::exchange(beforeLastChange_, {});
+    history_.endGroup();
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
@@ -370,8 +411,35 @@ ppd_file_t* DialogSession::hostPpdFile()
 
 bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 {
+    if (!model_ || !request_.panelsChangeOptions)
+        return false;
+    if (!UserAction::isUnderWay())
+        return takeProposal(key, choice);
+    const ChangeOrigin origin = UserAction::takeProposal() ? ChangeOrigin::user : ChangeOrigin::rule;
     // Panels ask at every keystroke.
-    return model_ && request_.panelsChangeOptions && change(key, choice, NumberReading::leading).accepted;
+    return change(key, choice, NumberReading::leading, origin).accepted;
+}
+
+// What a panel changes by itself before it knows its papers is nobody's choice.
+bool DialogSession::takeProposal(const QString& key, const QVariant& choice)
+{
+    const PaperKeeper::Answer answer = keeper_->judge(key, valueText(choice));
+    readOfferAgain();
+    if (answer == PaperKeeper::Answer::refuse) {
+        handBack(key);
+        return false;
+    }
+    const ChangeOrigin origin =
+        answer == PaperKeeper::Answer::fillIn ? ChangeOrigin::filling : ChangeOrigin::rule;
+    return change(key, choice, NumberReading::leading, origin).accepted;
+}
+
+// A panel that corrects a choice does not look at the answer: it is told what stays chosen.
+void DialogSession::handBack(const QString& key)
+{
+    // What it says to that is its last word.
+    if (!isTellingPanels_)
+        tellPanels(key, model_->value(key));
 }
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
@@ -386,6 +454,39 @@ std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
                                         turned ? PageOrientation::landscape : PageOrientation::portrait);
 }
 
+// A panel that proposes something by itself has read its papers, so there may be news of them.
+void DialogSession::readOfferAgain()
+{
+    if (isTellingPanels_ || !request_.panelsAskPrinter)
+        return;
+    if (isReadingOffer_) {
+        readsOfferAgain_ = true;
+        return;
+    }
+    isReadingOffer_ = true;
+    QPointer<DialogSession> self(this);
+    WorkQueue().async([self, name = printerName_, host = host_, stop = stopFetching_] {
+        const QueuePpd ppd = fetchQueuePpd(name, stop);
+        mainQueue().async([self, host, offer = offerOf(ppd), isThere = ppd.file != nullptr] {
+            if (!self || self->host_ != host)
+                return;
+            self->isReadingOffer_ = false;
+            if (isThere)
+                self->correct(self->keeper_->takeOffer(offer));
+            if (std::exchange(self->readsOfferAgain_, false))
+                self->readOfferAgain();
+        });
+    });
+}
+
+void DialogSession::correct(const OptionValues& overdue)
+{
+    for (const OptionValue& option : overdue) {
+        if (change(option.key, option.value, NumberReading::whole, ChangeOrigin::rule).accepted)
+            tellPanels(option.key, model_->value(option.key));
+    }
+}
+
 bool DialogSession::canPrint() const
 {
     return model_ && filesLeft_ == 0 && !photos_.empty();
@@ -396,6 +497,9 @@ OptionValues DialogSession::collectOptions()
     const PanelList saving = panels_;
     for (const std::shared_ptr<Panel>& panel : saving)
         panel->saveValuesAndReturnError(nullptr);
+    // A name that the panels were not shown cannot have been changed by them.
+    if (keeper_)
+        keeper_->showSheetName();
     return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
                             page_.copies, int(photos_.size()), page_.isCollated});
 }

@@ -7,8 +7,10 @@
 #include "dialog/page/page_renderer.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
+#include "dialog/session/change_history.h"
 #include "dialog/session/panel_host.h"
 #include "dialog/session/panel_source.h"
+#include "dialog/session/paper_keeper.h"
 #include "dialog/session/session_request.h"
 
 #include <QObject>
@@ -124,8 +126,10 @@ Q_SIGNALS:
     /// Something to tell about the printer that does not keep it from printing.
     void notice(const QString& sentence);
     void refused(const QString& sentence);
-    /// A resolver has changed other options too.
+    /// A choice of the user's has changed other options too, by a resolver or by a panel's rules.
     void otherOptionsChanged(const QList<halvern::SideChange>& changes);
+    /// A panel has corrected what its printer cannot do.
+    void optionsCorrected(const QList<halvern::SideChange>& changes);
     /// undoLastChange() would do nothing any more.
     void undoExpired();
     /// Option values or the page have changed.
@@ -133,17 +137,25 @@ Q_SIGNALS:
 
 private:
     void takePrinters();
-    void takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model);
+    void takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model,
+                 const PrinterOffer& offer);
     void takePhotoFile(const PhotoFile& file);
     void leavePrinter();
     void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
     void takeWishes(const PageWishes& wishes);
     void applyBackLines();
     void loadPanels();
-    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading);
-    void rememberForUndo(const QString& key, const QString& before, const QList<SideChange>& changes);
+    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
+                        ChangeOrigin origin);
+    void remember(const QString& key, const QString& before, ChangeOrigin origin,
+                  const QList<SideChange>& others);
+    void tellChanges();
     void storeInSettings(const QString& key);
     void tellPanels(const QString& key, const QString& choice);
+    bool takeProposal(const QString& key, const QVariant& choice);
+    void handBack(const QString& key);
+    void readOfferAgain();
+    void correct(const OptionValues& overdue);
 
     SessionRequest request_;
     PanelSource& panelSource_;
@@ -161,7 +173,11 @@ private:
     std::vector<Photo> photos_;
     QStringList damagedFiles_;
     int filesLeft_ = 0;
-    QMap<QString, QString> beforeLastChange_; ///< what undoing puts back
+    std::unique_ptr<PaperKeeper> keeper_;
+    ChangeHistory history_;
+    bool isTellingPanels_ = false;
+    bool isReadingOffer_ = false;
+    bool readsOfferAgain_ = false;
     QString backLinesProblem_;
     cups::CancelFlag stopFetching_;
     cups::CancelFlag stopAll_;

@@ -61,7 +61,7 @@ QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
         const QString value = model->kept().value(key);
         const QString title = model->optionText(key);
         if (!value.isEmpty() && !lines.contains(title))
-            lines.insert(title, asRead(key, value));
+            lines.insert(title, asRead(key, model->choiceText(key, value)));
     }
     return lines;
 }

@@ -250,6 +250,7 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::photoDamaged, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
     connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
+    connect(&session_, &DialogSession::optionsCorrected, this, &PrintDialog::showCorrections);
     connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
         clearOldOutcome();
@@ -346,13 +347,24 @@ void PrintDialog::step(int by)
 
 void PrintDialog::showOtherChanges(const QList<SideChange>& changes)
 {
+    message_->showMessage(MessageKind::information,
+                          tr("To make that possible, this was changed too: %1").arg(inWords(changes)),
+                          tr("&Undo"));
+}
+
+void PrintDialog::showCorrections(const QList<SideChange>& changes)
+{
+    message_->showMessage(
+        MessageKind::information,
+        tr("The printer cannot do what was chosen. This was changed: %1").arg(inWords(changes)), tr("&Undo"));
+}
+
+QString PrintDialog::inWords(const QList<SideChange>& changes) const
+{
     QStringList texts;
     for (const SideChange& change : changes)
         texts.append(tr("%1: %2").arg(change.optionText, change.choiceText));
-    message_->showMessage(
-        MessageKind::information,
-        tr("To make that possible, this was changed too: %1").arg(texts.join(QStringLiteral(", "))),
-        tr("&Undo"));
+    return texts.join(QStringLiteral(", "));
 }
 
 } // namespace halvern

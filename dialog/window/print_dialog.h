@@ -60,6 +60,8 @@ private:
     void showPhotos();
     void step(int by);
     void showOtherChanges(const QList<SideChange>& changes);
+    void showCorrections(const QList<SideChange>& changes);
+    QString inWords(const QList<SideChange>& changes) const;
     void updateButtons();
     void showHelp();
     void print();

@@ -78,6 +78,11 @@ void RZFeaturesPDEHalvern::updatePaperInfo(const Notification*)
     setSortedPaper(found.index);
     enableToneValues(found.tones);
     restoreValuesAndReturnError(nullptr);
+    // The host still has the name that is gone: what is stored is what is shown.
+    if (namePutInPlace_.isValid()) {
+        setChoice_forKey(namePutInPlace_, QStringLiteral("PaperName"));
+        updateUI();
+    }
 }
 
 int RZFeaturesPDEHalvern::indexOfMenuItem_forValue(QWidget* popup, const QVariant& value)

@@ -235,6 +235,7 @@ private:
     bool _firstRun = false;
     WorkQueue paperNews_;
     bool refusingSheet_ = false;
+    QVariant namePutInPlace_; // the PPD's, of the sheet whose name is no longer in the catalogue
 };
 
 } // namespace halvern

@@ -61,8 +61,13 @@ void RZFeaturesPDEHalvern::chooseName(const QStringList& names)
 {
     const QString key = QStringLiteral("PaperName");
     const std::optional<QString> ofPpd = cupsOptionValueForKey(key);
-    if (chooseNameIfListed(printSystemValueForKey(key)) ||
-        chooseNameIfListed(ofPpd ? QVariant(*ofPpd) : QVariant())) {
+    namePutInPlace_ = QVariant();
+    bool isChosen = chooseNameIfListed(printSystemValueForKey(key));
+    if (!isChosen && ofPpd && chooseNameIfListed(*ofPpd)) {
+        isChosen = true;
+        namePutInPlace_ = *ofPpd;
+    }
+    if (isChosen) {
         // Not made available, but no longer for want of sheets.
         if (!isFeedItemAvailable(kSheet))
             setFeedItemAvailable(kSheet, false, reasons::kSheetFeedNotOffered);

@@ -115,7 +115,9 @@ void RZFeaturesPDEHalvern::limitSurfaces(const ResolutionTitles& surfaces)
         availability::setControl(cell, surfaces.contains(cell->text()),
                                  localized(QString::fromUtf8(reasons::kNotThisSurface)));
     }
-    if (surfaces.isEmpty() || availability::isEnabled(matrix->selectedCell()))
+    const QRadioButton* selected = matrix->selectedCell();
+    // With no button selected there is nothing to correct: the stored surface has not been shown yet.
+    if (surfaces.isEmpty() || !selected || availability::isEnabled(selected))
         return;
     const QString first = surfaces.firstKey();
     updateControl_withValue(matrix, first);

@@ -38,6 +38,7 @@ private:
         paper.sheetName = record.sheetName.value_or(QString());
         if (!record.sheetName)
             paper.width = paperWidthTitle(*record.widthCode).value_or(QString());
+        paper.widthCode = record.widthCode.value_or(QString());
         paper.surface = record.surfaceCode.value_or(QString());
         for (int i = 0; i < kMostTones; ++i) {
             if (tone::allowsItem(record.tones, i))

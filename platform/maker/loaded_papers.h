@@ -15,6 +15,8 @@ namespace halvern {
 struct LoadedPaper {
     QString sheetName; ///< empty for a roll
     QString width;     ///< a roll's, "152.4 mm"
+    QString widthCode; ///< a roll's choice of the PPD's option PaperWidth, tenths of a millimetre; a sheet's
+                       ///< width too, if it is reported
     QString surface;   ///< the choice of the PPD's option PaperSurface; empty if not reported
     QList<int> dotsPerInch;
     QList<int> tones; ///< indexes of the choices of the PPD's option PaperTone

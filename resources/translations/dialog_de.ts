@@ -792,6 +792,10 @@
         <translation>Damit das möglich ist, wurde auch geändert: %1</translation>
     </message>
     <message>
+        <source>The printer cannot do what was chosen. This was changed: %1</source>
+        <translation>Der Drucker kann nicht, was gewählt war. Das wurde geändert: %1</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>Rü&amp;ckgängig</translation>
     </message>

@@ -792,6 +792,10 @@
         <translation>Para hacerlo posible, también se ha cambiado: %1</translation>
     </message>
     <message>
+        <source>The printer cannot do what was chosen. This was changed: %1</source>
+        <translation>La impresora no puede hacer lo que se había elegido. Se ha cambiado esto: %1</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Deshacer</translation>
     </message>

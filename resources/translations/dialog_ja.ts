@@ -792,6 +792,10 @@
         <translation>それに合わせて、次の設定も変更しました: %1</translation>
     </message>
     <message>
+        <source>The printer cannot do what was chosen. This was changed: %1</source>
+        <translation>プリンターは選択された内容で印刷できません。次のように変更しました: %1</translation>
+    </message>
+    <message>
         <source>&amp;Undo</source>
         <translation>元に戻す(&amp;U)</translation>
     </message>

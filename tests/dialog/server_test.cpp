@@ -5,6 +5,7 @@
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "platform/printing/printer.h"
+#include "platform/toolkit/user_action.h"
 #include "tests/dialog/dialog_support.h"
 #include "tests/support/files.h"
 #include "tests/support/observers.h"
@@ -156,6 +157,7 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     EXPECT_EQ(panels.calls.mid(4), QStringList{q("second: shouldHide")});
     EXPECT_FALSE(panels.second.lock()->view->isVisible());
     dialog->deck().showPage(q("first"));
+    EXPECT_TRUE(session.changeOption(q("PaperTone"), q("Warm")));
     panels.calls.clear();
     const std::shared_ptr<HostCallback> oldHost = panels.first.lock()->host;
     ASSERT_TRUE(oldHost->ppdFile() && oldHost->pmPrinter()->id() == q("Tessarin"));
@@ -164,12 +166,14 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     EXPECT_EQ(ppd::defaultChoice(oldPpd, q("PaperFeed")), q("Sheet"))
         << "a panel's queued work may still read it";
     EXPECT_EQ(panels.calls.value(0), q("first: shouldHide"));
+    EXPECT_TRUE(panels.calls.contains(q("second: shouldHide"))) << "its work in the background ends too";
     EXPECT_TRUE(panels.calls.contains(q("first: gone")) && panels.calls.contains(q("second: gone")));
     EXPECT_FALSE(oldHost->ppdFile() || oldHost->pmPrinter() || oldHost->printSettings() ||
                  oldHost->pageFormat());
     EXPECT_FALSE(oldHost->willChangePPDOptionKeyValue_ppdChoice(q("PaperTone"), q("Warm")));
     ASSERT_TRUE(waitUntil([&] { return session.canPrint(); }));
     EXPECT_EQ(panels.first.lock()->host->pmPrinter()->id(), q("Other"));
+    EXPECT_TRUE(panels.first.lock()->changes.isEmpty()) << "news of the old printer's options";
     EXPECT_TRUE(panels.first.lock()->host->pmPrinter()->copyDeviceURI());
     panels.calls.clear();
     dialog->close();
@@ -185,13 +189,20 @@ TEST_F(DialogServerTest, AResolvedConflictIsShownToldToPanelsAndUndone)
     ASSERT_TRUE(isReady(session));
     auto* message = dialog.findChild<MessageBar*>();
     const std::shared_ptr<RecordingPanel> panel = panels.first.lock();
-    EXPECT_TRUE(panel->host->willChangePPDOptionKeyValue_ppdChoice(q("PaperFeed"), q("Roll")));
+    {
+        const UserAction action;
+        EXPECT_TRUE(panel->host->willChangePPDOptionKeyValue_ppdChoice(q("PaperFeed"), q("Roll")));
+    }
     EXPECT_TRUE(panel->changes.isEmpty()) << "not while the panel still waits for the answer";
-    EXPECT_TRUE(containsText(message->text(), "Two-Sided: Off")) << qPrintable(message->text());
     ASSERT_TRUE(waitUntil([&] { return panel->changes.contains(q("TwoSided=None")); }));
+    EXPECT_TRUE(containsText(message->text(), "Two-Sided: Off")) << qPrintable(message->text());
     QTest::mouseClick(dialog.findChild<QPushButton*>(q("messageAction")), Qt::LeftButton);
     EXPECT_EQ(session.model()->value(q("TwoSided")), q("LongEdge"));
     EXPECT_EQ(session.model()->value(q("PaperFeed")), q("Sheet"));
+    EXPECT_TRUE(session.changeOption(q("PaperFeed"), q("Roll")));
+    EXPECT_TRUE(session.changeOption(q("PaperFeed"), q("Sheet")));
+    session.undoLastChange();
+    EXPECT_EQ(session.model()->value(q("TwoSided")), q("None")) << "what was changed again is not undone";
     EXPECT_FALSE(panel->host->willChangePPDOptionKeyValue_ppdChoice(q("SharpnessIntensity"), q("9")));
     EXPECT_TRUE(containsText(message->text(), "Intensity")) << qPrintable(message->text());
 }
@@ -225,6 +236,20 @@ TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
     const PageLayout layout = session.layoutFor(session.photos().front());
     EXPECT_TRUE(layout.isCut && layout.turned);
     EXPECT_NEAR(layout.page.width(), 841.89, 0.01);
+}
+
+TEST_F(DialogServerTest, NothingIsPrintedBeforeAllPhotosAreRead)
+{
+    SessionRequest two = request(q("Tessarin"));
+    two.files += two.files;
+    DialogSession session(two, panels);
+    int asked = 0;
+    QObject::connect(&session, &DialogSession::photosChanged, &session, [&] {
+        EXPECT_TRUE(session.photos().size() == 2 || !session.canPrint());
+        ++asked;
+    });
+    ASSERT_TRUE(isReady(session));
+    EXPECT_EQ(asked, 2);
 }
 
 TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)

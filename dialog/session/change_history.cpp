@@ -1,0 +1,52 @@
+#include "dialog/session/change_history.h"
+
+#include "platform/toolkit/user_action.h"
+
+namespace halvern {
+
+ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin origin,
+                                          const QList<SideChange>& others)
+{
+    if (!isOpen_ || action_ != UserAction::number()) {
+        before_.clear();
+        hasToTell_ = false;
+        isUsers_ = false;
+        action_ = UserAction::number();
+        isOpen_ = true;
+    }
+    if (origin == ChangeOrigin::user)
+        isUsers_ = true;
+    if (!before_.contains(change.key))
+        before_.insert(change.key, change.before);
+    if (origin == ChangeOrigin::rule)
+        tell(change);
+    for (const SideChange& other : others) {
+        if (!before_.contains(other.key))
+            before_.insert(other.key, other.before);
+        tell(other);
+    }
+    if (hasToTell_) {
+        undo_ = before_;
+        return Effect::toTell;
+    }
+    if (!undo_.contains(change.key))
+        return Effect::none;
+    undo_.clear();
+    return Effect::expired;
+}
+
+void ChangeHistory::tell(const SideChange& change)
+{
+    told_.removeIf([&](const SideChange& known) { return known.key == change.key; });
+    if (change.choice == before_.value(change.key))
+        return;
+    told_.append(change);
+    hasToTell_ = true;
+}
+
+void ChangeHistory::clear()
+{
+    *this = {};
+}
+
+} // namespace halvern

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "dialog/options/ppd_model.h"
+
+namespace halvern {
+
+enum class ChangeOrigin {
+    user,
+    rule,    ///< a panel's own rules, or a correction by the dialog
+    filling, ///< a panel, where nobody had chosen anything
+};
+
+/// Which changes came together, what of them is to be told to the user, and what undoing puts back. Changes
+/// belong together that were made in one action of the user's, or without one until endGroup(). Main thread
+/// only.
+class ChangeHistory {
+public:
+    enum class Effect {
+        none,
+        expired, ///< what could be undone has been changed again
+        toTell,  ///< there is something to tell, and to undo
+    };
+
+    /// Notes a change that was made, with those that a resolver made beside it.
+    Effect note(const SideChange& change, ChangeOrigin origin, const QList<SideChange>& others);
+
+    void endGroup() { isOpen_ = false; }
+
+    /// What changed beside what the user wanted. Each is told once.
+    QList<SideChange> takeTold() { return std::exchange(told_, {}); }
+
+    /// Whether the user did something in the group.
+    bool isUsers() const { return isUsers_; }
+
+    /// Values by option, to be put back; empty if there is nothing to undo. Nothing can be undone then.
+    QMap<QString, QString> takeUndo() { return std::exchange(undo_, {}); }
+
+    void clear();
+
+private:
+    void tell(const SideChange& change);
+
+    bool isOpen_ = false;
+    bool isUsers_ = false;
+    bool hasToTell_ = false;
+    quint64 action_ = 0;
+    QMap<QString, QString> before_;
+    QList<SideChange> told_;
+    QMap<QString, QString> undo_;
+};
+
+} // namespace halvern

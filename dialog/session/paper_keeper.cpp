@@ -1,0 +1,94 @@
+#include "dialog/session/paper_keeper.h"
+
+#include "platform/printing/print_settings.h"
+
+namespace halvern {
+
+namespace {
+
+const QString kFeed = QStringLiteral("PaperFeed");
+const QString kSheetName = QStringLiteral("PaperName");
+
+} // namespace
+
+PaperKeeper::PaperKeeper(PpdModel& model, PrintSettings& settings, PrinterOffer offer)
+    : model_(model), settings_(settings), offer_(std::move(offer))
+{
+}
+
+PaperKeeper::Answer PaperKeeper::judge(const QString& key, const QString& choice)
+{
+    if (key == kFeed && choice == QLatin1StringView("Roll"))
+        hideSheetName();
+    if (key == kSheetName)
+        showSheetName();
+    const QString now = model_.value(key);
+    if (!dependsOnOffer(key) || now == choice)
+        return Answer::accept;
+    if (now.isEmpty())
+        return Answer::fillIn;
+    if (isOffered(offer_, model_.values(), key)) {
+        refused_.insert(key, choice);
+        return Answer::refuse;
+    }
+    if (key != kSheetName)
+        return Answer::accept;
+    if (now == ppd::defaultChoice(model_.file(), key).value_or(QString()))
+        return Answer::fillIn;
+    // The panel takes the first sheet because it was shown no name at all. The PPD's own goes before it.
+    const std::optional<QString> standard = standardSheet();
+    if (!standard)
+        return Answer::accept;
+    refused_.insert(key, *standard);
+    return Answer::refuse;
+}
+
+// The PPD's own name of a sheet, if the printer offers it.
+std::optional<QString> PaperKeeper::standardSheet() const
+{
+    QMap<QString, QString> choices = model_.values();
+    choices.insert(kSheetName, ppd::defaultChoice(model_.file(), kSheetName).value_or(QString()));
+    return isOffered(offer_, choices, kSheetName) ? std::optional(choices.value(kSheetName)) : std::nullopt;
+}
+
+void PaperKeeper::forget(const QString& key)
+{
+    refused_.remove(key);
+}
+
+OptionValues PaperKeeper::takeOffer(PrinterOffer offer)
+{
+    offer_ = std::move(offer);
+    // A panel puts the PPD's own name in place of one that is gone without a word.
+    const std::optional<QString> standard = standardSheet();
+    if (!offer_.papers.isEmpty() && standard && !refused_.contains(kSheetName))
+        refused_.insert(kSheetName, *standard);
+    OptionValues overdue;
+    QMap<QString, QString> choices = model_.values();
+    for (auto it = refused_.begin(); it != refused_.end();) {
+        if (isOffered(offer_, choices, it.key())) {
+            ++it;
+            continue;
+        }
+        overdue.append({it.key(), it.value()});
+        choices.insert(it.key(), it.value());
+        it = refused_.erase(it);
+    }
+    return overdue;
+}
+
+void PaperKeeper::hideSheetName()
+{
+    model_.hide(kSheetName);
+    settings_.setValue(kSheetName, QVariant(), false);
+}
+
+void PaperKeeper::showSheetName()
+{
+    if (!model_.isHidden(kSheetName))
+        return;
+    model_.show(kSheetName);
+    settings_.setValue(kSheetName, model_.value(kSheetName), false);
+}
+
+} // namespace halvern
