@@ -225,9 +225,18 @@ private:
     std::shared_ptr<RZFeaturesPDEHalvern> sharedSelf();
     void registerNotifications();
     void checkPrinterData();
+    void takeCatalogue(quint64 number, std::shared_ptr<const PaperCatalogue> catalogue);
     void showStatusControl(bool shown);
 
+    /// A catalogue and the place of its read among all reads.
+    struct NumberedCatalogue {
+        quint64 number;
+        std::shared_ptr<const PaperCatalogue> catalogue;
+    };
+
     AtomicShared<const PaperCatalogue> paperDict;
+    AtomicShared<const NumberedCatalogue> newestRead_;
+    std::atomic<quint64> startedReads_ = 0;
     AtomicShared<RunLoopTimer> ppdUpdateTimer;
     std::optional<PaperIndex> _sortedPaper;
     mutable std::optional<QString> sortedPaperText_;

@@ -152,6 +152,7 @@ void RZFeaturesPDEHalvern::showStatusControl(bool shown)
 
 void RZFeaturesPDEHalvern::updatePaperDict()
 {
+    const quint64 number = ++startedReads_;
     const std::optional<QByteArray> data = ppdSavedDataForAttribute(QStringLiteral("VLXPapersKnown"));
     std::shared_ptr<const PaperCatalogue> catalogue;
     if (data && !data->isEmpty()) {
@@ -164,11 +165,29 @@ void RZFeaturesPDEHalvern::updatePaperDict()
     if (count == 0)
         return;
     lastUpdateDate();
-    const auto held = unsortedPaper();
-    if (held && isSameValue(*held, *catalogue))
+    takeCatalogue(number, catalogue);
+}
+
+// Reads run on several queues: one that began earlier and is late does not replace what a later one has
+// brought.
+void RZFeaturesPDEHalvern::takeCatalogue(quint64 number, std::shared_ptr<const PaperCatalogue> catalogue)
+{
+    auto newest = std::make_shared<const NumberedCatalogue>(NumberedCatalogue{number, std::move(catalogue)});
+    if (!newestRead_.setIf([&](const NumberedCatalogue* held) { return !held || held->number < number; },
+                           newest))
         return;
-    setUnsortedPaper(catalogue);
-    mainQueue().async([self = sharedSelf()] { self->updatePaperInfo(nullptr); });
+    // Another may come between the decision and the hand-over; whoever hands over last looks again.
+    bool isNew = false;
+    do {
+        newest = newestRead_.get();
+        const auto held = unsortedPaper();
+        if (held && isSameValue(*held, *newest->catalogue))
+            continue;
+        setUnsortedPaper(newest->catalogue);
+        isNew = true;
+    } while (newest != newestRead_.get());
+    if (isNew)
+        mainQueue().async([self = sharedSelf()] { self->updatePaperInfo(nullptr); });
 }
 
 void RZFeaturesPDEHalvern::ppdDidUpdate()

@@ -24,6 +24,16 @@ public:
         return std::exchange(value_, std::move(value));
     }
 
+    /// Stores `value` if `isWanted` says so of what is there, in one step; whether it did.
+    template <class Test> bool setIf(const Test& isWanted, std::shared_ptr<T> value)
+    {
+        const std::scoped_lock lock(mutex_);
+        if (!isWanted(value_.get()))
+            return false;
+        value_.swap(value);
+        return true;
+    }
+
     explicit operator bool() const { return get() != nullptr; }
 
 private:

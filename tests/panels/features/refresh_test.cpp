@@ -235,6 +235,23 @@ TEST_F(Refresh, ReadsNewsOfPapersOffTheMainThread)
     EXPECT_TRUE(waitUntil([&] { return panel->unsortedPaper() != nullptr; }));
 }
 
+TEST_F(Refresh, AReadThatIsLateDoesNotReplaceALaterOne)
+{
+    make();
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    TestPrinter::load(archiveOf({QStringLiteral("Old")}));
+    TestPrinter::hold();
+    panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
+    ASSERT_TRUE(waitUntil([] { return TestPrinter::isSomebodyHeld(); }));
+    TestPrinter::load(archiveOf({QStringLiteral("New")}));
+    panel->updatePaperDict();
+    const auto newest = panel->unsortedPaper();
+    ASSERT_TRUE(newest);
+    TestPrinter::goOn();
+    ASSERT_TRUE(waitForWorkQueues(20000));
+    EXPECT_EQ(panel->unsortedPaper(), newest);
+}
+
 TEST_F(Refresh, TellsTextsFromNumbersWhenCataloguesAreCompared)
 {
     make();
