@@ -141,7 +141,8 @@ public:
     virtual std::optional<QString> defaultValueForOptionKey(const std::optional<QString>& key);
 
     // Command jobs and their watching. These block on the CUPS server, except where they say otherwise, and
-    // may run on any thread; one sender per panel at a time.
+    // may run on any thread. The main thread waits patiently (platform/printing/patience.h): what is sent
+    // then goes on without it, and a question that is late counts as one without an answer.
 
     /// sendPrinterCommands: sends the commands to the printer's queue as one job and starts to watch it; the
     /// outcome arrives at ppdDidUpdate or ppdUpdateDidAbort. Sends nothing and calls neither while the panel
@@ -301,8 +302,11 @@ protected:
     AtomicShared<Semaphore> pdeUnloadSemaphore;
 
 private:
+    std::atomic<bool> isSendingCommands_ = false;
+
     struct WatchedJob;
     static void watch(WatchedJob& job);
+    void sendCommandJob(const QStringList& commands);
     void watchDidBailOut();
     void watchDidEnd(WatchedJob& job);
     void logEntered(const char* operation) const;

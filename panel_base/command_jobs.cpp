@@ -2,6 +2,7 @@
 #include "panel_base/command_file.h"
 #include "platform/plugin_api/host_callback.h"
 #include "platform/printing/jobs.h"
+#include "platform/printing/patience.h"
 #include "platform/printing/printer.h"
 
 namespace halvern {
@@ -13,9 +14,23 @@ QString commandFile(const QStringList& commands)
 
 void KSTRVLBasePDEHalvern::sendPrinterCommands(const QStringList& commands)
 {
-    const QString destination = destinationName().value_or(QString());
-    if (pdePluginDidUnload || pdeUnloadSemaphore)
+    // The mark of being busy comes with the watch, after several questions to the server: until then another
+    // sender is held back by this one. Taken before the look at the mark, so that nobody slips in between.
+    if (pdePluginDidUnload || isSendingCommands_.exchange(true))
         return;
+    if (pdeUnloadSemaphore) {
+        isSendingCommands_ = false;
+        return;
+    }
+    cups::runPatiently([self = shared_from_this(), commands] {
+        self->sendCommandJob(commands);
+        self->isSendingCommands_ = false;
+    });
+}
+
+void KSTRVLBasePDEHalvern::sendCommandJob(const QStringList& commands)
+{
+    const QString destination = destinationName().value_or(QString());
     if (activeJobIDForDesinationName(destination) != 0)
         return;
     jobs::Server server;
@@ -30,7 +45,9 @@ void KSTRVLBasePDEHalvern::sendPrinterCommands(const QStringList& commands)
 void KSTRVLBasePDEHalvern::dsendPrinterCommands(const QStringList& commands)
 {
     if (const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->pmPrinter() : nullptr)
-        printer->sendCommand(commandFile(commands), QStringLiteral("Status Check..."));
+        cups::runPatiently([printer, text = commandFile(commands)] {
+            printer->sendCommand(text, QStringLiteral("Status Check..."));
+        });
 }
 
 } // namespace halvern

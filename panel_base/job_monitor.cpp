@@ -4,6 +4,7 @@
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/jobs.h"
+#include "platform/printing/patience.h"
 
 #include <array>
 #include <cstring>
@@ -20,6 +21,12 @@ constexpr useconds_t kPollInterval = 500000;
 constexpr std::array<const char*, 7> kStateWords{"pending",  "held",    "processing", "stopped",
                                                  "canceled", "aborted", "completed"};
 
+jobs::JobList activeJobs(const QString& destination)
+{
+    return cups::askPatiently<jobs::JobList>(
+        [destination] { return jobs::Server().jobs(destination, jobs::Which::active); }, {});
+}
+
 } // namespace
 
 struct KSTRVLBasePDEHalvern::WatchedJob {
@@ -32,7 +39,7 @@ struct KSTRVLBasePDEHalvern::WatchedJob {
 
 int KSTRVLBasePDEHalvern::activeJobIDForDesinationName(const QString& destination)
 {
-    for (const jobs::Job& job : jobs::Server().jobs(destination, jobs::Which::active)) {
+    for (const jobs::Job& job : activeJobs(destination)) {
         if (job.state == jobs::kProcessing)
             return job.id;
     }
@@ -88,7 +95,9 @@ void KSTRVLBasePDEHalvern::watch(WatchedJob& job)
             state.slept(usleep(kPollInterval));
             break;
         case JobWatch::Step::askForCompletedJobs:
-            state.gotCompletedJobs(server.jobs(destination, jobs::Which::completed));
+            // A server that has just been silent is not waited for twice.
+            state.gotCompletedJobs(server.wasSilent() ? jobs::JobList()
+                                                      : server.jobs(destination, jobs::Which::completed));
             break;
         case JobWatch::Step::bailOut:
             server.cancelAndPurge(destination, job.id);
@@ -125,9 +134,8 @@ void KSTRVLBasePDEHalvern::watchDidEnd(WatchedJob& job)
 int KSTRVLBasePDEHalvern::jobStateForDesinationName_JobID_waitWhileInProcess(const QString& destination,
                                                                              int jobID, bool wait)
 {
-    jobs::Server server;
     for (;;) {
-        int state = jobs::stateOf(server.jobs(destination, jobs::Which::active), jobID);
+        int state = jobs::stateOf(activeJobs(destination), jobID);
         // A job that is no longer active counts as completed here.
         if (state == 0)
             state = jobs::kCompleted;
@@ -150,14 +158,10 @@ void KSTRVLBasePDEHalvern::ppdUpdateDidAbort(const Notification&)
 std::optional<QStringList>
 KSTRVLBasePDEHalvern::statesForDestinationName(const std::optional<QString>& destination)
 {
-    const auto options = destination ? jobs::Server().destinationOptions(*destination) : std::nullopt;
-    if (!options)
+    if (!destination)
         return std::nullopt;
-    for (const auto& [name, value] : *options) {
-        if (name == QLatin1String("printer-state-reasons"))
-            return value.split(QLatin1Char(','));
-    }
-    return std::nullopt;
+    return cups::askPatiently<std::optional<QStringList>>(
+        [destination = *destination] { return jobs::Server().stateReasons(destination); }, std::nullopt);
 }
 
 std::optional<QStringList> KSTRVLBasePDEHalvern::printerStateReasons()

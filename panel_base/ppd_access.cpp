@@ -43,11 +43,12 @@ std::optional<QByteArray> KSTRVLBasePDEHalvern::ppdSavedDataForAttribute(const Q
     const std::optional<QString> path = destination ? ppd::fetch(*destination) : std::nullopt;
     if (!path)
         return std::nullopt;
-    const ppd::File fresh = ppd::open(*path);
+    ppd::File fresh = ppd::open(*path);
     // A file that libcups cannot read stays where it is, for whoever looks into the failure.
     if (!fresh)
         return std::nullopt;
     auto data = ppdSavedDataForAttribute_forPPD(attribute, fresh.get());
+    fresh.reset();
     QFile::remove(*path);
     return data;
 }
@@ -61,7 +62,7 @@ QMap<QString, QString> KSTRVLBasePDEHalvern::ppdValuesForAttributes(const QStrin
     const std::optional<QString> path = ppd::fetch(*destination);
     if (!path)
         return values;
-    const ppd::File fresh = ppd::open(*path);
+    ppd::File fresh = ppd::open(*path);
     if (!fresh) {
         logLine(QString::asprintf("failed to open fresh ppd = %p", static_cast<void*>(fresh.get())));
         return values;
@@ -71,6 +72,7 @@ QMap<QString, QString> KSTRVLBasePDEHalvern::ppdValuesForAttributes(const QStrin
         if (const auto value = ppd::attribute(fresh.get(), attribute))
             values.insert(attribute, *value);
     }
+    fresh.reset();
     QFile::remove(*path);
     return values;
 }

@@ -93,7 +93,7 @@ private:
     bool ask()
     {
         err_ << tr("Asking \"%1\" ...").arg(queue_) << Qt::endl;
-        const InquiryResult result = askPrinterForReport(queue_, file_, [this](int job) {
+        const InquiryResult result = askPrinterForReport(queue_, [this](int job) {
             const JobStatus status = askJobStatus(queue_, job, cancelled_);
             // It would wait for ever.
             resting_ = isResting(status.stage) ? whyNot(status) : QString();

@@ -1,6 +1,7 @@
 #include "dialog/server/queue_ppd.h"
 
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/fresh_ppd.h"
 
 #include <QCoreApplication>
 
@@ -78,9 +79,10 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         readQueue(answer.get(), result);
     QString why;
     ppd::File file = ppd::parse(*text, &why);
-    if (file)
+    if (file) {
+        ppd::rememberText(queue, *text);
         result.file = std::make_shared<ppd::File>(std::move(file));
-    else
+    } else
         result.problem =
             words(QT_TRANSLATE_NOOP("Server", "The description of the printer \"%1\" is damaged: %2. "
                                               "Install its driver again, or choose another printer."))

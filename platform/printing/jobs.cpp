@@ -1,76 +1,10 @@
 #include "platform/printing/jobs.h"
 
-#include <QCoreApplication>
-#include <QThread>
+#include "platform/printing/cups_ppd.h"
 
-#include <cups/cups.h>
-
-#include <array>
-#include <memory>
-#include <span>
+#include <utility>
 
 namespace halvern::jobs {
-
-namespace {
-
-constexpr int kAllUsers = 0;
-constexpr int kPurge = 1;
-constexpr int kLastDocument = 1;
-
-/// The jobs that libcups allocated, freed by it.
-class CupsJobs {
-public:
-    CupsJobs(http_t* http, const QByteArray& destination, int which)
-        : count_(cupsGetJobs2(http, &jobs_, destination.constData(), kAllUsers, which))
-    {
-    }
-
-    ~CupsJobs() { cupsFreeJobs(count_, jobs_); }
-
-    CupsJobs(const CupsJobs&) = delete;
-    CupsJobs& operator=(const CupsJobs&) = delete;
-
-    // The count is -1 after an error.
-    std::span<const cups_job_t> all() const { return {jobs_, count_ > 0 ? size_t(count_) : 0}; }
-
-private:
-    cups_job_t* jobs_ = nullptr;
-    int count_;
-};
-
-/// The destinations that libcups allocated, freed by it.
-class CupsDestinations {
-public:
-    explicit CupsDestinations(http_t* http) : count_(cupsGetDests2(http, &dests_)) {}
-
-    ~CupsDestinations() { cupsFreeDests(count_, dests_); }
-
-    CupsDestinations(const CupsDestinations&) = delete;
-    CupsDestinations& operator=(const CupsDestinations&) = delete;
-
-    const cups_dest_t* find(const QByteArray& name) const
-    {
-        return cupsGetDest(name.constData(), nullptr, count_, dests_);
-    }
-
-private:
-    cups_dest_t* dests_ = nullptr;
-    int count_;
-};
-
-using Ipp = std::unique_ptr<ipp_t, decltype([](ipp_t* message) { ippDelete(message); })>;
-
-int giveUp(http_t*, void*)
-{
-    return 0;
-}
-
-const char* nobodyToAsk(const char*, http_t*, const char*, const char*, void*)
-{
-    return nullptr;
-}
-
-} // namespace
 
 int stateOf(const JobList& list, int id)
 {
@@ -81,100 +15,108 @@ int stateOf(const JobList& list, int id)
     return 0;
 }
 
-void Server::Close::operator()(_http_s* http) const
-{
-    httpClose(http);
-}
-
-Server::Server(int timeout) : timeout_(timeout)
-{
-    // The library's own way is to ask on the terminal that the dialog was started from.
-    const QCoreApplication* app = QCoreApplication::instance();
-    if (app && QThread::currentThread() != app->thread())
-        cupsSetPasswordCB2(nobodyToAsk, nullptr);
-}
+Server::Server(std::chrono::milliseconds timeout) : timeout_(timeout) {}
 
 Server::~Server() = default;
 
-// A null connection would mean the default one to libcups, which waits without limit.
-_http_s* Server::http()
+cups::Ipp Server::ask(cups::Ipp request, const QByteArray& resource, const cups::NextPiece& nextPiece)
 {
-    if (!http_) {
-        http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                 timeout_ * 1000, nullptr));
-        if (http_)
-            httpSetTimeout(http_.get(), timeout_, giveUp, nullptr);
-    }
-    return http_.get();
+    if (!connection_)
+        connection_ = std::make_unique<cups::Connection>(nullptr, cups::Limits{timeout_, timeout_});
+    cups::Ipp answer;
+    if (connection_->isConnected())
+        answer = connection_->request(std::move(request), resource.constData(), nextPiece);
+    wasSilent_ = connection_->wasSilent();
+    if (connection_->failed(answer))
+        answer.reset();
+    if (!connection_->isConnected())
+        connection_.reset();
+    return answer;
 }
 
 JobList Server::jobs(const QString& destination, Which which)
 {
+    static const char* const kAttributes[] = {"job-id", "job-state"};
     JobList result;
     // Without a name the server would answer for all queues.
-    if (destination.isEmpty() || !http())
+    if (destination.isEmpty())
         return result;
-    const CupsJobs found(http(), destination.toUtf8(),
-                         which == Which::active ? CUPS_WHICHJOBS_ACTIVE : CUPS_WHICHJOBS_COMPLETED);
-    for (const cups_job_t& job : found.all())
-        result.append({job.id, int(job.state)});
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_JOBS, destination);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr,
+                 which == Which::active ? "not-completed" : "completed");
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(kAttributes)), nullptr, kAttributes);
+    const cups::Ipp answer = ask(std::move(request), "/");
+    Job job;
+    const auto finish = [&] {
+        // A number that is none belongs to no job.
+        if (const Job done = std::exchange(job, Job()); done.id > 0)
+            result.append(done);
+    };
+    for (ipp_attribute_t* a = answer ? ippFirstAttribute(answer.get()) : nullptr; a;
+         a = ippNextAttribute(answer.get())) {
+        const char* name = ippGetName(a);
+        if (!name || ippGetGroupTag(a) != IPP_TAG_JOB)
+            finish();
+        else if (qstrcmp(name, "job-id") == 0)
+            job.id = ippGetInteger(a, 0);
+        else if (qstrcmp(name, "job-state") == 0)
+            job.state = ippGetInteger(a, 0);
+    }
+    finish();
     return result;
 }
 
 bool Server::cancelAndPurge(const QString& destination, int id)
 {
-    if (id <= 0 || !http())
+    if (id <= 0 || destination.isEmpty())
         return false;
-    return cupsCancelJob2(http(), destination.toUtf8().constData(), id, kPurge) <= IPP_STATUS_OK_CONFLICTING;
+    cups::Ipp request = cups::newRequest(IPP_OP_CANCEL_JOB, destination);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "purge-job", 1);
+    return ask(std::move(request), "/jobs/") != nullptr;
 }
 
-// Not cupsCreateJob(): it looks the destination up first, and part of that goes over the default connection,
-// beyond our time limit (measured: 124 s for a server that has stopped answering).
 int Server::createJob(const QString& destination, const QString& title)
 {
-    if (destination.isEmpty() || !http())
+    if (destination.isEmpty())
         return 0;
-    const QByteArray queue = destination.toUtf8();
-    std::array<char, HTTP_MAX_URI> uri{};
-    if (httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), int(uri.size()), "ipp", nullptr, "localhost", 0,
-                         "/printers/%s", queue.constData()) < HTTP_URI_STATUS_OK)
-        return 0;
-    ipp_t* request = ippNewRequest(IPP_OP_CREATE_JOB);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title.toUtf8().constData());
-    const QByteArray resource = "/printers/" + queue;
-    const Ipp answer(cupsDoRequest(http(), request, resource.constData()));
-    ipp_attribute_t* id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
-    return id ? ippGetInteger(id, 0) : 0;
+    cups::Ipp request = cups::newRequest(IPP_OP_CREATE_JOB, destination);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                 title.toUtf8().constData());
+    return cups::jobIdOf(ask(std::move(request), "/printers/" + destination.toUtf8()));
 }
 
 bool Server::sendDocument(const QString& destination, int id, const QString& name, const char* format,
                           const QByteArray& document)
 {
-    if (!http())
-        return false;
-    const QByteArray queue = destination.toUtf8();
-    const http_status_t started =
-        cupsStartDocument(http(), queue.constData(), id, name.toUtf8().constData(), format, kLastDocument);
-    const http_status_t written = cupsWriteRequestData(http(), document.constData(), size_t(document.size()));
-    const ipp_status_t finished = cupsFinishDocument(http(), queue.constData());
-    return started == HTTP_STATUS_CONTINUE && written == HTTP_STATUS_CONTINUE &&
-           finished <= IPP_STATUS_OK_CONFLICTING;
+    cups::Ipp request = cups::newRequest(IPP_OP_SEND_DOCUMENT, destination);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                 name.toUtf8().constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr, format);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
+    return ask(std::move(request), "/printers/" + destination.toUtf8(), [left = document]() mutable {
+               return std::optional(std::exchange(left, QByteArray()));
+           }) != nullptr;
 }
 
-std::optional<QList<QPair<QString, QString>>> Server::destinationOptions(const QString& destination)
+std::optional<QStringList> Server::stateReasons(const QString& destination)
 {
-    if (!http())
+    if (destination.isEmpty())
         return std::nullopt;
-    const CupsDestinations all(http());
-    const cups_dest_t* found = all.find(destination.toUtf8());
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, destination);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-state-reasons");
+    const cups::Ipp answer = ask(std::move(request), "/");
+    ipp_attribute_t* found =
+        answer ? ippFindAttribute(answer.get(), "printer-state-reasons", IPP_TAG_KEYWORD) : nullptr;
     if (!found)
         return std::nullopt;
-    QList<QPair<QString, QString>> result;
-    for (const cups_option_t& option : std::span(found->options, size_t(found->num_options)))
-        result.append({QString::fromUtf8(option.name), QString::fromUtf8(option.value)});
-    return result;
+    QStringList reasons;
+    for (int i = 0; i < ippGetCount(found); ++i)
+        reasons += QString::fromUtf8(ippGetString(found, i, nullptr)).split(QLatin1Char(','));
+    return reasons;
 }
 
 } // namespace halvern::jobs

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "platform/printing/cups_connection.h"
+
 #include <QByteArray>
 #include <QList>
-#include <QPair>
-#include <QString>
+#include <QStringList>
 
+#include <chrono>
 #include <memory>
 #include <optional>
-
-struct _http_s;
 
 /// The jobs of the CUPS server's queues.
 namespace halvern::jobs {
@@ -34,13 +34,11 @@ enum class Which { active, completed };
 /// The state of the job with the ID; 0 if it is not in the list.
 int stateOf(const JobList& list, int id);
 
-/// A connection to the CUPS server that the calling thread's default connection would go to, with limits of
-/// its own: a server that has stopped answering fails a call after about `timeout` seconds, where the default
-/// connection would wait for ever. Connects at the first call, and again after a failure. One thread at a
-/// time; every call blocks. On a thread other than the main one nobody is asked for a password.
+/// The CUPS server's jobs, over a connection of its own that each exchange has so long for as `timeout` says.
+/// Connects at the first call, and again after a failure. One thread at a time; every call blocks.
 class Server {
 public:
-    explicit Server(int timeout = 15);
+    explicit Server(std::chrono::milliseconds timeout = std::chrono::seconds(5));
     ~Server();
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
@@ -52,27 +50,26 @@ public:
     /// not positive: CUPS takes 0 for the current job and -1 for all jobs, whoever they belong to.
     bool cancelAndPurge(const QString& destination, int id);
 
-    /// Creates a job without options. Its ID; 0 or less on failure.
+    /// Creates a job without options. Its ID; 0 on failure.
     int createJob(const QString& destination, const QString& title);
 
-    /// Starts the job's only document, writes it and finishes it. False if any of the three fails; the job
-    /// may then exist without a document.
+    /// Starts the job's only document, writes it and finishes it. False if that fails; the job may then exist
+    /// without a document.
     bool sendDocument(const QString& destination, int id, const QString& name, const char* format,
                       const QByteArray& document);
 
-    /// The options of the destination (without instance), in the server's order; nothing if there is no such
-    /// destination.
-    std::optional<QList<QPair<QString, QString>>> destinationOptions(const QString& destination);
+    /// The destination's state reasons, in the server's order; nothing if there is no such destination.
+    std::optional<QStringList> stateReasons(const QString& destination);
+
+    /// Whether the last call ended because the server was silent.
+    bool wasSilent() const { return wasSilent_; }
 
 private:
-    struct Close {
-        void operator()(_http_s* http) const;
-    };
+    cups::Ipp ask(cups::Ipp request, const QByteArray& resource, const cups::NextPiece& nextPiece = {});
 
-    _http_s* http();
-
-    std::unique_ptr<_http_s, Close> http_;
-    int timeout_;
+    std::unique_ptr<cups::Connection> connection_;
+    std::chrono::milliseconds timeout_;
+    bool wasSilent_ = false;
 };
 
 /// The format of a command job's document.

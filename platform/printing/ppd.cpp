@@ -1,46 +1,22 @@
 #include "platform/printing/ppd.h"
 
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/fresh_ppd.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QThread>
+#include <QTemporaryFile>
 
 #include <cerrno>
 #include <charconv>
-#include <chrono>
 #include <cmath>
 #include <cstring>
 
 #include <sys/mman.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace halvern::ppd {
 
 namespace {
-
-// How long a server may be silent. Somebody is looking at the main thread.
-constexpr int kPatience = 5;
-constexpr int kMainThreadPatience = 2;
-
-// So long the main thread does not ask a server again that has kept it waiting: one choice of the user's may
-// ask several times.
-constexpr std::chrono::seconds kMainThreadRespite(10);
-
-using Clock = std::chrono::steady_clock;
-
-bool isMainThread()
-{
-    const QCoreApplication* app = QCoreApplication::instance();
-    return app && app->thread() == QThread::currentThread();
-}
-
-struct HttpClose {
-    void operator()(http_t* http) const { httpClose(http); }
-};
-
-using Connection = std::unique_ptr<http_t, HttpClose>;
 
 File explained(ppd_file_t* file, QString* why)
 {
@@ -88,15 +64,9 @@ File open(const QString& path, QString* why)
     return explained(ppdOpenFile(QFile::encodeName(path).constData()), why);
 }
 
-QByteArray resourceOf(const QString& queue)
-{
-    return "/printers/" + queue.toUtf8() + ".ppd";
-}
-
 File parse(const QByteArray& text, QString* why)
 {
-    // libcups would unpack it, to whatever size.
-    if (text.startsWith("\x1f\x8b")) {
+    if (isPacked(text)) {
         if (why)
             *why = QStringLiteral("gzip");
         return nullptr;
@@ -114,34 +84,21 @@ File parse(const QByteArray& text, QString* why)
     return explained(ppdOpenFd(memory), why); // closes it
 }
 
+bool isPacked(const QByteArray& text)
+{
+    return text.startsWith("\x1f\x8b");
+}
+
 std::optional<QString> fetch(const QString& destination)
 {
-    // The main thread's only.
-    static Clock::time_point silentSince;
-    static QByteArray silentServer;
-    const bool isMain = isMainThread();
-    if (isMain && silentServer == cupsServer() && Clock::now() - silentSince < kMainThreadRespite)
+    const std::optional<QByteArray> text = freshText(destination);
+    if (!text)
         return std::nullopt;
-    const int patience = isMain ? kMainThreadPatience : kPatience;
-    const Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                       patience * 1000, nullptr));
-    if (!http)
+    QTemporaryFile file;
+    if (!file.open() || file.write(*text) != text->size() || !file.flush())
         return std::nullopt;
-    // A server that has stopped would otherwise hold the caller for ever.
-    bool wasSilent = false;
-    httpSetTimeout(
-        http.get(), patience,
-        [](http_t*, void* silent) {
-            *static_cast<bool*>(silent) = true;
-            return 0;
-        },
-        &wasSilent);
-    const char* path = cupsGetPPD2(http.get(), destination.toUtf8().constData());
-    if (isMain) {
-        silentServer = wasSilent && !path ? QByteArray(cupsServer()) : QByteArray();
-        silentSince = Clock::now();
-    }
-    return path ? std::optional<QString>(QFile::decodeName(path)) : std::nullopt;
+    file.setAutoRemove(false);
+    return file.fileName();
 }
 
 std::optional<QString> attribute(ppd_file_t* file, const QString& keyword)

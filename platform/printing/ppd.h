@@ -26,15 +26,14 @@ using File = std::unique_ptr<ppd_file_t, Closer>;
 /// libcups's reason and the line number.
 File open(const QString& path, QString* why = nullptr);
 
-/// Where the server has a queue's PPD, for HTTP.
-QByteArray resourceOf(const QString& queue);
+/// Whether a text is packed: libcups would unpack it, to whatever size.
+bool isPacked(const QByteArray& text);
 
 /// The same from the text of a PPD, which is not packed.
 File parse(const QByteArray& text, QString* why = nullptr);
 
-/// cupsGetPPD: asks the CUPS server for the queue's current PPD on a connection of its own; blocks, for
-/// seconds at most when the server does not answer: the main thread for two, and then not at all for a while.
-/// The answer is the path of a temporary file that the caller removes; nothing if it cannot be had.
+/// cupsGetPPD: the queue's PPD as the server has it now (freshText() in fresh_ppd.h), written to a temporary
+/// file whose path is the answer, and which the caller removes; nothing if it cannot be had.
 std::optional<QString> fetch(const QString& destination);
 
 /// The value of the first attribute with the keyword, whatever option keyword follows it; nothing if there is

@@ -12,7 +12,8 @@ protected:
     /// What the queue's PPD on the server says now.
     static std::optional<QVariantMap> catalogueOf(const char* queue)
     {
-        const std::optional<QString> path = ppd::fetch(QLatin1String(queue));
+        const std::optional<QString> path =
+            offMainThread([queue] { return ppd::fetch(QLatin1String(queue)); });
         EXPECT_TRUE(path);
         const auto archive = archiveInPpd(*path).bytes;
         QFile::remove(*path);

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <future>
 
 namespace halvern {
 
@@ -42,6 +43,12 @@ inline constexpr int kPatience = 300;
 
 /// Runs the event loop until the condition holds; false if patience ends first.
 bool waitUntil(const std::function<bool()>& condition, int seconds = kPatience);
+
+/// The answer of `question`, asked from another thread: the main thread does not wait for a slow server.
+template <class Question> auto offMainThread(Question question)
+{
+    return std::async(std::launch::async, std::move(question)).get();
+}
 
 /// Delivers everything that is queued for the main thread, deletions included.
 void drainMainQueue();

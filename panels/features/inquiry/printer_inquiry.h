@@ -3,10 +3,6 @@
 #include <QString>
 
 #include <functional>
-#include <memory>
-
-struct ppd_file_s;
-using ppd_file_t = ppd_file_s;
 
 namespace halvern {
 
@@ -17,7 +13,7 @@ struct InquiryResult {
         failed,    ///< it has not, or never came to be: see jobId
         busy,      ///< nothing was sent, because the queue is at another job
         abandoned, ///< the caller had enough; the server has been told to cancel the job
-        adrift,    ///< the caller had enough, but the server does not answer: the job may still be there
+        adrift,    ///< the server does not answer: the job may still be there
     };
     End end;
     int jobId = 0; ///< 0 or less: no job could be created
@@ -25,9 +21,8 @@ struct InquiryResult {
 
 /// Asks the printer of a queue to report its papers and abilities: the command job that the Features panel
 /// sends, watched as there. Blocks until the job has ended; `keepWaiting`, called several times a second on
-/// this thread with the job's ID, ends it early. Needs no event loop. Any thread; `file` is the queue's PPD
-/// and used by nobody else meanwhile.
-InquiryResult askPrinterForReport(const QString& queue, const std::shared_ptr<ppd_file_t>& file,
-                                  const std::function<bool(int jobId)>& keepWaiting);
+/// this thread with the job's ID, ends it early. Needs no event loop. Any thread; it blocks the main thread,
+/// too.
+InquiryResult askPrinterForReport(const QString& queue, const std::function<bool(int jobId)>& keepWaiting);
 
 } // namespace halvern

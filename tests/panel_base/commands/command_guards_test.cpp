@@ -10,10 +10,10 @@ TEST_F(CommandGuardsTest, WhileAJobIsWatchedNoOtherIsSent)
 {
     addQueue("Busy", "slow=9999");
     const auto panel = makeCommandPanel("Busy");
-    panel->sendPrinterCommands(kReportAndConfigure);
+    send(*panel);
     EXPECT_TRUE(panel->isWatching());
     const int job = onlyJob("Busy");
-    panel->sendPrinterCommands(kReportAndConfigure);
+    send(*panel);
     EXPECT_EQ(onlyJob("Busy"), job);
     jobs::Server().cancelAndPurge(q("Busy"), job);
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
@@ -25,7 +25,7 @@ TEST_F(CommandGuardsTest, AHiddenPanelSendsNothing)
     addQueue("Hidden");
     const auto panel = makeCommandPanel("Hidden");
     panel->shouldHide();
-    panel->sendPrinterCommands(kReportAndConfigure);
+    send(*panel);
     EXPECT_FALSE(panel->isWatching());
     EXPECT_TRUE(active("Hidden").isEmpty());
     EXPECT_TRUE(list("Hidden", jobs::Which::completed).isEmpty());
@@ -37,8 +37,9 @@ TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
     const int processing = sendForeignJob("Other");
     ASSERT_TRUE(reaches("Other", processing, jobs::kProcessing));
     const auto panel = makeCommandPanel("Other");
-    EXPECT_EQ(panel->activeJobIDForDesinationName(q("Other")), processing);
-    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_EQ(offMainThread([&] { return panel->activeJobIDForDesinationName(q("Other")); }),
+              processing);
+    send(*panel);
     EXPECT_FALSE(panel->isWatching());
     EXPECT_EQ(active("Other").size(), 1);
 
@@ -46,8 +47,9 @@ TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
     const int pending = sendForeignJob("Waiting");
     ASSERT_TRUE(reaches("Waiting", pending, jobs::kPending));
     const auto second = makeCommandPanel("Waiting");
-    EXPECT_EQ(second->activeJobIDForDesinationName(q("Waiting")), 0);
-    second->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_EQ(offMainThread([&] { return second->activeJobIDForDesinationName(q("Waiting")); }),
+              0);
+    send(*second);
     EXPECT_TRUE(second->isWatching());
     EXPECT_EQ(active("Waiting").size(), 2);
     second->shouldHide();
@@ -61,15 +63,26 @@ TEST_F(CommandGuardsTest, ACommandFromWithinAHookIsRefusedAndOneAfterItIsSent)
     addQueue("Hook");
     const auto panel = makeCommandPanel("Hook");
     panel->inHook = [](CommandPanel& self) { self.sendPrinterCommands(kReportAndConfigure); };
-    panel->sendPrinterCommands(kReportAndConfigure);
+    send(*panel);
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->updates, 1);
     EXPECT_EQ(list("Hook", jobs::Which::completed).size(), 1);
     panel->inHook = nullptr;
-    panel->sendPrinterCommands(kReportAndConfigure);
+    send(*panel);
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->updates, 2);
     EXPECT_EQ(list("Hook", jobs::Which::completed).size(), 2);
+}
+
+TEST_F(CommandGuardsTest, OfTwoThatSendAtOnceOneIsRefused)
+{
+    addQueue("Twice");
+    const auto panel = makeCommandPanel("Twice");
+    panel->whileAsking = [](CommandPanel& self) { send(self); };
+    send(*panel);
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
+    EXPECT_EQ(panel->updates, 1);
+    EXPECT_EQ(list("Twice", jobs::Which::completed).size(), 1);
 }
 
 TEST_F(CommandGuardsTest, APrinterWithoutANameEndsInOneAbortAndTouchesNoOtherQueue)
@@ -78,9 +91,9 @@ TEST_F(CommandGuardsTest, APrinterWithoutANameEndsInOneAbortAndTouchesNoOtherQue
     const int job = sendForeignJob("Bystander");
     ASSERT_TRUE(reaches("Bystander", job, jobs::kProcessing));
     const auto panel = makeCommandPanel("");
-    EXPECT_EQ(panel->activeJobIDForDesinationName(QString()), 0);
-    EXPECT_EQ(panel->printerStateReasons(), std::nullopt);
-    panel->sendPrinterCommands(kReportAndConfigure);
+    EXPECT_EQ(offMainThread([&] { return panel->activeJobIDForDesinationName(QString()); }), 0);
+    EXPECT_EQ(offMainThread([&] { return panel->printerStateReasons(); }), std::nullopt);
+    send(*panel);
     ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->aborts, 1);
     EXPECT_EQ(onlyJob("Bystander"), job);

@@ -28,6 +28,13 @@ void CommandPanel::called(std::atomic<int>& counter)
     ++counter;
 }
 
+int CommandPanel::activeJobIDForDesinationName(const QString& destination)
+{
+    if (const auto once = std::exchange(whileAsking, nullptr))
+        once(*this);
+    return KSTRVLBasePDEHalvern::activeJobIDForDesinationName(destination);
+}
+
 std::unique_ptr<char[]> CommandPanel::copyForWatch(const std::optional<QString>& text)
 {
     if (copiesLeft == 0)

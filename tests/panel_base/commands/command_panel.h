@@ -17,6 +17,7 @@ public:
 
     void ppdDidUpdate() override;
     void ppdUpdateDidAbort() override;
+    int activeJobIDForDesinationName(const QString& destination) override;
     std::unique_ptr<char[]> copyForWatch(const std::optional<QString>& text) override;
 
     bool isWatching() const { return bool(pdeUnloadSemaphore); }
@@ -28,6 +29,8 @@ public:
     std::atomic<bool> hooksRanOnTheMainThread = false;
     /// The number of copies for which there is memory; -1 for no limit.
     int copiesLeft = -1;
+    /// Runs once, while the queue's active job is asked for.
+    std::function<void(CommandPanel&)> whileAsking;
     /// Runs in the hook, before the watch has ended.
     std::function<void(CommandPanel&)> inHook;
 
@@ -44,6 +47,12 @@ extern const QStringList kReportAndConfigure;
 class CommandTest : public ServerTest {
 protected:
     void TearDown() override;
+
+    /// Sends the usual commands and returns once that is done or refused.
+    static void send(CommandPanel& panel)
+    {
+        offMainThread([&] { panel.sendPrinterCommands(kReportAndConfigure); });
+    }
 
     /// A command job that is not the panel's.
     static int sendForeignJob(const char* queue);

@@ -13,12 +13,15 @@ TEST_F(QueueStateTest, AJobsStateIsWaitedForOrToldAtOnce)
     addQueue("State", "slow=9999");
     const auto panel = makeCommandPanel("State");
     const QString queue = q("State");
-    EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, 999, false), jobs::kCompleted);
+    const auto stateOfJob = [&](int id, bool wait) {
+        return offMainThread(
+            [&] { return panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, id, wait); });
+    };
+    EXPECT_EQ(stateOfJob(999, false), jobs::kCompleted);
     EXPECT_EQ(log.lines(), QStringList{q("Cups Job 999 is completed")});
     const int job = sendForeignJob("State");
     ASSERT_TRUE(reaches("State", job, jobs::kProcessing));
-    EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, job, false),
-              jobs::kProcessing);
+    EXPECT_EQ(stateOfJob(job, false), jobs::kProcessing);
     WorkQueue().async([&] {
         // Once it has been seen running, so that the wait is one.
         const QString running = q("Cups Job %1 is processing").arg(job);
@@ -26,7 +29,7 @@ TEST_F(QueueStateTest, AJobsStateIsWaitedForOrToldAtOnce)
             std::this_thread::yield();
         jobs::Server().cancelAndPurge(queue, job);
     });
-    EXPECT_EQ(panel->jobStateForDesinationName_JobID_waitWhileInProcess(queue, job, true), jobs::kCompleted);
+    EXPECT_EQ(stateOfJob(job, true), jobs::kCompleted);
 }
 
 TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
@@ -34,13 +37,16 @@ TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
     addQueue("Reasons", "stop&reason=cover-open");
     addQueue("Idle");
     const auto panel = makeCommandPanel("Reasons");
-    EXPECT_EQ(makeCommandPanel("Idle")->printerStateReasons(), QStringList{q("none")});
+    const auto reasons = [](KSTRVLBasePDEHalvern& asked) {
+        return offMainThread([&] { return asked.printerStateReasons(); });
+    };
+    EXPECT_EQ(reasons(*makeCommandPanel("Idle")), QStringList{q("none")});
     sendForeignJob("Reasons");
-    ASSERT_TRUE(waitUntil([&] { return panel->printerStateReasons().value_or(QStringList()).size() == 2; }));
-    EXPECT_EQ(panel->printerStateReasons(), panel->statesForDestinationName(q("Reasons")));
-    EXPECT_TRUE(panel->printerStateReasons()->contains(q("cover-open")));
-    EXPECT_TRUE(panel->printerStateReasons()->contains(q("paused")));
-    EXPECT_EQ(panel->statesForDestinationName(q("Unknown")), std::nullopt);
+    ASSERT_TRUE(waitUntil([&] { return reasons(*panel).value_or(QStringList()).size() == 2; }));
+    EXPECT_TRUE(reasons(*panel)->contains(q("cover-open")));
+    EXPECT_TRUE(reasons(*panel)->contains(q("paused")));
+    EXPECT_EQ(offMainThread([&] { return panel->statesForDestinationName(q("Unknown")); }),
+              std::nullopt);
 }
 
 TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsTheCalls)
@@ -49,11 +55,12 @@ TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsTheCalls)
     ASSERT_GT(process, 1);
     addQueue("Frozen", "slow=9999");
     const int job = sendForeignJob("Frozen");
-    jobs::Server impatient(1);
+    const std::chrono::seconds limit(1);
+    jobs::Server impatient(limit);
     ASSERT_TRUE(waitUntil([&] { return impatient.jobs(q("Frozen"), jobs::Which::active).size() == 1; }));
     ASSERT_EQ(kill(process, SIGSTOP), 0);
     EXPECT_TRUE(impatient.jobs(q("Frozen"), jobs::Which::active).isEmpty());
-    EXPECT_LE(jobs::Server(1).createJob(q("Frozen"), q("t")), 0);
+    EXPECT_LE(jobs::Server(limit).createJob(q("Frozen"), q("t")), 0);
     ASSERT_EQ(kill(process, SIGCONT), 0);
     // The same connection works again.
     EXPECT_TRUE(waitUntil([&] { return impatient.cancelAndPurge(q("Frozen"), job); }));
