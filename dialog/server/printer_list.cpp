@@ -83,6 +83,16 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
         .arg(name, list, QString::number(count - names.size()));
 }
 
+std::vector<PrinterInfo> withDiscovered(std::vector<PrinterInfo> queues,
+                                        const std::vector<PrinterInfo>& discovered)
+{
+    for (const PrinterInfo& printer : discovered) {
+        if (std::ranges::find(queues, printer.name, &PrinterInfo::name) == queues.end())
+            queues.push_back(printer);
+    }
+    return queues;
+}
+
 PrinterList::PrinterList(QObject* parent) : QObject(parent), stop_(cups::makeCancelFlag())
 {
     timer_.setSingleShot(true);
@@ -124,7 +134,7 @@ void PrinterList::discover()
             if (!self || found.empty())
                 return;
             self->discovered_ = found;
-            self->merge();
+            self->printers_ = withDiscovered(self->queues_, found);
             Q_EMIT self->changed();
         });
     });
@@ -143,24 +153,15 @@ void PrinterList::take(PrinterAnswer answer)
     if (problem_.isEmpty()) {
         queues_ = std::move(answer.printers);
         serverDefault_ = answer.defaultName;
-        merge();
+        printers_ = withDiscovered(queues_, discovered_);
     }
     if (isFirst || !isSame)
         Q_EMIT changed();
 }
 
-void PrinterList::merge()
-{
-    printers_ = queues_;
-    for (const PrinterInfo& printer : discovered_) {
-        if (!find(printer.name))
-            printers_.push_back(printer);
-    }
-}
-
 const PrinterInfo* PrinterList::find(const QString& name) const
 {
-    const auto found = std::ranges::find_if(printers_, [&](const PrinterInfo& p) { return p.name == name; });
+    const auto found = std::ranges::find(printers_, name, &PrinterInfo::name);
     return found == printers_.end() ? nullptr : &*found;
 }
 

@@ -47,6 +47,10 @@ PrinterAnswer askPrinters(const cups::CancelFlag& cancelled);
 /// Printers on the network that have no queue yet, on the calling worker; takes up to `milliseconds`.
 std::vector<PrinterInfo> discoverPrinters(int milliseconds, const cups::CancelFlag& cancelled);
 
+/// The queues, and behind them the printers on the network that have none under their name.
+std::vector<PrinterInfo> withDiscovered(std::vector<PrinterInfo> queues,
+                                        const std::vector<PrinterInfo>& discovered);
+
 /// The queues of the server, kept up to date every few seconds by workers, never waiting on the main thread.
 /// Main thread only.
 class PrinterList : public QObject {
@@ -81,7 +85,6 @@ Q_SIGNALS:
 private:
     void discover();
     void take(PrinterAnswer answer);
-    void merge();
 
     std::vector<PrinterInfo> queues_;
     std::vector<PrinterInfo> discovered_;

@@ -104,6 +104,10 @@ PrinterAnswer askPrinters(const cups::CancelFlag& cancelled)
     ippAddString(question.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-name");
     const cups::Ipp standard = server.request(std::move(question), "/");
+    if (!standard && server.failed(standard)) {
+        result.problem = server.error();
+        return result;
+    }
     ipp_attribute_t* name =
         standard ? ippFindAttribute(standard.get(), "printer-name", IPP_TAG_NAME) : nullptr;
     if (name)
@@ -114,10 +118,13 @@ PrinterAnswer askPrinters(const cups::CancelFlag& cancelled)
 std::vector<PrinterInfo> discoverPrinters(int milliseconds, const cups::CancelFlag& cancelled)
 {
     std::vector<PrinterInfo> found;
-    int stop = 0;
-    if (!cancelled->load())
-        cupsEnumDests(CUPS_DEST_FLAGS_NONE, milliseconds, &stop, CUPS_PRINTER_DISCOVERED,
-                      CUPS_PRINTER_DISCOVERED, addDiscovered, &found);
+    // libcups would first ask the server for what it knows already, on a connection without any limit. The
+    // setting is this thread's own.
+    cupsSetServer("/dev/null");
+    cups::ExchangeWatch watch(cups::ExchangeWatch::Clock::time_point::max(), cancelled);
+    cupsEnumDests(CUPS_DEST_FLAGS_NONE, milliseconds, watch.giveUp(), CUPS_PRINTER_DISCOVERED,
+                  CUPS_PRINTER_DISCOVERED, addDiscovered, &found);
+    cupsSetServer(nullptr);
     return found;
 }
 

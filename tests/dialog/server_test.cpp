@@ -98,6 +98,26 @@ TEST_F(DialogServerTest, ListsQueuesWithTheirStatesAndSelectsTheDefault)
     EXPECT_TRUE(containsText(stateText(*list.find(q("Rejecting"))), "not accept"));
 }
 
+TEST_F(DialogServerTest, AServerThatFailsForAMomentDoesNotEmptyTheListAndNoPrinterIsListedTwice)
+{
+    PrinterList list(nullptr);
+    list.start();
+    ASSERT_TRUE(waitUntil([&] { return list.hasAnswer(); }));
+    const std::vector<PrinterInfo> before = list.printers();
+    const QByteArray server = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+    list.refresh();
+    EXPECT_TRUE(waitUntil([&] { return !list.problem().isEmpty(); }));
+    qputenv("CUPS_SERVER", server);
+    EXPECT_EQ(list.printers().size(), before.size());
+    PrinterInfo discovered;
+    discovered.isDiscovered = true;
+    discovered.name = q("Next door");
+    const std::vector<PrinterInfo> all = withDiscovered(before, {before.front(), discovered});
+    EXPECT_EQ(all.size(), before.size() + 1);
+    EXPECT_EQ(all.back(), discovered);
+}
+
 TEST_F(DialogServerTest, SaysWhyAJobDoesNotPrintAndCancelsIt)
 {
     struct Case {
