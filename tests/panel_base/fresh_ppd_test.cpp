@@ -13,8 +13,7 @@ protected:
         writePpd(folder.filePath(q("fresh.ppd")), "1.5");
         ASSERT_TRUE(server.addQueue(q("Fresh"), folder.filePath(q("fresh.ppd"))))
             << qPrintable(server.error());
-        host->printer =
-            std::make_shared<Printer>(q("Fresh"), q("halvern://virtual/Fresh"));
+        host->printer = std::make_shared<Printer>(q("Fresh"), q("halvern://virtual/Fresh"));
         ASSERT_TRUE(QDir(folder.path()).mkdir(q("tmp")));
         qputenv("TMPDIR", temporary().path().toLocal8Bit());
     }
@@ -53,16 +52,14 @@ protected:
 TEST_F(FreshPpdTest, ReadsWhatTheServerHasNowAndLeavesNoFile)
 {
     const QStringList keys{q("Stamp"), q("Nothing"), q("Absent")};
-    EXPECT_EQ(values(keys), (QMap<QString, QString>{{q("Stamp"), q("1.5")},
-                                                    {q("Nothing"), QString()}}));
+    EXPECT_EQ(values(keys), (QMap<QString, QString>{{q("Stamp"), q("1.5")}, {q("Nothing"), QString()}}));
     EXPECT_EQ(log.count(q("searching fresh ppd for key Absent")), 1);
     EXPECT_EQ(savedData(), QByteArray("ABCDEF"));
     writePpd(queuePpd(), "2.5");
     EXPECT_EQ(values(keys).value(q("Stamp")), q("2.5"));
     writePpd(queuePpd(), "3.5");
     // The main thread takes a late answer the next time.
-    EXPECT_TRUE(waitUntil(
-        [&] { return panel->ppdValueForAttribute(q("Stamp")) == q("3.5"); }));
+    EXPECT_TRUE(waitUntil([&] { return panel->ppdValueForAttribute(q("Stamp")) == q("3.5"); }));
     EXPECT_EQ(temporaryFiles(), 0);
 }
 

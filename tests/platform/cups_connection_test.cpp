@@ -1,11 +1,9 @@
 #include "platform/printing/cups_connection.h"
 #include "platform/printing/fresh_ppd.h"
 #include "tests/support/fault_server.h"
-#include "tests/support/observers.h"
-#include "tests/support/text.h"
+#include "tests/support/test.h"
 
 #include <cups/cups.h>
-#include <gtest/gtest.h>
 
 namespace halvern {
 

@@ -37,8 +37,7 @@ TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
     const int processing = sendForeignJob("Other");
     ASSERT_TRUE(reaches("Other", processing, jobs::kProcessing));
     const auto panel = makeCommandPanel("Other");
-    EXPECT_EQ(offMainThread([&] { return panel->activeJobIDForDesinationName(q("Other")); }),
-              processing);
+    EXPECT_EQ(offMainThread([&] { return panel->activeJobIDForDesinationName(q("Other")); }), processing);
     send(*panel);
     EXPECT_FALSE(panel->isWatching());
     EXPECT_EQ(active("Other").size(), 1);
@@ -47,8 +46,7 @@ TEST_F(CommandGuardsTest, OnlyAProcessingJobOfTheQueueHoldsACommandBack)
     const int pending = sendForeignJob("Waiting");
     ASSERT_TRUE(reaches("Waiting", pending, jobs::kPending));
     const auto second = makeCommandPanel("Waiting");
-    EXPECT_EQ(offMainThread([&] { return second->activeJobIDForDesinationName(q("Waiting")); }),
-              0);
+    EXPECT_EQ(offMainThread([&] { return second->activeJobIDForDesinationName(q("Waiting")); }), 0);
     send(*second);
     EXPECT_TRUE(second->isWatching());
     EXPECT_EQ(active("Waiting").size(), 2);

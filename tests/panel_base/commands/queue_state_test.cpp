@@ -45,8 +45,7 @@ TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
     ASSERT_TRUE(waitUntil([&] { return reasons(*panel).value_or(QStringList()).size() == 2; }));
     EXPECT_TRUE(reasons(*panel)->contains(q("cover-open")));
     EXPECT_TRUE(reasons(*panel)->contains(q("paused")));
-    EXPECT_EQ(offMainThread([&] { return panel->statesForDestinationName(q("Unknown")); }),
-              std::nullopt);
+    EXPECT_EQ(offMainThread([&] { return panel->statesForDestinationName(q("Unknown")); }), std::nullopt);
 }
 
 TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsTheCalls)

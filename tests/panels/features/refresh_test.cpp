@@ -238,7 +238,7 @@ TEST_F(Refresh, ReadsNewsOfPapersOffTheMainThread)
 TEST_F(Refresh, AReadThatIsLateDoesNotReplaceALaterOne)
 {
     make();
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     TestPrinter::load(archiveOf({QStringLiteral("Old")}));
     TestPrinter::hold();
     panel->newPaperDict({QStringLiteral("VLXPrinterPaperDidUpdateNotification"), std::nullopt});
@@ -248,7 +248,7 @@ TEST_F(Refresh, AReadThatIsLateDoesNotReplaceALaterOne)
     const auto newest = panel->unsortedPaper();
     ASSERT_TRUE(newest);
     TestPrinter::goOn();
-    ASSERT_TRUE(waitForWorkQueues(20000));
+    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
     EXPECT_EQ(panel->unsortedPaper(), newest);
 }
 
