@@ -49,7 +49,7 @@ public:
 
     std::shared_ptr<PageFormat> pageFormat() override { return format_; }
 
-    std::shared_ptr<Printer> pmPrinter() override { return nullptr; }
+    std::shared_ptr<Printer> PMPrinter() override { return nullptr; }
 
 private:
     ppd::File file_;

@@ -44,7 +44,7 @@ void KSTRVLBasePDEHalvern::sendCommandJob(const QStringList& commands)
 
 void KSTRVLBasePDEHalvern::dsendPrinterCommands(const QStringList& commands)
 {
-    if (const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->pmPrinter() : nullptr)
+    if (const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->PMPrinter() : nullptr)
         cups::runPatiently([printer, text = commandFile(commands)] {
             printer->sendCommand(text, QStringLiteral("Status Check..."));
         });

@@ -10,6 +10,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 
 namespace halvern {
@@ -26,6 +27,25 @@ constexpr char kEdited[] = "edited";
 
 // Set once a control is connected.
 constexpr char kWired[] = "wired";
+
+// Return ends the editing of a field. Unless it is kept from going further, it presses the dialog's own
+// button, which prints.
+class ReturnKeeper : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* field, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter)
+            return false;
+        field->event(event);
+        event->accept();
+        return true;
+    }
+};
 
 struct Action {
     QLatin1StringView name;
@@ -100,6 +120,7 @@ void KSTRVLBasePDEHalvern::wireControl(QWidget* control)
 
 void KSTRVLBasePDEHalvern::wireTextField(QLineEdit* field)
 {
+    field->installEventFilter(new ReturnKeeper(field));
     QObject::connect(field, &QLineEdit::textEdited, field, [weak = weak_from_this(), field] {
         field->setProperty(kEdited, true);
         const auto self = weak.lock();

@@ -14,7 +14,7 @@ QString KSTRVLBasePDEHalvern::printerDeviceURI()
 {
     if (const auto known = deviceURI.get())
         return *known;
-    const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->pmPrinter() : nullptr;
+    const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->PMPrinter() : nullptr;
     const std::optional<QString> uri = printer ? printer->copyDeviceURI() : std::nullopt;
     if (!uri)
         return QStringLiteral("null://");
@@ -24,7 +24,7 @@ QString KSTRVLBasePDEHalvern::printerDeviceURI()
 
 std::optional<QString> KSTRVLBasePDEHalvern::destinationName()
 {
-    const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->pmPrinter() : nullptr;
+    const auto printer = pdePluginCallbackObject ? pdePluginCallbackObject->PMPrinter() : nullptr;
     return printer ? printer->id() : std::nullopt;
 }
 

@@ -43,7 +43,7 @@ std::shared_ptr<PageFormat> PanelHost::pageFormat()
     return source_ ? source_->hostPageFormat() : nullptr;
 }
 
-std::shared_ptr<Printer> PanelHost::pmPrinter()
+std::shared_ptr<Printer> PanelHost::PMPrinter()
 {
     if (!forWorkers_ && QThread::currentThreadId() != mainThread_)
         return nullptr;

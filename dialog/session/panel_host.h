@@ -39,11 +39,11 @@ public:
     bool willChangePPDOptionKeyValue_ppdChoice(const QString& key, const QVariant& choice) override;
     std::shared_ptr<PrintSettings> printSettings() override;
     std::shared_ptr<PageFormat> pageFormat() override;
-    std::shared_ptr<Printer> pmPrinter() override;
+    std::shared_ptr<Printer> PMPrinter() override;
 
 private:
     HostSource* source_;
-    mutable QMutex printerMutex_; // pmPrinter() is asked by background waits too
+    mutable QMutex printerMutex_; // PMPrinter() is asked by background waits too
     std::shared_ptr<Printer> printer_;
     std::shared_ptr<ppd_file_t> file_;
     const Qt::HANDLE mainThread_; // workers may ask after the application object has gone

@@ -153,10 +153,13 @@ void RZBackprintPDEHalvern::setUpLine(int number, int toggleTag, BackPreview* pr
         count->setMinimumWidth(count->fontMetrics().horizontalAdvance(remaining(format, 0)));
     show();
     const auto self = std::static_pointer_cast<RZBackprintPDEHalvern>(shared_from_this());
-    new LineWatcher(field, [weak = std::weak_ptr(self), field] {
-        if (const auto panel = weak.lock())
-            panel->controlTextDidChange(field);
-    });
+    const std::weak_ptr<RZBackprintPDEHalvern> weak = self;
+    new LineWatcher(
+        field, [weak] { return weak.lock(); },
+        [weak, field] {
+            if (const auto panel = weak.lock())
+                panel->controlTextDidChange(field);
+        });
 }
 
 void RZBackprintPDEHalvern::willShow()

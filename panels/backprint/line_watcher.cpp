@@ -18,8 +18,8 @@ bool isPassing(Qt::FocusReason reason)
 
 } // namespace
 
-LineWatcher::LineWatcher(QLineEdit* field, std::function<void()> catchUp)
-    : QObject(field), field_(field), catchUp_(std::move(catchUp))
+LineWatcher::LineWatcher(QLineEdit* field, KeepPanel keepPanel, std::function<void()> catchUp)
+    : QObject(field), field_(field), keepPanel_(std::move(keepPanel)), catchUp_(std::move(catchUp))
 {
     field->installEventFilter(this);
     connect(field, &QLineEdit::selectionChanged, this, [this] { selectedAutomatically_ = false; });
@@ -80,8 +80,11 @@ void LineWatcher::fieldMoved()
 void LineWatcher::endComposition()
 {
     composing_ = false;
-    if (postponed_)
-        QMetaObject::invokeMethod(this, &LineWatcher::catchUp, Qt::QueuedConnection);
+    if (!postponed_)
+        return;
+    // What is queued keeps its panel until it has run, and the panel keeps the field.
+    QMetaObject::invokeMethod(
+        this, [this, panel = keepPanel_()] { catchUp(); }, Qt::QueuedConnection);
 }
 
 void LineWatcher::catchUp()

@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 class QLineEdit;
@@ -15,9 +16,12 @@ class LineWatcher : public QObject {
     Q_OBJECT
 
 public:
+    /// Answers a reference that keeps the field's panel, null if that has gone.
+    using KeepPanel = std::function<std::shared_ptr<void>()>;
+
     /// `catchUp` does what was postponed; it is called from the event loop after a composition has ended,
     /// however it did.
-    LineWatcher(QLineEdit* field, std::function<void()> catchUp);
+    LineWatcher(QLineEdit* field, KeepPanel keepPanel, std::function<void()> catchUp);
 
     /// The field's watcher, null if it has none.
     static LineWatcher* of(QLineEdit* field);
@@ -49,6 +53,7 @@ private:
     void focusLeaves();
 
     QLineEdit* field_;
+    KeepPanel keepPanel_;
     std::function<void()> catchUp_;
     bool composing_ = false;
     bool inInputMethodEvent_ = false;

@@ -34,7 +34,10 @@ std::optional<QString> stringWithUTSFormat(const QDateTime& date, const QString&
         zone->setRawOffset(date.toLocalTime().offsetFromUtc() * 1000);
     format.adoptTimeZone(zone);
     icu::UnicodeString text;
-    format.format(UDate(date.toMSecsSinceEpoch()), text);
+    // Only this form says that a letter of the pattern means nothing; it has then written what came before.
+    format.format(UDate(date.toMSecsSinceEpoch()), text, nullptr, status);
+    if (U_FAILURE(status))
+        return std::nullopt;
     return QString::fromUtf16(text.getBuffer(), text.length());
 }
 

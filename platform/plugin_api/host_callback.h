@@ -18,7 +18,7 @@ class Printer;
 /// The object through which a panel talks to the print dialog. The dialog makes one for all panels of a
 /// printer.
 ///
-/// Main thread only, except pmPrinter(), which background waits call too. The panels share ownership of it,
+/// Main thread only, except PMPrinter(), which background waits call too. The panels share ownership of it,
 /// so it may outlive the dialog: it then answers null pointers and refusals.
 class HostCallback {
 public:
@@ -44,7 +44,7 @@ public:
     virtual std::shared_ptr<PageFormat> pageFormat() = 0;
 
     /// PMPrinter: the selected printer, null if none. Any thread.
-    virtual std::shared_ptr<Printer> pmPrinter() = 0;
+    virtual std::shared_ptr<Printer> PMPrinter() = 0;
 
     /// printSession: legacy hosts only; others answer null.
     virtual std::shared_ptr<PrintSession> printSession() { return nullptr; }

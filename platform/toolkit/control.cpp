@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStandardItemModel>
 
 #include <memory>
@@ -28,14 +29,37 @@ QStandardItem* itemAt(const QComboBox* popup, int index)
     return model ? model->item(index) : nullptr;
 }
 
+// Where the caret goes when `before` stood in front of it and the field now holds `text`. In a number it
+// stays behind the digits that were typed, whatever zeros the rewriting has put before or behind them.
+int caretIn(const QString& text, QString before)
+{
+    const auto column = int(qMin(before.size(), text.size()));
+    bool isNumber = false;
+    text.toDouble(&isNumber);
+    if (!isNumber)
+        return column;
+    const qsizetype point = before.indexOf(QLatin1Char('.'));
+    const qsizetype textPoint = text.indexOf(QLatin1Char('.'));
+    const qsizetype end = textPoint < 0 ? text.size() : textPoint;
+    if (point >= 0)
+        return int(qMin(end + before.size() - point, text.size()));
+    static const QRegularExpression insignificant(QStringLiteral("^[^1-9]+"));
+    const qsizetype digits = before.remove(insignificant).size();
+    // Behind a zero that stands where nothing was typed yet.
+    if (digits == 0 && !text.startsWith(QLatin1Char('0')))
+        return column;
+    const qsizetype start = text.startsWith(QLatin1Char('-')) ? 1 : 0;
+    return int(qMin(start + qMax<qsizetype>(digits, 1), end));
+}
+
 // The text stays put under the caret when a field is rewritten while somebody types in it.
 void rewriteField(QLineEdit* field, const QString& text)
 {
     if (field->text() == text)
         return;
-    const int cursor = field->cursorPosition();
+    const QString before = field->text().left(field->cursorPosition());
     field->setText(text);
-    field->setCursorPosition(qMin<int>(cursor, int(text.size())));
+    field->setCursorPosition(caretIn(text, before));
 }
 
 } // namespace

@@ -180,7 +180,7 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     EXPECT_TRUE(session.changeOption(q("PaperTone"), q("Warm")));
     panels.calls.clear();
     const std::shared_ptr<HostCallback> oldHost = panels.first.lock()->host;
-    ASSERT_TRUE(oldHost->ppdFile() && oldHost->pmPrinter()->id() == q("Tessarin"));
+    ASSERT_TRUE(oldHost->ppdFile() && oldHost->PMPrinter()->id() == q("Tessarin"));
     ppd_file_t* oldPpd = oldHost->ppdFile();
     session.selectPrinter(q("Other"));
     EXPECT_EQ(ppd::defaultChoice(oldPpd, q("PaperFeed")), q("Sheet"))
@@ -188,13 +188,13 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     EXPECT_EQ(panels.calls.value(0), q("first: shouldHide"));
     EXPECT_TRUE(panels.calls.contains(q("second: shouldHide"))) << "its work in the background ends too";
     EXPECT_TRUE(panels.calls.contains(q("first: gone")) && panels.calls.contains(q("second: gone")));
-    EXPECT_FALSE(oldHost->ppdFile() || oldHost->pmPrinter() || oldHost->printSettings() ||
+    EXPECT_FALSE(oldHost->ppdFile() || oldHost->PMPrinter() || oldHost->printSettings() ||
                  oldHost->pageFormat());
     EXPECT_FALSE(oldHost->willChangePPDOptionKeyValue_ppdChoice(q("PaperTone"), q("Warm")));
     ASSERT_TRUE(waitUntil([&] { return session.canPrint(); }));
-    EXPECT_EQ(panels.first.lock()->host->pmPrinter()->id(), q("Other"));
+    EXPECT_EQ(panels.first.lock()->host->PMPrinter()->id(), q("Other"));
     EXPECT_TRUE(panels.first.lock()->changes.isEmpty()) << "news of the old printer's options";
-    EXPECT_TRUE(panels.first.lock()->host->pmPrinter()->copyDeviceURI());
+    EXPECT_TRUE(panels.first.lock()->host->PMPrinter()->copyDeviceURI());
     panels.calls.clear();
     dialog->close();
     EXPECT_EQ(panels.calls.count(q("first: closing")), 1);

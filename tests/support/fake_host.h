@@ -38,7 +38,7 @@ public:
 
     std::shared_ptr<PageFormat> pageFormat() override { return format; }
 
-    std::shared_ptr<Printer> pmPrinter() override { return printer; }
+    std::shared_ptr<Printer> PMPrinter() override { return printer; }
 
     bool responds = true;
     QSet<QString> refusedKeys;
