@@ -6,6 +6,7 @@
 
 #include "platform/toolkit/control.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFileInfo>
 
@@ -70,6 +71,8 @@ TEST(ChosenPaper, IsPrintedOnIfThePrinterOffersIt)
         }
         EXPECT_TRUE(control::isItemEnabled(feeds, 0) && control::isItemEnabled(feeds, 1));
     }
+    // What the panels still read of the printer keeps them.
+    EXPECT_TRUE(waitUntil([] { return QApplication::topLevelWidgets().isEmpty(); }));
 }
 
 } // namespace halvern

@@ -115,6 +115,19 @@ TEST_F(SharpnessPanelTest, EachKeystrokeIsOneChoiceAndTheCaretStays)
     EXPECT_EQ(beeps.count, 0);
 }
 
+TEST_F(SharpnessPanelTest, DigitsStandWhereTheyAreTyped)
+{
+    for (const auto& [typed, shown] :
+         {std::pair{".5", "0.50"}, {".25", "0.25"}, {"1.07", "1.07"}, {"3", "3.00"}}) {
+        typeInto(field(2), typed);
+        EXPECT_EQ(field(2)->text(), QLatin1StringView(shown)) << typed;
+    }
+    QTest::keyClick(field(2), Qt::Key_Home);
+    QTest::keyClick(field(2), Qt::Key_Delete);
+    QTest::keyClicks(field(2), QStringLiteral("1"));
+    EXPECT_EQ(field(2)->text(), QStringLiteral("1.00"));
+}
+
 TEST_F(SharpnessPanelTest, EndingTheEditNormalisesOnceAndASecondEndChangesNothing)
 {
     typeInto(field(2), "3");
