@@ -90,6 +90,12 @@ void writeLine(QTextStream& out, const QString& text)
     out << terminalText(text) << Qt::endl;
 }
 
+void writeLine(std::FILE* out, const QString& text)
+{
+    QTextStream stream(out);
+    writeLine(stream, text);
+}
+
 void writeLines(QTextStream& out, const QString& text)
 {
     const QStringList lines = text.split(QLatin1Char('\n'));

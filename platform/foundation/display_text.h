@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cstdio>
+
 class QTextStream;
 
 namespace halvern {
@@ -26,6 +28,7 @@ QString terminalText(const QString& text);
 
 /// Writes terminalText() and a line feed, and flushes.
 void writeLine(QTextStream& out, const QString& text);
+void writeLine(std::FILE* out, const QString& text);
 
 /// The same for a text of several lines; each of them is cleaned.
 void writeLines(QTextStream& out, const QString& text);

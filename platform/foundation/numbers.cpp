@@ -1,6 +1,8 @@
 #include "platform/foundation/numbers.h"
 
 #include <QLocale>
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -106,6 +108,14 @@ int truncatedToInt(double number)
     constexpr double low = std::numeric_limits<int>::min();
     constexpr double high = std::numeric_limits<int>::max();
     return int(std::trunc(qBound(low, number, high)));
+}
+
+QString inUsersNumbers(const QString& text)
+{
+    static const QRegularExpression number(
+        QStringLiteral("(?<![\\d.,A-WYZa-wyz])(\\d+)\\.(\\d+)(?!\\.?\\d)"));
+    const QString point = QLocale().decimalPoint();
+    return QString(text).replace(number, QStringLiteral("\\1") + point + QStringLiteral("\\2"));
 }
 
 } // namespace halvern

@@ -21,4 +21,8 @@ QString shortestDouble(double number);
 /// A number cut to an int, toward zero, held to the range of int; not-a-number gives 0.
 int truncatedToInt(double number);
 
+/// The text with its decimal numbers, as in "152.4 mm", written as the user's country does; what looks like a
+/// version or an address stays. Any thread.
+QString inUsersNumbers(const QString& text);
+
 } // namespace halvern

@@ -3,6 +3,7 @@
 #include "platform/foundation/numbers.h"
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/stepper.h"
 
 #include <QAbstractButton>
@@ -58,7 +59,7 @@ void rewriteField(QLineEdit* field, const QString& text)
     if (field->text() == text)
         return;
     const QString before = field->text().left(field->cursorPosition());
-    field->setText(text);
+    field->setText(text); // plain: a field holds a value
     field->setCursorPosition(caretIn(text, before));
 }
 
@@ -164,7 +165,7 @@ bool setStringValue(QWidget* widget, const QString& text)
     if (auto* field = qobject_cast<QLineEdit*>(widget))
         rewriteField(field, text);
     else if (auto* label = qobject_cast<QLabel*>(widget))
-        label->setText(text);
+        setPlainText(label, text);
     else if (auto* slider = qobject_cast<DecimalSlider*>(widget))
         slider->setRealValue(leadingDouble(text));
     else if (auto* stepper = qobject_cast<Stepper*>(widget))
@@ -209,9 +210,9 @@ std::optional<QString> title(const QWidget* widget)
 void setTitle(QWidget* widget, const QString& title)
 {
     if (auto* button = qobject_cast<QAbstractButton*>(widget))
-        button->setText(title);
+        button->setText(displayText(title)); // plain: buttons know no markup
     else if (auto* box = qobject_cast<QGroupBox*>(widget))
-        box->setTitle(title);
+        box->setTitle(displayText(title));
 }
 
 int indexOfItemWithRepresentedObject(const QComboBox* popup, const QVariant& value)
@@ -263,7 +264,7 @@ void setItems(QComboBox* popup, const QList<MenuItem>& items)
     QList<QStandardItem*> rows;
     rows.reserve(items.size());
     for (const MenuItem& item : items) {
-        auto row = std::make_unique<QStandardItem>(item.title);
+        auto row = std::make_unique<QStandardItem>(itemText(item.title));
         row->setData(item.representedObject, Qt::UserRole);
         row->setData(item.tag, kItemTagRole);
         rows.append(row.release());

@@ -53,6 +53,14 @@ void DecimalSlider::setRealValue(double value)
     QSlider::setValue(positionOf(realValue_));
 }
 
+void DecimalSlider::moveByUser(double value)
+{
+    const double before = realValue_;
+    setRealValue(value);
+    if (realValue_ != before)
+        Q_EMIT userMoved();
+}
+
 void DecimalSlider::setNeutralValue(double value)
 {
     neutralValue_ = value;

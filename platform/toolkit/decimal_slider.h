@@ -39,6 +39,9 @@ public:
     void setRealValue(double value);
     void setNeutralValue(double value);
 
+    /// Sets the value for a user who has another way than the mouse or the keyboard.
+    void moveByUser(double value);
+
 Q_SIGNALS:
     /// The user moved the slider with the mouse, the wheel or the keyboard.
     void userMoved();

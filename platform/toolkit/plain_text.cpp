@@ -1,5 +1,6 @@
 #include "platform/toolkit/plain_text.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 
 namespace halvern {
@@ -37,6 +38,11 @@ void setPlainDescription(QWidget* widget, const QString& text)
     widget->setAccessibleDescription(displayText(text));
 }
 
+QString itemText(const QString& text)
+{
+    return QGuiApplication::isRightToLeft() ? isolated(text) : displayText(text);
+}
+
 QString captionText(const QString& text, int longest)
 {
     return displayText(text, longest).replace(QLatin1Char('&'), QLatin1StringView("&&"));
@@ -44,7 +50,7 @@ QString captionText(const QString& text, int longest)
 
 QString markupText(const QString& text)
 {
-    return displayText(text).toHtmlEscaped();
+    return itemText(text).toHtmlEscaped();
 }
 
 void setMarkup(QLabel* label, const QString& markup)

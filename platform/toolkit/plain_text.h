@@ -23,6 +23,10 @@ void setPlainTitle(QWidget* window, const QString& text);
 void setPlainName(QWidget* widget, const QString& text);
 void setPlainDescription(QWidget* widget, const QString& text);
 
+/// An item's text, or another that stands alone: in a window that is written from right to left it keeps its
+/// own direction.
+QString itemText(const QString& text);
+
 /// A text for a button, a box or a label with a buddy, where "&" would make a shortcut.
 QString captionText(const QString& text, int longest = kLongestText);
 

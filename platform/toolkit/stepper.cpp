@@ -34,6 +34,8 @@ Stepper::Stepper(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
+    up_->setAccessibleName(tr("Increase"));
+    down_->setAccessibleName(tr("Decrease"));
     column->addWidget(up_);
     column->addWidget(down_);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -83,8 +85,13 @@ void Stepper::setRealValue(double value)
 
 void Stepper::step(int direction)
 {
+    stepByUser(std::round((realValue_ + direction * increment_) * 1e6) / 1e6);
+}
+
+void Stepper::stepByUser(double value)
+{
     const double before = realValue_;
-    setRealValue(std::round((before + direction * increment_) * 1e6) / 1e6);
+    setRealValue(value);
     if (realValue_ != before)
         Q_EMIT userStepped();
 }

@@ -33,6 +33,9 @@ public:
     /// Sets the value, held to the range. Does not count as a user's action. Not-a-number is ignored.
     void setRealValue(double value);
 
+    /// Sets the value for a user who has another way than the mouse or the keyboard.
+    void stepByUser(double value);
+
     QSize sizeHint() const override;
 
 Q_SIGNALS:

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace halvern {
+
+/// Has Qt tell assistive technology what our own controls are: a DecimalSlider's and a Stepper's real value,
+/// range and step, a Matrix and a ChoiceGroup as groups. Once, on the main thread, before the first window.
+void installAccessibleControls();
+
+} // namespace halvern

@@ -1,0 +1,7 @@
+#include "platform/toolkit/choice_group.h"
+
+namespace halvern {
+
+ChoiceGroup::ChoiceGroup(QWidget* parent) : QWidget(parent) {}
+
+} // namespace halvern
