@@ -44,6 +44,7 @@ int drive(const SessionRequest& request, const QStringList& steps, const QString
     PluginLoader panels;
     DialogSession session(request, panels);
     PrintDialog dialog(session);
+    dialog.resize(1240, 780); // as on a usual screen, which the offscreen one is not
     dialog.show();
     session.start();
     DemoSteps demo(dialog, session, screens, out);

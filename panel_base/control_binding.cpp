@@ -4,6 +4,7 @@
 #include "platform/printing/ppd.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/user_action.h"
 #include "platform/toolkit/view_search.h"
 
@@ -156,7 +157,7 @@ void KSTRVLBasePDEHalvern::fillMenu(QComboBox* popup, const QString& key)
         QString title = localized(choice.keyword);
         if (title == choice.keyword || title.isEmpty())
             title = localized(choice.text);
-        popup->addItem(title, choice.keyword);
+        popup->addItem(itemText(title), choice.keyword);
     }
     const auto byDefault = ppd::defaultChoice(ppd, key);
     popup->setCurrentIndex(
@@ -204,7 +205,7 @@ void KSTRVLBasePDEHalvern::controlTextDidEndEditing(QLineEdit* field)
 void KSTRVLBasePDEHalvern::setToolTip_fromSender(const QString& toolTip, QWidget* sender)
 {
     if (sender)
-        sender->setToolTip(toolTip);
+        setPlainToolTip(sender, toolTip);
 }
 
 } // namespace halvern

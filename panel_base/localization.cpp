@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/view_search.h"
 
 #include <QAbstractButton>
@@ -80,12 +81,11 @@ bool KSTRVLBasePDEHalvern::localizeStringsInView_andSubviews_resizeTofit(QWidget
             tabs->setTabText(i, localized(tabs->tabText(i)));
     }
     changed |= localizeOwnText(view);
-    replaceByLocalized(view->toolTip(), [view](const QString& text) { view->setToolTip(text); });
+    replaceByLocalized(view->toolTip(), [view](const QString& text) { setPlainToolTip(view, text); });
     // What a screen reader says is as much a text of the view as what it shows.
-    replaceByLocalized(view->accessibleName(),
-                       [view](const QString& text) { view->setAccessibleName(text); });
+    replaceByLocalized(view->accessibleName(), [view](const QString& text) { setPlainName(view, text); });
     replaceByLocalized(view->accessibleDescription(),
-                       [view](const QString& text) { view->setAccessibleDescription(text); });
+                       [view](const QString& text) { setPlainDescription(view, text); });
     if (resize && changed && answersSizeToFit(view))
         view->adjustSize();
     return changed;

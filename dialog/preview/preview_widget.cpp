@@ -2,6 +2,7 @@
 
 #include "dialog/page/page_renderer.h"
 #include "dialog/preview/sharp_photo_reader.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QLocale>
 #include <QMouseEvent>
@@ -59,7 +60,8 @@ QString pageSizeText(const QSizeF& points)
     const QString imperial =
         PreviewWidget::tr("%1 × %2 in").arg(side(points.width() / 72.0, 1), side(points.height() / 72.0, 1));
     const bool metricFirst = locale.measurementSystem() == QLocale::MetricSystem;
-    return (metricFirst ? metric : imperial) + QStringLiteral("  ·  ") + (metricFirst ? imperial : metric);
+    return itemText(metricFirst ? metric : imperial) + QStringLiteral("  ·  ") +
+           itemText(metricFirst ? imperial : metric);
 }
 
 PreviewWidget::PreviewWidget(QWidget* parent)
@@ -109,7 +111,7 @@ void PreviewWidget::showPage(const PreviewPage& page)
 
 void PreviewWidget::showText(const QString& text)
 {
-    text_ = text;
+    text_ = displayText(text);
     hasPage_ = false;
     setZoomed(false);
 }
@@ -119,7 +121,7 @@ void PreviewWidget::showState()
     const bool canMove = hasPage_ && page_.layout.isCut && !isZoomed_;
     setCursor(canMove || isZoomed_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
     setToolTip(canMove ? tr("Drag the photo to choose what is cut away") : QString());
-    setAccessibleDescription(hasPage_ ? captions().join(QStringLiteral(". ")) : text_);
+    setPlainDescription(this, hasPage_ ? captions().join(QStringLiteral(". ")) : text_);
     zoomButton_->setVisible(hasPage_);
     update();
 }

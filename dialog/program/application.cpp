@@ -2,16 +2,18 @@
 
 #include "dialog/job/print_run.h"
 #include "dialog/program/exit_status.h"
+#include "platform/foundation/display_text.h"
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/toolkit/accessible_controls.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QEventLoop>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QTextStream>
 #include <QTimer>
 
+#include <atomic>
 #include <cstring>
 #include <utility>
 
@@ -33,13 +35,16 @@ constexpr int kNoticeMilliseconds = 3000;
 constexpr int kLongestTidying = 3000; // milliseconds
 
 QtMessageHandler usualHandler = nullptr;
+std::atomic<bool> traceGoesToSystemLog = false;
 
-void toSystemLog(QtMsgType type, const QMessageLogContext& context, const QString& text)
+// Lines name queues, options and texts that others chose.
+void takeLogLine(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    if (context.category && std::strcmp(context.category, "halvern.pde") == 0)
-        syslog(LOG_INFO, "%s", qUtf8Printable(text));
+    const QString line = terminalText(text);
+    if (traceGoesToSystemLog && context.category && std::strcmp(context.category, "halvern.pde") == 0)
+        syslog(LOG_INFO, "%s", qUtf8Printable(line));
     else
-        usualHandler(type, context, text);
+        usualHandler(type, context, line);
 }
 
 // Panels' trace lines go to the terminal if there is one, else to the journal, so that they do not mix with
@@ -48,6 +53,7 @@ void toSystemLog(QtMsgType type, const QMessageLogContext& context, const QStrin
 void routeLog()
 {
     qSetMessagePattern(QStringLiteral("%{if-category}%{category}: %{endif}%{message}"));
+    usualHandler = qInstallMessageHandler(takeLogLine);
     if (!isatty(STDERR_FILENO))
         sendTraceToSystemLog();
 }
@@ -73,12 +79,11 @@ QString displayComplaint;
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtFatalMsg) {
-        QTextStream(stderr)
-            << earlyWords(QT_TRANSLATE_NOOP("CommandLine",
-                                            "The display cannot be used: %1. Print with --no-dialog, or set "
-                                            "DISPLAY to one that works."))
-                   .arg(displayComplaint)
-            << Qt::endl;
+        writeLine(stderr, earlyWords(QT_TRANSLATE_NOOP(
+                                         "CommandLine",
+                                         "The display cannot be used: %1. Print with --no-dialog, or set "
+                                         "DISPLAY to one that works."))
+                              .arg(displayComplaint));
         _exit(kExitFailed);
     }
     const bool isAboutDisplay = context.category && std::strncmp(context.category, "qt.qpa", 6) == 0;
@@ -92,10 +97,10 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
 
 void sendTraceToSystemLog()
 {
-    if (usualHandler || qEnvironmentVariableIntValue("QT_LOGGING_TO_CONSOLE") > 0)
+    if (traceGoesToSystemLog || qEnvironmentVariableIntValue("QT_LOGGING_TO_CONSOLE") > 0)
         return;
     openlog("halvern-print", LOG_PID, LOG_USER);
-    usualHandler = qInstallMessageHandler(toSystemLog);
+    traceGoesToSystemLog = true;
 }
 
 void prepareProcess(bool showsWindow)
@@ -126,6 +131,7 @@ QList<std::shared_ptr<QTranslator>> prepareApplication()
     if (handlerBeforeApplication)
         qInstallMessageHandler(std::exchange(handlerBeforeApplication, nullptr));
     initTranslations();
+    installAccessibleControls();
     QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());
@@ -167,10 +173,10 @@ void tellAfterwards(const QString& sentence)
     const QString title = QCoreApplication::translate("CommandLine", "Printing");
     // The body is markup.
     call.setArguments({QCoreApplication::applicationName(), 0U, QStringLiteral("printer"), title,
-                       sentence.toHtmlEscaped(), QStringList(), QVariantMap(), -1});
+                       displayText(sentence).toHtmlEscaped(), QStringList(), QVariantMap(), -1});
     const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, kNoticeMilliseconds);
     if (answer.type() != QDBusMessage::ReplyMessage)
-        QTextStream(stderr) << sentence << Qt::endl;
+        writeLine(stderr, sentence);
 }
 
 void finishQueuedWork()

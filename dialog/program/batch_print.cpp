@@ -33,10 +33,10 @@ BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream
     connect(&session_, &DialogSession::printerFailed, this, &BatchPrint::takePrinterFailure);
     connect(&session_, &DialogSession::refused, this, [this](const QString& sentence) { fail(sentence); });
     connect(&session_, &DialogSession::notice, this,
-            [this](const QString& sentence) { err_ << sentence << Qt::endl; });
+            [this](const QString& sentence) { writeLine(err_, sentence); });
     connect(&session_, &DialogSession::otherOptionsChanged, this, [this](const QList<SideChange>& changes) {
         for (const SideChange& change : changes)
-            err_ << tr("Changed to fit: %1=%2").arg(change.key, change.choice) << Qt::endl;
+            writeLine(err_, tr("Changed to fit: %1=%2").arg(change.key, change.choice));
     });
 }
 
@@ -86,8 +86,7 @@ void BatchPrint::proceed()
     }
     const OptionValues options = session_.collectOptions();
     for (const OptionValue& option : options)
-        out_ << option.key << '=' << option.value << '\n';
-    out_.flush();
+        writeLine(out_, option.key + QLatin1Char('=') + option.value);
     end(kExitPrinted);
 }
 
@@ -103,20 +102,20 @@ void BatchPrint::print()
 void BatchPrint::takeStatus(const JobStatus& status, const QString& sentence)
 {
     if (sentence != lastSentence_)
-        err_ << sentence << Qt::endl;
+        writeLine(err_, sentence);
     lastSentence_ = sentence;
     // Nobody is here to release or resume it.
     if (!isResting(status.stage))
         return;
     const QString advice = jobAdvice(status, session_.printerName(), run_->jobId());
     if (!advice.isEmpty())
-        err_ << advice << Qt::endl;
+        writeLine(err_, advice);
     end(kExitUnfinished);
 }
 
 void BatchPrint::takeOutcome(const PrintOutcome& outcome)
 {
-    (outcome.printed ? out_ : err_) << outcome.sentence << Qt::endl;
+    writeLine(outcome.printed ? out_ : err_, outcome.sentence);
     if (outcome.printed)
         end(kExitPrinted);
     else if (outcome.stage == JobStage::cancelled)
@@ -128,9 +127,8 @@ void BatchPrint::takeOutcome(const PrintOutcome& outcome)
 void BatchPrint::leave()
 {
     if (run_ && run_->jobId() > 0) {
-        err_ << tr("Job %1 stays on the queue; \"cancel %2-%1\" takes it away.")
-                    .arg(QString::number(run_->jobId()), session_.printerName())
-             << Qt::endl;
+        writeLine(err_, tr("Job %1 stays on the queue; \"cancel %2-%1\" takes it away.")
+                            .arg(QString::number(run_->jobId()), session_.printerName()));
         end(kExitUnfinished);
         return;
     }
@@ -148,7 +146,7 @@ void BatchPrint::fail(const QString& sentence, int status)
     if (hasFailed_ || hasStarted_)
         return;
     hasFailed_ = true;
-    err_ << sentence << Qt::endl;
+    writeLine(err_, sentence);
     end(status);
 }
 

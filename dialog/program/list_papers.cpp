@@ -10,6 +10,7 @@
 #include "dialog/session/plugin_loader.h"
 #include "panels/features/inquiry/printer_inquiry.h"
 #include "platform/foundation/bundle.h"
+#include "platform/foundation/display_text.h"
 
 #include <QCoreApplication>
 
@@ -52,7 +53,7 @@ private:
     bool fail(const QString& sentence)
     {
         if (!quitWasSignalled())
-            err_ << sentence << Qt::endl;
+            writeLine(err_, sentence);
         return false;
     }
 
@@ -92,7 +93,7 @@ private:
 
     bool ask()
     {
-        err_ << tr("Asking \"%1\" ...").arg(queue_) << Qt::endl;
+        writeLine(err_, tr("Asking \"%1\" ...").arg(queue_));
         const InquiryResult result = askPrinterForReport(queue_, [this](int job) {
             const JobStatus status = askJobStatus(queue_, job, cancelled_);
             // It would wait for ever.
@@ -110,9 +111,9 @@ private:
         case End::abandoned:
             return fail(resting_);
         case End::adrift:
-            err_ << tr("The print server does not answer; job %1 may still be on the queue (cancel %2-%1).")
-                        .arg(QString::number(result.jobId), queue_)
-                 << Qt::endl;
+            writeLine(err_,
+                      tr("The print server does not answer; job %1 may still be on the queue (cancel %2-%1).")
+                          .arg(QString::number(result.jobId), queue_));
             return false;
         case End::failed:
             break;
@@ -125,7 +126,7 @@ private:
         if (reasons.isEmpty() || reasons == toldReasons_)
             return;
         toldReasons_ = reasons;
-        err_ << tr("Waiting for \"%1\"%2 ...").arg(queue_, reasons) << Qt::endl;
+        writeLine(err_, tr("Waiting for \"%1\"%2 ...").arg(queue_, reasons));
     }
 
     QString whyFailed(int job)
@@ -184,17 +185,16 @@ private:
     {
         const std::shared_ptr<Bundle> bundle = bundles_.resources(bundle_);
         const auto words = [&](const QString& text) { return bundle ? bundle->localizedString(text) : text; };
-        out_ << paperHeading(queue_, loaded, QDateTime::currentDateTimeUtc()) << Qt::endl;
+        writeLine(out_, paperHeading(queue_, loaded, QDateTime::currentDateTimeUtc()));
         out_ << paperTable(loaded, file_.get(), words) << Qt::flush;
         if (!loaded.corrupt.isEmpty())
             return fail(tr("The list of papers that \"%1\" reported cannot be read (%2).")
                             .arg(queue_, loaded.corrupt) +
                         hint());
         if (loaded.papers.isEmpty())
-            out_ << (loaded.lastUpdate ? tr("No papers are loaded.")
-                                       : tr("The printer has not said yet what is loaded.") +
-                                             (request_.refresh ? QString() : hint()))
-                 << Qt::endl;
+            writeLine(out_, loaded.lastUpdate ? tr("No papers are loaded.")
+                                              : tr("The printer has not said yet what is loaded.") +
+                                                    (request_.refresh ? QString() : hint()));
         return true;
     }
 

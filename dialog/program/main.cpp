@@ -3,6 +3,7 @@
 #include "dialog/program/quit_signals.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/print_dialog.h"
+#include "platform/foundation/display_text.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -29,7 +30,7 @@ int statusOf(const PrintDialog& dialog)
 int runDialog(const CommandLine& line)
 {
     if (const QString problem = displayProblem(); !problem.isEmpty()) {
-        QTextStream(stderr) << problem << Qt::endl;
+        writeLine(stderr, problem);
         return kExitFailed;
     }
     // The job may still be on its way when the window has gone.
@@ -53,7 +54,7 @@ int runDialog(const CommandLine& line)
     if (wasClosedEarly && status == kExitFailed)
         tellAfterwards(dialog.outcome().sentence);
     if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {
-        QTextStream(stderr) << problem << Qt::endl;
+        writeLine(stderr, problem);
         return kExitFailed;
     }
     return status;
@@ -99,9 +100,8 @@ int statusWithOutput(int status)
 {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return status;
-    QTextStream(stderr) << QCoreApplication::translate("CommandLine", "The output could not be written: %1.")
-                               .arg(QString::fromLocal8Bit(std::strerror(errno)))
-                        << Qt::endl;
+    writeLine(stderr, QCoreApplication::translate("CommandLine", "The output could not be written: %1.")
+                          .arg(QString::fromLocal8Bit(std::strerror(errno))));
     return kExitFailed;
 }
 
@@ -117,11 +117,12 @@ int main(int argc, char** argv)
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
     const ParsedCommandLine parsed = parseCommandLine(QCoreApplication::arguments());
     if (!parsed.commandLine) {
-        QTextStream(parsed.status == kExitPrinted ? stdout : stderr) << parsed.text << Qt::endl;
+        QTextStream out(parsed.status == kExitPrinted ? stdout : stderr);
+        writeLines(out, parsed.text);
         return parsed.status;
     }
     for (const QString& remark : parsed.remarks)
-        QTextStream(stderr) << remark << Qt::endl;
+        writeLine(stderr, remark);
     const int status = statusWithOutput(run(*parsed.commandLine));
     finishQueuedWork();
     return status;

@@ -1,5 +1,6 @@
 #include "dialog/program/paper_table.h"
 
+#include "platform/foundation/display_text.h"
 #include "platform/printing/ppd.h"
 
 #include <QCoreApplication>
@@ -69,16 +70,6 @@ QString resolutionsText(QList<int> dotsPerInch)
     return texts.join(QStringLiteral(", ")) + QStringLiteral(" dpi");
 }
 
-// What a terminal would act on has no place in a name.
-QString printable(QString text)
-{
-    for (QChar& character : text) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = QChar::ReplacementCharacter;
-    }
-    return text;
-}
-
 // Columns of a terminal: Chinese and Japanese characters take two, combining ones none.
 qsizetype columnsOf(const QString& text)
 {
@@ -141,12 +132,12 @@ QString paperTable(const LoadedPapers& loaded, ppd_file_t* file,
             QStringList toneTexts;
             for (const int place : paper.tones) {
                 if (const QString text = tones.ofPlace(place); !text.isEmpty())
-                    toneTexts.append(text);
+                    toneTexts.append(terminalText(text));
             }
-            rows.append(
-                {printable(rolls ? paper.width : paper.sheetName),
-                 paper.surface.isEmpty() ? QStringLiteral("-") : printable(surfaces.ofKeyword(paper.surface)),
-                 resolutionsText(paper.dotsPerInch), toneTexts.join(QStringLiteral(", "))});
+            rows.append({terminalText(rolls ? paper.width : paper.sheetName),
+                         paper.surface.isEmpty() ? QStringLiteral("-")
+                                                 : terminalText(surfaces.ofKeyword(paper.surface)),
+                         resolutionsText(paper.dotsPerInch), toneTexts.join(QStringLiteral(", "))});
         }
     }
     return aligned(rows);

@@ -1,6 +1,7 @@
 // The questions that the printer list's workers ask the server.
 #include "dialog/server/printer_list.h"
 
+#include "platform/foundation/string_additions.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <algorithm>
@@ -56,7 +57,7 @@ std::vector<PrinterInfo> readPrinters(ipp_t* answer)
     }
     finish(printer, printers);
     std::ranges::sort(printers, [](const PrinterInfo& a, const PrinterInfo& b) {
-        return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
+        return KSTRVL_NSStringAdditions::numericalCaseInsensitiveCompare(a.name, b.name) < 0;
     });
     return printers;
 }

@@ -55,7 +55,7 @@ QVariant ChoiceList::data(const QModelIndex& index, int role) const
     const ChoiceItem& choice = choices_[index.row()];
     switch (role) {
     case Qt::DisplayRole:
-        return displayText(choice.text);
+        return itemText(choice.text);
     case Qt::UserRole:
         return choice.keyword;
     case Qt::ToolTipRole:

@@ -1,6 +1,5 @@
 #include "dialog/window/options_page.h"
 
-#include "dialog/preview/preview_widget.h"
 #include "dialog/window/choice_list.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -33,19 +32,6 @@ QLabel* heading(const QString& text, QWidget* parent)
     return label;
 }
 
-QString scalingText(Scaling scaling)
-{
-    switch (scaling) {
-    case Scaling::fit:
-        return OptionsPage::tr("Fit");
-    case Scaling::fill:
-        return OptionsPage::tr("Fill");
-    case Scaling::actualSize:
-        break;
-    }
-    return OptionsPage::tr("Actual size");
-}
-
 } // namespace
 
 QStringList optionsWithoutPanel(DialogSession& session)
@@ -61,28 +47,6 @@ QStringList optionsWithoutPanel(DialogSession& session)
         return owned.contains(key) || (!model->isInstallable(key) && model->choiceCount(key) < 2);
     });
     return keys;
-}
-
-SummaryLines ownSummary(DialogSession& session)
-{
-    SummaryLines lines{{OptionsPage::tr("Printer"), session.printerName()}};
-    const PpdModel* model = session.model();
-    if (!model)
-        return lines;
-    const QString size = QStringLiteral("PageSize");
-    lines.append({OptionsPage::tr("Paper size"), model->choiceText(size, model->value(size))});
-    lines.append({OptionsPage::tr("Photo size"), scalingText(session.page().scaling)});
-    if (!session.photos().empty()) {
-        const PageLayout layout = session.layoutFor(session.photos().front());
-        lines.append({OptionsPage::tr("Printed area"), pageSizeText(layout.visible().size())});
-        lines.append({OptionsPage::tr("Pages"), QString::number(session.photos().size())});
-    }
-    lines.append({OptionsPage::tr("Copies"), QString::number(session.page().copies)});
-    for (const QString& key : optionsWithoutPanel(session)) {
-        if (!model->isInstallable(key))
-            lines.append({model->optionText(key), model->choiceText(key, model->value(key))});
-    }
-    return lines;
 }
 
 OptionsPage::OptionsPage(DialogSession& session, QWidget* parent)
@@ -147,8 +111,8 @@ void OptionsPage::addOption(const OptionItem& option)
         if (option.isInstallable)
             form_->addRow(new QLabel(tr("Set by whoever installed the printer."), content_));
     }
-    auto* label = new QLabel(captionText(option.text) + QLatin1Char(':'), content_);
-    label->setTextFormat(Qt::PlainText);
+    auto* label = new QLabel(content_);
+    setPlainText(label, captionText(option.text) + QLatin1Char(':'));
     if (option.isInstallable) {
         const PpdModel* model = session_.model();
         auto* built = new QLabel(content_);

@@ -56,12 +56,6 @@ private:
     QMap<QString, Box> boxes_;
 };
 
-/// An option's title and its value's, for the summary.
-using SummaryLines = QList<std::pair<QString, QString>>;
-
-/// The dialog's own lines of the summary: printer, paper, size, copies, and the options of OptionsPage.
-SummaryLines ownSummary(DialogSession& session);
-
 /// The keywords of the options that no panel owns, the printer's equipment among them.
 QStringList optionsWithoutPanel(DialogSession& session);
 

@@ -2,10 +2,10 @@
 
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
-#include "platform/maker/backprint_text.h"
+#include "dialog/window/summary_page.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -20,6 +20,7 @@ namespace {
 const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
 const QString kSummary = QStringLiteral("summary");
+const QString kPreview = QStringLiteral("preview");
 
 // The list of pages is as wide as its longest title wants it, within these.
 constexpr int kLeastListWidth = 146;
@@ -27,6 +28,7 @@ constexpr int kMostListWidth = 200;
 // Wide enough for the pages that photographers use most, so that the preview keeps its size between them.
 constexpr int kUsualPageWidth = 502;
 constexpr int kTitleMargin = 9;
+constexpr int kSpacing = 14;
 
 // Leaves a little room before the titles.
 QIcon indent()
@@ -34,36 +36,6 @@ QIcon indent()
     QPixmap nothing(4, 4);
     nothing.fill(Qt::transparent);
     return nothing;
-}
-
-QString tableRow(const QString& name, const QString& value)
-{
-    return QStringLiteral(
-               "<tr><td style='padding:3px 18px 3px 0'>%1</td><td style='padding:3px 0'><b>%2</b></td></tr>")
-        .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
-}
-
-// A line for the back of the picture is kept in the form that travels, and read in the one that prints.
-QString asRead(const QString& key, const QString& value)
-{
-    return key.startsWith(QLatin1StringView("CVP")) ? backprint::stringWithUnsafeCharacters(value) : value;
-}
-
-// A panel tells the choices that the PPD lists; a value of the user's own has no words there, and is told as
-// it is.
-QMap<QString, QString> panelSummary(DialogSession& session, Panel& panel)
-{
-    QMap<QString, QString> lines = panel.summaryInfo();
-    const PpdModel* model = session.model();
-    if (!model)
-        return lines;
-    for (const QString& key : panel.supportedPPDOptionKeys()) {
-        const QString value = model->kept().value(key);
-        const QString title = model->optionText(key);
-        if (!value.isEmpty() && !lines.contains(title))
-            lines.insert(title, asRead(key, model->choiceText(key, value)));
-    }
-    return lines;
 }
 
 } // namespace
@@ -76,7 +48,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
       empty_(new QWidget(this)),
       page_(new PaperPage(session, this)),
       options_(new OptionsPage(session, this)),
-      summary_(new QLabel(this))
+      summary_(new SummaryPage(session, this))
 {
     list_->setObjectName(QStringLiteral("pageList"));
     list_->setAccessibleName(tr("Pages of options"));
@@ -86,22 +58,16 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     area_->setObjectName(QStringLiteral("pageArea"));
     area_->setWidgetResizable(true);
     area_->setFrameShape(QFrame::NoFrame);
-    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->viewport()->setAutoFillBackground(false);
-    summary_->setObjectName(QStringLiteral("summaryPage"));
-    summary_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    summary_->setMargin(9);
-    summary_->setTextFormat(Qt::RichText);
-    summary_->setWordWrap(true);
-    summary_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     for (QWidget* page : {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_),
                           static_cast<QWidget*>(summary_), empty_})
         page->hide();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(14);
+    row->setSpacing(kSpacing);
     row->addWidget(list_);
     row->addWidget(area_, 1);
+    setFocusProxy(list_);
     connect(list_, &QListWidget::currentRowChanged, this, &PanelDeck::showRow);
     rebuild();
 }
@@ -117,7 +83,7 @@ Panel* PanelDeck::panelFor(const QString& identifier) const
 
 void PanelDeck::addPage(const QString& identifier, const QString& title)
 {
-    auto* item = new QListWidgetItem(indent(), title, list_);
+    auto* item = new QListWidgetItem(indent(), displayText(title), list_);
     item->setData(Qt::UserRole, identifier);
     // What the title wants, before a hint of our own replaces it.
     const QModelIndex index = list_->model()->index(list_->count() - 1, 0);
@@ -141,10 +107,13 @@ void PanelDeck::rebuild()
             const QString kind = panel->panelKind().value_or(QString());
             addPage(kind, panel->panelName().value_or(kind));
         }
+        page_->refresh();
         options_->rebuild();
         if (!options_->isEmpty())
             addPage(kOptions, session_.hasCustomPanels() ? tr("More Options") : tr("Options"));
         addPage(kSummary, tr("Summary"));
+        if (previewPage_)
+            addPage(kPreview, tr("Preview"));
     }
     if (!showPage(current))
         showPage(kPage);
@@ -186,6 +155,8 @@ QWidget* PanelDeck::viewFor(const QString& identifier)
         return options_;
     if (identifier == kSummary)
         return summary_;
+    if (identifier == kPreview)
+        return previewPage_;
     Panel* panel = panelFor(identifier);
     return panel ? panel->panelView() : nullptr;
 }
@@ -208,14 +179,58 @@ void PanelDeck::showRow(int row)
         panel->willShow();
     }
     if (identifier == kSummary)
-        refreshSummary();
+        summary_->refresh();
     area_->setWidget(view ? view : empty_);
     area_->widget()->show();
-    // A page is never cut at its side; the window grows when a panel needs more.
     const int wanted = area_->widget()->minimumSizeHint().expandedTo(area_->widget()->minimumSize()).width();
-    area_->setMinimumWidth(std::max(
-        {area_->minimumWidth(), kUsualPageWidth, wanted + area_->verticalScrollBar()->sizeHint().width()}));
+    pageWidth_ = std::max(pageWidth_, wanted + area_->verticalScrollBar()->sizeHint().width());
     area_->verticalScrollBar()->setValue(0);
+    nameArea(row, identifier);
+    Q_EMIT pageShown();
+}
+
+// The keyboard stops at a page's controls, or, to scroll, at a page that has none.
+void PanelDeck::nameArea(int row, const QString& identifier)
+{
+    setPlainName(area_, list_->item(row)->text());
+    area_->setFocusPolicy(identifier == kSummary ? Qt::StrongFocus : Qt::NoFocus);
+}
+
+void PanelDeck::setPreviewPage(QWidget* preview)
+{
+    if (preview) {
+        previewPage_ = preview;
+        preview->setParent(this);
+        preview->hide();
+        addPage(kPreview, tr("Preview"));
+        return;
+    }
+    const int row = int(identifiers().indexOf(kPreview));
+    if (row < 0)
+        return;
+    if (row == shownRow_)
+        showPage(kPage);
+    previewPage_ = nullptr;
+    delete list_->takeItem(row);
+}
+
+int PanelDeck::wantedWidth() const
+{
+    return list_->width() + kSpacing + std::max(kUsualPageWidth, pageWidth_);
+}
+
+QList<QWidget*> PanelDeck::tabOrder() const
+{
+    QList<QWidget*> order{list_};
+    if (area_->focusPolicy() != Qt::NoFocus)
+        order.append(area_);
+    QWidget* const page = area_->widget();
+    for (QWidget* next = page ? page->nextInFocusChain() : nullptr; next != page;
+         next = next->nextInFocusChain()) {
+        if (page->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) && !next->focusProxy())
+            order.append(next);
+    }
+    return order;
 }
 
 void PanelDeck::releasePanels()
@@ -233,7 +248,8 @@ void PanelDeck::takeShownView()
     if (!before)
         return;
     before->hide();
-    if (before == page_ || before == options_ || before == summary_ || before == empty_)
+    if (before == page_ || before == options_ || before == summary_ || before == empty_ ||
+        before == previewPage_)
         before->setParent(this);
 }
 
@@ -267,26 +283,10 @@ void PanelDeck::tellClosing(bool printing)
 void PanelDeck::refresh()
 {
     page_->refresh();
+    options_->setEnabled(session_.model() != nullptr);
     options_->refresh();
     if (area_->widget() == summary_)
-        refreshSummary();
-}
-
-void PanelDeck::refreshSummary()
-{
-    QString rows;
-    for (const auto& [name, value] : ownSummary(session_))
-        rows += tableRow(name, value);
-    for (const std::shared_ptr<Panel>& panel : session_.panels()) {
-        const QMap<QString, QString> lines = panelSummary(session_, *panel);
-        if (lines.isEmpty())
-            continue;
-        rows += QStringLiteral("<tr><td colspan='2' style='padding-top:14px'><b>%1</b></td></tr>")
-                    .arg(panel->panelName().value_or(QString()).toHtmlEscaped());
-        for (auto it = lines.cbegin(); it != lines.cend(); ++it)
-            rows += tableRow(it.key(), it.value());
-    }
-    summary_->setText(QStringLiteral("<table>%1</table>").arg(rows));
+        summary_->refresh();
 }
 
 } // namespace halvern

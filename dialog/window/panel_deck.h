@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-class QLabel;
 class QListWidget;
 class QScrollArea;
 class QStackedWidget;
@@ -12,6 +11,7 @@ class QStackedWidget;
 namespace halvern {
 
 class OptionsPage;
+class SummaryPage;
 class PaperPage;
 
 /// The list of pages, the dialog's own and the panels', and the page that is shown. It keeps the protocol of
@@ -50,24 +50,40 @@ public:
 
     QStringList identifiers() const;
 
+    /// Takes the preview in as a page of its own, because there is no room beside the pages; null gives it
+    /// back to the caller, who shows it elsewhere.
+    void setPreviewPage(QWidget* preview);
+
+    /// The width at which no page that has been shown is cut at its side.
+    int wantedWidth() const;
+
+    /// What the Tab key visits here: the list, then the shown page's controls as its layout orders them.
+    QList<QWidget*> tabOrder() const;
+
+Q_SIGNALS:
+    /// Another page is shown.
+    void pageShown();
+
 private:
     void addPage(const QString& identifier, const QString& title);
     void showRow(int row);
     bool hideShownPanel();
     void takeShownView();
+    void nameArea(int row, const QString& identifier);
     QWidget* viewFor(const QString& identifier);
     Panel* panelFor(const QString& identifier) const;
-    void refreshSummary();
 
     DialogSession& session_;
     QListWidget* list_;
     QScrollArea* area_;
     QWidget* empty_;
+    QWidget* previewPage_ = nullptr;
     PaperPage* page_;
     OptionsPage* options_;
-    QLabel* summary_;
+    SummaryPage* summary_;
     Panel* shown_ = nullptr;
     int shownRow_ = -1;
+    int pageWidth_ = 0;
     bool toldClosing_ = false;
 };
 

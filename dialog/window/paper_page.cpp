@@ -1,6 +1,8 @@
 #include "dialog/window/paper_page.h"
 
 #include "dialog/window/choice_list.h"
+#include "platform/toolkit/choice_group.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -38,8 +40,10 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     form->setVerticalSpacing(14);
     form->setHorizontalSpacing(14);
     const auto addRow = [&](const QString& text, QWidget* field, QWidget* buddy) {
-        auto* label = new QLabel(text, this);
+        auto* label = new QLabel(this);
+        setPlainText(label, text);
         label->setBuddy(buddy);
+        setPlainName(field, QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
         form->addRow(label, field);
     };
     addRow(tr("P&aper size:"), paper_, paper_);
@@ -62,7 +66,7 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
 QWidget* PaperPage::makeChoices(QButtonGroup* group, const QString& name,
                                 const QList<std::pair<int, QString>>& choices)
 {
-    auto* box = new QWidget(this);
+    auto* box = new ChoiceGroup(this);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 2, 0, 0);
     column->setSpacing(6);

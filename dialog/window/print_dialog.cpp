@@ -1,16 +1,21 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/preview/preview_widget.h"
+#include "dialog/window/disabled_reasons.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/run_bar.h"
+#include "platform/toolkit/plain_text.h"
+#include "platform/toolkit/wheel_guard.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
@@ -22,6 +27,13 @@
 namespace halvern {
 
 namespace {
+
+const QString kPrinterMessages = QStringLiteral("printer");
+const QString kReasonMessage = QStringLiteral("printer/why");
+const QString kUndoMessage = QStringLiteral("printer/undo");
+constexpr int kLongestName = 120;
+constexpr int kLongestState = 240;
+constexpr int kMessageMargins = 22;
 
 QFrame* makeLine(QWidget* parent)
 {
@@ -39,44 +51,57 @@ QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent
     auto* button = new QToolButton(parent);
     button->setArrowType(arrow);
     button->setAutoRaise(true);
-    button->setAccessibleName(name);
-    button->setToolTip(name);
+    setPlainName(button, name);
+    setPlainToolTip(button, name);
     return button;
 }
 
 QString itemText(const PrinterInfo& printer)
 {
-    return printer.info == printer.name ? printer.name
-                                        : QStringLiteral("%1  –  %2").arg(printer.name, printer.info);
+    return printer.info == printer.name
+               ? displayText(printer.name, kLongestName)
+               : QStringLiteral("%1  –  %2")
+                     .arg(isolated(printer.name), isolated(printer.info, kLongestName));
 }
 
 } // namespace
 
 PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
-    : QDialog(parent), session_(session), message_(new MessageBar(this)), preview_(new PreviewWidget(this))
+    : QDialog(parent),
+      session_(session),
+      message_(new MessageBar(this)),
+      preview_(new PreviewWidget(this)),
+      sides_(new QHBoxLayout(this))
 {
     setObjectName(QStringLiteral("printDialog"));
     setWindowTitle(tr("Print"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* sides = new QHBoxLayout;
-    sides->setSpacing(0);
-    sides->addWidget(makePreviewSide(), 1);
-    sides->addWidget(makeControlSide(), 0);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(message_);
-    column->addLayout(sides, 1);
-    setMinimumSize(900, 600);
-    resize(1240, 780);
-    // The controls come first, although the preview stands first.
-    setTabOrder(print_, preview_);
-    setTabOrder(preview_, preview_->zoomButton());
+    sides_->setContentsMargins(0, 0, 0, 0);
+    sides_->setSpacing(0);
+    previewSide_ = makePreviewSide();
+    controlSide_ = makeControlSide();
+    sides_->addWidget(previewSide_, 1);
+    sides_->addWidget(controlSide_, 0);
+    for (QWidget* place : {previewSide_, messageRoom_})
+        place->installEventFilter(this);
+    connect(message_, &MessageBar::changed, this, &PrintDialog::placeMessage);
+    connect(deck_, &PanelDeck::pageShown, this, [this] {
+        arrange();
+        orderTabs();
+    });
+    new WheelGuard(this);
+    connect(new DisabledReasons(this), &DisabledReasons::asked, this, [this](const QString& reason) {
+        message_->showMessage(MessageKind::information, reason, {}, kReasonMessage);
+    });
     makeShortcuts();
     connectSession();
     fillPrinters();
     showPhotos();
     updateButtons();
+    takeOpeningSize();
+    orderTabs();
+    // Not to a pop-up, whose value the wheel would change.
+    deck_->setFocus();
 }
 
 PrintDialog::~PrintDialog()
@@ -88,6 +113,7 @@ PrintDialog::~PrintDialog()
 QWidget* PrintDialog::makePreviewSide()
 {
     auto* side = new QWidget(this);
+    preview_->setMinimumSize(220, 180);
     pager_ = new QWidget(side);
     pageNumber_ = new QLabel(pager_);
     pageNumber_->setObjectName(QStringLiteral("photoNumber"));
@@ -114,7 +140,6 @@ QWidget* PrintDialog::makePreviewSide()
 QWidget* PrintDialog::makeControlSide()
 {
     auto* side = new QWidget(this);
-    side->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(20, 18, 20, 18);
     column->setSpacing(14);
@@ -123,6 +148,10 @@ QWidget* PrintDialog::makeControlSide()
     deck_ = new PanelDeck(session_, side);
     column->addWidget(deck_, 1);
     column->addWidget(makeLine(side));
+    messageRoom_ = new QWidget(side);
+    messageRoom_->setFixedHeight(2 * fontMetrics().lineSpacing() + kMessageMargins);
+    messageRoom_->hide();
+    column->addWidget(messageRoom_);
     runBar_ = new RunBar(side);
     connect(runBar_, &RunBar::remedyChosen, this, [this](Remedy remedy) {
         if (run_)
@@ -226,8 +255,10 @@ void PrintDialog::connectSession()
 {
     connect(&session_.printerList(), &PrinterList::changed, this, &PrintDialog::fillPrinters);
     connect(&session_, &DialogSession::printerSelected, this, [this] {
-        message_->clear();
+        // What was told of the photos is still true.
+        message_->withdraw(kPrinterMessages);
         clearOldOutcome();
+        deck_->refresh();
         fillPrinters();
         updateButtons();
     });
@@ -238,13 +269,13 @@ void PrintDialog::connectSession()
     });
     connect(&session_, &DialogSession::printerFailed, this, [this](const QString& sentence) {
         deck_->rebuild();
-        message_->showMessage(MessageKind::error, sentence);
+        tellOfPrinter(MessageKind::error, sentence);
         showPrinterState();
     });
     connect(&session_, &DialogSession::notice, this,
-            [this](const QString& sentence) { message_->showMessage(MessageKind::information, sentence); });
+            [this](const QString& sentence) { tellOfPrinter(MessageKind::information, sentence); });
     connect(&session_, &DialogSession::refused, this,
-            [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
+            [this](const QString& sentence) { tellOfPrinter(MessageKind::warning, sentence); });
     connect(&session_, &DialogSession::photoFailed, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     connect(&session_, &DialogSession::photoDamaged, this,
@@ -257,8 +288,13 @@ void PrintDialog::connectSession()
         deck_->refresh();
         showPhotos();
     });
-    connect(&session_, &DialogSession::undoExpired, this, [this] { message_->clearAction(); });
-    connect(message_, &MessageBar::actionChosen, &session_, &DialogSession::undoLastChange);
+    connect(&session_, &DialogSession::undoExpired, this, [this] { message_->withdraw(kUndoMessage); });
+}
+
+void PrintDialog::tellOfPrinter(MessageKind kind, const QString& sentence)
+{
+    // The sentence in the key: each is told once, and all go with the printer.
+    message_->showMessage(kind, sentence, {}, kPrinterMessages + QLatin1Char('/') + sentence);
 }
 
 void PrintDialog::fillPrinters()
@@ -299,7 +335,7 @@ void PrintDialog::showPrinterState()
         text = tr("The print server has no printers. Add one in the system's settings.");
     else if (list.hasAnswer())
         text = tr("The print server has no printer \"%1\". Choose another one.").arg(session_.printerName());
-    printerState_->setText(text);
+    setPlainText(printerState_, text, kLongestState);
     Severity severity = printer ? stateSeverity(*printer) : Severity::error;
     if (!list.hasAnswer())
         severity = Severity::report;
@@ -331,9 +367,10 @@ void PrintDialog::showPhotos()
     const Photo& photo = photos[size_t(current_)];
     preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
     const QString name = QFileInfo(photo.path).fileName();
-    setWindowTitle(tr("Print %1").arg(name));
-    const QString page = photo.pageNumber > 0 ? tr("%1, page %2").arg(name).arg(photo.pageNumber) : name;
-    pageNumber_->setText(tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(page));
+    const QString shown = isolated(name, kLongestName);
+    setPlainTitle(this, tr("Print %1").arg(shown));
+    const QString page = photo.pageNumber > 0 ? tr("%1, page %2").arg(shown).arg(photo.pageNumber) : shown;
+    setPlainText(pageNumber_, tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(page));
     back_->setEnabled(current_ > 0);
     forward_->setEnabled(current_ + 1 < int(photos.size()));
     updateButtons();
@@ -347,16 +384,12 @@ void PrintDialog::step(int by)
 
 void PrintDialog::showOtherChanges(const QList<SideChange>& changes)
 {
-    message_->showMessage(MessageKind::information,
-                          tr("To make that possible, this was changed too: %1").arg(inWords(changes)),
-                          tr("&Undo"));
+    offerUndo(tr("To make that possible, this was changed too: %1").arg(inWords(changes)));
 }
 
 void PrintDialog::showCorrections(const QList<SideChange>& changes)
 {
-    message_->showMessage(
-        MessageKind::information,
-        tr("The printer cannot do what was chosen. This was changed: %1").arg(inWords(changes)), tr("&Undo"));
+    offerUndo(tr("The printer cannot do what was chosen. This was changed: %1").arg(inWords(changes)));
 }
 
 QString PrintDialog::inWords(const QList<SideChange>& changes) const
@@ -365,6 +398,24 @@ QString PrintDialog::inWords(const QList<SideChange>& changes) const
     for (const SideChange& change : changes)
         texts.append(tr("%1: %2").arg(change.optionText, change.choiceText));
     return texts.join(QStringLiteral(", "));
+}
+
+void PrintDialog::offerUndo(const QString& sentence)
+{
+    message_->showMessage(MessageKind::information, sentence,
+                          {tr("&Undo"), [this] { session_.undoLastChange(); }}, kUndoMessage);
+}
+
+void PrintDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // In a field of a page it has ended the editing, and is no word for the default button.
+    if (isReturn && deck_->isAncestorOf(focusWidget()) &&
+        (qobject_cast<QLineEdit*>(focusWidget()) || qobject_cast<QAbstractSpinBox*>(focusWidget()))) {
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 } // namespace halvern

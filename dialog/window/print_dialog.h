@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QPointer>
 
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -15,6 +16,7 @@ class QToolButton;
 namespace halvern {
 
 class MessageBar;
+enum class MessageKind;
 class PanelDeck;
 class PreviewWidget;
 class RunBar;
@@ -31,6 +33,8 @@ public:
 
     PanelDeck& deck() { return *deck_; }
 
+    MessageBar& messages() { return *message_; }
+
     /// The run that is under way or the last one; null before the first.
     PrintRun* run() { return run_; }
 
@@ -42,6 +46,11 @@ public:
     /// Leaves at once, whatever is under way: a job that the server has stays on its queue, and one that is
     /// still being sent goes on as long as the session lives.
     void done(int result) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     /// A run has ended, and the dialog says so.
@@ -55,6 +64,13 @@ private:
     QWidget* makeCollateBox(QWidget* parent);
     void connectSession();
     void makeShortcuts();
+    void takeOpeningSize();
+    void rememberSize() const;
+    void arrange();
+    void placeMessage();
+    void orderTabs();
+    void offerUndo(const QString& sentence);
+    void tellOfPrinter(MessageKind kind, const QString& sentence);
     void fillPrinters();
     void showPrinterState();
     void showPhotos();
@@ -73,6 +89,10 @@ private:
     DialogSession& session_;
     MessageBar* message_;
     PreviewWidget* preview_;
+    QBoxLayout* sides_;
+    QWidget* previewSide_ = nullptr;
+    QWidget* controlSide_ = nullptr;
+    QWidget* messageRoom_ = nullptr; // where messages are told while the preview is no neighbour
     QComboBox* printer_ = nullptr;
     QLabel* printerState_ = nullptr;
     PanelDeck* deck_ = nullptr;
@@ -90,6 +110,7 @@ private:
     PrintOutcome outcome_;
     int current_ = 0;
     bool hasPrinted_ = false;
+    bool previewIsBeside_ = true;
 };
 
 } // namespace halvern

@@ -74,9 +74,8 @@ void PrintDialog::cancelJob()
 {
     if (!isRunning())
         return;
-    runBar_->setText(run_->jobId() == 0
-                         ? tr("Cancelling...")
-                         : tr("Asking the print server to cancel job %1...").arg(run_->jobId()));
+    runBar_->tell(run_->jobId() == 0 ? tr("Cancelling...")
+                                     : tr("Asking the print server to cancel job %1...").arg(run_->jobId()));
     run_->cancel();
     updateButtons();
 }
@@ -117,6 +116,7 @@ void PrintDialog::showHelp()
 
 void PrintDialog::done(int result)
 {
+    rememberSize();
     deck_->tellClosing(hasPrinted_ || isRunning());
     deck_->releasePanels();
     QDialog::done(result);

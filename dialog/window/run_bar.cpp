@@ -1,5 +1,7 @@
 #include "dialog/window/run_bar.h"
 
+#include "platform/toolkit/plain_text.h"
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -36,7 +38,6 @@ RunBar::RunBar(QWidget* parent)
 {
     text_->setObjectName(QStringLiteral("status"));
     text_->setWordWrap(true);
-    text_->setTextFormat(Qt::PlainText);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     progress_->setObjectName(QStringLiteral("progress"));
     progress_->setAccessibleName(tr("Progress of the print job"));
@@ -66,14 +67,14 @@ void RunBar::showProgress(double share, const QString& words)
     progress_->setValue(int(share * kProgressSteps));
     progress_->show();
     showRemedy(Remedy::none);
-    setText(words);
+    tell(words);
 }
 
 void RunBar::showSent(const QString& words)
 {
     progress_->setRange(0, 0);
     progress_->show();
-    setText(words);
+    tell(words);
 }
 
 void RunBar::showStatus(const JobStatus& status, const QString& sentence)
@@ -81,18 +82,18 @@ void RunBar::showStatus(const JobStatus& status, const QString& sentence)
     progress_->setRange(0, 0);
     progress_->setVisible(!isResting(status.stage) && status.stage != JobStage::unknown);
     showRemedy(remedyFor(status));
-    setText(sentence);
+    tell(sentence);
 }
 
 void RunBar::showEnd(const QString& sentence)
 {
     clear();
-    setText(sentence);
+    tell(sentence);
 }
 
-void RunBar::setText(const QString& text)
+void RunBar::tell(const QString& text)
 {
-    text_->setText(text);
+    setPlainText(text_, text);
     show();
 }
 
@@ -107,7 +108,7 @@ void RunBar::clear()
 void RunBar::showRemedy(Remedy remedy)
 {
     remedy_ = remedy;
-    button_->setText(buttonText(remedy));
+    button_->setText(buttonText(remedy)); // plain: words of ours
     button_->setVisible(remedy != Remedy::none);
     button_->setEnabled(true);
 }

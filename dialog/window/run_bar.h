@@ -30,7 +30,7 @@ public:
     void showEnd(const QString& sentence);
 
     /// A sentence in between, which leaves the rest as it is.
-    void setText(const QString& text);
+    void tell(const QString& text);
 
     void clear();
 

@@ -1,6 +1,7 @@
 #include "panels/backprint/back_preview.h"
 
 #include "platform/maker/backprint_text.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -94,7 +95,7 @@ void BackPreview::setLine(int index, const QString& text)
 {
     if (std::exchange(lines_.at(size_t(index)), text) == text)
         return;
-    setAccessibleDescription(lines_[0] + QLatin1Char('\n') + lines_[1]);
+    setPlainDescription(this, lines_[0] + QLatin1Char('\n') + lines_[1]);
     update();
 }
 

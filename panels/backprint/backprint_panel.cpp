@@ -9,6 +9,7 @@
 #include "platform/plugin_api/host_callback.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -125,7 +126,7 @@ void RZBackprintPDEHalvern::enableCustom()
         preview = new BackPreview(
             sheet, localized(QStringLiteral("Nothing is printed on the back.")),
             localized(QStringLiteral("So long a line is printed in very small letters.")), holder);
-        preview->setAccessibleName(localized(QStringLiteral("Preview of the back of the picture")));
+        setPlainName(preview, localized(QStringLiteral("Preview of the back of the picture")));
         layout->addWidget(preview);
     }
     setUpLine(backprint::kLine1, backprint::kToggleLine1, preview);
@@ -143,7 +144,7 @@ void RZBackprintPDEHalvern::setUpLine(int number, int toggleTag, BackPreview* pr
     const QString format = localized(QStringLiteral("%1 left"));
     const auto show = [=] {
         if (count)
-            count->setText(remaining(format, field->text().size()));
+            setPlainText(count, remaining(format, field->text().size()));
         if (preview)
             preview->setLine(number - 1, toggle->isChecked() ? field->text() : QString());
     };

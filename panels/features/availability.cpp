@@ -1,6 +1,7 @@
 #include "panels/features/availability.h"
 
 #include "platform/toolkit/control.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QComboBox>
 
@@ -20,7 +21,7 @@ void setControl(QWidget* control, bool available, const QString& why)
     if (!control->property(kOwnDescription).isValid())
         control->setProperty(kOwnDescription, control->accessibleDescription());
     control::setEnabledWithCaptions(control, available);
-    control->setAccessibleDescription(available ? control->property(kOwnDescription).toString() : why);
+    setPlainDescription(control, available ? control->property(kOwnDescription).toString() : why);
 }
 
 void setItem(QComboBox* popup, int index, bool available, const QString& why)

@@ -9,6 +9,7 @@
 #include "platform/printing/print_settings.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
+#include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/stepper.h"
 
 #include <QComboBox>
@@ -140,15 +141,15 @@ void RZFeaturesPDEHalvern::showSurfaceLegend()
         if (choice.text == choice.keyword)
             continue;
         const QString meaning = localized(choice.text);
-        entries.append(meaning.toHtmlEscaped());
+        entries.append(markupText(meaning));
         for (QRadioButton* cell : matrix->cells()) {
             if (cell->text() == choice.keyword)
-                cell->setAccessibleName(meaning);
+                setPlainName(cell, meaning);
         }
     }
     if (entries.isEmpty())
         return;
-    legend->setText(twoColumns(entries));
+    setMarkup(legend, twoColumns(entries));
 }
 
 bool RZFeaturesPDEHalvern::saveValuesAndReturnError(PanelError*)

@@ -2,6 +2,7 @@
 // packed.
 
 #include "platform/foundation/archive/keyed_unarchiver.h"
+#include "platform/foundation/display_text.h"
 #include "printer/papers/catalogue_archive.h"
 #include "printer/papers/catalogue_json.h"
 #include "printer/papers/paper_change.h"
@@ -27,7 +28,7 @@ constexpr int kMisused = 2;
 
 int complain(const QString& text, int status = kFailed)
 {
-    std::fprintf(stderr, "halvern-papers: %s\n", qUtf8Printable(text));
+    std::fprintf(stderr, "halvern-papers: %s\n", qUtf8Printable(terminalText(text)));
     return status;
 }
 
@@ -121,7 +122,7 @@ int show(const QString& source)
         return kFailed;
     const KeyedUnarchiver::Result catalogue = KeyedUnarchiver::unarchiveDictionary(*archive);
     if (!catalogue.root) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(catalogue.failure));
+        std::fprintf(stderr, "%s\n", qUtf8Printable(terminalText(catalogue.failure)));
         return kFailed;
     }
     QFile out;

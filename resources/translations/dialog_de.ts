@@ -556,9 +556,36 @@
         <source>Close the message</source>
         <translation>Meldung schließen</translation>
     </message>
+    <message>
+        <source>Previous message</source>
+        <translation>Vorige Meldung</translation>
+    </message>
+    <message>
+        <source>Next message</source>
+        <translation>Nächste Meldung</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
+    <message>
+        <source>More options follow...</source>
+        <translation>Weitere Optionen folgen ...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>Bei der Einrichtung des Druckers festgelegt.</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (Vorgabe des Druckers)</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SummaryPage</name>
     <message>
         <source>Fit</source>
         <translation>Einpassen</translation>
@@ -596,16 +623,16 @@
         <translation>Exemplare</translation>
     </message>
     <message>
-        <source>More options follow...</source>
-        <translation>Weitere Optionen folgen ...</translation>
+        <source>More options</source>
+        <translation>Weitere Optionen</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>Bei der Einrichtung des Druckers festgelegt.</translation>
+        <source>Options</source>
+        <translation>Optionen</translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (Vorgabe des Druckers)</translation>
+        <source>Off: %1</source>
+        <translation>Aus: %1</translation>
     </message>
 </context>
 <context>
@@ -668,6 +695,10 @@
     <message>
         <source>Summary</source>
         <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1111,17 @@
     <message>
         <source>It has: %1.</source>
         <translation>Es gibt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Stepper</name>
+    <message>
+        <source>Increase</source>
+        <translation>Erhöhen</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Verringern</translation>
     </message>
 </context>
 </TS>

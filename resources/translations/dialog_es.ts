@@ -556,9 +556,36 @@
         <source>Close the message</source>
         <translation>Cerrar el mensaje</translation>
     </message>
+    <message>
+        <source>Previous message</source>
+        <translation>Mensaje anterior</translation>
+    </message>
+    <message>
+        <source>Next message</source>
+        <translation>Mensaje siguiente</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
+    <message>
+        <source>More options follow...</source>
+        <translation>Siguen más opciones...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>Lo estableció quien instaló la impresora.</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (valor de la impresora)</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SummaryPage</name>
     <message>
         <source>Fit</source>
         <translation>Ajustar</translation>
@@ -596,16 +623,16 @@
         <translation>Copias</translation>
     </message>
     <message>
-        <source>More options follow...</source>
-        <translation>Siguen más opciones...</translation>
+        <source>More options</source>
+        <translation>Más opciones</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>Lo estableció quien instaló la impresora.</translation>
+        <source>Options</source>
+        <translation>Opciones</translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (valor de la impresora)</translation>
+        <source>Off: %1</source>
+        <translation>Desactivado: %1</translation>
     </message>
 </context>
 <context>
@@ -668,6 +695,10 @@
     <message>
         <source>Summary</source>
         <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1111,17 @@
     <message>
         <source>It has: %1.</source>
         <translation>Hay: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Stepper</name>
+    <message>
+        <source>Increase</source>
+        <translation>Aumentar</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Reducir</translation>
     </message>
 </context>
 </TS>

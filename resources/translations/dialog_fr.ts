@@ -556,9 +556,36 @@
         <source>Close the message</source>
         <translation>Fermer le message</translation>
     </message>
+    <message>
+        <source>Previous message</source>
+        <translation>Message précédent</translation>
+    </message>
+    <message>
+        <source>Next message</source>
+        <translation>Message suivant</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
+    <message>
+        <source>More options follow...</source>
+        <translation>D’autres options suivent...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>Réglé par la personne qui a installé l’imprimante.</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (valeur de l’imprimante)</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SummaryPage</name>
     <message>
         <source>Fit</source>
         <translation>Ajuster</translation>
@@ -596,16 +623,16 @@
         <translation>Copies</translation>
     </message>
     <message>
-        <source>More options follow...</source>
-        <translation>D’autres options suivent...</translation>
+        <source>More options</source>
+        <translation>Autres options</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>Réglé par la personne qui a installé l’imprimante.</translation>
+        <source>Options</source>
+        <translation>Options</translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (valeur de l’imprimante)</translation>
+        <source>Off: %1</source>
+        <translation>Désactivé : %1</translation>
     </message>
 </context>
 <context>
@@ -668,6 +695,10 @@
     <message>
         <source>Summary</source>
         <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1111,17 @@
     <message>
         <source>It has: %1.</source>
         <translation>Il y a : %1.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Stepper</name>
+    <message>
+        <source>Increase</source>
+        <translation>Augmenter</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Diminuer</translation>
     </message>
 </context>
 </TS>

@@ -556,9 +556,36 @@
         <source>Close the message</source>
         <translation>メッセージを閉じる</translation>
     </message>
+    <message>
+        <source>Previous message</source>
+        <translation>前のメッセージ</translation>
+    </message>
+    <message>
+        <source>Next message</source>
+        <translation>次のメッセージ</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
+    <message>
+        <source>More options follow...</source>
+        <translation>続きがあります...</translation>
+    </message>
+    <message>
+        <source>Set by whoever installed the printer.</source>
+        <translation>プリンターを設定した人が決めたものです。</translation>
+    </message>
+    <message>
+        <source>%1 (the printer's default)</source>
+        <translation>%1 (プリンターの既定値)</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SummaryPage</name>
     <message>
         <source>Fit</source>
         <translation>全体を収める</translation>
@@ -596,16 +623,16 @@
         <translation>部数</translation>
     </message>
     <message>
-        <source>More options follow...</source>
-        <translation>続きがあります...</translation>
+        <source>More options</source>
+        <translation>その他のオプション</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>プリンターを設定した人が決めたものです。</translation>
+        <source>Options</source>
+        <translation>オプション</translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (プリンターの既定値)</translation>
+        <source>Off: %1</source>
+        <translation>オフ: %1</translation>
     </message>
 </context>
 <context>
@@ -668,6 +695,10 @@
     <message>
         <source>Summary</source>
         <translation>概要</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
     </message>
 </context>
 <context>
@@ -1080,6 +1111,17 @@
     <message>
         <source>It has: %1.</source>
         <translation>次のものがあります: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Stepper</name>
+    <message>
+        <source>Increase</source>
+        <translation>増やす</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>減らす</translation>
     </message>
 </context>
 </TS>

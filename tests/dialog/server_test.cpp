@@ -14,6 +14,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -378,6 +379,56 @@ TEST_F(DialogServerTest, AStoppedServerNeverHoldsTheWindowUp)
     EXPECT_EQ(kill(process, SIGCONT), 0);
     DialogSession after(request(q("Tessarin")), panels);
     EXPECT_TRUE(isReady(after));
+}
+
+TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEdit)
+{
+    DialogSession session(request(q("Tessarin")), panels);
+    PrintDialog dialog(session);
+    dialog.resize(1240, 780);
+    dialog.show();
+    ASSERT_TRUE(isReady(session) && QTest::qWaitForWindowActive(&dialog));
+    auto* const first = dialog.findChild<QWidget*>(q("printer"));
+    first->setFocus();
+    QStringList visited;
+    do {
+        visited.append(dialog.focusWidget()->objectName());
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    } while (dialog.focusWidget() != first && visited.size() < 30);
+    visited.removeIf(
+        [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
+    EXPECT_EQ(visited.join(QLatin1Char(' ')),
+              q("printer pageList paperSize copies cancelButton printButton preview zoomButton"));
+    QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
+    field.show();
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(dialog.run(), nullptr);
+}
+
+TEST(MessageBarTest, KeepsAllAndNeverPutsAnotherButtonUnderThePointer)
+{
+    QWidget window;
+    MessageBar bar(&window);
+    window.show();
+    int undone = 0;
+    bar.showMessage(MessageKind::warning, q("first"));
+    bar.showMessage(MessageKind::information, q("second"), {q("Undo"), [&] { ++undone; }}, q("printer/undo"));
+    EXPECT_EQ(bar.text(), q("second"));
+    bar.setAttribute(Qt::WA_UnderMouse);
+    bar.showMessage(MessageKind::error, q("third"), {q("Resume"), [&] { undone = 100; }});
+    EXPECT_EQ(bar.text(), q("second")) << "it may be about to be pressed";
+    EXPECT_EQ(bar.count(), 3);
+    bar.withdraw(q("printer"));
+    bar.findChild<QPushButton*>(q("messageAction"))->click();
+    EXPECT_EQ(undone, 0) << "the button that was meant has gone";
+    QEvent leave(QEvent::Leave);
+    bar.setAttribute(Qt::WA_UnderMouse, false);
+    QCoreApplication::sendEvent(&bar, &leave);
+    EXPECT_EQ(bar.text(), q("third"));
+    bar.findChild<QPushButton*>(q("messageAction"))->click();
+    EXPECT_EQ(undone, 100);
+    EXPECT_EQ(bar.text(), q("first"));
 }
 
 TEST_F(DialogServerTest, ADamagedDescriptionIsNamedAndTheWindowLives)

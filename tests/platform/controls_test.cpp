@@ -1,12 +1,15 @@
+#include "platform/toolkit/accessible_controls.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/stepper.h"
 #include "platform/toolkit/view_search.h"
+#include "platform/toolkit/wheel_guard.h"
 #include "tests/support/test.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -131,6 +134,44 @@ TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
     EXPECT_EQ(viewWithTag(&view, 6), popup);
     EXPECT_EQ(viewWithTag(&view, 9), nullptr);
     EXPECT_EQ(viewWithTag(nullptr, 0), nullptr);
+}
+
+TEST(AccessibleControlsTest, TellTheNumberOfTheFieldAndThatRadioButtonsBelongTogether)
+{
+    installAccessibleControls();
+    DecimalSlider slider;
+    slider.setMinimumValue(-100.0);
+    slider.setRealValue(-12.5);
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&slider);
+    ASSERT_TRUE(told && told->valueInterface());
+    EXPECT_EQ(told->text(QAccessible::Value), QStringLiteral("-12.5"));
+    EXPECT_EQ(told->valueInterface()->minimumValue().toDouble(), -100.0);
+    const QSignalSpy moved(&slider, &DecimalSlider::userMoved);
+    told->valueInterface()->setCurrentValue(30.0);
+    EXPECT_EQ(slider.realValue(), 30.0);
+    EXPECT_EQ(moved.count(), 1);
+    Matrix matrix;
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&matrix)->role(), QAccessible::Grouping);
+}
+
+TEST(WheelGuardTest, TheWheelScrollsUnlessTheControlHasTheFocus)
+{
+    QWidget window;
+    QComboBox box(&window);
+    box.addItems({QStringLiteral("a"), QStringLiteral("b")});
+    QLineEdit other(&window);
+    new WheelGuard(&window);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_EQ(box.focusPolicy(), Qt::StrongFocus) << "the wheel does not move the focus";
+    for (const bool isFocused : {false, true}) {
+        (isFocused ? static_cast<QWidget*>(&box) : &other)->setFocus();
+        QWheelEvent down(QPointF(5, 5), box.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&box, &down);
+        EXPECT_EQ(box.currentIndex(), isFocused ? 1 : 0);
+        EXPECT_EQ(down.isAccepted(), isFocused);
+    }
 }
 
 TEST(PlainTextTest, ShowsMarkupAsItIsWritten)

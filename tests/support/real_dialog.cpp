@@ -14,6 +14,7 @@ namespace halvern {
 RealDialog::RealDialog(const SessionRequest& request, PanelSource& panels)
     : session(request, panels), dialog(session)
 {
+    dialog.resize(1240, 780); // more than the offscreen screen has: the preview stands beside the pages
     dialog.show();
     session.start();
 }

@@ -94,9 +94,10 @@ TEST_F(ColorEndToEnd, TheSummaryHasEveryChoiceInTheUsersWords)
     dialog.type(0x144, QStringLiteral("-12"));
     dialog.type(0x145, QStringLiteral("25"));
     const QString text = summary();
-    for (const char* line : {"Farbanpassung\nJa", "Helligkeit\n-12", "Kontrast\n25", "Rot\n0", "Gamma\n1.0",
+    for (const char* line : {"Farbanpassung\nJa", "Helligkeit\n-12", "Kontrast\n25", "Gamma\n1,0",
                              "Blattpapier\nWie eingelegt", "Farbangleichung\nDurch das Programm"})
         EXPECT_TRUE(text.contains(QString::fromUtf8(line))) << line << " is not in\n" << qPrintable(text);
+    EXPECT_GT(text.indexOf(QStringLiteral("Rot")), text.indexOf(QStringLiteral("Aus: ")));
     EXPECT_FALSE(text.contains(QStringLiteral("Brightness")));
 }
 
