@@ -129,6 +129,7 @@ int main(int argc, char** argv)
     PluginLoader panels;
     DialogSession session({{}, {}, {arguments[1]}, 1}, panels);
     PrintDialog dialog(session);
+    dialog.resize(1240, 780); // the preview beside the pages, whatever the screen
     dialog.show();
     session.start();
     if (!QTest::qWaitFor([&] { return session.canPrint() && session.hasCustomPanels(); }, kPatience)) {
