@@ -141,7 +141,8 @@ bool isFiltersChatter(const QString& message)
 // While a job gets on, its message is a filter's account of it; where it does not, it may be the reason.
 bool isNews(const JobStatus& status)
 {
-    return (isResting(status.stage) || status.stage == JobStage::aborted) && !status.message.isEmpty() &&
+    const bool hasFailed = status.stage == JobStage::aborted || status.stage == JobStage::cancelled;
+    return (isResting(status.stage) || hasFailed) && !status.message.isEmpty() &&
            !isFiltersChatter(status.message);
 }
 
