@@ -193,7 +193,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     copies_->setValue(session_.page().copies);
     auto* label = new QLabel(tr("C&opies:"), parent);
     label->setBuddy(copies_);
-    cancelJob_ = new QPushButton(tr("Cancel &Job"), parent);
+    cancelJob_ = new QPushButton(tr("Cancel Job"), parent);
     cancelJob_->setObjectName(QStringLiteral("cancelJobButton"));
     cancelJob_->setAutoDefault(false);
     cancel_ = new QPushButton(tr("Cancel"), parent);
@@ -226,7 +226,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
 
 QWidget* PrintDialog::makeCollateBox(QWidget* parent)
 {
-    collate_ = new QCheckBox(tr("Co&llate"), parent);
+    collate_ = new QCheckBox(tr("Collate"), parent);
     collate_->setObjectName(QStringLiteral("collate"));
     collate_->setToolTip(tr("Whole sets one after the other: 1, 2, 3, 1, 2, 3"));
     collate_->setChecked(session_.page().isCollated);

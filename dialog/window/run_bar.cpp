@@ -17,11 +17,11 @@ QString buttonText(Remedy remedy)
 {
     switch (remedy) {
     case Remedy::resumePrinter:
-        return RunBar::tr("Resume Prin&ter");
+        return RunBar::tr("Resume Printer");
     case Remedy::releaseJob:
-        return RunBar::tr("Rele&ase Job");
+        return RunBar::tr("Release Job");
     case Remedy::restartJob:
-        return RunBar::tr("Print Job A&gain");
+        return RunBar::tr("Print Job Again");
     case Remedy::none:
         break;
     }

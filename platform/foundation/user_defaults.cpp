@@ -60,9 +60,11 @@ bool writeWhole(const QString& path, const QVariantMap& values)
     const QString target = before.exists() ? before.canonicalFilePath() : path;
     const QString draft = target + QStringLiteral(".draft");
     const QString proof = target + QStringLiteral(".new");
+    // Without a value QSettings would make no file.
+    if (!QFile(draft).open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
     {
         QSettings settings(draft, QSettings::IniFormat);
-        settings.clear();
         for (auto it = values.cbegin(); it != values.cend(); ++it)
             settings.setValue(it.key(), it.value());
         settings.sync();

@@ -851,8 +851,8 @@
         <translation>Wird abgebrochen ...</translation>
     </message>
     <message>
-        <source>Cancel &amp;Job</source>
-        <translation>A&amp;uftrag abbrechen</translation>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
     </message>
     <message>
         <source>Asking the print server to cancel job %1...</source>
@@ -863,8 +863,8 @@
         <translation>Keine Antwort vom Druckserver.</translation>
     </message>
     <message>
-        <source>Co&amp;llate</source>
-        <translation>&amp;Sortieren</translation>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
     </message>
     <message>
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
@@ -1062,16 +1062,16 @@
         <translation>Fortschritt des Druckauftrags</translation>
     </message>
     <message>
-        <source>Resume Prin&amp;ter</source>
-        <translation>Drucker &amp;fortsetzen</translation>
+        <source>Resume Printer</source>
+        <translation>Drucker fortsetzen</translation>
     </message>
     <message>
-        <source>Rele&amp;ase Job</source>
-        <translation>Auftrag frei&amp;geben</translation>
+        <source>Release Job</source>
+        <translation>Auftrag freigeben</translation>
     </message>
     <message>
-        <source>Print Job A&amp;gain</source>
-        <translation>Auftrag &amp;erneut drucken</translation>
+        <source>Print Job Again</source>
+        <translation>Auftrag erneut drucken</translation>
     </message>
 </context>
 <context>

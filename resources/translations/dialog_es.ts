@@ -851,8 +851,8 @@
         <translation>Cancelando...</translation>
     </message>
     <message>
-        <source>Cancel &amp;Job</source>
-        <translation>Cancelar &amp;trabajo</translation>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabajo</translation>
     </message>
     <message>
         <source>Asking the print server to cancel job %1...</source>
@@ -863,8 +863,8 @@
         <translation>El servidor de impresión no responde.</translation>
     </message>
     <message>
-        <source>Co&amp;llate</source>
-        <translation>&amp;Intercalar</translation>
+        <source>Collate</source>
+        <translation>Intercalar</translation>
     </message>
     <message>
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
@@ -1062,16 +1062,16 @@
         <translation>Progreso del trabajo</translation>
     </message>
     <message>
-        <source>Resume Prin&amp;ter</source>
-        <translation>&amp;Reanudar impresora</translation>
+        <source>Resume Printer</source>
+        <translation>Reanudar impresora</translation>
     </message>
     <message>
-        <source>Rele&amp;ase Job</source>
-        <translation>&amp;Liberar trabajo</translation>
+        <source>Release Job</source>
+        <translation>Liberar trabajo</translation>
     </message>
     <message>
-        <source>Print Job A&amp;gain</source>
-        <translation>Imprimir de &amp;nuevo</translation>
+        <source>Print Job Again</source>
+        <translation>Imprimir de nuevo</translation>
     </message>
 </context>
 <context>

@@ -851,8 +851,8 @@
         <translation>Annulation…</translation>
     </message>
     <message>
-        <source>Cancel &amp;Job</source>
-        <translation>Annuler la &amp;tâche</translation>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
     </message>
     <message>
         <source>Asking the print server to cancel job %1...</source>
@@ -863,8 +863,8 @@
         <translation>Pas de réponse du serveur d’impression.</translation>
     </message>
     <message>
-        <source>Co&amp;llate</source>
-        <translation>Asse&amp;mbler</translation>
+        <source>Collate</source>
+        <translation>Assembler</translation>
     </message>
     <message>
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
@@ -1062,16 +1062,16 @@
         <translation>Progression de la tâche</translation>
     </message>
     <message>
-        <source>Resume Prin&amp;ter</source>
-        <translation>&amp;Relancer l’imprimante</translation>
+        <source>Resume Printer</source>
+        <translation>Relancer l’imprimante</translation>
     </message>
     <message>
-        <source>Rele&amp;ase Job</source>
-        <translation>&amp;Libérer la tâche</translation>
+        <source>Release Job</source>
+        <translation>Libérer la tâche</translation>
     </message>
     <message>
-        <source>Print Job A&amp;gain</source>
-        <translation>Réimprimer la tâ&amp;che</translation>
+        <source>Print Job Again</source>
+        <translation>Réimprimer la tâche</translation>
     </message>
 </context>
 <context>

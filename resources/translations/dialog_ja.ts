@@ -851,8 +851,8 @@
         <translation>キャンセルしています...</translation>
     </message>
     <message>
-        <source>Cancel &amp;Job</source>
-        <translation>ジョブをキャンセル(&amp;J)</translation>
+        <source>Cancel Job</source>
+        <translation>ジョブをキャンセル</translation>
     </message>
     <message>
         <source>Asking the print server to cancel job %1...</source>
@@ -863,8 +863,8 @@
         <translation>プリントサーバーから応答がありません。</translation>
     </message>
     <message>
-        <source>Co&amp;llate</source>
-        <translation>部単位(&amp;L)</translation>
+        <source>Collate</source>
+        <translation>部単位</translation>
     </message>
     <message>
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
@@ -1062,16 +1062,16 @@
         <translation>印刷ジョブの進み具合</translation>
     </message>
     <message>
-        <source>Resume Prin&amp;ter</source>
-        <translation>プリンターを再開(&amp;T)</translation>
+        <source>Resume Printer</source>
+        <translation>プリンターを再開</translation>
     </message>
     <message>
-        <source>Rele&amp;ase Job</source>
-        <translation>ジョブを再開(&amp;A)</translation>
+        <source>Release Job</source>
+        <translation>ジョブを再開</translation>
     </message>
     <message>
-        <source>Print Job A&amp;gain</source>
-        <translation>もう一度印刷(&amp;G)</translation>
+        <source>Print Job Again</source>
+        <translation>もう一度印刷</translation>
     </message>
 </context>
 <context>

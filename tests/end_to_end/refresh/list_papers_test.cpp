@@ -90,11 +90,11 @@ TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
 
     const Case cases[] = {
         {"Holding", "?hold", {}, "was held"},
-        {"Refusing", "?reject", {}, "could not answer (The printer refuses this job.)"},
+        {"Refusing", "?reject", {}, "could not answer (The printer refuses this job)"},
         {"Stopping", "?stop&reason=cover-open", {}, "the cover is open"},
         {"Breaking", "?filter-fails", {}, "could not be processed (The command file"},
         {"Garbling", "?garbled", {}, "cannot be read (corrupt: "},
-        {"Paused", "", {q("--disabled")}, "does not work at the moment (paused)"},
+        {"Paused", "", {q("--disabled")}, "does not work at the moment"},
         {"Closed", "", {q("--rejecting")}, "does not accept jobs"},
     };
     for (const Case& each : cases) {
