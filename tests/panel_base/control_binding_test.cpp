@@ -121,6 +121,22 @@ TEST_F(ControlBindingTest, FillsMenusFromThePpdAndTranslatesKeywordsFirst)
     EXPECT_TRUE(host->asked.isEmpty());
 }
 
+TEST_F(ControlBindingTest, FillsAMenuWithTagZero)
+{
+    class FromZero : public TestPanel {
+        std::optional<QString> ppdOptionKeyForTag(int tag) override
+        {
+            return tag == 0 ? std::optional(q("A")) : std::nullopt;
+        }
+    };
+
+    const auto fromZero = makePanel<FromZero>(host);
+    view->setProperty("tag", 9);
+    auto* popup = addControl<QComboBox>(view, 0);
+    fromZero->populateMenuObjectsInView(view);
+    EXPECT_EQ(popup->count(), 3);
+}
+
 TEST_F(ControlBindingTest, APopUpShowsNoItemForAnUnknownChoice)
 {
     auto* popup = addControl<QComboBox>(view, 1);
@@ -175,6 +191,10 @@ TEST_F(ControlBindingTest, StepsByOneWithinTheRange)
     panel->decrementControl(down);
     EXPECT_DOUBLE_EQ(slider->realValue(), 0.5);
     EXPECT_EQ(host->asked.size(), 2);
+    DecimalSlider* whole = addSlider(view, 3, 0, 3, 0.01);
+    whole->setRealValue(2.0);
+    panel->incrementControl(addControl<QPushButton>(view, 0x1403));
+    EXPECT_DOUBLE_EQ(whole->realValue(), 3.0) << "the maximum itself can be reached";
     EXPECT_EQ(beeps.count, 0);
 }
 

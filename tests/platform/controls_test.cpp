@@ -133,6 +133,8 @@ TEST(ViewSearchTest, FindsTheFirstViewDepthFirstAndNeverAControlsParts)
     EXPECT_EQ(viewWithTag(&view, 5), inner);
     EXPECT_EQ(viewWithTag(&view, 6), popup);
     EXPECT_EQ(viewWithTag(&view, 9), nullptr);
+    (new QWidget(&view, Qt::Window))->setProperty("tag", 8);
+    EXPECT_EQ(viewWithTag(&view, 8), nullptr) << "a window of its own is no part of the view";
     EXPECT_EQ(viewWithTag(nullptr, 0), nullptr);
 }
 

@@ -45,4 +45,14 @@ TEST(PpdTest, AMalformedFileDoesNotOpenAndSaysWhere)
     EXPECT_EQ(ppd::open(folder.filePath(q("absent.ppd")), &why), nullptr);
 }
 
+TEST(PpdTest, LimitsThatLeaveNoChoiceAreNoRange)
+{
+    for (const auto& [limits, isRange] : {std::pair("1 2", true), {"1 1", false}, {"2 1", false}}) {
+        const ppd::File file =
+            ppdOf(ppdHeader() + ppdOption("Strength", {"1"}) +
+                  "*CustomStrength True: \"pop\"\n*ParamCustomStrength Factor: 1 real " + limits + "\n");
+        EXPECT_EQ(ppd::customRange(file.get(), q("Strength")).has_value(), isRange) << limits;
+    }
+}
+
 } // namespace halvern
