@@ -121,6 +121,12 @@ OptionMarks PpdModel::marksWith(const OptionMarks& changed) const
     return marks;
 }
 
+bool PpdModel::goesWithTheRest(const QString& key, const QString& choice) const
+{
+    return ppd_lookup::listedChoice(file_.get(), key, choice) &&
+           constraints_.violatedBy(marksWith({{key, choice}}), key).empty();
+}
+
 SideChange PpdModel::sideChange(const QString& key, const QString& choice) const
 {
     return {key, value(key), choice, optionText(key), choiceText(key, choice)};

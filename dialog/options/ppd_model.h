@@ -101,6 +101,9 @@ public:
     /// Puts earlier values back without any check, as undoing a change needs.
     void restore(const QMap<QString, QString>& values);
 
+    /// Whether a listed choice could be had without changing anything else.
+    bool goesWithTheRest(const QString& key, const QString& choice) const;
+
     /// The current value: kept, else marked, else empty.
     QString value(const QString& key) const;
 

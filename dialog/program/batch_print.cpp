@@ -80,6 +80,7 @@ void BatchPrint::proceed()
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;
     hasStarted_ = true;
+    warnOfMisfit();
     if (!line_.dryRun) {
         print();
         return;
@@ -88,6 +89,17 @@ void BatchPrint::proceed()
     for (const OptionValue& option : options)
         writeLine(out_, option.key + QLatin1Char('=') + option.value);
     end(kExitPrinted);
+}
+
+void BatchPrint::warnOfMisfit()
+{
+    const std::optional<PageMisfit> misfit = session_.pageMisfit();
+    if (!misfit)
+        return;
+    QString sentence = tr("Warning: %1").arg(misfit->sentence);
+    if (!misfit->fitting.isEmpty())
+        sentence += QLatin1Char(' ') + tr("With \"-o PageSize=%1\" it fits.").arg(misfit->fitting);
+    writeLine(err_, sentence);
 }
 
 void BatchPrint::print()

@@ -29,6 +29,7 @@ private:
     void takePrinterFailure(const QString& sentence);
     void takeDamage(const QString& sentence);
     void proceed();
+    void warnOfMisfit();
     void print();
     void takeStatus(const JobStatus& status, const QString& sentence);
     void takeOutcome(const PrintOutcome& outcome);

@@ -390,6 +390,11 @@ bool DialogSession::changeOption(const QString& key, const QVariant& value)
     return true;
 }
 
+std::optional<PageMisfit> DialogSession::pageMisfit() const
+{
+    return model_ && keeper_ ? findMisfit(*model_, keeper_->offer()) : std::nullopt;
+}
+
 void DialogSession::undoLastChange()
 {
     const QMap<QString, QString> before = history_.takeUndo();
@@ -471,8 +476,10 @@ void DialogSession::readOfferAgain()
             if (!self || self->host_ != host)
                 return;
             self->isReadingOffer_ = false;
-            if (isThere)
+            if (isThere) {
                 self->correct(self->keeper_->takeOffer(offer));
+                Q_EMIT self->offerChanged();
+            }
             if (std::exchange(self->readsOfferAgain_, false))
                 self->readOfferAgain();
         });

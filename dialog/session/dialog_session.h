@@ -3,6 +3,7 @@
 #include "dialog/adjust/look.h"
 #include "dialog/job/job_options.h"
 #include "dialog/job/print_run.h"
+#include "dialog/options/page_fit.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
 #include "dialog/server/printer_list.h"
@@ -86,6 +87,9 @@ public:
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
 
+    /// Why the chosen page size cannot be on the chosen paper; nothing if it can, or if nobody knows.
+    std::optional<PageMisfit> pageMisfit() const;
+
     /// Takes the last change that changed other options too back, with those. Nothing happens once one of
     /// them has been changed again.
     void undoLastChange();
@@ -132,6 +136,8 @@ Q_SIGNALS:
     void optionsCorrected(const QList<halvern::SideChange>& changes);
     /// undoLastChange() would do nothing any more.
     void undoExpired();
+    /// There is news of what the printer has loaded.
+    void offerChanged();
     /// Option values or the page have changed.
     void optionsChanged();
 

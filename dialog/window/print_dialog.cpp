@@ -31,6 +31,7 @@ namespace {
 const QString kPrinterMessages = QStringLiteral("printer");
 const QString kReasonMessage = QStringLiteral("printer/why");
 const QString kUndoMessage = QStringLiteral("printer/undo");
+const QString kMisfitMessage = QStringLiteral("printer/misfit");
 constexpr int kLongestName = 120;
 constexpr int kLongestState = 240;
 constexpr int kMessageMargins = 22;
@@ -257,6 +258,7 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::printerSelected, this, [this] {
         // What was told of the photos is still true.
         message_->withdraw(kPrinterMessages);
+        toldMisfit_.clear();
         clearOldOutcome();
         deck_->refresh();
         fillPrinters();
@@ -287,7 +289,9 @@ void PrintDialog::connectSession()
         clearOldOutcome();
         deck_->refresh();
         showPhotos();
+        showMisfit();
     });
+    connect(&session_, &DialogSession::offerChanged, this, &PrintDialog::showMisfit);
     connect(&session_, &DialogSession::undoExpired, this, [this] { message_->withdraw(kUndoMessage); });
 }
 
@@ -404,6 +408,25 @@ void PrintDialog::offerUndo(const QString& sentence)
 {
     message_->showMessage(MessageKind::information, sentence,
                           {tr("&Undo"), [this] { session_.undoLastChange(); }}, kUndoMessage);
+}
+
+// Told as long as it is true, but once only to somebody who has closed the message.
+void PrintDialog::showMisfit()
+{
+    const std::optional<PageMisfit> misfit = session_.pageMisfit();
+    const QString sentence = misfit ? misfit->sentence : QString();
+    if (sentence == toldMisfit_)
+        return;
+    toldMisfit_ = sentence;
+    if (!misfit) {
+        message_->withdraw(kMisfitMessage);
+        return;
+    }
+    MessageAction use;
+    if (!misfit->fitting.isEmpty())
+        use = {tr("Use %1").arg(QString(misfit->fittingText).replace(QLatin1Char('&'), QLatin1String("&&"))),
+               [this, page = misfit->fitting] { session_.changeOption(QStringLiteral("PageSize"), page); }};
+    message_->showMessage(MessageKind::warning, sentence, std::move(use), kMisfitMessage);
 }
 
 void PrintDialog::keyPressEvent(QKeyEvent* event)

@@ -73,6 +73,7 @@ private:
     void tellOfPrinter(MessageKind kind, const QString& sentence);
     void fillPrinters();
     void showPrinterState();
+    void showMisfit();
     void showPhotos();
     void step(int by);
     void showOtherChanges(const QList<SideChange>& changes);
@@ -108,6 +109,7 @@ private:
     QToolButton* forward_ = nullptr;
     QPointer<PrintRun> run_;
     PrintOutcome outcome_;
+    QString toldMisfit_;
     int current_ = 0;
     bool hasPrinted_ = false;
     bool previewIsBeside_ = true;

@@ -42,6 +42,7 @@ void PrintDialog::print()
         print_->setFocus(Qt::OtherFocusReason);
     delete run_;
     message_->clear();
+    toldMisfit_.clear();
     run_ = session_.makeRun();
     deck_->pausePanels();
     followRun();

@@ -534,6 +534,14 @@
         <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
         <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2 und %3 weitere (lpstat -e).</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>With "-o PageSize=%1" it fits.</source>
+        <translation>Mit „-o PageSize=%1“ passt es.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -870,6 +878,10 @@
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
         <translation>Ganze Sätze nacheinander: 1, 2, 3, 1, 2, 3</translation>
     </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -1122,6 +1134,17 @@
     <message>
         <source>Decrease</source>
         <translation>Verringern</translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size "%1" is wider than the roll (%2).</source>
+        <translation>Das Papierformat „%1“ ist breiter als die Rolle (%2).</translation>
+    </message>
+    <message>
+        <source>The paper size "%1" is larger than the paper "%2".</source>
+        <translation>Das Papierformat „%1“ ist größer als das Papier „%2“.</translation>
     </message>
 </context>
 </TS>

@@ -534,6 +534,14 @@
         <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
         <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2 y %3 más (lpstat -e).</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Aviso: %1</translation>
+    </message>
+    <message>
+        <source>With "-o PageSize=%1" it fits.</source>
+        <translation>Con «-o PageSize=%1» cabe.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -870,6 +878,10 @@
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
         <translation>Juegos completos, uno tras otro: 1, 2, 3, 1, 2, 3</translation>
     </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Usar %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -1122,6 +1134,17 @@
     <message>
         <source>Decrease</source>
         <translation>Reducir</translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size "%1" is wider than the roll (%2).</source>
+        <translation>El tamaño de papel «%1» es más ancho que el rollo (%2).</translation>
+    </message>
+    <message>
+        <source>The paper size "%1" is larger than the paper "%2".</source>
+        <translation>El tamaño de papel «%1» es mayor que el papel «%2».</translation>
     </message>
 </context>
 </TS>

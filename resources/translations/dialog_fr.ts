@@ -534,6 +534,14 @@
         <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
         <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2 et %3 de plus (lpstat -e).</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Attention : %1</translation>
+    </message>
+    <message>
+        <source>With "-o PageSize=%1" it fits.</source>
+        <translation>Avec « -o PageSize=%1 », cela convient.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -870,6 +878,10 @@
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
         <translation>Jeux complets l’un après l’autre : 1, 2, 3, 1, 2, 3</translation>
     </message>
+    <message>
+        <source>Use %1</source>
+        <translation>Utiliser %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -1122,6 +1134,17 @@
     <message>
         <source>Decrease</source>
         <translation>Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size "%1" is wider than the roll (%2).</source>
+        <translation>Le format de papier « %1 » est plus large que le rouleau (%2).</translation>
+    </message>
+    <message>
+        <source>The paper size "%1" is larger than the paper "%2".</source>
+        <translation>Le format de papier « %1 » est plus grand que le papier « %2 ».</translation>
     </message>
 </context>
 </TS>

@@ -534,6 +534,14 @@
         <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
         <translation>プリントサーバーに「%1」というプリンターはありません。あるもの: %2、ほか %3 台 (lpstat -e)。</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>警告: %1</translation>
+    </message>
+    <message>
+        <source>With "-o PageSize=%1" it fits.</source>
+        <translation>「-o PageSize=%1」なら収まります。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DialogSession</name>
@@ -870,6 +878,10 @@
         <source>Whole sets one after the other: 1, 2, 3, 1, 2, 3</source>
         <translation>一部ずつそろえて印刷: 1, 2, 3, 1, 2, 3</translation>
     </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 を使う</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -1122,6 +1134,17 @@
     <message>
         <source>Decrease</source>
         <translation>減らす</translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size "%1" is wider than the roll (%2).</source>
+        <translation>用紙サイズ「%1」はロール紙 (%2) の幅を超えています。</translation>
+    </message>
+    <message>
+        <source>The paper size "%1" is larger than the paper "%2".</source>
+        <translation>用紙サイズ「%1」は用紙「%2」より大きくなっています。</translation>
     </message>
 </context>
 </TS>

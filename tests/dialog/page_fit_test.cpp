@@ -1,0 +1,62 @@
+#include "dialog/options/page_fit.h"
+#include "tests/dialog/model_support.h"
+#include "tests/support/text.h"
+
+#include <gtest/gtest.h>
+
+namespace halvern {
+
+TEST(PageFit, TheSizeInASheetsNameIsReadWhereItIsPlain)
+{
+    struct Case {
+        const char* name;
+        QSizeF size; // invalid: none
+    };
+
+    for (const Case& c : {
+             Case{"Photo Gloss 102x152", {102, 152}},
+             Case{"Matte 127 x 177.8 mm", {127, 177.8}},
+             Case{"Photo Satin A4", {210, 297}},
+             Case{"A3 Photo Rag", {297, 420}},
+             Case{"Matte Postcard", {100, 148}},
+             Case{"Photo 13x18", {}},
+             Case{"As Loaded", {}},
+             Case{"Fine Art", {}},
+             Case{"", {}},
+         }) {
+        const std::optional<QSizeF> size = sizeInName(q(c.name));
+        EXPECT_EQ(size.value_or(QSizeF()), c.size) << c.name;
+    }
+}
+
+TEST(PageFit, APageThatCannotBeOnThePaperIsToldWithOneThatCan)
+{
+    PrinterOffer offer;
+    offer.papers.append({q("Wide Art"), {}, q("1016"), q("3"), {300}, {}});
+
+    struct Case {
+        std::vector<std::pair<const char*, const char*>> chosen;
+        const char* fitting; // empty: it fits
+    };
+
+    for (const Case& c : {
+             Case{{{"PaperFeed", "Roll"}, {"PaperWidth", "1524"}, {"PageSize", "A4"}}, "Roll1524x2032"},
+             Case{{{"PaperFeed", "Roll"}, {"PaperWidth", "1270"}, {"PageSize", "8x10"}}, "5x7"},
+             Case{{{"PaperFeed", "Roll"}, {"PaperWidth", "2100"}, {"PageSize", "A4"}}, ""},
+             Case{{{"PaperFeed", "Roll"}, {"PaperWidth", "1270"}, {"PageSize", "4x6"}}, ""},
+             Case{{{"PaperName", "PhotoGloss102x152"}, {"PageSize", "A4"}}, "4x6"},
+             Case{{{"PaperName", "Photo Satin 127x178"}, {"PageSize", "Custom.400x505"}}, "5x7"},
+             Case{{{"PaperName", "Photo Satin 127x178"}, {"PageSize", "5x7"}}, ""},
+             Case{{{"PaperName", "PhotoGlossA4"}, {"PageSize", "4x6"}}, ""},
+             Case{{{"PaperName", "Wide Art"}, {"PageSize", "A4"}}, "4x6"},
+             Case{{{"PaperName", "Loaded"}, {"PageSize", "A3"}}, ""},
+         }) {
+        const auto model = tessarinModel();
+        for (const auto& [key, choice] : c.chosen)
+            ASSERT_TRUE(model->change(q(key), q(choice)).accepted) << key << ' ' << choice;
+        const std::optional<PageMisfit> misfit = findMisfit(*model, offer);
+        EXPECT_EQ(misfit ? misfit->fitting : QString(), q(c.fitting)) << c.chosen.back().second;
+    }
+}
+
+} // namespace halvern
