@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace halvern {
 
 using ppd_lookup::NumberReading;
@@ -165,6 +167,7 @@ void DialogSession::leavePrinter()
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
+    undone_.clear();
     isReadingOffer_ = readsOfferAgain_ = false;
     backLinesProblem_.clear();
 }
@@ -326,6 +329,8 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
         tellPanels(side.key, side.choice);
     }
     keeper_->forget(key);
+    if (origin == ChangeOrigin::user)
+        undone_.remove(key);
     remember(key, before, origin, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
@@ -355,10 +360,17 @@ void DialogSession::tellChanges()
     history_.endGroup();
     if (changes.isEmpty())
         return;
-    if (history_.isUsers())
+    const bool wasUndone = std::ranges::all_of(changes, [this](const SideChange& change) {
+        return undone_.contains(change.key) && undone_.value(change.key) == change.before;
+    });
+    if (history_.isUsers()) {
         Q_EMIT otherOptionsChanged(changes);
-    else
+    } else if (wasUndone) {
+        history_.takeUndo();
+        Q_EMIT undoFailed(changes);
+    } else {
         Q_EMIT optionsCorrected(changes);
+    }
 }
 
 void DialogSession::storeInSettings(const QString& key)
@@ -401,6 +413,7 @@ void DialogSession::undoLastChange()
     if (!model_ || before.isEmpty())
         return;
     history_.endGroup();
+    undone_ = before;
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());

@@ -134,6 +134,8 @@ Q_SIGNALS:
     void otherOptionsChanged(const QList<halvern::SideChange>& changes);
     /// A panel has corrected what its printer cannot do.
     void optionsCorrected(const QList<halvern::SideChange>& changes);
+    /// What undoLastChange() put back was corrected again at once, and would be every time.
+    void undoFailed(const QList<halvern::SideChange>& changes);
     /// undoLastChange() would do nothing any more.
     void undoExpired();
     /// There is news of what the printer has loaded.
@@ -181,6 +183,7 @@ private:
     int filesLeft_ = 0;
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
+    QMap<QString, QString> undone_; // what was put back and has not been changed by the user since
     bool isTellingPanels_ = false;
     bool isReadingOffer_ = false;
     bool readsOfferAgain_ = false;

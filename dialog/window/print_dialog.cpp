@@ -284,6 +284,12 @@ void PrintDialog::connectSession()
             [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
     connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
     connect(&session_, &DialogSession::optionsCorrected, this, &PrintDialog::showCorrections);
+    connect(&session_, &DialogSession::undoFailed, this, [this](const QList<SideChange>& changes) {
+        message_->showMessage(
+            MessageKind::information,
+            tr("The printer cannot do what was chosen, so this stays: %1").arg(inWords(changes)), {},
+            kUndoMessage);
+    });
     connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
         clearOldOutcome();

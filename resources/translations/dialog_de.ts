@@ -882,6 +882,10 @@
         <source>Use %1</source>
         <translation>%1 verwenden</translation>
     </message>
+    <message>
+        <source>The printer cannot do what was chosen, so this stays: %1</source>
+        <translation>Der Drucker kann nicht, was gewählt war; deshalb bleibt es bei: %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>

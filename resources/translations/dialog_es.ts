@@ -882,6 +882,10 @@
         <source>Use %1</source>
         <translation>Usar %1</translation>
     </message>
+    <message>
+        <source>The printer cannot do what was chosen, so this stays: %1</source>
+        <translation>La impresora no puede hacer lo que se eligió, así que se mantiene: %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>

@@ -882,6 +882,10 @@
         <source>Use %1</source>
         <translation>Utiliser %1</translation>
     </message>
+    <message>
+        <source>The printer cannot do what was chosen, so this stays: %1</source>
+        <translation>L’imprimante ne peut pas faire ce qui a été choisi ; il en reste donc à : %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>

@@ -882,6 +882,10 @@
         <source>Use %1</source>
         <translation>%1 を使う</translation>
     </message>
+    <message>
+        <source>The printer cannot do what was chosen, so this stays: %1</source>
+        <translation>選ばれた内容はこのプリンターでは使えないため、次のままにします: %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
