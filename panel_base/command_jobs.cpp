@@ -1,16 +1,11 @@
 #include "panel_base/base_panel.h"
-#include "panel_base/command_file.h"
 #include "platform/plugin_api/host_callback.h"
+#include "platform/printing/command_job.h"
 #include "platform/printing/jobs.h"
 #include "platform/printing/patience.h"
 #include "platform/printing/printer.h"
 
 namespace halvern {
-
-QString commandFile(const QStringList& commands)
-{
-    return QStringLiteral("#CUPS-COMMAND\n%1\n").arg(commands.join(QLatin1Char('\n')));
-}
 
 void KSTRVLBasePDEHalvern::sendPrinterCommands(const QStringList& commands)
 {

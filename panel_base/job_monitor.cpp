@@ -1,8 +1,8 @@
 #include "panel_base/base_panel.h"
-#include "panel_base/job_watch.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/printing/job_watch.h"
 #include "platform/printing/jobs.h"
 #include "platform/printing/patience.h"
 

@@ -3,12 +3,12 @@
 #include "dialog/job/job_actions.h"
 #include "dialog/program/command_line.h"
 #include "dialog/program/paper_table.h"
+#include "dialog/program/printer_inquiry.h"
 #include "dialog/program/quit_signals.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
 #include "dialog/server/saved_options.h"
 #include "dialog/session/plugin_loader.h"
-#include "panels/features/inquiry/printer_inquiry.h"
 #include "platform/foundation/bundle.h"
 #include "platform/foundation/display_text.h"
 

@@ -1,6 +1,6 @@
-#include "panel_base/command_file.h"
 #include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/printing/command_job.h"
 #include "tests/panel_base/commands/command_panel.h"
 #include "tests/support/test.h"
 

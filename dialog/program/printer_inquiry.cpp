@@ -1,7 +1,7 @@
-#include "panels/features/inquiry/printer_inquiry.h"
+#include "dialog/program/printer_inquiry.h"
 
-#include "panel_base/command_file.h"
-#include "panel_base/job_watch.h"
+#include "platform/printing/command_job.h"
+#include "platform/printing/job_watch.h"
 
 #include <chrono>
 #include <thread>

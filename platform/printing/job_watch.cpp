@@ -1,4 +1,4 @@
-#include "panel_base/job_watch.h"
+#include "platform/printing/job_watch.h"
 
 namespace halvern {
 
