@@ -1,7 +1,6 @@
 #include "panel_base/base_panel.h"
 #include "platform/plugin_api/host_callback.h"
 #include "platform/printing/command_job.h"
-#include "platform/printing/jobs.h"
 #include "platform/printing/patience.h"
 #include "platform/printing/printer.h"
 
@@ -28,13 +27,10 @@ void KSTRVLBasePDEHalvern::sendCommandJob(const QStringList& commands)
     const QString destination = destinationName().value_or(QString());
     if (activeJobIDForDesinationName(destination) != 0)
         return;
-    jobs::Server server;
-    const int job = server.createJob(destination, QStringLiteral("Updating status ..."));
-    if (job > 0)
-        server.sendDocument(destination, job, QStringLiteral("CommandJob"), jobs::kCommandFormat,
-                            commandFile(commands).toUtf8());
+    CommandJob job(destination);
+    job.send(commands);
     // Without a job too: the watch does not find it, and the caller learns of the failure by the usual road.
-    waitForJobCompletion(job);
+    waitForJobCompletion(job.id());
 }
 
 void KSTRVLBasePDEHalvern::dsendPrinterCommands(const QStringList& commands)

@@ -2,8 +2,8 @@
 #include "platform/foundation/log.h"
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/printing/command_job.h"
 #include "platform/printing/job_watch.h"
-#include "platform/printing/jobs.h"
 #include "platform/printing/patience.h"
 
 #include <array>
@@ -39,11 +39,7 @@ struct KSTRVLBasePDEHalvern::WatchedJob {
 
 int KSTRVLBasePDEHalvern::activeJobIDForDesinationName(const QString& destination)
 {
-    for (const jobs::Job& job : activeJobs(destination)) {
-        if (job.state == jobs::kProcessing)
-            return job.id;
-    }
-    return 0;
+    return cups::askPatiently<int>([destination] { return CommandJob(destination).processingJob(); }, 0);
 }
 
 QString KSTRVLBasePDEHalvern::stringForCupsJobState(int state)
@@ -80,38 +76,19 @@ void KSTRVLBasePDEHalvern::waitForJobCompletion(int jobID)
 
 void KSTRVLBasePDEHalvern::watch(WatchedJob& job)
 {
-    jobs::Server server;
-    const QString destination = QString::fromUtf8(job.destination.get());
-    JobWatch state(job.id);
-    for (;;) {
-        switch (state.step()) {
-        case JobWatch::Step::lookAtUnloadFlag:
-            state.looked(job.unloadFlag);
-            break;
-        case JobWatch::Step::askForActiveJobs:
-            state.gotActiveJobs(server.jobs(destination, jobs::Which::active));
-            break;
-        case JobWatch::Step::sleep:
-            state.slept(usleep(kPollInterval));
-            break;
-        case JobWatch::Step::askForCompletedJobs:
-            // A server that has just been silent is not waited for twice.
-            state.gotCompletedJobs(server.wasSilent() ? jobs::JobList()
-                                                      : server.jobs(destination, jobs::Which::completed));
-            break;
-        case JobWatch::Step::bailOut:
-            server.cancelAndPurge(destination, job.id);
-            return job.panel->watchDidBailOut();
-        case JobWatch::Step::reportUpdate:
-            job.destination.reset();
-            job.panel->ppdDidUpdate();
-            return job.panel->watchDidEnd(job);
-        case JobWatch::Step::reportAbort:
-            job.destination.reset();
-            job.panel->ppdUpdateDidAbort();
-            return job.panel->watchDidEnd(job);
-        }
+    CommandJob command(QString::fromUtf8(job.destination.get()), job.id);
+    const CommandJob::End end = command.watch([&] { return !job.unloadFlag || *job.unloadFlag; },
+                                              [] { return usleep(kPollInterval) == 0; });
+    if (end == CommandJob::End::enough) {
+        command.takeBack();
+        return job.panel->watchDidBailOut();
     }
+    job.destination.reset();
+    if (end == CommandJob::End::completed)
+        job.panel->ppdDidUpdate();
+    else
+        job.panel->ppdUpdateDidAbort();
+    job.panel->watchDidEnd(job);
 }
 
 void KSTRVLBasePDEHalvern::watchDidBailOut()

@@ -7,9 +7,9 @@ bool isUnderWay(int jobState)
     return jobState == jobs::kPending || jobState == jobs::kProcessing;
 }
 
-void JobWatch::looked(const std::atomic<bool>* unloadFlag)
+void JobWatch::looked(bool isEnough)
 {
-    step_ = !unloadFlag || *unloadFlag ? Step::bailOut : Step::askForActiveJobs;
+    step_ = isEnough ? Step::endEnough : Step::askForActiveJobs;
 }
 
 void JobWatch::gotActiveJobs(const jobs::JobList& list)
@@ -18,15 +18,15 @@ void JobWatch::gotActiveJobs(const jobs::JobList& list)
     if (state_ == 0)
         step_ = Step::askForCompletedJobs;
     else if (isUnderWay(state_))
-        step_ = Step::sleep;
+        step_ = Step::pause;
     else
         end(state_);
 }
 
-void JobWatch::slept(int result)
+void JobWatch::paused(bool whole)
 {
-    if (result == 0)
-        step_ = Step::lookAtUnloadFlag;
+    if (whole)
+        step_ = Step::lookWhetherEnough;
     else
         end(state_);
 }
@@ -38,7 +38,7 @@ void JobWatch::gotCompletedJobs(const jobs::JobList& list)
 
 void JobWatch::end(int state)
 {
-    step_ = state == jobs::kCompleted ? Step::reportUpdate : Step::reportAbort;
+    step_ = state == jobs::kCompleted ? Step::endCompleted : Step::endFailed;
 }
 
 } // namespace halvern

@@ -2,34 +2,31 @@
 
 #include "platform/printing/jobs.h"
 
-#include <atomic>
-
 namespace halvern {
 
 /// How a command job is watched until it ends: the decisions, without the waiting. step() says what is to be
-/// done next; the operation of that step is told the result.
+/// done next; the operation of that step is told the result. One thread at a time; nothing here blocks.
 class JobWatch {
 public:
     enum class Step {
-        lookAtUnloadFlag,
+        lookWhetherEnough,
         askForActiveJobs,
-        sleep,
+        pause,
         askForCompletedJobs,
-        /// The ends: cancel the job and call no hook; the job has completed; it has not.
-        bailOut,
-        reportUpdate,
-        reportAbort,
+        /// The ends: who watches has had enough; the job has completed; it has not.
+        endEnough,
+        endCompleted,
+        endFailed,
     };
 
     explicit JobWatch(int jobId) : jobId_(jobId) {}
 
     Step step() const { return step_; }
 
-    /// A null flag counts as set.
-    void looked(const std::atomic<bool>* unloadFlag);
+    void looked(bool isEnough);
     void gotActiveJobs(const jobs::JobList& list);
-    /// `result` is usleep's: not 0 if a signal cut the sleep short.
-    void slept(int result);
+    /// False if the pause was cut short.
+    void paused(bool whole);
     void gotCompletedJobs(const jobs::JobList& list);
 
 private:
@@ -37,7 +34,7 @@ private:
 
     int jobId_;
     int state_ = 0;
-    Step step_ = Step::lookAtUnloadFlag;
+    Step step_ = Step::lookWhetherEnough;
 };
 
 /// Whether a job in the state may still run without anybody's doing.

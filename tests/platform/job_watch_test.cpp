@@ -11,54 +11,43 @@ constexpr int kWatched = 7;
 
 JobWatch watchOf(const jobs::JobList& activeJobs)
 {
-    static const std::atomic<bool> clear = false;
     JobWatch watch(kWatched);
-    watch.looked(&clear);
+    watch.looked(false);
     watch.gotActiveJobs(activeJobs);
     return watch;
 }
 
 } // namespace
 
-TEST(JobWatchTest, LooksAtTheFlagBeforeEachPollAndBailsOutWhenItIsSetOrMissing)
+TEST(JobWatchTest, LooksBeforeEachPollAndStopsWhenItIsEnough)
 {
-    std::atomic<bool> flag = false;
     JobWatch watch(kWatched);
-    EXPECT_EQ(watch.step(), Step::lookAtUnloadFlag);
-    watch.looked(&flag);
+    EXPECT_EQ(watch.step(), Step::lookWhetherEnough);
+    watch.looked(false);
     EXPECT_EQ(watch.step(), Step::askForActiveJobs);
     watch.gotActiveJobs({{kWatched, jobs::kPending}});
-    EXPECT_EQ(watch.step(), Step::sleep);
-    watch.slept(0);
-    EXPECT_EQ(watch.step(), Step::lookAtUnloadFlag);
-    // Set and cleared between two polls, it was never set.
-    flag = true;
-    flag = false;
-    watch.looked(&flag);
-    EXPECT_EQ(watch.step(), Step::askForActiveJobs);
-    flag = true;
-    watch.looked(&flag);
-    EXPECT_EQ(watch.step(), Step::bailOut);
+    EXPECT_EQ(watch.step(), Step::pause);
+    watch.paused(true);
+    EXPECT_EQ(watch.step(), Step::lookWhetherEnough);
+    watch.looked(true);
+    EXPECT_EQ(watch.step(), Step::endEnough);
     JobWatch interrupted = watchOf({{kWatched, jobs::kProcessing}});
-    interrupted.slept(-1);
-    EXPECT_EQ(interrupted.step(), Step::reportAbort);
-    JobWatch orphan(kWatched);
-    orphan.looked(nullptr);
-    EXPECT_EQ(orphan.step(), Step::bailOut);
+    interrupted.paused(false);
+    EXPECT_EQ(interrupted.step(), Step::endFailed);
 }
 
 TEST(JobWatchTest, AnActiveJobSleepsEndsTheWatchOrIsLookedForAmongTheCompleted)
 {
     const std::pair<int, Step> expected[] = {
         {0, Step::askForCompletedJobs},
-        {jobs::kPending, Step::sleep},
-        {jobs::kHeld, Step::reportAbort},
-        {jobs::kProcessing, Step::sleep},
-        {jobs::kStopped, Step::reportAbort},
-        {jobs::kCanceled, Step::reportAbort},
-        {jobs::kAborted, Step::reportAbort},
-        {jobs::kCompleted, Step::reportUpdate},
-        {10, Step::reportAbort},
+        {jobs::kPending, Step::pause},
+        {jobs::kHeld, Step::endFailed},
+        {jobs::kProcessing, Step::pause},
+        {jobs::kStopped, Step::endFailed},
+        {jobs::kCanceled, Step::endFailed},
+        {jobs::kAborted, Step::endFailed},
+        {jobs::kCompleted, Step::endCompleted},
+        {10, Step::endFailed},
     };
     for (const auto& [state, step] : expected)
         EXPECT_EQ(watchOf({{3, jobs::kProcessing}, {kWatched, state}}).step(), step) << state;
@@ -69,11 +58,11 @@ TEST(JobWatchTest, AnActiveJobSleepsEndsTheWatchOrIsLookedForAmongTheCompleted)
 TEST(JobWatchTest, AmongTheCompletedJobsOnlyTheCompletedIsASuccess)
 {
     const std::pair<jobs::JobList, Step> expected[] = {
-        {{{3, jobs::kCanceled}, {kWatched, jobs::kCompleted}}, Step::reportUpdate},
-        {{{kWatched, jobs::kCanceled}}, Step::reportAbort},
-        {{{kWatched, jobs::kAborted}}, Step::reportAbort},
-        {{{3, jobs::kCompleted}}, Step::reportAbort},
-        {{}, Step::reportAbort},
+        {{{3, jobs::kCanceled}, {kWatched, jobs::kCompleted}}, Step::endCompleted},
+        {{{kWatched, jobs::kCanceled}}, Step::endFailed},
+        {{{kWatched, jobs::kAborted}}, Step::endFailed},
+        {{{3, jobs::kCompleted}}, Step::endFailed},
+        {{}, Step::endFailed},
     };
     for (const auto& [completed, step] : expected) {
         JobWatch watch = watchOf({});
