@@ -1,15 +1,12 @@
 #include "dialog/session/dialog_session.h"
 
-#include "dialog/options/back_lines.h"
-#include "platform/foundation/threads/work_queue.h"
+#include "dialog/session/starting_options.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
 #include "platform/printing/printer.h"
 #include "platform/toolkit/user_action.h"
 
 #include <QFileInfo>
-#include <QPointer>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -23,11 +20,6 @@ constexpr int kUsualResolution = 300;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 const QString kPaperFeed = QStringLiteral("PaperFeed");
 
-PrinterOffer offerOf(const QueuePpd& ppd)
-{
-    return ppd.file && *ppd.file ? readPrinterOffer(ppd.file->get()) : PrinterOffer();
-}
-
 PageRect toPageRect(const QRectF& rect)
 {
     return {rect.top(), rect.left(), rect.bottom(), rect.right()};
@@ -38,156 +30,67 @@ PageRect toPageRect(const QRectF& rect)
 DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObject* parent)
     : QObject(parent),
       request_(std::move(request)),
-      panelSource_(panels),
-      saved_(readSavedOptions()),
-      printers_(new PrinterList(this)),
-      settings_(std::make_shared<PrintSettings>()),
-      stopFetching_(cups::makeCancelFlag()),
-      stopAll_(cups::makeCancelFlag())
+      photos_(request_.files, request_.printDamaged),
+      printer_(request_),
+      panels_(panels),
+      settings_(std::make_shared<PrintSettings>())
 {
     page_.copies = request_.copies;
-    filesLeft_ = int(request_.files.size());
-    connect(printers_, &PrinterList::changed, this, &DialogSession::takePrinters);
+    connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
+    connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
+    connect(&photos_, &PhotoLoader::damaged, this, &DialogSession::photoDamaged);
+    connect(&printer_, &PrinterChoice::leaving, this, &DialogSession::leavePrinter);
+    connect(&printer_, &PrinterChoice::selected, this, &DialogSession::printerSelected);
+    connect(&printer_, &PrinterChoice::notice, this, &DialogSession::notice);
+    connect(&printer_, &PrinterChoice::fetched, this, &DialogSession::takePrinter);
+    connect(&printer_, &PrinterChoice::offerRead, this, &DialogSession::takeOffer);
 }
 
 DialogSession::~DialogSession()
 {
-    stopAll_->store(true);
     leavePrinter();
 }
 
 void DialogSession::start()
 {
-    printers_->start();
-    // A known name need not wait for the list.
-    startedWith_ = request_.printer.isEmpty() ? saved_.defaultPrinter : request_.printer;
-    if (!startedWith_.isEmpty())
-        selectPrinter(queueOf(startedWith_));
-    QPointer<DialogSession> self(this);
-    const WorkQueue queue;
-    for (const QString& path : request_.files) {
-        queue.async([self, path, stop = stopAll_] {
-            if (stop->load())
-                return;
-            PhotoFile file = readPhotoFile(path);
-            mainQueue().async([self, file = std::move(file)] {
-                if (self)
-                    self->takePhotoFile(file);
-            });
-        });
-    }
-}
-
-void DialogSession::takePhotoFile(const PhotoFile& file)
-{
-    --filesLeft_;
-    photos_.insert(photos_.end(), file.pages.begin(), file.pages.end());
-    if (!file.problem.isEmpty() && file.pages.empty()) {
-        Q_EMIT photoFailed(file.problem);
-    } else if (!file.problem.isEmpty()) {
-        if (!request_.printDamaged)
-            damagedFiles_.append(file.problem);
-        Q_EMIT photoDamaged(file.problem);
-    }
-    Q_EMIT photosChanged();
+    printer_.start();
+    photos_.start();
 }
 
 void DialogSession::setPosition(size_t photo, const QPointF& position)
 {
-    if (photo < photos_.size())
-        photos_[photo].position = position;
+    photos_.setPosition(photo, position);
     Q_EMIT optionsChanged();
-}
-
-void DialogSession::settleDamaged(bool print)
-{
-    damagedFiles_.clear();
-    if (!print) {
-        std::erase_if(photos_, [](const Photo& photo) { return photo.isDamaged; });
-        Q_EMIT photosChanged();
-    }
-}
-
-void DialogSession::takePrinters()
-{
-    const bool isLost = request_.printer.isEmpty() && request_.replacesLostDefault && !model_ &&
-                        printerName_ == queueOf(startedWith_) && !printers_->find(printerName_);
-    if ((!printerName_.isEmpty() && !isLost) || printers_->printers().empty())
-        return;
-    const QString lost = printerName_;
-    const QString standard = printers_->serverDefault();
-    selectPrinter(printers_->find(standard) ? standard : printers_->printers().front().name);
-    if (!lost.isEmpty())
-        Q_EMIT notice(
-            tr("Your default printer \"%1\" is none of the print server's. \"%2\" was chosen instead.")
-                .arg(lost, printerName_));
-}
-
-void DialogSession::selectPrinter(const QString& name)
-{
-    if (name == printerName_ && model_)
-        return;
-    stopFetching_->store(true);
-    leavePrinter();
-    printerName_ = name;
-    stopFetching_ = cups::makeCancelFlag();
-    Q_EMIT printerSelected(name);
-    const PrinterInfo* info = printers_->find(name);
-    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
-    QPointer<DialogSession> self(this);
-    WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
-        QueuePpd ppd;
-        if (!newQueueUri.isEmpty())
-            ppd.problem = createLocalQueue(name, newQueueUri, stop);
-        if (ppd.problem.isEmpty())
-            ppd = fetchQueuePpd(name, stop);
-        // Here, because a PPD may have ten thousand options.
-        auto model = ppd.file ? std::make_shared<PpdModel>(std::move(*ppd.file)) : nullptr;
-        const PrinterOffer offer = model ? readPrinterOffer(model->file()) : PrinterOffer();
-        mainQueue().async([self, name, offer, ppd = std::move(ppd), model = std::move(model), stop] {
-            if (self && !stop->load())
-                self->takePpd(name, ppd, model, offer);
-        });
-    });
 }
 
 void DialogSession::leavePrinter()
 {
-    if (!panels_.empty() || model_)
+    if (hasCustomPanels() || model_)
         Q_EMIT printerLeaving();
-    // Nothing is asked of the printer any more, and what is asked is taken back, before it is out of reach.
-    for (const std::shared_ptr<Panel>& panel : PanelList(panels_))
-        panel->shouldHide();
-    if (host_)
-        host_->detach();
-    panels_.clear();
-    host_.reset();
+    panels_.leave();
     keeper_.reset();
     model_.reset();
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
     undone_.clear();
-    isReadingOffer_ = readsOfferAgain_ = false;
     backLinesProblem_.clear();
 }
 
-void DialogSession::takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model,
-                            const PrinterOffer& offer)
+void DialogSession::takePrinter(const FetchedPrinter& printer)
 {
-    if (!model) {
+    const QueuePpd& ppd = printer.ppd;
+    if (!printer.model) {
         Q_EMIT printerFailed(ppd.problem);
         return;
     }
-    model_ = std::move(model);
-    model_->setWords([this](const QString& text) {
-        return panels_.empty() ? text : panelSource_.localized(bundleName_, text);
-    });
+    model_ = printer.model;
+    model_->setWords([this](const QString& text) { return panels_.localized(text); });
     // Not from the list, which may come later: a panel asks once and remembers.
-    host_ = std::make_shared<PanelHost>(*this, std::make_shared<Printer>(name, ppd.deviceUri),
-                                        model_->sharedFile(), request_.panelsAskPrinter);
+    panels_.meet(std::make_shared<PanelHost>(*this, std::make_shared<Printer>(printerName(), ppd.deviceUri),
+                                             model_->sharedFile(), request_.panelsAskPrinter));
     applyOptions(ppd.defaults, ppd.jobSheets);
-    keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, offer);
+    keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, printer.offer);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
@@ -196,34 +99,33 @@ void DialogSession::takePpd(const QString& name, const QueuePpd& ppd, std::share
 void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
 {
     const QMap<QString, QString> byDefault = model_->values();
-    const QString savedFor = printerName_ == queueOf(startedWith_) ? startedWith_ : printerName_;
-    const UnderstoodOptions given =
-        understand(model_->file(), givenBy(OptionOrigin::queue, queueDefaults) +
-                                       givenBy(OptionOrigin::saved, saved_.optionsOf(savedFor)) +
-                                       givenBy(OptionOrigin::typed, request_.options));
-    takeWishes(given.page);
-    const ApplyResult result = model_->apply(given.options);
-    for (const LeftOut& left : given.leftOut + result.leftOut) {
+    const StartingOptions start =
+        applyGiven(*model_, givenBy(OptionOrigin::queue, queueDefaults) +
+                                givenBy(OptionOrigin::saved, printer_.savedOptions()) +
+                                givenBy(OptionOrigin::typed, request_.options));
+    takeWishes(start.page);
+    for (const LeftOut& left : start.leftOut) {
         if (left.origin == OptionOrigin::typed)
             Q_EMIT refused(left.sentence);
         else
             Q_EMIT notice(tr("A saved setting was left out. %1").arg(left.sentence));
     }
-    for (const SettledOption& settled : result.settled) {
-        history_.endGroup();
-        remember(settled.key, settled.before, ChangeOrigin::user, settled.sideChanges);
+    for (const SettledOption& settled : start.settled)
+        rememberStart(settled);
+    const AppliedLines lines = applyBackLines(*model_, request_.backLines, printerName());
+    for (const QString& refusal : lines.refusals) {
+        backLinesProblem_ = refusal;
+        Q_EMIT refused(refusal);
     }
-    applyBackLines();
-    // What the queue would add by itself is the panels' to see and to change.
-    if (!queueJobSheets.isEmpty())
-        settings_->setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
-    // A panel that looks at the settings only, and not at the marks, must find what was chosen before it
-    // came: it would save the PPD's default over it.
-    const QMap<QString, QString> values = model_->values();
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        if (model_->isKept(it.key()) || byDefault.value(it.key()) != it.value())
-            settings_->setValue(it.key(), it.value(), false);
-    }
+    for (const SettledOption& settled : lines.settled)
+        rememberStart(settled);
+    storeStart(*model_, byDefault, queueJobSheets, *settings_);
+}
+
+void DialogSession::rememberStart(const SettledOption& settled)
+{
+    history_.endGroup();
+    remember(settled.key, settled.before, ChangeOrigin::user, settled.sideChanges);
 }
 
 // Once: what the user sets afterwards is not taken back by the next printer.
@@ -238,57 +140,23 @@ void DialogSession::takeWishes(const PageWishes& wishes)
     page_.isCollated = wishes.isCollated.value_or(page_.isCollated);
 }
 
-void DialogSession::applyBackLines()
-{
-    for (int number = 1; number <= request_.backLines.size(); ++number) {
-        if (model_->value(backLineSwitch(number)).isEmpty()) {
-            backLinesProblem_ = tr("The printer \"%1\" prints no text on the back of a picture. Leave "
-                                   "--backprint out, or choose another printer.")
-                                    .arg(printerName_);
-            Q_EMIT refused(backLinesProblem_);
-            return;
-        }
-    }
-    for (const OptionValue& option : backLineOptions(request_.backLines)) {
-        const QString before = model_->value(option.key);
-        const ChangeResult result = model_->change(option.key, option.value);
-        if (!result.accepted) {
-            backLinesProblem_ = result.refusal;
-            Q_EMIT refused(result.refusal);
-        }
-        history_.endGroup();
-        remember(option.key, before, ChangeOrigin::user, result.sideChanges);
-    }
-}
-
 void DialogSession::loadPanels()
 {
     const std::optional<QString> bundle =
         ppd::attribute(model_->file(), QString::fromLatin1(kExtensionKeyword));
     if (!bundle || bundle->isEmpty())
         return;
-    QString problem;
-    bundleName_ = *bundle;
-    panels_ = panelSource_.panels(*bundle, host_, &problem);
-    if (!problem.isEmpty())
+    if (const QString problem = panels_.load(*bundle); !problem.isEmpty())
         Q_EMIT notice(problem);
-    // A restoring panel may ask for changes, which walk this list.
-    const PanelList restoring = panels_;
-    for (const std::shared_ptr<Panel>& panel : restoring) {
-        // The panel of the papers makes its view soon anyway, and settles on a feed then. Made now, the view
-        // shows what is chosen before the papers come.
-        if (request_.panelsChangeOptions && panel->supportedPPDOptionKeys().contains(kPaperFeed))
-            panel->panelView();
-        panel->restoreValuesAndReturnError(nullptr);
-    }
+    // The panel of the papers makes its view soon anyway, and settles on a feed then. Made now, the view
+    // shows what is chosen before the papers come.
+    panels_.restore(request_.panelsChangeOptions ? kPaperFeed : QString());
 }
 
 void DialogSession::setPage(const PageSettings& page)
 {
-    if (page.scaling != page_.scaling) {
-        for (Photo& photo : photos_)
-            photo.position = Photo().position;
-    }
+    if (page.scaling != page_.scaling)
+        photos_.centre();
     page_ = page;
     Q_EMIT optionsChanged();
 }
@@ -326,7 +194,7 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
     storeInSettings(key);
     for (const SideChange& side : result.sideChanges) {
         storeInSettings(side.key);
-        tellPanels(side.key, side.choice);
+        panels_.tell(side.key, side.choice);
     }
     keeper_->forget(key);
     if (origin == ChangeOrigin::user)
@@ -347,11 +215,7 @@ void DialogSession::remember(const QString& key, const QString& before, ChangeOr
     if (effect != ChangeHistory::Effect::toTell)
         return;
     // Together with what else follows from the same cause.
-    QPointer<DialogSession> self(this);
-    mainQueue().async([self, host = host_] {
-        if (self && self->host_ == host)
-            self->tellChanges();
-    });
+    panels_.later([this] { tellChanges(); });
 }
 
 void DialogSession::tellChanges()
@@ -378,27 +242,13 @@ void DialogSession::storeInSettings(const QString& key)
     settings_->setValue(key, model_->isKept(key) ? QVariant(model_->value(key)) : QVariant(), false);
 }
 
-void DialogSession::tellPanels(const QString& key, const QString& choice)
-{
-    // Later, because a panel that asked for the change stores its own choice only after our answer.
-    QPointer<DialogSession> self(this);
-    mainQueue().async([self, host = host_, key, choice] {
-        if (!self || self->host_ != host)
-            return;
-        const QScopedValueRollback<bool> telling(self->isTellingPanels_, true);
-        const PanelList told = self->panels_;
-        for (const std::shared_ptr<Panel>& panel : told)
-            panel->PPDOptionKeyValueDidChange_ppdChoice(key, choice);
-    });
-}
-
 bool DialogSession::changeOption(const QString& key, const QVariant& value)
 {
     history_.endGroup();
     if (!model_ || !change(key, value, NumberReading::whole, ChangeOrigin::user).accepted)
         return false;
     history_.endGroup();
-    tellPanels(key, model_->value(key));
+    panels_.tell(key, model_->value(key));
     return true;
 }
 
@@ -417,7 +267,7 @@ void DialogSession::undoLastChange()
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
-        tellPanels(it.key(), it.value());
+        panels_.tell(it.key(), it.value());
     }
     Q_EMIT optionsChanged();
 }
@@ -442,7 +292,9 @@ bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 bool DialogSession::takeProposal(const QString& key, const QVariant& choice)
 {
     const PaperKeeper::Answer answer = keeper_->judge(key, valueText(choice));
-    readOfferAgain();
+    // A panel that proposes something by itself has read its papers, so there may be news of them.
+    if (!panels_.isTelling() && request_.panelsAskPrinter)
+        printer_.readOfferAgain();
     if (answer == PaperKeeper::Answer::refuse) {
         handBack(key);
         return false;
@@ -456,8 +308,8 @@ bool DialogSession::takeProposal(const QString& key, const QVariant& choice)
 void DialogSession::handBack(const QString& key)
 {
     // What it says to that is its last word.
-    if (!isTellingPanels_)
-        tellPanels(key, model_->value(key));
+    if (!panels_.isTelling())
+        panels_.tell(key, model_->value(key));
 }
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
@@ -466,69 +318,42 @@ std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
         return nullptr;
     const SheetGeometry sheet = model_->sheet();
     const bool turned =
-        photos_.empty() ? page_.turn == PageTurn::landscape : layoutFor(photos_.front()).turned;
+        photos().empty() ? page_.turn == PageTurn::landscape : layoutFor(photos().front()).turned;
     return std::make_shared<PageFormat>(toPageRect(QRectF(QPointF(), sheet.paper)),
                                         toPageRect(sheet.imageable),
                                         turned ? PageOrientation::landscape : PageOrientation::portrait);
 }
 
-// A panel that proposes something by itself has read its papers, so there may be news of them.
-void DialogSession::readOfferAgain()
+void DialogSession::takeOffer(const PrinterOffer& offer)
 {
-    if (isTellingPanels_ || !request_.panelsAskPrinter)
-        return;
-    if (isReadingOffer_) {
-        readsOfferAgain_ = true;
-        return;
-    }
-    isReadingOffer_ = true;
-    QPointer<DialogSession> self(this);
-    WorkQueue().async([self, name = printerName_, host = host_, stop = stopFetching_] {
-        const QueuePpd ppd = fetchQueuePpd(name, stop);
-        mainQueue().async([self, host, offer = offerOf(ppd), isThere = ppd.file != nullptr] {
-            if (!self || self->host_ != host)
-                return;
-            self->isReadingOffer_ = false;
-            if (isThere) {
-                self->correct(self->keeper_->takeOffer(offer));
-                Q_EMIT self->offerChanged();
-            }
-            if (std::exchange(self->readsOfferAgain_, false))
-                self->readOfferAgain();
-        });
-    });
-}
-
-void DialogSession::correct(const OptionValues& overdue)
-{
+    const OptionValues overdue = keeper_->takeOffer(offer);
     for (const OptionValue& option : overdue) {
         if (change(option.key, option.value, NumberReading::whole, ChangeOrigin::rule).accepted)
-            tellPanels(option.key, model_->value(option.key));
+            panels_.tell(option.key, model_->value(option.key));
     }
+    Q_EMIT offerChanged();
 }
 
 bool DialogSession::canPrint() const
 {
-    return model_ && filesLeft_ == 0 && !photos_.empty();
+    return model_ && photos_.isDone() && !photos().empty();
 }
 
 OptionValues DialogSession::collectOptions()
 {
-    const PanelList saving = panels_;
-    for (const std::shared_ptr<Panel>& panel : saving)
-        panel->saveValuesAndReturnError(nullptr);
+    panels_.save();
     // A name that the panels were not shown cannot have been changed by them.
     if (keeper_)
         keeper_->showSheetName();
     return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
-                            page_.copies, int(photos_.size()), page_.isCollated});
+                            page_.copies, int(photos().size()), page_.isCollated});
 }
 
 PrintRun* DialogSession::makeRun()
 {
-    JobRequest job{printerName_, QFileInfo(photos_.front().path).fileName(), collectOptions()};
+    JobRequest job{printerName(), QFileInfo(photos().front().path).fileName(), collectOptions()};
     std::vector<PageToPrint> pages;
-    for (const Photo& photo : photos_)
+    for (const Photo& photo : photos())
         pages.push_back({photo, layoutFor(photo)});
     return new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
 }

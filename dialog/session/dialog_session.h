@@ -6,13 +6,11 @@
 #include "dialog/options/page_fit.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
-#include "dialog/server/printer_list.h"
-#include "dialog/server/queue_ppd.h"
 #include "dialog/session/change_history.h"
-#include "dialog/session/panel_host.h"
-#include "dialog/session/panel_source.h"
 #include "dialog/session/paper_keeper.h"
-#include "dialog/session/session_request.h"
+#include "dialog/session/photo_loader.h"
+#include "dialog/session/printer_choice.h"
+#include "dialog/session/printer_panels.h"
 
 #include <QObject>
 
@@ -26,8 +24,8 @@ struct PageSettings {
     bool isCollated = true;
 };
 
-/// Everything about one print dialog that is not a widget: photos, printer, options, panels and the job. Main
-/// thread only; what blocks is done by workers.
+/// Everything about one print dialog that is not a widget: how photos, printer, options and panels come
+/// together, and the job that comes of them. Main thread only; what blocks is done by workers.
 class DialogSession : public QObject, public HostSource {
     Q_OBJECT
 
@@ -39,35 +37,35 @@ public:
     /// Starts to load photos and printers.
     void start();
 
-    PrinterList& printerList() { return *printers_; }
+    PrinterList& printerList() { return printer_.list(); }
 
-    const QString& printerName() const { return printerName_; }
+    const QString& printerName() const { return printer_.name(); }
 
-    const std::vector<Photo>& photos() const { return photos_; }
+    const std::vector<Photo>& photos() const { return photos_.photos(); }
 
     /// Moves the cut or the place of one photo: 0 to 1 each way.
     void setPosition(size_t photo, const QPointF& position);
 
     /// A sentence for each file of which a part is missing. They print only if the user says so: ask before
     /// makeRun(), and settle it.
-    const QStringList& damagedFiles() const { return damagedFiles_; }
+    const QStringList& damagedFiles() const { return photos_.damagedFiles(); }
 
     /// What the user says: the damaged photos print as they are, or are left out.
-    void settleDamaged(bool print);
+    void settleDamaged(bool print) { photos_.settleDamaged(print); }
 
     /// Whether all files have been read.
-    bool hasPhotos() const { return filesLeft_ == 0; }
+    bool hasPhotos() const { return photos_.isDone(); }
 
     /// Null while no printer's PPD is there.
     PpdModel* model() { return model_.get(); }
 
-    const PanelList& panels() const { return panels_; }
+    const PanelList& panels() const { return panels_.list(); }
 
-    bool hasCustomPanels() const { return !panels_.empty(); }
+    bool hasCustomPanels() const { return !panels_.list().empty(); }
 
     /// Selects a queue and fetches its PPD; printerReady() or printerFailed() follows. Selecting the selected
     /// one again does nothing.
-    void selectPrinter(const QString& name);
+    void selectPrinter(const QString& name) { printer_.select(name); }
 
     const PageSettings& page() const { return page_; }
 
@@ -144,14 +142,12 @@ Q_SIGNALS:
     void optionsChanged();
 
 private:
-    void takePrinters();
-    void takePpd(const QString& name, const QueuePpd& ppd, std::shared_ptr<PpdModel> model,
-                 const PrinterOffer& offer);
-    void takePhotoFile(const PhotoFile& file);
+    void takePrinter(const FetchedPrinter& printer);
+    void takeOffer(const PrinterOffer& offer);
     void leavePrinter();
     void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
     void takeWishes(const PageWishes& wishes);
-    void applyBackLines();
+    void rememberStart(const SettledOption& settled);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
                         ChangeOrigin origin);
@@ -159,37 +155,21 @@ private:
                   const QList<SideChange>& others);
     void tellChanges();
     void storeInSettings(const QString& key);
-    void tellPanels(const QString& key, const QString& choice);
     bool takeProposal(const QString& key, const QVariant& choice);
     void handBack(const QString& key);
-    void readOfferAgain();
-    void correct(const OptionValues& overdue);
 
     SessionRequest request_;
-    PanelSource& panelSource_;
-    SavedOptions saved_;
-    PrinterList* printers_;
-    QString printerName_;
-    QString startedWith_; ///< a queue or an instance; empty if nobody named one
+    PhotoLoader photos_;
+    PrinterChoice printer_;
+    PrinterPanels panels_;
     std::shared_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
-    std::shared_ptr<PanelHost> host_;
-    PanelList panels_;
-    QString bundleName_; // of the panels
     PageSettings page_;
     bool hasTakenWishes_ = false;
-    std::vector<Photo> photos_;
-    QStringList damagedFiles_;
-    int filesLeft_ = 0;
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
     QMap<QString, QString> undone_; // what was put back and has not been changed by the user since
-    bool isTellingPanels_ = false;
-    bool isReadingOffer_ = false;
-    bool readsOfferAgain_ = false;
     QString backLinesProblem_;
-    cups::CancelFlag stopFetching_;
-    cups::CancelFlag stopAll_;
 };
 
 } // namespace halvern

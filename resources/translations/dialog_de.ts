@@ -549,14 +549,6 @@
         <source>A saved setting was left out. %1</source>
         <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
     </message>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>Der Drucker „%1“ druckt keinen Text auf die Rückseite. Lassen Sie --backprint weg oder wählen Sie einen anderen Drucker.</translation>
-    </message>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
-    </message>
 </context>
 <context>
     <name>halvern::MessageBar</name>
@@ -1149,6 +1141,20 @@
     <message>
         <source>The paper size "%1" is larger than the paper "%2".</source>
         <translation>Das Papierformat „%1“ ist größer als das Papier „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>Der Drucker „%1“ druckt keinen Text auf die Rückseite. Lassen Sie --backprint weg oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterChoice</name>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
     </message>
 </context>
 </TS>

@@ -549,14 +549,6 @@
         <source>A saved setting was left out. %1</source>
         <translation>Se omitió un ajuste guardado. %1</translation>
     </message>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>La impresora «%1» no imprime texto en el dorso de las fotos. Quite --backprint o elija otra impresora.</translation>
-    </message>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>Su impresora predeterminada «%1» no está en el servidor de impresión. Se eligió «%2» en su lugar.</translation>
-    </message>
 </context>
 <context>
     <name>halvern::MessageBar</name>
@@ -1149,6 +1141,20 @@
     <message>
         <source>The paper size "%1" is larger than the paper "%2".</source>
         <translation>El tamaño de papel «%1» es mayor que el papel «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>La impresora «%1» no imprime texto en el dorso de las fotos. Quite --backprint o elija otra impresora.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterChoice</name>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>Su impresora predeterminada «%1» no está en el servidor de impresión. Se eligió «%2» en su lugar.</translation>
     </message>
 </context>
 </TS>

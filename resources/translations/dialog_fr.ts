@@ -549,14 +549,6 @@
         <source>A saved setting was left out. %1</source>
         <translation>Un réglage enregistré a été ignoré. %1</translation>
     </message>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’imprime pas de texte au dos des photos. Retirez --backprint ou choisissez une autre imprimante.</translation>
-    </message>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
-    </message>
 </context>
 <context>
     <name>halvern::MessageBar</name>
@@ -1149,6 +1141,20 @@
     <message>
         <source>The paper size "%1" is larger than the paper "%2".</source>
         <translation>Le format de papier « %1 » est plus grand que le papier « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’imprime pas de texte au dos des photos. Retirez --backprint ou choisissez une autre imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterChoice</name>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
     </message>
 </context>
 </TS>

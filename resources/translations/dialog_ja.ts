@@ -549,14 +549,6 @@
         <source>A saved setting was left out. %1</source>
         <translation>保存された設定を 1 つ使いませんでした。%1</translation>
     </message>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>プリンター「%1」は写真の裏面に文字を印刷できません。--backprint を外すか、別のプリンターを選んでください。</translation>
-    </message>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
-    </message>
 </context>
 <context>
     <name>halvern::MessageBar</name>
@@ -1149,6 +1141,20 @@
     <message>
         <source>The paper size "%1" is larger than the paper "%2".</source>
         <translation>用紙サイズ「%1」は用紙「%2」より大きくなっています。</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>プリンター「%1」は写真の裏面に文字を印刷できません。--backprint を外すか、別のプリンターを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterChoice</name>
+    <message>
+        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
+        <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
     </message>
 </context>
 </TS>

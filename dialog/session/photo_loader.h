@@ -1,0 +1,60 @@
+#pragma once
+
+#include "dialog/page/photo.h"
+#include "platform/printing/cups_connection.h"
+
+#include <QObject>
+
+#include <vector>
+
+namespace halvern {
+
+/// The photos of one dialog, read by workers and owned here. A file that cannot be read is told in a sentence
+/// and costs no other. Main thread only, never waits.
+class PhotoLoader : public QObject {
+    Q_OBJECT
+
+public:
+    /// If not `printDamaged`, damaged files wait to be settled.
+    PhotoLoader(QStringList files, bool printDamaged);
+    ~PhotoLoader() override;
+
+    /// Starts to read. Once.
+    void start();
+
+    /// Whether all files have been read.
+    bool isDone() const { return filesLeft_ == 0; }
+
+    const std::vector<Photo>& photos() const { return photos_; }
+
+    /// Moves the cut or the place of one photo: 0 to 1 each way.
+    void setPosition(size_t photo, const QPointF& position);
+
+    /// Puts all photos back in the middle.
+    void centre();
+
+    /// A sentence for each file of which a part is missing, until that is settled.
+    const QStringList& damagedFiles() const { return damagedFiles_; }
+
+    /// The damaged photos print as they are, or are left out.
+    void settleDamaged(bool print);
+
+Q_SIGNALS:
+    void changed();
+    /// A file could not be read; a sentence.
+    void failed(const QString& sentence);
+    /// A part of a file is missing; a sentence.
+    void damaged(const QString& sentence);
+
+private:
+    void take(const PhotoFile& file);
+
+    QStringList files_;
+    bool printDamaged_;
+    std::vector<Photo> photos_;
+    QStringList damagedFiles_;
+    int filesLeft_;
+    cups::CancelFlag stop_;
+};
+
+} // namespace halvern

@@ -1,0 +1,116 @@
+#include "dialog/session/printer_choice.h"
+
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QPointer>
+
+namespace halvern {
+
+namespace {
+
+PrinterOffer offerOf(const QueuePpd& ppd)
+{
+    return ppd.file && *ppd.file ? readPrinterOffer(ppd.file->get()) : PrinterOffer();
+}
+
+} // namespace
+
+PrinterChoice::PrinterChoice(const SessionRequest& request)
+    : request_(request),
+      saved_(readSavedOptions()),
+      printers_(new PrinterList(this)),
+      stopFetching_(cups::makeCancelFlag())
+{
+    connect(printers_, &PrinterList::changed, this, &PrinterChoice::takePrinters);
+}
+
+void PrinterChoice::start()
+{
+    printers_->start();
+    // A known name need not wait for the list.
+    startedWith_ = request_.printer.isEmpty() ? saved_.defaultPrinter : request_.printer;
+    if (!startedWith_.isEmpty())
+        select(queueOf(startedWith_));
+}
+
+OptionValues PrinterChoice::savedOptions() const
+{
+    return saved_.optionsOf(printerName_ == queueOf(startedWith_) ? startedWith_ : printerName_);
+}
+
+void PrinterChoice::takePrinters()
+{
+    const bool isLost = request_.printer.isEmpty() && request_.replacesLostDefault && !isThere_ &&
+                        printerName_ == queueOf(startedWith_) && !printers_->find(printerName_);
+    if ((!printerName_.isEmpty() && !isLost) || printers_->printers().empty())
+        return;
+    const QString lost = printerName_;
+    const QString standard = printers_->serverDefault();
+    select(printers_->find(standard) ? standard : printers_->printers().front().name);
+    if (!lost.isEmpty())
+        Q_EMIT notice(
+            tr("Your default printer \"%1\" is none of the print server's. \"%2\" was chosen instead.")
+                .arg(lost, printerName_));
+}
+
+void PrinterChoice::select(const QString& name)
+{
+    if (name == printerName_ && isThere_)
+        return;
+    stopFetching_->store(true);
+    Q_EMIT leaving();
+    isThere_ = isReadingOffer_ = readsOfferAgain_ = false;
+    printerName_ = name;
+    stopFetching_ = cups::makeCancelFlag();
+    Q_EMIT selected(name);
+    const PrinterInfo* info = printers_->find(name);
+    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
+    QPointer<PrinterChoice> self(this);
+    WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
+        FetchedPrinter printer;
+        QueuePpd& ppd = printer.ppd;
+        if (!newQueueUri.isEmpty())
+            ppd.problem = createLocalQueue(name, newQueueUri, stop);
+        if (ppd.problem.isEmpty())
+            ppd = fetchQueuePpd(name, stop);
+        // Here, because a PPD may have ten thousand options.
+        if (ppd.file)
+            printer.model = std::make_shared<PpdModel>(std::move(*ppd.file));
+        if (printer.model)
+            printer.offer = readPrinterOffer(printer.model->file());
+        mainQueue().async([self, printer = std::move(printer), stop] {
+            if (self && !stop->load())
+                self->takePpd(printer);
+        });
+    });
+}
+
+void PrinterChoice::takePpd(const FetchedPrinter& printer)
+{
+    isThere_ = printer.model != nullptr;
+    Q_EMIT fetched(printer);
+}
+
+void PrinterChoice::readOfferAgain()
+{
+    if (isReadingOffer_) {
+        readsOfferAgain_ = true;
+        return;
+    }
+    isReadingOffer_ = true;
+    QPointer<PrinterChoice> self(this);
+    WorkQueue().async([self, name = printerName_, stop = stopFetching_] {
+        const QueuePpd ppd = fetchQueuePpd(name, stop);
+        mainQueue().async([self, stop, offer = offerOf(ppd), isThere = ppd.file != nullptr] {
+            if (!self || stop->load())
+                return;
+            self->isReadingOffer_ = false;
+            if (isThere)
+                Q_EMIT self->offerRead(offer);
+            if (std::exchange(self->readsOfferAgain_, false))
+                self->readOfferAgain();
+        });
+    });
+}
+
+} // namespace halvern

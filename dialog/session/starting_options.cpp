@@ -1,0 +1,60 @@
+#include "dialog/session/starting_options.h"
+
+#include "dialog/options/back_lines.h"
+#include "platform/printing/print_settings.h"
+
+#include <QCoreApplication>
+
+namespace halvern {
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(StartingOptions)
+};
+
+} // namespace
+
+StartingOptions applyGiven(PpdModel& model, const GivenOptions& given)
+{
+    UnderstoodOptions understood = understand(model.file(), given);
+    ApplyResult result = model.apply(understood.options);
+    return {understood.page, understood.leftOut + result.leftOut, result.settled};
+}
+
+AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QString& printer)
+{
+    for (int number = 1; number <= lines.size(); ++number) {
+        if (model.value(backLineSwitch(number)).isEmpty())
+            return {{Words::tr("The printer \"%1\" prints no text on the back of a picture. Leave "
+                               "--backprint out, or choose another printer.")
+                         .arg(printer)},
+                    {}};
+    }
+    AppliedLines applied;
+    for (const OptionValue& option : backLineOptions(lines)) {
+        const QString before = model.value(option.key);
+        const ChangeResult result = model.change(option.key, option.value);
+        if (!result.accepted)
+            applied.refusals.append(result.refusal);
+        applied.settled.append({option.key, before, result.sideChanges});
+    }
+    return applied;
+}
+
+void storeStart(const PpdModel& model, const QMap<QString, QString>& byDefault, const QString& queueJobSheets,
+                PrintSettings& settings)
+{
+    // What the queue would add by itself is the panels' to see and to change.
+    if (!queueJobSheets.isEmpty())
+        settings.setValue(QStringLiteral("job-sheets"), queueJobSheets, false);
+    // A panel that looks at the settings only, and not at the marks, must find what was chosen before it
+    // came: it would save the PPD's default over it.
+    const QMap<QString, QString> values = model.values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (model.isKept(it.key()) || byDefault.value(it.key()) != it.value())
+            settings.setValue(it.key(), it.value(), false);
+    }
+}
+
+} // namespace halvern

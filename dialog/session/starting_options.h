@@ -1,0 +1,33 @@
+#pragma once
+
+#include "dialog/options/ppd_model.h"
+
+namespace halvern {
+
+class PrintSettings;
+
+/// What became of the options that a printer starts with. All of this on the thread that owns the model.
+struct StartingOptions {
+    PageWishes page;
+    QList<LeftOut> leftOut;
+    QList<SettledOption> settled;
+};
+
+/// Applies what the queue, the user's files and the command line say, in that order.
+StartingOptions applyGiven(PpdModel& model, const GivenOptions& given);
+
+/// What became of the lines for the back of the pictures.
+struct AppliedLines {
+    QStringList refusals; ///< a sentence for each line that cannot be printed
+    QList<SettledOption> settled;
+};
+
+/// Applies them; `printer` is for the sentences.
+AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QString& printer);
+
+/// Stores in the print settings what differs from `byDefault`, the model's values before, and the banner
+/// pages that the queue adds by itself.
+void storeStart(const PpdModel& model, const QMap<QString, QString>& byDefault, const QString& queueJobSheets,
+                PrintSettings& settings);
+
+} // namespace halvern
