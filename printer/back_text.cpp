@@ -15,9 +15,9 @@ namespace halvern {
 namespace {
 
 constexpr double kMillimetre = 1.0 / 25.4;
-constexpr double kEdge = 8.0 * kMillimetre;
-constexpr double kLetterHeight = 3.5 * kMillimetre;
-constexpr double kLineHeight = 6.0 * kMillimetre;
+constexpr double kEdge = printed_back::kEdge * kMillimetre;
+constexpr double kLetterHeight = printed_back::kLetterHeight * kMillimetre;
+constexpr double kLineHeight = printed_back::kLineHeight * kMillimetre;
 
 // A line that is too long for the sheet gets smaller letters, so that all of it can be read.
 QFont fittingFont(const QString& text, double height, double width)

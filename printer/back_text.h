@@ -12,6 +12,16 @@ namespace halvern {
 
 struct PageHeader;
 
+/// The place and the size of the text, in millimetres. The Backprint panel's preview, which shares no code
+/// with the printer, has the same numbers in platform/maker/backprint_text.h; a test compares them.
+namespace printed_back {
+
+inline constexpr double kEdge = 8.0;
+inline constexpr double kLetterHeight = 3.5;
+inline constexpr double kLineHeight = 6.0;
+
+} // namespace printed_back
+
 /// The two lines for the back of a sheet as they are printed: those that are switched on and not empty, with
 /// the substitutes for comma and apostrophe turned back. UTF-8.
 std::vector<std::string> backLines(const JobOptions& options);

@@ -2,6 +2,7 @@
 
 #include "dialog/options/ppd_lookup.h"
 #include "platform/foundation/near_names.h"
+#include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
@@ -20,7 +21,7 @@ struct Words {
 };
 
 constexpr qsizetype kMostListed = 20;
-constexpr double kPointsPerPwgUnit = 72.0 / 2540.0;
+constexpr double kPointsPerPwgUnit = kPointsPerMillimetre / 100.0;
 constexpr double kSamePoints = 1.5;
 
 struct LayoutOption {

@@ -3,6 +3,7 @@
 #include "dialog/options/ppd_model.h"
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/numbers.h"
+#include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QRegularExpression>
@@ -21,7 +22,6 @@ const QString kPageSize = QStringLiteral("PageSize");
 const QString kPaperWidth = QStringLiteral("PaperWidth");
 const QString kPaperName = QStringLiteral("PaperName");
 
-constexpr double kPointsPerMillimetre = 72.0 / 25.4;
 // Names are round: "102x152" is 101.6 by 152.4 mm, and "127x178" is 127 by 177.8.
 constexpr double kRounding = 1.0;
 // Below, "13x18" may be centimetres, and "8x10" inches.

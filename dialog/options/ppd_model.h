@@ -144,7 +144,8 @@ public:
     /// The sheet of the current page size; A4 with half-inch margins if the PPD knows no size at all.
     SheetGeometry sheet() const;
 
-    /// The highest resolution of the current choice in dots per inch; 300 if the PPD does not say.
+    /// The highest resolution of the current choice in dots per inch; kUsualResolution if the PPD does not
+    /// say.
     int resolution() const;
 
 private:

@@ -2,6 +2,7 @@
 #include "dialog/options/ppd_lookup.h"
 #include "dialog/options/ppd_model.h"
 
+#include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <algorithm>
@@ -9,8 +10,6 @@
 namespace halvern {
 
 namespace {
-
-constexpr int kUsualResolution = 300;
 
 QString textOr(const char* text, const QString& other)
 {

@@ -3,6 +3,7 @@
 #include "dialog/page/jpeg_data.h"
 #include "dialog/page/pdf_file.h"
 #include "dialog/page/photo_problem.h"
+#include "platform/foundation/units.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -13,7 +14,6 @@ namespace halvern {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
 constexpr int kMostTimesPrinterResolution = 2;
 
 // From the stored picture's unit square to the upright one's.

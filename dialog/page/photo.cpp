@@ -2,6 +2,7 @@
 
 #include "dialog/page/photo_problem.h"
 #include "dialog/page/picture.h"
+#include "platform/foundation/units.h"
 
 #include <QFile>
 
@@ -13,7 +14,6 @@ namespace halvern {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
 constexpr double kAssumedResolution = 300.0;
 constexpr double kLeastBelievedResolution = 100.0;
 constexpr int kPdfSignatureRange = 1024; // both at the start and at the end

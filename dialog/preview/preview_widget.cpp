@@ -2,6 +2,7 @@
 
 #include "dialog/page/page_renderer.h"
 #include "dialog/preview/sharp_photo_reader.h"
+#include "platform/foundation/units.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QLocale>
@@ -54,11 +55,12 @@ QString pageSizeText(const QSizeF& points)
             text.chop(zero.size());
         return text;
     };
-    const double mm = 25.4 / 72.0;
+    const double mm = 1.0 / kPointsPerMillimetre;
     const QString metric =
         PreviewWidget::tr("%1 × %2 mm").arg(side(points.width() * mm, 1), side(points.height() * mm, 1));
     const QString imperial =
-        PreviewWidget::tr("%1 × %2 in").arg(side(points.width() / 72.0, 1), side(points.height() / 72.0, 1));
+        PreviewWidget::tr("%1 × %2 in")
+            .arg(side(points.width() / kPointsPerInch, 1), side(points.height() / kPointsPerInch, 1));
     const bool metricFirst = locale.measurementSystem() == QLocale::MetricSystem;
     return itemText(metricFirst ? metric : imperial) + QStringLiteral("  ·  ") +
            itemText(metricFirst ? imperial : metric);

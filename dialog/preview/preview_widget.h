@@ -3,6 +3,7 @@
 #include "dialog/page/page_layout.h"
 #include "dialog/page/photo.h"
 #include "dialog/preview/screen_photo.h"
+#include "platform/foundation/units.h"
 
 #include <QImage>
 #include <QWidget>
@@ -19,7 +20,7 @@ class SharpPhotoReader;
 struct PreviewPage {
     PageLayout layout;
     Photo photo;
-    int resolution = 300; ///< dots per inch of the printer
+    int resolution = kUsualResolution; ///< dots per inch of the printer
     Look look;
 };
 

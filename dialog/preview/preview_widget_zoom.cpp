@@ -2,6 +2,7 @@
 #include "dialog/preview/preview_widget.h"
 
 #include "dialog/preview/sharp_photo_reader.h"
+#include "platform/foundation/units.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,7 +15,6 @@ namespace halvern {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
 constexpr double kKeyStep = 48.0;   // logical pixels
 constexpr double kEdgeRoom = 24.0;  // logical pixels of ground that can be seen beyond the page
 constexpr double kWheelNotch = 1.0; // logical pixels for an eighth of a degree

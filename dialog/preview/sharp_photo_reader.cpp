@@ -1,6 +1,7 @@
 #include "dialog/preview/sharp_photo_reader.h"
 
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/foundation/units.h"
 
 #include <QPointer>
 
@@ -9,8 +10,6 @@
 namespace halvern {
 
 namespace {
-
-constexpr double kPointsPerInch = 72.0;
 
 // A PDF has no pixels of its own: its page is drawn at the resolution that gives these dots.
 int resolutionFor(const Photo& photo, const QSize& dots)

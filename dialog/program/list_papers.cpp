@@ -62,7 +62,7 @@ private:
         const PrinterAnswer answer = askPrinters(cancelled_);
         if (!answer.problem.isEmpty())
             return fail(answer.problem);
-        queue_ = queueOf(request_.printer.isEmpty() ? readSavedOptions().defaultPrinter : request_.printer);
+        queue_ = queueOf(startingPrinter(request_.printer, readSavedOptions()));
         if (queue_.isEmpty())
             queue_ = answer.defaultName;
         if (queue_.isEmpty() && answer.printers.size() == 1)

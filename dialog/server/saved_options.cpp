@@ -80,6 +80,11 @@ SavedOptions readSavedOptions(const QStringList& paths)
     return saved;
 }
 
+QString startingPrinter(const QString& asked, const SavedOptions& saved)
+{
+    return asked.isEmpty() ? saved.defaultPrinter : asked;
+}
+
 SavedOptions readSavedOptions()
 {
     const QString serverRoot = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));

@@ -20,6 +20,10 @@ struct SavedOptions {
 /// The queue of a printer's name: "queue/name" -> "queue".
 QString queueOf(const QString& printer);
 
+/// The printer to start with, a queue or an instance: the one that was asked for, else the user's default. If
+/// both are empty, the server's default has its turn.
+QString startingPrinter(const QString& asked, const SavedOptions& saved);
+
 /// Reads lpoptions files in this order, later ones winning. Files that cannot be read, and what is no file
 /// (a pipe would never end), count as empty.
 SavedOptions readSavedOptions(const QStringList& paths);

@@ -1,6 +1,7 @@
 #include "dialog/session/dialog_session.h"
 
 #include "dialog/session/starting_options.h"
+#include "platform/foundation/units.h"
 #include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
 #include "platform/printing/printer.h"
@@ -16,7 +17,6 @@ using ppd_lookup::NumberReading;
 
 namespace {
 
-constexpr int kUsualResolution = 300;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 const QString kPaperFeed = QStringLiteral("PaperFeed");
 

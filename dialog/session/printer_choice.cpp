@@ -28,7 +28,7 @@ void PrinterChoice::start()
 {
     printers_->start();
     // A known name need not wait for the list.
-    startedWith_ = request_.printer.isEmpty() ? saved_.defaultPrinter : request_.printer;
+    startedWith_ = startingPrinter(request_.printer, saved_);
     if (!startedWith_.isEmpty())
         select(queueOf(startedWith_));
 }

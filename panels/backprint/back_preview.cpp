@@ -1,5 +1,6 @@
 #include "panels/backprint/back_preview.h"
 
+#include "platform/foundation/units.h"
 #include "platform/maker/backprint_text.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -17,13 +18,10 @@ namespace {
 // A postcard, while nobody says what the sheet is.
 constexpr QSizeF kUsualSheet(288.0, 432.0);
 
-constexpr qreal kPointsPerMillimetre = 72.0 / 25.4;
-
-// Where and how large the printer writes, in millimetres. A line that is too long for the sheet gets smaller
-// letters, a line that is empty leaves no gap.
-constexpr qreal kEdge = 8.0;
-constexpr qreal kLetterHeight = 3.5;
-constexpr qreal kLineHeight = 6.0;
+// A line that is too long for the sheet gets smaller letters, a line that is empty leaves no gap.
+using backprint::kEdge;
+using backprint::kLetterHeight;
+using backprint::kLineHeight;
 constexpr qreal kReadableLetters = 1.5;
 
 // The letters of a large sheet would be too small to read on the screen.

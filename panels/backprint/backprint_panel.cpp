@@ -1,5 +1,6 @@
 #include "panels/backprint/backprint_panel.h"
 
+#include "panel_base/option_tags.h"
 #include "panels/backprint/back_preview.h"
 #include "panels/backprint/backprint_tags.h"
 #include "panels/backprint/line_watcher.h"
@@ -23,18 +24,12 @@ namespace halvern {
 
 namespace {
 
-struct TagKey {
-    int tag;
-    const char* key;
-};
-
-// In the order in which the keys are saved.
-constexpr std::array<TagKey, 5> kKeys{{
-    {backprint::kLine1, "CVP1"},
-    {backprint::kLine2, "CVP2"},
-    {backprint::kToggleLine1, "EnableCVP1"},
-    {backprint::kToggleLine2, "EnableCVP2"},
-    {backprint::kToggleDebugLog, "DebugLog"},
+constexpr std::array<TaggedOption, 5> kOptions{{
+    {"CVP1", backprint::kLine1},
+    {"CVP2", backprint::kLine2},
+    {"EnableCVP1", backprint::kToggleLine1},
+    {"EnableCVP2", backprint::kToggleLine2},
+    {"DebugLog", backprint::kToggleDebugLog},
 }};
 
 constexpr char kUnloadNotification[] = "com.halvern.vlx.PDEPluginIsUnloading";
@@ -79,12 +74,8 @@ void RZBackprintPDEHalvern::dealloc()
 
 QStringList RZBackprintPDEHalvern::supportedPPDOptionKeys()
 {
-    if (!cachedSupportedPPDOptionKeys) {
-        QStringList keys;
-        for (const TagKey& row : kKeys)
-            keys.append(QString::fromLatin1(row.key));
-        cachedSupportedPPDOptionKeys = keys;
-    }
+    if (!cachedSupportedPPDOptionKeys)
+        cachedSupportedPPDOptionKeys = keysOf(kOptions);
     return *cachedSupportedPPDOptionKeys;
 }
 
@@ -107,11 +98,7 @@ std::optional<QString> RZBackprintPDEHalvern::panelKind()
 
 std::optional<QString> RZBackprintPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    for (const TagKey& row : kKeys) {
-        if (row.tag == tag)
-            return QString::fromLatin1(row.key);
-    }
-    return std::nullopt;
+    return keyForTag(kOptions, tag);
 }
 
 void RZBackprintPDEHalvern::enableCustom()

@@ -1,3 +1,4 @@
+#include "panel_base/option_tags.h"
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
 
@@ -7,14 +8,21 @@ namespace halvern {
 
 namespace {
 
-// The option of tag n is row n - 1.
-constexpr std::array<QLatin1StringView, 10> kKeys{
-    QLatin1StringView("PaperWidth"), QLatin1StringView("PaperSurface"),  QLatin1StringView("Overspill"),
-    QLatin1StringView("Resolution"), QLatin1StringView("PaperTone"),     QLatin1StringView("PaperFeed"),
-    QLatin1StringView("PaperName"),  QLatin1StringView("BindingMargin"), QLatin1StringView("BindingWidth"),
-    QLatin1StringView("TwoSided"),
-};
-static_assert(kKeys.size() == features::kTwoSidedTag);
+constexpr std::array<TaggedOption, 13> kOptions{{
+    {"PaperFeed", features::kFeedTag},
+    {"PaperName", features::kNameTag},
+    {"PaperWidth", features::kWidthTag},
+    {"PaperSurface", features::kSurfaceTag},
+    {"Resolution", features::kResolutionTag},
+    {"PaperTone", features::kToneTag},
+    {"Overspill", features::kOverspillTag},
+    {"BindingMargin", features::kBindingMarginTag},
+    {"BindingWidth", features::kBindingWidthTag},
+    {"ResizeOption", kNoTag},
+    {"TwoSided", features::kTwoSidedTag},
+    {"Duplex", kNoTag},
+    {"HalvernLastResolution", kNoTag},
+}};
 
 struct Cell {
     int tag;
@@ -53,32 +61,14 @@ std::optional<QString> RZFeaturesPDEHalvern::panelKind()
 
 QStringList RZFeaturesPDEHalvern::supportedPPDOptionKeys()
 {
-    if (!cachedSupportedPPDOptionKeys) {
-        cachedSupportedPPDOptionKeys = QStringList{
-            QStringLiteral("PaperFeed"),
-            QStringLiteral("PaperName"),
-            QStringLiteral("PaperWidth"),
-            QStringLiteral("PaperSurface"),
-            QStringLiteral("Resolution"),
-            QStringLiteral("PaperTone"),
-            QStringLiteral("Overspill"),
-            QStringLiteral("BindingMargin"),
-            QStringLiteral("BindingWidth"),
-            QStringLiteral("ResizeOption"),
-            QStringLiteral("TwoSided"),
-            QStringLiteral("Duplex"),
-            QStringLiteral("HalvernLastResolution"),
-        };
-    }
+    if (!cachedSupportedPPDOptionKeys)
+        cachedSupportedPPDOptionKeys = keysOf(kOptions);
     return *cachedSupportedPPDOptionKeys;
 }
 
 std::optional<QString> RZFeaturesPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    const int option = tags::withoutCompanionBits(tag);
-    if (option < 1 || option > int(kKeys.size()))
-        return std::nullopt;
-    return kKeys[size_t(option - 1)];
+    return keyForTag(kOptions, tags::withoutCompanionBits(tag));
 }
 
 QVariant RZFeaturesPDEHalvern::ppdChoiceForTag(int tag)

@@ -1,5 +1,6 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
+#include "platform/foundation/notifications/notification_bus.h"
 #include "platform/maker/refresh_date.h"
 
 #include "platform/foundation/archive/keyed_unarchiver.h"
@@ -52,12 +53,12 @@ void RZFeaturesPDEHalvern::registerNotifications()
     };
     DistributedNotificationCenter& distributed = DistributedNotificationCenter::defaultCenter();
     const QString thisPrinter = printerDeviceURI();
-    distributed.addObserver(this, QStringLiteral("VLXPrinterInfoDidUpdateNotification"), thisPrinter,
+    distributed.addObserver(this, QString::fromLatin1(notification_bus::kPrinterInfoDidUpdate), thisPrinter,
                             [weak](const DistributedNotification& notification) {
                                 if (const auto self = weak.lock())
                                     self->printInfoDidChange(notification);
                             });
-    const QString paperChanged = QStringLiteral("VLXPrinterPaperDidUpdateNotification");
+    const QString paperChanged = QString::fromLatin1(notification_bus::kPrinterPaperDidUpdate);
     distributed.addObserver(this, paperChanged, thisPrinter, paper);
     distributed.addObserver(this, paperChanged, std::nullopt, paper);
 }

@@ -1,5 +1,6 @@
 #include "panels/simple/color_adjust_panel.h"
 
+#include "panel_base/option_tags.h"
 #include "panel_base/tags.h"
 #include "platform/toolkit/control.h"
 
@@ -9,35 +10,23 @@ namespace halvern {
 
 namespace {
 
-struct AdjustmentTag {
-    int tag;
-    const char* key;
-};
-
-// The order of the view. Saving and the defaults have an order of their own.
-constexpr std::array<AdjustmentTag, 8> kAdjustments{{
-    {1, "Red"},
-    {2, "Green"},
-    {3, "Blue"},
-    {4, "Brightness"},
-    {5, "Contrast"},
-    {6, "Saturation"},
-    {7, "Gamma"},
-    {tags::kToggle, "AdjustmentsEnabled"},
+constexpr std::array<TaggedOption, 8> kOptions{{
+    {"Brightness", 4},
+    {"Contrast", 5},
+    {"Saturation", 6},
+    {"Gamma", 7},
+    {"Red", 1},
+    {"Green", 2},
+    {"Blue", 3},
+    {"AdjustmentsEnabled", tags::kToggle},
 }};
 
 } // namespace
 
 QStringList RZColorAdjustPDEHalvern::supportedPPDOptionKeys()
 {
-    if (!cachedSupportedPPDOptionKeys) {
-        cachedSupportedPPDOptionKeys = QStringList{
-            QStringLiteral("Brightness"), QStringLiteral("Contrast"),
-            QStringLiteral("Saturation"), QStringLiteral("Gamma"),
-            QStringLiteral("Red"),        QStringLiteral("Green"),
-            QStringLiteral("Blue"),       QStringLiteral("AdjustmentsEnabled"),
-        };
-    }
+    if (!cachedSupportedPPDOptionKeys)
+        cachedSupportedPPDOptionKeys = keysOf(kOptions);
     return *cachedSupportedPPDOptionKeys;
 }
 
@@ -60,11 +49,7 @@ std::optional<QString> RZColorAdjustPDEHalvern::panelKind()
 
 std::optional<QString> RZColorAdjustPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    for (const AdjustmentTag& row : kAdjustments) {
-        if (row.tag == tags::withoutCompanionBits(tag))
-            return QString::fromLatin1(row.key);
-    }
-    return std::nullopt;
+    return keyForTag(kOptions, tags::withoutCompanionBits(tag));
 }
 
 QVariant RZColorAdjustPDEHalvern::newChoiceForSender(QWidget* sender)

@@ -4,6 +4,7 @@ namespace halvern {
 
 namespace {
 
+constexpr char kMatchingKey[] = "AP_ColorMatchingMode";
 constexpr int kMatchingMenuTag = 1;
 
 } // namespace
@@ -11,7 +12,7 @@ constexpr int kMatchingMenuTag = 1;
 QStringList RZColorMatchingPDEHalvern::supportedPPDOptionKeys()
 {
     if (!cachedSupportedPPDOptionKeys)
-        cachedSupportedPPDOptionKeys = QStringList{QStringLiteral("AP_ColorMatchingMode")};
+        cachedSupportedPPDOptionKeys = QStringList{QString::fromLatin1(kMatchingKey)};
     return *cachedSupportedPPDOptionKeys;
 }
 
@@ -34,7 +35,7 @@ std::optional<QString> RZColorMatchingPDEHalvern::panelKind()
 
 std::optional<QString> RZColorMatchingPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    return tag == kMatchingMenuTag ? std::optional(QStringLiteral("AP_ColorMatchingMode")) : std::nullopt;
+    return tag == kMatchingMenuTag ? std::optional(QString::fromLatin1(kMatchingKey)) : std::nullopt;
 }
 
 } // namespace halvern

@@ -1,5 +1,6 @@
 #include "panels/simple/sharpness_panel.h"
 
+#include "panel_base/option_tags.h"
 #include "panel_base/tags.h"
 #include "platform/foundation/numbers.h"
 #include "platform/toolkit/control.h"
@@ -12,15 +13,10 @@ namespace halvern {
 
 namespace {
 
-struct TagKey {
-    int tag;
-    const char* key;
-};
-
-constexpr std::array<TagKey, 3> kKeys{{
-    {1, "SharpnessRadius"},
-    {2, "SharpnessIntensity"},
-    {tags::kToggle, "SharpnessEnabled"},
+constexpr std::array<TaggedOption, 3> kOptions{{
+    {"SharpnessEnabled", tags::kToggle},
+    {"SharpnessIntensity", 2},
+    {"SharpnessRadius", 1},
 }};
 
 struct Cell {
@@ -39,13 +35,8 @@ constexpr int kIntensityBit = 2;
 
 QStringList RZSharpnessPDEHalvern::supportedPPDOptionKeys()
 {
-    if (!cachedSupportedPPDOptionKeys) {
-        cachedSupportedPPDOptionKeys = QStringList{
-            QStringLiteral("SharpnessEnabled"),
-            QStringLiteral("SharpnessIntensity"),
-            QStringLiteral("SharpnessRadius"),
-        };
-    }
+    if (!cachedSupportedPPDOptionKeys)
+        cachedSupportedPPDOptionKeys = keysOf(kOptions);
     return *cachedSupportedPPDOptionKeys;
 }
 
@@ -68,11 +59,7 @@ std::optional<QString> RZSharpnessPDEHalvern::panelKind()
 
 std::optional<QString> RZSharpnessPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    for (const TagKey& row : kKeys) {
-        if (row.tag == tags::withoutCompanionBits(tag))
-            return QString::fromLatin1(row.key);
-    }
-    return std::nullopt;
+    return keyForTag(kOptions, tags::withoutCompanionBits(tag));
 }
 
 QVariant RZSharpnessPDEHalvern::ppdChoiceForTag(int tag)

@@ -12,6 +12,12 @@ namespace halvern::backprint {
 
 inline constexpr qsizetype kLongestLine = 120;
 
+/// Where and how large the printer writes, in millimetres. The printer, which shares no code with us, has the
+/// same numbers in printer/back_text.h; a test compares them.
+inline constexpr double kEdge = 8.0;
+inline constexpr double kLetterHeight = 3.5;
+inline constexpr double kLineHeight = 6.0;
+
 /// The placeholders that the printing side replaces, in the order of the menu.
 inline constexpr std::array<const char*, 10> kTokens{"[YYYY]", "[YY]", "[DD]", "[D]", "[MM]",
                                                      "[M]",    "[C]",  "[F]",  "[P]", "[U]"};

@@ -48,10 +48,7 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Null if the server cannot be reached; error() then says why. Who hands it to libcups is held to the
-    /// limit of silence only.
-    _http_s* http() const { return http_.get(); }
-
+    /// False if the server cannot be reached; error() then says why.
     bool isConnected() const { return http_ != nullptr; }
 
     bool isCancelled() const;

@@ -67,13 +67,8 @@ bool Connection::failed(const Ipp& answer)
         if (status < IPP_STATUS_REDIRECTION_OTHER_SITE)
             return false;
         error_ = sentence(status, statusMessage(answer));
-    } else if (failure_ != Failure::none) {
-        error_ = sentence(ippStatusOf(status_), QString::fromUtf8(httpStatus(http_status_t(status_))));
     } else {
-        // The caller has spoken to the server through libcups itself.
-        if (waited_ >= limits_.silence)
-            failure_ = Failure::silent;
-        error_ = sentence(cupsLastError(), QString::fromUtf8(cupsLastErrorString()));
+        error_ = sentence(ippStatusOf(status_), QString::fromUtf8(httpStatus(http_status_t(status_))));
     }
     return true;
 }

@@ -1,3 +1,4 @@
+#include "platform/maker/backprint_text.h"
 #include "printer/back_text.h"
 #include "printer/page_stream.h"
 #include "printer/sheet_layout.h"
@@ -51,6 +52,13 @@ TEST(SheetLayoutTest, RefusesRastersThatThePrinterCannotTake)
     EXPECT_TRUE(refuses([](auto& h) { h.cupsHeight = 0; }));
     EXPECT_TRUE(refuses([](auto& h) { h.cupsHeight = 4'000'000'000U; }));
     EXPECT_TRUE(refuses([](auto& h) { h.HWResolution[1] = 0; }));
+}
+
+TEST(BackTextTest, ThePanelShowsTheTextWhereItIsPrinted)
+{
+    EXPECT_EQ(backprint::kEdge, printed_back::kEdge);
+    EXPECT_EQ(backprint::kLetterHeight, printed_back::kLetterHeight);
+    EXPECT_EQ(backprint::kLineHeight, printed_back::kLineHeight);
 }
 
 TEST(BackTextTest, ALongLineIsPrintedWhollyBetweenTheEdges)

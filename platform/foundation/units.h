@@ -1,0 +1,13 @@
+#pragma once
+
+/// Lengths and resolutions that everybody counts in.
+namespace halvern {
+
+inline constexpr double kPointsPerInch = 72.0;
+inline constexpr double kMillimetresPerInch = 25.4;
+inline constexpr double kPointsPerMillimetre = kPointsPerInch / kMillimetresPerInch;
+
+/// A printer's dots per inch, where nobody says.
+inline constexpr int kUsualResolution = 300;
+
+} // namespace halvern
