@@ -30,12 +30,16 @@ constexpr int kUsualPageWidth = 502;
 constexpr int kTitleMargin = 9;
 constexpr int kSpacing = 14;
 
-// Leaves a little room before the titles.
-QIcon indent()
+// Leaves a little room before the titles. One for all: each icon's picture gets a place in the toolkit's
+// cache.
+const QIcon& indent()
 {
-    QPixmap nothing(4, 4);
-    nothing.fill(Qt::transparent);
-    return nothing;
+    static const QIcon icon = [] {
+        QPixmap nothing(4, 4);
+        nothing.fill(Qt::transparent);
+        return QIcon(nothing);
+    }();
+    return icon;
 }
 
 } // namespace
