@@ -111,7 +111,6 @@ MessageBar::MessageBar(QWidget* parent)
       close_(makeTool(tr("Close the message"), this))
 {
     setObjectName(QStringLiteral("messageBar"));
-    setAutoFillBackground(true);
     setFrameShape(QFrame::StyledPanel);
     label_->setObjectName(QStringLiteral("messageText"));
     label_->setWordWrap(true);
@@ -257,10 +256,7 @@ void MessageBar::showCurrent()
     setVisible(!messages_.empty());
     if (!messages_.empty()) {
         const Message& message = messages_[current_];
-        QPalette colours = parentWidget()->palette();
-        colours.setColor(QPalette::Window,
-                         blended(colourOf(message.kind), colours.color(QPalette::Window), 0.18));
-        setPalette(colours);
+        update(); // the ground has the message's colour
         icon_->setPixmap(markOf(message.kind, devicePixelRatioF()));
         setPlainText(label_, message.text);
         action_->setText(displayText(message.action.title)); // plain: a button knows no markup
@@ -275,6 +271,17 @@ void MessageBar::showCurrent()
         forward_->setEnabled(current_ + 1 < messages_.size());
     }
     Q_EMIT changed();
+}
+
+// Not by a palette: each palette of its own leaves its pictures of the buttons in the style's cache.
+void MessageBar::paintEvent(QPaintEvent* event)
+{
+    if (!messages_.empty()) {
+        QPainter painter(this);
+        painter.fillRect(
+            rect(), blended(colourOf(messages_[current_].kind), palette().color(QPalette::Window), 0.18));
+    }
+    QFrame::paintEvent(event);
 }
 
 void MessageBar::leaveEvent(QEvent* event)

@@ -58,6 +58,7 @@ Q_SIGNALS:
 
 protected:
     void leaveEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     struct Message {
