@@ -89,18 +89,18 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
     // Not from the list, which may come later: a panel asks once and remembers.
     panels_.meet(std::make_shared<PanelHost>(*this, std::make_shared<Printer>(printerName(), ppd.deviceUri),
                                              model_->sharedFile(), request_.panelsAskPrinter));
-    applyOptions(ppd.defaults, ppd.jobSheets);
+    applyOptions(printer);
     keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, printer.offer);
     loadPanels();
     Q_EMIT printerReady();
     Q_EMIT optionsChanged();
 }
 
-void DialogSession::applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets)
+void DialogSession::applyOptions(const FetchedPrinter& printer)
 {
     const QMap<QString, QString> byDefault = model_->values();
     const StartingOptions start =
-        applyGiven(*model_, givenBy(OptionOrigin::queue, queueDefaults) +
+        applyGiven(*model_, givenBy(OptionOrigin::queue, printer.ppd.defaults) +
                                 givenBy(OptionOrigin::saved, printer_.savedOptions()) +
                                 givenBy(OptionOrigin::typed, request_.options));
     takeWishes(start.page);
@@ -119,7 +119,9 @@ void DialogSession::applyOptions(const OptionValues& queueDefaults, const QStrin
     }
     for (const SettledOption& settled : lines.settled)
         rememberStart(settled);
-    storeStart(*model_, byDefault, queueJobSheets, *settings_);
+    if (request_.panelsChangeOptions)
+        nameLoadedSheet(*model_, printer.offer);
+    storeStart(*model_, byDefault, printer.ppd.jobSheets, *settings_);
 }
 
 void DialogSession::rememberStart(const SettledOption& settled)

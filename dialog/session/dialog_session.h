@@ -145,7 +145,7 @@ private:
     void takePrinter(const FetchedPrinter& printer);
     void takeOffer(const PrinterOffer& offer);
     void leavePrinter();
-    void applyOptions(const OptionValues& queueDefaults, const QString& queueJobSheets);
+    void applyOptions(const FetchedPrinter& printer);
     void takeWishes(const PageWishes& wishes);
     void rememberStart(const SettledOption& settled);
     void loadPanels();

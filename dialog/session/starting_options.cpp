@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
@@ -40,6 +42,20 @@ AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QSt
         applied.settled.append({option.key, before, result.sideChanges});
     }
     return applied;
+}
+
+void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer)
+{
+    const QString key = QStringLiteral("PaperName");
+    const QString choice = model.value(key);
+    const QString name = model.choiceText(key, choice);
+    const auto isLoaded = [&](const QString& sheet) {
+        return !sheet.isEmpty() && std::ranges::any_of(offer.papers, [&](const LoadedPaper& paper) {
+            return paper.sheetName == sheet;
+        });
+    };
+    if (isLoaded(name) && !isLoaded(choice))
+        model.restore({{key, name}});
 }
 
 void storeStart(const PpdModel& model, const QMap<QString, QString>& byDefault, const QString& queueJobSheets,

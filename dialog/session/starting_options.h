@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog/options/ppd_model.h"
+#include "dialog/options/printer_offer.h"
 
 namespace halvern {
 
@@ -24,6 +25,10 @@ struct AppliedLines {
 
 /// Applies them; `printer` is for the sentences.
 AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QString& printer);
+
+/// Gives a sheet that was chosen by the PPD's keyword the printer's name for it, which is the text of that
+/// choice and the only one that a panel knows, if such a sheet is loaded.
+void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer);
 
 /// Stores in the print settings what differs from `byDefault`, the model's values before, and the banner
 /// pages that the queue adds by itself.

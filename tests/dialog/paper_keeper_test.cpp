@@ -1,4 +1,5 @@
 #include "dialog/session/paper_keeper.h"
+#include "dialog/session/starting_options.h"
 #include "platform/printing/print_settings.h"
 #include "tests/dialog/model_support.h"
 #include "tests/support/text.h"
@@ -58,6 +59,19 @@ TEST(PaperKeeper, LetsAPanelCorrectOnlyWhatThePrinterDoesNotOffer)
         PaperKeeper keeper(*model, settings, c.offer);
         EXPECT_EQ(keeper.judge(q(c.key), q(c.proposed)), c.answer)
             << c.key << ' ' << c.chosen << ' ' << c.proposed << ' ' << c.offer.papers.size();
+    }
+}
+
+TEST(StartingOptions, ASheetChosenByItsKeywordIsTheLoadedOneOfThatName)
+{
+    for (const auto& [chosen, sheet] : {std::pair("MatteA4", "Matte A4"),
+                                        {"Matte A4", "Matte A4"},
+                                        {"PhotoGlossA4", "PhotoGlossA4"},
+                                        {"Loaded", "Loaded"}}) {
+        const auto model = tessarinModel();
+        ASSERT_TRUE(model->change(q("PaperName"), q(chosen)).accepted);
+        nameLoadedSheet(*model, offerWith(true, true));
+        EXPECT_EQ(model->value(q("PaperName")), q(sheet));
     }
 }
 
