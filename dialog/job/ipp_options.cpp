@@ -51,7 +51,7 @@ QString addJobOption(_ipp_s* request, const OptionValue& option)
     const QByteArray name = option.key.toUtf8();
     const QByteArray value = option.value.toUtf8();
     if (name.size() > kLongestName || value.size() > kLongestText || value.contains('\0')) {
-        return QCoreApplication::translate("PpdModel",
+        return QCoreApplication::translate("IppOptions",
                                            "The value of %1 is too long to send: it has %2 bytes, and %3 "
                                            "are possible. Shorten it.")
             .arg(option.key)

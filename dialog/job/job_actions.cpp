@@ -10,10 +10,9 @@ namespace {
 
 constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("JobActions", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(JobActions)
+};
 
 bool isForbidden(const cups::Connection& server, const cups::Ipp& answer)
 {
@@ -38,7 +37,7 @@ ActionResult act(int operation, const QString& queue, int jobId, const char* for
     if (!server.failed(answer))
         return {};
     if (isForbidden(server, answer))
-        return {true, words(forbidden).arg(queue)};
+        return {true, Words::tr(forbidden).arg(queue)};
     // Somebody else was faster.
     if (answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_POSSIBLE)
         return {};

@@ -13,10 +13,9 @@ namespace {
 // The next question follows soon.
 constexpr cups::Limits kLimits{std::chrono::seconds(3), std::chrono::seconds(3)};
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("JobStatus", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(JobStatus)
+};
 
 QStringList strings(ipp_t* answer, const char* name)
 {
@@ -92,39 +91,34 @@ QString pattern(const JobStatus& status)
 {
     switch (status.stage) {
     case JobStage::waiting:
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 waits for \"%2\"%3."));
+        return Words::tr("Job %1 waits for \"%2\"%3.");
     case JobStage::blocked:
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 waits because \"%2\" is paused%3."));
+        return Words::tr("Job %1 waits because \"%2\" is paused%3.");
     case JobStage::held:
         if (status.reasons.contains(QStringLiteral("job-hold-until-specified")))
-            return words(
-                QT_TRANSLATE_NOOP("JobStatus", "Job %1 is held on \"%2\" because it was asked to wait%3."));
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 is held on \"%2\"%3."));
+            return Words::tr("Job %1 is held on \"%2\" because it was asked to wait%3.");
+        return Words::tr("Job %1 is held on \"%2\"%3.");
     case JobStage::printing:
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 is printing on \"%2\"%3."));
+        return Words::tr("Job %1 is printing on \"%2\"%3.");
     case JobStage::stopped:
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 stopped on \"%2\"%3."));
+        return Words::tr("Job %1 stopped on \"%2\"%3.");
     case JobStage::cancelled:
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Job %1 was cancelled on \"%2\"."));
+        return Words::tr("Job %1 was cancelled on \"%2\".");
     case JobStage::aborted:
-        return words(QT_TRANSLATE_NOOP("JobStatus",
-                                       "Job %1 failed on \"%2\"%3. Print again; if it fails again, look into "
-                                       "the print server's error log."));
+        return Words::tr("Job %1 failed on \"%2\"%3. Print again; if it fails again, look into "
+                         "the print server's error log.");
     case JobStage::completed:
-        return words(QT_TRANSLATE_NOOP("JobStatus", "Printed: job %1 on \"%2\"."));
+        return Words::tr("Printed: job %1 on \"%2\".");
     case JobStage::gone:
-        return words(QT_TRANSLATE_NOOP("JobStatus",
-                                       "Job %1 has left the queue of \"%2\". The print server keeps no "
-                                       "record of how it ended."));
+        return Words::tr("Job %1 has left the queue of \"%2\". The print server keeps no "
+                         "record of how it ended.");
     case JobStage::lost:
-        return words(QT_TRANSLATE_NOOP("JobStatus",
-                                       "\"%2\" is not on the print server any more, and job %1 with it. Look "
-                                       "at the printer before you print again."));
+        return Words::tr("\"%2\" is not on the print server any more, and job %1 with it. Look "
+                         "at the printer before you print again.");
     case JobStage::unknown:
         break;
     }
-    return words(QT_TRANSLATE_NOOP(
-        "JobStatus", "The print server does not answer. Job %1 was sent to \"%2\", and may be printed."));
+    return Words::tr("The print server does not answer. Job %1 was sent to \"%2\", and may be printed.");
 }
 
 // What filters say of their work rather than of what is wrong with it.
@@ -261,7 +255,7 @@ QString jobAdvice(const JobStatus& status, const QString& printer, int jobId)
             "JobStatus", "Print it again with \"lp -i %1 -H restart\", or cancel it with \"cancel %2-%1\".");
         break;
     }
-    return words(text).arg(QString::number(jobId), printer);
+    return Words::tr(text).arg(QString::number(jobId), printer);
 }
 
 } // namespace halvern

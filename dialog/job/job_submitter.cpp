@@ -20,10 +20,9 @@ constexpr int kLongestTitle = 255; // bytes of an IPP name
 constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
 constexpr int kTakeBackTries = 3;
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("JobSubmitter", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(JobSubmitter)
+};
 
 QByteArray shortTitle(const QString& title)
 {
@@ -105,8 +104,8 @@ QString takeBack(const JobRequest& job, int jobId)
             return {};
         QThread::sleep(1);
     }
-    return words(QT_TRANSLATE_NOOP("JobSubmitter", " Job %1 may still be on the queue of \"%2\" without its "
-                                                   "pages: cancel it there before you print again."))
+    return Words::tr(" Job %1 may still be on the queue of \"%2\" without its "
+                     "pages: cancel it there before you print again.")
         .arg(QString::number(jobId), job.queue);
 }
 
@@ -129,8 +128,7 @@ int createJob(cups::Connection& server, const JobRequest& job, QString* problem)
     }
     const int jobId = cups::jobIdOf(answer);
     if (jobId == 0)
-        *problem = words(QT_TRANSLATE_NOOP(
-            "JobSubmitter", "The print server gave the job no number. Look into its error log."));
+        *problem = Words::tr("The print server gave the job no number. Look into its error log.");
     return jobId;
 }
 

@@ -9,7 +9,7 @@ namespace halvern {
 namespace {
 
 struct BackLineWords {
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(BackLines)
 };
 
 // What a terminal would act on, or cannot show, is named by its number.

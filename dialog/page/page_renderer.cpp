@@ -126,7 +126,7 @@ QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, int r
         done += 1.0;
     }
     if (!pdf.finish()) {
-        return QCoreApplication::translate("Photo",
+        return QCoreApplication::translate("PageRenderer",
                                            "The print job could not be written to a temporary file. Make "
                                            "room on the disk and try again.");
     }

@@ -68,7 +68,7 @@ QString earlyWords(const char* text)
     QString found;
     if (translator.load(QLocale(), QStringLiteral("dialog"), QStringLiteral("_"),
                         QStringLiteral(":/halvern/translations")))
-        found = translator.translate("CommandLine", text);
+        found = translator.translate("Application", text);
     return found.isEmpty() ? QString::fromUtf8(text) : found;
 }
 
@@ -80,7 +80,7 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
 {
     if (type == QtFatalMsg) {
         writeLine(stderr, earlyWords(QT_TRANSLATE_NOOP(
-                                         "CommandLine",
+                                         "Application",
                                          "The display cannot be used: %1. Print with --no-dialog, or set "
                                          "DISPLAY to one that works."))
                               .arg(displayComplaint));
@@ -122,7 +122,7 @@ QString displayProblem()
 {
     if (!displayIsMissing)
         return {};
-    return QCoreApplication::translate("CommandLine", "There is no display to show the dialog on. Print with "
+    return QCoreApplication::translate("Application", "There is no display to show the dialog on. Print with "
                                                       "--no-dialog, or set DISPLAY.");
 }
 
@@ -170,7 +170,7 @@ void tellAfterwards(const QString& sentence)
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("/org/freedesktop/Notifications"),
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
-    const QString title = QCoreApplication::translate("CommandLine", "Printing");
+    const QString title = QCoreApplication::translate("Application", "Printing");
     // The body is markup.
     call.setArguments({QCoreApplication::applicationName(), 0U, QStringLiteral("printer"), title,
                        displayText(sentence).toHtmlEscaped(), QStringList(), QVariantMap(), -1});

@@ -100,7 +100,7 @@ int statusWithOutput(int status)
 {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return status;
-    writeLine(stderr, QCoreApplication::translate("CommandLine", "The output could not be written: %1.")
+    writeLine(stderr, QCoreApplication::translate("Main", "The output could not be written: %1.")
                           .arg(QString::fromLocal8Bit(std::strerror(errno))));
     return kExitFailed;
 }

@@ -18,7 +18,7 @@ constexpr qint64 kHour = 60 * kMinute;
 constexpr qint64 kDay = 24 * kHour;
 
 struct TableWords {
-    Q_DECLARE_TR_FUNCTIONS(ListPapers)
+    Q_DECLARE_TR_FUNCTIONS(PaperTable)
 };
 
 using Row = std::array<QString, 4>;

@@ -17,26 +17,25 @@ constexpr int kDiscoveryMilliseconds = 3000;
 // More names than these nobody reads in a sentence.
 constexpr qsizetype kMostNamed = 8;
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("PrinterState", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(PrinterList)
+};
 
 } // namespace
 
 QString stateText(const PrinterInfo& printer)
 {
-    QString state = words(QT_TRANSLATE_NOOP("PrinterState", "Ready"));
+    QString state = Words::tr("Ready");
     if (!printer.isAccepting)
-        state = words(QT_TRANSLATE_NOOP("PrinterState", "Does not accept jobs"));
+        state = Words::tr("Does not accept jobs");
     else if (printer.state == PrinterState::stopped)
-        state = words(QT_TRANSLATE_NOOP("PrinterState", "Paused"));
+        state = Words::tr("Paused");
     else if (printer.state == PrinterState::processing)
-        state = words(QT_TRANSLATE_NOOP("PrinterState", "Printing"));
+        state = Words::tr("Printing");
     else if (printer.isDiscovered)
-        state = words(QT_TRANSLATE_NOOP("PrinterState", "Found on the network"));
+        state = Words::tr("Found on the network");
     else if (stateSeverity(printer) == Severity::error)
-        state = words(QT_TRANSLATE_NOOP("PrinterState", "Needs attention"));
+        state = Words::tr("Needs attention");
     QStringList reasons;
     for (const QString& reason : printer.reasons) {
         const QString text = reasonText(reason);
@@ -64,8 +63,7 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
     for (const PrinterInfo& printer : printers)
         names.append(printer.name);
     if (names.isEmpty())
-        return QCoreApplication::translate(
-            "halvern::BatchPrint", "The print server has no printers. Add one, for example with lpadmin.");
+        return Words::tr("The print server has no printers. Add one, for example with lpadmin.");
     const qsizetype count = names.size();
     if (count > kMostNamed) {
         names = nearNames(name, names, kMostNamed) + names;
@@ -74,12 +72,8 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
     }
     const QString list = names.join(QStringLiteral(", "));
     if (count == names.size())
-        return QCoreApplication::translate("halvern::BatchPrint",
-                                           "The print server has no printer \"%1\". It has: %2.")
-            .arg(name, list);
-    return QCoreApplication::translate(
-               "halvern::BatchPrint",
-               "The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
+        return Words::tr("The print server has no printer \"%1\". It has: %2.").arg(name, list);
+    return Words::tr("The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
         .arg(name, list, QString::number(count - names.size()));
 }
 

@@ -11,10 +11,9 @@ namespace {
 
 constexpr char kDefaultEnding[] = "-default";
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("Server", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(QueuePpd)
+};
 
 void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
 {
@@ -51,9 +50,9 @@ void readQueue(ipp_t* answer, QueuePpd& result)
 QString whyNoPpd(const QString& queue, cups::Connection& server)
 {
     if (server.wasNotFound())
-        return words(QT_TRANSLATE_NOOP("Server", "The printer \"%1\" has no description on the print "
-                                                 "server. Install it with a driver, or choose another "
-                                                 "printer."))
+        return Words::tr("The printer \"%1\" has no description on the print "
+                         "server. Install it with a driver, or choose another "
+                         "printer.")
             .arg(queue);
     server.failed(nullptr);
     return server.error();
@@ -83,10 +82,9 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         ppd::rememberText(queue, *text);
         result.file = std::make_shared<ppd::File>(std::move(file));
     } else
-        result.problem =
-            words(QT_TRANSLATE_NOOP("Server", "The description of the printer \"%1\" is damaged: %2. "
-                                              "Install its driver again, or choose another printer."))
-                .arg(queue, why);
+        result.problem = Words::tr("The description of the printer \"%1\" is damaged: %2. "
+                                   "Install its driver again, or choose another printer.")
+                             .arg(queue, why);
     return result;
 }
 

@@ -12,17 +12,15 @@ namespace {
 
 constexpr int kMostNamed = 5;
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("DamageQuestion", text);
-}
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(DamageQuestion)
+};
 
 QString namedFiles(const QStringList& sentences)
 {
     QStringList lines = sentences.mid(0, kMostNamed);
     if (sentences.size() > kMostNamed)
-        lines.append(
-            words(QT_TRANSLATE_NOOP("DamageQuestion", "And %1 more.")).arg(sentences.size() - kMostNamed));
+        lines.append(Words::tr("And %1 more.").arg(sentences.size() - kMostNamed));
     return lines.join(QStringLiteral("\n\n"));
 }
 
@@ -30,18 +28,14 @@ QString namedFiles(const QStringList& sentences)
 
 void askAboutDamagedPhotos(QWidget* parent, DialogSession& session, const std::function<void()>& go)
 {
-    auto* box = new QMessageBox(QMessageBox::Warning,
-                                words(QT_TRANSLATE_NOOP("DamageQuestion", "Print damaged photos?")),
+    auto* box = new QMessageBox(QMessageBox::Warning, Words::tr("Print damaged photos?"),
                                 namedFiles(session.damagedFiles()), QMessageBox::Cancel, parent);
     box->setObjectName(QStringLiteral("damageQuestion"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(
-        words(QT_TRANSLATE_NOOP("DamageQuestion", "What is missing comes out gray, or smeared.")));
-    const QPushButton* leaveOut = box->addButton(
-        words(QT_TRANSLATE_NOOP("DamageQuestion", "&Leave Them Out")), QMessageBox::DestructiveRole);
-    const QPushButton* print = box->addButton(
-        words(QT_TRANSLATE_NOOP("DamageQuestion", "&Print All the Same")), QMessageBox::AcceptRole);
+    box->setInformativeText(Words::tr("What is missing comes out gray, or smeared."));
+    const QPushButton* leaveOut = box->addButton(Words::tr("&Leave Them Out"), QMessageBox::DestructiveRole);
+    const QPushButton* print = box->addButton(Words::tr("&Print All the Same"), QMessageBox::AcceptRole);
     box->setDefaultButton(QMessageBox::Cancel);
     QObject::connect(box, &QMessageBox::buttonClicked, parent,
                      [leaveOut, print, &session, go](const QAbstractButton* button) {

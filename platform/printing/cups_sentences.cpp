@@ -10,10 +10,9 @@ namespace halvern::cups {
 
 namespace {
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("Server", text);
-}
+struct CupsSentences {
+    Q_DECLARE_TR_FUNCTIONS(CupsSentences)
+};
 
 // libcups has a text where nothing is known, too: "Success" of an error number that nobody set.
 bool saysNothing(const QString& text)
@@ -24,8 +23,8 @@ bool saysNothing(const QString& text)
 
 QString brokenOff()
 {
-    return words(QT_TRANSLATE_NOOP("Server", "The print server broke off the conversation. Try again; if it "
-                                             "fails again, look into the print server's error log."));
+    return CupsSentences::tr("The print server broke off the conversation. Try again; if it "
+                             "fails again, look into the print server's error log.");
 }
 
 QString statusMessage(const Ipp& answer)
@@ -54,9 +53,8 @@ ipp_status_t ippStatusOf(int httpStatus)
 
 QString serverUnreachable()
 {
-    return QCoreApplication::translate("Server",
-                                       "The print server at %1 cannot be reached. Start it, for example with "
-                                       "\"systemctl start cups\", and try again.")
+    return CupsSentences::tr("The print server at %1 cannot be reached. Start it, for example with "
+                             "\"systemctl start cups\", and try again.")
         .arg(QString::fromUtf8(cupsServer()));
 }
 
@@ -79,11 +77,11 @@ QString Connection::sentence(int ippStatus, const QString& message) const
     case Failure::unreachable:
         return serverUnreachable();
     case Failure::silent:
-        return words(QT_TRANSLATE_NOOP("Server", "The print server does not answer. Wait a moment and try "
-                                                 "again, or restart it."));
+        return CupsSentences::tr("The print server does not answer. Wait a moment and try "
+                                 "again, or restart it.");
     case Failure::tooMuch:
-        return words(QT_TRANSLATE_NOOP("Server", "The print server's answer does not end. Restart the print "
-                                                 "server, and try again."));
+        return CupsSentences::tr("The print server's answer does not end. Restart the print "
+                                 "server, and try again.");
     case Failure::cancelled:
     case Failure::brokenOff:
         return brokenOff();
@@ -93,22 +91,22 @@ QString Connection::sentence(int ippStatus, const QString& message) const
     }
     switch (ippStatus) {
     case IPP_STATUS_ERROR_NOT_FOUND:
-        return words(QT_TRANSLATE_NOOP("Server", "The printer is not on the print server any more. Choose "
-                                                 "another one."));
+        return CupsSentences::tr("The printer is not on the print server any more. Choose "
+                                 "another one.");
     case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
-        return words(QT_TRANSLATE_NOOP("Server", "The printer does not accept jobs at the moment. Choose "
-                                                 "another one, or let it accept jobs (cupsaccept)."));
+        return CupsSentences::tr("The printer does not accept jobs at the moment. Choose "
+                                 "another one, or let it accept jobs (cupsaccept).");
     case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
     case IPP_STATUS_ERROR_NOT_AUTHORIZED:
     case IPP_STATUS_ERROR_FORBIDDEN:
-        return words(QT_TRANSLATE_NOOP("Server", "The print server does not allow you to do this. Ask "
-                                                 "whoever looks after it."));
+        return CupsSentences::tr("The print server does not allow you to do this. Ask "
+                                 "whoever looks after it.");
     default:
         break;
     }
     if (ippStatus < IPP_STATUS_REDIRECTION_OTHER_SITE || saysNothing(message))
         return brokenOff();
-    return words(QT_TRANSLATE_NOOP("Server", "The print server reports: %1")).arg(message);
+    return CupsSentences::tr("The print server reports: %1").arg(message);
 }
 
 } // namespace halvern::cups

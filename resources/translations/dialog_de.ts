@@ -31,10 +31,6 @@
         <translation>Auch Fotos, von denen ein Teil fehlt, ohne Rückfrage drucken.</translation>
     </message>
     <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>Es gibt keinen Bildschirm für den Dialog. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY.</translation>
-    </message>
-    <message>
         <source>Print on this queue.</source>
         <translation>Auf dieser Warteschlange drucken.</translation>
     </message>
@@ -91,14 +87,6 @@
         <translation>Auf die Rückseite eines Bildes passen %1 Zeilen: Geben Sie --backprint ein- oder zweimal an.</translation>
     </message>
     <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>Zeile %1 der Rückseite kann %2 nicht enthalten; das wurde weggelassen. Möglich sind die Zeichen einer englischen Tastatur außer „~“ sowie „©“.</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
-    </message>
-    <message>
         <source>Write what the printer has loaded, and how old that knowledge is.</source>
         <translation>Ausgeben, was im Drucker eingelegt ist und wie alt dieses Wissen ist.</translation>
     </message>
@@ -113,10 +101,6 @@
     <message>
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers druckt keine Dateien: Lassen Sie die Dateien und die Optionen zum Drucken weg.</translation>
-    </message>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
     </message>
     <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
@@ -141,14 +125,6 @@
   3  Der Auftrag ist in der Warteschlange und noch nicht beendet.
   4  Abgebrochen: Es wurde nichts gedruckt.
   5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist unbekannt.</translation>
-    </message>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>Der Bildschirm ist nicht benutzbar: %1. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY auf einen, der geht.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Drucken</translation>
     </message>
 </context>
 <context>
@@ -302,53 +278,6 @@
     </message>
 </context>
 <context>
-    <name>Photo</name>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt. Kopieren Sie die Datei erneut von der Kamera oder exportieren Sie sie erneut.</translation>
-    </message>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>Der Druckauftrag konnte nicht in eine temporäre Datei geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>„%1“ ist zu groß zum Drucken. Drucken Sie eine Kopie mit weniger Pixeln.</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>„%1“ ist beschädigt und nicht lesbar. Exportieren Sie die Datei erneut aus Ihrem Fotoprogramm.</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF- oder PDF-Datei.</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>„%1“ ist mit einem Passwort geschützt. Drucken Sie eine Kopie ohne Passwort.</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>Es gibt keine Datei „%1“. Prüfen Sie den Namen.</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>„%1“ ist ein Ordner. Nennen Sie die Fotos darin, zum Beispiel *.jpg.</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie, ob Sie die Datei lesen dürfen.</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Kamera.</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>„%1“ hat sich inzwischen geändert. Öffnen Sie die Datei erneut.</translation>
-    </message>
-</context>
-<context>
     <name>PluginLoader</name>
     <message>
         <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
@@ -381,18 +310,6 @@
 </context>
 <context>
     <name>PpdModel</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>Der Wert von %1 ist zu lang: Er hat %2 Bytes, möglich sind %3. Kürzen Sie ihn.</translation>
-    </message>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 muss eine Zahl von %2 bis %3 sein.</translation>
-    </message>
-    <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 muss %2 bis %3 Zeichen haben.</translation>
-    </message>
     <message>
         <source>An option without a name or a value cannot be set.</source>
         <translation>Eine Option ohne Namen oder Wert kann nicht gesetzt werden.</translation>
@@ -435,76 +352,6 @@
     </message>
 </context>
 <context>
-    <name>PrinterState</name>
-    <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
-    </message>
-    <message>
-        <source>Does not accept jobs</source>
-        <translation>Nimmt keine Aufträge an</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>Angehalten</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Druckt</translation>
-    </message>
-    <message>
-        <source>Found on the network</source>
-        <translation>Im Netz gefunden</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>Braucht Hilfe</translation>
-    </message>
-</context>
-<context>
-    <name>Server</name>
-    <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>Der Druckserver unter %1 ist nicht erreichbar. Starten Sie ihn, zum Beispiel mit „systemctl start cups“, und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>Der Druckserver antwortet nicht. Warten Sie einen Moment und versuchen Sie es erneut, oder starten Sie ihn neu.</translation>
-    </message>
-    <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>Der Drucker ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>Der Drucker nimmt zurzeit keine Aufträge an. Wählen Sie einen anderen oder lassen Sie ihn Aufträge annehmen (cupsaccept).</translation>
-    </message>
-    <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>Der Druckserver erlaubt Ihnen das nicht. Fragen Sie, wer ihn verwaltet.</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>Der Druckserver meldet: %1</translation>
-    </message>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>Der Druckserver hat das Gespräch abgebrochen. Versuchen Sie es erneut; wenn es wieder misslingt, sehen Sie in das Fehlerprotokoll des Druckservers.</translation>
-    </message>
-    <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>Die Antwort des Druckservers nimmt kein Ende. Starten Sie den Druckserver neu und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
-    </message>
-</context>
-<context>
     <name>halvern::BatchPrint</name>
     <message>
         <source>With --print-damaged it is printed all the same.</source>
@@ -515,24 +362,12 @@
         <translation>Passend geändert: %1=%2</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>Der Druckserver hat keine Drucker. Richten Sie einen ein, zum Beispiel mit lpadmin.</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2.</translation>
-    </message>
-    <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>Abgebrochen: Es wurde nichts gedruckt.</translation>
     </message>
     <message>
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>Auftrag %1 bleibt in der Warteschlange; „cancel %2-%1“ nimmt ihn weg.</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2 und %3 weitere (lpstat -e).</translation>
     </message>
     <message>
         <source>Warning: %1</source>
@@ -969,50 +804,6 @@
         <translation>Fragen Sie ihn mit --refresh.</translation>
     </message>
     <message>
-        <source>just now</source>
-        <translation>gerade eben</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>vor %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>vor %1 h</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>vor %1 Tagen</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1: nie aktualisiert</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1: zuletzt aktualisiert %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>Rolle</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Blatt</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>Oberfläche</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Auflösung</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>Tonwerte</translation>
-    </message>
-    <message>
         <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
         <translation>Die Anfrage an „%1“ konnte nicht verarbeitet werden%2 und wurde zurückgenommen. Sehen Sie nach dem Drucker und im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
     </message>
@@ -1155,6 +946,239 @@
     <message>
         <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
         <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Im Netz gefunden</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Braucht Hilfe</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>Der Druckserver hat keine Drucker. Richten Sie einen ein, zum Beispiel mit lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2 und %3 weitere (lpstat -e).</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 muss eine Zahl von %2 bis %3 sein.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 muss %2 bis %3 Zeichen haben.</translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>Der Druckserver hat das Gespräch abgebrochen. Versuchen Sie es erneut; wenn es wieder misslingt, sehen Sie in das Fehlerprotokoll des Druckservers.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>Der Druckserver antwortet nicht. Warten Sie einen Moment und versuchen Sie es erneut, oder starten Sie ihn neu.</translation>
+    </message>
+    <message>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>Die Antwort des Druckservers nimmt kein Ende. Starten Sie den Druckserver neu und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>Der Drucker ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>Der Drucker nimmt zurzeit keine Aufträge an. Wählen Sie einen anderen oder lassen Sie ihn Aufträge annehmen (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen das nicht. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Der Druckserver meldet: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>Der Druckserver unter %1 ist nicht erreichbar. Starten Sie ihn, zum Beispiel mit „systemctl start cups“, und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>Der Druckauftrag konnte nicht in eine temporäre Datei geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>„%1“ ist beschädigt und nicht lesbar. Exportieren Sie die Datei erneut aus Ihrem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt. Kopieren Sie die Datei erneut von der Kamera oder exportieren Sie sie erneut.</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>„%1“ ist zu groß zum Drucken. Drucken Sie eine Kopie mit weniger Pixeln.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF- oder PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>„%1“ ist mit einem Passwort geschützt. Drucken Sie eine Kopie ohne Passwort.</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>„%1“ hat sich inzwischen geändert. Öffnen Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>Es gibt keine Datei „%1“. Prüfen Sie den Namen.</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>„%1“ ist ein Ordner. Nennen Sie die Fotos darin, zum Beispiel *.jpg.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie, ob Sie die Datei lesen dürfen.</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Kamera.</translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>Der Wert von %1 ist zu lang: Er hat %2 Bytes, möglich sind %3. Kürzen Sie ihn.</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>Zeile %1 der Rückseite kann %2 nicht enthalten; das wurde weggelassen. Möglich sind die Zeichen einer englischen Tastatur außer „~“ sowie „©“.</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>gerade eben</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>vor %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>vor %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>vor %1 Tagen</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: nie aktualisiert</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: zuletzt aktualisiert %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Oberfläche</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tonwerte</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>Der Bildschirm ist nicht benutzbar: %1. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY auf einen, der geht.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>Es gibt keinen Bildschirm für den Dialog. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
     </message>
 </context>
 </TS>

@@ -31,10 +31,6 @@
         <translation>Imprimir también, sin preguntar, las fotos a las que les falta una parte.</translation>
     </message>
     <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>No hay pantalla para mostrar el diálogo. Imprima con --no-dialog o defina DISPLAY.</translation>
-    </message>
-    <message>
         <source>Print on this queue.</source>
         <translation>Imprimir en esta cola.</translation>
     </message>
@@ -91,14 +87,6 @@
         <translation>El dorso de una foto admite %1 líneas: indique --backprint una o dos veces.</translation>
     </message>
     <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>La línea %1 del dorso no puede contener %2, que se omitió. Admite los caracteres de un teclado inglés salvo «~», y «©».</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>La línea %1 del dorso tiene más de %2 caracteres; se omitió lo que sigue (%3).</translation>
-    </message>
-    <message>
         <source>Write what the printer has loaded, and how old that knowledge is.</source>
         <translation>Muestra qué papel tiene cargado la impresora y de cuándo es esa información.</translation>
     </message>
@@ -113,10 +101,6 @@
     <message>
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers no imprime archivos: omita los archivos y las opciones de impresión.</translation>
-    </message>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>No se pudo escribir la salida: %1.</translation>
     </message>
     <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
@@ -141,14 +125,6 @@
   3  El trabajo está en la cola y aún no había terminado.
   4  Cancelado: no se imprimió nada.
   5  El trabajo se envió, pero el servidor de impresión no responde: el resultado es desconocido.</translation>
-    </message>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>La pantalla no se puede usar: %1. Imprima con --no-dialog o defina DISPLAY con una que funcione.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impresión</translation>
     </message>
 </context>
 <context>
@@ -302,53 +278,6 @@
     </message>
 </context>
 <context>
-    <name>Photo</name>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>«%1» está dañado: falta una parte de la imagen. Vuelva a copiarlo de la cámara o a exportarlo.</translation>
-    </message>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>El trabajo no se pudo escribir en un archivo temporal. Libere espacio en el disco e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>«%1» es demasiado grande para imprimirla. Imprima una copia con menos píxeles.</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>«%1» está dañado y no se puede leer. Expórtelo de nuevo desde su programa de fotos.</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>«%1» no es una imagen imprimible. Use un archivo JPEG, PNG, TIFF o PDF.</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>«%1» está protegido con contraseña. Imprima una copia sin contraseña.</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>No existe el archivo «%1». Compruebe el nombre.</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>«%1» es una carpeta. Indique las fotos que contiene, por ejemplo *.jpg.</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>«%1» no se puede abrir. Compruebe que tiene permiso de lectura.</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>«%1» está vacío. Cópielo de nuevo desde la cámara.</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>«%1» ha cambiado mientras tanto. Ábralo de nuevo.</translation>
-    </message>
-</context>
-<context>
     <name>PluginLoader</name>
     <message>
         <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
@@ -381,18 +310,6 @@
 </context>
 <context>
     <name>PpdModel</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>El valor de %1 es demasiado largo: tiene %2 bytes y caben %3. Acórtelo.</translation>
-    </message>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 debe ser un número de %2 a %3.</translation>
-    </message>
-    <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 debe tener de %2 a %3 caracteres.</translation>
-    </message>
     <message>
         <source>An option without a name or a value cannot be set.</source>
         <translation>No se puede fijar una opción sin nombre o sin valor.</translation>
@@ -435,76 +352,6 @@
     </message>
 </context>
 <context>
-    <name>PrinterState</name>
-    <message>
-        <source>Ready</source>
-        <translation>Lista</translation>
-    </message>
-    <message>
-        <source>Does not accept jobs</source>
-        <translation>No acepta trabajos</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>En pausa</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Imprimiendo</translation>
-    </message>
-    <message>
-        <source>Found on the network</source>
-        <translation>Encontrada en la red</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>Requiere atención</translation>
-    </message>
-</context>
-<context>
-    <name>Server</name>
-    <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>No se puede contactar con el servidor de impresión %1. Inícielo, por ejemplo con «systemctl start cups», e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>El servidor de impresión no responde. Espere un momento e inténtelo de nuevo, o reinícielo.</translation>
-    </message>
-    <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>La impresora ya no está en el servidor de impresión. Elija otra.</translation>
-    </message>
-    <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>La impresora no acepta trabajos por ahora. Elija otra o haga que los acepte (cupsaccept).</translation>
-    </message>
-    <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>El servidor de impresión no se lo permite. Pregunte a quien lo administra.</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>El servidor de impresión informa: %1</translation>
-    </message>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>El servidor de impresión interrumpió la conversación. Inténtelo de nuevo; si vuelve a fallar, consulte el registro de errores del servidor de impresión.</translation>
-    </message>
-    <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>La respuesta del servidor de impresión no termina. Reinicie el servidor de impresión e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>La impresora «%1» no tiene descripción en el servidor. Instálela con un controlador o elija otra.</translation>
-    </message>
-    <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>La descripción de la impresora «%1» está dañada: %2. Reinstale su controlador o elija otra impresora.</translation>
-    </message>
-</context>
-<context>
     <name>halvern::BatchPrint</name>
     <message>
         <source>With --print-damaged it is printed all the same.</source>
@@ -515,24 +362,12 @@
         <translation>Adaptado: %1=%2</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>El servidor de impresión no tiene impresoras. Añada una, por ejemplo con lpadmin.</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2.</translation>
-    </message>
-    <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>Cancelado: no se imprimió nada.</translation>
     </message>
     <message>
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>El trabajo %1 sigue en la cola; «cancel %2-%1» lo quita.</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2 y %3 más (lpstat -e).</translation>
     </message>
     <message>
         <source>Warning: %1</source>
@@ -969,50 +804,6 @@
         <translation>Pregúntele con --refresh.</translation>
     </message>
     <message>
-        <source>just now</source>
-        <translation>ahora mismo</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>hace %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>hace %1 h</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>hace %1 días</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1: nunca actualizado</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1: última actualización %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>Rollo</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Hoja</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>Superficie</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Resolución</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>Tonos</translation>
-    </message>
-    <message>
         <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
         <translation>La consulta a «%1» no se pudo procesar%2 y se ha retirado. Revise la impresora, consulte el registro de errores del servidor de impresión y vuelva a preguntar.</translation>
     </message>
@@ -1155,6 +946,239 @@
     <message>
         <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
         <translation>Su impresora predeterminada «%1» no está en el servidor de impresión. Se eligió «%2» en su lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>No acepta trabajos</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Encontrada en la red</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Requiere atención</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>El servidor de impresión no tiene impresoras. Añada una, por ejemplo con lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>El servidor de impresión no tiene la impresora «%1». Tiene: %2 y %3 más (lpstat -e).</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>La impresora «%1» no tiene descripción en el servidor. Instálela con un controlador o elija otra.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>La descripción de la impresora «%1» está dañada: %2. Reinstale su controlador o elija otra impresora.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 debe ser un número de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 debe tener de %2 a %3 caracteres.</translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>El servidor de impresión interrumpió la conversación. Inténtelo de nuevo; si vuelve a fallar, consulte el registro de errores del servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>El servidor de impresión no responde. Espere un momento e inténtelo de nuevo, o reinícielo.</translation>
+    </message>
+    <message>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>La respuesta del servidor de impresión no termina. Reinicie el servidor de impresión e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>La impresora ya no está en el servidor de impresión. Elija otra.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>La impresora no acepta trabajos por ahora. Elija otra o haga que los acepte (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no se lo permite. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>El servidor de impresión informa: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>No se puede contactar con el servidor de impresión %1. Inícielo, por ejemplo con «systemctl start cups», e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>El trabajo no se pudo escribir en un archivo temporal. Libere espacio en el disco e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>«%1» está dañado y no se puede leer. Expórtelo de nuevo desde su programa de fotos.</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>«%1» está dañado: falta una parte de la imagen. Vuelva a copiarlo de la cámara o a exportarlo.</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>«%1» es demasiado grande para imprimirla. Imprima una copia con menos píxeles.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>«%1» no es una imagen imprimible. Use un archivo JPEG, PNG, TIFF o PDF.</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>«%1» está protegido con contraseña. Imprima una copia sin contraseña.</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>«%1» ha cambiado mientras tanto. Ábralo de nuevo.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>No existe el archivo «%1». Compruebe el nombre.</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>«%1» es una carpeta. Indique las fotos que contiene, por ejemplo *.jpg.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>«%1» no se puede abrir. Compruebe que tiene permiso de lectura.</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>«%1» está vacío. Cópielo de nuevo desde la cámara.</translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>El valor de %1 es demasiado largo: tiene %2 bytes y caben %3. Acórtelo.</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>La línea %1 del dorso no puede contener %2, que se omitió. Admite los caracteres de un teclado inglés salvo «~», y «©».</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>La línea %1 del dorso tiene más de %2 caracteres; se omitió lo que sigue (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>ahora mismo</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>hace %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>hace %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>hace %1 días</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: nunca actualizado</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: última actualización %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rollo</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Superficie</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tonos</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>La pantalla no se puede usar: %1. Imprima con --no-dialog o defina DISPLAY con una que funcione.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>No hay pantalla para mostrar el diálogo. Imprima con --no-dialog o defina DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>No se pudo escribir la salida: %1.</translation>
     </message>
 </context>
 </TS>

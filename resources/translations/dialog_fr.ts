@@ -31,10 +31,6 @@
         <translation>Imprimer aussi, sans demander, les photos dont une partie manque.</translation>
     </message>
     <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>Aucun écran pour afficher le dialogue. Imprimez avec --no-dialog ou définissez DISPLAY.</translation>
-    </message>
-    <message>
         <source>Print on this queue.</source>
         <translation>Imprimer sur cette file.</translation>
     </message>
@@ -91,14 +87,6 @@
         <translation>Le dos d’une photo reçoit %1 lignes : donnez --backprint une ou deux fois.</translation>
     </message>
     <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>La ligne %1 du dos ne peut pas contenir %2, qui a été omis. Elle accepte les caractères d’un clavier anglais sauf « ~ », ainsi que « © ».</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
-    </message>
-    <message>
         <source>Write what the printer has loaded, and how old that knowledge is.</source>
         <translation>Afficher ce qui est chargé dans l'imprimante et l'âge de cette information.</translation>
     </message>
@@ -113,10 +101,6 @@
     <message>
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers n'imprime aucun fichier : omettez les fichiers et les options d'impression.</translation>
-    </message>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>La sortie n'a pas pu être écrite : %1.</translation>
     </message>
     <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
@@ -141,14 +125,6 @@
   3  La tâche est dans la file et n’était pas encore terminée.
   4  Annulé : rien n’a été imprimé.
   5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue est inconnue.</translation>
-    </message>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>L’écran est inutilisable : %1. Imprimez avec --no-dialog ou définissez DISPLAY sur un écran qui fonctionne.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impression</translation>
     </message>
 </context>
 <context>
@@ -302,53 +278,6 @@
     </message>
 </context>
 <context>
-    <name>Photo</name>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>« %1 » est endommagé : une partie de l’image manque. Copiez-le à nouveau depuis l’appareil photo ou exportez-le à nouveau.</translation>
-    </message>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>La tâche n’a pas pu être écrite dans un fichier temporaire. Libérez de la place sur le disque et réessayez.</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>« %1 » est trop grande pour être imprimée. Imprimez une copie avec moins de pixels.</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>« %1 » est endommagé et illisible. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF ou PDF.</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>« %1 » est protégé par un mot de passe. Imprimez une copie sans mot de passe.</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>Il n’y a pas de fichier « %1 ». Vérifiez son nom.</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>« %1 » est un dossier. Nommez les photos qu’il contient, par exemple *.jpg.</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>« %1 » ne peut pas être ouvert. Vérifiez que vous avez le droit de le lire.</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>« %1 » est vide. Copiez-le à nouveau depuis l’appareil photo.</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>« %1 » a changé entre-temps. Ouvrez-le à nouveau.</translation>
-    </message>
-</context>
-<context>
     <name>PluginLoader</name>
     <message>
         <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
@@ -381,18 +310,6 @@
 </context>
 <context>
     <name>PpdModel</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>La valeur de %1 est trop longue : %2 octets, %3 au plus. Raccourcissez-la.</translation>
-    </message>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 doit être un nombre de %2 à %3.</translation>
-    </message>
-    <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 doit avoir de %2 à %3 caractères.</translation>
-    </message>
     <message>
         <source>An option without a name or a value cannot be set.</source>
         <translation>Une option sans nom ou sans valeur ne peut pas être définie.</translation>
@@ -435,76 +352,6 @@
     </message>
 </context>
 <context>
-    <name>PrinterState</name>
-    <message>
-        <source>Ready</source>
-        <translation>Prête</translation>
-    </message>
-    <message>
-        <source>Does not accept jobs</source>
-        <translation>N’accepte pas de tâches</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>En pause</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Imprime</translation>
-    </message>
-    <message>
-        <source>Found on the network</source>
-        <translation>Trouvée sur le réseau</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>Demande votre attention</translation>
-    </message>
-</context>
-<context>
-    <name>Server</name>
-    <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>Le serveur d’impression %1 est injoignable. Démarrez-le, par exemple avec « systemctl start cups », et réessayez.</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>Le serveur d’impression ne répond pas. Attendez un moment et réessayez, ou redémarrez-le.</translation>
-    </message>
-    <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>L’imprimante n’est plus sur le serveur d’impression. Choisissez-en une autre.</translation>
-    </message>
-    <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>L’imprimante n’accepte pas de tâches pour le moment. Choisissez-en une autre ou autorisez-la (cupsaccept).</translation>
-    </message>
-    <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>Le serveur d’impression ne vous y autorise pas. Adressez-vous à la personne qui le gère.</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>Le serveur d’impression signale : %1</translation>
-    </message>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>Le serveur d’impression a interrompu la conversation. Réessayez ; si cela échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
-    </message>
-    <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>La réponse du serveur d’impression ne se termine pas. Redémarrez le serveur d’impression et réessayez.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
-    </message>
-    <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
-    </message>
-</context>
-<context>
     <name>halvern::BatchPrint</name>
     <message>
         <source>With --print-damaged it is printed all the same.</source>
@@ -515,24 +362,12 @@
         <translation>Adapté : %1=%2</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une, par exemple avec lpadmin.</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2.</translation>
-    </message>
-    <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>Annulé : rien n’a été imprimé.</translation>
     </message>
     <message>
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>La tâche %1 reste dans la file ; « cancel %2-%1 » l’enlève.</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2 et %3 de plus (lpstat -e).</translation>
     </message>
     <message>
         <source>Warning: %1</source>
@@ -969,50 +804,6 @@
         <translation>Interrogez-la avec --refresh.</translation>
     </message>
     <message>
-        <source>just now</source>
-        <translation>à l'instant</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>il y a %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>il y a %1 h</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>il y a %1 jours</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1 : jamais mis à jour</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1 : dernière mise à jour %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>Rouleau</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Feuille</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>Surface</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Résolution</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>Tons</translation>
-    </message>
-    <message>
         <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
         <translation>La demande à « %1 » n'a pas pu être traitée%2 et a été retirée. Vérifiez l'imprimante, consultez le journal d'erreurs du serveur d'impression et recommencez.</translation>
     </message>
@@ -1155,6 +946,239 @@
     <message>
         <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
         <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>N’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprime</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trouvée sur le réseau</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Demande votre attention</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une, par exemple avec lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2 et %3 de plus (lpstat -e).</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 doit être un nombre de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 doit avoir de %2 à %3 caractères.</translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>Le serveur d’impression a interrompu la conversation. Réessayez ; si cela échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>Le serveur d’impression ne répond pas. Attendez un moment et réessayez, ou redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>La réponse du serveur d’impression ne se termine pas. Redémarrez le serveur d’impression et réessayez.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>L’imprimante n’est plus sur le serveur d’impression. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>L’imprimante n’accepte pas de tâches pour le moment. Choisissez-en une autre ou autorisez-la (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous y autorise pas. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Le serveur d’impression signale : %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>Le serveur d’impression %1 est injoignable. Démarrez-le, par exemple avec « systemctl start cups », et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>La tâche n’a pas pu être écrite dans un fichier temporaire. Libérez de la place sur le disque et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>« %1 » est endommagé et illisible. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>« %1 » est endommagé : une partie de l’image manque. Copiez-le à nouveau depuis l’appareil photo ou exportez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>« %1 » est trop grande pour être imprimée. Imprimez une copie avec moins de pixels.</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF ou PDF.</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>« %1 » est protégé par un mot de passe. Imprimez une copie sans mot de passe.</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>« %1 » a changé entre-temps. Ouvrez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>Il n’y a pas de fichier « %1 ». Vérifiez son nom.</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>« %1 » est un dossier. Nommez les photos qu’il contient, par exemple *.jpg.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>« %1 » ne peut pas être ouvert. Vérifiez que vous avez le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>« %1 » est vide. Copiez-le à nouveau depuis l’appareil photo.</translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>La valeur de %1 est trop longue : %2 octets, %3 au plus. Raccourcissez-la.</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>La ligne %1 du dos ne peut pas contenir %2, qui a été omis. Elle accepte les caractères d’un clavier anglais sauf « ~ », ainsi que « © ».</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>à l'instant</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>il y a %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>il y a %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>il y a %1 jours</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1 : jamais mis à jour</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1 : dernière mise à jour %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rouleau</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Surface</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tons</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>L’écran est inutilisable : %1. Imprimez avec --no-dialog ou définissez DISPLAY sur un écran qui fonctionne.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>Aucun écran pour afficher le dialogue. Imprimez avec --no-dialog ou définissez DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>La sortie n'a pas pu être écrite : %1.</translation>
     </message>
 </context>
 </TS>

@@ -31,10 +31,6 @@
         <translation>一部が欠けている写真も確認せずに印刷します。</translation>
     </message>
     <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>ダイアログを表示する画面がありません。--no-dialog で印刷するか、DISPLAY を設定してください。</translation>
-    </message>
-    <message>
         <source>Print on this queue.</source>
         <translation>このキューで印刷します。</translation>
     </message>
@@ -91,14 +87,6 @@
         <translation>写真の裏面に入るのは %1 行です。--backprint は 1 回か 2 回指定してください。</translation>
     </message>
     <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>裏面の %1 行目には %2 を入れられないため、省きました。使えるのは、「~」を除く英語キーボードの文字と「©」です。</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
-    </message>
-    <message>
         <source>Write what the printer has loaded, and how old that knowledge is.</source>
         <translation>プリンターにセットされている用紙と、その情報の古さを表示します。</translation>
     </message>
@@ -113,10 +101,6 @@
     <message>
         <source>--list-papers prints no files: leave out the files and the options for printing.</source>
         <translation>--list-papers はファイルを印刷しません。ファイルと印刷用のオプションを省いてください。</translation>
-    </message>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>出力を書き込めませんでした: %1</translation>
     </message>
     <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
@@ -141,14 +125,6 @@
   3  ジョブはキューにあり、まだ終わっていない。
   4  キャンセル: 何も印刷していない。
   5  ジョブは送信したが、プリントサーバーが応答せず、結果は不明。</translation>
-    </message>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>画面を使用できません: %1。--no-dialog で印刷するか、DISPLAY に使える画面を設定してください。</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>印刷</translation>
     </message>
 </context>
 <context>
@@ -302,53 +278,6 @@
     </message>
 </context>
 <context>
-    <name>Photo</name>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>「%1」は破損しています: 画像の一部が欠けています。カメラからもう一度コピーするか、もう一度書き出してください。</translation>
-    </message>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>印刷ジョブを一時ファイルに書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>「%1」は大きすぎて印刷できません。画素数を減らしたコピーを印刷してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>「%1」は壊れていて読めません。写真ソフトからもう一度書き出してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、PDF のファイルをお使いください。</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>「%1」はパスワードで保護されています。パスワードなしのコピーを印刷してください。</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>「%1」というファイルはありません。名前を確認してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>「%1」はフォルダーです。*.jpg のように中の写真を指定してください。</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>「%1」を開けません。読み取りの権限を確認してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>「%1」は空です。カメラからもう一度コピーしてください。</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>「%1」は途中で変わりました。もう一度開いてください。</translation>
-    </message>
-</context>
-<context>
     <name>PluginLoader</name>
     <message>
         <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
@@ -381,18 +310,6 @@
 </context>
 <context>
     <name>PpdModel</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>%1 の値が長すぎて送れません: %2 バイトあり、上限は %3 です。短くしてください。</translation>
-    </message>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 は %2 から %3 までの数にしてください。</translation>
-    </message>
-    <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 は %2～%3 文字にしてください。</translation>
-    </message>
     <message>
         <source>An option without a name or a value cannot be set.</source>
         <translation>名前か値のないオプションは設定できません。</translation>
@@ -435,76 +352,6 @@
     </message>
 </context>
 <context>
-    <name>PrinterState</name>
-    <message>
-        <source>Ready</source>
-        <translation>準備完了</translation>
-    </message>
-    <message>
-        <source>Does not accept jobs</source>
-        <translation>ジョブを受け付けません</translation>
-    </message>
-    <message>
-        <source>Paused</source>
-        <translation>一時停止中</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>印刷中</translation>
-    </message>
-    <message>
-        <source>Found on the network</source>
-        <translation>ネットワークで見つかりました</translation>
-    </message>
-    <message>
-        <source>Needs attention</source>
-        <translation>確認が必要です</translation>
-    </message>
-</context>
-<context>
-    <name>Server</name>
-    <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>プリントサーバー %1 に接続できません。「systemctl start cups」などで起動して、もう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>プリントサーバーが応答しません。少し待ってからもう一度試すか、再起動してください。</translation>
-    </message>
-    <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>そのプリンターはもうプリントサーバーにありません。別のプリンターを選んでください。</translation>
-    </message>
-    <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>プリンターは今ジョブを受け付けていません。別のプリンターを選ぶか、受け付けを許可してください (cupsaccept)。</translation>
-    </message>
-    <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>プリントサーバーで許可されていません。管理者にお尋ねください。</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>プリントサーバーからの報告: %1</translation>
-    </message>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>プリントサーバーとの通信が途中で切れました。もう一度お試しください。再び失敗する場合は、プリントサーバーのエラーログをご確認ください。</translation>
-    </message>
-    <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>プリントサーバーの応答が終わりません。プリントサーバーを再起動して、もう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
-    </message>
-    <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
-    </message>
-</context>
-<context>
     <name>halvern::BatchPrint</name>
     <message>
         <source>With --print-damaged it is printed all the same.</source>
@@ -515,24 +362,12 @@
         <translation>合わせて変更しました: %1=%2</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>プリントサーバーにプリンターがありません。lpadmin などで追加してください。</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>プリントサーバーに「%1」というプリンターはありません。使えるプリンター: %2。</translation>
-    </message>
-    <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>キャンセルしました。何も印刷していません。</translation>
     </message>
     <message>
         <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
         <translation>ジョブ %1 はキューに残ります。「cancel %2-%1」で取り除けます。</translation>
-    </message>
-    <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>プリントサーバーに「%1」というプリンターはありません。あるもの: %2、ほか %3 台 (lpstat -e)。</translation>
     </message>
     <message>
         <source>Warning: %1</source>
@@ -969,50 +804,6 @@
         <translation>--refresh で問い合わせてください。</translation>
     </message>
     <message>
-        <source>just now</source>
-        <translation>たった今</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>%1 分前</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>%1 時間前</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>%1 日前</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1: 最終更新 なし</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1: 最終更新 %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>ロール</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>カット紙</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>面質</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>解像度</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>トーン</translation>
-    </message>
-    <message>
         <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
         <translation>「%1」への問い合わせは処理できなかったため%2、取り消しました。プリンターとプリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
     </message>
@@ -1155,6 +946,239 @@
     <message>
         <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
         <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>ネットワークで見つかりました</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>確認が必要です</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>プリントサーバーにプリンターがありません。lpadmin などで追加してください。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2.</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。使えるプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。あるもの: %2、ほか %3 台 (lpstat -e)。</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 は %2 から %3 までの数にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 は %2～%3 文字にしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
+        <translation>プリントサーバーとの通信が途中で切れました。もう一度お試しください。再び失敗する場合は、プリントサーバーのエラーログをご確認ください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>プリントサーバーが応答しません。少し待ってからもう一度試すか、再起動してください。</translation>
+    </message>
+    <message>
+        <source>The print server's answer does not end. Restart the print server, and try again.</source>
+        <translation>プリントサーバーの応答が終わりません。プリントサーバーを再起動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>そのプリンターはもうプリントサーバーにありません。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>プリンターは今ジョブを受け付けていません。別のプリンターを選ぶか、受け付けを許可してください (cupsaccept)。</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>プリントサーバーで許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>プリントサーバーからの報告: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
+        <translation>プリントサーバー %1 に接続できません。「systemctl start cups」などで起動して、もう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>印刷ジョブを一時ファイルに書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>「%1」は壊れていて読めません。写真ソフトからもう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>「%1」は破損しています: 画像の一部が欠けています。カメラからもう一度コピーするか、もう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>「%1」は大きすぎて印刷できません。画素数を減らしたコピーを印刷してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、PDF のファイルをお使いください。</translation>
+    </message>
+    <message>
+        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
+        <translation>「%1」はパスワードで保護されています。パスワードなしのコピーを印刷してください。</translation>
+    </message>
+    <message>
+        <source>"%1" has changed meanwhile. Open it again.</source>
+        <translation>「%1」は途中で変わりました。もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>There is no file "%1". Check its name.</source>
+        <translation>「%1」というファイルはありません。名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>「%1」はフォルダーです。*.jpg のように中の写真を指定してください。</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be opened. Check that you may read it.</source>
+        <translation>「%1」を開けません。読み取りの権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>"%1" is empty. Copy it from the camera again.</source>
+        <translation>「%1」は空です。カメラからもう一度コピーしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>%1 の値が長すぎて送れません: %2 バイトあり、上限は %3 です。短くしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
+        <translation>裏面の %1 行目には %2 を入れられないため、省きました。使えるのは、「~」を除く英語キーボードの文字と「©」です。</translation>
+    </message>
+    <message>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>たった今</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分前</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>%1 時間前</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>%1 日前</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: 最終更新 なし</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: 最終更新 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>カット紙</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>面質</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>トーン</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>画面を使用できません: %1。--no-dialog で印刷するか、DISPLAY に使える画面を設定してください。</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>ダイアログを表示する画面がありません。--no-dialog で印刷するか、DISPLAY を設定してください。</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>出力を書き込めませんでした: %1</translation>
     </message>
 </context>
 </TS>
