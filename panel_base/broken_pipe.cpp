@@ -15,6 +15,8 @@ namespace {
 static_assert(std::atomic<long>::is_always_lock_free, "a signal handler uses it");
 
 std::atomic<bool> isOnTerminal = false;
+// Standard error is a broken pipe itself: each line there would call the handler anew, without end.
+std::atomic<bool> isLogGone = false;
 std::atomic<long> nextLineAt = 0; // seconds of the monotonic clock
 
 // A server that goes away breaks a pipe with each question, and a terminal has a reader.
@@ -31,7 +33,7 @@ bool isTooSoon()
 extern "C" void brokenPipeHandler(int number)
 {
     const int error = errno;
-    if (isTooSoon()) {
+    if (isLogGone || isTooSoon()) {
         errno = error;
         return;
     }
@@ -46,9 +48,8 @@ extern "C" void brokenPipeHandler(int number)
     while (count > 0)
         *at++ = digits[--count];
     *at++ = '\n';
-    if (write(STDERR_FILENO, line, std::size_t(at - line)) < 0) {
-        // Nothing to do: the log itself is gone.
-    }
+    if (write(STDERR_FILENO, line, std::size_t(at - line)) < 0)
+        isLogGone = errno == EPIPE;
     errno = error;
 }
 
@@ -57,6 +58,7 @@ extern "C" void brokenPipeHandler(int number)
 bool installBrokenPipeHandler()
 {
     isOnTerminal = isatty(STDERR_FILENO) != 0;
+    isLogGone = false;
     return std::signal(SIGPIPE, brokenPipeHandler) != SIG_ERR;
 }
 

@@ -124,6 +124,12 @@ TEST_F(LifecycleTest, ABrokenPipeEndsNobody)
     testing::internal::CaptureStderr();
     EXPECT_EQ(write(ends[1], "x", 1), -1);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "caught a signal 13\n");
+    // Where standard error is broken, too, the line about it is not told anew for ever.
+    const int before = dup(STDERR_FILENO);
+    dup2(ends[1], STDERR_FILENO);
+    EXPECT_EQ(write(ends[1], "x", 1), -1);
+    dup2(before, STDERR_FILENO);
+    close(before);
     close(ends[1]);
 }
 
