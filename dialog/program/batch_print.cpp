@@ -27,7 +27,7 @@ BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream
     connect(&session_.printerList(), &PrinterList::changed, this, &BatchPrint::takePrinters);
     connect(&session_, &DialogSession::photosChanged, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::photoFailed, this,
-            [this](const QString& sentence) { fail(sentence); });
+            [this](const QString& sentence) { photoProblems_.append(sentence); });
     connect(&session_, &DialogSession::photoDamaged, this, &BatchPrint::takeDamage);
     connect(&session_, &DialogSession::printerReady, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::printerFailed, this, &BatchPrint::takePrinterFailure);
@@ -71,11 +71,15 @@ void BatchPrint::takeDamage(const QString& sentence)
     if (line_.request.printDamaged)
         writeLine(err_, sentence);
     else
-        fail(sentence + QLatin1Char(' ') + tr("With --print-damaged it is printed all the same."));
+        photoProblems_.append(sentence + QLatin1Char(' ') +
+                              tr("With --print-damaged it is printed all the same."));
 }
 
 void BatchPrint::proceed()
 {
+    // All of them, so that nobody has to try again for each.
+    if (session_.hasPhotos() && !photoProblems_.isEmpty())
+        fail(photoProblems_.join(QLatin1Char('\n')));
     const bool isComplete = session_.hasPhotos() && session_.model() && session_.printerList().hasAnswer();
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;
@@ -158,7 +162,7 @@ void BatchPrint::fail(const QString& sentence, int status)
     if (hasFailed_ || hasStarted_)
         return;
     hasFailed_ = true;
-    writeLine(err_, sentence);
+    writeLines(err_, sentence);
     end(status);
 }
 

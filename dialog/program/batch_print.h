@@ -43,6 +43,7 @@ private:
     bool hasFailed_ = false;
     bool hasStarted_ = false;
     QString printerFailure_;
+    QStringList photoProblems_;
     QPointer<PrintRun> run_;
     QString lastSentence_;
 };

@@ -104,6 +104,32 @@ public:
     static QString fileHelp() { return tr("JPEG, PNG, TIFF or PDF files; each photo becomes a page."); }
 };
 
+// The application object takes these out of the arguments; so does whoever looks at them before it.
+QStringList withoutToolkitsOwn(const QStringList& arguments)
+{
+    static const QStringList kAlone{QStringLiteral("reverse"), QStringLiteral("nograb"),
+                                    QStringLiteral("dograb"), QStringLiteral("widgetcount"),
+                                    QStringLiteral("sync")};
+    static const QStringList kWithValue{
+        QStringLiteral("platform"), QStringLiteral("platformpluginpath"), QStringLiteral("platformtheme"),
+        QStringLiteral("plugin"),   QStringLiteral("qwindowgeometry"),    QStringLiteral("geometry"),
+        QStringLiteral("session"),  QStringLiteral("qwindowicon"),        QStringLiteral("icon"),
+        QStringLiteral("display"),  QStringLiteral("qwindowtitle"),       QStringLiteral("title"),
+        QStringLiteral("style"),    QStringLiteral("stylesheet"),         QStringLiteral("fontengine")};
+    QStringList rest;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments[i];
+        const qsizetype dashes = argument.startsWith(QLatin1StringView("--")) ? 2 : 1;
+        const QString name = argument.startsWith(QLatin1Char('-')) ? argument.mid(dashes) : QString();
+        const QString before = name.section(QLatin1Char('='), 0, 0);
+        if (kWithValue.contains(name))
+            ++i;
+        else if (!kAlone.contains(name) && !(name.contains(QLatin1Char('=')) && kWithValue.contains(before)))
+            rest.append(argument);
+    }
+    return rest;
+}
+
 ParsedCommandLine wrong(const QString& sentence, int status = kExitUsage)
 {
     return {std::nullopt, sentence, status};
@@ -200,11 +226,13 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
         return wrong(Switches::refreshAlone() + QLatin1Char(' ') + Switches::seeHelp());
     if (line.request.files.isEmpty())
         return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
+    QStringList unusable;
     for (const QString& path : line.request.files) {
-        const QString unusable = fileProblem(path);
-        if (!unusable.isEmpty())
-            return wrong(unusable, kExitFailed);
+        if (const QString sentence = fileProblem(path); !sentence.isEmpty())
+            unusable.append(sentence);
     }
+    if (!unusable.isEmpty())
+        return wrong(unusable.join(QLatin1Char('\n')), kExitFailed);
     return {line, {}, kExitPrinted, remarks};
 }
 
@@ -216,10 +244,14 @@ bool asksForWindow(const QStringList& arguments)
                        switches.noDialog, switches.dryRun, switches.listPapers});
     const QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(),
                                                switches.noDialog, switches.dryRun, switches.listPapers};
-    // What it does not know may be the toolkit's own.
-    parser.parse(arguments);
-    return std::none_of(windowless.begin(), windowless.end(),
-                        [&](const QCommandLineOption& option) { return parser.isSet(option); });
+    const QStringList ours = withoutToolkitsOwn(arguments);
+    parser.parse(ours);
+    const bool isWindowless =
+        parser.isSet(QStringLiteral("help-all")) ||
+        std::any_of(windowless.begin(), windowless.end(),
+                    [&](const QCommandLineOption& option) { return parser.isSet(option); });
+    // A wrong command line is told in words, wherever there is no display.
+    return !isWindowless && parseCommandLine(ours).commandLine;
 }
 
 } // namespace halvern

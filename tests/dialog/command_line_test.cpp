@@ -52,6 +52,7 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         {{q("--wait"), q("soon"), photo()}, 2, "seconds from 1"},
         {{q("--option"), q("PageSize"), photo()}, 2, "KEY=VALUE"},
         {{q("--printer"), q(""), photo()}, 2, "name is empty"},
+        {{folder.filePath(q("none.jpg")), folder.filePath(q("nor.jpg"))}, 1, "nor.jpg"},
         {{folder.filePath(q("none.jpg"))}, 1, "no file"},
         {{photo()}, 1, "no display"},
     };
@@ -66,6 +67,8 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
     EXPECT_TRUE(help.status == 0 && help.output.contains(q("  5  The job was sent")))
         << qPrintable(help.output);
     const ProgramResult window = runProgram(q(HALVERN_PRINT_PROGRAM), {photo()}, dead);
+    const ProgramResult usage = runProgram(q(HALVERN_PRINT_PROGRAM), {q("--nonsense"), photo()}, dead);
+    EXPECT_TRUE(usage.status == 2 && usage.error.contains(q("nonsense"))) << qPrintable(usage.error);
     EXPECT_TRUE(window.status == 1 && window.error.contains(q("display cannot be used")))
         << qPrintable(window.error);
     EXPECT_EQ(runPrint({q("--help-all")}).status, 0);
