@@ -53,7 +53,8 @@ QString pageSizeText(const QSizeF& points)
         const QString zero = locale.decimalPoint() + QLatin1Char('0');
         if (text.endsWith(zero))
             text.chop(zero.size());
-        return text;
+        // Two numbers in Arabic digits would change places.
+        return locale.textDirection() == Qt::RightToLeft ? isolated(text) : text;
     };
     const double mm = 1.0 / kPointsPerMillimetre;
     const QString metric =

@@ -77,7 +77,7 @@ QString displayText(const QString& text, int longest)
 
 QString isolated(const QString& text, int longest)
 {
-    return QChar(kFirstStrongIsolate) + cut(cleaned(text, false), longest) + QChar(kPopIsolate);
+    return QChar(kFirstStrongIsolate) + displayText(text, longest) + QChar(kPopIsolate);
 }
 
 QString terminalText(const QString& text)
