@@ -16,6 +16,10 @@ namespace {
 
 const QString kPageSize = QStringLiteral("PageSize");
 
+// More than anybody reads, and few enough to be laid out at once.
+constexpr qsizetype kMostLines = 200;
+constexpr qsizetype kMostOff = 100;
+
 QString heading(const QString& text)
 {
     return QStringLiteral("<tr><td colspan='2' style='padding-top:14px'><b>%1</b></td></tr>")
@@ -99,6 +103,8 @@ QList<SummaryPage::Line> SummaryPage::linesOf(const QStringList& keys)
             continue;
         if (isOff(key))
             off_.append(model->optionText(key));
+        else if (lines.size() == kMostLines)
+            ++notListed_;
         else
             lines.append({model->optionText(key), inUsersNumbers(model->choiceText(key, values.value(key)))});
     }
@@ -133,6 +139,7 @@ QList<SummaryPage::Line> SummaryPage::panelLines(halvern::Panel& panel)
 void SummaryPage::refresh()
 {
     off_.clear();
+    notListed_ = 0;
     QString rows;
     const auto add = [&](const QList<Line>& lines) {
         for (const Line& line : lines)
@@ -157,9 +164,14 @@ void SummaryPage::refresh()
         add(lines);
     }
     QString off;
-    if (!off_.isEmpty())
+    if (notListed_ > 0)
         off = QStringLiteral("<p style='margin-top:14px'>%1</p>")
-                  .arg(markupText(tr("Off: %1").arg(off_.join(QStringLiteral(", ")))));
+                  .arg(markupText(tr("%1 more are on the page of options.").arg(notListed_)));
+    if (off_.size() > kMostOff)
+        off_ = off_.mid(0, kMostOff) << QStringLiteral("\u2026");
+    if (!off_.isEmpty())
+        off += QStringLiteral("<p style='margin-top:14px'>%1</p>")
+                   .arg(markupText(tr("Off: %1").arg(off_.join(QStringLiteral(", ")))));
     setMarkup(this, QStringLiteral("<table>%1</table>%2").arg(rows, off));
 }
 

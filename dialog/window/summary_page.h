@@ -30,7 +30,8 @@ private:
     bool isOff(const QString& key) const;
 
     DialogSession& session_;
-    QStringList off_; // titles of what is switched off
+    QStringList off_;         // titles of what is switched off
+    qsizetype notListed_ = 0; // values that are left out of a very long list
 };
 
 } // namespace halvern

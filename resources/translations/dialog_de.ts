@@ -466,6 +466,10 @@
         <translation>Optionen</translation>
     </message>
     <message>
+        <source>%1 more are on the page of options.</source>
+        <translation>%1 weitere stehen auf der Seite mit den Optionen.</translation>
+    </message>
+    <message>
         <source>Off: %1</source>
         <translation>Aus: %1</translation>
     </message>

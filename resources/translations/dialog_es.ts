@@ -466,6 +466,10 @@
         <translation>Opciones</translation>
     </message>
     <message>
+        <source>%1 more are on the page of options.</source>
+        <translation>Otras %1 están en la página de opciones.</translation>
+    </message>
+    <message>
         <source>Off: %1</source>
         <translation>Desactivado: %1</translation>
     </message>

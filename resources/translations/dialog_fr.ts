@@ -466,6 +466,10 @@
         <translation>Options</translation>
     </message>
     <message>
+        <source>%1 more are on the page of options.</source>
+        <translation>%1 autres se trouvent sur la page des options.</translation>
+    </message>
+    <message>
         <source>Off: %1</source>
         <translation>Désactivé : %1</translation>
     </message>

@@ -466,6 +466,10 @@
         <translation>オプション</translation>
     </message>
     <message>
+        <source>%1 more are on the page of options.</source>
+        <translation>ほか%1件はオプションのページにあります。</translation>
+    </message>
+    <message>
         <source>Off: %1</source>
         <translation>オフ: %1</translation>
     </message>
