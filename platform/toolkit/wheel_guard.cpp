@@ -30,12 +30,14 @@ WheelGuard::WheelGuard(QWidget* root) : QObject(root), root_(root)
 
 bool WheelGuard::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::Wheel && event->type() != QEvent::Polish)
+    // A control may have been polished before it came here; the pointer enters it before the wheel turns.
+    const bool comes = event->type() == QEvent::Polish || event->type() == QEvent::Enter;
+    if (event->type() != QEvent::Wheel && !comes)
         return false;
     QWidget* const control = asValueControl(watched);
     if (!control || !root_->isAncestorOf(control))
         return false;
-    if (event->type() == QEvent::Polish) {
+    if (comes) {
         if (control->focusPolicy() == Qt::WheelFocus)
             control->setFocusPolicy(Qt::StrongFocus);
         return false;
