@@ -17,7 +17,7 @@ namespace {
 const QString kPageSize = QStringLiteral("PageSize");
 
 // More than anybody reads, and few enough to be laid out at once.
-constexpr qsizetype kMostLines = 200;
+constexpr qsizetype kMostLines = 100;
 constexpr qsizetype kMostOff = 100;
 
 QString heading(const QString& text)
