@@ -104,7 +104,8 @@ public:
     /// speakString: discards the text.
     virtual void speakString(const QString& text);
 
-    // PPD access. The fresh-PPD operations block on the CUPS server and may run on any thread.
+    // PPD access. The fresh-PPD operations block on the CUPS server, on the main thread for 50 ms, after
+    // which they answer from the PPD that came last; any thread.
 
     /// printerDeviceURI: "null://" while the printer or its URI cannot be had; once had, it is kept. Any
     /// thread.
@@ -164,7 +165,7 @@ public:
     virtual void waitForJobCompletion(int jobID);
 
     /// jobStateForDesinationName:JobID:waitWhileInProcess: the job's state, completed (9) if it is no longer
-    /// active; with `wait`, once it is neither pending nor processing.
+    /// active, 0 if the server has not said yet; with `wait`, once it is neither pending nor processing.
     virtual int jobStateForDesinationName_JobID_waitWhileInProcess(const QString& destination, int jobID,
                                                                    bool wait);
 

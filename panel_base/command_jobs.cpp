@@ -16,10 +16,10 @@ void KSTRVLBasePDEHalvern::sendPrinterCommands(const QStringList& commands)
         isSendingCommands_ = false;
         return;
     }
-    cups::runPatiently([self = shared_from_this(), commands] {
-        self->sendCommandJob(commands);
-        self->isSendingCommands_ = false;
-    });
+    // Taken back also if the work never runs, for want of a thread.
+    const std::shared_ptr<KSTRVLBasePDEHalvern> sending(
+        this, [self = shared_from_this()](auto*) { self->isSendingCommands_ = false; });
+    cups::runPatiently([sending, commands] { sending->sendCommandJob(commands); });
 }
 
 void KSTRVLBasePDEHalvern::sendCommandJob(const QStringList& commands)

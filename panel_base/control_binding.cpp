@@ -157,7 +157,7 @@ void KSTRVLBasePDEHalvern::fillMenu(QComboBox* popup, const QString& key)
         QString title = localized(choice.keyword);
         if (title == choice.keyword || title.isEmpty())
             title = localized(choice.text);
-        popup->addItem(itemText(title), choice.keyword);
+        control::addItem(popup, title, choice.keyword);
     }
     const auto byDefault = ppd::defaultChoice(ppd, key);
     popup->setCurrentIndex(

@@ -21,10 +21,11 @@ constexpr useconds_t kPollInterval = 500000;
 constexpr std::array<const char*, 7> kStateWords{"pending",  "held",    "processing", "stopped",
                                                  "canceled", "aborted", "completed"};
 
-jobs::JobList activeJobs(const QString& destination)
+// Nothing if the answer is late.
+std::optional<jobs::JobList> activeJobs(const QString& destination)
 {
-    return cups::askPatiently<jobs::JobList>(
-        [destination] { return jobs::Server().jobs(destination, jobs::Which::active); }, {});
+    return cups::askPatiently<std::optional<jobs::JobList>>(
+        [destination] { return jobs::Server().jobs(destination, jobs::Which::active); }, std::nullopt);
 }
 
 } // namespace
@@ -77,8 +78,9 @@ void KSTRVLBasePDEHalvern::waitForJobCompletion(int jobID)
 void KSTRVLBasePDEHalvern::watch(WatchedJob& job)
 {
     CommandJob command(QString::fromUtf8(job.destination.get()), job.id);
-    const CommandJob::End end = command.watch([&] { return !job.unloadFlag || *job.unloadFlag; },
-                                              [] { return usleep(kPollInterval) == 0; });
+    const CommandJob::End end =
+        command.watch([&] { return !job.unloadFlag || *job.unloadFlag; },
+                      [] { return usleep(kPollInterval) == 0; }, CommandJob::AfterSilence::ask);
     if (end == CommandJob::End::enough) {
         command.takeBack();
         return job.panel->watchDidBailOut();
@@ -111,11 +113,14 @@ void KSTRVLBasePDEHalvern::watchDidEnd(WatchedJob& job)
 int KSTRVLBasePDEHalvern::jobStateForDesinationName_JobID_waitWhileInProcess(const QString& destination,
                                                                              int jobID, bool wait)
 {
+    int state = 0;
     for (;;) {
-        int state = jobs::stateOf(activeJobs(destination), jobID);
-        // A job that is no longer active counts as completed here.
-        if (state == 0)
-            state = jobs::kCompleted;
+        // A job that is no longer active counts as completed here; a late answer says nothing of it.
+        if (const std::optional<jobs::JobList> active = activeJobs(destination)) {
+            state = jobs::stateOf(*active, jobID);
+            if (state == 0)
+                state = jobs::kCompleted;
+        }
         logLine(QStringLiteral("Cups Job %1 is %2").arg(jobID).arg(stringForCupsJobState(state)));
         if (!wait || !isUnderWay(state) || usleep(kPollInterval) != 0)
             return state;

@@ -23,7 +23,7 @@ InquiryResult askPrinterForReport(const QString& queue, const std::function<bool
         std::this_thread::sleep_for(std::chrono::milliseconds(250));
         return true;
     };
-    switch (job.watch([&] { return !keepWaiting(job.id()); }, pause)) {
+    switch (job.watch([&] { return !keepWaiting(job.id()); }, pause, CommandJob::AfterSilence::end)) {
     case CommandJob::End::completed:
         return {End::reported, job.id()};
     case CommandJob::End::failed:

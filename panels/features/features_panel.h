@@ -125,7 +125,7 @@ public:
     virtual void setBindingMarginAvailable();
     virtual void setBindingWidthAvailable();
 
-    /// What a fresh PPD says of the printer. Blocks on the CUPS server.
+    /// What a fresh PPD says of the printer. Blocks on the CUPS server, on the main thread for 50 ms.
     virtual bool hardwareSupportsDuplex();
     virtual bool hardwareSupportsExtraFeatures();
     virtual void setHardwareSupportsDuplex(bool supported);

@@ -84,7 +84,7 @@ bool RZFeaturesPDEHalvern::chooseNameIfListed(const QVariant& name)
         return false;
     setChoice_forKey(name, QStringLiteral("PaperName"));
     if (QComboBox* menu = popup(features::kNameTag))
-        menu->setCurrentIndex(menu->findText(name.toString()));
+        menu->setCurrentIndex(control::indexOfItemWithRepresentedObject(menu, name));
     return true;
 }
 

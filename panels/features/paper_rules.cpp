@@ -28,7 +28,7 @@ QStringList itemTitles(const QComboBox* menu)
 {
     QStringList titles;
     for (int i = 0; menu && i < menu->count(); ++i)
-        titles.append(menu->itemText(i));
+        titles.append(control::itemTitle(menu, i));
     return titles;
 }
 
@@ -183,7 +183,7 @@ void RZFeaturesPDEHalvern::enableToneValues(quint32 mask)
 std::optional<QVariantMap> RZFeaturesPDEHalvern::match()
 {
     const QComboBox* menu = popup(features::kResolutionTag);
-    const int dotsPerInch = menu ? leadingInteger(menu->currentText()) : 0;
+    const int dotsPerInch = menu ? leadingInteger(control::itemTitle(menu, menu->currentIndex())) : 0;
     const auto text = [this](const QString& key) { return descriptionOf(storedChoice(key)); };
     const QString key = isFeedSheet() ? sheetPaperKey(text(QStringLiteral("PaperName")), dotsPerInch)
                                       : rollPaperKey(text(QStringLiteral("PaperWidth")),

@@ -28,7 +28,8 @@ void CommandJob::send(const QStringList& commands)
                              commandFile(commands).toUtf8());
 }
 
-CommandJob::End CommandJob::watch(const std::function<bool()>& isEnough, const std::function<bool()>& pause)
+CommandJob::End CommandJob::watch(const std::function<bool()>& isEnough, const std::function<bool()>& pause,
+                                  AfterSilence afterSilence)
 {
     JobWatch state(id_);
     for (;;) {
@@ -43,10 +44,10 @@ CommandJob::End CommandJob::watch(const std::function<bool()>& isEnough, const s
             state.paused(pause());
             break;
         case JobWatch::Step::askForCompletedJobs:
-            // A server that has just been silent is not waited for twice.
-            if (!server_.wasSilent())
-                state.gotCompletedJobs(server_.jobs(queue_, Which::completed));
-            if (server_.wasSilent())
+            if (afterSilence == AfterSilence::end && server_.wasSilent())
+                return End::silent;
+            state.gotCompletedJobs(server_.jobs(queue_, Which::completed));
+            if (afterSilence == AfterSilence::end && server_.wasSilent())
                 return End::silent;
             break;
         case JobWatch::Step::endEnough:

@@ -19,8 +19,11 @@ public:
         completed,
         failed, ///< it has ended otherwise, is held, or is not known to the server
         enough, ///< the caller's wish; the job is where it was
-        silent, ///< the server does not answer: the job may still be there
+        silent, ///< the server does not answer: the job may still be there; with AfterSilence::end only
     };
+
+    /// What a server that is silent once means to a watch: nothing in particular, or its end.
+    enum class AfterSilence { ask, end };
 
     /// With the ID of a job that was sent before, to watch it.
     explicit CommandJob(QString queue, int id = 0) : queue_(std::move(queue)), id_(id) {}
@@ -37,7 +40,8 @@ public:
 
     /// Returns when the job has ended, or when `isEnough`, asked before each look, says so. `pause` waits
     /// between two looks; false if it was cut short, which ends the watch, too.
-    End watch(const std::function<bool()>& isEnough, const std::function<bool()>& pause);
+    End watch(const std::function<bool()>& isEnough, const std::function<bool()>& pause,
+              AfterSilence afterSilence);
 
     /// Cancels the job and removes it from the server's history. False if the server refuses.
     bool takeBack() { return server_.cancelAndPurge(queue_, id_); }

@@ -64,12 +64,14 @@ bool runPatiently(std::function<void()> work)
     };
 
     const auto run = std::make_shared<Run>();
-    WorkQueue().async([run, work = std::move(work)] {
+    const bool isRunning = WorkQueue().async([run, work = std::move(work)] {
         work();
         const std::scoped_lock lock(run->mutex);
         run->isDone = true;
         run->changed.notify_all();
     });
+    if (!isRunning)
+        return false;
     std::unique_lock lock(run->mutex);
     return waitPatiently(run->changed, lock, [&] { return run->isDone; });
 }

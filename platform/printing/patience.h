@@ -8,7 +8,7 @@
 #include <utility>
 
 /// How long the main thread waits for the CUPS server: 50 ms in one turn of its event loop, however often it
-/// asks.
+/// asks; before the loop runs, 50 ms each time.
 namespace halvern::cups {
 
 bool isMainThread();

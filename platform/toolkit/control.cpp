@@ -23,6 +23,7 @@ namespace {
 
 constexpr char kTag[] = "tag";
 constexpr int kItemTagRole = Qt::UserRole + 1;
+constexpr int kItemTitleRole = kItemTagRole + 1;
 
 QStandardItem* itemAt(const QComboBox* popup, int index)
 {
@@ -255,6 +256,18 @@ void setItemTag(QComboBox* popup, int index, int tag)
         item->setData(tag, kItemTagRole);
 }
 
+QString itemTitle(const QComboBox* popup, int index)
+{
+    const QVariant given = popup ? popup->itemData(index, kItemTitleRole) : QVariant();
+    return given.isValid() || !popup ? given.toString() : popup->itemText(index);
+}
+
+void addItem(QComboBox* popup, const QString& title, const QVariant& representedObject)
+{
+    popup->addItem(itemText(title), representedObject);
+    popup->setItemData(popup->count() - 1, title, kItemTitleRole);
+}
+
 void setItems(QComboBox* popup, const QList<MenuItem>& items)
 {
     auto* model = popup ? qobject_cast<QStandardItemModel*>(popup->model()) : nullptr;
@@ -265,6 +278,7 @@ void setItems(QComboBox* popup, const QList<MenuItem>& items)
     rows.reserve(items.size());
     for (const MenuItem& item : items) {
         auto row = std::make_unique<QStandardItem>(itemText(item.title));
+        row->setData(item.title, kItemTitleRole);
         row->setData(item.representedObject, Qt::UserRole);
         row->setData(item.tag, kItemTagRole);
         rows.append(row.release());

@@ -41,7 +41,8 @@ void setIntValue(QWidget* widget, int value);
 std::optional<QString> stringValue(const QWidget* widget);
 
 /// Shows the text, or the number that it starts with; false if the widget takes no text. A field is only
-/// touched if its text differs, and its cursor stays where it was. Does not count as a user's action.
+/// touched if its text differs, and its cursor stays behind what was typed. Does not count as a user's
+/// action.
 bool setStringValue(QWidget* widget, const QString& text);
 
 /// A button's state as a signed 8-bit value: 1 on, 0 off, -1 mixed; 0 for anything else.
@@ -66,6 +67,13 @@ bool isItemEnabled(const QComboBox* popup, int index);
 void setItemEnabled(QComboBox* popup, int index, bool enabled);
 int itemTag(const QComboBox* popup, int index);
 void setItemTag(QComboBox* popup, int index, int tag);
+
+/// The title that an item was given. What it shows is that title made fit for a screen (itemText()), which
+/// may differ from it: no rule compares with what is shown.
+QString itemTitle(const QComboBox* popup, int index);
+
+/// Appends an item.
+void addItem(QComboBox* popup, const QString& title, const QVariant& representedObject);
 
 struct MenuItem {
     QString title;

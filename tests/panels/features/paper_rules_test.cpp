@@ -55,6 +55,14 @@ TEST_F(PaperRules, WithRollsOnlyTheSheetIsOutOfReach)
     EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kNameTag);
 }
 
+TEST_F(PaperRules, CompareWhatIsMeantAlsoWhereItemsAreWrittenFromRightToLeft)
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    show(catalogueOf({kMatte720}));
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    EXPECT_EQ(choice("Resolution"), q("720dpi"));
+}
+
 TEST_F(PaperRules, FollowAPrinterWhosePapersChangeUnderAnOpenPanel)
 {
     show(catalogueOf(kSheets));
