@@ -1,15 +1,7 @@
 // halvern-print as a process: what it says and how it ends.
-#include "tests/support/files.h"
-#include "tests/support/private_cups.h"
-#include "tests/support/text.h"
-
-#include <QImage>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
-
 namespace {
 
 /// Without a display.
@@ -18,19 +10,14 @@ ProgramResult runPrint(const QStringList& arguments, const QString& server = QSt
     std::map<QByteArray, QByteArray> environment{{"DISPLAY", {}}, {"QT_QPA_PLATFORM", {}}};
     if (!server.isEmpty())
         environment["CUPS_SERVER"] = server.toUtf8();
-    return runProgram(QStringLiteral(HALVERN_PRINT_PROGRAM), arguments, environment);
+    return runProgram(q(HALVERN_PRINT_PROGRAM), arguments, environment);
 }
 
 } // namespace
 
 class CommandLineTest : public testing::Test {
 protected:
-    static void SetUpTestSuite()
-    {
-        QImage image(300, 200, QImage::Format_RGB32);
-        image.fill(Qt::darkGreen);
-        ASSERT_TRUE(image.save(photo()));
-    }
+    static void SetUpTestSuite() { makeTestPhoto(photo()); }
 
     static QString photo() { return folder.filePath(q("photo.png")); }
 
@@ -39,13 +26,11 @@ protected:
 
 TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
 {
-    struct Case {
+    const struct {
         QStringList arguments;
         int status;
         const char* words;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {{}, 2, "at least one photo"},
         {{q("--nonsense"), photo()}, 2, "nonsense"},
         {{q("--copies"), q("0"), photo()}, 2, "1 to 999"},
@@ -56,7 +41,8 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         {{folder.filePath(q("none.jpg"))}, 1, "no file"},
         {{photo()}, 1, "no display"},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         const ProgramResult result = runPrint(c.arguments);
         EXPECT_EQ(result.status, c.status) << c.words;
         EXPECT_TRUE(result.error.contains(q(c.words))) << c.words << " in: " << qPrintable(result.error);

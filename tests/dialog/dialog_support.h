@@ -4,16 +4,9 @@
 #include "dialog/session/panel_source.h"
 #include "dialog/window/print_dialog.h"
 #include "platform/printing/print_settings.h"
-#include "tests/support/private_cups.h"
+#include "tests/support/test.h"
 
-#include <QImage>
-#include <QLabel>
 #include <QPointer>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <csignal>
 
 namespace halvern {
 
@@ -44,7 +37,7 @@ public:
 
     std::optional<QString> panelKind() override { return kind_; }
 
-    QMap<QString, QString> summaryInfo() override { return {{QStringLiteral("Key"), kind_}}; }
+    QMap<QString, QString> summaryInfo() override { return {{q("Key"), kind_}}; }
 
     void willShow() override { note("willShow"); }
 
@@ -60,7 +53,7 @@ public:
     {
         note("save");
         if (host->printSettings() && !savedText.isEmpty())
-            host->printSettings()->setValue(QStringLiteral("CVP1"), savedText, false);
+            host->printSettings()->setValue(q("CVP1"), savedText, false);
         return true;
     }
 
@@ -73,12 +66,12 @@ public:
     void PPDOptionKeyValueDidChange_ppdChoice(const std::optional<QString>& key,
                                               const QVariant& choice) override
     {
-        changes.append(*key + QLatin1Char('=') + choice.toString());
+        changes.append(*key + u'=' + choice.toString());
     }
 
     bool shouldShowHelp() override { return true; }
 
-    QStringList supportedPPDOptionKeys() override { return {QStringLiteral("TwoSided")}; }
+    QStringList supportedPPDOptionKeys() override { return {q("TwoSided")}; }
 
     std::shared_ptr<HostCallback> host;
     QPointer<QWidget> view;
@@ -86,7 +79,7 @@ public:
     QString savedText;
 
 private:
-    void note(const char* what) { calls_.append(kind_ + QStringLiteral(": ") + QLatin1StringView(what)); }
+    void note(const char* what) { calls_.append(kind_ + q(": ") + QLatin1StringView(what)); }
 
     QString kind_;
     QStringList& calls_;
@@ -101,8 +94,8 @@ public:
             *problem = failure;
             return {};
         }
-        auto one = std::make_shared<RecordingPanel>(QStringLiteral("first"), host, calls);
-        auto two = std::make_shared<RecordingPanel>(QStringLiteral("second"), host, calls);
+        auto one = std::make_shared<RecordingPanel>(q("first"), host, calls);
+        auto two = std::make_shared<RecordingPanel>(q("second"), host, calls);
         first = one;
         second = two;
         return {one, two};

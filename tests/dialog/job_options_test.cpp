@@ -6,18 +6,11 @@
 #include "dialog/server/printer_list.h"
 #include "platform/printing/cups_connection.h"
 #include "platform/printing/cups_ppd.h"
-#include "tests/support/files.h"
-#include "tests/support/text.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <sys/stat.h>
 
 namespace halvern {
-
 namespace {
 
 std::optional<QString> valueOf(const OptionValues& options, const char* key)
@@ -139,25 +132,23 @@ TEST(SavedOptions, AVariableNamesThePrinterUnlessItSaysLp)
 
 TEST(JobWords, EveryStageHasASentenceAndARestingJobAWayOn)
 {
-    struct Case {
+    const struct {
         JobStage stage;
         const char* words;
         Remedy remedy = Remedy::none;
         const char* advice = "";
-    };
+    } cases[] = {{JobStage::completed, "Printed"},
+                 {JobStage::held, "is held", Remedy::releaseJob, "-H resume"},
+                 {JobStage::stopped, "(paper jam, Filter failed)", Remedy::resumePrinter, "cupsenable"},
+                 {JobStage::blocked, "is paused (paper jam, Filter", Remedy::resumePrinter, "cancel Tess"},
+                 {JobStage::cancelled, "was cancelled"},
+                 {JobStage::aborted, "error log"},
+                 {JobStage::printing, "is printing on \"Tessarin\" (paper jam, paused)."},
+                 {JobStage::gone, "has left the queue"},
+                 {JobStage::lost, "not on the print server any more"},
+                 {JobStage::unknown, "does not answer"}};
 
-    const Case cases[] = {
-        {JobStage::completed, "Printed"},
-        {JobStage::held, "is held", Remedy::releaseJob, "-H resume"},
-        {JobStage::stopped, "(paper jam, Filter failed)", Remedy::resumePrinter, "cupsenable"},
-        {JobStage::blocked, "is paused (paper jam, Filter", Remedy::resumePrinter, "cancel Tess"},
-        {JobStage::cancelled, "was cancelled"},
-        {JobStage::aborted, "error log"},
-        {JobStage::printing, "is printing on \"Tessarin\" (paper jam, paused)."},
-        {JobStage::gone, "has left the queue"},
-        {JobStage::lost, "not on the print server any more"},
-        {JobStage::unknown, "does not answer"}};
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         JobStatus status;
         status.stage = c.stage;
         status.printerReasons = {q("media-jam-error"), q("paused"), q("cups-waiting-for-job-completed")};

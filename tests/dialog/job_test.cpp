@@ -1,17 +1,13 @@
 // Sending, following and acting on jobs, with a print server that the tests play.
 #include "dialog/job/job_follower.h"
 #include "dialog/job/job_submitter.h"
-#include "tests/support/observers.h"
 #include "tests/support/scripted_server.h"
-#include "tests/support/text.h"
 
 #include <QBuffer>
 
 #include <cups/cups.h>
-#include <gtest/gtest.h>
 
 namespace halvern {
-
 namespace {
 
 cups::Ipp jobAnswer(int id, int state, const char* reason = "none")
@@ -44,20 +40,19 @@ SubmitResult send(const QString& title = q("title"))
 
 TEST(Jobs, WhatDoesNotArriveWholeIsTakenBack)
 {
-    struct Case {
+    const struct {
         const char* name;
         int created;   // the job's number; 0: the answer is lost
         int documents; // that the server has afterwards
         int job;
         bool isCancelled;
-    };
+    } cases[] = {{"the document's answer is lost", 7, 1, 7, false},
+                 {"the document is lost", 7, 0, 0, true},
+                 {"the number is lost", 0, 0, 0, true},
+                 {"somebody else's job of that title", 0, 1, 0, false},
+                 {"a number that is none", -7, 0, 0, false}};
 
-    const Case cases[] = {{"the document's answer is lost", 7, 1, 7, false},
-                          {"the document is lost", 7, 0, 0, true},
-                          {"the number is lost", 0, 0, 0, true},
-                          {"somebody else's job of that title", 0, 1, 0, false},
-                          {"a number that is none", -7, 0, 0, false}};
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const ScriptedServer server([&c](ipp_t* request) -> cups::Ipp {
             switch (ippGetOperation(request)) {
@@ -85,7 +80,7 @@ TEST(Jobs, ALongTitleIsCutBetweenCharacters)
         return jobAnswer(7, IPP_JSTATE_PENDING);
     });
     EXPECT_EQ(send(QString(100, QChar(0x2603)) + q(".jpg")).jobId, 7);
-    EXPECT_EQ(QString::fromUtf8(name), QString(85, QChar(0x2603)));
+    EXPECT_EQ(q(name), QString(85, QChar(0x2603)));
 }
 
 TEST(Jobs, AJobThatTheServerDoesNotKnowHasLeftTheQueueIfTheQueueIsThere)

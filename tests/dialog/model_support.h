@@ -1,14 +1,14 @@
 #pragma once
 
 #include "dialog/options/ppd_model.h"
-#include "tests/support/fake_host.h"
+#include "tests/support/test.h"
 
 namespace halvern {
 
 /// A model on the Tessarin's own PPD.
 inline std::unique_ptr<PpdModel> tessarinModel()
 {
-    ppd::File file = ppd::open(QStringLiteral(HALVERN_TESSARIN_PPD));
+    ppd::File file = ppd::open(q(HALVERN_TESSARIN_PPD));
     return file ? std::make_unique<PpdModel>(std::move(file)) : nullptr;
 }
 
@@ -23,7 +23,7 @@ inline QStringList asTexts(const QList<SideChange>& changes)
 {
     QStringList texts;
     for (const SideChange& change : changes)
-        texts.append(change.key + QLatin1Char('=') + change.choice);
+        texts.append(change.key + u'=' + change.choice);
     return texts;
 }
 

@@ -1,8 +1,5 @@
 #include "dialog/options/page_fit.h"
 #include "tests/dialog/model_support.h"
-#include "tests/support/text.h"
-
-#include <gtest/gtest.h>
 
 namespace halvern {
 

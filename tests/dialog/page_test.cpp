@@ -3,16 +3,13 @@
 #include "dialog/page/page_renderer.h"
 #include "dialog/page/photo.h"
 #include "dialog/preview/preview_widget.h"
-#include "tests/support/files.h"
+#include "tests/support/test.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QDataStream>
 #include <QImageWriter>
 #include <QPainter>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,7 +19,6 @@
 #include <poppler-qt6.h>
 
 namespace halvern {
-
 namespace {
 
 const QRectF k4x6Area(9, 9, 270, 414);
@@ -133,7 +129,7 @@ protected:
 
     QString put(const char* name, const QByteArray& bytes)
     {
-        return writeFile(folder.filePath(QString::fromLatin1(name)), bytes);
+        return writeFile(folder.filePath(q(name)), bytes);
     }
 
     // Prints one photo on a sheet and reads the PDF back: its size in points, and its picture at 72 dpi.
@@ -155,15 +151,13 @@ TEST_F(PageTest, LiesWhereTheTableSays)
     constexpr auto automatic = PageTurn::automatic;
     constexpr auto portrait = PageTurn::portrait;
 
-    struct Case {
+    const struct {
         const char* name;
         QSizeF photo;
         Scaling scaling;
         PageTurn turn;
         QRectF wanted;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"fit, upright photo", {200, 300}, Scaling::fit, automatic, {9, 13.5, 270, 405}},
         {"fit, wide photo turns the page", {300, 200}, Scaling::fit, automatic, {13.5, 9, 405, 270}},
         {"fit, wide photo on an upright page", {300, 200}, Scaling::fit, portrait, {9, 126, 270, 180}},
@@ -172,7 +166,8 @@ TEST_F(PageTest, LiesWhereTheTableSays)
         {"beyond the page", {1000, 1000}, Scaling::actualSize, portrait, {-356, -284, 1000, 1000}},
         {"square photo stays upright", {300, 300}, Scaling::fit, automatic, {9, 81, 270, 270}},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         const PageLayout layout = layOut({k4x6, k4x6Area, c.photo, c.scaling, c.turn, {0.5, 0.5}});
         EXPECT_EQ(layout.turned, c.wanted.width() == 405) << c.name;
         expectNear(layout.photo, c.wanted, c.name);
@@ -209,7 +204,7 @@ TEST_F(PageTest, PdfHasThePapersSizeAndThePhotoWhereThePreviewShowsIt)
     for (const QSizeF& paper : papers) {
         for (const char* file : files) {
             SCOPED_TRACE(file);
-            const QString path = save(quarters({400, 300}), QString::fromLatin1(file));
+            const QString path = save(quarters({400, 300}), q(file));
             const PhotoFile read = readPhotoFile(path);
             ASSERT_EQ(read.pages.size(), 1u) << qPrintable(read.problem);
             const Photo& photo = read.pages.front();
@@ -253,8 +248,8 @@ TEST_F(PageTest, JpegDataGoIntoTheJobUntouchedInEveryOrientation)
         {1, red, green, blue}, {2, green, red, yellow}, {3, yellow, blue, green}, {4, blue, yellow, red},
         {5, red, blue, green}, {6, blue, red, yellow},  {7, yellow, green, blue}, {8, green, yellow, red},
     };
-    const QByteArray stored = readFile(save(quarters({320, 200}), QStringLiteral("stored.jpg")));
-    for (const Case& c : cases) {
+    const QByteArray stored = readFile(save(quarters({320, 200}), q("stored.jpg")));
+    for (const auto& c : cases) {
         SCOPED_TRACE(int(c.orientation));
         // One Exif entry, the orientation, in an APP1 segment of its own.
         const QByteArray entry =
@@ -284,7 +279,7 @@ TEST_F(PageTest, JpegDataThatPdfReadersWouldReadOtherwiseAreDecoded)
 {
     QImage image(64, 64, QImage::Format_RGB32);
     image.fill(QColor(254, 0, 0)); // stored as 76, 85, 255
-    const QByteArray jfif = readFile(save(image, QStringLiteral("red.jpg")));
+    const QByteArray jfif = readFile(save(image, q("red.jpg")));
     const QByteArray bare = jfif.first(2) + jfif.mid(20);
     const QByteArray adobe("Adobe\0\x64\0\0\0\0\0", 12);
     const Photo rgb = readPhotoFile(put("rgb.jpg", withSegment(bare, 0xEE, adobe))).pages.at(0);
@@ -302,7 +297,7 @@ TEST_F(PageTest, AResolutionIsBelievedOnlyIfSomebodyMeantIt)
         image.setDotsPerMeterX(qRound(written / 0.0254));
         image.setDotsPerMeterY(qRound(written / 0.0254));
         for (const char* name : {"size.jpg", "size.png"}) {
-            const Photo photo = readPhotoFile(save(image, QString::fromLatin1(name))).pages.at(0);
+            const Photo photo = readPhotoFile(save(image, q(name))).pages.at(0);
             EXPECT_NEAR(photo.ownSize.width(), 480.0 * 72.0 / wanted, 0.2) << name << written;
         }
     }
@@ -311,7 +306,7 @@ TEST_F(PageTest, AResolutionIsBelievedOnlyIfSomebodyMeantIt)
 TEST_F(PageTest, InksAndColoursComeThroughTheFilesOwnProfile)
 {
     // Ghostscript's package has a table profile for four inks. What is expected was computed by transicc.
-    const QString profile = QStringLiteral("/usr/share/color/icc/ghostscript/default_cmyk.icc");
+    const QString profile = q("/usr/share/color/icc/ghostscript/default_cmyk.icc");
     ASSERT_TRUE(QFile::exists(profile)) << "install libgs-common";
     const QByteArray inks("\x58\xFF\x00\xFF", 4); // 65 % cyan, 100 % yellow, as Adobe's programs store them
     const Photo photo = readPhotoFile(put("inks.jpg", inkJpeg(inks, readFile(profile)))).pages.at(0);
@@ -327,29 +322,27 @@ TEST_F(PageTest, InksAndColoursComeThroughTheFilesOwnProfile)
 
 TEST_F(PageTest, APartThatIsMissingIsTold)
 {
-    const QByteArray jpeg = readFile(save(quarters({400, 300}), QStringLiteral("good.jpg")));
+    const QByteArray jpeg = readFile(save(quarters({400, 300}), q("good.jpg")));
     const QByteArray tiff = tiffOf({0, 1, 0});
-    printed(readPhotoFile(folder.filePath(QStringLiteral("good.jpg"))).pages.at(0),
-            layOut({k4x6, k4x6Area, k4x6}));
+    printed(readPhotoFile(folder.filePath(q("good.jpg"))).pages.at(0), layOut({k4x6, k4x6Area, k4x6}));
 
-    struct Case {
+    const struct {
         const char* name;
         QByteArray bytes;
         bool isToldOf;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"cut.jpg", jpeg.first(jpeg.size() * 3 / 4), true},
         {"no_end_marker.jpg", jpeg.chopped(2), false},
         {"padded.jpg", jpeg + QByteArray(5000, '\0'), false},
         {"cut.tif", tiff.chopped(500), true},
         {"cut.pdf", pdf.chopped(8), true},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         const PhotoFile read = readPhotoFile(put(c.name, c.bytes));
         ASSERT_FALSE(read.pages.empty()) << qPrintable(read.problem);
-        EXPECT_EQ(read.problem.contains(QStringLiteral("part of the picture is missing")), c.isToldOf);
+        EXPECT_EQ(read.problem.contains(q("part of the picture is missing")), c.isToldOf);
         EXPECT_EQ(readJpegData(read.pages.back()).has_value(),
                   !c.isToldOf && QByteArray(c.name).endsWith("jpg"))
             << "printed as it was shown";
@@ -373,7 +366,7 @@ TEST_F(PageTest, ColoursOfATaggedPhotoAreConverted)
     image.fill(QColor(200, 100, 50));
     image.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
     for (const char* name : {"adobe.jpg", "adobe.png"}) {
-        const PhotoFile read = readPhotoFile(save(image, QString::fromLatin1(name)));
+        const PhotoFile read = readPhotoFile(save(image, q(name)));
         ASSERT_EQ(read.pages.size(), 1u);
         EXPECT_FALSE(readJpegData(read.pages.front())) << "its numbers mean other colours";
         EXPECT_GT(read.pages.front().preview.pixelColor(20, 20).red(), 215);
@@ -384,7 +377,7 @@ TEST_F(PageTest, TransparentPicturesLieOnWhitePaper)
 {
     QImage image(60, 60, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
-    const PhotoFile read = readPhotoFile(save(image, QStringLiteral("glass.png")));
+    const PhotoFile read = readPhotoFile(save(image, q("glass.png")));
     ASSERT_EQ(read.pages.size(), 1u);
     const PageLayout layout = layOut({k4x6, k4x6Area, read.pages.front().ownSize});
     EXPECT_EQ(at(printed(read.pages.front(), layout)->page(0)->renderToImage(72, 72), 144, 216),
@@ -393,7 +386,7 @@ TEST_F(PageTest, TransparentPicturesLieOnWhitePaper)
 
 TEST_F(PageTest, PdfFilesGiveAPageForEachOfTheirs)
 {
-    const PhotoFile photo = readPhotoFile(save(quarters({400, 300}), QStringLiteral("p.png")));
+    const PhotoFile photo = readPhotoFile(save(quarters({400, 300}), q("p.png")));
     const PageLayout layout = layOut({k4x6, k4x6Area, photo.pages.front().ownSize});
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
@@ -410,38 +403,37 @@ TEST_F(PageTest, PdfFilesGiveAPageForEachOfTheirs)
 
 TEST_F(PageTest, FilesThatCannotBePrintedSayWhyAndWhatToDo)
 {
-    const QByteArray half = readFile(save(quarters({400, 300}), QStringLiteral("good.jpg"))).first(60);
+    const QByteArray half = readFile(save(quarters({400, 300}), q("good.jpg"))).first(60);
 
-    struct Case {
+    const struct {
         QString path;
         const char* words;
-    };
-
-    const Case cases[] = {
-        {folder.filePath(QStringLiteral("none.jpg")), "no file"},
+    } cases[] = {
+        {folder.filePath(q("none.jpg")), "no file"},
         {folder.path(), "folder"},
         {put("empty.jpg", {}), "empty"},
         {put("text.jpg", "hello, I am a text\n"), "JPEG, PNG, TIFF or PDF"},
         {put("half.jpg", half), "damaged"},
         {put("broken.pdf", "%PDF-1.5\nnothing"), "damaged"},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         const PhotoFile read = readPhotoFile(c.path);
         EXPECT_TRUE(read.pages.empty()) << c.words;
-        EXPECT_TRUE(read.problem.contains(QString::fromLatin1(c.words))) << qPrintable(read.problem);
+        EXPECT_TRUE(read.problem.contains(q(c.words))) << qPrintable(read.problem);
     }
 }
 
 TEST_F(PageTest, AFileThatVanishesBeforePrintingIsNamed)
 {
-    const QString path = save(quarters({40, 30}), QStringLiteral("gone.png"));
+    const QString path = save(quarters({40, 30}), q("gone.png"));
     const Photo photo = readPhotoFile(path).pages.front();
     QFile::remove(path);
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
     const PageLayout layout = layOut({k4x6, k4x6Area, photo.ownSize});
     const QString problem = writePdf(buffer, {{photo, layout}}, 300, [](double) { return true; });
-    EXPECT_TRUE(problem.contains(QStringLiteral("gone.png"))) << qPrintable(problem);
+    EXPECT_TRUE(problem.contains(q("gone.png"))) << qPrintable(problem);
 }
 
 } // namespace halvern

@@ -2,12 +2,8 @@
 #include "dialog/session/starting_options.h"
 #include "platform/printing/print_settings.h"
 #include "tests/dialog/model_support.h"
-#include "tests/support/text.h"
-
-#include <gtest/gtest.h>
 
 namespace halvern {
-
 namespace {
 
 using Answer = PaperKeeper::Answer;
@@ -36,7 +32,7 @@ TEST(PaperKeeper, LetsAPanelCorrectOnlyWhatThePrinterDoesNotOffer)
         Answer answer;
     };
 
-    for (const Case& c : {
+    for (const auto& c : {
              Case{"PaperFeed", "Sheet", "Roll", unknown, Answer::refuse},
              Case{"PaperFeed", "Sheet", "Roll", offerWith(true, true), Answer::refuse},
              Case{"PaperFeed", "Sheet", "Roll", offerWith(false, true), Answer::accept},

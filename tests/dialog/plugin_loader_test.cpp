@@ -1,25 +1,17 @@
 #include "dialog/session/plugin_loader.h"
-
-#include "tests/support/fake_host.h"
-#include "tests/support/files.h"
-
-#include <QFileInfo>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
-
 namespace {
 
-const QString kBundleName = QStringLiteral("tessarin.pde");
+const QString kBundleName = q("tessarin.pde");
 
 // A bundle folder with this property list and module.
 void makeBundle(const QString& folder, const QByteArray& list, const QByteArray& module)
 {
-    const QString path = folder + QLatin1Char('/') + kBundleName;
-    writeFile(path + QStringLiteral("/Info.plist"), list);
-    writeFile(path + QStringLiteral("/tessarin.so"), module);
+    const QString path = folder + u'/' + kBundleName;
+    writeFile(path + q("/Info.plist"), list);
+    writeFile(path + q("/tessarin.so"), module);
 }
 
 QByteArray propertyList(const QByteArray& identifier)
@@ -30,14 +22,14 @@ QByteArray propertyList(const QByteArray& identifier)
 
 QByteArray builtModule()
 {
-    return readFile(QStringLiteral(HALVERN_TEST_BUNDLE "/tessarin.so"));
+    return readFile(q(HALVERN_TEST_BUNDLE "/tessarin.so"));
 }
 
 } // namespace
 
 TEST(PluginLoader, LoadsTheBuiltBundleAndSaysWhenItHasNoPanels)
 {
-    PluginLoader loader({QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).path()});
+    PluginLoader loader({QFileInfo(q(HALVERN_TEST_BUNDLE)).path()});
     QString problem;
     EXPECT_FALSE(loader.panels(kBundleName, std::make_shared<FakeHost>(), &problem).empty())
         << qPrintable(problem);
@@ -49,20 +41,19 @@ TEST(PluginLoader, LoadsTheBuiltBundleAndSaysWhenItHasNoPanels)
 
 TEST(PluginLoader, EveryWrongBundleIsAStateWithASentence)
 {
-    struct Case {
+    const struct {
         QByteArray list;
         QByteArray module;
         const char* words;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"not a property list", "x", "cannot be loaded"},
         {"<?xml version=\"1.0\"?><plist version=\"1.0\"><dict></dict></plist>", "x", "no module"},
         {propertyList("com.halvern.tessarin.pde"), "no library", "cannot be loaded"},
         {propertyList("com.halvern.tessarin.pde"), "", "cannot be loaded"},
         {propertyList("com.halvern.Tessarin.pde"), builtModule(), "something else"},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         const QTemporaryDir folder;
         makeBundle(folder.path(), c.list, c.module);
         PluginLoader loader({folder.path()});
@@ -77,17 +68,16 @@ TEST(PluginLoader, ANameThatIsNoBundlesNameIsNeverLookedUp)
 {
     const QTemporaryDir folder;
     makeBundle(folder.path(), propertyList("com.halvern.tessarin.pde"), builtModule());
-    PluginLoader loader({folder.path() + QStringLiteral("/inner")});
-    const QString names[] = {QStringLiteral("../tessarin.pde"), QStringLiteral("/tmp/x.pde"),
-                             QStringLiteral(".pde"), QStringLiteral("tessarin.so")};
+    PluginLoader loader({folder.path() + q("/inner")});
+    const QString names[] = {q("../tessarin.pde"), q("/tmp/x.pde"), q(".pde"), q("tessarin.so")};
     for (const QString& name : names) {
         QString problem;
         EXPECT_TRUE(loader.panels(name, std::make_shared<FakeHost>(), &problem).empty());
-        EXPECT_TRUE(problem.contains(QStringLiteral("no name of a bundle"))) << qPrintable(problem);
+        EXPECT_TRUE(problem.contains(q("no name of a bundle"))) << qPrintable(problem);
     }
     QString problem;
-    EXPECT_TRUE(loader.panels(QStringLiteral("other.pde"), std::make_shared<FakeHost>(), &problem).empty());
-    EXPECT_TRUE(problem.contains(QStringLiteral("not installed"))) << qPrintable(problem);
+    EXPECT_TRUE(loader.panels(q("other.pde"), std::make_shared<FakeHost>(), &problem).empty());
+    EXPECT_TRUE(problem.contains(q("not installed"))) << qPrintable(problem);
 }
 
 } // namespace halvern

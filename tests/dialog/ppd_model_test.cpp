@@ -1,11 +1,6 @@
 #include "tests/dialog/model_support.h"
-#include "tests/support/fake_host.h"
-#include "tests/support/text.h"
-
-#include <gtest/gtest.h>
 
 namespace halvern {
-
 namespace {
 
 QByteArray smallPpd()
@@ -69,15 +64,6 @@ TEST(PpdModel, AClashThatWasThereBeforeDoesNotBlockUnrelatedChoices)
     EXPECT_EQ(model->value(q("Sides")), q("Both"));
 }
 
-TEST(PpdModel, OldStyleConstraintsBiteToo)
-{
-    const auto model =
-        modelOf(ppdHeader() + ppdOption("Feed", {"Sheet", "Roll"}) + ppdOption("Sides", {"One", "Both"}) +
-                "*UIConstraints: *Feed Roll *Sides Both\n" + "*UIConstraints: *Sides Both *Feed Roll\n");
-    ASSERT_TRUE(model->change(q("Feed"), q("Roll")).accepted);
-    EXPECT_FALSE(model->change(q("Sides"), q("Both")).accepted);
-}
-
 TEST(PpdModel, CustomValuesAreKeptWithinTheirLimitsAndLeaveNoMark)
 {
     const auto model = tessarinModel();
@@ -95,16 +81,6 @@ TEST(PpdModel, CustomValuesAreKeptWithinTheirLimitsAndLeaveNoMark)
     EXPECT_EQ(model->value(intensity), q("2.5"));
     ASSERT_TRUE(model->change(q("SharpnessRadius"), 7).accepted) << "a number, as panels may hold it";
     EXPECT_FALSE(model->change(q("SharpnessRadius"), q("7.5")).accepted) << "a whole number is asked for";
-}
-
-TEST(PpdModel, AListedChoiceReplacesAKeptValue)
-{
-    const auto model = tessarinModel();
-    const QString intensity = q("SharpnessIntensity");
-    model->change(intensity, q("1.24"));
-    ASSERT_TRUE(model->change(intensity, q("1.00")).accepted) << "also when it is the default";
-    EXPECT_FALSE(model->isKept(intensity));
-    EXPECT_EQ(ppd::markedChoice(model->file(), intensity)->keyword, q("1.00"));
 }
 
 TEST(PpdModel, WhatThePpdDoesNotKnowIsKept)
@@ -170,13 +146,11 @@ TEST(PpdModel, GivenOptionsGoInWhateverTheirOrderIfTheyGoTogetherInTheEnd)
 
 TEST(PpdModel, GivenOptionsThatThePrinterDoesNotKnowAreLeftOutWithTheNearOnes)
 {
-    struct Case {
+    const struct {
         const char* key;
         const char* value;
         const char* words; ///< of the sentence; empty if it is followed
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"PaperTone", "Warm", ""},
         {"papertone", "warm", ""},
         {"PaperTone", "Wram", "Did you mean Warm?"},
@@ -189,7 +163,8 @@ TEST(PpdModel, GivenOptionsThatThePrinterDoesNotKnowAreLeftOutWithTheNearOnes)
         {"CVP1", "any text", ""},
         {"job-priority", "70", ""},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         const auto model = tessarinModel();
         const OptionValues one{{q(c.key), q(c.value)}};
         const ApplyResult result = model->apply(givenBy(OptionOrigin::typed, one));
@@ -203,21 +178,20 @@ TEST(PpdModel, GivenOptionsThatThePrinterDoesNotKnowAreLeftOutWithTheNearOnes)
 
 TEST(PpdModel, TheServersOwnNamesAreUnderstoodOrRefusedWithASentence)
 {
-    struct Case {
+    const struct {
         const char* key;
         const char* value;
         const char* result;
-    };
+    } cases[] = {{"media", "iso_a4_210x297mm", "PageSize=A4"},
+                 {"media", "na_index-4x6_4x6in", "PageSize=4x6"},
+                 {"media", "om_own_100x150mm", "PageSize=Custom.100x150mm"},
+                 {"media", "A4", "PageSize=A4"},
+                 {"sides", "two-sided-short-edge", "Duplex=DuplexTumble"},
+                 {"number-up", "1", ""},
+                 {"PaperTone", "Gone", "PaperTone=Gone"}};
 
-    const Case cases[] = {{"media", "iso_a4_210x297mm", "PageSize=A4"},
-                          {"media", "na_index-4x6_4x6in", "PageSize=4x6"},
-                          {"media", "om_own_100x150mm", "PageSize=Custom.100x150mm"},
-                          {"media", "A4", "PageSize=A4"},
-                          {"sides", "two-sided-short-edge", "Duplex=DuplexTumble"},
-                          {"number-up", "1", ""},
-                          {"PaperTone", "Gone", "PaperTone=Gone"}};
     const auto model = tessarinModel();
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const UnderstoodOptions got =
             understand(model->file(), givenBy(OptionOrigin::typed, {{q(c.key), q(c.value)}}));
         QStringList texts;
@@ -253,28 +227,14 @@ TEST(PpdModel, TheEquipmentTakesPartInTheConstraintsAndIsNobodysToChange)
     EXPECT_TRUE(sides[0].obstacle.isEmpty() && !sides[1].obstacle.isEmpty());
 }
 
-TEST(PpdModel, RestoringUndoesAResolversWork)
-{
-    const auto model = tessarinModel();
-    model->change(q("TwoSided"), q("LongEdge"));
-    model->change(q("SharpnessIntensity"), q("1.24"));
-    const QMap<QString, QString> before = model->values();
-    model->change(q("PaperFeed"), q("Roll"));
-    ASSERT_NE(model->values(), before);
-    model->restore(before);
-    EXPECT_EQ(model->values(), before);
-}
-
 TEST(PpdModel, APanelMayKeepWhatBeginsWithANumberTheCommandLineMayNot)
 {
-    struct Case {
+    const struct {
         const char* key;
         const char* value;
         bool whole;
         bool leading;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"Brightness", "-12", true, true},
         {"Brightness", "-", false, true},
         {"Brightness", "", false, true},
@@ -287,7 +247,8 @@ TEST(PpdModel, APanelMayKeepWhatBeginsWithANumberTheCommandLineMayNot)
         {"SharpnessIntensity", "5.1", false, false},
         {"SharpnessIntensity", "nan", false, true},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         using ppd_lookup::NumberReading;
         for (const NumberReading reading : {NumberReading::whole, NumberReading::leading}) {
             const auto model = tessarinModel();

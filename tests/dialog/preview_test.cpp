@@ -2,16 +2,9 @@
 #include "dialog/preview/preview_widget.h"
 #include "dialog/preview/screen_photo.h"
 #include "dialog/preview/sharp_photo_reader.h"
-#include "tests/support/observers.h"
-
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolButton>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 namespace halvern {
-
 namespace {
 
 // Every pixel tells where it stands, and its neighbours differ.
@@ -52,7 +45,7 @@ protected:
     // A borderless page whose photo has a pixel for each of its 300 dots an inch.
     PreviewPage page(const Look& look = {})
     {
-        const QString path = folder.filePath(QStringLiteral("photo.png"));
+        const QString path = folder.filePath(q("photo.png"));
         picture.save(path);
         PreviewPage shown;
         shown.photo = readPhotoFile(path).pages.front();
@@ -92,18 +85,6 @@ TEST(ScreenPhoto, AWindowLooksAsInTheWholeSharpenedPhoto)
     EXPECT_EQ(photo.part(detail.size(), QRect(3, 4, 5, 6)), detail.copy(3, 4, 5, 6));
 }
 
-TEST(ScreenPhoto, ScalesToWhatTheScreenShowsAndFollowsThePhoto)
-{
-    ScreenPhoto photo;
-    photo.setPreview(telling({600, 400}));
-    EXPECT_EQ(photo.whole({300, 200}).size(), QSize(300, 200));
-    EXPECT_EQ(photo.whole({3000, 2000}).size(), QSize(600, 400)) << "no more pixels than there are";
-    QImage white(600, 400, QImage::Format_RGB32);
-    white.fill(Qt::white);
-    photo.setPreview(white);
-    EXPECT_EQ(photo.whole({300, 200}).pixelColor(9, 9), QColor(Qt::white));
-}
-
 TEST_F(PreviewTest, ShowsTheAdjustmentsOnTheWholePageAndSaysThatTheyAreApproximate)
 {
     preview.showPage(page());
@@ -112,7 +93,7 @@ TEST_F(PreviewTest, ShowsTheAdjustmentsOnTheWholePageAndSaysThatTheyAreApproxima
     preview.showPage(page(brightLook()));
     EXPECT_GT(qGreen(grabbed().pixel(middle())), qGreen(plain.pixel(middle())) + 20);
     ASSERT_EQ(preview.captions().size(), 2);
-    EXPECT_TRUE(preview.captions().back().contains(QStringLiteral("approximated")));
+    EXPECT_TRUE(preview.captions().back().contains(q("approximated")));
     EXPECT_TRUE(preview.accessibleDescription().contains(preview.captions().back()));
     preview.showPage(page(sharpenedLook()));
     EXPECT_EQ(grabbed().pixel(middle()), plain.pixel(middle())) << "sharpening shows at 1:1 only";
@@ -167,7 +148,7 @@ TEST_F(PreviewTest, DoubleClickKeyAndButtonZoomInAndOut)
     QTest::mouseClick(preview.zoomButton(), Qt::LeftButton);
     EXPECT_FALSE(preview.isZoomed());
     preview.setZoomed(true);
-    preview.showText(QStringLiteral("Nothing to print"));
+    preview.showText(q("Nothing to print"));
     EXPECT_FALSE(preview.isZoomed());
     EXPECT_FALSE(preview.zoomButton()->isVisible());
 }
@@ -175,9 +156,9 @@ TEST_F(PreviewTest, DoubleClickKeyAndButtonZoomInAndOut)
 TEST_F(PreviewTest, APhotoThatIsGoneStaysAsItsSmallCopyAndSaysSo)
 {
     preview.showPage(page());
-    ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("photo.png"))));
+    ASSERT_TRUE(QFile::remove(folder.filePath(q("photo.png"))));
     zoom();
-    EXPECT_TRUE(preview.captions().back().contains(QStringLiteral("photo.png")));
+    EXPECT_TRUE(preview.captions().back().contains(q("photo.png")));
     EXPECT_NE(grabbed().pixel(200, 150), grabbed().pixel(1, 399)) << "a photo, not the ground";
 }
 
@@ -185,7 +166,7 @@ TEST_F(PreviewTest, APhotoThatIsNoLongerWantedIsNotDelivered)
 {
     const Photo first = page().photo;
     picture.fill(Qt::red);
-    const QString path = folder.filePath(QStringLiteral("red.png"));
+    const QString path = folder.filePath(q("red.png"));
     ASSERT_TRUE(picture.save(path));
     SharpPhotoReader reader;
     std::vector<QColor> delivered;

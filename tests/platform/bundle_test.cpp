@@ -3,16 +3,11 @@
 #include "platform/toolkit/layout_loader.h"
 #include "tests/support/test.h"
 
-#include <QWidget>
-
 namespace halvern {
 
 class BundleTest : public testing::Test {
 protected:
-    void write(const char* name, const QByteArray& content)
-    {
-        writeFile(folder.filePath(QString::fromLatin1(name)), content);
-    }
+    void write(const char* name, const QByteArray& content) { writeFile(folder.filePath(q(name)), content); }
 
     static QByteArray plist(const QByteArray& body)
     {

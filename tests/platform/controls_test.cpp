@@ -10,15 +10,9 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTextDocumentFragment>
-#include <QToolButton>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <limits>
@@ -146,7 +140,7 @@ TEST(AccessibleControlsTest, TellTheNumberOfTheFieldAndThatRadioButtonsBelongTog
     slider.setRealValue(-12.5);
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&slider);
     ASSERT_TRUE(told && told->valueInterface());
-    EXPECT_EQ(told->text(QAccessible::Value), QStringLiteral("-12.5"));
+    EXPECT_EQ(told->text(QAccessible::Value), q("-12.5"));
     EXPECT_EQ(told->valueInterface()->minimumValue().toDouble(), -100.0);
     const QSignalSpy moved(&slider, &DecimalSlider::userMoved);
     told->valueInterface()->setCurrentValue(30.0);
@@ -160,7 +154,7 @@ TEST(WheelGuardTest, TheWheelScrollsUnlessTheControlHasTheFocus)
 {
     QWidget window;
     QComboBox box(&window);
-    box.addItems({QStringLiteral("a"), QStringLiteral("b")});
+    box.addItems({q("a"), q("b")});
     QLineEdit other(&window);
     new WheelGuard(&window);
     window.show();

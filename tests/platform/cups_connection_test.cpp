@@ -1,26 +1,23 @@
 #include "platform/printing/cups_connection.h"
 #include "platform/printing/fresh_ppd.h"
-#include "tests/support/fault_server.h"
-#include "tests/support/test.h"
+#include "tests/support/scripted_server.h"
 
 #include <cups/cups.h>
 
 namespace halvern {
 
-using Then = FaultServer::Then;
+using Then = ScriptedServer::Then;
 using namespace std::chrono_literals;
 
 TEST(CupsConnection, AFaultOfTheServerEndsInASentenceBeforeTheServerLetsGo)
 {
-    struct Case {
+    const struct {
         const char* what;
         QByteArray answer;
         Then then;
         std::chrono::milliseconds whole;
         const char* words;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"silent", "", Then::beSilent, 200ms, "does not answer"},
         {"silent in its answer", "HTTP/1.1 200 OK\r\nContent-Len", Then::beSilent, 200ms, "does not answer"},
         {"a byte now and then", "HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n", Then::drip, 200ms,
@@ -28,9 +25,10 @@ TEST(CupsConnection, AFaultOfTheServerEndsInASentenceBeforeTheServerLetsGo)
         {"endless", "HTTP/1.1 200 OK\r\nContent-Length: 900000000\r\n\r\n", Then::flood, 60s, "does not end"},
         {"gone", "", Then::close, 60s, "broke off"},
     };
-    for (const Case& c : cases) {
+
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        const FaultServer fault(c.answer, c.then);
+        const ScriptedServer fault(c.answer, c.then);
         cups::Connection server(nullptr, {c.whole, c.whole, 1024 * 1024});
         EXPECT_FALSE(server.get("/printers/Photo.ppd"));
         EXPECT_EQ(fault.hasLetGo(), c.then == Then::close);
@@ -42,7 +40,7 @@ TEST(CupsConnection, AFaultOfTheServerEndsInASentenceBeforeTheServerLetsGo)
 
 TEST(CupsConnection, ARaisedFlagEndsTheWait)
 {
-    const FaultServer fault({}, Then::beSilent);
+    const ScriptedServer fault({}, Then::beSilent);
     const cups::CancelFlag flag = cups::makeCancelFlag();
     std::thread other([&] {
         while (fault.connections() == 0)
@@ -64,7 +62,7 @@ TEST(CupsConnection, NobodyIsAskedForAPassword)
             return nullptr;
         },
         nullptr);
-    const FaultServer fault(
+    const ScriptedServer fault(
         "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"x\"\r\nContent-Length: 0\r\n\r\n",
         Then::close);
     cups::Connection server(nullptr);
@@ -76,7 +74,7 @@ TEST(CupsConnection, NobodyIsAskedForAPassword)
 
 TEST(FreshPpd, TheMainThreadTakesWhatCameLastWhileTheServerIsSilent)
 {
-    const FaultServer fault({}, Then::beSilent);
+    const ScriptedServer fault({}, Then::beSilent);
     EXPECT_EQ(ppd::freshText(q("Photo")), std::nullopt);
     ppd::rememberText(q("Photo"), "last");
     EXPECT_EQ(ppd::freshText(q("Photo")), "last");

@@ -1,7 +1,6 @@
 #include "platform/printing/page_format.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
-#include "tests/support/fake_host.h"
 #include "tests/support/test.h"
 
 #include <array>

@@ -28,9 +28,9 @@ bool ChildProcess::start(const QString& program, const QStringList& arguments,
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto& [name, value] : more) {
         if (value.isNull())
-            environment.remove(QString::fromUtf8(name));
+            environment.remove(q(name));
         else
-            environment.insert(QString::fromUtf8(name), QString::fromUtf8(value));
+            environment.insert(q(name), q(value));
     }
     process_.setProcessEnvironment(environment);
     process_.start(program, arguments);

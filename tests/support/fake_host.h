@@ -5,6 +5,7 @@
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"
 #include "platform/printing/printer.h"
+#include "tests/support/text.h"
 
 #include <QList>
 #include <QPair>
@@ -46,8 +47,7 @@ public:
     std::shared_ptr<PrintSettings> settings = std::make_shared<PrintSettings>();
     std::shared_ptr<PageFormat> format = std::make_shared<PageFormat>(
         PageRect{0, 0, 842, 595}, PageRect{9, 9, 833, 586}, PageOrientation::portrait);
-    std::shared_ptr<Printer> printer =
-        std::make_shared<Printer>(QStringLiteral("Tessarin"), QStringLiteral("halvern://virtual/test"));
+    std::shared_ptr<Printer> printer = std::make_shared<Printer>(q("Tessarin"), q("halvern://virtual/test"));
 
 private:
     ppd::File file_;

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -23,6 +24,17 @@ QByteArray readFile(const QString& path)
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
     return file.readAll();
+}
+
+QString makeTestPhoto(const QString& path)
+{
+    QImage photo(600, 400, QImage::Format_RGB32);
+    for (int y = 0; y < photo.height(); ++y) {
+        for (int x = 0; x < photo.width(); ++x)
+            photo.setPixel(x, y, qRgb(x * 255 / 600, y * 255 / 400, 90));
+    }
+    EXPECT_TRUE(photo.save(path));
+    return path;
 }
 
 } // namespace halvern

@@ -9,6 +9,9 @@ namespace halvern {
 /// cannot be done. Answers the path.
 QString writeFile(const QString& path, const QByteArray& content);
 
+/// A photo of 600 x 400 pixels at the path, in several tones. Answers the path.
+QString makeTestPhoto(const QString& path);
+
 /// The file's content; a failed test if it cannot be read.
 QByteArray readFile(const QString& path);
 

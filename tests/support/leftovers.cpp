@@ -13,7 +13,6 @@
 #include <signal.h>
 
 namespace halvern {
-
 namespace {
 
 QByteArray contentOf(const QString& pid, const char* name)
@@ -34,7 +33,7 @@ QStringList processesOf(const QString& home)
         if (fields.size() < 2 || fields[0] == "Z" || fields[0] == "X" || pid.toLatin1() == self)
             continue;
         if (fields[1] == self || contentOf(pid, "environ").contains("HOME=" + home.toUtf8()))
-            found.append(pid + QLatin1Char(' ') + QString::fromUtf8(contentOf(pid, "comm").trimmed()));
+            found.append(pid + u' ' + QString::fromUtf8(contentOf(pid, "comm").trimmed()));
     }
     return found;
 }
@@ -69,7 +68,7 @@ void LeftoverListener::OnTestSuiteEnd(const testing::TestSuite&)
         return;
     for (const QString& process : processesOf(home_)) {
         ADD_FAILURE() << "a process is left: " << qPrintable(process);
-        ::kill(pid_t(process.section(QLatin1Char(' '), 0, 0).toInt()), SIGKILL);
+        ::kill(pid_t(process.section(u' ', 0, 0).toInt()), SIGKILL);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "tests/support/leftovers.h"
+#include "tests/support/text.h"
 
 #include <QApplication>
 #include <QDir>
@@ -39,7 +40,7 @@ void settleIn(const QString& home)
     forgetWhoRunsThis();
     const auto folder = [&](const char* variable, const char* name) {
         QDir(home).mkpath(QLatin1StringView(name));
-        qputenv(variable, (home + QLatin1Char('/') + QLatin1StringView(name)).toUtf8());
+        qputenv(variable, (home + u'/' + QLatin1StringView(name)).toUtf8());
     };
     qputenv("HOME", home.toUtf8());
     folder("XDG_CONFIG_HOME", ".config");
@@ -47,8 +48,7 @@ void settleIn(const QString& home)
     folder("XDG_STATE_HOME", ".local/state");
     folder("XDG_CACHE_HOME", ".cache");
     folder("XDG_RUNTIME_DIR", "run");
-    QFile::setPermissions(home + QStringLiteral("/run"),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(home + halvern::q("/run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("LANG", "C.UTF-8");
@@ -62,7 +62,7 @@ void settleIn(const QString& home)
 
 int main(int argc, char** argv)
 {
-    const QTemporaryDir home(QStringLiteral("/tmp/halvern-test.XXXXXX"));
+    const QTemporaryDir home(halvern::q("/tmp/halvern-test.XXXXXX"));
     if (!home.isValid())
         qFatal("no folder can be made in /tmp");
     settleIn(home.path());

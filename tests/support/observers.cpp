@@ -14,7 +14,6 @@
 #include <vector>
 
 namespace halvern {
-
 namespace {
 
 QMutex captureMutex;

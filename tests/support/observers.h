@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/text.h"
+
 #include <QStringList>
 
 #include <functional>
@@ -35,7 +37,7 @@ public:
 
 /// Makes the built bundle the main one, so that panels linked into the test find their layouts and
 /// translations; in `language` ("de_DE") until the next call.
-void useBuiltBundle(const QString& language = QStringLiteral("en_US"));
+void useBuiltBundle(const QString& language = q("en_US"));
 
 /// Seconds after which a test gives up. No test waits for a time: what takes a moment here takes a minute on
 /// a machine that is busy with something else.

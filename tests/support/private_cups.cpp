@@ -9,7 +9,6 @@
 #include <memory>
 
 namespace halvern {
-
 namespace {
 
 void setEnvironment(const QByteArray& name, const std::optional<QByteArray>& value)
@@ -102,12 +101,6 @@ bool PrivateCups::addQueue(const QString& name, const QString& ppd, const QStrin
     return result.status == 0;
 }
 
-pid_t PrivateCups::process() const
-{
-    QFile file(dir() + q("/server/cupsd.pid"));
-    return file.open(QIODevice::ReadOnly) ? pid_t(file.readAll().split(' ').first().toInt()) : 0;
-}
-
 QString PrivateCups::dir() const
 {
     return folder_.path();
@@ -131,9 +124,9 @@ std::optional<std::map<QString, QString>> PrivateCups::receivedOptions(int job) 
     QString text = QString::fromUtf8(file.readAll());
     text.replace(q("\n\t"), q("\v"));
     std::map<QString, QString> options;
-    for (const QString& line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        const qsizetype equals = line.indexOf(QLatin1Char('='));
-        options[line.left(equals)] = line.mid(equals + 1).replace(QLatin1Char('\v'), QLatin1Char('\n'));
+    for (const QString& line : text.split(u'\n', Qt::SkipEmptyParts)) {
+        const qsizetype equals = line.indexOf(u'=');
+        options[line.left(equals)] = line.mid(equals + 1).replace(u'\v', u'\n');
     }
     return options;
 }

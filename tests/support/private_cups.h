@@ -43,9 +43,6 @@ public:
     /// What options.txt of the job holds; nothing while the printer has not received the options.
     std::optional<std::map<QString, QString>> receivedOptions(int job) const;
 
-    /// The server's process; 0 if it does not run.
-    pid_t process() const;
-
     /// Ends the server before its time, as a failing one would; the object can then only be destroyed.
     bool stop();
 

@@ -104,17 +104,6 @@ int RealDialog::jobWhenOver()
     return dialog.outcome().printed ? dialog.outcome().jobId : 0;
 }
 
-QString makeTestPhoto(const QString& path)
-{
-    QImage photo(600, 400, QImage::Format_RGB32);
-    for (int y = 0; y < photo.height(); ++y) {
-        for (int x = 0; x < photo.width(); ++x)
-            photo.setPixel(x, y, qRgb(x * 255 / 600, y * 255 / 400, 90));
-    }
-    EXPECT_TRUE(photo.save(path));
-    return path;
-}
-
 qsizetype sheetsOf(const PrivateCups& server, int job)
 {
     return QDir(server.jobFile(job, QString())).entryList({q("page-*.png")}, QDir::Files).size();

@@ -3,10 +3,7 @@
 #include "dialog/session/dialog_session.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/print_dialog.h"
-#include "tests/support/private_cups.h"
-
-#include <QAbstractButton>
-#include <QLineEdit>
+#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -46,9 +43,6 @@ public:
 private:
     int jobWhenOver();
 };
-
-/// A photo of 600 x 400 pixels at `path`, in several tones.
-QString makeTestPhoto(const QString& path);
 
 /// How many sheets the printer put out for the job.
 qsizetype sheetsOf(const PrivateCups& server, int job);

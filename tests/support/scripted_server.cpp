@@ -1,26 +1,33 @@
 #include "tests/support/scripted_server.h"
+#include "tests/support/text.h"
 
 #include <cups/cups.h>
 
+#include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace halvern {
 
-ScriptedServer::ScriptedServer(Script script)
-    : script_(std::move(script)), listener_(socket(AF_UNIX, SOCK_STREAM, 0))
+ScriptedServer::ScriptedServer(Script script, QByteArray answer, Then then)
+    : script_(std::move(script)),
+      answer_(std::move(answer)),
+      then_(then),
+      listener_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
 {
-    const QByteArray path = folder_.filePath(QStringLiteral("s")).toUtf8();
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
-    if (bind(listener_, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
-        listen(listener_, 8) != 0)
-        qFatal("no server at %s", path.constData());
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto* place = reinterpret_cast<sockaddr*>(&address);
+    if (bind(listener_, place, size) != 0 || listen(listener_, 8) != 0 ||
+        getsockname(listener_, place, &size) != 0)
+        qFatal("no server on the loopback");
+    port_ = ntohs(address.sin_port);
     if (qEnvironmentVariableIsSet("CUPS_SERVER"))
         before_ = qgetenv("CUPS_SERVER");
-    qputenv("CUPS_SERVER", path);
+    qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(port_));
     cupsSetServer(nullptr);
     thread_ = std::thread([this] { accept(); });
 }
@@ -33,6 +40,8 @@ ScriptedServer::~ScriptedServer()
         shutdown(socket, SHUT_RDWR);
     for (std::thread& thread : threads_)
         thread.join();
+    for (const int socket : sockets_)
+        close(socket);
     close(listener_);
     if (before_)
         qputenv("CUPS_SERVER", *before_);
@@ -46,12 +55,41 @@ void ScriptedServer::accept()
     while (http_t* http = httpAcceptConnection(listener_, 1)) {
         // The socket of its own stays open until the end, so that nobody else gets its number.
         sockets_.push_back(dup(httpGetFd(http)));
+        ++callers_;
+        ++connections_;
         threads_.emplace_back([this, http] {
-            converse(http);
+            if (script_)
+                converse(http);
+            else
+                misbehave(httpGetFd(http));
             shutdown(httpGetFd(http), SHUT_RDWR);
             httpClose(http);
+            --callers_;
         });
     }
+}
+
+void ScriptedServer::misbehave(int client)
+{
+    constexpr int kPieces = 2000;
+    char question[4096];
+    if (recv(client, question, sizeof question, 0) <= 0)
+        return;
+    const auto say = [client](const QByteArray& text) {
+        return send(client, text.constData(), size_t(text.size()), MSG_NOSIGNAL) >= 0;
+    };
+    const auto hasLeft = [client](int milliseconds) {
+        pollfd line{client, POLLRDHUP, 0};
+        return poll(&line, 1, milliseconds) != 0;
+    };
+    bool isHeard = say(answer_);
+    const QByteArray piece = then_ == Then::flood ? QByteArray(64 * 1024, '*') : QByteArray("*");
+    for (int i = 0; i < kPieces && isHeard && (then_ == Then::drip || then_ == Then::flood); ++i)
+        isHeard = say(piece) && !hasLeft(then_ == Then::drip ? 10 : 0);
+    // What it still asks is not answered.
+    while (isHeard && then_ == Then::beSilent)
+        isHeard = recv(client, question, sizeof question, 0) > 0;
+    hasLetGo_ = hasLetGo_ || isHeard;
 }
 
 void ScriptedServer::converse(http_t* http)

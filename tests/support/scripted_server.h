@@ -1,24 +1,29 @@
 #pragma once
 
 #include "platform/printing/cups_connection.h"
+#include "tests/support/test.h"
 
-#include <QStringList>
-#include <QTemporaryDir>
-
+#include <atomic>
 #include <mutex>
 #include <thread>
-#include <vector>
 
 namespace halvern {
 
-/// A print server that a test plays, on a UNIX socket that this process's libcups talks to while the object
+/// A print server that a test plays, on the loopback, that this process's libcups talks to while the object
 /// lives. Each connection has a thread. Main thread only.
 class ScriptedServer {
 public:
     /// The answer to a request, on a thread of the server's; null breaks the connection off instead.
     using Script = std::function<cups::Ipp(_ipp_s* request)>;
 
-    explicit ScriptedServer(Script script);
+    /// What one with a fault does until the client leaves, once it has read a question and answered it with
+    /// some bytes.
+    enum class Then { close, beSilent, drip, flood };
+
+    explicit ScriptedServer(Script script) : ScriptedServer(std::move(script), {}, Then::close) {}
+
+    ScriptedServer(QByteArray answer, Then then) : ScriptedServer({}, std::move(answer), then) {}
+
     ~ScriptedServer();
     ScriptedServer(const ScriptedServer&) = delete;
     ScriptedServer& operator=(const ScriptedServer&) = delete;
@@ -26,14 +31,31 @@ public:
     /// The operations that were asked for, in order.
     QStringList asked() const;
 
+    int port() const { return port_; }
+
+    /// How many have come, and how many of them have not left.
+    int connections() const { return connections_; }
+
+    int callers() const { return callers_; }
+
+    /// Whether it was a faulty server that ended a conversation, for having said all that it had.
+    bool hasLetGo() const { return hasLetGo_; }
+
 private:
+    ScriptedServer(Script script, QByteArray answer, Then then);
     void accept();
     void converse(_http_s* http);
+    void misbehave(int client);
 
     Script script_;
-    QTemporaryDir folder_;
+    QByteArray answer_;
+    Then then_;
     int listener_;
+    int port_ = 0;
     std::optional<QByteArray> before_;
+    std::atomic<int> connections_ = 0;
+    std::atomic<int> callers_ = 0;
+    std::atomic<bool> hasLetGo_ = false;
     mutable std::mutex mutex_;
     QStringList asked_;
     std::vector<int> sockets_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/private_cups.h"
+#include "tests/support/text.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ protected:
     /// Adds a queue whose printer has the faults of the query (printer/README.md).
     static void addQueue(const char* name, const char* faults = "", const QStringList& more = {})
     {
-        const QString uri = QStringLiteral("halvern://virtual/x?") + QLatin1StringView(faults);
+        const QString uri = q("halvern://virtual/x?") + QLatin1StringView(faults);
         ASSERT_TRUE(server->addQueue(QLatin1StringView(name), QString(), uri, more))
             << server->error().toStdString();
     }

@@ -146,32 +146,6 @@ QByteArray ArchiveAssembler::propertyList(int top) const
     return list + bigEndian(quint64(objects_.size()), 8) + bigEndian(quint64(top), 8) + bigEndian(table, 8);
 }
 
-QByteArray honestArchive(int count)
-{
-    ArchiveAssembler archive;
-    const int dictionaryClass = archive.classEntry("NSMutableDictionary", {"NSDictionary", "NSObject"});
-    QList<int> fields;
-    for (const char* field : {"paperName", "paperWidth", "paperSurface", "paperResolution", "paperTone"})
-        fields.append(archive.archived(archive.text(field)));
-    const int surface = archive.archived(archive.integer(1));
-    const int resolution = archive.archived(archive.integer(3000));
-    QList<int> keys;
-    QList<int> records;
-    for (int i = 0; i < count; ++i) {
-        const QByteArray name = "Photo Paper " + QByteArray::number(i);
-        const QList<int> values{archive.archived(archive.text(name.constData())),
-                                archive.archived(archive.integer(1000 + i)), surface, resolution,
-                                archive.archived(archive.integer(i & 0xFF))};
-        const int record = archive.dictionary(
-            {archive.text("NS.keys"), archive.text("NS.objects"), archive.text("$class")},
-            {archive.array(archive.references(fields)), archive.array(archive.references(values)),
-             archive.uid(quint64(dictionaryClass))});
-        keys.append(archive.archived(archive.text((name + "-r300").constData())));
-        records.append(archive.archived(record));
-    }
-    return archive.finish(archive.archivedDictionary(keys, records));
-}
-
 QByteArray xmlArchive(const QByteArray& value)
 {
     const auto dictionary = [](int key, int entry) {

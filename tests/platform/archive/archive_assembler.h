@@ -56,9 +56,6 @@ private:
     QHash<QByteArray, int> shared_;
 };
 
-/// An archive of `count` papers as a printer would write it.
-QByteArray honestArchive(int count);
-
 /// An XML archive that has one record "paper" with one "field".
 QByteArray xmlArchive(const QByteArray& value);
 

@@ -6,7 +6,6 @@
 #include <QJsonObject>
 
 namespace halvern {
-
 namespace {
 
 QByteArray contentOf(const QString& file)

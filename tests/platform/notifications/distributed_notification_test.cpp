@@ -1,15 +1,13 @@
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/notifications/notification_bus.h"
 #include "tests/support/private_bus.h"
-#include "tests/support/silent_socket.h"
-#include "tests/support/test.h"
+#include "tests/support/scripted_server.h"
 
 #include <QThread>
 
 #include <thread>
 
 namespace halvern {
-
 namespace {
 
 const QString kNote = q("VLXPrinterPaperDidUpdateNotification");
@@ -23,8 +21,8 @@ protected:
     {
         return [this, observer](const DistributedNotification& notification) {
             EXPECT_EQ(QThread::currentThread(), qApp->thread());
-            received.append(QLatin1StringView(observer) + QLatin1Char(' ') + notification.name +
-                            QLatin1Char(' ') + notification.object.value_or(q("nothing")));
+            received.append(QLatin1StringView(observer) + u' ' + notification.name + u' ' +
+                            notification.object.value_or(q("nothing")));
         };
     }
 
@@ -64,8 +62,7 @@ TEST_F(DistributedNotificationTest, NotificationsReachTheObserversOfTheirNameAnd
     ASSERT_TRUE(DistributedNotificationCenter::post(kNote, q("halvern://virtual/é")));
     ASSERT_TRUE(DistributedNotificationCenter::post(kNote, QString()));
     flush();
-    EXPECT_EQ(received, (QStringList{q("this ") + kNote + QLatin1Char(' ') + kUri,
-                                     q("any ") + kNote + QLatin1Char(' ') + kUri,
+    EXPECT_EQ(received, (QStringList{q("this ") + kNote + u' ' + kUri, q("any ") + kNote + u' ' + kUri,
                                      q("any ") + kNote + q(" halvern://virtual/é"),
                                      q("any ") + kNote + q(" nothing")}));
     EXPECT_TRUE(log.lines().isEmpty());
@@ -125,43 +122,17 @@ TEST_F(DistributedNotificationTest, ABusThatBreaksOffIsLoggedAndMayComeBack)
 
 TEST_F(DistributedNotificationTest, ABusThatNeverAnswersHoldsUpNobody)
 {
-    QTemporaryDir folder;
-    const QByteArray path = folder.filePath(q("bus")).toUtf8();
-    SilentSocket silent(path);
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + path);
+    const ScriptedServer silent({}, ScriptedServer::Then::beSilent);
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "tcp:host=127.0.0.1,port=" + QByteArray::number(silent.port()));
     center.addObserver(&a, kNote, std::nullopt, note("a"));
     // The main loop turns while the call waits for its answer.
-    EXPECT_TRUE(waitUntil([&] { return silent.hasCaller(); }));
+    EXPECT_TRUE(waitUntil([&] { return silent.callers() == 1; }));
     drainMainQueue();
-    EXPECT_TRUE(silent.hasCaller());
+    EXPECT_EQ(silent.callers(), 1);
     EXPECT_FALSE(center.isConnected());
     std::string why;
     EXPECT_FALSE(notification_bus::post("name", "object", &why, std::chrono::milliseconds(200)));
     EXPECT_EQ(why, "Connection timed out");
-}
-
-TEST_F(DistributedNotificationTest, TheCommandLineToolPostsBothNotificationsAndExplainsFailure)
-{
-    const auto notify = [](const char* what) {
-        return runProgram(q(HALVERN_NOTIFY), {QString::fromLatin1(what), kUri});
-    };
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
-    const ProgramResult unheard = notify("papers");
-    EXPECT_EQ(unheard.status, 1);
-    EXPECT_TRUE(unheard.error.contains(q("No such file or directory")));
-    const ProgramResult misspelt = notify("paper");
-    EXPECT_EQ(misspelt.status, 2);
-    EXPECT_TRUE(misspelt.error.startsWith(q("Usage:")));
-
-    const PrivateBus bus;
-    center.addObserver(&a, kNote, kUri, note("papers"));
-    center.addObserver(&a, q("VLXPrinterInfoDidUpdateNotification"), kUri, note("info"));
-    ASSERT_TRUE(connected());
-    EXPECT_EQ(notify("papers").status, 0);
-    EXPECT_EQ(notify("info").status, 0);
-    flush();
-    EXPECT_EQ(received, (QStringList{q("papers ") + kNote + QLatin1Char(' ') + kUri,
-                                     q("info VLXPrinterInfoDidUpdateNotification ") + kUri}));
 }
 
 } // namespace halvern
