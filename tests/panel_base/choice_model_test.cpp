@@ -2,12 +2,6 @@
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/test.h"
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QRadioButton>
 
 namespace halvern {
 
@@ -39,7 +33,7 @@ TEST_F(ChoiceModelTest, ReadsAChoiceFromEachKindOfControl)
     const QList<QPair<const char*, const char*>> texts{
         {"x12px", "12"}, {"-", "-"}, {"--5", "0"}, {"-5", "-5"}};
     for (const auto& [typed, choice] : texts) {
-        field->setText(QString::fromLatin1(typed));
+        field->setText(q(typed));
         EXPECT_EQ(panel->newChoiceForSender(field), QVariant(QString::fromLatin1(choice))) << typed;
     }
     auto* box = addControl<QCheckBox>(view, 3);
@@ -68,8 +62,8 @@ TEST_F(ChoiceModelTest, HoldsATypedNumberToItsSlidersRange)
     EXPECT_EQ(beeps.count, 1);
     EXPECT_TRUE(host->asked.isEmpty());
     for (const char* limit : {"0", "100", "-"}) {
-        panel->markChoice_forPPDOptionKey_fromSender(QString::fromLatin1(limit), q("B"), field);
-        EXPECT_EQ(panel->stored("B"), QString::fromLatin1(limit));
+        panel->markChoice_forPPDOptionKey_fromSender(q(limit), q("B"), field);
+        EXPECT_EQ(panel->stored("B"), q(limit));
     }
     EXPECT_EQ(beeps.count, 1);
 }
@@ -119,16 +113,6 @@ TEST_F(ChoiceModelTest, ADelayedRefreshKeepsThePanelAlive)
     panel.reset();
     EXPECT_FALSE(weak.expired());
     EXPECT_TRUE(waitUntil([&] { return weak.expired(); }));
-}
-
-TEST_F(ChoiceModelTest, WritesOneKeyOfTheGlobalDefaultsAndKeepsTheOthers)
-{
-    panel->setGlobalDefaultsObject_forKey(q("[MM]"), q("first.key"));
-    panel->setGlobalDefaultsObject_forKey(7, q("second.key"));
-    panel->setGlobalDefaultsObject_forKey({}, q("first.key"));
-    const UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    EXPECT_EQ(defaults.objectForKey(q("first.key")).toString(), q("[MM]"));
-    EXPECT_EQ(defaults.objectForKey(q("second.key")).toInt(), 7);
 }
 
 } // namespace halvern

@@ -5,17 +5,9 @@
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/test.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 namespace halvern {
 
@@ -54,18 +46,6 @@ TEST_F(ControlBindingTest, ShowsChoicesInTagOrderOverOneGapAndStopsAtTwo)
     EXPECT_EQ(labels[2]->text(), q("v4"));
     EXPECT_EQ(labels[3]->text(), QString());
     EXPECT_TRUE(toggle->isChecked());
-}
-
-TEST_F(ControlBindingTest, AViewThatIsNoControlEndsTheWalk)
-{
-    auto* first = addControl<QLabel>(view, 1);
-    addControl<QGroupBox>(view, 2);
-    auto* third = addControl<QLabel>(view, 3);
-    for (const char* key : {"A", "B", "C"})
-        panel->setChoice_forKey(q("v"), QString::fromLatin1(key));
-    panel->updateUI();
-    EXPECT_EQ(first->text(), q("v"));
-    EXPECT_EQ(third->text(), QString());
 }
 
 TEST_F(ControlBindingTest, AToggleReachesEveryGroupUpToItsFirstGap)
@@ -208,29 +188,6 @@ TEST_F(ControlBindingTest, AControlWithoutAnOptionIsRefused)
     EXPECT_TRUE(host->asked.isEmpty());
 }
 
-TEST_F(ControlBindingTest, AFieldWithAnActionOnlyProposesOnceWhenEditingEnds)
-{
-    const QTemporaryDir folder;
-    writeFile(folder.filePath(q("Info.plist")),
-              "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
-    writeFile(folder.filePath(q("Resources/Quiet.ui")),
-              R"(<ui version="4.0"><widget class="QLineEdit" name="quiet">
-                 <property name="tag" stdset="0"><number>2</number></property>
-                 <property name="action" stdset="0"><string>changePrinterSetting:</string></property>
-                 </widget></ui>)");
-    Bundle::setMainBundle(Bundle::load(folder.path()));
-    const auto wired = makePanel<TestPanel>(host);
-    wired->layout = q("Quiet");
-    auto* field = qobject_cast<QLineEdit*>(wired->panelView());
-    ASSERT_NE(field, nullptr);
-    QTest::keyClicks(field, q("123"));
-    EXPECT_TRUE(host->asked.isEmpty());
-    QTest::keyClick(field, Qt::Key_Return);
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(host->asked.size(), 1);
-    EXPECT_EQ(wired->stored("B"), q("123"));
-}
-
 TEST_F(ControlBindingTest, AMinusLeftInAFieldBecomesZeroWithoutAChoice)
 {
     auto* field = addControl<QLineEdit>(view, 1);
@@ -240,28 +197,6 @@ TEST_F(ControlBindingTest, AMinusLeftInAFieldBecomesZeroWithoutAChoice)
     EXPECT_EQ(field->text(), q("0"));
     EXPECT_EQ(panel->stored("A"), q("-"));
     EXPECT_EQ(host->asked.size(), 1);
-}
-
-TEST_F(ControlBindingTest, AMatrixPanelReadsAndShowsCellsOnly)
-{
-    class Cells : public KSTRVLMatrixPDEHalvern {
-        QVariant ppdChoiceForTag(int tag) override { return QString::number(tag * 10); }
-
-        int tagForStringValue(const QVariant& value) override { return value.toInt() / 10; }
-    };
-
-    const auto cells = makePanel<Cells>(host);
-    auto* matrix = addControl<Matrix>(view, 1);
-    matrix->setCellTitles({q("a"), q("b")});
-    matrix->setToolTip(q("tip"));
-    cells->updateControl_withValue(matrix, q("20"));
-    EXPECT_EQ(matrix->selectedTag(), 2);
-    EXPECT_EQ(matrix->toolTip(), QString());
-    EXPECT_EQ(cells->newChoiceForSender(matrix).toString(), q("20"));
-    auto* label = addControl<QLabel>(view, 3);
-    cells->updateControl_withValue(label, q("20"));
-    EXPECT_EQ(label->text(), QString());
-    EXPECT_EQ(cells->newChoiceForSender(label).toString(), q("30"));
 }
 
 } // namespace halvern

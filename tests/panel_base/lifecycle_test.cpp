@@ -2,11 +2,8 @@
 #include "platform/foundation/notifications/notification_center.h"
 #include "platform/foundation/threads/semaphore.h"
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/test.h"
 
-#include <QDesktopServices>
 #include <QPointer>
-#include <QUrl>
 
 #include <csignal>
 #include <future>
@@ -103,18 +100,6 @@ TEST_F(LifecycleTest, DestructionWaitsForTheUnloadSemaphore)
     EXPECT_EQ(log.lines().last(), q("continuing dealloc after waiting for unload semaphore"));
 }
 
-TEST_F(LifecycleTest, DestructionEndsAllNotifications)
-{
-    auto panel = makePanel<TestPanel>(host);
-    int received = 0;
-    NotificationCenter& center = NotificationCenter::defaultCenter();
-    center.addObserver(panel.get(), q("test.note"), nullptr, [&](const Notification&) { ++received; });
-    center.post(q("test.note"), nullptr);
-    panel.reset();
-    center.post(q("test.note"), nullptr);
-    EXPECT_EQ(received, 1);
-}
-
 TEST_F(LifecycleTest, ABrokenPipeEndsNobody)
 {
     const auto panel = makePanel<TestPanel>(host);
@@ -133,29 +118,4 @@ TEST_F(LifecycleTest, ABrokenPipeEndsNobody)
     close(ends[1]);
 }
 
-class HelpHandler : public QObject {
-    Q_OBJECT
-public Q_SLOTS:
-
-    void open(const QUrl& url) { opened.append(url); }
-
-public:
-    QList<QUrl> opened;
-};
-
-TEST_F(LifecycleTest, HelpIsLeftToTheDialogOnlyIfTheBookDidNotOpen)
-{
-    HelpHandler handler;
-    QDesktopServices::setUrlHandler(q("file"), &handler, "open");
-    const auto panel = makePanel<TestPanel>(host);
-    EXPECT_FALSE(panel->shouldShowHelp());
-    ASSERT_EQ(handler.opened.size(), 1);
-    EXPECT_TRUE(handler.opened.first().path().endsWith(QLatin1String("Resources/TessarinHelp/index.html")));
-    QDesktopServices::unsetUrlHandler(q("file"));
-    panel->pdeBundle.reset();
-    EXPECT_TRUE(panel->shouldShowHelp());
-}
-
 } // namespace halvern
-
-#include "lifecycle_test.moc"

@@ -1,5 +1,4 @@
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/test.h"
 
 namespace halvern {
 

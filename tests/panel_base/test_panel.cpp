@@ -1,5 +1,4 @@
 #include "tests/panel_base/test_panel.h"
-#include "tests/support/test.h"
 
 #include "panel_base/tags.h"
 #include "platform/toolkit/decimal_slider.h"

@@ -2,7 +2,6 @@
 
 #include "panel_base/base_panel.h"
 #include "platform/plugin_api/host_callback.h"
-#include "tests/support/fake_host.h"
 #include "tests/support/test.h"
 
 namespace halvern {
@@ -32,7 +31,7 @@ public:
     using KSTRVLBasePDEHalvern::ppd;
     using KSTRVLBasePDEHalvern::storedChoice;
 
-    QString stored(const char* key) const { return storedChoice(QString::fromLatin1(key)).toString(); }
+    QString stored(const char* key) const { return storedChoice(q(key)).toString(); }
 
     static constexpr int kOptions = 10;
     std::optional<QString> layout;

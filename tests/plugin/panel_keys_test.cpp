@@ -3,16 +3,13 @@
 #include "dialog/session/dialog_session.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/print_dialog.h"
+#include "platform/toolkit/control.h"
 #include "plugin/plug_in.h"
-#include "tests/support/fake_host.h"
 #include "tests/support/test.h"
 
-#include <QAbstractButton>
 #include <QKeySequence>
-#include <QLabel>
 
 namespace halvern {
-
 namespace {
 
 // The keys that, with Alt, work a widget in the view; without those in `except`.
@@ -28,6 +25,11 @@ QStringList mnemonics(const QWidget& view, const QWidget* except = nullptr)
             keys.append(key.toString());
     }
     return keys;
+}
+
+bool hasName(const QWidget& widget)
+{
+    return !widget.accessibleName().isEmpty() || !control::title(&widget).value_or(QString()).isEmpty();
 }
 
 // Those that come more than once.
@@ -48,7 +50,7 @@ TEST(PanelKeys, AreNotTheDialogsOwnInAnyLanguage)
 {
     QStringList titles;
     for (const char* language : {"en_US", "de_DE", "fr_FR", "es_ES", "ja_JP"}) {
-        useBuiltBundle(QString::fromLatin1(language));
+        useBuiltBundle(q(language));
         const auto translators = prepareApplication();
         PluginLoader none(QStringList{});
         DialogSession session({}, none);
@@ -66,6 +68,10 @@ TEST(PanelKeys, AreNotTheDialogsOwnInAnyLanguage)
             const QStringList own = mnemonics(*panel->panelView());
             EXPECT_GE(own.size(), 3) << qPrintable(titles.last());
             EXPECT_EQ(collisions(own + mnemonics(dialog, ownPage)), "") << qPrintable(titles.last());
+            for (const QWidget* widget : panel->panelView()->findChildren<QWidget*>())
+                EXPECT_TRUE(control::tagOf(widget) == 0 || qobject_cast<const QLabel*>(widget) ||
+                            hasName(*widget))
+                    << qPrintable(titles.last() + widget->objectName());
         }
         panels.reset();
         EXPECT_TRUE(waitUntil([&] { return host.use_count() == 1; }));

@@ -1,22 +1,10 @@
 #include "plugin/plug_in.h"
-#include "tests/support/test.h"
 
 #include "platform/foundation/bundle.h"
-#include "tests/support/fake_host.h"
+#include "tests/support/test.h"
 
 namespace halvern {
-
 namespace {
-
-std::shared_ptr<Bundle> bundleWith(const QTemporaryDir& folder, const char* identifier)
-{
-    QByteArray text =
-        "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>CFBundleName</key><string>x</string>";
-    if (identifier)
-        text += QByteArray("<key>CFBundleIdentifier</key><string>") + identifier + "</string>";
-    writeFile(folder.filePath(q("Info.plist")), text + "</dict></plist>");
-    return Bundle::load(folder.path());
-}
 
 int made = 0;
 
@@ -41,19 +29,6 @@ bool areAllGone(const std::shared_ptr<FakeHost>& host)
 }
 
 } // namespace
-
-TEST(PlugInTest, AcceptsItsOwnBundleOnly)
-{
-    LogCapture log;
-    const QTemporaryDir folder;
-    RZPDEPlugInHalvern plugIn;
-    EXPECT_TRUE(plugIn.initWithBundle(*bundleWith(folder, "com.halvern.tessarin.pde")));
-    EXPECT_TRUE(log.lines().isEmpty());
-    EXPECT_FALSE(plugIn.initWithBundle(*bundleWith(folder, "com.halvern.Tessarin.pde")));
-    EXPECT_EQ(log.lines().last(), q("ERROR: bad bundle id \"com.halvern.Tessarin.pde\" not equal to "
-                                    "\"com.halvern.tessarin.pde\""));
-    EXPECT_FALSE(plugIn.initWithBundle(*bundleWith(folder, nullptr)));
-}
 
 TEST(PlugInTest, MakesFreshPanelsForItsTypeAndNoneForAnother)
 {

@@ -1,6 +1,5 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
-#include "tests/support/test.h"
 
 namespace halvern {
 

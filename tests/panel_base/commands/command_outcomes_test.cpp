@@ -1,6 +1,5 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
-#include "tests/support/test.h"
 
 #include <csignal>
 
@@ -8,7 +7,6 @@
 #include <unistd.h>
 
 namespace halvern {
-
 namespace {
 
 QStringList threadsOfThisProcess()
@@ -18,18 +16,7 @@ QStringList threadsOfThisProcess()
 
 } // namespace
 
-class CommandOutcomesTest : public CommandTest {
-protected:
-    /// Sends and waits; the panel is done with it afterwards.
-    static std::shared_ptr<CommandPanel> outcomeOn(const char* queue)
-    {
-        auto panel = makeCommandPanel(queue);
-        panel->sendPrinterCommands(kReportAndConfigure);
-        EXPECT_TRUE(waitForWorkQueues(1000 * kPatience));
-        EXPECT_FALSE(panel->isWatching());
-        return panel;
-    }
-};
+class CommandOutcomesTest : public CommandTest {};
 
 TEST_F(CommandOutcomesTest, ACompletedJobBringsItsExactBytesAndOneUpdate)
 {
@@ -48,19 +35,6 @@ TEST_F(CommandOutcomesTest, ACompletedJobBringsItsExactBytesAndOneUpdate)
     EXPECT_EQ(jobAttribute(job, "job-name").value(0), q("Updating status ..."));
     EXPECT_EQ(jobAttribute(job, "document-name-supplied").value(0), q("CommandJob"));
     EXPECT_EQ(jobAttribute(job, "document-format-supplied").value(0), q("application/vnd.cups-command"));
-}
-
-TEST_F(CommandOutcomesTest, EveryOtherEndIsOneAbort)
-{
-    addQueue("Refusing", "reject");
-    addQueue("Stopped", "filter-fails");
-    addQueue("Held", "hold");
-    addQueue("Rejecting", "", {q("--rejecting")});
-    for (const char* queue : {"Refusing", "Stopped", "Held", "Rejecting", "Missing"}) {
-        const auto panel = outcomeOn(queue);
-        EXPECT_EQ(panel->aborts, 1) << queue;
-        EXPECT_EQ(panel->updates, 0) << queue;
-    }
 }
 
 TEST_F(CommandOutcomesTest, AnInterruptedSleepEndsTheWatchOfAPendingJob)

@@ -1,5 +1,4 @@
 #include "tests/panel_base/commands/command_panel.h"
-#include "tests/support/test.h"
 
 #include "platform/foundation/threads/work_queue.h"
 
@@ -35,18 +34,10 @@ int CommandPanel::activeJobIDForDesinationName(const QString& destination)
     return KSTRVLBasePDEHalvern::activeJobIDForDesinationName(destination);
 }
 
-std::unique_ptr<char[]> CommandPanel::copyForWatch(const std::optional<QString>& text)
-{
-    if (copiesLeft == 0)
-        return nullptr;
-    --copiesLeft;
-    return KSTRVLBasePDEHalvern::copyForWatch(text);
-}
-
 std::shared_ptr<CommandPanel> makeCommandPanel(const char* queue)
 {
     auto host = std::make_shared<FakeHost>();
-    host->printer = std::make_shared<Printer>(QString::fromLatin1(queue), q("halvern://virtual/test"));
+    host->printer = std::make_shared<Printer>(q(queue), q("halvern://virtual/test"));
     return makePanel<CommandPanel>(host);
 }
 

@@ -2,8 +2,6 @@
 
 #include "panel_base/base_panel.h"
 #include "platform/printing/jobs.h"
-#include "tests/support/fake_host.h"
-#include "tests/support/server_test.h"
 #include "tests/support/test.h"
 
 #include <atomic>
@@ -18,7 +16,6 @@ public:
     void ppdDidUpdate() override;
     void ppdUpdateDidAbort() override;
     int activeJobIDForDesinationName(const QString& destination) override;
-    std::unique_ptr<char[]> copyForWatch(const std::optional<QString>& text) override;
 
     bool isWatching() const { return bool(pdeUnloadSemaphore); }
 
@@ -27,8 +24,6 @@ public:
     std::atomic<int> updates = 0;
     std::atomic<int> aborts = 0;
     std::atomic<bool> hooksRanOnTheMainThread = false;
-    /// The number of copies for which there is memory; -1 for no limit.
-    int copiesLeft = -1;
     /// Runs once, while the queue's active job is asked for.
     std::function<void(CommandPanel&)> whileAsking;
     /// Runs in the hook, before the watch has ended.

@@ -1,12 +1,10 @@
 #include "platform/foundation/threads/semaphore.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
-#include "tests/support/test.h"
 
 #include <thread>
 
 namespace halvern {
-
 namespace {
 
 const QString kBailOut = q("bailing out of wait loop bc pde plugin unloaded.");
@@ -24,8 +22,6 @@ protected:
         EXPECT_NE(onlyJob(queue), 0);
         return panel;
     }
-
-    int position(const QString& line) const { return int(log.lines().indexOf(line)); }
 };
 
 TEST_F(CommandUnloadTest, HidingEndsTheWatchAndPurgesTheJobWithoutAHook)
@@ -43,20 +39,6 @@ TEST_F(CommandUnloadTest, HidingEndsTheWatchAndPurgesTheJobWithoutAHook)
     panel->sendPrinterCommands(kReportAndConfigure);
     EXPECT_TRUE(panel->isWatching());
     panel->shouldHide();
-}
-
-TEST_F(CommandUnloadTest, TheDialogLetsGoAtOnceAndThePanelGoesWithItsWatch)
-{
-    auto panel = panelWithPendingJob("LetGo");
-    const std::weak_ptr<CommandPanel> weak = panel;
-    panel->printWindowWillClose(false);
-    panel.reset();
-    EXPECT_EQ(log.count(q("entered dealloc in CommandPanel")), 0);
-    ASSERT_TRUE(waitForWorkQueues(1000 * kPatience));
-    EXPECT_TRUE(weak.expired());
-    EXPECT_TRUE(active("LetGo").isEmpty());
-    EXPECT_LT(position(kBailOut), position(q("entered dealloc in CommandPanel")));
-    EXPECT_EQ(log.count(q("continuing dealloc after waiting for unload semaphore")), 0);
 }
 
 TEST_F(CommandUnloadTest, ADestructionThatFindsTheWatchWaitsForItAndReleasesTheSemaphore)

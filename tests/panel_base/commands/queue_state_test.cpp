@@ -1,6 +1,5 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "tests/panel_base/commands/command_panel.h"
-#include "tests/support/test.h"
 
 #include <csignal>
 
@@ -46,23 +45,6 @@ TEST_F(QueueStateTest, StateReasonsAreTheQueuesListOrNothing)
     EXPECT_TRUE(reasons(*panel)->contains(q("cover-open")));
     EXPECT_TRUE(reasons(*panel)->contains(q("paused")));
     EXPECT_EQ(offMainThread([&] { return panel->statesForDestinationName(q("Unknown")); }), std::nullopt);
-}
-
-TEST_F(QueueStateTest, AServerThatHasStoppedAnsweringFailsTheCalls)
-{
-    const pid_t process = server->process();
-    ASSERT_GT(process, 1);
-    addQueue("Frozen", "slow=9999");
-    const int job = sendForeignJob("Frozen");
-    const std::chrono::seconds limit(1);
-    jobs::Server impatient(limit);
-    ASSERT_TRUE(waitUntil([&] { return impatient.jobs(q("Frozen"), jobs::Which::active).size() == 1; }));
-    ASSERT_EQ(kill(process, SIGSTOP), 0);
-    EXPECT_TRUE(impatient.jobs(q("Frozen"), jobs::Which::active).isEmpty());
-    EXPECT_LE(jobs::Server(limit).createJob(q("Frozen"), q("t")), 0);
-    ASSERT_EQ(kill(process, SIGCONT), 0);
-    // The same connection works again.
-    EXPECT_TRUE(waitUntil([&] { return impatient.cancelAndPurge(q("Frozen"), job); }));
 }
 
 } // namespace halvern

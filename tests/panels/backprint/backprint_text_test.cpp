@@ -29,7 +29,7 @@ TEST(BackprintTextTest, AllowsSpaceToClosingBraceAndTheCopyrightSignOnly)
 TEST(BackprintTextTest, SwapsCommasAndApostrophesBothWays)
 {
     const QString shown = q("Smith's, Inc.'s,");
-    const QString stored = QStringLiteral(u"Smith\u00e6s\u2264 Inc.\u00e6s\u2264");
+    const QString stored = q("Smith\u00e6s\u2264 Inc.\u00e6s\u2264");
     EXPECT_EQ(stringWithSafeCharacters(shown), stored);
     EXPECT_EQ(stringWithSafeCharacters(stored), stored);
     EXPECT_EQ(stringWithUnsafeCharacters(stored), shown);
@@ -60,33 +60,10 @@ TEST(BackprintTextTest, LimitsALineAndNeverLeavesABackslashAtItsEnd)
     }
 }
 
-TEST(BackprintTextTest, HoldsATypedTextToTheAlphabetAndTheLength)
-{
-    const struct {
-        QString text;
-        QString left;
-        bool refused;
-    } cases[] = {
-        {q("plain [MM]"), q("plain [MM]"), false},
-        {q("ab~cd"), q("ab"), true},
-        {run(120), run(120), false},
-        {run(125), run(120), true},
-        {run(120) + u' ', run(120), true},
-        // What the alphabet leaves may happen to be what was there, and is refused all the same.
-        {q("~a").repeated(60), q("~a").repeated(60), true},
-    };
-
-    for (const auto& row : cases) {
-        const TypedText typed = afterTyping(row.text, safeCharacters());
-        EXPECT_EQ(typed.text, row.left) << row.text.toStdString();
-        EXPECT_EQ(typed.refused, row.refused) << row.text.toStdString();
-    }
-}
-
 TEST(BackprintTextTest, AnEnteredLineIsTheOneThatSingleKeystrokesGive)
 {
-    const QStringList texts = {QStringLiteral(u"caf\u00e9, it's ~ \u00a9 \U0001F4F7 [YY]\\"),
-                               run(119) + q("~\\more"), q("")};
+    const QStringList texts = {q("caf\u00e9, it's ~ \u00a9 \U0001F4F7 [YY]\\"), run(119) + q("~\\more"),
+                               q("")};
     for (const QString& text : texts) {
         QString typed;
         for (const QChar character : text)
@@ -96,7 +73,7 @@ TEST(BackprintTextTest, AnEnteredLineIsTheOneThatSingleKeystrokesGive)
         EXPECT_EQ(line.stored, stringWithSafeCharacters(line.shown));
         EXPECT_EQ(typed.size() + line.refused.size() + line.beyondLimit, text.size());
     }
-    EXPECT_EQ(enteredLine(texts[0]).refused, QStringLiteral(u"\u00e9~\U0001F4F7"));
+    EXPECT_EQ(enteredLine(texts[0]).refused, q("\u00e9~\U0001F4F7"));
     EXPECT_EQ(enteredLine(texts[1]).beyondLimit, 4);
 }
 

@@ -1,7 +1,6 @@
 #include "platform/foundation/user_defaults.h"
 #include "platform/maker/backprint_text.h"
 #include "tests/panels/backprint/backprint_window.h"
-#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -33,7 +32,7 @@ protected:
 TEST_F(BackprintTokensTest, EveryTokenHasAReadableTitleInEveryLanguage)
 {
     for (const char* language : {"en_US", "de_DE", "fr_FR", "es_ES", "ja_JP"}) {
-        useBuiltBundle(QString::fromLatin1(language));
+        useBuiltBundle(q(language));
         close();
         open();
         ASSERT_EQ(menu()->count(), 10);
@@ -44,7 +43,7 @@ TEST_F(BackprintTokensTest, EveryTokenHasAReadableTitleInEveryLanguage)
             EXPECT_EQ(menu()->findText(menu()->itemText(i)), i) << language;
         }
     }
-    EXPECT_EQ(menu()->itemText(0), QStringLiteral(u"年（4桁）"));
+    EXPECT_EQ(menu()->itemText(0), q("年（4桁）"));
 }
 
 TEST_F(BackprintTokensTest, InsertsIntoTheFocusedLineAtItsCursorAndRemembersTheToken)
@@ -111,32 +110,6 @@ TEST_F(BackprintTokensTest, ASelectionThatCameWithTheFocusIsNotReplaced)
     find(257)->setFocus();
     QTest::keyClick(find(257), Qt::Key_Space);
     EXPECT_EQ(line(1)->text(), q("[U][U]"));
-}
-
-TEST_F(BackprintTokensTest, ATokenCountsAsTyped)
-{
-    paste(1, QString(118, u'x'));
-    choose("[YYYY]");
-    click(257);
-    EXPECT_EQ(line(1)->text(), QString(118, u'x') + q("[Y"));
-    EXPECT_EQ(beeps.count, 1);
-    EXPECT_EQ(stored("CVP1"), line(1)->text());
-}
-
-TEST_F(BackprintTokensTest, InsertsNothingWithoutALineOrAToken)
-{
-    dialogsField()->setFocus();
-    click(257);
-    type(1, q("a"));
-    menu()->setCurrentIndex(-1);
-    click(257);
-    click(512);
-    choose("[P]");
-    click(257);
-    EXPECT_EQ(line(1)->text(), q("a"));
-    EXPECT_EQ(line(2)->text(), QString());
-    EXPECT_FALSE(UserDefaults::standardUserDefaults().objectForKey(lastTokenKey).isValid());
-    EXPECT_EQ(beeps.count, 0);
 }
 
 TEST_F(BackprintTokensTest, FollowsTheFocusOnlyWhileShown)

@@ -1,15 +1,11 @@
 #include "tests/panels/backprint/backprint_window.h"
-#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
-#include <QVBoxLayout>
 
 namespace halvern {
-
 namespace {
 
 QString textOf(const QVariant& value)
@@ -69,12 +65,12 @@ void BackprintWindow::close()
 
 QString BackprintWindow::stored(const char* key)
 {
-    return textOf(panel->choices()->value(QString::fromLatin1(key)));
+    return textOf(panel->choices()->value(q(key)));
 }
 
 QString BackprintWindow::saved(const char* key)
 {
-    return textOf(host->settings->values().value(QString::fromLatin1(key)));
+    return textOf(host->settings->values().value(q(key)));
 }
 
 void BackprintWindow::type(int number, const QString& text)

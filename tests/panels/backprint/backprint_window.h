@@ -1,13 +1,7 @@
 #pragma once
 
 #include "panels/backprint/backprint_panel.h"
-#include "tests/support/fake_host.h"
 #include "tests/support/test.h"
-
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 
 namespace halvern {
 

@@ -1,18 +1,16 @@
 #include "tests/panels/features/features_fixture.h"
-#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/stepper.h"
 
 namespace halvern {
-
 namespace {
 
 using namespace features;
 
 QStringList margins(const char* text)
 {
-    return QString::fromUtf8(text).split(u',');
+    return q(text).split(u',');
 }
 
 class BindingRules : public FeaturesPanelTest {
@@ -92,12 +90,8 @@ TEST_F(BindingRules, StoreTheMarginAsThePaperLiesAndShowItAsThePageIsSeen)
 {
     turn(PageOrientation::reverseLandscape);
     choose(kTwoSidedTag, "LongEdge");
-    const LogCapture log;
     choose(kBindingMarginTag, "Bottom");
     EXPECT_EQ(choice("BindingMargin"), q("Right"));
-    EXPECT_GE(log.count(QStringLiteral(
-                  "flopping \"Binding Margin\" from \"Bottom\" to \"Right\" for \"Landscape\" orientation")),
-              1);
     panel->willShow();
     EXPECT_EQ(shownMargin(), q("Bottom"));
     panel->restoreValuesAndReturnError(nullptr);
@@ -117,50 +111,5 @@ TEST_F(BindingRules, TakeTheFirstMarginThatIsOfferedWhenTheChosenOneIsNot)
     EXPECT_EQ(choice("BindingMargin"), q("None"));
 }
 
-TEST_F(BindingRules, EndAtTheLastMarginWhenNoneIsOffered)
-{
-    QComboBox* popup = menu(kBindingMarginTag);
-    choose(kTwoSidedTag, "LongEdge");
-    for (const char* gone : {"Left", "Right"})
-        popup->removeItem(popup->findData(QString::fromLatin1(gone)));
-    host->willChangePPDOptionKeyValue_ppdChoice(q("BindingMargin"), q("Top"));
-    panel->didSelectTwoSided(nullptr);
-    EXPECT_EQ(choice("BindingMargin"), q("Bottom"));
-    while (popup->count() > 1)
-        popup->removeItem(0);
-    host->willChangePPDOptionKeyValue_ppdChoice(q("BindingMargin"), q("Bottom"));
-    panel->didSelectTwoSided(nullptr);
-    EXPECT_EQ(popup->currentIndex(), 0);
-}
-
-TEST_F(BindingRules, APageFormatThatCannotBeReadCountsAsPortrait)
-{
-    struct Broken : PageFormat {
-        int getOrientation(PageOrientation&) const override { return -1; }
-    };
-
-    host->format = std::make_shared<Broken>();
-    EXPECT_FALSE(panel->isLandscapeOrientation());
-    EXPECT_EQ(panel->bindingMarginForMargin_reverse(q("Top"), false), q("Top"));
-    host->format.reset();
-    EXPECT_FALSE(panel->isLandscapeOrientation());
-    EXPECT_FALSE(panel->paperIsTallerThanWide());
-}
-
-TEST_F(BindingRules, RecordAbilitiesAndTheDuplexSetting)
-{
-    const LogCapture log;
-    panel->setHardwareSupportsDuplex(false);
-    panel->setHardwareSupportsExtraFeatures(true);
-    EXPECT_EQ(panel->choice("VLXDuplex"), QVariant(false));
-    EXPECT_EQ(log.count(q("Setting Duplex capability ... this printer CANNOT duplex")), 1);
-    EXPECT_EQ(log.count(q("Setting Features capability ... this printer does have extra features.")), 1);
-    EXPECT_TRUE(panel->setDuplexEnabled(true));
-    EXPECT_EQ(host->settings->values().value(q("com.apple.print.PrintSettings.PMDuplexing")), QVariant(true));
-    host->settings.reset();
-    EXPECT_FALSE(panel->setDuplexEnabled(true));
-}
-
 } // namespace
-
 } // namespace halvern

@@ -1,10 +1,7 @@
 #include "tests/panels/features/features_fixture.h"
-#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 
-#include <QApplication>
-#include <QRadioButton>
 #include <QThread>
 
 namespace halvern {
@@ -65,7 +62,7 @@ void TestPrinter::say(const char* attribute, const char* value)
 {
     const std::scoped_lock lock(mutex_);
     if (value)
-        attributes_.insert(QString::fromLatin1(attribute), QString::fromUtf8(value));
+        attributes_.insert(QString::fromLatin1(attribute), q(value));
     else
         attributes_.remove(QString::fromLatin1(attribute));
 }
@@ -128,7 +125,7 @@ void FeaturesPanelTest::give(const PaperCatalogue& catalogue)
 void FeaturesPanelTest::choose(int tag, const char* value)
 {
     QComboBox* popup = menu(tag);
-    const int index = control::indexOfItemWithRepresentedObject(popup, QString::fromUtf8(value));
+    const int index = control::indexOfItemWithRepresentedObject(popup, q(value));
     ASSERT_GE(index, 0) << value;
     popup->setCurrentIndex(index);
     Q_EMIT popup->activated(index);

@@ -4,12 +4,7 @@
 #include "panels/features/features_tags.h"
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
-#include "tests/support/fake_host.h"
 #include "tests/support/test.h"
-
-#include <QComboBox>
-#include <QHash>
-#include <QLineEdit>
 
 #include <condition_variable>
 #include <mutex>
@@ -103,14 +98,11 @@ public:
     void sendPrinterCommands(const QStringList& commands) override { TestPrinter::take(commands); }
 
     // What the rules work on, for the tests to look at and to set.
-    QVariant choice(const char* key) const { return storedChoice(QString::fromLatin1(key)); }
+    QVariant choice(const char* key) const { return storedChoice(q(key)); }
 
     bool isUnloading() const { return pdePluginDidUnload; }
 
-    void store(const char* key, const char* value)
-    {
-        setChoice_forKey(QString::fromUtf8(value), QString::fromLatin1(key));
-    }
+    void store(const char* key, const char* value) { setChoice_forKey(q(value), q(key)); }
 };
 
 /// A panel on a host, with or without its view, as the dialog has it.

@@ -1,15 +1,12 @@
 #include "tests/panels/features/features_fixture.h"
-#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/stepper.h"
 
 #include <QGroupBox>
-#include <QToolButton>
 
 namespace halvern {
-
 namespace {
 
 using namespace features;
@@ -22,40 +19,6 @@ protected:
         choose(kFeedTag, "Roll");
     }
 };
-
-TEST_F(FeaturesLifecycle, TagsNameTheOptions)
-{
-    make();
-    EXPECT_EQ(panel->ppdOptionKeyForTag(323), q("Overspill"));
-    EXPECT_EQ(panel->ppdOptionKeyForTag(329), q("BindingWidth"));
-    EXPECT_EQ(panel->ppdOptionKeyForTag(10), q("TwoSided"));
-    for (const int tag : {-1, 0, 11, 32, 42, 0x40 + 3, 0x100 + 3})
-        EXPECT_FALSE(panel->ppdOptionKeyForTag(tag)) << tag;
-    const char* const cells[] = {"1", "2", "3", "4", "Real", "Resize", "Crop"};
-    for (int tag = 1; tag <= 7; ++tag) {
-        EXPECT_EQ(panel->ppdChoiceForTag(tag).toString(), QLatin1StringView(cells[tag - 1]));
-        EXPECT_EQ(panel->tagForStringValue(QString::fromLatin1(cells[tag - 1])), tag);
-    }
-    EXPECT_EQ(panel->tagForStringValue(1), 0) << "a number is no text";
-    EXPECT_EQ(panel->supportedPPDOptionKeys().join(u' '),
-              QStringLiteral(
-                  "PaperFeed PaperName PaperWidth PaperSurface Resolution PaperTone Overspill BindingMargin "
-                  "BindingWidth ResizeOption TwoSided Duplex HalvernLastResolution"));
-}
-
-TEST_F(FeaturesLifecycle, TheViewHasEveryControlWithItsNeighbours)
-{
-    show({});
-    for (int tag = 1; tag <= 10; ++tag) {
-        ASSERT_TRUE(control(tag)) << tag;
-        EXPECT_TRUE(control::isControl(control(tag))) << tag;
-        EXPECT_TRUE(panel->enclosingBoxForControl(control(tag))) << tag;
-        EXPECT_FALSE(control(tag)->accessibleName().isEmpty()) << tag;
-    }
-    EXPECT_EQ(field(kOverspillTag)->parentWidget(), stepper(kOverspillStepperTag)->parentWidget());
-    EXPECT_EQ(field(kBindingWidthTag)->parentWidget(), stepper(kBindingWidthStepperTag)->parentWidget());
-    EXPECT_FALSE(panel->enclosingBoxForControl(control(kStatusTag)));
-}
 
 TEST_F(FeaturesLifecycle, ANumberIsTakenWhenEditingEnds)
 {
@@ -87,16 +50,6 @@ TEST_F(FeaturesLifecycle, TheStepperMovesItsField)
     EXPECT_EQ(field(kOverspillTag)->text(), q("0.5"));
 }
 
-TEST_F(FeaturesLifecycle, StoringTheSameValueAgainTriggersNoRule)
-{
-    showRoll();
-    const LogCapture log;
-    panel->store("PaperFeed", "Roll");
-    EXPECT_EQ(log.count(q("setting PaperFeed to Roll")), 0);
-    panel->setChoice_forKey(QVariant(), q("ResizeOption"));
-    EXPECT_FALSE(panel->choice("ResizeOption").isValid());
-}
-
 TEST_F(FeaturesLifecycle, SavesWhatTheHostDoesNotCarry)
 {
     showRoll();
@@ -104,31 +57,8 @@ TEST_F(FeaturesLifecycle, SavesWhatTheHostDoesNotCarry)
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
     EXPECT_EQ(host->settings->values().value(q("BindingWidth")), q("7.5"));
     EXPECT_FALSE(host->settings->values().contains(q("Overspill")));
-
-    struct Locked : PrintSettings {
-        int setValue(const QString&, const QVariant&, bool) override { return kPrintingKeyLocked; }
-    };
-
-    host->settings = std::make_shared<Locked>();
-    const LogCapture log;
-    EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
-    const QString line = q("PDE got an error %1 setting the value for %2 !");
-    for (const QString& key : {q("PaperName"), q("BindingWidth")})
-        EXPECT_EQ(log.count(line.arg(QString::number(kPrintingKeyLocked), key)), 1);
     host->settings.reset();
     EXPECT_TRUE(panel->saveValuesAndReturnError(nullptr));
-}
-
-TEST_F(FeaturesLifecycle, RestoresTheHostsChoicesOntoTheControls)
-{
-    showRoll();
-    ASSERT_TRUE(ppd::mark(host->ppdFile(), q("PaperTone"), q("Sepia")));
-    host->settings->setValue(q("Overspill"), q("3.5"), false);
-    const BeepCounter beeps;
-    EXPECT_TRUE(panel->restoreValuesAndReturnError(nullptr));
-    EXPECT_EQ(menu(kToneTag)->currentText(), q("Sepia"));
-    EXPECT_EQ(field(kOverspillTag)->text(), q("3.5"));
-    EXPECT_EQ(beeps.count, 0);
 }
 
 TEST_F(FeaturesLifecycle, RestoreDefaultsTakesTheFirstLoadedName)
@@ -140,23 +70,6 @@ TEST_F(FeaturesLifecycle, RestoreDefaultsTakesTheFirstLoadedName)
     EXPECT_EQ(choice("PaperName"), q("A"));
     EXPECT_EQ(menu(kNameTag)->currentText(), q("A"));
     EXPECT_EQ(menu(kToneTag)->currentText(), q("Standard"));
-}
-
-TEST_F(FeaturesLifecycle, ALayoutThatDoesNotLoadIsTriedAgainAndHarmless)
-{
-    struct WithoutLayout : FeaturesPanelWithPrinter {
-        std::optional<QString> nibName() override { return q("NoSuchLayout"); }
-    };
-
-    auto bare = makePanel<WithoutLayout>(std::make_shared<FakeHost>(featuresPpd()));
-    ASSERT_TRUE(bare);
-    const LogCapture log;
-    EXPECT_FALSE(bare->panelView());
-    bare->willShow();
-    EXPECT_GE(log.count(q("Failed to load nib named NoSuchLayout")), 2);
-    const std::weak_ptr<WithoutLayout> weak = bare;
-    bare.reset();
-    EXPECT_TRUE(waitUntil([&] { return weak.expired(); }));
 }
 
 TEST_F(FeaturesLifecycle, SpeaksTheUsersLanguageButNotInTheTitlesThatTheRulesRead)
@@ -172,5 +85,4 @@ TEST_F(FeaturesLifecycle, SpeaksTheUsersLanguageButNotInTheTitlesThatTheRulesRea
 }
 
 } // namespace
-
 } // namespace halvern

@@ -1,13 +1,9 @@
 #include "tests/panels/features/features_fixture.h"
-#include "tests/support/test.h"
 
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/matrix.h"
 
-#include <QRadioButton>
-
 namespace halvern {
-
 namespace {
 
 using namespace features;
@@ -24,7 +20,7 @@ const QList<QVariantMap> kRolls{kNarrow1, kNarrow3, kWide2};
 
 QStringList words(const char* text)
 {
-    return QString::fromUtf8(text).split(u',', Qt::SkipEmptyParts);
+    return q(text).split(u',', Qt::SkipEmptyParts);
 }
 
 class PaperRules : public FeaturesPanelTest {};
@@ -83,18 +79,6 @@ TEST_F(PaperRules, FollowAPrinterWhosePapersChangeUnderAnOpenPanel)
 
     give({});
     EXPECT_TRUE(enabledTitles(kFeedTag).isEmpty());
-}
-
-TEST_F(PaperRules, DoNotRebuildTheMenusForAnIndexThatIsTheOneHeld)
-{
-    show(catalogueOf(kSheets + kRolls));
-    const LogCapture log;
-    give(catalogueOf(kSheets + kRolls));
-    EXPECT_EQ(log.count(q("entering -[RZFeaturesPDEHalvern updatePaperUI]")), 0);
-    EXPECT_EQ(titles(kNameTag), words("Gloss A4,Matte A3"));
-    EXPECT_EQ(titles(kWidthTag), words("152.4 mm,210 mm"));
-    EXPECT_EQ(control::itemTag(menu(kWidthTag), 0), kWidthTag);
-    EXPECT_EQ(menu(kNameTag)->currentData(), panel->choice("PaperName"));
 }
 
 TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
@@ -163,14 +147,6 @@ TEST_F(PaperRules, NeverFallBackToTheFirstResolution)
     EXPECT_EQ(choice("Resolution"), q("720dpi"));
 }
 
-TEST_F(PaperRules, LeaveTheResolutionOfASheetThatIsGoneAlone)
-{
-    show(catalogueOf({kGloss610}));
-    panel->store("PaperName", "Gone");
-    EXPECT_TRUE(enabledTitles(kResolutionTag).isEmpty());
-    EXPECT_EQ(choice("PaperName"), q("Gone"));
-}
-
 TEST_F(PaperRules, AlwaysOfferTheFirstResolutionOnARoll)
 {
     show(catalogueOf(kSheets + kRolls));
@@ -200,28 +176,9 @@ TEST_F(PaperRules, ReplaceAWidthThatIsNoLongerLoadedByTheOneSelected)
     show(catalogueOf(kSheets + kRolls));
     choose(kFeedTag, "Roll");
     choose(kWidthTag, "2100");
-    const LogCapture log;
     give(catalogueOf({kNarrow1, kNarrow3}));
     EXPECT_EQ(choice("PaperWidth"), q("1524"));
     EXPECT_EQ(asked("PaperWidth").last(), q("1524"));
-    EXPECT_EQ(log.count(QStringLiteral(
-                  "existing paper width of 2100 is not a valid selection; changing width to 1524")),
-              1);
-}
-
-TEST_F(PaperRules, CheckTheResolutionsOncePerStateOfTheChoices)
-{
-    show(catalogueOf(kSheets + kRolls));
-    choose(kFeedTag, "Sheet");
-    panel->store("BindingWidth", "17.3");
-    const QString entered = q("exiting -[RZFeaturesPDEHalvern enableResolutionsForPaper]");
-    const LogCapture log;
-    panel->didSelectNewPaper(nullptr);
-    panel->didSelectNewPaper(nullptr);
-    EXPECT_EQ(log.count(entered), 1);
-    panel->store("BindingWidth", "17.4");
-    panel->updateUI();
-    EXPECT_EQ(log.count(entered), 2);
 }
 
 TEST_F(PaperRules, OfferTheTonesOfTheLoadedPapers)
@@ -242,19 +199,6 @@ TEST_F(PaperRules, OfferTheTonesOfTheLoadedPapers)
     give(catalogueOf({sheetRecord(q("A"), 300, 0x100)}));
     EXPECT_FALSE(menu(kToneTag)->isEnabled());
     EXPECT_EQ(enabledTitles(kToneTag), words("Standard"));
-}
-
-TEST_F(PaperRules, FindTheRecordOfTheChoices)
-{
-    show(catalogueOf({sheetRecord(q("A"), 610, 5), rollRecord(1524, 3, 610, 9)}));
-    choose(kFeedTag, "Sheet");
-    EXPECT_EQ(panel->paperToneForStuff(), 5U);
-    choose(kFeedTag, "Roll");
-    choose(kWidthTag, "1524");
-    EXPECT_EQ(panel->paperToneForStuff(), 9U);
-    choose(kResolutionTag, "300dpi");
-    EXPECT_FALSE(panel->match());
-    EXPECT_EQ(panel->paperToneForStuff(), 0U);
 }
 
 TEST_F(PaperRules, RunWithoutAView)
@@ -285,16 +229,5 @@ TEST_F(PaperRules, RefuseTheSheetByValueUnderAnyKey)
     EXPECT_EQ(log.count(q("This printer does not support sheet printing")), 2);
 }
 
-TEST_F(PaperRules, EndWhenTheHostRefusesTheRollTooAndKeepsTheSheet)
-{
-    show(catalogueOf(kSheets + kRolls));
-    TestPrinter::say("VLXExtraFeatures", nullptr);
-    host->refusedKeys.insert(q("PaperFeed"));
-    const LogCapture log;
-    panel->store("PaperFeed", "Sheet");
-    EXPECT_EQ(log.count(q("This printer does not support sheet printing")), 1);
-}
-
 } // namespace
-
 } // namespace halvern

@@ -1,18 +1,14 @@
 #include "tests/panels/features/features_fixture.h"
-#include "tests/support/test.h"
 
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/jobs.h"
-#include "tests/support/private_cups.h"
 
-#include <QLabel>
 #include <QProgressBar>
 
 #include <semaphore>
 
 namespace halvern {
-
 namespace {
 
 using namespace features;
@@ -95,12 +91,6 @@ protected:
         return qobject_cast<QComboBox*>(shown.view_controlForTag(nullptr, tag));
     }
 
-    bool isJobRunning() const
-    {
-        const auto active = jobsOf(jobs::Which::active);
-        return active.size() == 1 && active.front().state == jobs::kProcessing;
-    }
-
     // Whether the panel goes, with all that it had queued.
     bool letGo()
     {
@@ -126,35 +116,6 @@ TEST_F(RefreshOnServer, TheJobsEndBringsThePapers)
     EXPECT_EQ(completed.front().state, jobs::kCompleted);
     EXPECT_EQ(commandFile(completed.front().id), "#CUPS-COMMAND\nReportStatus\nAutoConfigure\n");
     EXPECT_TRUE(waitUntil([&] { return panel->view_controlForTag(nullptr, kStatusTag)->isHidden(); }));
-}
-
-TEST_F(RefreshOnServer, HidingThePanelCancelsTheJob)
-{
-    open(q("?slow=9999"));
-    ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
-    EXPECT_TRUE(panel->isWaitingOnPaper());
-    EXPECT_TRUE(panel->shouldHide());
-    EXPECT_TRUE(waitUntil([&] { return jobsOf(jobs::Which::active).isEmpty(); }));
-    EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
-    EXPECT_TRUE(letGo());
-}
-
-TEST_F(RefreshOnServer, APanelThatGoesDuringTheJobLeavesNoneBehind)
-{
-    open(q("?slow=9999"));
-    ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
-    panel->printWindowWillClose(true);
-    EXPECT_TRUE(letGo());
-    EXPECT_TRUE(waitUntil([&] { return jobsOf(jobs::Which::active).isEmpty(); }));
-}
-
-TEST_F(RefreshOnServer, AServerThatGoesDuringTheJobEndsTheWaiting)
-{
-    open(q("?slow=9999"));
-    ASSERT_TRUE(waitUntil([&] { return isJobRunning(); }));
-    ASSERT_TRUE(server.stop());
-    EXPECT_TRUE(waitUntil([&] { return !panel->isWaitingOnPaper(); }));
-    EXPECT_FALSE(panel->view_controlForTag(nullptr, kStatusTag)->isHidden());
 }
 
 TEST_F(RefreshOnServer, NewsOfPapersReachesEveryOpenDialogAndOnlyChangesItsOwnPrinters)
@@ -188,21 +149,6 @@ TEST_F(RefreshOnServer, NewsOfPapersReachesEveryOpenDialogAndOnlyChangesItsOwnPr
     EXPECT_FALSE(other->unsortedPaper());
     EXPECT_TRUE(other->shouldHide());
     EXPECT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
-}
-
-TEST_F(RefreshOnServer, ACatalogueThatBecomesCorruptLeavesThePapersAsTheyWere)
-{
-    open(QString());
-    ASSERT_TRUE(waitUntil([&] { return names() && names()->count() == 1; }));
-    ASSERT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
-    addQueue(q("Photo"), q("?garbled"));
-    const auto held = panel->unsortedPaper();
-    const LogCapture log;
-    printerPapers({q("report")});
-    EXPECT_TRUE(waitUntil([&] { return log.count(q("PDE recovered 0 Tessarin Papers")) > 0; }));
-    EXPECT_TRUE(waitUntil([] { return waitForWorkQueues(0); }));
-    EXPECT_EQ(panel->unsortedPaper(), held);
-    EXPECT_EQ(names()->count(), 1);
 }
 
 /// The steps of a refresh, in order: each is reached on a background queue.
@@ -309,5 +255,4 @@ INSTANTIATE_TEST_SUITE_P(AtEachStep, RefreshInterrupted,
                          testing::Values(Step::check, Step::send, Step::create, Step::watch, Step::reread));
 
 } // namespace
-
 } // namespace halvern
