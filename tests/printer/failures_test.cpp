@@ -1,11 +1,8 @@
 #include "tests/printer/print_job.h"
-#include "tests/support/server_test.h"
-#include "tests/support/test.h"
 
 #include <cups/cups.h>
 
 namespace halvern {
-
 namespace {
 
 /// Each test sets up queues of its own, with faults.
@@ -77,30 +74,5 @@ TEST_F(FailuresTest, AStoppedPrinterKeepsTheWholePagesAndPrintsAgainWhenRestarte
     EXPECT_EQ(files(job).size(), 4);
 }
 
-// Living processes with the text in their command line: a back end's first word is its device URI.
-int processesWith(const QByteArray& text)
-{
-    int found = 0;
-    for (const QString& pid : QDir(q("/proc")).entryList(QDir::Dirs)) {
-        QFile file(q("/proc/%1/cmdline").arg(pid));
-        found += file.open(QIODevice::ReadOnly) && file.readAll().contains(text) ? 1 : 0;
-    }
-    return found;
-}
-
-TEST_F(FailuresTest, StoppingTheServerEndsTheProcessesOfAJobThatIsPrinting)
-{
-    PrivateCups own;
-    const QByteArray uri =
-        "halvern://virtual/" + QByteArray::number(QCoreApplication::applicationPid()) + "?slow=9999";
-    ASSERT_TRUE(own.addQueue(q("Busy"), QString(), QString::fromLatin1(uri)));
-    const int job = printPages("Busy", 1);
-    ASSERT_TRUE(waitUntil([&] { return QFile::exists(own.jobFile(job, q("page-1.png.part"))); }));
-    ASSERT_EQ(processesWith(uri), 1);
-    EXPECT_TRUE(own.stop()) << own.error().toStdString();
-    EXPECT_EQ(processesWith(uri), 0);
-}
-
 } // namespace
-
 } // namespace halvern

@@ -5,7 +5,6 @@
 #include <cmath>
 
 namespace halvern {
-
 namespace {
 
 struct OptionsCase {
@@ -68,5 +67,4 @@ TEST(FaultPlanTest, NamesTheParameterThatIsWrong)
 }
 
 } // namespace
-
 } // namespace halvern

@@ -4,7 +4,6 @@
 #include <cstdio>
 
 namespace halvern {
-
 namespace {
 
 struct FileCloser {
@@ -73,16 +72,5 @@ TEST(PageStreamTest, AStreamThatIsCutOffAnywhereIsAFault)
         EXPECT_NE(faultOf(whole.substr(0, length)), "") << length;
 }
 
-TEST(PageStreamTest, RefusesWhatIsNotItsOwn)
-{
-    for (const char* bytes :
-         {"RaS2 and so on\n", "HALVERN-PAGES 2\nEND 0\n", "HALVERN-PAGES 1\nWHAT 0\n",
-          "HALVERN-PAGES 1\nOPTION 99999999999\n", "HALVERN-PAGES 1\nOPTION -1\n",
-          "HALVERN-PAGES 1\nOPTION 1\nx", "HALVERN-PAGES 1\nPAGE 27\n1 front picture 0 2 300 300",
-          "HALVERN-PAGES 1\nPAGE 34\n1 front picture 4000000000 2 300 300"})
-        EXPECT_NE(faultOf(bytes), "") << bytes;
-}
-
 } // namespace
-
 } // namespace halvern

@@ -2,7 +2,6 @@
 #include "platform/printing/ppd.h"
 #include "printer/papers/paper_list.h"
 #include "printer/papers/ppd_archive.h"
-#include "tests/support/server_test.h"
 #include "tests/support/test.h"
 
 namespace halvern {
@@ -56,8 +55,7 @@ TEST_F(PapersReportTest, WhatIsLoadedChangesWhileThePrinterRuns)
     change({q("take-out"), q("sheets")});
     // Of the longer report that was there nothing remains.
     EXPECT_TRUE(reports([&](const QVariantMap& papers) {
-        return !papers.isEmpty() && papers.size() < all.size() &&
-               papers.firstKey().startsWith(QLatin1Char('w'));
+        return !papers.isEmpty() && papers.size() < all.size() && papers.firstKey().startsWith(u'w');
     }));
     change({q("take-out"), q("all")});
     EXPECT_TRUE(reports([](const QVariantMap& papers) { return papers.isEmpty(); }));

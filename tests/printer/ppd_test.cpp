@@ -1,5 +1,4 @@
 #include "platform/printing/cups_ppd.h"
-#include "tests/support/private_cups.h"
 #include "tests/support/test.h"
 
 #include <QRegularExpression>
@@ -8,7 +7,6 @@
 #include <span>
 
 namespace halvern {
-
 namespace {
 
 struct PpdCloser {
@@ -54,19 +52,6 @@ TEST(TessarinPpd, PassesTheConformanceTestWithItsFiltersInPlace)
     EXPECT_EQ(warnings.toStdString(), "");
 }
 
-TEST(TessarinPpd, ItsDefaultsAgreeWithEachOther)
-{
-    const Ppd ppd = openTessarin();
-    ASSERT_TRUE(ppd);
-    EXPECT_EQ(ppdConflicts(ppd.get()), 0);
-    for (const ppd_option_t* option = ppdFirstOption(ppd.get()); option != nullptr;
-         option = ppdNextOption(ppd.get())) {
-        // Marking a page size unmarks the page region.
-        const bool marked = ppdFindMarkedChoice(ppd.get(), option->keyword) != nullptr;
-        EXPECT_TRUE(marked || std::string_view(option->keyword) == "PageRegion") << option->keyword;
-    }
-}
-
 struct Clash {
     Marks before;
     const char* option;
@@ -75,47 +60,41 @@ struct Clash {
     std::optional<Marks> expected;
 };
 
-class TessarinConstraint : public testing::TestWithParam<Clash> {};
-
-TEST_P(TessarinConstraint, BitesAndIsResolved)
+TEST(TessarinPpd, ItsConstraintsBiteAndAreResolved)
 {
-    const Clash& clash = GetParam();
-    const Ppd before = openTessarin(clash.before);
-    ASSERT_EQ(ppdConflicts(before.get()), 0);
-    Marks marks = clash.before;
-    marks[clash.option] = clash.choice;
-    EXPECT_GT(ppdConflicts(openTessarin(marks).get()), 0);
-
-    const auto changes = resolve(before.get(), clash.option, clash.choice);
-    ASSERT_EQ(changes.has_value(), clash.expected.has_value());
-    if (!changes)
-        return;
-    for (const auto& [option, choice] : *clash.expected)
-        EXPECT_EQ(changes->count(option) != 0 ? changes->at(option) : "", choice) << option;
-    for (const auto& [option, choice] : *changes)
-        marks[option] = choice;
-    EXPECT_EQ(marks[clash.option], clash.choice);
-    EXPECT_EQ(ppdConflicts(openTessarin(marks).get()), 0);
-}
-
-const Marks kOnRoll = {{"PaperFeed", "Roll"}, {"PageSize", "Roll1524x1016"}};
-
-INSTANTIATE_TEST_SUITE_P(
-    Pairs, TessarinConstraint,
-    testing::Values(
+    const Marks onRoll = {{"PaperFeed", "Roll"}, {"PageSize", "Roll1524x1016"}};
+    const Clash clashes[] = {
         Clash{{{"TwoSided", "LongEdge"}}, "PaperFeed", "Roll", Marks{{"TwoSided", "None"}}},
         Clash{{{"PaperFeed", "Roll"}}, "TwoSided", "ShortEdge", Marks{{"PaperFeed", "Sheet"}}},
         Clash{{{"PaperFeed", "Roll"}}, "Duplex", "DuplexTumble", Marks{{"PaperFeed", "Sheet"}}},
-        Clash{kOnRoll, "TwoSided", "LongEdge", std::nullopt},
-        Clash{kOnRoll, "PaperFeed", "Sheet", Marks{{"PageSize", "4x6"}}},
-        Clash{kOnRoll, "PaperWidth", "1270", Marks{{"PageSize", "Roll1270x1778"}}},
+        Clash{onRoll, "TwoSided", "LongEdge", std::nullopt},
+        Clash{onRoll, "PaperFeed", "Sheet", Marks{{"PageSize", "4x6"}}},
+        Clash{onRoll, "PaperWidth", "1270", Marks{{"PageSize", "Roll1270x1778"}}},
         Clash{{}, "PageSize", "Roll2032x2540", Marks{{"PaperFeed", "Roll"}, {"PaperWidth", "2032"}}},
         Clash{{{"TwoSided", "LongEdge"}}, "PageSize", "Roll1524x1016", Marks{{"TwoSided", "None"}}},
         Clash{{{"TwoSided", "LongEdge"}}, "PaperSurface", "4", Marks{{"TwoSided", "None"}}},
         Clash{{{"BindingMargin", "Left"}}, "PageSize", "4x6.Fullbleed", Marks{{"BindingMargin", "None"}}},
         Clash{{{"PageSize", "4x6.Fullbleed"}}, "PaperName", "FineArt102x152", Marks{{"PageSize", "4x6"}}},
-        Clash{{{"TwoSided", "LongEdge"}}, "EnableCVP1", "True", Marks{{"TwoSided", "None"}}}));
+        Clash{{{"TwoSided", "LongEdge"}}, "EnableCVP1", "True", Marks{{"TwoSided", "None"}}}};
+    for (const Clash& clash : clashes) {
+        SCOPED_TRACE(std::string(clash.option) + '=' + clash.choice);
+        const Ppd before = openTessarin(clash.before);
+        ASSERT_EQ(ppdConflicts(before.get()), 0);
+        Marks marks = clash.before;
+        marks[clash.option] = clash.choice;
+        EXPECT_GT(ppdConflicts(openTessarin(marks).get()), 0);
+        const auto changes = resolve(before.get(), clash.option, clash.choice);
+        ASSERT_EQ(changes.has_value(), clash.expected.has_value());
+        if (!changes)
+            continue;
+        for (const auto& [option, choice] : *clash.expected)
+            EXPECT_EQ(changes->count(option) != 0 ? changes->at(option) : "", choice) << option;
+        for (const auto& [option, choice] : *changes)
+            marks[option] = choice;
+        EXPECT_EQ(marks[clash.option], clash.choice);
+        EXPECT_EQ(ppdConflicts(openTessarin(marks).get()), 0);
+    }
+}
 
 } // namespace
-
 } // namespace halvern

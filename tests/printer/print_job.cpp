@@ -1,21 +1,13 @@
 #include "tests/printer/print_job.h"
-#include "tests/support/test.h"
+#include "platform/printing/cups_connection.h"
 
-#include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 
 #include <cups/cups.h>
 
 namespace halvern {
-
 namespace {
-
-struct IppDeleter {
-    void operator()(ipp_t* message) const { ippDelete(message); }
-};
-
-using Ipp = std::unique_ptr<ipp_t, IppDeleter>;
 
 ipp_t* newRequest(ipp_op_t operation, const char* target, const std::string& uri)
 {
@@ -44,7 +36,7 @@ int printFile(const char* queue, const QString& file, const char* format, const 
             ippAddString(request, IPP_TAG_JOB, IPP_TAG_TEXT, key.c_str(), nullptr, value.c_str());
     }
     const std::string resource = std::string("/printers/") + queue;
-    const Ipp response(
+    const cups::Ipp response(
         cupsDoFileRequest(CUPS_HTTP_DEFAULT, request, resource.c_str(), QFile::encodeName(file).constData()));
     ipp_attribute_t* id = ippFindAttribute(response.get(), "job-id", IPP_TAG_INTEGER);
     return id == nullptr ? 0 : ippGetInteger(id, 0);
@@ -54,7 +46,7 @@ int jobState(int job)
 {
     ipp_t* request =
         newRequest(IPP_OP_GET_JOB_ATTRIBUTES, "job-uri", "ipp://localhost/jobs/" + std::to_string(job));
-    const Ipp response(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/jobs"));
+    const cups::Ipp response(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/jobs"));
     ipp_attribute_t* state = ippFindAttribute(response.get(), "job-state", IPP_TAG_ENUM);
     return state == nullptr ? 0 : ippGetInteger(state, 0);
 }
@@ -66,7 +58,7 @@ bool reaches(int job, int state)
 
 QueueState queueState(const char* queue)
 {
-    const Ipp response(cupsDoRequest(
+    const cups::Ipp response(cupsDoRequest(
         CUPS_HTTP_DEFAULT, newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, "printer-uri", queueUri(queue)), "/"));
     QueueState found;
     if (ipp_attribute_t* state = ippFindAttribute(response.get(), "printer-state", IPP_TAG_ENUM))
@@ -77,14 +69,6 @@ QueueState queueState(const char* queue)
     if (ipp_attribute_t* message = ippFindAttribute(response.get(), "printer-state-message", IPP_TAG_TEXT))
         found.message = QString::fromUtf8(ippGetString(message, 0, nullptr));
     return found;
-}
-
-QString makePhoto(const QString& file)
-{
-    QImage photo(400, 600, QImage::Format_RGB32);
-    photo.fill(Qt::blue);
-    photo.save(file);
-    return file;
 }
 
 QString makePdf(const QString& file, int pages)

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <QStringList>
+#include "tests/support/test.h"
 
 #include <string>
 #include <utility>
@@ -30,8 +28,7 @@ struct QueueState {
 
 QueueState queueState(const char* queue);
 
-/// Documents with a blue area that fills them: a photo as JPEG or PNG (by the file's name), and a PDF.
-QString makePhoto(const QString& file);
+/// A document with a blue area that fills its pages.
 QString makePdf(const QString& file, int pages);
 
 } // namespace halvern

@@ -1,13 +1,8 @@
 #include "tests/printer/print_job.h"
-#include "tests/support/server_test.h"
-#include "tests/support/test.h"
-
-#include <QImage>
 
 #include <cups/cups.h>
 
 namespace halvern {
-
 namespace {
 
 /// One queue for all its tests, and a folder for documents.
@@ -39,26 +34,25 @@ protected:
 
 TEST_F(PrintingTest, EachKindOfDocumentBecomesWholeSheetsInTheRastersPixels)
 {
-    struct Case {
+    const struct {
         QString file;
         const char* format;
         TextOptions options;
         QSize size;
         int dotsPerMetre;
-    };
-
-    const Case cases[] = {
-        {makePhoto(document("a.jpg")), "image/jpeg", {}, {1200, 1800}, 11811},
-        {makePhoto(document("b.png")), "image/png", {{"PageSize", "Postcard"}}, {1181, 1748}, 11811},
+    } cases[] = {
+        {makeTestPhoto(document("a.jpg")), "image/jpeg", {}, {1200, 1800}, 11811},
+        {makeTestPhoto(document("b.png")), "image/png", {{"PageSize", "Postcard"}}, {1181, 1748}, 11811},
         {makePdf(document("c.pdf"), 1), "application/pdf", {{"Resolution", "360dpi"}}, {1440, 2160}, 14173},
         {makePdf(document("d.pdf"), 1),
          "application/pdf",
          {{"PaperFeed", "Roll"}, {"PageSize", "Roll1270x1270"}, {"Resolution", "610dpi"}},
          {3050, 3050},
          24016},
-        {makePhoto(document("e.jpg")), "image/jpeg", {{"ColorModel", "Gray"}}, {1200, 1800}, 11811},
+        {makeTestPhoto(document("e.jpg")), "image/jpeg", {{"ColorModel", "Gray"}}, {1200, 1800}, 11811},
     };
-    for (const Case& one : cases) {
+
+    for (const auto& one : cases) {
         const int job = print(one.file, one.format, one.options);
         EXPECT_EQ(pages(job), QStringList{q("page-1.png")});
         const QImage page(server->jobFile(job, q("page-1.png")));
@@ -105,15 +99,9 @@ TEST_F(PrintingTest, OptionsArriveByteForByteWhetherThePpdListsThemOrNot)
         {"CVP1", longLine},
     };
     const auto received =
-        server->receivedOptions(print(makePhoto(document("a.jpg")), "image/jpeg", sent)).value();
+        server->receivedOptions(print(makeTestPhoto(document("a.jpg")), "image/jpeg", sent)).value();
     for (const auto& [key, value] : sent)
         EXPECT_EQ(received.at(QString::fromStdString(key)).toStdString(), value) << key;
-    for (const char* line : {"{", "{a=b c}", "it's \"so\\", "\\", "\\ \\\\ ", "noCVP1", " ", "<&>%41$x;|"}) {
-        const auto got = server->receivedOptions(
-            print(makePhoto(document("a.jpg")), "image/jpeg", {{"EnableCVP1", "False"}, {"CVP1", line}}));
-        EXPECT_EQ(got.value().at(q("CVP1")).toStdString(), line);
-        EXPECT_EQ(got.value().at(q("EnableCVP1")), q("False"));
-    }
 }
 
 TEST_F(PrintingTest, TwoSidedPagesShareASheetByEitherOption)
@@ -125,6 +113,19 @@ TEST_F(PrintingTest, TwoSidedPagesShareASheetByEitherOption)
     }
 }
 
+TEST_F(PrintingTest, TheSheetsOfAJobsSecondDocumentFollowThoseOfTheFirst)
+{
+    const QByteArray pdf = readFile(makePdf(document("two.pdf"), 2));
+    const int job = cupsCreateJob(CUPS_HTTP_DEFAULT, "Tessarin", "test", 0, nullptr);
+    for (const int isLast : {0, 1}) {
+        cupsStartDocument(CUPS_HTTP_DEFAULT, "Tessarin", job, "two", CUPS_FORMAT_PDF, isLast);
+        cupsWriteRequestData(CUPS_HTTP_DEFAULT, pdf.constData(), size_t(pdf.size()));
+        EXPECT_EQ(cupsFinishDocument(CUPS_HTTP_DEFAULT, "Tessarin"), IPP_STATUS_OK);
+    }
+    ASSERT_TRUE(reaches(job, IPP_JSTATE_COMPLETED));
+    EXPECT_EQ(pages(job).size(), 4);
+}
+
 TEST_F(PrintingTest, EachCopyIsASheetWithItsBackprint)
 {
     const TextOptions options = {{"copies", "2"}, {"EnableCVP1", "True"}, {"CVP1", "Summer 2026"}};
@@ -134,5 +135,4 @@ TEST_F(PrintingTest, EachCopyIsASheetWithItsBackprint)
 }
 
 } // namespace
-
 } // namespace halvern

@@ -1,10 +1,6 @@
-#include "tests/support/private_cups.h"
 #include "tests/support/test.h"
 
-#include <QProcess>
-
 namespace halvern {
-
 namespace {
 
 QStringList start(const QString& dir)
@@ -25,7 +21,7 @@ QStringList addQueue(const QString& dir, const QString& name)
 QStringList queuesAt(const QByteArray& server)
 {
     const ProgramResult lpstat = runProgram(q("lpstat"), {q("-h"), QString::fromUtf8(server), q("-e")});
-    return lpstat.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return lpstat.output.split(u'\n', Qt::SkipEmptyParts);
 }
 
 TEST(PrivateCupsScript, ServersInFoldersWithDifficultNamesWorkSideBySide)
@@ -95,5 +91,4 @@ TEST(PrivateCupsScript, SaysWhatIsWrongAndPrintsNoEnvironment)
 }
 
 } // namespace
-
 } // namespace halvern

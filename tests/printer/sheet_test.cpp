@@ -7,7 +7,6 @@
 #include <algorithm>
 
 namespace halvern {
-
 namespace {
 
 cups_page_header2_t rasterHeader()
@@ -26,16 +25,6 @@ cups_page_header2_t rasterHeader()
     header.cupsColorSpace = CUPS_CSPACE_RGB;
     header.cupsBytesPerLine = 21;
     return header;
-}
-
-TEST(SheetLayoutTest, GrayRowsBecomeColorRowsWithWhiteBesideThem)
-{
-    cups_page_header2_t header = rasterHeader();
-    header.cupsColorSpace = CUPS_CSPACE_K;
-    header.cupsWidth = header.cupsBytesPerLine = 2;
-    std::vector<uint8_t> row(12, 7);
-    placeRow(header, {4, 8, 1, 0}, std::vector<uint8_t>{0, 255}, row);
-    EXPECT_EQ(row, (std::vector<uint8_t>{255, 255, 255, 255, 255, 255, 0, 0, 0, 255, 255, 255}));
 }
 
 TEST(SheetLayoutTest, RefusesRastersThatThePrinterCannotTake)
@@ -86,5 +75,4 @@ TEST(BackTextTest, ALongLineIsPrintedWhollyBetweenTheEdges)
 }
 
 } // namespace
-
 } // namespace halvern

@@ -1,11 +1,6 @@
 #include "tests/end_to_end/backprint/back_of_picture.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QImage>
-
 namespace halvern {
-
 namespace {
 
 // Not the resolution that the printer takes by itself: an option that gets lost on the way shows.
@@ -27,7 +22,7 @@ int inkInRow(const QImage& page, int row)
 // The Tessarin's PPD without the options of the Backprint page.
 bool writePlainPpd(const QString& path)
 {
-    QFile whole(QStringLiteral(HALVERN_TESSARIN_PPD));
+    QFile whole(q(HALVERN_TESSARIN_PPD));
     QFile plain(path);
     if (!whole.open(QIODevice::ReadOnly) || !plain.open(QIODevice::WriteOnly))
         return false;
@@ -50,20 +45,16 @@ void BackOfPicture::SetUpTestSuite()
     qputenv("HOME", folder.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     ServerTest::SetUpTestSuite();
-    ASSERT_TRUE(server->addQueue(QStringLiteral("Tessarin"), {}, {}, {QStringLiteral("--default")}))
-        << qPrintable(server->error());
-    const QString plain = folder.filePath(QStringLiteral("plain.ppd"));
-    ASSERT_TRUE(writePlainPpd(plain) && server->addQueue(QStringLiteral("Plain"), plain))
-        << qPrintable(server->error());
-    QImage image(300, 200, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    ASSERT_TRUE(image.save(photo()));
+    ASSERT_TRUE(server->addQueue(q("Tessarin"), {}, {}, {q("--default")})) << qPrintable(server->error());
+    const QString plain = folder.filePath(q("plain.ppd"));
+    ASSERT_TRUE(writePlainPpd(plain) && server->addQueue(q("Plain"), plain)) << qPrintable(server->error());
+    makeTestPhoto(photo());
 }
 
 std::optional<QString> BackOfPicture::received(int job, const char* key)
 {
     const auto options = server->receivedOptions(job);
-    const auto found = options ? options->find(QString::fromLatin1(key)) : decltype(options->end())();
+    const auto found = options ? options->find(q(key)) : decltype(options->end())();
     return options && found != options->end() ? std::optional(found->second) : std::nullopt;
 }
 
@@ -71,9 +62,9 @@ QStringList BackOfPicture::receivedLines(int job)
 {
     QStringList lines;
     for (const char* const key : {"CVP1", "CVP2"}) {
-        const bool isOn = received(job, QByteArray("Enable") + key) == QStringLiteral("True");
+        const bool isOn = received(job, QByteArray("Enable") + key) == q("True");
         QString line = received(job, key).value_or(QString());
-        line.replace(QChar(0x2264), QLatin1Char(',')).replace(QChar(0x00E6), QLatin1Char('\''));
+        line.replace(QChar(0x2264), u',').replace(QChar(0x00E6), u'\'');
         if (isOn && !line.isEmpty())
             lines.append(line);
     }
@@ -83,8 +74,8 @@ QStringList BackOfPicture::receivedLines(int job)
 void BackOfPicture::expectBack(int job, const QStringList& lines)
 {
     EXPECT_EQ(receivedLines(job), lines);
-    EXPECT_TRUE(QFileInfo::exists(server->jobFile(job, QStringLiteral("page-1.png"))));
-    const QString file = server->jobFile(job, QStringLiteral("page-1-back.png"));
+    EXPECT_TRUE(QFileInfo::exists(server->jobFile(job, q("page-1.png"))));
+    const QString file = server->jobFile(job, q("page-1-back.png"));
     ASSERT_EQ(QFileInfo::exists(file), !lines.isEmpty());
     if (lines.isEmpty())
         return;
@@ -98,14 +89,14 @@ QString longestLine()
 {
     QString line;
     while (line.size() < 119)
-        line += line.size() % 2 ? QLatin1Char('\'') : QLatin1Char(',');
-    return line + QLatin1Char('\\');
+        line += line.size() % 2 ? u'\'' : u',';
+    return line + u'\\';
 }
 
 QString longestLineStored()
 {
-    QString line = longestLine() + QLatin1Char(' ');
-    return line.replace(QLatin1Char(','), QChar(0x2264)).replace(QLatin1Char('\''), QChar(0x00E6));
+    QString line = longestLine() + u' ';
+    return line.replace(u',', QChar(0x2264)).replace(u'\'', QChar(0x00E6));
 }
 
 } // namespace halvern

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dialog/server/saved_options.h"
-#include "tests/support/server_test.h"
+#include "tests/support/test.h"
 
 namespace halvern {
 
@@ -11,9 +11,9 @@ class BackOfPicture : public ServerTest {
 protected:
     static void SetUpTestSuite();
 
-    static OptionValue resolution() { return {QStringLiteral("Resolution"), QStringLiteral("360dpi")}; }
+    static OptionValue resolution() { return {q("Resolution"), q("360dpi")}; }
 
-    static QString photo() { return folder.filePath(QStringLiteral("photo.png")); }
+    static QString photo() { return folder.filePath(q("photo.png")); }
 
     /// What the printer's filter received for the option; nothing if it received none.
     static std::optional<QString> received(int job, const char* key);

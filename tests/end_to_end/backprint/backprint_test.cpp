@@ -2,13 +2,7 @@
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/message_bar.h"
 #include "tests/end_to_end/backprint/back_of_picture.h"
-#include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
-#include "tests/support/text.h"
-
-#include <QFile>
-#include <QProcess>
-#include <QTest>
 
 namespace halvern {
 
@@ -42,20 +36,19 @@ protected:
 
 TEST_F(BackprintInDialog, TypedLinesArriveByteForByteAndArePrintedAsTheyWereTyped)
 {
-    struct Case {
+    const struct {
         QString typed[2];
         QString stored[2];
         QStringList printed;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {{longestLine(), q("true")}, {longestLineStored(), q("true")}, {longestLine() + q(" "), q("true")}},
         {{q("{[YYYY] Resolution=300dpi"), q("She \"said\"  'it\\'s', a=b \\")},
          {q("{[YYYY] Resolution=300dpi"), q("She \"said\"  æit\\æsæ≤ a=b \\ ")},
          {q("{[YYYY] Resolution=300dpi"), q("She \"said\"  'it\\'s', a=b \\ ")}},
     };
+
     open({q("Tessarin"), {resolution()}, {photo()}});
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(qPrintable(c.typed[0]));
         for (int number : {2, 1})
             type(number, c.typed[number - 1]);
@@ -91,7 +84,9 @@ TEST_F(BackprintInDialog, WhatTheUserAndTheQueueHaveSavedIsShownAndPrinted)
     ASSERT_TRUE(saved.open(QIODevice::WriteOnly));
     saved.write("Dest Tessarin EnableCVP1=True CVP1=Lisbon\\ 2024≤\\ day\\ 1 DebugLog=True\n");
     saved.close();
-    ASSERT_EQ(QProcess::execute(q("lpadmin"), {q("-p"), q("Tessarin"), q("-o"), q("CVP2-default=Queue")}), 0);
+    ASSERT_EQ(QProcess::execute(q("lpadmin"), {q("-p"), q("Tessarin"), q("-o"), q("CVP1-default=Not this"),
+                                               q("-o"), q("CVP2-default=Queue")}),
+              0);
     open({q("Tessarin"), {{q("EnableCVP2"), q("True")}, resolution()}, {photo()}});
     EXPECT_EQ(line(1)->text(), q("Lisbon 2024, day 1"));
     EXPECT_TRUE(line(1)->isEnabled());
@@ -103,7 +98,9 @@ TEST_F(BackprintInDialog, WhatTheUserAndTheQueueHaveSavedIsShownAndPrinted)
     EXPECT_EQ(received(job, "EnableCVP1"), q("False")) << "the click is later than what was saved";
     expectBack(job, {q("Queue")});
     EXPECT_TRUE(saved.remove());
-    ASSERT_EQ(QProcess::execute(q("lpadmin"), {q("-p"), q("Tessarin"), q("-R"), q("CVP2-default")}), 0);
+    ASSERT_EQ(QProcess::execute(q("lpadmin"), {q("-p"), q("Tessarin"), q("-R"), q("CVP1-default"), q("-R"),
+                                               q("CVP2-default")}),
+              0);
 }
 
 TEST_F(BackprintInDialog, ALineGivenToTheProgramStandsInThePage)

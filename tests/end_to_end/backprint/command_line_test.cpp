@@ -1,16 +1,14 @@
 // Lines given to halvern-print as a process.
 #include "tests/end_to_end/backprint/back_of_picture.h"
-#include "tests/support/text.h"
 
 #include <QRegularExpression>
 
 namespace halvern {
-
 namespace {
 
 ProgramResult runPrint(const QStringList& arguments)
 {
-    return runProgram(QStringLiteral(HALVERN_PRINT_PROGRAM), arguments);
+    return runProgram(q(HALVERN_PRINT_PROGRAM), arguments);
 }
 
 int jobOf(const ProgramResult& ended)
@@ -36,15 +34,14 @@ TEST_F(BackprintByProgram, PrintsTheLinesAsIfTheyHadBeenTyped)
 
 TEST_F(BackprintByProgram, SaysWhatALineCannotHold)
 {
-    const QString text = q("Café ~ œuvre\n") + QString(130, QLatin1Char('x'));
+    const QString text = q("Café ~ œuvre\n") + QString(130, u'x');
     const ProgramResult ended =
         runPrint({q("--dry-run"), q("--backprint"), q("fine"), q("--backprint"), text, photo()});
     EXPECT_EQ(ended.status, 0);
-    const QStringList lines = ended.output.split(QLatin1Char('\n'));
+    const QStringList lines = ended.output.split(u'\n');
     EXPECT_TRUE(lines.contains(q("CVP1=fine")) && lines.contains(q("EnableCVP2=True")))
         << qPrintable(ended.output);
-    EXPECT_TRUE(lines.contains(q("CVP2=Caf  uvre") + QString(111, QLatin1Char('x'))))
-        << qPrintable(ended.output);
+    EXPECT_TRUE(lines.contains(q("CVP2=Caf  uvre") + QString(111, u'x'))) << qPrintable(ended.output);
     EXPECT_TRUE(ended.error.contains(q("line 2 cannot hold \"é\", \"~\", \"œ\", U+000A, which")))
         << qPrintable(ended.error);
     EXPECT_TRUE(ended.error.contains(q("longer than 120 characters")) && ended.error.contains(q("(19)")))

@@ -2,19 +2,11 @@
 // user is German: what is typed has "." all the same.
 #include "dialog/preview/preview_widget.h"
 #include "dialog/session/plugin_loader.h"
-#include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
-#include "tests/support/server_test.h"
 
-#include <QFileInfo>
-#include <QLabel>
-#include <QTest>
 #include <QTextDocument>
 
-#include <gtest/gtest.h>
-
 namespace halvern {
-
 namespace {
 
 struct Typed {
@@ -36,7 +28,7 @@ class ColorEndToEnd : public ServerTest {
 protected:
     static void SetUpTestSuite()
     {
-        QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+        QLocale::setDefault(QLocale(q("de_DE")));
         ServerTest::SetUpTestSuite();
         addQueue("Tessarin");
     }
@@ -51,17 +43,15 @@ protected:
     {
         dialog.showPage("summary");
         QTextDocument text;
-        text.setHtml(dialog.dialog.findChild<QLabel*>(QStringLiteral("summaryPage"))->text());
+        text.setHtml(dialog.dialog.findChild<QLabel*>(q("summaryPage"))->text());
         return text.toPlainText();
     }
 
-    QImage page(int job) { return QImage(server->jobFile(job, QStringLiteral("page-1.png"))); }
+    QImage page(int job) { return QImage(server->jobFile(job, q("page-1.png"))); }
 
     QTemporaryDir folder;
-    PluginLoader panels{QStringList{QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).absolutePath()}};
-    RealDialog dialog{
-        {QStringLiteral("Tessarin"), {}, {makeTestPhoto(folder.filePath(QStringLiteral("photo.jpg")))}},
-        panels};
+    PluginLoader panels{QStringList{QFileInfo(q(HALVERN_TEST_BUNDLE)).absolutePath()}};
+    RealDialog dialog{{q("Tessarin"), {}, {makeTestPhoto(folder.filePath(q("photo.jpg")))}}, panels};
 };
 
 TEST_F(ColorEndToEnd, SevenValuesAndTheToggleArriveAsTypedAndThePageIsLeftToThePrinter)
@@ -79,11 +69,10 @@ TEST_F(ColorEndToEnd, SevenValuesAndTheToggleArriveAsTypedAndThePageIsLeftToTheP
     const int job = dialog.print();
     const auto received = server->receivedOptions(job);
     ASSERT_TRUE(received);
-    EXPECT_EQ(received->at(QStringLiteral("AdjustmentsEnabled")), QStringLiteral("True"));
+    EXPECT_EQ(received->at(q("AdjustmentsEnabled")), q("True"));
     for (const Typed& value : kTyped)
         EXPECT_EQ(received->at(QLatin1StringView(value.key)), QLatin1StringView(value.text)) << value.key;
-    EXPECT_EQ(server->receivedOptions(plain)->at(QStringLiteral("AdjustmentsEnabled")),
-              QStringLiteral("False"));
+    EXPECT_EQ(server->receivedOptions(plain)->at(q("AdjustmentsEnabled")), q("False"));
     ASSERT_FALSE(page(plain).isNull());
     EXPECT_EQ(page(job), page(plain)) << "the preview's adjustments are not in the page";
 }
@@ -91,14 +80,14 @@ TEST_F(ColorEndToEnd, SevenValuesAndTheToggleArriveAsTypedAndThePageIsLeftToTheP
 TEST_F(ColorEndToEnd, TheSummaryHasEveryChoiceInTheUsersWords)
 {
     dialog.setOn(0x200, true);
-    dialog.type(0x144, QStringLiteral("-12"));
-    dialog.type(0x145, QStringLiteral("25"));
+    dialog.type(0x144, q("-12"));
+    dialog.type(0x145, q("25"));
     const QString text = summary();
     for (const char* line : {"Farbanpassung\nJa", "Helligkeit\n-12", "Kontrast\n25", "Gamma\n1,0",
                              "Blattpapier\nWie eingelegt", "Farbangleichung\nDurch das Programm"})
         EXPECT_TRUE(text.contains(QString::fromUtf8(line))) << line << " is not in\n" << qPrintable(text);
-    EXPECT_GT(text.indexOf(QStringLiteral("Rot")), text.indexOf(QStringLiteral("Aus: ")));
-    EXPECT_FALSE(text.contains(QStringLiteral("Brightness")));
+    EXPECT_GT(text.indexOf(q("Rot")), text.indexOf(q("Aus: ")));
+    EXPECT_FALSE(text.contains(q("Brightness")));
 }
 
 } // namespace halvern

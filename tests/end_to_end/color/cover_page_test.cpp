@@ -1,13 +1,9 @@
 // The Cover Page replacement alone in the roster, on queues that print a banner page by themselves.
 #include "panels/simple/cover_page_panel.h"
 #include "platform/printing/print_settings.h"
-#include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
 
-#include <gtest/gtest.h>
-
 namespace halvern {
-
 namespace {
 
 class Roster : public PanelSource {
@@ -35,32 +31,31 @@ TEST(CoverPageEndToEnd, TheReplacementKeepsTheQueuesBannerPageAway)
 {
     useBuiltBundle();
     PrivateCups server;
-    const QString queue = QStringLiteral("Banner");
-    ASSERT_TRUE(server.addQueue(
-        queue, {}, {}, {QStringLiteral("--option"), QStringLiteral("job-sheets-default=standard,none")}))
+    const QString queue = q("Banner");
+    ASSERT_TRUE(server.addQueue(queue, {}, {}, {q("--option"), q("job-sheets-default=standard,none")}))
         << qPrintable(server.error());
-    ASSERT_TRUE(server.addQueue(QStringLiteral("Plain")));
+    ASSERT_TRUE(server.addQueue(q("Plain")));
     const QTemporaryDir folder;
-    const QString photo = makeTestPhoto(folder.filePath(QStringLiteral("photo.jpg")));
+    const QString photo = makeTestPhoto(folder.filePath(q("photo.jpg")));
 
     Roster empty(false);
     RealDialog without({queue, {}, {photo}}, empty);
     ASSERT_TRUE(without.isReady());
     const int bannered = without.print();
-    EXPECT_EQ(jobAttribute(bannered, "job-sheets").value(0), QStringLiteral("standard"));
+    EXPECT_EQ(jobAttribute(bannered, "job-sheets").value(0), q("standard"));
     EXPECT_EQ(sheetsOf(server, bannered), 2) << "the queue does print a banner page if nobody keeps it away";
 
     Roster roster(true);
     RealDialog with({queue, {}, {photo}}, roster);
     ASSERT_TRUE(with.isReady());
     ASSERT_EQ(with.session.panels().size(), 1u);
-    selectAndWait(with.session, QStringLiteral("Plain"));
+    selectAndWait(with.session, q("Plain"));
     selectAndWait(with.session, queue);
     const int job = with.print();
     QVariant saved;
-    with.session.hostPrintSettings()->getValue(QStringLiteral("job-sheets"), saved);
-    EXPECT_EQ(saved.toString(), QStringLiteral("None"));
-    EXPECT_EQ(jobAttribute(job, "job-sheets").value(0), QStringLiteral("none"));
+    with.session.hostPrintSettings()->getValue(q("job-sheets"), saved);
+    EXPECT_EQ(saved.toString(), q("None"));
+    EXPECT_EQ(jobAttribute(job, "job-sheets").value(0), q("none"));
     EXPECT_EQ(sheetsOf(server, job), 1);
 }
 

@@ -1,18 +1,9 @@
-#include "demonstration/demo_steps.h"
-#include "dialog/session/dialog_session.h"
 #include "dialog/session/plugin_loader.h"
-#include "dialog/window/print_dialog.h"
-#include "tests/support/observers.h"
-#include "tests/support/private_cups.h"
+#include "tests/support/real_dialog.h"
 
-#include <QFileInfo>
-#include <QImage>
 #include <QPainter>
 
-#include <gtest/gtest.h>
-
 namespace halvern {
-
 namespace {
 
 // A landscape picture with a colour in each quarter, so that a page tells which way round it lies.
@@ -39,67 +30,32 @@ QColor colourAt(const QImage& page, double across, double down)
 
 /// The whole road: a real server with the virtual printer, the real dialog with the real bundle, clicks and
 /// keys, and what the printer received.
-class PrintPhotoTest : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        useBuiltBundle();
-        qputenv("HALVERN_PLUGIN_PATH", QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).path().toUtf8());
-        ASSERT_TRUE(server.addQueue(QStringLiteral("Tessarin"))) << qPrintable(server.error());
-        photo = folder.filePath(QStringLiteral("quarters.jpg"));
-        ASSERT_TRUE(quarters().save(photo, "JPEG", 95));
-    }
-
-    void TearDown() override { qunsetenv("HALVERN_PLUGIN_PATH"); }
-
-    // Works a fresh dialog through the steps; the first step that fails is the answer.
-    QString work(const QStringList& steps)
-    {
-        SessionRequest request;
-        request.printer = QStringLiteral("Tessarin");
-        request.files = {photo};
-        // What the printer would answer meanwhile changes the resolution, and with it the size of the page.
-        request.panelsAskPrinter = false;
-        DialogSession session(request, panels);
-        PrintDialog dialog(session);
-        dialog.show();
-        session.start();
-        QString said;
-        QTextStream out(&said);
-        DemoSteps worker(dialog, session, folder.path(), out);
-        for (const QString& step : steps) {
-            const QString problem = worker.run(step);
-            if (!problem.isEmpty())
-                return step + QStringLiteral(": ") + problem;
-        }
-        job = dialog.outcome().jobId;
-        dialog.close();
-        return {};
-    }
-
-    BeepCounter beeps;
-    PrivateCups server;
-    PluginLoader panels;
-    QTemporaryDir folder;
-    QString photo;
-    int job = 0;
-};
-
-TEST_F(PrintPhotoTest, TheSharpnessAndThePageArriveAsChosen)
+TEST(PrintPhoto, TheSharpnessAndThePageArriveAsChosen)
 {
-    ASSERT_EQ(work({QStringLiteral("ready"), QStringLiteral("page com.halvern.print.pde.sharpness"),
-                    QStringLiteral("click tag:0x200"), QStringLiteral("slide tag:1 7"),
-                    QStringLiteral("type tag:0x142 1.237"), QStringLiteral("print")}),
-              QString());
+    useBuiltBundle();
+    PrivateCups server;
+    ASSERT_TRUE(server.addQueue(q("Tessarin"))) << qPrintable(server.error());
+    const QTemporaryDir folder;
+    SessionRequest request{q("Tessarin"), {}, {folder.filePath(q("quarters.jpg"))}};
+    ASSERT_TRUE(quarters().save(request.files.front(), "JPEG", 95));
+    // What the printer would answer meanwhile changes the resolution, and with it the size of the page.
+    request.panelsAskPrinter = false;
+    PluginLoader panels({QFileInfo(q(HALVERN_TEST_BUNDLE)).path()});
+    RealDialog user(request, panels);
+    ASSERT_TRUE(user.isReady() && user.showPage("com.halvern.print.pde.sharpness"));
+    user.setOn(0x200, true);
+    user.type(0x141, q("7"));
+    user.type(0x142, q("1.237"));
+    const int job = user.print();
     const auto options = server.receivedOptions(job);
     ASSERT_TRUE(options.has_value());
-    EXPECT_EQ(options->at(QStringLiteral("SharpnessEnabled")), QStringLiteral("True"));
+    EXPECT_EQ(options->at(q("SharpnessEnabled")), q("True"));
     // Neither number is a choice that the printer's description lists.
-    EXPECT_EQ(options->at(QStringLiteral("SharpnessRadius")), QStringLiteral("7"));
-    EXPECT_EQ(options->at(QStringLiteral("SharpnessIntensity")), QStringLiteral("1.24"));
-    EXPECT_EQ(options->at(QStringLiteral("PageSize")), QStringLiteral("4x6"));
+    EXPECT_EQ(options->at(q("SharpnessRadius")), q("7"));
+    EXPECT_EQ(options->at(q("SharpnessIntensity")), q("1.24"));
+    EXPECT_EQ(options->at(q("PageSize")), q("4x6"));
 
-    const QImage page(server.jobFile(job, QStringLiteral("page-1.png")));
+    const QImage page(server.jobFile(job, q("page-1.png")));
     ASSERT_EQ(page.size(), QSize(1200, 1800));
     // The sheet lies upright in the printer, the picture across it: a quarter turn, nothing mirrored.
     EXPECT_EQ(colourAt(page, 0.25, 0.75), QColor(Qt::red));
@@ -107,19 +63,6 @@ TEST_F(PrintPhotoTest, TheSharpnessAndThePageArriveAsChosen)
     EXPECT_EQ(colourAt(page, 0.75, 0.75), QColor(Qt::blue));
     EXPECT_EQ(colourAt(page, 0.75, 0.25), QColor(Qt::yellow));
     EXPECT_EQ(colourAt(page, 0.005, 0.005), QColor(Qt::white));
-}
-
-TEST_F(PrintPhotoTest, WhatOneDialogChoseDoesNotReachTheNext)
-{
-    ASSERT_EQ(work({QStringLiteral("ready"), QStringLiteral("page com.halvern.print.pde.sharpness"),
-                    QStringLiteral("click tag:0x200"), QStringLiteral("close")}),
-              QString());
-    ASSERT_EQ(work({QStringLiteral("ready"), QStringLiteral("print")}), QString());
-    const auto options = server.receivedOptions(job);
-    ASSERT_TRUE(options.has_value());
-    EXPECT_EQ(options->at(QStringLiteral("SharpnessEnabled")), QStringLiteral("False"));
-    EXPECT_EQ(options->at(QStringLiteral("SharpnessIntensity")), QStringLiteral("1.00"));
-    EXPECT_EQ(beeps.count, 0);
 }
 
 } // namespace halvern

@@ -1,19 +1,10 @@
 // What is chosen before the dialog opens, and offered by the printer, is what the untouched dialog prints on.
 #include "dialog/session/plugin_loader.h"
-#include "tests/support/observers.h"
 #include "tests/support/real_dialog.h"
-#include "tests/support/text.h"
 
 #include "platform/toolkit/control.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QFileInfo>
-
-#include <gtest/gtest.h>
-
 namespace halvern {
-
 namespace {
 
 constexpr int kWidthTag = 1;
@@ -52,8 +43,8 @@ TEST(ChosenPaper, IsPrintedOnIfThePrinterOffersIt)
     ASSERT_TRUE(server.addQueue(q("Tessarin"))) << qPrintable(server.error());
     QTemporaryDir folder;
     const QString photo = makeTestPhoto(folder.filePath(q("photo.jpg")));
-    PluginLoader panels({QFileInfo(QStringLiteral(HALVERN_TEST_BUNDLE)).path()});
-    for (const Case& c : cases()) {
+    PluginLoader panels({QFileInfo(q(HALVERN_TEST_BUNDLE)).path()});
+    for (const auto& c : cases()) {
         SessionRequest request;
         request.printer = q("Tessarin");
         request.options = c.chosen;

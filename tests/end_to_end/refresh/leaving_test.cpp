@@ -1,17 +1,10 @@
 // The dialog as a process, left while it asks the printer.
 #include "platform/printing/jobs.h"
-#include "tests/support/observers.h"
-#include "tests/support/private_cups.h"
-
-#include <QFile>
-#include <QProcess>
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <csignal>
 
 namespace halvern {
-
 namespace {
 
 class LeavingDuringRefresh : public testing::Test {
@@ -19,15 +12,12 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(server.isRunning()) << qPrintable(server.error());
-        ASSERT_TRUE(server.addQueue(QStringLiteral("Slow"), QString(),
-                                    QStringLiteral("halvern://virtual/Slow?slow=9999&only=commands")))
+        ASSERT_TRUE(
+            server.addQueue(q("Slow"), QString(), q("halvern://virtual/Slow?slow=9999&only=commands")))
             << qPrintable(server.error());
     }
 
-    static jobs::JobList activeJobs()
-    {
-        return jobs::Server().jobs(QStringLiteral("Slow"), jobs::Which::active);
-    }
+    static jobs::JobList activeJobs() { return jobs::Server().jobs(q("Slow"), jobs::Which::active); }
 
     static bool isAsking()
     {
@@ -38,12 +28,11 @@ protected:
     /// Starts the dialog's driver with these steps.
     void startDriver(QProcess& program, const char* steps)
     {
-        QFile file(folder.filePath(QStringLiteral("steps")));
+        QFile file(folder.filePath(q("steps")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(steps) > 0);
         file.close();
-        program.start(QStringLiteral(HALVERN_DEMO_PROGRAM),
-                      {file.fileName(), folder.path(), QStringLiteral("--printer"), QStringLiteral("Slow"),
-                       QStringLiteral(HALVERN_DEMO_PHOTO)});
+        program.start(q(HALVERN_DEMO_PROGRAM),
+                      {file.fileName(), folder.path(), q("--printer"), q("Slow"), q(HALVERN_DEMO_PHOTO)});
     }
 
     PrivateCups server;
@@ -53,8 +42,7 @@ protected:
 TEST_F(LeavingDuringRefresh, ASignalEndsTheProgramAndTakesTheJobBack)
 {
     QProcess program;
-    program.start(QStringLiteral(HALVERN_PRINT_PROGRAM),
-                  {QStringLiteral("--printer"), QStringLiteral("Slow"), QStringLiteral(HALVERN_DEMO_PHOTO)});
+    program.start(q(HALVERN_PRINT_PROGRAM), {q("--printer"), q("Slow"), q(HALVERN_DEMO_PHOTO)});
     ASSERT_TRUE(waitUntil([] { return isAsking(); }));
     ASSERT_EQ(::kill(pid_t(program.processId()), SIGTERM), 0);
     ASSERT_TRUE(program.waitForFinished(1000 * kPatience));
@@ -62,18 +50,9 @@ TEST_F(LeavingDuringRefresh, ASignalEndsTheProgramAndTakesTheJobBack)
     EXPECT_TRUE(activeJobs().isEmpty());
 }
 
-TEST_F(LeavingDuringRefresh, ClosingTheDialogTakesTheJobBack)
-{
-    QProcess program;
-    startDriver(program, "ready\npage com.halvern.print.pde.features\nshown name:progress\nclose\n");
-    ASSERT_TRUE(program.waitForFinished(1000 * kPatience));
-    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
-    EXPECT_TRUE(activeJobs().isEmpty());
-}
-
 TEST_F(LeavingDuringRefresh, AnotherPrinterTakesTheJobBackWhileTheDialogGoesOn)
 {
-    ASSERT_TRUE(server.addQueue(QStringLiteral("Other"))) << qPrintable(server.error());
+    ASSERT_TRUE(server.addQueue(q("Other"))) << qPrintable(server.error());
     QProcess program;
     startDriver(program, "ready\npage com.halvern.print.pde.features\nshown name:progress\n"
                          "choose name:printer Other\n"
@@ -92,10 +71,9 @@ TEST_F(LeavingDuringRefresh, PrintingDoesNotWaitForThePrintersAnswer)
     EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
     EXPECT_TRUE(activeJobs().isEmpty());
     const QString said = QString::fromUtf8(program.readAllStandardOutput());
-    const int job = said.section(QStringLiteral("job-id="), 1).section(QLatin1Char('\n'), 0, 0).toInt();
-    EXPECT_TRUE(QFile::exists(server.jobFile(job, QStringLiteral("page-1.png")))) << qPrintable(said);
+    const int job = said.section(q("job-id="), 1).section(u'\n', 0, 0).toInt();
+    EXPECT_TRUE(QFile::exists(server.jobFile(job, q("page-1.png")))) << qPrintable(said);
 }
 
 } // namespace
-
 } // namespace halvern

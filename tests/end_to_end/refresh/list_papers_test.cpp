@@ -1,17 +1,11 @@
 // halvern-print --list-papers as a process, on a real server.
 #include "dialog/program/paper_table.h"
 #include "platform/printing/jobs.h"
-#include "tests/support/files.h"
-#include "tests/support/observers.h"
-#include "tests/support/private_cups.h"
-#include "tests/support/text.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
 #include <csignal>
 
 namespace halvern {
-
 namespace {
 
 class ListPapers : public testing::Test {
@@ -29,7 +23,7 @@ protected:
 
     static void start(ChildProcess& program, const QStringList& arguments)
     {
-        program.start(QStringLiteral(HALVERN_PRINT_PROGRAM), QStringList{q("--list-papers")} + arguments);
+        program.start(q(HALVERN_PRINT_PROGRAM), QStringList{q("--list-papers")} + arguments);
     }
 
     int finish(ChildProcess& program)
@@ -65,30 +59,28 @@ TEST_F(ListPapers, TellsWhatIsKnownAndAsksOnlyWhenTold)
     EXPECT_TRUE(jobs::Server().jobs(q("Photo"), jobs::Which::completed).isEmpty());
 
     EXPECT_EQ(run({q("--refresh"), q("--printer"), q("Photo")}), 0) << qPrintable(err);
-    const QStringList lines = out.split(QLatin1Char('\n'));
+    const QStringList lines = out.split(u'\n');
     ASSERT_EQ(lines.size(), 7) << qPrintable(out);
     EXPECT_TRUE(lines[0].contains(q("(just now)"))) << qPrintable(out);
     EXPECT_EQ(lines[2].simplified(), q("Gloss A4 1 - Gloss 300, 610 dpi Standard, Soft"));
     EXPECT_EQ(lines[4].simplified(), q("152.4 mm 2 - Satin 610 dpi Standard, Vivid, Black and White"));
     EXPECT_EQ(lines[5].simplified(), q("152.4 mm 4 - Thin Silk 610 dpi Standard, Vivid, Black and White"));
 
-    const QString known = out.section(QLatin1Char('\n'), 1);
+    const QString known = out.section(u'\n', 1);
     EXPECT_EQ(run({}), 0);
-    EXPECT_EQ(out.section(QLatin1Char('\n'), 1), known);
+    EXPECT_EQ(out.section(u'\n', 1), known);
     EXPECT_EQ(run({q("--printer"), q("Nowhere")}), 1);
     EXPECT_TRUE(err.contains(q("no printer \"Nowhere\"")) && err.contains(q("Photo"))) << qPrintable(err);
 }
 
 TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
 {
-    struct Case {
+    const struct {
         const char* queue;
         const char* faults;
         QStringList more;
         const char* sentence;
-    };
-
-    const Case cases[] = {
+    } cases[] = {
         {"Holding", "?hold", {}, "was held"},
         {"Refusing", "?reject", {}, "could not answer (The printer refuses this job)"},
         {"Stopping", "?stop&reason=cover-open", {}, "the cover is open"},
@@ -97,7 +89,8 @@ TEST_F(ListPapers, SaysWhyThePrinterDidNotAnswerAndLeavesNoJobBehind)
         {"Paused", "", {q("--disabled")}, "does not work at the moment"},
         {"Closed", "", {q("--rejecting")}, "does not accept jobs"},
     };
-    for (const Case& each : cases) {
+
+    for (const auto& each : cases) {
         addQueue(each.queue, each.faults, each.more);
         EXPECT_EQ(run({q("--refresh"), q("--printer"), q(each.queue)}), 1) << each.queue;
         EXPECT_TRUE(err.contains(q(each.sentence))) << each.queue << ": " << qPrintable(err);
@@ -133,42 +126,11 @@ TEST_F(ListPapers, ASignalEndsItAtOnceAndTakesTheJobBackAndLostOutputIsNoSuccess
     EXPECT_EQ(out, QString());
     EXPECT_TRUE(waitUntil([] { return activeJobs("Slow").isEmpty(); }));
 
-    const ProgramResult full = runProgram(
-        q("sh"), {q("-c"), q("exec \"$0\" --list-papers >/dev/full"), QStringLiteral(HALVERN_PRINT_PROGRAM)});
+    const ProgramResult full =
+        runProgram(q("sh"), {q("-c"), q("exec \"$0\" --list-papers >/dev/full"), q(HALVERN_PRINT_PROGRAM)});
     EXPECT_EQ(full.status, 1);
     EXPECT_TRUE(full.error.contains(q("could not be written"))) << qPrintable(full.error);
 }
 
-TEST(PaperTable, KeepsItsColumnsWithNamesOfWideCharacters)
-{
-    LoadedPapers loaded;
-    for (const char* name : {"\u7d75\u8449\u66f8", "Caf\u0065\u0301"}) {
-        LoadedPaper paper;
-        paper.sheetName = q(name);
-        paper.surface = q("x");
-        paper.dotsPerInch = {300};
-        loaded.papers.append(paper);
-    }
-    const QStringList lines =
-        paperTable(loaded, nullptr, [](const QString& text) { return text; }).split(u'\n');
-    EXPECT_EQ(lines[1].indexOf(u'x'), 5) << "six columns and two blanks, in three characters";
-    EXPECT_EQ(lines[2].indexOf(u'x'), 9) << "four columns in five characters";
-}
-
-TEST(PaperHeading, TellsTheAgeInUnitsThatFit)
-{
-    const QDateTime now(QDate(2026, 11, 21), QTime(12, 0), Qt::UTC);
-    const auto heading = [&](qint64 seconds) {
-        LoadedPapers loaded;
-        loaded.lastUpdate = now.addSecs(-seconds);
-        return paperHeading(q("X"), loaded, now);
-    };
-    EXPECT_TRUE(heading(-30).endsWith(q("(just now)")));
-    EXPECT_TRUE(heading(119 * 60).endsWith(q("(119 min ago)")));
-    EXPECT_TRUE(heading(120 * 60).endsWith(q("(2 h ago)")));
-    EXPECT_TRUE(heading(48 * 3600).endsWith(q("(2 days ago)")));
-}
-
 } // namespace
-
 } // namespace halvern
