@@ -8,6 +8,7 @@
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/wheel_guard.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
@@ -399,7 +400,7 @@ void PrintDialog::showOtherChanges(const QList<SideChange>& changes)
 
 void PrintDialog::showCorrections(const QList<SideChange>& changes)
 {
-    offerUndo(tr("The printer cannot do what was chosen. This was changed: %1").arg(inWords(changes)));
+    offerUndo(tr("To go with what the printer has, this was changed: %1").arg(inWords(changes)));
 }
 
 QString PrintDialog::inWords(const QList<SideChange>& changes) const
@@ -438,9 +439,11 @@ void PrintDialog::showMisfit()
 void PrintDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // In a field of a page it has ended the editing, and is no word for the default button.
-    if (isReturn && deck_->isAncestorOf(focusWidget()) &&
-        (qobject_cast<QLineEdit*>(focusWidget()) || qobject_cast<QAbstractSpinBox*>(focusWidget()))) {
+    const QWidget* focused = focusWidget();
+    // In a field it has ended the editing, in a list it has chosen; neither is a word for the default button.
+    if (isReturn && deck_->isAncestorOf(focused) &&
+        (qobject_cast<const QLineEdit*>(focused) || qobject_cast<const QAbstractSpinBox*>(focused) ||
+         qobject_cast<const QAbstractItemView*>(focused))) {
         event->accept();
         return;
     }

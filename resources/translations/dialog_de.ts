@@ -662,8 +662,8 @@
         <translation>Damit das möglich ist, wurde auch geändert: %1</translation>
     </message>
     <message>
-        <source>The printer cannot do what was chosen. This was changed: %1</source>
-        <translation>Der Drucker kann nicht, was gewählt war. Das wurde geändert: %1</translation>
+        <source>To go with what the printer has, this was changed: %1</source>
+        <translation>Damit es zu dem passt, was im Drucker ist, wurde geändert: %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>

@@ -662,8 +662,8 @@
         <translation>Para hacerlo posible, también se ha cambiado: %1</translation>
     </message>
     <message>
-        <source>The printer cannot do what was chosen. This was changed: %1</source>
-        <translation>La impresora no puede hacer lo que se había elegido. Se ha cambiado esto: %1</translation>
+        <source>To go with what the printer has, this was changed: %1</source>
+        <translation>Para ajustarse a lo que tiene la impresora, se ha cambiado esto: %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>

@@ -662,8 +662,8 @@
         <translation>Pour que ce soit possible, ceci a changé aussi : %1</translation>
     </message>
     <message>
-        <source>The printer cannot do what was chosen. This was changed: %1</source>
-        <translation>L&apos;imprimante ne peut pas faire ce qui était choisi. Ceci a été modifié : %1</translation>
+        <source>To go with what the printer has, this was changed: %1</source>
+        <translation>Pour convenir à ce que contient l&apos;imprimante, ceci a été modifié : %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>

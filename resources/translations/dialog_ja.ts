@@ -662,8 +662,8 @@
         <translation>それに合わせて、次の設定も変更しました: %1</translation>
     </message>
     <message>
-        <source>The printer cannot do what was chosen. This was changed: %1</source>
-        <translation>プリンターは選択された内容で印刷できません。次のように変更しました: %1</translation>
+        <source>To go with what the printer has, this was changed: %1</source>
+        <translation>プリンターにあるものに合わせて、次のように変更しました: %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
