@@ -48,7 +48,7 @@ public:
     /// Shows a panel and switches its adjustments on.
     void open(const char* kind)
     {
-        dialog_.deck().showPage(QLatin1StringView(kind));
+        dialog_.findChild<PanelDeck*>()->showPage(QLatin1StringView(kind));
         QTest::mouseClick(control(kToggle), Qt::LeftButton, {}, QPoint(12, control(kToggle)->height() / 2));
         QCoreApplication::processEvents();
     }

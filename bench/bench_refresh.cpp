@@ -122,8 +122,8 @@ int main(int argc, char** argv)
         Heartbeat heart;
         const bool isThere =
             QTest::qWaitFor([&] { return session.canPrint() && session.hasCustomPanels(); }, kPatience);
-        const bool isShown =
-            isThere && dialog.deck().showPage(QStringLiteral("com.halvern.print.pde.features"));
+        const bool isShown = isThere && dialog.findChild<PanelDeck*>()->showPage(
+                                            QStringLiteral("com.halvern.print.pde.features"));
         // Opening the dialog and building the page's widgets is not the refresh's doing.
         QCoreApplication::processEvents();
         heart.startAfresh();

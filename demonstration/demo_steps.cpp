@@ -107,13 +107,13 @@ QString DemoSteps::waitReady()
     if (!QTest::qWaitFor([&] { return session_.canPrint(); }, kPatienceMilliseconds))
         return QStringLiteral("the printer or the photo did not come");
     out_ << "The dialog shows printer " << session_.printerName() << " with "
-         << dialog_.deck().identifiers().join(QStringLiteral(", ")) << Qt::endl;
+         << dialog_.findChild<PanelDeck*>()->identifiers().join(QStringLiteral(", ")) << Qt::endl;
     return {};
 }
 
 QString DemoSteps::showPage(const QString& identifier)
 {
-    if (!dialog_.deck().showPage(identifier))
+    if (!dialog_.findChild<PanelDeck*>()->showPage(identifier))
         return QStringLiteral("there is no page %1").arg(identifier);
     QCoreApplication::processEvents();
     return {};

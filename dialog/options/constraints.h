@@ -26,6 +26,7 @@ struct Constraint {
 using OptionMarks = QMap<QString, QString>;
 
 /// The constraints of a PPD as plain data. The PPD's newer form counts where it has one, the older otherwise.
+/// Immutable once made: any thread then; the constructor on the thread that owns the file.
 class Constraints {
 public:
     /// Reads them; keeps nothing of the file.

@@ -8,7 +8,8 @@ struct ppd_file_s;
 struct ppd_option_s;
 using ppd_file_t = ppd_file_s;
 
-/// Look-ups in a PPD that the dialog's model shares. Keywords are QStrings, null answers mean "not there".
+/// Look-ups in a PPD that the dialog's model shares. Keywords are QStrings, null answers mean "not there";
+/// what they point to belongs to the file. On the thread that owns the file.
 namespace halvern::ppd_lookup {
 
 ppd_option_s* option(ppd_file_t* file, const QString& key);

@@ -35,7 +35,7 @@ QString valueText(const QVariant& value)
 PpdModel::PpdModel(ppd::File file) : file_(std::move(file)), constraints_(file_.get())
 {
     ppdLocalize(file_.get());
-    ppdMarkDefaults(file_.get());
+    ppd::markDefaults(file_.get());
     readOptions();
 }
 

@@ -35,7 +35,7 @@ struct PageLayout {
     QTransform pageToSheet() const;
 };
 
-/// Any sizes, also absurd ones, give a finite result.
+/// Any sizes, also absurd ones, give a finite result. Any thread.
 PageLayout layOut(const LayoutRequest& request);
 
 } // namespace halvern

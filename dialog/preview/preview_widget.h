@@ -41,8 +41,6 @@ public:
     /// Where the sheet is drawn when it is shown whole, in the widget's coordinates.
     QRectF sheetRect() const;
 
-    bool isZoomed() const { return isZoomed_; }
-
     /// Whether the photo's own pixels are still being read for 1:1; its small copy is shown meanwhile.
     bool isReadingDetail() const;
 

@@ -7,8 +7,8 @@
 
 namespace halvern {
 
-/// What the user saved with lpoptions. A printer may have instances ("queue/name"), each with options of its
-/// own over the queue's.
+/// What the user saved with lpoptions. A value of its owner's, any thread. A printer may have instances
+/// ("queue/name"), each with options of its own over the queue's.
 struct SavedOptions {
     QString defaultPrinter; ///< a queue or an instance; empty if none was chosen
     QMap<QString, OptionValues> byPrinter;
@@ -25,7 +25,7 @@ QString queueOf(const QString& printer);
 QString startingPrinter(const QString& asked, const SavedOptions& saved);
 
 /// Reads lpoptions files in this order, later ones winning. Files that cannot be read, and what is no file
-/// (a pipe would never end), count as empty.
+/// (a pipe would never end), count as empty. Reads from the disk; any thread.
 SavedOptions readSavedOptions(const QStringList& paths);
 
 /// The same for the system's file and the user's own, with the LPDEST and PRINTER variables over both.

@@ -31,10 +31,6 @@ public:
     explicit PrintDialog(DialogSession& session, QWidget* parent = nullptr);
     ~PrintDialog() override;
 
-    PanelDeck& deck() { return *deck_; }
-
-    MessageBar& messages() { return *message_; }
-
     /// The run that is under way or the last one; null before the first.
     PrintRun* run() { return run_; }
 

@@ -5,7 +5,8 @@
 namespace halvern {
 
 /// Switches the printer's colour adjustments on or off and sets red, green, blue, brightness, contrast,
-/// saturation and gamma. What the user types goes to the printer as typed, once it is in range.
+/// saturation and gamma. What the user types goes to the printer as typed, once it is in range. Main thread
+/// only, like its base; owned by whoever holds it, as every panel is.
 class RZColorAdjustPDEHalvern : public KSTRVLBasePDEHalvern {
 public:
     QStringList supportedPPDOptionKeys() override;

@@ -4,7 +4,8 @@
 
 namespace halvern {
 
-/// Chooses who matches the picture's colours to the printer. Complete, but not in the roster.
+/// Chooses who matches the picture's colours to the printer. Complete, but not in the roster. Main thread
+/// only, like its base; owned by whoever holds it, as every panel is.
 class RZColorMatchingPDEHalvern : public KSTRVLBasePDEHalvern {
 public:
     QStringList supportedPPDOptionKeys() override;

@@ -5,7 +5,8 @@
 namespace halvern {
 
 /// Takes the place of the dialog's own cover page panel and sees to it that the job asks for no cover page.
-/// Complete, but not in the roster.
+/// Complete, but not in the roster. Main thread only,
+/// like its base; owned by whoever holds it, as every panel is.
 class RZUnavailablePDEHalvern : public KSTRVLBasePDEHalvern {
 public:
     bool initWithCallback(const std::shared_ptr<HostCallback>& callback) override;

@@ -5,7 +5,8 @@
 namespace halvern {
 
 /// Switches the printer's sharpening on or off and sets its radius (a whole number) and its intensity (a
-/// decimal number with two digits behind the point).
+/// decimal number with two digits behind the point). Main thread only,
+/// like its base; owned by whoever holds it, as every panel is.
 class RZSharpnessPDEHalvern : public KSTRVLBasePDEHalvern {
 public:
     QStringList supportedPPDOptionKeys() override;

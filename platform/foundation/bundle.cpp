@@ -84,7 +84,7 @@ Bundle::~Bundle() = default;
 void Bundle::loadTranslations()
 {
     const QString resources = path_ + QStringLiteral("/Resources");
-    const QString name = QStringLiteral("tessarin");
+    const QString name = QFileInfo(QDir(path_).dirName()).completeBaseName();
     auto translator = std::make_unique<QTranslator>();
     if (translator->load(QLocale(), name, QStringLiteral("_"), resources))
         translator_ = std::move(translator);

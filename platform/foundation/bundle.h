@@ -10,9 +10,9 @@ class QTranslator;
 
 namespace halvern {
 
-/// A bundle folder: Info.plist, a loadable module and Resources/ with layouts, translations and the help
-/// book. Main thread only, except the plain look-ups of loaded data (identifier, paths, Info.plist values),
-/// which any thread may call.
+/// A bundle folder: Info.plist, a loadable module and Resources/ with layouts, translations (NAME_de.qm and
+/// so on in the folder NAME.pde) and the help book. Main thread only, except the plain look-ups of loaded
+/// data (identifier, paths, Info.plist values), which any thread may call.
 class Bundle {
 public:
     /// Reads the folder's Info.plist and the translations for the user's languages. Null if there is no

@@ -71,12 +71,6 @@ int tagOf(const QWidget* widget)
     return widget ? widget->property(kTag).toInt() : 0;
 }
 
-void setTag(QWidget* widget, int tag)
-{
-    if (widget)
-        widget->setProperty(kTag, tag);
-}
-
 bool isControl(const QWidget* widget)
 {
     return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QComboBox*>(widget) ||

@@ -17,7 +17,6 @@ namespace halvern::control {
 
 /// The dynamic property "tag"; a widget without one has tag 0.
 int tagOf(const QWidget* widget);
-void setTag(QWidget* widget, int tag);
 
 /// Whether the widget is a control: something with a value or an action of its own.
 bool isControl(const QWidget* widget);

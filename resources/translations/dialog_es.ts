@@ -327,8 +327,8 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>"%1: %2" does not go together with "%3". Change that first.</source>
-        <translation>«%1: %2» no es compatible con «%3». Cambie eso primero.</translation>
+        <source>"%1" does not go together with "%2". Change that first.</source>
+        <translation>«%1» no es compatible con «%2». Cambie eso primero.</translation>
     </message>
     <message>
         <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>

@@ -327,8 +327,8 @@
         <translation>%1 : %2</translation>
     </message>
     <message>
-        <source>"%1: %2" does not go together with "%3". Change that first.</source>
-        <translation>« %1 : %2 » ne va pas avec « %3 ». Changez d’abord cela.</translation>
+        <source>"%1" does not go together with "%2". Change that first.</source>
+        <translation>« %1 » ne va pas avec « %2 ». Changez d’abord cela.</translation>
     </message>
     <message>
         <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>

@@ -327,8 +327,8 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>"%1: %2" does not go together with "%3". Change that first.</source>
-        <translation>「%1: %2」は「%3」と一緒に使えません。先にそちらを変えてください。</translation>
+        <source>"%1" does not go together with "%2". Change that first.</source>
+        <translation>「%1」は「%2」と一緒に使えません。先にそちらを変えてください。</translation>
     </message>
     <message>
         <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>

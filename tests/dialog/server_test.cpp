@@ -157,13 +157,13 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     ASSERT_TRUE(isReady(session));
     EXPECT_EQ(panels.calls, (QStringList{q("first: restore"), q("second: restore")}))
         << "no view is loaded yet";
-    ASSERT_TRUE(dialog->deck().showPage(q("second")));
+    ASSERT_TRUE(dialog->findChild<PanelDeck*>()->showPage(q("second")));
     EXPECT_EQ(panels.calls.mid(2), (QStringList{q("second: view"), q("second: willShow")}));
     EXPECT_TRUE(panels.second.lock()->view->isVisible());
-    dialog->deck().showPage(q("summary"));
+    dialog->findChild<PanelDeck*>()->showPage(q("summary"));
     EXPECT_EQ(panels.calls.mid(4), QStringList{q("second: shouldHide")});
     EXPECT_FALSE(panels.second.lock()->view->isVisible());
-    dialog->deck().showPage(q("first"));
+    dialog->findChild<PanelDeck*>()->showPage(q("first"));
     EXPECT_TRUE(session.changeOption(q("PaperTone"), q("Warm")));
     panels.calls.clear();
     const std::shared_ptr<HostCallback> oldHost = panels.first.lock()->host;
@@ -267,7 +267,7 @@ TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
     auto* print = dialog.findChild<QPushButton*>(q("printButton"));
     EXPECT_FALSE(print->isEnabled()) << "there is nothing to print yet";
     ASSERT_TRUE(isReady(session));
-    dialog.deck().showPage(q("first"));
+    dialog.findChild<PanelDeck*>()->showPage(q("first"));
     panels.calls.clear();
     QTest::mouseClick(print, Qt::LeftButton);
     EXPECT_EQ(panels.calls, (QStringList{q("first: save"), q("second: save"), q("first: shouldHide"),

@@ -33,7 +33,7 @@ bool RealDialog::isReady()
 
 bool RealDialog::showPage(const char* identifier)
 {
-    return dialog.deck().showPage(QLatin1StringView(identifier));
+    return dialog.findChild<PanelDeck*>()->showPage(QLatin1StringView(identifier));
 }
 
 QWidget* RealDialog::control(int tag)

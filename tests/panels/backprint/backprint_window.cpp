@@ -46,7 +46,7 @@ void BackprintWindow::open()
     layout->addWidget(panel->panelView());
     // A field of the dialog's own, with a tag that means something else there.
     auto* other = new QLineEdit;
-    control::setTag(other, 1);
+    other->setProperty("tag", 1);
     layout->addWidget(other);
     panel->willShow();
     window->show();
