@@ -69,7 +69,7 @@ TEST_F(LeavingDuringRefresh, PrintingDoesNotWaitForThePrintersAnswer)
     // The question would take hours.
     ASSERT_TRUE(program.waitForFinished(1000 * kPatience));
     EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().constData();
-    EXPECT_TRUE(activeJobs().isEmpty());
+    EXPECT_TRUE(waitUntil([this] { return activeJobs().isEmpty(); }));
     const QString said = QString::fromUtf8(program.readAllStandardOutput());
     const int job = said.section(q("job-id="), 1).section(u'\n', 0, 0).toInt();
     EXPECT_TRUE(QFile::exists(server.jobFile(job, q("page-1.png")))) << qPrintable(said);

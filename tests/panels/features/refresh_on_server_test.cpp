@@ -25,6 +25,9 @@ protected:
     void TearDown() override
     {
         letGo();
+        // The next test has a bus of its own, and must not find this one's connection.
+        server.stop();
+        EXPECT_TRUE(waitUntil([] { return !DistributedNotificationCenter::defaultCenter().isConnected(); }));
         drainMainQueue();
     }
 
