@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // bench-archive make COUNT FILE: writes an archive of COUNT papers.
 // bench-archive read FILE: decodes an archive and says how long that took and how far the memory rose.
 

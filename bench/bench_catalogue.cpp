@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // bench-catalogue COUNT: from the bytes of an archive with COUNT papers to the filled menus of the Features
 // panel.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How long a user waits for the dialog: prints microseconds from the start of the process, as its caller took
 // it (HALVERN_BENCH_START, microseconds since the epoch), until the window is painted and takes input, and
 // until printer, options and photo are there too. "bare" shows an empty window instead, for comparison.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How long a moved slider takes until the preview shows it: works the real dialog on the default printer of
 // the server in use, and prints milliseconds, median and 95th percentile, from the key that moves the slider
 // until the preview has been painted. bench-preview FILE [STEPS]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a refresh of the printer's data costs the dialog: opens the real dialog on a queue that has never
 // reported, shows the Features panel, and prints the main thread's longest stall from there until the paper
 // menus are rebuilt and painted, and the time from the command job's completion until then.

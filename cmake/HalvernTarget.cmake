@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What every target of ours has in common. No flag is set globally: a target opts in with halvern_target().
 
 option(BUILD_TESTING "Build the tests" ON)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opens the print dialog as halvern-print does and works it like a user, step by step, from a file of steps.
 // For demonstrations and end-to-end checks on machines without a display.
 #include "demonstration/demo_steps.h"

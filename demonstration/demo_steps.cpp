@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "demonstration/demo_steps.h"
 
 #include "dialog/preview/preview_widget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/broken_pipe.h"
 
 #include <time.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/base_panel.h"
 #include "platform/plugin_api/host_callback.h"
 #include "platform/printing/command_job.h"

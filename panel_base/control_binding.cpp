@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/base_panel.h"
 
 #include "panel_base/tags.h"

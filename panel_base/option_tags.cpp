@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/option_tags.h"
 
 namespace halvern {

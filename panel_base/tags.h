@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// The tag convention: a control's tag is its option's number and a role in the upper bits.

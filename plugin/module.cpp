@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "plugin/plug_in.h"
 
 #include <QObject>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/back_channel.h"
 
 #include "printer/cancellation.h"

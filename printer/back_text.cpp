@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/back_text.h"
 
 #include "printer/page_stream.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The filter for command files: commandtohalvern job user title copies options [file]
 
 #include "printer/back_channel.h"

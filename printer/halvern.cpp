@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The back end of the virtual printer: halvern job user title copies options [file]
 
 #include "printer/cancellation.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/job_folder.h"
 
 #include "printer/page_stream.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/job_options.h"
 
 #include <strings.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/papers_report.h"
 
 #include "printer/papers/catalogue_archive.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/png_page.h"
 
 #include "printer/page_stream.h"

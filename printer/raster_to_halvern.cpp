@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The filter for pages: rastertohalvern job user title copies options [file]
 //
 // A cancelled job ends it by SIGTERM's default: there is nothing to put right, and the back end sees the cut.

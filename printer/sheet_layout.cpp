@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/sheet_layout.h"
 
 #include "printer/page_stream.h"

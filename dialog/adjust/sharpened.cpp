@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/adjust/adjust.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/ipp_options.h"
 
 #include "platform/printing/cups_ppd.h"

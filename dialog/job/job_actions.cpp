@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/job_actions.h"
 
 #include "platform/printing/cups_ppd.h"

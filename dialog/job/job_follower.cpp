@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/job_follower.h"
 
 #include "platform/foundation/threads/work_queue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/job_options.h"
 
 #include "dialog/options/ppd_model.h"

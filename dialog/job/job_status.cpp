@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/job_status.h"
 
 #include "dialog/server/state_reasons.h"

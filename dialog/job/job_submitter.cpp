@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/job_submitter.h"
 
 #include "dialog/job/ipp_options.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/print_run.h"
 
 #include "platform/foundation/threads/work_queue.h"

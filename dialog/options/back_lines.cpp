@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/back_lines.h"
 
 #include "platform/maker/backprint_text.h"

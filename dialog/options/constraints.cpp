@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/constraints.h"
 
 #include "platform/printing/cups_ppd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/given_options.h"
 
 #include "dialog/options/ppd_lookup.h"

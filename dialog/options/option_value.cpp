@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/option_value.h"
 
 #include <QRegularExpression>

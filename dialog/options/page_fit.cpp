@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/page_fit.h"
 
 #include "dialog/options/ppd_model.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/ppd_lookup.h"
 
 #include "platform/foundation/numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/ppd_model.h"
 
 #include "dialog/options/ppd_lookup.h"

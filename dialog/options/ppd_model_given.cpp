@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The half of PpdModel that applies saved and typed options, which have to go together in the end only.
 #include "dialog/options/ppd_model.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reading half of PpdModel: values, texts and page geometry.
 #include "dialog/options/ppd_lookup.h"
 #include "dialog/options/ppd_model.h"

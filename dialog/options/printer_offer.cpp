@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/printer_offer.h"
 
 #include "platform/foundation/numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_decoder.h"
 
 #include "dialog/page/srgb.h"

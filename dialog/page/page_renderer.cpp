@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/page_renderer.h"
 
 #include "dialog/page/jpeg_data.h"

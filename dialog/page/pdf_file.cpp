@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/pdf_file.h"
 
 namespace halvern {

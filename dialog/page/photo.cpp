@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/photo.h"
 
 #include "dialog/page/photo_problem.h"

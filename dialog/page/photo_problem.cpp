@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/photo_problem.h"
 
 #include "platform/foundation/display_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/picture.h"
 
 #include "dialog/page/jpeg_decoder.h"

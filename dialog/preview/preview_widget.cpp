@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/preview/preview_widget.h"
 
 #include "dialog/page/page_renderer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preview at 1:1: a screen pixel for each printer dot, and moving about in it.
 #include "dialog/preview/preview_widget.h"
 

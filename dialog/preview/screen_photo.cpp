@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/preview/screen_photo.h"
 
 #include <QPainter>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/preview/sharp_photo_reader.h"
 
 #include "platform/foundation/threads/work_queue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/application.h"
 
 #include "dialog/job/print_run.h"

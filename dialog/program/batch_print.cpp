@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/batch_print.h"
 
 #include "platform/foundation/display_text.h"

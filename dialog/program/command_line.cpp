@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/command_line.h"
 
 #include "dialog/options/back_lines.h"

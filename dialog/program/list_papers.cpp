@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/list_papers.h"
 
 #include "dialog/job/job_actions.h"

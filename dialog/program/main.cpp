@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/program/quit_signals.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/paper_table.h"
 
 #include "platform/foundation/display_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/printer_inquiry.h"
 
 #include "platform/printing/command_job.h"

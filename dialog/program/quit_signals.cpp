@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/program/quit_signals.h"
 
 #include <QSocketNotifier>

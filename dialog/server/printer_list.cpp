@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/server/printer_list.h"
 
 #include "platform/foundation/near_names.h"

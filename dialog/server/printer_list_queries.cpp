@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The questions that the printer list's workers ask the server.
 #include "dialog/server/printer_list.h"
 

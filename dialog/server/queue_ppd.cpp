@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/server/queue_ppd.h"
 
 #include "platform/printing/cups_ppd.h"

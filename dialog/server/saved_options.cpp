@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/server/saved_options.h"
 
 #include "platform/printing/cups_ppd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/server/state_reasons.h"
 
 #include <QCoreApplication>

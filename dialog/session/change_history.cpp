@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/change_history.h"
 
 #include "platform/toolkit/user_action.h"

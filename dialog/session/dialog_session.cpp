@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/dialog_session.h"
 
 #include "dialog/session/starting_options.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/panel_host.h"
 
 #include "platform/printing/printer.h"

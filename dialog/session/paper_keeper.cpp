@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/paper_keeper.h"
 
 #include "platform/printing/print_settings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/photo_loader.h"
 
 #include "platform/foundation/threads/work_queue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/printer_choice.h"
 
 #include "platform/foundation/threads/work_queue.h"

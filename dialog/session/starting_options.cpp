@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/starting_options.h"
 
 #include "dialog/options/back_lines.h"

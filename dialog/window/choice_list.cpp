@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/choice_list.h"
 
 #include "platform/toolkit/plain_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/damage_question.h"
 
 #include "dialog/session/dialog_session.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/disabled_reasons.h"
 
 #include <QAbstractItemView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/message_bar.h"
 
 #include "platform/toolkit/plain_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/options_page.h"
 
 #include "dialog/window/choice_list.h"

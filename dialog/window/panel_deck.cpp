@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/panel_deck.h"
 
 #include "dialog/window/options_page.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/preview/preview_widget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where things stand: the window's size, the place of preview and messages, the order of the Tab key.
 #include "dialog/window/print_dialog.h"
 

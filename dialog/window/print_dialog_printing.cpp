@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Printing and closing.
 #include "dialog/window/print_dialog.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/run_bar.h"
 
 #include "platform/toolkit/plain_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/window/summary_page.h"
 
 #include "dialog/preview/preview_widget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A maker's bundle with one panel: a check box for the PPD's option "Collate".
 #include "platform/foundation/bundle.h"
 #include "platform/plugin_api/host_callback.h"

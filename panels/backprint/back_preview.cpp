@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/backprint/back_preview.h"
 
 #include "platform/foundation/units.h"

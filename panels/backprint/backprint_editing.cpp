@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/backprint/backprint_panel.h"
 
 #include "panels/backprint/line_watcher.h"

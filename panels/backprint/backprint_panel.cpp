@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/backprint/backprint_panel.h"
 
 #include "panel_base/option_tags.h"

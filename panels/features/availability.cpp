@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/features/availability.h"
 
 #include "platform/toolkit/control.h"

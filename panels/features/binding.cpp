@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/features/availability.h"
 #include "panels/features/binding_margin.h"
 #include "panels/features/features_panel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/features/binding_margin.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/option_tags.h"
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"

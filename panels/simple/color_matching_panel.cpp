@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/simple/color_matching_panel.h"
 
 namespace halvern {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/simple/cover_page_panel.h"
 
 #include "platform/foundation/log.h"

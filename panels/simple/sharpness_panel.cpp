@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/simple/sharpness_panel.h"
 
 #include "panel_base/option_tags.h"

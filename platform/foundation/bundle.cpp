@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/bundle.h"
 
 #include "platform/foundation/info_property_list.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/date_additions.h"
 
 #include <QLocale>

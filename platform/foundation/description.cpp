@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/description.h"
 
 #include "platform/foundation/numbers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/display_text.h"
 
 #include <QTextStream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/string_additions.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/user_defaults.h"
 
 #include "platform/foundation/log.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/maker/loaded_papers.h"
 
 #include "platform/foundation/archive/keyed_unarchiver.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/maker/paper_index.h"
 
 #include "platform/foundation/numbers.h"

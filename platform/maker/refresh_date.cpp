@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/maker/refresh_date.h"
 
 #include "platform/foundation/date_additions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/maker/summary_rules.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/command_job.h"
 
 #include "platform/printing/job_watch.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/cups_connection.h"
 
 #include "platform/printing/cups_ppd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // libcups marks its PPD calls as deprecated and has no successor for PPD queues. This is the one place that

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a failed conversation with the server is called in the user's language.
 #include "platform/printing/cups_connection.h"
 #include "platform/printing/cups_ppd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/exchange_watch.h"
 
 #include "platform/foundation/log.h"

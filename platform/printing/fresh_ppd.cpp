@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/fresh_ppd.h"
 
 #include "platform/foundation/threads/work_queue.h"

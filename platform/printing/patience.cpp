@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/patience.h"
 
 #include "platform/foundation/threads/work_queue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/printer.h"
 
 #include "platform/printing/jobs.h"

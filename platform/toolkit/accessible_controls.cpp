@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/accessible_controls.h"
 
 #include "platform/foundation/numbers.h"

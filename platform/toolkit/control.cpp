@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/control.h"
 
 #include "platform/foundation/numbers.h"

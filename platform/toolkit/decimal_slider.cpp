@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/decimal_slider.h"
 
 #include <QPainter>

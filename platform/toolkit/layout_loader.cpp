@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/layout_loader.h"
 
 #include "platform/foundation/bundle.h"

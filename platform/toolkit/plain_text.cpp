@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/plain_text.h"
 
 #include <QGuiApplication>

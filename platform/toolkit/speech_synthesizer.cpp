@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/speech_synthesizer.h"
 
 #include <QProcess>

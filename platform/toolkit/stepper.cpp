@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/stepper.h"
 
 #include <QKeyEvent>

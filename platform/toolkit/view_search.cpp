@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/view_search.h"
 
 #include "platform/toolkit/control.h"

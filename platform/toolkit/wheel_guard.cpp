@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/wheel_guard.h"
 
 #include "platform/toolkit/stepper.h"

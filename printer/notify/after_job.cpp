@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/notify/after_job.h"
 
 #include "platform/foundation/notifications/notification_bus.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tells the open print dialogs that a printer's data has changed; for back ends and scripts.
 
 #include "platform/foundation/notifications/notification_bus.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/papers/catalogue_archive.h"
 
 #include <QHash>

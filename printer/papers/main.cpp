@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // halvern-papers: packs a printer's papers into the form that the print dialog reads, and shows what is
 // packed.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/papers/paper_change.h"
 
 #include "printer/papers/paper_list.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/papers/ppd_archive.h"
 
 #include "platform/printing/ppd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // halvern-print as a process: what it says and how it ends.
 #include "tests/support/test.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/job/ipp_options.h"
 #include "dialog/job/job_options.h"
 #include "dialog/server/saved_options.h"

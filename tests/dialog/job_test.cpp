@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sending, following and acting on jobs, with a print server that the tests play.
 #include "dialog/job/job_follower.h"
 #include "dialog/job/job_submitter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/options/page_fit.h"
 #include "tests/dialog/model_support.h"
 

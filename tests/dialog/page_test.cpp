@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_data.h"
 #include "dialog/page/page_layout.h"
 #include "dialog/page/page_renderer.h"

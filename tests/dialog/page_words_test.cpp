@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the dialog's pages say in the user's language.
 #include "tests/dialog/model_support.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/paper_keeper.h"
 #include "dialog/session/starting_options.h"
 #include "platform/printing/print_settings.h"

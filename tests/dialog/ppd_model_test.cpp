@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/dialog/model_support.h"
 
 namespace halvern {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preview: the printer's adjustments on the screen, the whole page and 1:1.
 #include "dialog/preview/preview_widget.h"
 #include "dialog/preview/screen_photo.h"

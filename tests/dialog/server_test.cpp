@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialog's model and window on a real print server with virtual printers.
 #include "dialog/job/job_actions.h"
 #include "dialog/program/batch_print.h"

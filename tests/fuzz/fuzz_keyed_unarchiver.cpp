@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Run it on a copy of the seeds, with the words of the format. The small quarantine keeps the sanitizer's own
 // memory out of the limit:
 //   mkdir -p build/fuzz/corpus && cp tests/{platform/fixtures,fuzz/seeds}/*.plist build/fuzz/corpus

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/user_defaults.h"
 #include "platform/toolkit/decimal_slider.h"
 #include "platform/toolkit/matrix.h"

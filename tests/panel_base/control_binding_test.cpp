@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/matrix_panel.h"
 #include "platform/foundation/bundle.h"
 #include "platform/toolkit/control.h"

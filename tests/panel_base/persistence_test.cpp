@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/panel_base/test_panel.h"
 
 namespace halvern {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/bundle.h"
 #include "platform/toolkit/help_viewer.h"
 #include "platform/toolkit/layout_loader.h"

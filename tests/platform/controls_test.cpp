@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/toolkit/accessible_controls.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/decimal_slider.h"

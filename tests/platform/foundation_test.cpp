@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/date_additions.h"
 #include "platform/foundation/description.h"
 #include "platform/foundation/display_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/page_format.h"
 #include "platform/printing/ppd.h"
 #include "platform/printing/print_settings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ends with work still queued for the main thread, work that queues more when it is dropped. Passes by
 // ending.
 

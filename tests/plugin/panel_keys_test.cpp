@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The keys that work a page with Alt, beside those of the dialog around it.
 #include "dialog/program/application.h"
 #include "dialog/session/dialog_session.h"

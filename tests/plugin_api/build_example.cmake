@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Installs the library and the plug-in headers from the build tree, and builds the example against them.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)

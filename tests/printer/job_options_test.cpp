@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/fault_plan.h"
 #include "printer/job_options.h"
 #include "tests/support/test.h"

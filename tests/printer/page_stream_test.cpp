@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "printer/page_stream.h"
 #include "tests/support/test.h"
 

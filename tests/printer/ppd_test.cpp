@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/printing/cups_ppd.h"
 #include "tests/support/test.h"
 

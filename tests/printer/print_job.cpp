@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/printer/print_job.h"
 #include "platform/printing/cups_connection.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/printer/print_job.h"
 
 #include <cups/cups.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/fake_host.h"
 #include "tests/support/text.h"
 

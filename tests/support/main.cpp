@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/leftovers.h"
 #include "tests/support/text.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/observers.h"
 #include "tests/support/text.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/private_cups.h"
 #include "tests/support/text.h"
 

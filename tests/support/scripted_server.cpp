@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/scripted_server.h"
 #include "tests/support/text.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// What every test includes: the frameworks, the types that most tests name, and the helpers.

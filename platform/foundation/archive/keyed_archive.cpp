@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/archive/keyed_archive.h"
 
 #include <QString>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/archive/keyed_archive_survey.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/archive/property_list_object_table.h"
 
 #include <QString>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/archive/xml_property_list.h"
 
 #include "platform/foundation/archive/binary_property_list_writer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/notifications/distributed_notification_center.h"
 
 #include "platform/foundation/log.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/notifications/notification_bus.h"
 
 #include <systemd/sd-bus.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/notifications/notification_center.h"
 
 #include "platform/foundation/notifications/observer_registry.h"

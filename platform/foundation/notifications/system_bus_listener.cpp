@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/notifications/system_bus_listener.h"
 
 #include "platform/foundation/notifications/notification_bus.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/threads/run_loop_timer.h"
 
 #include "platform/foundation/threads/work_queue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/threads/semaphore.h"
 
 namespace halvern {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/threads/work_queue.h"
 
 #include "platform/foundation/log.h"

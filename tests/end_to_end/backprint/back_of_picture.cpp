@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/end_to_end/backprint/back_of_picture.h"
 
 namespace halvern {

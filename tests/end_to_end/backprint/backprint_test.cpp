@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lines typed into the Backprint page of the real dialog, printed on a real server.
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/message_bar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lines given to halvern-print as a process.
 #include "tests/end_to_end/backprint/back_of_picture.h"
 

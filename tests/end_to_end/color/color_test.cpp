@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Color Adjustments in the real dialog, with the bundle as it is shipped, as far as the real printer. The
 // user is German: what is typed has "." all the same.
 #include "dialog/preview/preview_widget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The Cover Page replacement alone in the roster, on queues that print a banner page by themselves.
 #include "panels/simple/cover_page_panel.h"
 #include "platform/printing/print_settings.h"

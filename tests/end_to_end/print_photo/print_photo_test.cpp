@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/session/plugin_loader.h"
 #include "tests/support/real_dialog.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is chosen before the dialog opens, and offered by the printer, is what the untouched dialog prints on.
 #include "dialog/session/plugin_loader.h"
 #include "tests/support/real_dialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dialog as a process, left while it asks the printer.
 #include "platform/printing/jobs.h"
 #include "tests/support/test.h"

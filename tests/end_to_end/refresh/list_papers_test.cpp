@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // halvern-print --list-papers as a process, on a real server.
 #include "dialog/program/paper_table.h"
 #include "platform/printing/jobs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/panel_base/commands/command_panel.h"
 
 #include "platform/foundation/threads/work_queue.h"

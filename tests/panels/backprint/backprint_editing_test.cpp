@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/panels/backprint/backprint_window.h"
 
 #include <QInputMethodEvent>

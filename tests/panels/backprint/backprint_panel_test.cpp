@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/backprint/back_preview.h"
 #include "platform/foundation/notifications/notification_center.h"
 #include "tests/panels/backprint/backprint_window.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/maker/backprint_text.h"
 #include "tests/support/test.h"
 

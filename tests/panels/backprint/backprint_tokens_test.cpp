@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/user_defaults.h"
 #include "platform/maker/backprint_text.h"
 #include "tests/panels/backprint/backprint_window.h"

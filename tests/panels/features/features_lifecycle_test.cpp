@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/panels/features/features_fixture.h"
 
 #include "platform/toolkit/control.h"

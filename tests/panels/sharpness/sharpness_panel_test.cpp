@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/simple/sharpness_panel.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/decimal_slider.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panel_base/tags.h"
 #include "panels/simple/color_adjust_panel.h"
 #include "platform/toolkit/control.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/simple/color_matching_panel.h"
 #include "platform/toolkit/control.h"
 #include "platform/toolkit/view_search.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/platform/archive/archive_assembler.h"
 
 namespace halvern::test {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/foundation/archive/keyed_unarchiver.h"
 #include "platform/printing/ppd.h"
 #include "printer/papers/catalogue_archive.h"
