@@ -3,6 +3,8 @@
 
 #include "platform/toolkit/user_action.h"
 
+#include <algorithm>
+
 namespace halvern {
 
 ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin origin,
@@ -15,8 +17,10 @@ ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin
         action_ = UserAction::number();
         isOpen_ = true;
     }
-    if (origin == ChangeOrigin::user)
+    if (origin == ChangeOrigin::user) {
         isUsers_ = true;
+        undone_.remove(change.key);
+    }
     if (!before_.contains(change.key))
         before_.insert(change.key, change.before);
     if (origin == ChangeOrigin::rule)
@@ -43,6 +47,35 @@ void ChangeHistory::tell(const SideChange& change)
         return;
     told_.append(change);
     hasToTell_ = true;
+}
+
+ChangeHistory::News ChangeHistory::takeNews()
+{
+    News news{News::Kind::none, std::exchange(told_, {})};
+    endGroup();
+    if (news.changes.isEmpty())
+        return news;
+    const bool wasUndone = std::ranges::all_of(news.changes, [this](const SideChange& change) {
+        return undone_.contains(change.key) && undone_.value(change.key) == change.before;
+    });
+    if (isUsers_) {
+        news.kind = News::Kind::users;
+    } else if (wasUndone) {
+        undo_.clear();
+        news.kind = News::Kind::correctedAgain;
+    } else {
+        news.kind = News::Kind::corrected;
+    }
+    return news;
+}
+
+QMap<QString, QString> ChangeHistory::takeUndo()
+{
+    if (!undo_.isEmpty()) {
+        endGroup();
+        undone_ = undo_;
+    }
+    return std::exchange(undo_, {});
 }
 
 void ChangeHistory::clear()

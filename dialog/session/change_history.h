@@ -27,14 +27,24 @@ public:
 
     void endGroup() { isOpen_ = false; }
 
-    /// What changed beside what the user wanted. Each is told once.
-    QList<SideChange> takeTold() { return std::exchange(told_, {}); }
+    /// What changed beside what the user wanted.
+    struct News {
+        enum class Kind {
+            none,
+            users,          ///< followed from what the user did
+            corrected,      ///< a rule's doing alone
+            correctedAgain, ///< the same, and just what was undone: there is nothing to undo, it would come
+                            ///< again
+        };
+        Kind kind = Kind::none;
+        QList<SideChange> changes;
+    };
 
-    /// Whether the user did something in the group.
-    bool isUsers() const { return isUsers_; }
+    /// The news of the group, which ends. Each change is told once.
+    News takeNews();
 
     /// Values by option, to be put back; empty if there is nothing to undo. Nothing can be undone then.
-    QMap<QString, QString> takeUndo() { return std::exchange(undo_, {}); }
+    QMap<QString, QString> takeUndo();
 
     void clear();
 
@@ -48,6 +58,7 @@ private:
     QMap<QString, QString> before_;
     QList<SideChange> told_;
     QMap<QString, QString> undo_;
+    QMap<QString, QString> undone_; // what was put back and has not been changed by the user since
 };
 
 } // namespace halvern

@@ -3,7 +3,6 @@
 
 #include "dialog/session/starting_options.h"
 #include "platform/foundation/units.h"
-#include "platform/printing/page_format.h"
 #include "platform/printing/print_settings.h"
 #include "platform/printing/printer.h"
 #include "platform/toolkit/user_action.h"
@@ -21,11 +20,6 @@ namespace {
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 const QString kPaperFeed = QStringLiteral("PaperFeed");
 
-PageRect toPageRect(const QRectF& rect)
-{
-    return {rect.top(), rect.left(), rect.bottom(), rect.right()};
-}
-
 } // namespace
 
 DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObject* parent)
@@ -34,9 +28,9 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
       photos_(request_.files, request_.printDamaged),
       printer_(request_),
       panels_(panels),
-      settings_(std::make_shared<PrintSettings>())
+      settings_(std::make_shared<PrintSettings>()),
+      page_(request_.copies)
 {
-    page_.copies = request_.copies;
     connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
     connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
     connect(&photos_, &PhotoLoader::damaged, this, &DialogSession::photoDamaged);
@@ -74,7 +68,6 @@ void DialogSession::leavePrinter()
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
-    undone_.clear();
     backLinesProblem_.clear();
 }
 
@@ -104,7 +97,7 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
         applyGiven(*model_, givenBy(OptionOrigin::queue, printer.ppd.defaults) +
                                 givenBy(OptionOrigin::saved, printer_.savedOptions()) +
                                 givenBy(OptionOrigin::typed, request_.options));
-    takeWishes(start.page);
+    page_.takeWishes(start.page);
     for (const LeftOut& left : start.leftOut) {
         if (left.origin == OptionOrigin::typed)
             Q_EMIT refused(left.sentence);
@@ -131,18 +124,6 @@ void DialogSession::rememberStart(const SettledOption& settled)
     remember(settled.key, settled.before, ChangeOrigin::user, settled.sideChanges);
 }
 
-// Once: what the user sets afterwards is not taken back by the next printer.
-void DialogSession::takeWishes(const PageWishes& wishes)
-{
-    if (std::exchange(hasTakenWishes_, true))
-        return;
-    if (wishes.scaling == QLatin1StringView("fill"))
-        page_.scaling = Scaling::fill;
-    else if (wishes.scaling == QLatin1StringView("none"))
-        page_.scaling = Scaling::actualSize;
-    page_.isCollated = wishes.isCollated.value_or(page_.isCollated);
-}
-
 void DialogSession::loadPanels()
 {
     const std::optional<QString> bundle =
@@ -158,18 +139,10 @@ void DialogSession::loadPanels()
 
 void DialogSession::setPage(const PageSettings& page)
 {
-    if (page.scaling != page_.scaling)
+    if (page.scaling != page_.settings().scaling)
         photos_.centre();
-    page_ = page;
+    page_.set(page);
     Q_EMIT optionsChanged();
-}
-
-PageLayout DialogSession::layoutFor(const Photo& photo) const
-{
-    SheetGeometry sheet{QSizeF(595.28, 841.89), QRectF(0.0, 0.0, 595.28, 841.89)};
-    if (model_)
-        sheet = model_->sheet();
-    return layOut({sheet.paper, sheet.imageable, photo.ownSize, page_.scaling, page_.turn, photo.position});
 }
 
 Look DialogSession::look() const
@@ -200,8 +173,6 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
         panels_.tell(side.key, side.choice);
     }
     keeper_->forget(key);
-    if (origin == ChangeOrigin::user)
-        undone_.remove(key);
     remember(key, before, origin, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
@@ -223,20 +194,19 @@ void DialogSession::remember(const QString& key, const QString& before, ChangeOr
 
 void DialogSession::tellChanges()
 {
-    const QList<SideChange> changes = history_.takeTold();
-    history_.endGroup();
-    if (changes.isEmpty())
-        return;
-    const bool wasUndone = std::ranges::all_of(changes, [this](const SideChange& change) {
-        return undone_.contains(change.key) && undone_.value(change.key) == change.before;
-    });
-    if (history_.isUsers()) {
-        Q_EMIT otherOptionsChanged(changes);
-    } else if (wasUndone) {
-        history_.takeUndo();
-        Q_EMIT undoFailed(changes);
-    } else {
-        Q_EMIT optionsCorrected(changes);
+    const ChangeHistory::News news = history_.takeNews();
+    switch (news.kind) {
+    case ChangeHistory::News::Kind::none:
+        break;
+    case ChangeHistory::News::Kind::users:
+        Q_EMIT otherOptionsChanged(news.changes);
+        break;
+    case ChangeHistory::News::Kind::corrected:
+        Q_EMIT optionsCorrected(news.changes);
+        break;
+    case ChangeHistory::News::Kind::correctedAgain:
+        Q_EMIT undoFailed(news.changes);
+        break;
     }
 }
 
@@ -266,7 +236,6 @@ void DialogSession::undoLastChange()
     if (!model_ || before.isEmpty())
         return;
     history_.endGroup();
-    undone_ = before;
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
@@ -317,14 +286,7 @@ void DialogSession::handBack(const QString& key)
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
 {
-    if (!model_)
-        return nullptr;
-    const SheetGeometry sheet = model_->sheet();
-    const bool turned =
-        photos().empty() ? page_.turn == PageTurn::landscape : layoutFor(photos().front()).turned;
-    return std::make_shared<PageFormat>(toPageRect(QRectF(QPointF(), sheet.paper)),
-                                        toPageRect(sheet.imageable),
-                                        turned ? PageOrientation::landscape : PageOrientation::portrait);
+    return model_ ? page_.format(*model_, photos().empty() ? nullptr : &photos().front()) : nullptr;
 }
 
 void DialogSession::takeOffer(const PrinterOffer& offer)
@@ -349,7 +311,7 @@ OptionValues DialogSession::collectOptions()
     if (keeper_)
         keeper_->showSheetName();
     return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
-                            page_.copies, int(photos().size()), page_.isCollated});
+                            page().copies, int(photos().size()), page().isCollated});
 }
 
 PrintRun* DialogSession::makeRun()

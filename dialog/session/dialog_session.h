@@ -8,6 +8,7 @@
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
 #include "dialog/session/change_history.h"
+#include "dialog/session/page_setup.h"
 #include "dialog/session/paper_keeper.h"
 #include "dialog/session/photo_loader.h"
 #include "dialog/session/printer_choice.h"
@@ -16,14 +17,6 @@
 #include <QObject>
 
 namespace halvern {
-
-/// What the user sets beside the printer's options.
-struct PageSettings {
-    Scaling scaling = Scaling::fit;
-    PageTurn turn = PageTurn::automatic;
-    int copies = 1;
-    bool isCollated = true;
-};
 
 /// Everything about one print dialog that is not a widget: how photos, printer, options and panels come
 /// together, and the job that comes of them. Main thread only; what blocks is done by workers.
@@ -68,13 +61,13 @@ public:
     /// one again does nothing.
     void selectPrinter(const QString& name) { printer_.select(name); }
 
-    const PageSettings& page() const { return page_; }
+    const PageSettings& page() const { return page_.settings(); }
 
     /// Another scaling puts all photos back in the middle.
     void setPage(const PageSettings& page);
 
     /// The layout of a photo on the current sheet.
-    PageLayout layoutFor(const Photo& photo) const;
+    PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model_.get()); }
 
     /// What the printer's adjustments do to the photos, from the options' current values.
     Look look() const;
@@ -147,7 +140,6 @@ private:
     void takeOffer(const PrinterOffer& offer);
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
-    void takeWishes(const PageWishes& wishes);
     void rememberStart(const SettledOption& settled);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
@@ -165,11 +157,9 @@ private:
     PrinterPanels panels_;
     std::shared_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
-    PageSettings page_;
-    bool hasTakenWishes_ = false;
+    PageSetup page_;
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
-    QMap<QString, QString> undone_; // what was put back and has not been changed by the user since
     QString backLinesProblem_;
 };
 

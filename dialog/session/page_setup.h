@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/page/page_layout.h"
+
+#include <memory>
+
+namespace halvern {
+
+class PageFormat;
+class PpdModel;
+struct PageWishes;
+struct Photo;
+
+/// What the user sets beside the printer's options.
+struct PageSettings {
+    Scaling scaling = Scaling::fit;
+    PageTurn turn = PageTurn::automatic;
+    int copies = 1;
+    bool isCollated = true;
+};
+
+/// How photos are laid on the printer's sheet: what the user set, applied to a printer. Main thread only.
+class PageSetup {
+public:
+    explicit PageSetup(int copies) { settings_.copies = copies; }
+
+    const PageSettings& settings() const { return settings_; }
+
+    void set(const PageSettings& settings) { settings_ = settings; }
+
+    /// Takes what was given as options of a job. Only the first time: what the user sets afterwards is not
+    /// taken back by the next printer.
+    void takeWishes(const PageWishes& wishes);
+
+    /// The layout of a photo on the model's current sheet, without a model on A4 to its edges.
+    PageLayout layout(const Photo& photo, const PpdModel* model) const;
+
+    /// The sheet as panels ask for it, turned as it is for `first`; null: by what the user set alone.
+    std::shared_ptr<PageFormat> format(const PpdModel& model, const Photo* first) const;
+
+private:
+    PageSettings settings_;
+    bool hasTakenWishes_ = false;
+};
+
+} // namespace halvern
