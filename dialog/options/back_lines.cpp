@@ -53,6 +53,11 @@ BackLine readBackLine(int number, const QString& text)
     return line;
 }
 
+QString backLineText(int number)
+{
+    return QStringLiteral("CVP%1").arg(number);
+}
+
 QString backLineSwitch(int number)
 {
     return QStringLiteral("EnableCVP%1").arg(number);
@@ -62,7 +67,7 @@ OptionValues backLineOptions(const QStringList& storedLines)
 {
     OptionValues options;
     for (int i = 0; i < storedLines.size(); ++i) {
-        options.append({QStringLiteral("CVP%1").arg(i + 1), storedLines[i]});
+        options.append({backLineText(i + 1), storedLines[i]});
         options.append({backLineSwitch(i + 1), QStringLiteral("True")});
     }
     return options;

@@ -22,6 +22,9 @@ BackLine readBackLine(int number, const QString& text);
 /// The options that print the stored lines, each switched on.
 OptionValues backLineOptions(const QStringList& storedLines);
 
+/// The option that holds a line's text.
+QString backLineText(int number);
+
 /// The option that switches a line on; 1 is the first line. A printer without it prints no such line.
 QString backLineSwitch(int number);
 

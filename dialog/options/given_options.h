@@ -9,7 +9,7 @@ using ppd_file_t = ppd_file_s;
 namespace halvern {
 
 /// Who gave an option its value; a later one of these wins over an earlier one.
-enum class OptionOrigin { queue, saved, typed };
+enum class OptionOrigin { queue, saved, remembered, typed };
 
 struct GivenOption {
     QString key;

@@ -17,6 +17,7 @@ SessionRequest unattended(SessionRequest request)
     request.replacesLostDefault = false;
     request.panelsAskPrinter = false;
     request.panelsChangeOptions = false;
+    request.remembers = false;
     return request;
 }
 

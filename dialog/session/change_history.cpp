@@ -14,6 +14,7 @@ ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin
         before_.clear();
         hasToTell_ = false;
         isUsers_ = false;
+        isStep_ = false;
         action_ = UserAction::number();
         isOpen_ = true;
     }
@@ -32,12 +33,24 @@ ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin
     }
     if (hasToTell_) {
         undo_ = before_;
+        undoesStep_ = isStep_;
         return Effect::toTell;
     }
     if (!undo_.contains(change.key))
         return Effect::none;
     undo_.clear();
+    undoesStep_ = false;
     return Effect::expired;
+}
+
+void ChangeHistory::noteStep(const QMap<QString, QString>& before)
+{
+    before_ = undo_ = before;
+    hasToTell_ = false;
+    isUsers_ = isStep_ = undoesStep_ = true;
+    action_ = UserAction::number();
+    isOpen_ = true;
+    undone_.removeIf([&](const auto& value) { return before.contains(value.key()); });
 }
 
 void ChangeHistory::tell(const SideChange& change)
@@ -62,6 +75,7 @@ ChangeHistory::News ChangeHistory::takeNews()
         news.kind = News::Kind::users;
     } else if (wasUndone) {
         undo_.clear();
+        undoesStep_ = false;
         news.kind = News::Kind::correctedAgain;
     } else {
         news.kind = News::Kind::corrected;
@@ -75,6 +89,7 @@ QMap<QString, QString> ChangeHistory::takeUndo()
         endGroup();
         undone_ = undo_;
     }
+    undoesStep_ = false;
     return std::exchange(undo_, {});
 }
 

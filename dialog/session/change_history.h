@@ -25,6 +25,13 @@ public:
     /// Notes a change that was made, with those that a resolver made beside it.
     Effect note(const SideChange& change, ChangeOrigin origin, const QList<SideChange>& others);
 
+    /// Notes many changes of the user's that are one step, with the values before them: it can be undone as a
+    /// whole even if nothing else followed. It is open for what follows, until takeNews().
+    void noteStep(const QMap<QString, QString>& before);
+
+    /// Whether undoing takes such a step back.
+    bool undoesStep() const { return undoesStep_; }
+
     void endGroup() { isOpen_ = false; }
 
     /// What changed beside what the user wanted.
@@ -54,6 +61,8 @@ private:
     bool isOpen_ = false;
     bool isUsers_ = false;
     bool hasToTell_ = false;
+    bool isStep_ = false;
+    bool undoesStep_ = false;
     quint64 action_ = 0;
     QMap<QString, QString> before_;
     QList<SideChange> told_;

@@ -34,6 +34,7 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
     connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
     connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
     connect(&photos_, &PhotoLoader::damaged, this, &DialogSession::photoDamaged);
+    connect(&presets_, &Presets::failed, this, &DialogSession::notice);
     connect(&printer_, &PrinterChoice::leaving, this, &DialogSession::leavePrinter);
     connect(&printer_, &PrinterChoice::selected, this, &DialogSession::printerSelected);
     connect(&printer_, &PrinterChoice::notice, this, &DialogSession::notice);
@@ -69,6 +70,8 @@ void DialogSession::leavePrinter()
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
     backLinesProblem_.clear();
+    presets_.leave();
+    filledIn_.clear();
 }
 
 void DialogSession::takePrinter(const FetchedPrinter& printer)
@@ -83,6 +86,9 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
     // Not from the list, which may come later: a panel asks once and remembers.
     panels_.meet(std::make_shared<PanelHost>(*this, std::make_shared<Printer>(printerName(), ppd.deviceUri),
                                              model_->sharedFile(), request_.panelsAskPrinter));
+    if (!printer.presets.problem.isEmpty())
+        Q_EMIT notice(printer.presets.problem);
+    presets_.take(printerName(), model_->file(), printer.presets, printer_.saved());
     applyOptions(printer);
     keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, printer.offer);
     loadPanels();
@@ -93,17 +99,16 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
 void DialogSession::applyOptions(const FetchedPrinter& printer)
 {
     const QMap<QString, QString> byDefault = model_->values();
+    printerDefaults_ = printerDefaults(*model_, printer.ppd.defaults);
+    presets_.setPrinterDefaults(printerDefaults_);
+    const std::optional<PresetEntry> preset = startingPreset();
     const StartingOptions start =
-        applyGiven(*model_, givenBy(OptionOrigin::queue, printer.ppd.defaults) +
-                                givenBy(OptionOrigin::saved, printer_.savedOptions()) +
-                                givenBy(OptionOrigin::typed, request_.options));
-    page_.takeWishes(start.page);
-    for (const LeftOut& left : start.leftOut) {
-        if (left.origin == OptionOrigin::typed)
-            Q_EMIT refused(left.sentence);
-        else
-            Q_EMIT notice(tr("A saved setting was left out. %1").arg(left.sentence));
-    }
+        applyGiven(*model_,
+                   givenBy(OptionOrigin::queue, printer.ppd.defaults) +
+                       givenBy(OptionOrigin::saved, printer_.savedOptions()),
+                   preset ? &preset->preset : nullptr, givenBy(OptionOrigin::typed, request_.options));
+    takeStartingPage(start.page, preset);
+    tellLeftOut(start.leftOut, preset ? preset->title() : QString());
     for (const SettledOption& settled : start.settled)
         rememberStart(settled);
     const AppliedLines lines = applyBackLines(*model_, request_.backLines, printerName());
@@ -116,6 +121,7 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
     if (request_.panelsChangeOptions)
         nameLoadedSheet(*model_, printer.offer);
     storeStart(*model_, byDefault, printer.ppd.jobSheets, *settings_);
+    chooseStartingPreset(preset);
 }
 
 void DialogSession::rememberStart(const SettledOption& settled)
@@ -142,6 +148,7 @@ void DialogSession::setPage(const PageSettings& page)
     if (page.scaling != page_.settings().scaling)
         photos_.centre();
     page_.set(page);
+    pageIsUsers_ = true;
     Q_EMIT optionsChanged();
 }
 
@@ -173,6 +180,8 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
         panels_.tell(side.key, side.choice);
     }
     keeper_->forget(key);
+    if (origin == ChangeOrigin::filling)
+        filledIn_.insert(key, model_->value(key));
     remember(key, before, origin, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
@@ -232,14 +241,19 @@ std::optional<PageMisfit> DialogSession::pageMisfit() const
 
 void DialogSession::undoLastChange()
 {
+    const bool isStep = history_.undoesStep();
     const QMap<QString, QString> before = history_.takeUndo();
-    if (!model_ || before.isEmpty())
+    if (!model_ || (before.isEmpty() && !isStep))
         return;
     history_.endGroup();
     model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
         panels_.tell(it.key(), it.value());
+    }
+    if (isStep) {
+        page_.set(beforeStep_.page);
+        presets_.choose(PresetEntry(beforeStep_.chosen));
     }
     Q_EMIT optionsChanged();
 }
@@ -320,7 +334,10 @@ PrintRun* DialogSession::makeRun()
     std::vector<PageToPrint> pages;
     for (const Photo& photo : photos())
         pages.push_back({photo, layoutFor(photo)});
-    return new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
+    auto* run = new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
+    if (request_.remembers)
+        rememberWhenSent(run);
+    return run;
 }
 
 } // namespace halvern

@@ -11,6 +11,8 @@
 #include "dialog/session/page_setup.h"
 #include "dialog/session/paper_keeper.h"
 #include "dialog/session/photo_loader.h"
+#include "dialog/session/preset_use.h"
+#include "dialog/session/presets.h"
 #include "dialog/session/printer_choice.h"
 #include "dialog/session/printer_panels.h"
 
@@ -86,6 +88,22 @@ public:
     /// them has been changed again.
     void undoLastChange();
 
+    /// The presets of the selected printer. What is chosen comes from chosen(), as far as isAsChosen() says.
+    Presets& presets() { return presets_; }
+
+    /// Sets everything as a preset has it, in one step that undoLastChange() takes back. presetApplied()
+    /// follows, and a notice() of what cannot be had.
+    void applyPreset(const PresetEntry& entry);
+
+    /// Keeps what is set now under a name, in the place of what has it.
+    void savePreset(const QString& name, const PresetContents& contents);
+
+    /// What would be kept.
+    Preset capture(const PresetContents& contents);
+
+    /// Whether everything is set as the chosen preset has it.
+    bool isAsChosen() const;
+
     /// Whether print() would do something.
     bool canPrint() const;
 
@@ -130,6 +148,8 @@ Q_SIGNALS:
     void undoFailed(const QList<halvern::SideChange>& changes);
     /// undoLastChange() would do nothing any more.
     void undoExpired();
+    /// A preset was applied as one step.
+    void presetApplied(const QString& title);
     /// There is news of what the printer has loaded.
     void offerChanged();
     /// Option values or the page have changed.
@@ -140,6 +160,12 @@ private:
     void takeOffer(const PrinterOffer& offer);
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
+    std::optional<PresetEntry> startingPreset();
+    void takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset);
+    void tellLeftOut(const QList<LeftOut>& leftOut, const QString& presetTitle);
+    void chooseStartingPreset(const std::optional<PresetEntry>& used);
+    PresetOptions resetTo(const PresetEntry& entry);
+    void rememberWhenSent(PrintRun* run);
     void rememberStart(const SettledOption& settled);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
@@ -161,6 +187,16 @@ private:
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
     QString backLinesProblem_;
+    Presets presets_;
+    QMap<QString, QString> printerDefaults_;
+    QMap<QString, QString> filledIn_; // by panels, where nobody had chosen anything
+    bool hasTakenPreset_ = false;
+    bool pageIsUsers_ = false; // no other printer's preset changes it
+
+    struct {
+        PageSettings page;
+        PresetEntry chosen;
+    } beforeStep_;
 };
 
 } // namespace halvern

@@ -39,6 +39,12 @@ OptionValues PrinterChoice::savedOptions() const
     return saved_.optionsOf(printerName_ == queueOf(startedWith_) ? startedWith_ : printerName_);
 }
 
+QString PrinterChoice::instance() const
+{
+    const bool isInstance = startedWith_ != queueOf(startedWith_) && printerName_ == queueOf(startedWith_);
+    return isInstance ? startedWith_ : QString();
+}
+
 void PrinterChoice::takePrinters()
 {
     const bool isLost = request_.printer.isEmpty() && request_.replacesLostDefault && !isThere_ &&
@@ -67,7 +73,8 @@ void PrinterChoice::select(const QString& name)
     const PrinterInfo* info = printers_->find(name);
     const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
     QPointer<PrinterChoice> self(this);
-    WorkQueue().async([self, name, newQueueUri, stop = stopFetching_] {
+    const bool readsPresets = request_.remembers || !request_.preset.isEmpty();
+    WorkQueue().async([self, name, newQueueUri, readsPresets, stop = stopFetching_] {
         FetchedPrinter printer;
         QueuePpd& ppd = printer.ppd;
         if (!newQueueUri.isEmpty())
@@ -79,6 +86,8 @@ void PrinterChoice::select(const QString& name)
             printer.model = std::make_shared<PpdModel>(std::move(*ppd.file));
         if (printer.model)
             printer.offer = readPrinterOffer(printer.model->file());
+        if (readsPresets)
+            printer.presets = PresetFile(name).read();
         mainQueue().async([self, printer = std::move(printer), stop] {
             if (self && !stop->load())
                 self->takePpd(printer);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/options/ppd_model.h"
+#include "dialog/options/preset_file.h"
 #include "dialog/options/printer_offer.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
@@ -16,6 +17,7 @@ struct FetchedPrinter {
     QueuePpd ppd;
     std::shared_ptr<PpdModel> model; ///< null if there is no PPD; ppd.problem then says why
     PrinterOffer offer;
+    KeptPresets presets;
 };
 
 /// Which of the server's printers a dialog prints on, and the fetching of what it is. Main thread only, never
@@ -37,6 +39,11 @@ public:
 
     /// What the user saved for the selected printer, or for the instance of it that the dialog started with.
     OptionValues savedOptions() const;
+
+    const SavedOptions& saved() const { return saved_; }
+
+    /// The instance of the selected printer whose saved options count; empty if none does.
+    QString instance() const;
 
     /// Selects a queue and fetches its PPD; fetched() follows. Selecting the selected one again does nothing,
     /// unless its PPD is not there.

@@ -25,6 +25,11 @@ struct SessionRequest {
     /// would settle on a feed of its own.
     bool panelsChangeOptions = true;
     QStringList backLines = {}; ///< for the back of the pictures, in the form that is stored
+    /// The preset to start with, by its name; empty: what was printed with last, if the session remembers.
+    QString preset = {};
+    /// Whether it starts with what the user printed with last, and remembers what is printed.
+    bool remembers = true;
+    bool namesCopies = false; ///< somebody said how many, so no preset decides it
 };
 
 } // namespace halvern

@@ -2,6 +2,7 @@
 #include "dialog/session/starting_options.h"
 
 #include "dialog/options/back_lines.h"
+#include "dialog/session/preset_use.h"
 #include "platform/printing/print_settings.h"
 
 #include <QCoreApplication>
@@ -18,11 +19,37 @@ struct Words {
 
 } // namespace
 
-StartingOptions applyGiven(PpdModel& model, const GivenOptions& given)
+StartingOptions applyGiven(PpdModel& model, const GivenOptions& given, const Preset* preset,
+                           const GivenOptions& typed)
 {
-    UnderstoodOptions understood = understand(model.file(), given);
-    ApplyResult result = model.apply(understood.options);
-    return {understood.page, understood.leftOut + result.leftOut, result.settled};
+    const UnderstoodOptions below = understand(model.file(), given);
+    const UnderstoodOptions above = understand(model.file(), typed);
+    PresetOptions remembered;
+    if (preset) {
+        QMap<QString, QString> otherwise = model.values();
+        for (const GivenOption& option : below.options)
+            otherwise.insert(option.key, option.value);
+        remembered = optionsOf(model, *preset, otherwise);
+    }
+    const ApplyResult result = model.apply(below.options + remembered.given + above.options);
+    PageWishes page = above.page;
+    if (page.scaling.isEmpty())
+        page.scaling = below.page.scaling;
+    if (!page.isCollated)
+        page.isCollated = below.page.isCollated;
+    return {page, below.leftOut + remembered.leftOut + above.leftOut + result.leftOut, result.settled};
+}
+
+QMap<QString, QString> printerDefaults(PpdModel& model, const OptionValues& queues)
+{
+    const QMap<QString, QString> before = model.values();
+    model.apply(understand(model.file(), givenBy(OptionOrigin::queue, queues)).options);
+    const QMap<QString, QString> defaults = model.values();
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        if (defaults.value(it.key()) != it.value())
+            model.restore({{it.key(), it.value()}});
+    }
+    return defaults;
 }
 
 AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QString& printer)

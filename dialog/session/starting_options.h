@@ -7,6 +7,7 @@
 namespace halvern {
 
 class PrintSettings;
+struct Preset;
 
 /// What became of the options that a printer starts with. All of this on the thread that owns the model.
 struct StartingOptions {
@@ -15,8 +16,14 @@ struct StartingOptions {
     QList<SettledOption> settled;
 };
 
-/// Applies what the queue, the user's files and the command line say, in that order.
-StartingOptions applyGiven(PpdModel& model, const GivenOptions& given);
+/// Applies what the queue and the user's files say, what a preset remembers (null: none), and what the
+/// command line says, in that order.
+StartingOptions applyGiven(PpdModel& model, const GivenOptions& given, const Preset* preset,
+                           const GivenOptions& typed);
+
+/// What the options are by the printer's defaults alone: the PPD's, and over them the queue's own. The model
+/// is as it was.
+QMap<QString, QString> printerDefaults(PpdModel& model, const OptionValues& queues);
 
 /// What became of the lines for the back of the pictures.
 struct AppliedLines {

@@ -5,6 +5,7 @@
 #include "dialog/window/disabled_reasons.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
+#include "dialog/window/preset_bar.h"
 #include "dialog/window/run_bar.h"
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/wheel_guard.h"
@@ -33,6 +34,7 @@ namespace {
 const QString kPrinterMessages = QStringLiteral("printer");
 const QString kReasonMessage = QStringLiteral("printer/why");
 const QString kUndoMessage = QStringLiteral("printer/undo");
+const QString kPresetMessage = QStringLiteral("printer/preset");
 const QString kMisfitMessage = QStringLiteral("printer/misfit");
 constexpr int kLongestName = 120;
 constexpr int kLongestState = 240;
@@ -183,6 +185,13 @@ QLayout* PrintDialog::makePrinterRows(QWidget* parent)
     form->setVerticalSpacing(6);
     form->addRow(label, printer_);
     form->addRow(QString(), printerState_);
+    presets_ = new PresetBar(session_, parent);
+    auto* presetLabel = new QLabel(tr("Pre&set:"), parent);
+    presetLabel->setBuddy(presets_->box());
+    form->addRow(presetLabel, presets_);
+    connect(presets_, &PresetBar::told, this, [this](const QString& sentence, const MessageAction& action) {
+        message_->showMessage(MessageKind::information, sentence, action, kPresetMessage);
+    });
     connect(printer_, &QComboBox::activated, this,
             [this] { session_.selectPrinter(printer_->currentData().toString()); });
     return form;
@@ -269,7 +278,8 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::printerLeaving, this, [this] { deck_->releasePanels(); });
     connect(&session_, &DialogSession::printerReady, this, [this] {
         deck_->rebuild();
-        updateButtons();
+        presets_->refresh();
+        showPage();
     });
     connect(&session_, &DialogSession::printerFailed, this, [this](const QString& sentence) {
         deck_->rebuild();
@@ -296,8 +306,13 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
         clearOldOutcome();
         deck_->refresh();
+        presets_->refresh();
         showPhotos();
         showMisfit();
+    });
+    connect(&session_, &DialogSession::presetApplied, this, [this](const QString& title) {
+        showPage();
+        offerUndo(tr("\"%1\" was applied.").arg(title));
     });
     connect(&session_, &DialogSession::offerChanged, this, &PrintDialog::showMisfit);
     connect(&session_, &DialogSession::undoExpired, this, [this] { message_->withdraw(kUndoMessage); });
@@ -415,7 +430,23 @@ QString PrintDialog::inWords(const QList<SideChange>& changes) const
 void PrintDialog::offerUndo(const QString& sentence)
 {
     message_->showMessage(MessageKind::information, sentence,
-                          {tr("&Undo"), [this] { session_.undoLastChange(); }}, kUndoMessage);
+                          {tr("&Undo"),
+                           [this] {
+                               session_.undoLastChange();
+                               showPage();
+                           }},
+                          kUndoMessage);
+}
+
+// What a preset, or undoing one, has made of the fields.
+void PrintDialog::showPage()
+{
+    const PageSettings page = session_.page();
+    const QSignalBlocker copiesBlocked(copies_);
+    const QSignalBlocker collateBlocked(collate_);
+    copies_->setValue(page.copies);
+    collate_->setChecked(page.isCollated);
+    updateButtons();
 }
 
 // Told as long as it is true, but once only to somebody who has closed the message.

@@ -19,6 +19,7 @@ namespace halvern {
 class MessageBar;
 enum class MessageKind;
 class PanelDeck;
+class PresetBar;
 class PreviewWidget;
 class RunBar;
 
@@ -74,6 +75,7 @@ private:
     void showPhotos();
     void step(int by);
     void showOtherChanges(const QList<SideChange>& changes);
+    void showPage();
     void showCorrections(const QList<SideChange>& changes);
     QString inWords(const QList<SideChange>& changes) const;
     void updateButtons();
@@ -93,6 +95,7 @@ private:
     QWidget* messageRoom_ = nullptr; // where messages are told while the preview is no neighbour
     QComboBox* printer_ = nullptr;
     QLabel* printerState_ = nullptr;
+    PresetBar* presets_ = nullptr;
     PanelDeck* deck_ = nullptr;
     QSpinBox* copies_ = nullptr;
     QCheckBox* collate_ = nullptr;

@@ -5,6 +5,7 @@
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
+#include "dialog/window/preset_bar.h"
 #include "platform/foundation/user_defaults.h"
 
 #include <QBoxLayout>
@@ -107,6 +108,7 @@ void PrintDialog::resizeEvent(QResizeEvent* event)
 void PrintDialog::orderTabs()
 {
     QList<QWidget*> order{printer_};
+    order += presets_->tabOrder();
     order += deck_->tabOrder();
     order += {copies_, cancel_, print_};
     if (previewIsBeside_)

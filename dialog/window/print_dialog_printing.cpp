@@ -5,6 +5,7 @@
 #include "dialog/window/damage_question.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
+#include "dialog/window/preset_bar.h"
 #include "dialog/window/run_bar.h"
 
 #include <QCheckBox>
@@ -21,6 +22,7 @@ void PrintDialog::updateButtons()
     const bool isBusy = isRunning();
     print_->setEnabled(!isBusy && session_.canPrint());
     printer_->setEnabled(!isBusy);
+    presets_->setEnabled(!isBusy && session_.model());
     deck_->setEnabled(!isBusy);
     copies_->setEnabled(!isBusy);
     collate_->setEnabled(!isBusy);

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// What a session starts with and what it keeps: presets, and what was printed with last.
+#include "dialog/session/dialog_session.h"
+
+#include "dialog/session/starting_options.h"
+#include "platform/printing/print_settings.h"
+
+namespace halvern {
+
+// Whoever names an instance of the saved options wants these, and not what was printed with last.
+std::optional<PresetEntry> DialogSession::startingPreset()
+{
+    if (!request_.preset.isEmpty() && !std::exchange(hasTakenPreset_, true)) {
+        if (const PresetEntry* named = presets_.find(request_.preset))
+            return *named;
+        Q_EMIT refused(presets_.unknownText(request_.preset));
+    }
+    const bool asksForInstance = !printer_.instance().isEmpty() && request_.printer == printer_.instance();
+    const PresetEntry* last = presets_.find(lastUsedName());
+    return request_.remembers && !asksForInstance && last ? std::optional(*last) : std::nullopt;
+}
+
+void DialogSession::takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset)
+{
+    if (preset && !pageIsUsers_) {
+        PageSettings page = withPreset(page_.settings(), preset->preset);
+        if (request_.namesCopies)
+            page.copies = request_.copies;
+        page_.set(page);
+    }
+    page_.takeWishes(wishes);
+    pageIsUsers_ = pageIsUsers_ || !wishes.scaling.isEmpty() || wishes.isCollated;
+}
+
+void DialogSession::tellLeftOut(const QList<LeftOut>& leftOut, const QString& presetTitle)
+{
+    QList<LeftOut> ofPreset;
+    for (const LeftOut& left : leftOut) {
+        if (left.origin == OptionOrigin::typed)
+            Q_EMIT refused(left.sentence);
+        else if (left.origin == OptionOrigin::remembered)
+            ofPreset.append(left);
+        else
+            Q_EMIT notice(tr("A saved setting was left out. %1").arg(left.sentence));
+    }
+    if (ofPreset.isEmpty())
+        return;
+    // With nobody there to look, half of a preset is not what was asked for.
+    const QString sentence = leftOutSentence(presetTitle, ofPreset);
+    if (request_.panelsChangeOptions)
+        Q_EMIT notice(sentence);
+    else
+        Q_EMIT refused(sentence);
+}
+
+void DialogSession::chooseStartingPreset(const std::optional<PresetEntry>& used)
+{
+    const PresetEntry* chosen = used ? &*used : presets_.findInstance(printer_.instance());
+    if (used && used->kind == PresetKind::lastUsed && !used->preset.basedOn.isEmpty()) {
+        const PresetEntry* base = presets_.find(used->preset.basedOn);
+        if (base && isAsPreset(*model_, page(), base->preset, {}))
+            chosen = base;
+    }
+    if (chosen)
+        presets_.choose(PresetEntry(*chosen));
+}
+
+// Everything by the printer's defaults, and over them the preset's options. A preset without texts for the
+// back leaves those alone.
+PresetOptions DialogSession::resetTo(const PresetEntry& entry)
+{
+    const QMap<QString, QString>& options = entry.preset.options;
+    for (auto it = printerDefaults_.cbegin(); it != printerDefaults_.cend(); ++it) {
+        const bool stays = isAboutBack(it.key()) && !options.contains(it.key());
+        if (!stays && model_->value(it.key()) != it.value())
+            model_->restore({{it.key(), it.value()}});
+    }
+    PresetOptions wanted = optionsOf(*model_, entry.preset, model_->values());
+    wanted.leftOut += model_->apply(wanted.given).leftOut;
+    nameLoadedSheet(*model_, keeper_->offer());
+    return wanted;
+}
+
+void DialogSession::applyPreset(const PresetEntry& entry)
+{
+    if (!model_ || !keeper_)
+        return;
+    keeper_->showSheetName();
+    const QMap<QString, QString> before = model_->values();
+    beforeStep_ = {page(), presets_.chosen()};
+    const QList<LeftOut> leftOut = resetTo(entry).leftOut;
+    QMap<QString, QString> replaced;
+    const QMap<QString, QString> after = model_->values();
+    for (auto it = after.cbegin(); it != after.cend(); ++it) {
+        if (before.contains(it.key()) && before.value(it.key()) == it.value())
+            continue;
+        if (before.contains(it.key()))
+            replaced.insert(it.key(), before.value(it.key()));
+        storeInSettings(it.key());
+        keeper_->forget(it.key());
+        panels_.tell(it.key(), it.value());
+    }
+    history_.noteStep(replaced);
+    // With what the panels' rules make of it.
+    panels_.later([this] { tellChanges(); });
+    setPage(withPreset(page(), entry.preset));
+    presets_.choose(PresetEntry(entry));
+    Q_EMIT presetApplied(entry.title());
+    tellLeftOut(leftOut, entry.title());
+}
+
+Preset DialogSession::capture(const PresetContents& contents)
+{
+    if (!model_)
+        return {};
+    panels_.save();
+    keeper_->showSheetName();
+    return capturePreset(*model_, settings_->values(), page(), printerDefaults_, contents);
+}
+
+void DialogSession::savePreset(const QString& name, const PresetContents& contents)
+{
+    if (!model_ || name.isEmpty())
+        return;
+    Preset preset = capture(contents);
+    preset.name = name;
+    presets_.save(preset);
+}
+
+bool DialogSession::isAsChosen() const
+{
+    return !model_ || isAsPreset(*model_, page(), presets_.chosen().preset, filledIn_);
+}
+
+void DialogSession::rememberWhenSent(PrintRun* run)
+{
+    Preset last = captureLastUsed(*model_, settings_->values(), page(), printerDefaults_);
+    if (presets_.chosen().kind == PresetKind::named && isAsChosen())
+        last.basedOn = presets_.chosen().preset.name;
+    connect(run, &PrintRun::submitted, this,
+            [this, queue = printerName(), last] { presets_.remember(queue, last); });
+}
+
+} // namespace halvern

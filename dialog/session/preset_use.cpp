@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/session/preset_use.h"
+
+#include "dialog/options/back_lines.h"
+#include "dialog/session/session_request.h"
+#include "platform/printing/cups_ppd.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace halvern {
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Presets)
+};
+
+constexpr qsizetype kMostSentences = 5;
+const QString kScaling = QStringLiteral("scaling");
+const QString kTurn = QStringLiteral("turn");
+const QString kCollate = QStringLiteral("collate");
+const QString kCopies = QStringLiteral("copies");
+
+template <typename Value> struct Word {
+    Value value;
+    const char* word;
+};
+
+constexpr std::array kScalings{Word<Scaling>{Scaling::fit, "fit"}, Word<Scaling>{Scaling::fill, "fill"},
+                               Word<Scaling>{Scaling::actualSize, "none"}};
+constexpr std::array kTurns{Word<PageTurn>{PageTurn::automatic, "automatic"},
+                            Word<PageTurn>{PageTurn::portrait, "portrait"},
+                            Word<PageTurn>{PageTurn::landscape, "landscape"}};
+
+template <typename Words, typename Value> QString wordOf(const Words& words, Value value)
+{
+    for (const auto& row : words) {
+        if (row.value == value)
+            return QString::fromLatin1(row.word);
+    }
+    return {};
+}
+
+template <typename Words, typename Value> void readWord(const Words& words, const QString& word, Value& value)
+{
+    for (const auto& row : words) {
+        if (word == QLatin1StringView(row.word))
+            value = row.value;
+    }
+}
+
+QString trueOrFalse(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+QMap<QString, QString> pageTexts(const PageSettings& page)
+{
+    return {{kScaling, wordOf(kScalings, page.scaling)},
+            {kTurn, wordOf(kTurns, page.turn)},
+            {kCollate, trueOrFalse(page.isCollated)}};
+}
+
+bool isBackText(const QString& key)
+{
+    return key == backLineText(1) || key == backLineText(2);
+}
+
+bool isBackSwitch(const QString& key)
+{
+    return key == backLineSwitch(1) || key == backLineSwitch(2);
+}
+
+static_assert(kBackLines == 2);
+
+// The printer's own, or a free text for which its PPD has nothing but a default.
+bool isPrinters(const PpdModel& model, const QString& key)
+{
+    const QByteArray standard = key.toUtf8() + "Default";
+    return ppd_lookup::option(model.file(), key) ||
+           ppdFindAttr(model.file(), standard.constData(), nullptr) != nullptr;
+}
+
+// What the page holds already.
+bool isPages(const QString& key)
+{
+    return key.compare(QLatin1StringView("Collate"), Qt::CaseInsensitive) == 0 || key == kCopies;
+}
+
+bool canHave(const PpdModel& model, const QString& key, const QString& value)
+{
+    return ppd_lookup::listedChoice(model.file(), key, value) ||
+           (!ppd_lookup::option(model.file(), key) && isPrinters(model, key)) ||
+           ppdFindCustomOption(model.file(), key.toUtf8().constData());
+}
+
+// A sheet may be chosen by its keyword or by the printer's name for it.
+bool isSameChoice(const PpdModel& model, const QString& key, const QString& one, const QString& other)
+{
+    if (one == other)
+        return true;
+    const bool areListed = ppd_lookup::listedChoice(model.file(), key, one) &&
+                           ppd_lookup::listedChoice(model.file(), key, other);
+    return !areListed && model.choiceText(key, one) == model.choiceText(key, other);
+}
+
+} // namespace
+
+PresetContents contentsOf(const Preset& preset)
+{
+    return {preset.page.contains(kCopies), preset.options.contains(backLineText(1))};
+}
+
+QString makeAndModelOf(ppd_file_t* file)
+{
+    const QString make = QString::fromUtf8(file->manufacturer).simplified();
+    const QString model = QString::fromUtf8(file->modelname ? file->modelname : file->nickname).simplified();
+    return model.startsWith(make, Qt::CaseInsensitive) || model.isEmpty() ? model
+                                                                          : make + QLatin1Char(' ') + model;
+}
+
+Preset capturePreset(const PpdModel& model, const QVariantMap& saved, const PageSettings& page,
+                     const QMap<QString, QString>& byDefault, const PresetContents& contents)
+{
+    QMap<QString, QString> values = model.values();
+    for (auto it = saved.cbegin(); it != saved.cend(); ++it) {
+        if (isPrinters(model, it.key()))
+            values.insert(it.key(), valueText(it.value()));
+    }
+    Preset preset;
+    preset.makeAndModel = makeAndModelOf(model.file());
+    preset.saved = QDateTime::currentDateTimeUtc();
+    preset.page = pageTexts(page);
+    if (contents.copies)
+        preset.page.insert(kCopies, QString::number(page.copies));
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (!isPrinters(model, it.key()) || isPages(it.key()) || (isBackText(it.key()) && !contents.backText))
+            continue;
+        preset.options.insert(it.key(), it.value());
+        if (byDefault.value(it.key()) != it.value())
+            preset.changed.append(it.key());
+    }
+    return preset;
+}
+
+Preset captureLastUsed(const PpdModel& model, const QVariantMap& saved, const PageSettings& page,
+                       const QMap<QString, QString>& byDefault)
+{
+    Preset preset = capturePreset(model, saved, page, byDefault, {});
+    // A switch without its text prints nothing.
+    preset.options.removeIf([](const auto& option) { return isBackSwitch(option.key()); });
+    preset.changed.removeIf(isBackSwitch);
+    return preset;
+}
+
+Preset understoodPreset(ppd_file_t* file, const Preset& preset)
+{
+    Preset understood = preset;
+    understood.options.clear();
+    for (auto it = preset.options.cbegin(); it != preset.options.cend(); ++it) {
+        const UnderstoodOptions one =
+            understand(file, givenBy(OptionOrigin::remembered, {{it.key(), it.value()}}));
+        for (const GivenOption& option : one.options)
+            understood.options.insert(option.key, option.value);
+        if (!one.leftOut.isEmpty())
+            understood.options.insert(it.key(), it.value());
+        if (!one.page.scaling.isEmpty())
+            understood.page.insert(kScaling, one.page.scaling);
+        if (one.page.isCollated)
+            understood.page.insert(kCollate, trueOrFalse(*one.page.isCollated));
+    }
+    understood.changed = understood.options.keys();
+    return understood;
+}
+
+PresetOptions optionsOf(const PpdModel& model, const Preset& preset, const QMap<QString, QString>& otherwise)
+{
+    PresetOptions options;
+    for (auto it = preset.options.cbegin(); it != preset.options.cend(); ++it) {
+        if (otherwise.contains(it.key()) && otherwise.value(it.key()) == it.value())
+            continue;
+        if (!preset.changed.contains(it.key()) &&
+            (!canHave(model, it.key(), it.value()) || model.isInstallable(it.key())))
+            continue;
+        if (isPrinters(model, it.key()) && !isPages(it.key()))
+            options.given.append({it.key(), it.value(), OptionOrigin::remembered});
+        else
+            options.leftOut.append(
+                {OptionOrigin::remembered, Words::tr("The printer has no option \"%1\".").arg(it.key())});
+    }
+    return options;
+}
+
+bool isAsPreset(const PpdModel& model, const PageSettings& page, const Preset& preset,
+                const QMap<QString, QString>& settled)
+{
+    for (auto it = preset.options.cbegin(); it != preset.options.cend(); ++it) {
+        const QString now = model.value(it.key());
+        const bool isSettled = settled.contains(it.key()) && settled.value(it.key()) == now;
+        if (isPrinters(model, it.key()) && !isPages(it.key()) && !isSettled &&
+            !isSameChoice(model, it.key(), now, it.value()))
+            return false;
+    }
+    return pageTexts(withPreset(page, preset)) == pageTexts(page) &&
+           withPreset(page, preset).copies == page.copies;
+}
+
+PageSettings withPreset(PageSettings page, const Preset& preset)
+{
+    readWord(kScalings, preset.page.value(kScaling), page.scaling);
+    readWord(kTurns, preset.page.value(kTurn), page.turn);
+    if (preset.page.contains(kCollate))
+        page.isCollated = preset.page.value(kCollate) == QLatin1StringView("true");
+    const int copies = preset.page.value(kCopies).toInt();
+    if (copies >= 1 && copies <= kMostCopies)
+        page.copies = copies;
+    return page;
+}
+
+bool isAboutBack(const QString& key)
+{
+    return isBackText(key) || isBackSwitch(key);
+}
+
+QString leftOutSentence(const QString& title, const QList<LeftOut>& leftOut)
+{
+    if (leftOut.isEmpty())
+        return {};
+    QStringList sentences;
+    for (const LeftOut& left : leftOut.mid(0, kMostSentences))
+        sentences.append(left.sentence);
+    if (leftOut.size() > kMostSentences)
+        sentences.append(Words::tr("And %1 more.").arg(leftOut.size() - kMostSentences));
+    return Words::tr("Not all of \"%1\" can be had now.").arg(title) + QLatin1Char(' ') +
+           sentences.join(QLatin1Char(' '));
+}
+
+} // namespace halvern

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+// What is kept of a printer's settings: the files, and what of a preset reaches a printer.
+#include "dialog/options/preset_file.h"
+#include "dialog/session/preset_use.h"
+#include "dialog/session/starting_options.h"
+#include "tests/dialog/model_support.h"
+
+#include <QLockFile>
+
+#include <sys/stat.h>
+
+namespace halvern {
+namespace {
+
+Preset presetWith(const char* name, const QMap<QString, QString>& options)
+{
+    Preset preset;
+    preset.name = q(name);
+    preset.options = options;
+    preset.changed = options.keys();
+    return preset;
+}
+
+QStringList namesIn(const PresetFile& file)
+{
+    QStringList names;
+    for (const Preset& preset : file.read().presets)
+        names.append(preset.name);
+    return names;
+}
+
+} // namespace
+
+TEST(PresetFile, KeepsWhatTwoDialogsSaveAndEachPresetAsItWas)
+{
+    const PresetFile one(q("Room/..%7"));
+    const PresetFile two(q("Room/..%7"));
+    Preset whole = presetWith("Matte, \"fine\"", {{q("PageSize"), q("A4")}, {q("CVP1"), q("{a} é")}});
+    whole.makeAndModel = q("Halvern Tessarin");
+    whole.saved = QDateTime::fromString(q("2026-11-22T03:00:00Z"), Qt::ISODate);
+    whole.changed = QStringList{q("CVP1")};
+    whole.page = {{q("copies"), q("3")}};
+    EXPECT_EQ(one.save(whole), QString());
+    EXPECT_EQ(two.save(presetWith("Other", {})), QString());
+    EXPECT_EQ(one.remember(presetWith("", {{q("PageSize"), q("A5")}})), QString());
+    EXPECT_EQ(two.rename(q("Other"), q("Another")), QString());
+    EXPECT_NE(one.rename(q("Another"), whole.name), QString()) << "the name is taken";
+    EXPECT_NE(one.remove(q("Other")), QString()) << "another dialog has renamed it";
+    QStringList added;
+    EXPECT_EQ(one.add({presetWith("Another", {})}, &added), QString());
+    EXPECT_EQ(added, QStringList{q("Another (2)")});
+    const KeptPresets kept = two.read();
+    EXPECT_EQ(namesIn(two), (QStringList{q("Another"), q("Another (2)"), whole.name}));
+    EXPECT_EQ(kept.presets.back(), whole);
+    EXPECT_EQ(kept.lastUsed->options.value(q("PageSize")), q("A5"));
+    EXPECT_EQ(QFileInfo(one.path()).dir().dirName(), q("presets")) << "a queue's name leads nowhere else";
+
+    const QList<QueuesPreset> others = presetsForModel(q("Halvern Tessarin"), q("Third"));
+    ASSERT_EQ(others.size(), 1);
+    EXPECT_TRUE(others.front().queue == q("Room/..%7") && others.front().preset == whole);
+
+    QTemporaryDir folder;
+    EXPECT_EQ(exportPresets(folder.filePath(q("p.json")), {whole}), QString());
+    EXPECT_EQ(importPresets(folder.filePath(q("p.json"))).presets, QList<Preset>{whole});
+
+    QLockFile lock(one.path() + q(".lock"));
+    ASSERT_TRUE(lock.lock());
+    EXPECT_TRUE(two.remove(whole.name).contains(q(".lock")));
+    EXPECT_EQ(namesIn(two).size(), 3) << "reading needs no lock";
+}
+
+TEST(PresetFile, WhatCannotBeReadIsSetAsideOrLeftAloneAndStopsNothing)
+{
+    const QByteArray head = R"({"schema": "halvern-presets", "version": )";
+
+    const struct {
+        const char* what;
+        QByteArray text;
+        bool isSetAside;
+    } cases[] = {
+        {"cut", head + "1, \"presets\": [", true},
+        {"of somebody else", R"({"version": 1})", true},
+        {"no JSON", "\xff\xfe garbage", true},
+        {"empty", "", true},
+        {"deep", QByteArray(5000, '['), true},
+        {"newer", head + "2}", false},
+        {"odd", head + R"(1, "lastUsed": 7, "presets": [4, {"name": "x", "options": {"A": 1}}]})", false},
+        {"a pipe", {}, true}};
+
+    for (const auto& c : cases) {
+        const PresetFile file(q(c.what));
+        writeFile(file.path(), c.text);
+        if (q(c.what) == q("a pipe")) {
+            QFile::remove(file.path());
+            ASSERT_EQ(mkfifo(file.path().toLocal8Bit().constData(), 0600), 0);
+        }
+        const KeptPresets kept = file.read();
+        EXPECT_TRUE(kept.presets.isEmpty() && !kept.problem.isEmpty()) << c.what;
+        EXPECT_EQ(QFileInfo::exists(file.path()), !c.isSetAside) << c.what;
+        const QFileInfo info(file.path());
+        const QStringList aside =
+            info.dir().entryList({info.fileName() + q(".damaged-*")}, QDir::Files | QDir::System);
+        EXPECT_EQ(aside.size(), c.isSetAside ? 1 : 0) << c.what;
+        EXPECT_EQ(file.save(presetWith("New", {})).isEmpty(), q(c.what) != q("newer")) << c.what;
+        EXPECT_FALSE(importPresets(file.path() + q(".gone")).problem.isEmpty());
+    }
+}
+
+TEST(PresetUse, SetsOnlyOptionsThatThePrinterHasAndSaysWhatIsGone)
+{
+    const auto model = tessarinModel();
+    const QMap<QString, QString> byDefault = model->values();
+    Preset stranger = presetWith("From afar", {{q("PageSize"), q("A4")},
+                                               {q("Resolution"), q("9600dpi")},
+                                               {q("job-hold-until"), q("indefinite")},
+                                               {q("copies"), q("999")},
+                                               {q("Unknown"), q("1")},
+                                               {q("Red"), q("400")},
+                                               {q("Gone"), q("Default")}});
+    stranger.changed.removeAll(q("Gone"));
+    stranger.page = {{q("copies"), q("100000")}, {q("scaling"), q("none")}, {q("turn"), q("over")}};
+    const StartingOptions start =
+        applyGiven(*model, {}, &stranger, givenBy(OptionOrigin::typed, {{q("PaperTone"), q("Warm")}}));
+    EXPECT_EQ(start.leftOut.size(), 5) << "all but what had the default";
+    for (const LeftOut& left : start.leftOut)
+        EXPECT_EQ(left.origin, OptionOrigin::remembered) << qPrintable(left.sentence);
+    QMap<QString, QString> expected = byDefault;
+    expected.insert(q("PageSize"), q("A4"));
+    expected.insert(q("PaperTone"), q("Warm"));
+    EXPECT_EQ(model->values(), expected);
+    const PageSettings page = withPreset({}, stranger);
+    EXPECT_TRUE(page.copies == 1 && page.scaling == Scaling::actualSize && page.turn == PageTurn::automatic);
+}
+
+TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
+{
+    const auto model = tessarinModel();
+    const QMap<QString, QString> byDefault = printerDefaults(*model, {});
+    PageSettings page;
+    page.copies = 7;
+    for (const auto& [key, value] : {std::pair("EnableCVP1", "True"), {"CVP1", "Lake"}, {"PageSize", "A4"}})
+        ASSERT_TRUE(model->change(q(key), q(value)).accepted);
+    const QVariantMap saved{{q("com.halvern.private.key"), 1}, {q("job-sheets"), q("none")}};
+    const Preset last = captureLastUsed(*model, saved, page, byDefault);
+    EXPECT_EQ(last.changed, QStringList{q("PageSize")});
+    for (const char* key : {"CVP1", "EnableCVP1", "job-sheets", "com.halvern.private.key"})
+        EXPECT_FALSE(last.options.contains(q(key))) << key;
+    EXPECT_FALSE(contentsOf(last).copies || contentsOf(last).backText);
+    const Preset full = capturePreset(*model, saved, page, byDefault, {true, true});
+    EXPECT_TRUE(contentsOf(full).copies && contentsOf(full).backText);
+    EXPECT_EQ(withPreset({}, full).copies, 7);
+    EXPECT_TRUE(isAsPreset(*model, page, full, {}) && isAsPreset(*model, page, last, {}));
+    ASSERT_TRUE(model->change(q("PaperName"), q("MatteA4")).accepted);
+    EXPECT_FALSE(isAsPreset(*model, page, full, {}));
+    EXPECT_TRUE(isAsPreset(*model, page, full, {{q("PaperName"), q("MatteA4")}})) << "nobody chose it";
+}
+
+} // namespace halvern
