@@ -2,7 +2,9 @@
 #include "dialog/program/command_line.h"
 
 #include "dialog/options/back_lines.h"
+#include "dialog/options/preset.h"
 #include "dialog/page/photo_problem.h"
+#include "platform/foundation/display_text.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -47,6 +49,28 @@ public:
         QStringLiteral("dry-run"),
         tr("Write the options that would be sent, one KEY=VALUE a line, and send nothing.")};
 
+    QCommandLineOption preset{
+        QStringLiteral("preset"),
+        tr("Start with this preset of the printer's. Without it the dialog starts with what you printed with "
+           "last, and --no-dialog with your saved options."),
+        QStringLiteral("NAME")};
+
+    QCommandLineOption savePreset{
+        QStringLiteral("save-preset"),
+        tr("Keep the queue's saved options, --preset and the options given here as a preset, and print "
+           "nothing. Copies and the text on the back are in it if they are given."),
+        QStringLiteral("NAME")};
+    QCommandLineOption listPrinters{QStringLiteral("list-printers"),
+                                    tr("Write the print server's queues, a line each.")};
+    QCommandLineOption listOptions{
+        QStringLiteral("list-options"),
+        tr("Write the printer's options with their current and default value and their choices, a line "
+           "each.")};
+    QCommandLineOption listPresets{QStringLiteral("list-presets"),
+                                   tr("Write the names of the printer's presets, a line each.")};
+    QCommandLineOption json{
+        QStringLiteral("json"),
+        tr("With --list-printers, --list-options or --list-presets: write JSON, with more details.")};
     QCommandLineOption listPapers{QStringLiteral("list-papers"),
                                   tr("Write what the printer has loaded, and how old that knowledge is.")};
     QCommandLineOption refresh{QStringLiteral("refresh"), tr("With --list-papers: ask the printer first.")};
@@ -77,12 +101,29 @@ public:
 
     static QString refreshAlone() { return tr("--refresh goes with --list-papers."); }
 
-    static QString listAndPrint()
+    static QString jsonAlone()
     {
-        return tr("--list-papers prints no files: leave out the files and the options for printing.");
+        return tr("--json goes with --list-printers, --list-options or --list-presets.");
+    }
+
+    static QString listAndPrint(const QString& option)
+    {
+        return tr("--%1 prints no files: leave out the files and the options for printing.").arg(option);
+    }
+
+    static QString reservedName(const QString& name)
+    {
+        return tr("\"%1\" is a preset that is always there. Choose another name.").arg(name);
     }
 
     static QString noFile() { return tr("Name at least one photo to print (JPEG, PNG, TIFF or PDF)."); }
+
+    static QString badPresetName(const QString& text)
+    {
+        return tr("\"%1\" is no name of a preset: write 1 to %2 characters.")
+            .arg(displayText(text, 40))
+            .arg(kLongestPresetName);
+    }
 
     static QString emptyPrinter() { return tr("The queue's name is empty. \"lpstat -e\" lists the queues."); }
 
@@ -148,13 +189,54 @@ QString readBackLines(const QStringList& texts, CommandLine& line, QStringList& 
     return {};
 }
 
-bool isListOnly(const QCommandLineParser& parser, const Switches& switches, const CommandLine& line)
+/// Something to write instead of printing, and what else may be said with it.
+struct ListingSwitch {
+    const QCommandLineOption& option;
+    Listing what;
+    QList<QCommandLineOption> goesWith;
+};
+
+QList<ListingSwitch> listingSwitches(const Switches& switches)
 {
-    const QList<QCommandLineOption> printing{switches.option,       switches.copies,   switches.backprint,
-                                             switches.printDamaged, switches.noDialog, switches.dryRun};
-    return line.request.files.isEmpty() &&
-           std::none_of(printing.begin(), printing.end(),
-                        [&](const QCommandLineOption& option) { return parser.isSet(option); });
+    return {{switches.listPapers, Listing::papers, {switches.printer, switches.refresh, switches.wait}},
+            {switches.listPrinters, Listing::printers, {switches.json}},
+            {switches.listOptions,
+             Listing::options,
+             {switches.printer, switches.option, switches.preset, switches.json}},
+            {switches.listPresets, Listing::presets, {switches.printer, switches.json}},
+            {switches.savePreset,
+             Listing::savePreset,
+             {switches.printer, switches.option, switches.preset, switches.copies, switches.backprint}}};
+}
+
+// What to write instead of printing, if anything. The sentence about what does not go with it; empty if all
+// does.
+QString readListing(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
+{
+    for (const ListingSwitch& listing : listingSwitches(switches)) {
+        if (!parser.isSet(listing.option))
+            continue;
+        QStringList known = listing.option.names();
+        for (const QCommandLineOption& other : listing.goesWith)
+            known += other.names();
+        const QStringList given = parser.optionNames();
+        const bool isAlone = std::all_of(given.begin(), given.end(),
+                                         [&](const QString& name) { return known.contains(name); });
+        if (!isAlone || !line.request.files.isEmpty())
+            return Switches::listAndPrint(listing.option.names().front());
+        line.listing = {listing.what, parser.isSet(switches.json), parser.value(switches.savePreset)};
+        if (listing.what == Listing::papers)
+            line.listPapers = ListPapersRequest{line.request.printer, parser.isSet(switches.refresh)};
+        const QString& name = line.listing.name;
+        if (listing.what == Listing::savePreset && presetName(name).isEmpty())
+            return Switches::badPresetName(name);
+        if (isPrinterDefaultsName(name) || isLastUsedName(name))
+            return Switches::reservedName(name);
+        return {};
+    }
+    if (parser.isSet(switches.refresh))
+        return Switches::refreshAlone();
+    return parser.isSet(switches.json) ? Switches::jsonAlone() : QString();
 }
 
 QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
@@ -178,6 +260,10 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
             return Switches::badWait(parser.value(switches.wait));
         line.wait = std::chrono::seconds(seconds);
     }
+    line.request.namesCopies = parser.isSet(switches.copies);
+    line.request.preset = parser.value(switches.preset);
+    if (parser.isSet(switches.preset) && presetName(line.request.preset).isEmpty())
+        return Switches::badPresetName(line.request.preset);
     line.request.printer = parser.value(switches.printer);
     if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
         return Switches::emptyPrinter();
@@ -192,8 +278,9 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
-                       switches.printDamaged, switches.noDialog, switches.wait, switches.dryRun,
-                       switches.listPapers, switches.refresh});
+                       switches.preset, switches.printDamaged, switches.noDialog, switches.wait,
+                       switches.dryRun, switches.listPrinters, switches.listPapers, switches.refresh,
+                       switches.listOptions, switches.listPresets, switches.savePreset, switches.json});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -211,20 +298,16 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     line.request.printDamaged = parser.isSet(switches.printDamaged);
     line.dryRun = parser.isSet(switches.dryRun);
     QStringList remarks;
+    line.request.files = parser.positionalArguments();
     QString problem = readValues(parser, switches, line);
     if (problem.isEmpty())
         problem = readBackLines(parser.values(switches.backprint), line, remarks);
+    if (problem.isEmpty())
+        problem = readListing(parser, switches, line);
     if (!problem.isEmpty())
         return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
-    line.request.files = parser.positionalArguments();
-    if (parser.isSet(switches.listPapers)) {
-        line.listPapers = ListPapersRequest{line.request.printer, parser.isSet(switches.refresh)};
-        if (!isListOnly(parser, switches, line))
-            return wrong(Switches::listAndPrint() + QLatin1Char(' ') + Switches::seeHelp());
-        return {line, {}, kExitPrinted};
-    }
-    if (parser.isSet(switches.refresh))
-        return wrong(Switches::refreshAlone() + QLatin1Char(' ') + Switches::seeHelp());
+    if (line.listing.what != Listing::none)
+        return {line, {}, kExitPrinted, remarks};
     if (line.request.files.isEmpty())
         return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
     QStringList unusable;
@@ -242,9 +325,13 @@ bool asksForWindow(const QStringList& arguments)
     const Switches switches;
     QCommandLineParser parser;
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint, switches.wait,
-                       switches.noDialog, switches.dryRun, switches.listPapers});
-    const QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(),
-                                               switches.noDialog, switches.dryRun, switches.listPapers};
+                       switches.noDialog, switches.dryRun, switches.preset});
+    QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
+                                         switches.dryRun};
+    for (const ListingSwitch& listing : listingSwitches(switches)) {
+        parser.addOption(listing.option);
+        windowless.append(listing.option);
+    }
     const QStringList ours = withoutToolkitsOwn(arguments);
     parser.parse(ours);
     const bool isWindowless =

@@ -3,6 +3,7 @@
 
 #include "dialog/program/exit_status.h"
 #include "dialog/program/list_papers.h"
+#include "dialog/program/listings.h"
 #include "dialog/session/session_request.h"
 
 #include <chrono>
@@ -15,7 +16,8 @@ struct CommandLine {
     SessionRequest request;
     bool showDialog = true;
     bool dryRun = false;                              ///< say what would be sent, and send nothing
-    std::optional<ListPapersRequest> listPapers = {}; ///< list them and do nothing else
+    ListingRequest listing = {};                      ///< write that and do nothing else
+    std::optional<ListPapersRequest> listPapers = {}; ///< of Listing::papers
     std::chrono::seconds wait{
         60}; ///< how long a server that goes silent after the job was sent is borne with
 };

@@ -5,10 +5,10 @@
 #include "dialog/program/command_line.h"
 #include "dialog/program/paper_table.h"
 #include "dialog/program/printer_inquiry.h"
+#include "dialog/program/queue_state.h"
 #include "dialog/program/quit_signals.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
-#include "dialog/server/saved_options.h"
 #include "dialog/session/plugin_loader.h"
 #include "platform/foundation/bundle.h"
 #include "platform/foundation/display_text.h"
@@ -33,7 +33,7 @@ public:
 
     int run()
     {
-        if (!findQueue() || !fetch())
+        if (!findTheQueue() || !fetch())
             return kExitFailed;
         const std::optional<QDateTime> before = readLoadedPapers(file_.get()).lastUpdate;
         // What is known is listed all the same: it may be enough for now.
@@ -58,25 +58,12 @@ private:
         return false;
     }
 
-    bool findQueue()
+    bool findTheQueue()
     {
-        const PrinterAnswer answer = askPrinters(cancelled_);
-        if (!answer.problem.isEmpty())
-            return fail(answer.problem);
-        queue_ = queueOf(startingPrinter(request_.printer, readSavedOptions()));
-        if (queue_.isEmpty())
-            queue_ = answer.defaultName;
-        if (queue_.isEmpty() && answer.printers.size() == 1)
-            queue_ = answer.printers.front().name;
-        for (const PrinterInfo& printer : answer.printers) {
-            if (printer.name == queue_) {
-                isAccepting_ = printer.isAccepting;
-                return true;
-            }
-        }
-        if (queue_.isEmpty() && !answer.printers.empty())
-            return fail(tr("The print server has no default printer. Name one with --printer."));
-        return fail(unknownPrinterText(queue_, answer.printers));
+        const FoundQueue found = findQueue(request_.printer, cancelled_);
+        queue_ = found.name;
+        isAccepting_ = found.isAccepting;
+        return found.problem.isEmpty() || fail(found.problem);
     }
 
     bool fetch()

@@ -79,20 +79,22 @@ int runBatch(const CommandLine& line)
     return status;
 }
 
-int runListing(const ListPapersRequest& request)
+int runListing(const CommandLine& line)
 {
     watchQuitSignals();
     sendTraceToSystemLog();
     QTextStream out(stdout);
     QTextStream err(stderr);
+    if (!line.listPapers)
+        return writeListing(line.listing, line.request, out, err);
     const PluginLoader panels;
-    return listPapers(request, panels, out, err);
+    return listPapers(*line.listPapers, panels, out, err);
 }
 
 int run(const CommandLine& line)
 {
-    if (line.listPapers)
-        return runListing(*line.listPapers);
+    if (line.listing.what != Listing::none)
+        return runListing(line);
     return line.showDialog ? runDialog(line) : runBatch(line);
 }
 

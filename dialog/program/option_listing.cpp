@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/program/option_listing.h"
+
+#include "platform/printing/cups_ppd.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+#include <array>
+
+namespace halvern {
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Listings)
+};
+
+/// How a custom value's parameter is called and limited.
+struct CustomKind {
+    const char* word;
+    bool isNumber;
+};
+
+CustomKind kindOf(const ppd_cparam_t& parameter)
+{
+    switch (parameter.type) {
+    case PPD_CUSTOM_INT:
+        return {"integer", true};
+    case PPD_CUSTOM_CURVE:
+        return {"curve", true};
+    case PPD_CUSTOM_INVCURVE:
+        return {"inverted-curve", true};
+    case PPD_CUSTOM_REAL:
+        return {"real", true};
+    case PPD_CUSTOM_POINTS:
+        return {"points", true};
+    case PPD_CUSTOM_PASSCODE:
+        return {"passcode", false};
+    case PPD_CUSTOM_PASSWORD:
+        return {"password", false};
+    case PPD_CUSTOM_STRING:
+    default:
+        return {"string", false};
+    }
+}
+
+// The members of the limits depend on the type.
+std::array<double, 2> limitsOf(const ppd_cparam_t& parameter)
+{
+    switch (parameter.type) {
+    case PPD_CUSTOM_INT:
+        return {double(parameter.minimum.custom_int), double(parameter.maximum.custom_int)};
+    case PPD_CUSTOM_CURVE:
+        return {double(parameter.minimum.custom_curve), double(parameter.maximum.custom_curve)};
+    case PPD_CUSTOM_INVCURVE:
+        return {double(parameter.minimum.custom_invcurve), double(parameter.maximum.custom_invcurve)};
+    case PPD_CUSTOM_REAL:
+        return {double(parameter.minimum.custom_real), double(parameter.maximum.custom_real)};
+    case PPD_CUSTOM_POINTS:
+        return {double(parameter.minimum.custom_points), double(parameter.maximum.custom_points)};
+    case PPD_CUSTOM_STRING:
+        return {double(parameter.minimum.custom_string), double(parameter.maximum.custom_string)};
+    case PPD_CUSTOM_PASSWORD:
+        return {double(parameter.minimum.custom_password), double(parameter.maximum.custom_password)};
+    case PPD_CUSTOM_PASSCODE:
+        return {double(parameter.minimum.custom_passcode), double(parameter.maximum.custom_passcode)};
+    default:
+        return {0.0, 0.0};
+    }
+}
+
+QList<const ppd_cparam_t*> customParameters(const PpdModel& model, const QString& key)
+{
+    QList<const ppd_cparam_t*> parameters;
+    ppd_coption_t* custom = ppdFindCustomOption(model.file(), key.toUtf8().constData());
+    for (ppd_cparam_t* each = custom ? ppdFirstCustomParam(custom) : nullptr; each;
+         each = ppdNextCustomParam(custom))
+        parameters.append(each);
+    return parameters;
+}
+
+// As somebody would type it.
+QString customForm(const PpdModel& model, const QString& key)
+{
+    if (key == QLatin1StringView("PageSize"))
+        return model.file()->variable_sizes ? QStringLiteral("Custom.WIDTHxHEIGHTmm") : QString();
+    const QList<const ppd_cparam_t*> parameters = customParameters(model, key);
+    if (parameters.isEmpty())
+        return {};
+    if (parameters.size() == 1)
+        return QStringLiteral("Custom.") + QString::fromLatin1(kindOf(*parameters.front()).word).toUpper();
+    QStringList names;
+    for (const ppd_cparam_t* parameter : parameters)
+        names.append(QString::fromUtf8(parameter->name) + QStringLiteral("=") +
+                     QString::fromLatin1(kindOf(*parameter).word).toUpper());
+    return QLatin1Char('{') + names.join(QLatin1Char(' ')) + QLatin1Char('}');
+}
+
+QJsonArray customAsJson(const PpdModel& model, const QString& key)
+{
+    QJsonArray array;
+    for (const ppd_cparam_t* parameter : customParameters(model, key)) {
+        const CustomKind kind = kindOf(*parameter);
+        const std::array<double, 2> limits = limitsOf(*parameter);
+        array.append(QJsonObject{
+            {QStringLiteral("parameter"), QString::fromUtf8(parameter->name)},
+            {QStringLiteral("type"), QLatin1StringView(kind.word)},
+            {kind.isNumber ? QStringLiteral("minimum") : QStringLiteral("minimumLength"), limits[0]},
+            {kind.isNumber ? QStringLiteral("maximum") : QStringLiteral("maximumLength"), limits[1]}});
+    }
+    return array;
+}
+
+} // namespace
+
+QStringList optionLines(const PpdModel& model, const QMap<QString, QString>& byDefault)
+{
+    QStringList lines;
+    for (const QString& key : model.keys()) {
+        const OptionItem option = model.option(key);
+        QStringList choices;
+        for (const ChoiceItem& choice : option.choices)
+            choices.append(choice.keyword);
+        if (const QString custom = customForm(model, key); !custom.isEmpty())
+            choices.append(custom);
+        const QString value = key + QLatin1Char('=') + model.value(key);
+        const QString all = choices.join(QLatin1Char(' '));
+        lines.append(
+            option.isInstallable
+                ? Words::tr("%1 (installed in the printer) \"%2\": %3").arg(value, option.text, all)
+                : Words::tr("%1 (default %2) \"%3\": %4").arg(value, byDefault.value(key), option.text, all));
+    }
+    return lines;
+}
+
+QJsonArray optionsAsJson(const PpdModel& model, const QMap<QString, QString>& byDefault)
+{
+    QJsonArray array;
+    for (const QString& key : model.keys()) {
+        const OptionItem option = model.option(key);
+        QJsonArray choices;
+        for (const ChoiceItem& choice : option.choices)
+            choices.append(QJsonObject{{QStringLiteral("choice"), choice.keyword},
+                                       {QStringLiteral("text"), choice.text}});
+        QJsonObject object{
+            {QStringLiteral("option"), key},
+            {QStringLiteral("text"), option.text},
+            {QStringLiteral("group"), option.group},
+            {QStringLiteral("current"), model.value(key)},
+            {QStringLiteral("default"), option.isInstallable ? model.value(key) : byDefault.value(key)},
+            {QStringLiteral("installed"), option.isInstallable},
+            {QStringLiteral("choices"), choices}};
+        if (const QJsonArray custom = customAsJson(model, key); !custom.isEmpty())
+            object.insert(QStringLiteral("custom"), custom);
+        array.append(object);
+    }
+    return array;
+}
+
+} // namespace halvern
