@@ -57,7 +57,9 @@ void layOut(QMap<QString, QString>& merged, const JobInputs& inputs)
         kDuplexKeywords, [&](const char* keyword) { return merged.contains(QLatin1StringView(keyword)); });
     if (!hasDuplex)
         merged.insert(QStringLiteral("sides"), QStringLiteral("one-sided"));
-    if (!merged.contains(QStringLiteral("page-ranges")) && inputs.pages > 0)
+    // The document has the chosen pages and no others.
+    merged.remove(QStringLiteral("page-ranges"));
+    if (inputs.pages > 0)
         merged.insert(QStringLiteral("page-ranges"), QStringLiteral("1-%1").arg(inputs.pages));
 }
 

@@ -41,11 +41,8 @@ constexpr std::array kLayoutOptions{
     LayoutOption{"ppi", ""},
     LayoutOption{"position", "center"},
     LayoutOption{"mirror", "false"},
-    LayoutOption{"page-set", "all"},
     LayoutOption{"booklet", "off"},
-    LayoutOption{"outputorder", "normal"},
     LayoutOption{"page-border", "none"},
-    LayoutOption{"output-order", "normal"},
     LayoutOption{"page-label", ""},
     LayoutOption{"page-delivery", "same-order-face-down"},
 };
@@ -54,21 +51,10 @@ constexpr std::array kLayoutOptions{
 constexpr std::array kTwins{"print-quality", "printer-resolution", "print-color-mode", "media-col"};
 
 constexpr std::array kJobAttributes{
-    "job-priority",
-    "job-hold-until",
-    "job-sheets",
-    "job-billing",
-    "job-account-id",
-    "job-accounting-user-id",
-    "job-cancel-after",
-    "job-message-to-operator",
-    "job-recipient-name",
-    "job-retain-until",
-    "page-ranges",
-    "finishings",
-    "output-bin",
-    "print-content-optimize",
-    "print-rendering-intent",
+    "job-priority",           "job-hold-until",         "job-sheets",       "job-billing",
+    "job-account-id",         "job-accounting-user-id", "job-cancel-after", "job-message-to-operator",
+    "job-recipient-name",     "job-retain-until",       "finishings",       "output-bin",
+    "print-content-optimize", "print-rendering-intent",
 };
 
 constexpr std::array kDuplexKeywords{"Duplex", "JCLDuplex", "EFDuplex", "EFDuplexing", "KD03Duplex"};
@@ -162,6 +148,12 @@ public:
         else if (key == QLatin1StringView("multiple-document-handling"))
             result.page.isCollated =
                 option.value != QLatin1StringView("separate-documents-uncollated-copies");
+        else if (key == QLatin1StringView("page-ranges"))
+            result.page.pageRanges = option.value;
+        else if (key == QLatin1StringView("page-set"))
+            takePageSet(option);
+        else if (key == QLatin1StringView("outputorder") || key == QLatin1StringView("output-order"))
+            takeOrder(option);
         else if (!takeDecidedHere(option))
             result.options.append(option);
     }
@@ -225,6 +217,26 @@ private:
                                  .arg(option.value));
     }
 
+    void takePageSet(const GivenOption& option)
+    {
+        static const QStringList kWords{QStringLiteral("all"), QStringLiteral("odd"), QStringLiteral("even")};
+        if (kWords.contains(option.value))
+            result.page.pageSet = option.value;
+        else
+            leaveOut(
+                option,
+                Words::tr("\"%1\" is no set of pages. Write page-set=all, odd or even.").arg(option.value));
+    }
+
+    void takeOrder(const GivenOption& option)
+    {
+        if (option.value == QLatin1StringView("normal") || option.value == QLatin1StringView("reverse"))
+            result.page.isReversed = option.value == QLatin1StringView("reverse");
+        else
+            leaveOut(option, Words::tr("\"%1\" is no order of pages. Write outputorder=normal or reverse.")
+                                 .arg(option.value));
+    }
+
     bool takeDecidedHere(const GivenOption& option)
     {
         const auto layout = std::ranges::find_if(kLayoutOptions, [&](const LayoutOption& row) {
@@ -269,6 +281,16 @@ UnderstoodOptions understand(ppd_file_t* file, const GivenOptions& given)
     for (const GivenOption& option : given)
         understanding.take(option);
     return understanding.result;
+}
+
+QString duplexOption(ppd_file_t* file)
+{
+    for (const char* keyword : kDuplexKeywords) {
+        const QString key = QLatin1StringView(keyword);
+        if (const ppd_option_t* option = ppd_lookup::option(file, key); option && option->num_choices > 1)
+            return key;
+    }
+    return {};
 }
 
 bool isJobAttribute(const QString& key)

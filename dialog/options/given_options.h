@@ -32,6 +32,9 @@ struct LeftOut {
 struct PageWishes {
     QString scaling; ///< a word of IPP's: "fit", "fill" or "none"; empty if nobody said
     std::optional<bool> isCollated;
+    QString pageRanges = {}; ///< as they were written; empty if nobody said
+    QString pageSet = {};    ///< a word of IPP's: "all", "odd" or "even"; empty if nobody said
+    bool isReversed = false;
 };
 
 /// Given options as a printer's PPD spells them.
@@ -45,6 +48,9 @@ struct UnderstoodOptions {
 /// the duplex option, "fit-to-page" a wish for the page. What would lay the page out a second time is left
 /// out with a sentence. Options that the PPD may know stay as they are. On the thread that owns `file`.
 UnderstoodOptions understand(ppd_file_t* file, const GivenOptions& given);
+
+/// The option with which the printer prints on both sides; empty if it has none.
+QString duplexOption(ppd_file_t* file);
 
 /// Whether a job may carry the option although it is none of the printer's.
 bool isJobAttribute(const QString& key);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The reading half of PpdModel: values, texts and page geometry.
+#include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_lookup.h"
 #include "dialog/options/ppd_model.h"
 
@@ -61,6 +62,8 @@ QString PpdModel::optionText(const QString& key) const
 QString PpdModel::choiceText(const QString& key, const QString& choice) const
 {
     const ppd_choice_t* listed = ppd_lookup::listedChoice(file_.get(), key, choice);
+    if (!listed && key == QLatin1StringView("PageSize"))
+        return customText(choice);
     return listed ? inWords(textOr(listed->text, choice)) : choice;
 }
 

@@ -85,6 +85,10 @@ void BatchPrint::proceed()
     const bool isComplete = session_.hasPhotos() && session_.model() && session_.printerList().hasAnswer();
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;
+    if (const QString problem = session_.chosenPages().problem; !problem.isEmpty()) {
+        fail(problem);
+        return;
+    }
     hasStarted_ = true;
     warnOfMisfit();
     if (!line_.dryRun) {

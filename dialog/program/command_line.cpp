@@ -30,6 +30,12 @@ public:
     QCommandLineOption copies{{QStringLiteral("n"), QStringLiteral("copies")},
                               tr("Print this many copies, 1 to %1.").arg(kMostCopies),
                               QStringLiteral("N")};
+    QCommandLineOption pages{QStringLiteral("pages"), tr("Print these pages only, for example 1-3,7,12-."),
+                             QStringLiteral("RANGES")};
+    QCommandLineOption reverse{QStringLiteral("reverse-order"), tr("Print the last page first.")};
+    QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("job-title")},
+                             tr("Call the job this; without it, it is called like the first file."),
+                             QStringLiteral("TEXT")};
     QCommandLineOption backprint{
         QStringLiteral("backprint"),
         tr("Print this text on the back of each picture. Can be given twice, for a first and a second "
@@ -264,6 +270,10 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
     line.request.preset = parser.value(switches.preset);
     if (parser.isSet(switches.preset) && presetName(line.request.preset).isEmpty())
         return Switches::badPresetName(line.request.preset);
+    line.request.pages = {parser.value(switches.pages), PageParity::all, parser.isSet(switches.reverse)};
+    line.request.title = parser.value(switches.title);
+    if (const QString problem = choosePages(line.request.pages, 0).problem; !problem.isEmpty())
+        return problem;
     line.request.printer = parser.value(switches.printer);
     if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
         return Switches::emptyPrinter();
@@ -277,10 +287,11 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     const Switches switches;
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
-    parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint,
-                       switches.preset, switches.printDamaged, switches.noDialog, switches.wait,
-                       switches.dryRun, switches.listPrinters, switches.listPapers, switches.refresh,
-                       switches.listOptions, switches.listPresets, switches.savePreset, switches.json});
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages, switches.reverse,
+                       switches.title, switches.backprint, switches.preset, switches.printDamaged,
+                       switches.noDialog, switches.wait, switches.dryRun, switches.listPrinters,
+                       switches.listPapers, switches.refresh, switches.listOptions, switches.listPresets,
+                       switches.savePreset, switches.json});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -324,8 +335,9 @@ bool asksForWindow(const QStringList& arguments)
 {
     const Switches switches;
     QCommandLineParser parser;
-    parser.addOptions({switches.printer, switches.option, switches.copies, switches.backprint, switches.wait,
-                       switches.noDialog, switches.dryRun, switches.preset});
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages, switches.title,
+                       switches.backprint, switches.wait, switches.noDialog, switches.dryRun,
+                       switches.preset});
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

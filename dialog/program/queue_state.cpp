@@ -36,7 +36,7 @@ QStringList refusalsOf(const StartingOptions& start, const QString& preset, QStr
 
 PageSettings pageOf(const SessionRequest& request, const PageWishes& wishes, const PresetEntry* preset)
 {
-    PageSetup page(request.copies);
+    PageSetup page(request);
     if (preset) {
         PageSettings settings = withPreset(page.settings(), preset->preset);
         if (request.namesCopies)

@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
@@ -16,12 +18,17 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(QueuePpd)
 };
 
-void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
+QStringList allOf(ipp_attribute_t* names)
 {
     QStringList all;
     for (int i = 0; i < ippGetCount(names); ++i)
         all.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
-    const QString sheets = all.join(QLatin1Char(','));
+    return all;
+}
+
+void readJobSheets(ipp_attribute_t* names, QueuePpd& result)
+{
+    const QString sheets = allOf(names).join(QLatin1Char(','));
     if (sheets != QLatin1StringView("none,none") && sheets != QLatin1StringView("none"))
         result.jobSheets = sheets;
 }
@@ -32,15 +39,24 @@ void readQueue(ipp_t* answer, QueuePpd& result)
 {
     for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
         const QString name = QString::fromUtf8(ippGetName(a));
+        if (name == QLatin1StringView("job-priority-default"))
+            result.jobs.priority = std::clamp(ippGetInteger(a, 0), 1, 100);
         const bool isTruth = ippGetValueTag(a) == IPP_TAG_BOOLEAN;
         const char* value = isTruth ? (ippGetBoolean(a, 0) ? "true" : "false") : ippGetString(a, 0, nullptr);
         if (!value || name.isEmpty())
             continue;
         if (name == QLatin1StringView("job-sheets-default")) {
+            result.jobs.byDefault = allOf(a);
             readJobSheets(a, result);
             continue;
         }
-        if (name == QLatin1StringView("device-uri"))
+        if (name == QLatin1StringView("job-sheets-supported"))
+            result.jobs.sheets = allOf(a);
+        else if (name == QLatin1StringView("job-hold-until-supported"))
+            result.jobs.holds = allOf(a);
+        else if (name == QLatin1StringView("job-hold-until-default"))
+            result.jobs.hold = QString::fromUtf8(value);
+        else if (name == QLatin1StringView("device-uri"))
             result.deviceUri = QString::fromUtf8(value);
         else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))
             result.defaults.append(

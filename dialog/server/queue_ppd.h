@@ -7,6 +7,17 @@
 
 namespace halvern {
 
+/// What a queue lets its jobs be. A value.
+struct JobOffer {
+    QStringList sheets;         ///< banner pages, "none" among them; empty: it has none
+    QStringList holds;          ///< keywords until when a job may be held; empty: none
+    QStringList byDefault = {}; ///< the banner pages that the queue adds by itself, before and after
+    QString hold = QStringLiteral("no-hold"); ///< what it does with a job that says nothing
+    int priority = 50;
+
+    bool operator==(const JobOffer&) const = default;
+};
+
 /// A queue's PPD as fetched and parsed, or the sentence that says why there is none.
 struct QueuePpd {
     std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
@@ -14,6 +25,7 @@ struct QueuePpd {
     /// What the administrator set for the queue beside the PPD, for keywords that the PPD does not list.
     OptionValues defaults;
     QString jobSheets; ///< the banner pages that the queue adds by itself; empty if none
+    JobOffer jobs;
     QString problem;
 };
 

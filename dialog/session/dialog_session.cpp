@@ -17,6 +17,7 @@ using ppd_lookup::NumberReading;
 
 namespace {
 
+constexpr qsizetype kRecentNames = 5;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
 const QString kPaperFeed = QStringLiteral("PaperFeed");
 
@@ -29,7 +30,9 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
       printer_(request_),
       panels_(panels),
       settings_(std::make_shared<PrintSettings>()),
-      page_(request_.copies)
+      page_(request_),
+      recentPrinters_(QStringLiteral("RecentPrinters"), kRecentNames),
+      recentPapers_(QStringLiteral("RecentPaperSizes"), kRecentNames)
 {
     connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
     connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
@@ -59,6 +62,18 @@ void DialogSession::setPosition(size_t photo, const QPointF& position)
     Q_EMIT optionsChanged();
 }
 
+void DialogSession::settleDamaged(bool print)
+{
+    std::vector<size_t> whole;
+    for (size_t i = 0; i < photos().size(); ++i) {
+        if (!photos()[i].isDamaged)
+            whole.push_back(i);
+    }
+    if (!print)
+        page_.keepChoice(whole, photos().size());
+    photos_.settleDamaged(print);
+}
+
 void DialogSession::leavePrinter()
 {
     if (hasCustomPanels() || model_)
@@ -66,6 +81,7 @@ void DialogSession::leavePrinter()
     panels_.leave();
     keeper_.reset();
     model_.reset();
+    jobOffer_ = {};
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
@@ -89,6 +105,7 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
     if (!printer.presets.problem.isEmpty())
         Q_EMIT notice(printer.presets.problem);
     presets_.take(printerName(), model_->file(), printer.presets, printer_.saved());
+    jobOffer_ = ppd.jobs;
     applyOptions(printer);
     keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, printer.offer);
     loadPanels();
@@ -120,8 +137,21 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
         rememberStart(settled);
     if (request_.panelsChangeOptions)
         nameLoadedSheet(*model_, printer.offer);
+    keepJobAttributes();
     storeStart(*model_, byDefault, printer.ppd.jobSheets, *settings_);
     chooseStartingPreset(preset);
+}
+
+// What the user has set for the job goes with the job to another printer, as far as that one takes it.
+void DialogSession::keepJobAttributes()
+{
+    for (auto it = jobAttributes_.cbegin(); it != jobAttributes_.cend(); ++it) {
+        const QStringList sheets =
+            it.key() == QLatin1StringView("job-sheets") ? it->split(QLatin1Char(',')) : QStringList();
+        if (std::ranges::all_of(sheets,
+                                [this](const QString& name) { return jobOffer_.sheets.contains(name); }))
+            model_->restore({{it.key(), it.value()}});
+    }
 }
 
 void DialogSession::rememberStart(const SettledOption& settled)
@@ -234,9 +264,24 @@ bool DialogSession::changeOption(const QString& key, const QVariant& value)
     return true;
 }
 
+PaperRoom DialogSession::chosenPaper() const
+{
+    if (!model_ || !keeper_)
+        return {};
+    const QString key = QStringLiteral("PaperName");
+    return paperRoom(keeper_->offer(), model_->values(), model_->choiceText(key, model_->value(key)));
+}
+
 std::optional<PageMisfit> DialogSession::pageMisfit() const
 {
     return model_ && keeper_ ? findMisfit(*model_, keeper_->offer()) : std::nullopt;
+}
+
+void DialogSession::setJobAttribute(const QString& name, const QString& value)
+{
+    jobAttributes_.insert(name, value);
+    if (model_)
+        changeOption(name, value);
 }
 
 void DialogSession::undoLastChange()
@@ -315,7 +360,7 @@ void DialogSession::takeOffer(const PrinterOffer& offer)
 
 bool DialogSession::canPrint() const
 {
-    return model_ && photos_.isDone() && !photos().empty();
+    return model_ && photos_.isDone() && !photos().empty() && chosenPages().problem.isEmpty();
 }
 
 OptionValues DialogSession::collectOptions()
@@ -325,15 +370,30 @@ OptionValues DialogSession::collectOptions()
     if (keeper_)
         keeper_->showSheetName();
     return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
-                            page().copies, int(photos().size()), page().isCollated});
+                            page().copies, int(chosenPages().pages.size()), page().isCollated});
+}
+
+void DialogSession::noteUse()
+{
+    recentPrinters_.use(printerName());
+    if (model_)
+        recentPapers_.use(model_->value(QStringLiteral("PageSize")));
+}
+
+QString DialogSession::jobTitle() const
+{
+    const ChosenPages chosen = chosenPages();
+    if (const QString title = page().title.trimmed(); !title.isEmpty() || chosen.pages.empty())
+        return title;
+    return QFileInfo(photos()[chosen.pages.front()].path).fileName();
 }
 
 PrintRun* DialogSession::makeRun()
 {
-    JobRequest job{printerName(), QFileInfo(photos().front().path).fileName(), collectOptions()};
     std::vector<PageToPrint> pages;
-    for (const Photo& photo : photos())
-        pages.push_back({photo, layoutFor(photo)});
+    for (const size_t place : chosenPages().pages)
+        pages.push_back({photos()[place], layoutFor(photos()[place])});
+    JobRequest job{printerName(), jobTitle(), collectOptions()};
     auto* run = new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
     if (request_.remembers)
         rememberWhenSent(run);

@@ -15,6 +15,7 @@
 #include "dialog/session/presets.h"
 #include "dialog/session/printer_choice.h"
 #include "dialog/session/printer_panels.h"
+#include "dialog/session/recent_names.h"
 
 #include <QObject>
 
@@ -47,7 +48,7 @@ public:
     const QStringList& damagedFiles() const { return photos_.damagedFiles(); }
 
     /// What the user says: the damaged photos print as they are, or are left out.
-    void settleDamaged(bool print) { photos_.settleDamaged(print); }
+    void settleDamaged(bool print);
 
     /// Whether all files have been read.
     bool hasPhotos() const { return photos_.isDone(); }
@@ -59,14 +60,31 @@ public:
 
     bool hasCustomPanels() const { return !panels_.list().empty(); }
 
+    /// What the selected printer lets a job be.
+    const JobOffer& jobOffer() const { return jobOffer_; }
+
+    /// Sets an attribute of the job, "job-priority" for example; empty: the server decides. Another printer
+    /// gets it, too.
+    void setJobAttribute(const QString& name, const QString& value);
+
     /// Selects a queue and fetches its PPD; printerReady() or printerFailed() follows. Selecting the selected
     /// one again does nothing.
     void selectPrinter(const QString& name) { printer_.select(name); }
+
+    const QStringList& recentPrinters() const { return recentPrinters_.names(); }
+
+    const QStringList& recentPapers() const { return recentPapers_.names(); }
+
+    /// Remembers the printer and the paper size as the ones that were used last.
+    void noteUse();
 
     const PageSettings& page() const { return page_.settings(); }
 
     /// Another scaling puts all photos back in the middle.
     void setPage(const PageSettings& page);
+
+    /// The places in photos() that are printed, in the order of printing, or why there are none.
+    ChosenPages chosenPages() const { return choosePages(page().pages, photos().size()); }
 
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model_.get()); }
@@ -80,6 +98,9 @@ public:
     /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
+
+    /// What is known of the paper that is chosen.
+    PaperRoom chosenPaper() const;
 
     /// Why the chosen page size cannot be on the chosen paper; nothing if it can, or if nobody knows.
     std::optional<PageMisfit> pageMisfit() const;
@@ -111,10 +132,13 @@ public:
     /// if there are none.
     const QString& backLinesProblem() const { return backLinesProblem_; }
 
+    /// What the job is called: what the user wrote, else the name of the first page's file.
+    QString jobTitle() const;
+
     /// Lets the panels save and merges the job's options.
     OptionValues collectOptions();
 
-    /// Makes the run for the current pages; the caller starts it. Owned by the session. Call canPrint()
+    /// Makes the run for the chosen pages; the caller starts it. Owned by the session. Call canPrint()
     /// first.
     PrintRun* makeRun();
 
@@ -166,6 +190,7 @@ private:
     void chooseStartingPreset(const std::optional<PresetEntry>& used);
     PresetOptions resetTo(const PresetEntry& entry);
     void rememberWhenSent(PrintRun* run);
+    void keepJobAttributes();
     void rememberStart(const SettledOption& settled);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
@@ -197,6 +222,11 @@ private:
         PageSettings page;
         PresetEntry chosen;
     } beforeStep_;
+
+    JobOffer jobOffer_;
+    QMap<QString, QString> jobAttributes_; ///< what the user has set
+    RecentNames recentPrinters_;
+    RecentNames recentPapers_;
 };
 
 } // namespace halvern

@@ -3,7 +3,10 @@
 
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/photo.h"
+#include "dialog/session/session_request.h"
 #include "platform/printing/page_format.h"
+
+#include <algorithm>
 
 namespace halvern {
 
@@ -16,6 +19,13 @@ PageRect toPageRect(const QRectF& rect)
 
 } // namespace
 
+PageSetup::PageSetup(const SessionRequest& request)
+{
+    settings_.copies = request.copies;
+    settings_.pages = request.pages;
+    settings_.title = request.title;
+}
+
 void PageSetup::takeWishes(const PageWishes& wishes)
 {
     if (std::exchange(hasTakenWishes_, true))
@@ -25,6 +35,31 @@ void PageSetup::takeWishes(const PageWishes& wishes)
     else if (wishes.scaling == QLatin1StringView("none"))
         settings_.scaling = Scaling::actualSize;
     settings_.isCollated = wishes.isCollated.value_or(settings_.isCollated);
+    PageChoice& pages = settings_.pages;
+    if (pages.ranges.isEmpty())
+        pages.ranges = wishes.pageRanges;
+    if (wishes.pageSet == QLatin1StringView("odd"))
+        pages.parity = PageParity::odd;
+    else if (wishes.pageSet == QLatin1StringView("even"))
+        pages.parity = PageParity::even;
+    pages.isReversed = pages.isReversed || wishes.isReversed;
+}
+
+void PageSetup::keepChoice(const std::vector<size_t>& left, size_t count)
+{
+    PageChoice& choice = settings_.pages;
+    if (choice.ranges.isEmpty() && choice.parity == PageParity::all)
+        return;
+    const std::vector<size_t> chosen = choosePages(choice, count).pages;
+    std::vector<size_t> places;
+    for (size_t i = 0; i < left.size(); ++i) {
+        if (std::ranges::find(chosen, left[i]) != chosen.end())
+            places.push_back(i);
+    }
+    if (places.empty())
+        return;
+    choice.ranges = rangesOf(places);
+    choice.parity = PageParity::all;
 }
 
 PageLayout PageSetup::layout(const Photo& photo, const PpdModel* model) const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/page/page_choice.h"
 #include "dialog/page/page_layout.h"
 
 #include <memory>
@@ -11,6 +12,7 @@ class PageFormat;
 class PpdModel;
 struct PageWishes;
 struct Photo;
+struct SessionRequest;
 
 /// What the user sets beside the printer's options.
 struct PageSettings {
@@ -18,12 +20,16 @@ struct PageSettings {
     PageTurn turn = PageTurn::automatic;
     int copies = 1;
     bool isCollated = true;
+    PageChoice pages = {};
+    QString title = {}; ///< of the job; empty: the first photo's name
+
+    bool operator==(const PageSettings&) const = default;
 };
 
 /// How photos are laid on the printer's sheet: what the user set, applied to a printer. Main thread only.
 class PageSetup {
 public:
-    explicit PageSetup(int copies) { settings_.copies = copies; }
+    explicit PageSetup(const SessionRequest& request);
 
     const PageSettings& settings() const { return settings_; }
 
@@ -32,6 +38,9 @@ public:
     /// Takes what was given as options of a job. Only the first time: what the user sets afterwards is not
     /// taken back by the next printer.
     void takeWishes(const PageWishes& wishes);
+
+    /// Chooses the same pages once only those at the places `left` of `count` are there.
+    void keepChoice(const std::vector<size_t>& left, size_t count);
 
     /// The layout of a photo on the model's current sheet, without a model on A4 to its edges.
     PageLayout layout(const Photo& photo, const PpdModel* model) const;

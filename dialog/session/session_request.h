@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/options/option_value.h"
+#include "dialog/page/page_choice.h"
 
 #include <QStringList>
 
@@ -15,6 +16,8 @@ struct SessionRequest {
     OptionValues options; ///< typed on the command line
     QStringList files;
     int copies = 1;
+    PageChoice pages = {};
+    QString title = {};        ///< of the job; empty: the first photo's name
     bool printDamaged = false; ///< also photos of which a part is missing, without asking
     /// Whether another printer is taken if the user's default is none of the server's.
     bool replacesLostDefault = true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/panel_deck.h"
 
+#include "dialog/window/job_page.h"
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
 #include "dialog/window/summary_page.h"
@@ -20,6 +21,7 @@ namespace {
 
 const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
+const QString kJob = QStringLiteral("job");
 const QString kSummary = QStringLiteral("summary");
 const QString kPreview = QStringLiteral("preview");
 
@@ -53,6 +55,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
       empty_(new QWidget(this)),
       page_(new PaperPage(session, this)),
       options_(new OptionsPage(session, this)),
+      job_(new JobPage(session, this)),
       summary_(new SummaryPage(session, this))
 {
     list_->setObjectName(QStringLiteral("pageList"));
@@ -65,7 +68,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     area_->setFrameShape(QFrame::NoFrame);
     area_->viewport()->setAutoFillBackground(false);
     for (QWidget* page : {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_),
-                          static_cast<QWidget*>(summary_), empty_})
+                          static_cast<QWidget*>(job_), static_cast<QWidget*>(summary_), empty_})
         page->hide();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -116,6 +119,8 @@ void PanelDeck::rebuild()
         options_->rebuild();
         if (!options_->isEmpty())
             addPage(kOptions, session_.hasCustomPanels() ? tr("More Options") : tr("Options"));
+        job_->refresh();
+        addPage(kJob, tr("Job"));
         addPage(kSummary, tr("Summary"));
         if (previewPage_)
             addPage(kPreview, tr("Preview"));
@@ -158,6 +163,8 @@ QWidget* PanelDeck::viewFor(const QString& identifier)
         return page_;
     if (identifier == kOptions)
         return options_;
+    if (identifier == kJob)
+        return job_;
     if (identifier == kSummary)
         return summary_;
     if (identifier == kPreview)
@@ -253,7 +260,7 @@ void PanelDeck::takeShownView()
     if (!before)
         return;
     before->hide();
-    if (before == page_ || before == options_ || before == summary_ || before == empty_ ||
+    if (before == page_ || before == options_ || before == job_ || before == summary_ || before == empty_ ||
         before == previewPage_)
         before->setParent(this);
 }
@@ -288,6 +295,7 @@ void PanelDeck::tellClosing(bool printing)
 void PanelDeck::refresh()
 {
     page_->refresh();
+    job_->refresh();
     options_->setEnabled(session_.model() != nullptr);
     options_->refresh();
     if (area_->widget() == summary_)

@@ -11,6 +11,7 @@ class QStackedWidget;
 
 namespace halvern {
 
+class JobPage;
 class OptionsPage;
 class SummaryPage;
 class PaperPage;
@@ -81,6 +82,7 @@ private:
     QWidget* previewPage_ = nullptr;
     PaperPage* page_;
     OptionsPage* options_;
+    JobPage* job_;
     SummaryPage* summary_;
     Panel* shown_ = nullptr;
     int shownRow_ = -1;

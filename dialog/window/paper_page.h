@@ -6,14 +6,20 @@
 #include <QWidget>
 
 class QButtonGroup;
+class QCheckBox;
 class QComboBox;
-class QSpinBox;
+class QFormLayout;
+class QLabel;
 
 namespace halvern {
 
 class ChoiceList;
+class CustomPaperRow;
+class PageRangeRow;
+class PaperSizeList;
+class SearchBox;
 
-/// The dialog's own first page: paper size, turn, scaling. Main thread only.
+/// The dialog's own first page: paper size, turn, scaling, both sides, and which pages. Main thread only.
 class PaperPage : public QWidget {
     Q_OBJECT
 
@@ -24,17 +30,38 @@ public:
     void refresh();
 
 private:
+    QWidget* makePaperRow();
     QWidget* makeChoices(QButtonGroup* group, const QString& name,
                          const QList<std::pair<int, QString>>& choices);
+    void addRow(const QString& text, QWidget* field, QWidget* buddy);
+    void connectControls();
+    void listPapers();
+    void refreshPaper();
+    void refreshBorderless();
+    void refreshCustom();
+    void refreshTwoSided();
     void choosePaper();
+    void chooseBorderless(bool isOn);
+    void chooseCustom(const QSizeF& points);
+    void makeAsLongAsPhoto(double width);
     void choosePage();
+    void choosePages(const PageChoice& choice);
 
     DialogSession& session_;
-    QComboBox* paper_;
-    ChoiceList* papers_;
+    QFormLayout* form_;
+    SearchBox* paper_;
+    PaperSizeList* papers_;
     std::weak_ptr<ppd_file_t> listedFor_; ///< whose sizes are listed
+    PaperRoom listedRoom_;                ///< for which paper they are sorted
+    QStringList listedRecent_;
+    QCheckBox* borderless_;
+    CustomPaperRow* custom_;
     QButtonGroup* turn_;
     QButtonGroup* scaling_;
+    QComboBox* twoSided_;
+    ChoiceList* sides_;
+    QString twoSidedKey_;
+    PageRangeRow* pages_;
 };
 
 } // namespace halvern

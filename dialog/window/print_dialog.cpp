@@ -137,8 +137,11 @@ QWidget* PrintDialog::makePreviewSide()
     column->setSpacing(0);
     column->addWidget(preview_, 1);
     column->addWidget(pager_);
-    connect(preview_, &PreviewWidget::positionChosen, this,
-            [this](const QPointF& position) { session_.setPosition(size_t(current_), position); });
+    connect(preview_, &PreviewWidget::positionChosen, this, [this](const QPointF& position) {
+        const std::vector<size_t> pages = session_.chosenPages().pages;
+        if (size_t(current_) < pages.size())
+            session_.setPosition(pages[size_t(current_)], position);
+    });
     return side;
 }
 
@@ -383,23 +386,25 @@ void PrintDialog::showPrinterState()
 void PrintDialog::showPhotos()
 {
     const std::vector<Photo>& photos = session_.photos();
-    pager_->setVisible(photos.size() > 1);
-    if (photos.empty()) {
-        preview_->showText(session_.hasPhotos() ? tr("There is no photo to print.")
-                                                : tr("Reading the photo..."));
+    const std::vector<size_t> pages = session_.chosenPages().pages;
+    pager_->setVisible(pages.size() > 1);
+    if (pages.empty()) {
+        preview_->showText(photos.empty() ? (session_.hasPhotos() ? tr("There is no photo to print.")
+                                                                  : tr("Reading the photo..."))
+                                          : tr("No page is chosen."));
         updateButtons();
         return;
     }
-    current_ = std::clamp(current_, 0, int(photos.size()) - 1);
-    const Photo& photo = photos[size_t(current_)];
+    current_ = std::clamp(current_, 0, int(pages.size()) - 1);
+    const Photo& photo = photos[pages[size_t(current_)]];
     preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
     const QString name = QFileInfo(photo.path).fileName();
     const QString shown = isolated(name, kLongestName);
     setPlainTitle(this, tr("Print %1").arg(shown));
     const QString page = photo.pageNumber > 0 ? tr("%1, page %2").arg(shown).arg(photo.pageNumber) : shown;
-    setPlainText(pageNumber_, tr("%1 of %2  ·  %3").arg(current_ + 1).arg(photos.size()).arg(page));
+    setPlainText(pageNumber_, tr("%1 of %2  ·  %3").arg(current_ + 1).arg(pages.size()).arg(page));
     back_->setEnabled(current_ > 0);
-    forward_->setEnabled(current_ + 1 < int(photos.size()));
+    forward_->setEnabled(current_ + 1 < int(pages.size()));
     updateButtons();
 }
 

@@ -7,6 +7,7 @@
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
 #include "dialog/window/run_bar.h"
+#include "platform/toolkit/plain_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,12 +22,14 @@ void PrintDialog::updateButtons()
         return;
     const bool isBusy = isRunning();
     print_->setEnabled(!isBusy && session_.canPrint());
+    // Said to whoever rests the pointer on the button.
+    setPlainDescription(print_, isBusy || !session_.hasPhotos() ? QString() : session_.chosenPages().problem);
     printer_->setEnabled(!isBusy);
     presets_->setEnabled(!isBusy && session_.model());
     deck_->setEnabled(!isBusy);
     copies_->setEnabled(!isBusy);
     collate_->setEnabled(!isBusy);
-    collate_->setVisible(copies_->value() > 1 && session_.photos().size() > 1);
+    collate_->setVisible(copies_->value() > 1 && session_.chosenPages().pages.size() > 1);
     cancelJob_->setVisible(isBusy);
     cancelJob_->setEnabled(isBusy && !run_->isCancelled());
     cancel_->setText(isBusy || hasPrinted_ ? tr("Close") : tr("Cancel"));
@@ -46,6 +49,7 @@ void PrintDialog::print()
     delete run_;
     message_->clear();
     toldMisfit_.clear();
+    session_.noteUse();
     run_ = session_.makeRun();
     deck_->pausePanels();
     followRun();

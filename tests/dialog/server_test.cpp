@@ -246,6 +246,27 @@ TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
     EXPECT_NEAR(layout.page.width(), 841.89, 0.01);
 }
 
+TEST_F(DialogServerTest, TheChosenPagesAreShownAndSentAndAWrongChoiceIsExplained)
+{
+    SessionRequest two = request(q("Tessarin"));
+    two.files += two.files;
+    DialogSession session(two, panels);
+    PrintDialog dialog(session);
+    dialog.show();
+    ASSERT_TRUE(isReady(session) && QTest::qWaitForWindowActive(&dialog));
+    auto* field = dialog.findChild<QLineEdit*>(q("pageRanges"));
+    const auto* problem = dialog.findChild<QLabel*>(q("pageRangeProblem"));
+    const auto* print = dialog.findChild<QPushButton*>(q("printButton"));
+    field->setFocus();
+    QTest::keyClicks(field, q("2-3"));
+    EXPECT_TRUE(problem->isVisible() && containsText(problem->text(), "1 to 2"));
+    EXPECT_TRUE(!print->isEnabled() && print->accessibleDescription() == problem->text());
+    QTest::keyClick(field, Qt::Key_Backspace);
+    EXPECT_TRUE(problem->isHidden() && print->isEnabled());
+    EXPECT_TRUE(session.collectOptions().contains({q("page-ranges"), q("1-1")}));
+    EXPECT_EQ(session.chosenPages().pages, std::vector<size_t>{1});
+}
+
 TEST_F(DialogServerTest, NothingIsPrintedBeforeAllPhotosAreRead)
 {
     SessionRequest two = request(q("Tessarin"));
@@ -366,8 +387,8 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     } while (dialog.focusWidget() != first && visited.size() < 30);
     visited.removeIf(
         [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
-    EXPECT_EQ(visited.join(u' '),
-              q("printer pageList paperSize copies cancelButton printButton preview zoomButton"));
+    EXPECT_EQ(visited.join(u' '), q("printer preset presetMenu pageList paperSize borderless copies "
+                                    "cancelButton printButton preview zoomButton"));
     QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
     field.show();
     field.setFocus();

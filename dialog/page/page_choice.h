@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace halvern {
+
+enum class PageParity { all, odd, even };
+
+/// Which of the pages are printed, and in what order. A value.
+struct PageChoice {
+    QString ranges; ///< as the user writes them: "1-3, 7, 12-"; empty: all
+    PageParity parity = PageParity::all;
+    bool isReversed = false;
+
+    bool operator==(const PageChoice&) const = default;
+};
+
+/// What a choice comes to.
+struct ChosenPages {
+    std::vector<size_t> pages; ///< from 0, in the order of printing, none twice
+    QString problem;           ///< a sentence for the user; empty if there is none
+};
+
+/// Chooses among the pages 1 to `count`. With 0, which is as long as nobody knows, only the form is checked.
+/// Also fit for a text that is still being typed: "1-3," is right. Any thread.
+ChosenPages choosePages(const PageChoice& choice, size_t count);
+
+/// The ranges that name these pages: 0, 1, 2, 6 -> "1-3, 7".
+QString rangesOf(std::vector<size_t> pages);
+
+} // namespace halvern

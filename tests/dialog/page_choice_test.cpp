@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/options/custom_paper.h"
+#include "dialog/options/paper_sizes.h"
+#include "dialog/page/page_choice.h"
+#include "platform/foundation/units.h"
+#include "tests/dialog/model_support.h"
+
+namespace halvern {
+namespace {
+
+const PaperSize* find(const std::vector<PaperSize>& sizes, const char* keyword)
+{
+    const auto found = std::ranges::find(sizes, q(keyword), &PaperSize::keyword);
+    return found == sizes.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+TEST(PageChoice, TheNamedPagesComeOnceInTheOrderOfPrinting)
+{
+    struct Case {
+        const char* ranges;
+        PageParity parity;
+        bool isReversed;
+        std::vector<size_t> pages; // from 0; empty: a problem
+        const char* words;
+    };
+
+    using enum PageParity;
+    for (const Case& c : {
+             Case{"", all, false, {0, 1, 2, 3, 4}, ""},
+             Case{"4, 1-2,2", all, false, {0, 1, 3}, ""},
+             Case{"1-2,", all, true, {1, 0}, ""},
+             Case{"3\u20135", even, false, {3}, ""},
+             Case{"-2; 5-", odd, true, {4, 0}, ""},
+             Case{"6", all, false, {}, "the pages are 1 to 5"},
+             Case{"0-2", all, false, {}, "no page 0"},
+             Case{"4-2", all, false, {}, "Write 2-4"},
+             Case{"1-2-3", all, false, {}, "is no page"},
+             Case{"-", all, false, {}, "is no page"},
+             Case{"12345678901", all, false, {}, "is no page"},
+             Case{"two", all, false, {}, "for example"},
+             Case{"2", odd, false, {}, "odd number"},
+         }) {
+        const ChosenPages chosen = choosePages({q(c.ranges), c.parity, c.isReversed}, 5);
+        EXPECT_EQ(chosen.pages, c.pages) << c.ranges;
+        EXPECT_TRUE(chosen.problem.isEmpty() != c.pages.empty() && chosen.problem.contains(q(c.words)))
+            << c.ranges << ": " << qPrintable(chosen.problem);
+    }
+    EXPECT_EQ(choosePages({q("7-")}, 0).problem, QString()) << "nobody knows yet how many there are";
+    EXPECT_EQ(rangesOf({6, 0, 1, 2}), q("1-3, 7"));
+}
+
+TEST(PaperSizes, AreGroupedAndASizeWithoutMarginsIsASwitchBesideItsOwn)
+{
+    const auto model = tessarinModel();
+    std::vector<PaperSize> sizes = paperSizes(*model);
+    EXPECT_EQ(find(sizes, "4x6.Fullbleed"), nullptr);
+    ASSERT_TRUE(find(sizes, "4x6") && find(sizes, "A4") && find(sizes, "Letter"));
+    EXPECT_EQ(find(sizes, "4x6")->borderless, q("4x6.Fullbleed"));
+    EXPECT_EQ(find(sizes, "4x6")->group, PaperGroup::photo);
+    EXPECT_EQ(find(sizes, "A4")->group, PaperGroup::iso);
+    EXPECT_EQ(find(sizes, "Letter")->group, PaperGroup::us);
+    ASSERT_TRUE(model->change(q("PageSize"), q("4x6.Fullbleed")).accepted);
+    const BorderlessSwitch state = borderlessSwitch(*model, sizes);
+    EXPECT_TRUE(state.isPossible && state.isOn);
+    EXPECT_EQ(state.off, q("4x6"));
+    EXPECT_TRUE(searchText(*find(sizes, "4x6")).contains(searchForm(q("10 \u00d7 15"))));
+    lift(sizes, {152.4, std::nullopt, true}, {q("Letter"), q("4x6.Fullbleed")});
+    EXPECT_EQ(find(sizes, "Roll1524x1016")->group, PaperGroup::loaded);
+    EXPECT_EQ(find(sizes, "Roll2032x1524")->group, PaperGroup::roll)
+        << "it is as long as the roll is wide, but not as wide";
+    const auto recent = std::ranges::find(sizes, PaperGroup::recent, &PaperSize::group);
+    EXPECT_TRUE(recent->keyword == q("Letter") && std::next(recent)->keyword == q("4x6"));
+}
+
+TEST(PaperSizes, AnOptionOfThePrintersOwnMayBeTheSwitch)
+{
+    const auto model = modelOf(R"(*PPD-Adobe: "4.3"
+*OpenUI *PageSize/Size: PickOne
+*DefaultPageSize: A4
+*PageSize A4/A4: ""
+*PageSize TA4/A4 (Borderless): ""
+*CloseUI: *PageSize
+*ImageableArea A4: "9 9 586 833"
+*PaperDimension A4: "595 842"
+*ImageableArea TA4: "0 0 595 842"
+*PaperDimension TA4: "595 842"
+*OpenUI *StpFullBleed/Borderless: PickOne
+*DefaultStpFullBleed: False
+*StpFullBleed False/No: ""
+*StpFullBleed True/Yes: ""
+*CloseUI: *StpFullBleed
+)");
+    const std::vector<PaperSize> sizes = paperSizes(*model);
+    ASSERT_EQ(sizes.size(), 1u);
+    EXPECT_EQ(sizes.front().borderless, q("TA4"));
+    EXPECT_EQ(borderlessSwitch(*model, sizes).key, q("StpFullBleed"));
+    EXPECT_FALSE(paperLimits(model->file()));
+}
+
+TEST(CustomPaper, MeasuresTravelInMillimetresWithinThePrintersLimits)
+{
+    const auto model = tessarinModel();
+    const std::optional<PaperLimits> limits = paperLimits(model->file());
+    ASSERT_TRUE(limits);
+    const QSizeF points = QSizeF(152.4, 250.25) * kPointsPerMillimetre;
+    EXPECT_TRUE(limits->holds(points) && limits->holds(limits->least) && limits->holds(limits->most));
+    EXPECT_FALSE(limits->holds(limits->most + QSizeF(1.0, 0.0)));
+    const QString keyword = customKeyword(points);
+    EXPECT_EQ(keyword, q("Custom.152.4x250.25mm"));
+    EXPECT_NEAR(customMeasures(keyword)->height(), points.height(), 0.01);
+    for (const char* bad : {"Custom.", "Custom.1x2px", "A4", "Custom.nanx3mm"})
+        EXPECT_FALSE(customMeasures(q(bad))) << bad;
+    ASSERT_TRUE(model->change(q("PageSize"), keyword).accepted);
+    EXPECT_NEAR(model->sheet().paper.height(), points.height(), 0.01);
+    const double height = heightForPhoto(points.width(), {300.0, 200.0}, limits->margins);
+    EXPECT_NEAR(height, (points.width() - 17.0) * 2.0 / 3.0 + 17.0, 0.01) << "margins of 8.5 points";
+}
+
+} // namespace halvern
