@@ -185,6 +185,7 @@ private:
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
     std::optional<PresetEntry> startingPreset();
+    GivenOptions understoodSaved() const;
     void takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset);
     void tellLeftOut(const QList<LeftOut>& leftOut, const QString& presetTitle);
     void chooseStartingPreset(const std::optional<PresetEntry>& used);

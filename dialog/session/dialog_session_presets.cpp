@@ -5,6 +5,8 @@
 #include "dialog/session/starting_options.h"
 #include "platform/printing/print_settings.h"
 
+#include <algorithm>
+
 namespace halvern {
 
 // Whoever names an instance of the saved options wants these, and not what was printed with last.
@@ -17,7 +19,16 @@ std::optional<PresetEntry> DialogSession::startingPreset()
     }
     const bool asksForInstance = !printer_.instance().isEmpty() && request_.printer == printer_.instance();
     const PresetEntry* last = presets_.find(lastUsedName());
-    return request_.remembers && !asksForInstance && last ? std::optional(*last) : std::nullopt;
+    if (!request_.remembers || asksForInstance || !last)
+        return std::nullopt;
+    PresetEntry entry = *last;
+    entry.preset = withoutSaved(last->preset, understoodSaved());
+    return entry;
+}
+
+GivenOptions DialogSession::understoodSaved() const
+{
+    return understand(model_->file(), givenBy(OptionOrigin::saved, printer_.savedOptions())).options;
 }
 
 void DialogSession::takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset)
@@ -61,8 +72,12 @@ void DialogSession::chooseStartingPreset(const std::optional<PresetEntry>& used)
         if (base && isAsPreset(*model_, page(), base->preset, {}))
             chosen = base;
     }
-    if (chosen)
-        presets_.choose(PresetEntry(*chosen));
+    if (!chosen)
+        return;
+    const auto same = std::ranges::find_if(presets_.entries(),
+                                           [&](const PresetEntry& entry) { return entry.isSame(*chosen); });
+    if (same != presets_.entries().end())
+        presets_.choose(PresetEntry(*same));
 }
 
 // Everything by the printer's defaults, and over them the preset's options. A preset without texts for the
@@ -134,7 +149,10 @@ bool DialogSession::isAsChosen() const
 
 void DialogSession::rememberWhenSent(PrintRun* run)
 {
-    Preset last = captureLastUsed(*model_, settings_->values(), page(), printerDefaults_);
+    QMap<QString, QString> unchosen = printerDefaults_;
+    for (const GivenOption& option : understoodSaved())
+        unchosen.insert(option.key, option.value);
+    Preset last = captureLastUsed(*model_, settings_->values(), page(), unchosen);
     if (presets_.chosen().kind == PresetKind::named && isAsChosen())
         last.basedOn = presets_.chosen().preset.name;
     connect(run, &PrintRun::submitted, this,

@@ -155,6 +155,16 @@ Preset captureLastUsed(const PpdModel& model, const QVariantMap& saved, const Pa
     return preset;
 }
 
+Preset withoutSaved(const Preset& lastUsed, const GivenOptions& saved)
+{
+    Preset rest = lastUsed;
+    for (const GivenOption& option : saved) {
+        if (!rest.changed.contains(option.key))
+            rest.options.remove(option.key);
+    }
+    return rest;
+}
+
 Preset understoodPreset(ppd_file_t* file, const Preset& preset)
 {
     Preset understood = preset;

@@ -26,9 +26,13 @@ QString makeAndModelOf(ppd_file_t* file);
 Preset capturePreset(const PpdModel& model, const QVariantMap& saved, const PageSettings& page,
                      const QMap<QString, QString>& byDefault, const PresetContents& contents);
 
-/// The same as what was printed with last: without copies, and without what goes on the back.
+/// The same as what was printed with last: without copies, and without what goes on the back. `byDefault` are
+/// the values that counted before anybody chose one, the user's saved options among them.
 Preset captureLastUsed(const PpdModel& model, const QVariantMap& saved, const PageSettings& page,
                        const QMap<QString, QString>& byDefault);
+
+/// What was printed with last without what nobody chose then and the user's saved options say now.
+Preset withoutSaved(const Preset& lastUsed, const GivenOptions& saved);
 
 /// The same preset in the words of the printer's PPD, where its own are the server's. What cannot be said in
 /// these stays.

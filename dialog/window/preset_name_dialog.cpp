@@ -65,6 +65,10 @@ QWidget* PresetNameDialog::makeContents()
     copies_->setObjectName(QStringLiteral("presetCopies"));
     backText_ = new QCheckBox(tr("With the &text on the back"), contents);
     backText_->setObjectName(QStringLiteral("presetBackText"));
+    const PresetContents before = contentsOf(session_.presets().chosen().preset);
+    const bool isNamed = session_.presets().chosen().kind == PresetKind::named;
+    copies_->setChecked(isNamed && before.copies);
+    backText_->setChecked(isNamed && before.backText);
     backText_->setVisible(session_.model() && !session_.model()->value(backLineSwitch(1)).isEmpty());
     auto* column = new QVBoxLayout(contents);
     column->setContentsMargins(0, 4, 0, 0);

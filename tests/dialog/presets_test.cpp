@@ -145,6 +145,10 @@ TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
     EXPECT_EQ(last.changed, QStringList{q("PageSize")});
     for (const char* key : {"CVP1", "EnableCVP1", "job-sheets", "com.halvern.private.key"})
         EXPECT_FALSE(last.options.contains(q(key))) << key;
+    const Preset rest =
+        withoutSaved(last, givenBy(OptionOrigin::saved, {{q("PageSize"), q("A5")}, {q("Red"), q("9")}}));
+    EXPECT_TRUE(rest.options.contains(q("PageSize")) && !rest.options.contains(q("Red")))
+        << "what nobody chose gives way to what the user saved since";
     EXPECT_FALSE(contentsOf(last).copies || contentsOf(last).backText);
     const Preset full = capturePreset(*model, saved, page, byDefault, {true, true});
     EXPECT_TRUE(contentsOf(full).copies && contentsOf(full).backText);
