@@ -64,7 +64,7 @@ public:
     QCommandLineOption savePreset{
         QStringLiteral("save-preset"),
         tr("Keep the queue's saved options, --preset and the options given here as a preset, and print "
-           "nothing. Copies and the text on the back are in it if they are given."),
+           "nothing. Copies, pages and the text on the back are in it if they are given."),
         QStringLiteral("NAME")};
     QCommandLineOption listPrinters{QStringLiteral("list-printers"),
                                     tr("Write the print server's queues, a line each.")};
@@ -212,7 +212,8 @@ QList<ListingSwitch> listingSwitches(const Switches& switches)
             {switches.listPresets, Listing::presets, {switches.printer, switches.json}},
             {switches.savePreset,
              Listing::savePreset,
-             {switches.printer, switches.option, switches.preset, switches.copies, switches.backprint}}};
+             {switches.printer, switches.option, switches.preset, switches.copies, switches.pages,
+              switches.reverse, switches.backprint}}};
 }
 
 // What to write instead of printing, if anything. The sentence about what does not go with it; empty if all

@@ -171,8 +171,10 @@ private:
 
     int savePreset(const QueueState& state)
     {
+        const PageChoice& pages = state.page.pages;
+        const bool choosesPages = !pages.ranges.isEmpty() || pages.parity != PageParity::all;
         Preset preset = capturePreset(*state.model, {}, state.page, state.printerDefaults,
-                                      {request_.namesCopies, !request_.backLines.isEmpty()});
+                                      {request_.namesCopies, choosesPages, !request_.backLines.isEmpty()});
         preset.name = presetName(listing_.name);
         if (const QString problem = PresetFile(state.queue).save(preset); !problem.isEmpty())
             return fail(problem);

@@ -37,12 +37,8 @@ QStringList refusalsOf(const StartingOptions& start, const QString& preset, QStr
 PageSettings pageOf(const SessionRequest& request, const PageWishes& wishes, const PresetEntry* preset)
 {
     PageSetup page(request);
-    if (preset) {
-        PageSettings settings = withPreset(page.settings(), preset->preset);
-        if (request.namesCopies)
-            settings.copies = request.copies;
-        page.set(settings);
-    }
+    if (preset)
+        page.set(startingPage(page.settings(), preset->preset, request, wishes));
     page.takeWishes(wishes);
     return page.settings();
 }

@@ -33,12 +33,8 @@ GivenOptions DialogSession::understoodSaved() const
 
 void DialogSession::takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset)
 {
-    if (preset && !pageIsUsers_) {
-        PageSettings page = withPreset(page_.settings(), preset->preset);
-        if (request_.namesCopies)
-            page.copies = request_.copies;
-        page_.set(page);
-    }
+    if (preset && !pageIsUsers_)
+        page_.set(startingPage(page_.settings(), preset->preset, request_, wishes));
     page_.takeWishes(wishes);
     pageIsUsers_ = pageIsUsers_ || !wishes.scaling.isEmpty() || wishes.isCollated;
 }

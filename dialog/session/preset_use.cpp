@@ -21,7 +21,10 @@ constexpr qsizetype kMostSentences = 5;
 const QString kScaling = QStringLiteral("scaling");
 const QString kTurn = QStringLiteral("turn");
 const QString kCollate = QStringLiteral("collate");
+const QString kReversed = QStringLiteral("reversed");
 const QString kCopies = QStringLiteral("copies");
+const QString kRanges = QStringLiteral("ranges");
+const QString kParity = QStringLiteral("parity");
 
 template <typename Value> struct Word {
     Value value;
@@ -33,6 +36,10 @@ constexpr std::array kScalings{Word<Scaling>{Scaling::fit, "fit"}, Word<Scaling>
 constexpr std::array kTurns{Word<PageTurn>{PageTurn::automatic, "automatic"},
                             Word<PageTurn>{PageTurn::portrait, "portrait"},
                             Word<PageTurn>{PageTurn::landscape, "landscape"}};
+
+constexpr std::array kParities{Word<PageParity>{PageParity::all, "all"},
+                               Word<PageParity>{PageParity::odd, "odd"},
+                               Word<PageParity>{PageParity::even, "even"}};
 
 template <typename Words, typename Value> QString wordOf(const Words& words, Value value)
 {
@@ -60,7 +67,8 @@ QMap<QString, QString> pageTexts(const PageSettings& page)
 {
     return {{kScaling, wordOf(kScalings, page.scaling)},
             {kTurn, wordOf(kTurns, page.turn)},
-            {kCollate, trueOrFalse(page.isCollated)}};
+            {kCollate, trueOrFalse(page.isCollated)},
+            {kReversed, trueOrFalse(page.pages.isReversed)}};
 }
 
 bool isBackText(const QString& key)
@@ -110,7 +118,8 @@ bool isSameChoice(const PpdModel& model, const QString& key, const QString& one,
 
 PresetContents contentsOf(const Preset& preset)
 {
-    return {preset.page.contains(kCopies), preset.options.contains(backLineText(1))};
+    return {preset.page.contains(kCopies), preset.page.contains(kRanges),
+            preset.options.contains(backLineText(1))};
 }
 
 QString makeAndModelOf(ppd_file_t* file)
@@ -135,6 +144,10 @@ Preset capturePreset(const PpdModel& model, const QVariantMap& saved, const Page
     preset.page = pageTexts(page);
     if (contents.copies)
         preset.page.insert(kCopies, QString::number(page.copies));
+    if (contents.pages) {
+        preset.page.insert(kRanges, page.pages.ranges);
+        preset.page.insert(kParity, wordOf(kParities, page.pages.parity));
+    }
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         if (!isPrinters(model, it.key()) || isPages(it.key()) || (isBackText(it.key()) && !contents.backText))
             continue;
@@ -213,12 +226,12 @@ bool isAsPreset(const PpdModel& model, const PageSettings& page, const Preset& p
             !isSameChoice(model, it.key(), now, it.value()))
             return false;
     }
-    return pageTexts(withPreset(page, preset)) == pageTexts(page) &&
-           withPreset(page, preset).copies == page.copies;
+    return withPreset(page, preset) == page;
 }
 
-PageSettings withPreset(PageSettings page, const Preset& preset)
+PageSettings withPreset(const PageSettings& before, const Preset& preset)
 {
+    PageSettings page = before;
     readWord(kScalings, preset.page.value(kScaling), page.scaling);
     readWord(kTurns, preset.page.value(kTurn), page.turn);
     if (preset.page.contains(kCollate))
@@ -226,6 +239,25 @@ PageSettings withPreset(PageSettings page, const Preset& preset)
     const int copies = preset.page.value(kCopies).toInt();
     if (copies >= 1 && copies <= kMostCopies)
         page.copies = copies;
+    if (preset.page.contains(kReversed))
+        page.pages.isReversed = preset.page.value(kReversed) == QLatin1StringView("true");
+    PageChoice pages = page.pages;
+    pages.ranges = preset.page.value(kRanges, pages.ranges);
+    readWord(kParities, preset.page.value(kParity), pages.parity);
+    if (choosePages(pages, 0).problem.isEmpty())
+        page.pages = pages;
+    return page;
+}
+
+PageSettings startingPage(const PageSettings& before, const Preset& preset, const SessionRequest& request,
+                          const PageWishes& wishes)
+{
+    PageSettings page = withPreset(before, preset);
+    if (request.namesCopies)
+        page.copies = request.copies;
+    if (request.pages != PageChoice() || !wishes.pageRanges.isEmpty() || !wishes.pageSet.isEmpty() ||
+        wishes.isReversed)
+        page.pages = before.pages;
     return page;
 }
 

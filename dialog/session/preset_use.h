@@ -9,9 +9,12 @@
 
 namespace halvern {
 
+struct SessionRequest;
+
 /// What a preset holds only if somebody said so.
 struct PresetContents {
     bool copies = false;
+    bool pages = false; ///< which pages are printed
     bool backText = false;
 };
 
@@ -56,8 +59,12 @@ PresetOptions optionsOf(const PpdModel& model, const Preset& preset, const QMap<
 bool isAsPreset(const PpdModel& model, const PageSettings& page, const Preset& preset,
                 const QMap<QString, QString>& settled);
 
-/// The page as the preset wants it; what it does not name stays.
-PageSettings withPreset(PageSettings page, const Preset& preset);
+/// The page as the preset wants it; what it does not name stays, and so does what it names wrongly.
+PageSettings withPreset(const PageSettings& page, const Preset& preset);
+
+/// The same at the start, where copies and pages that somebody asked for stay.
+PageSettings startingPage(const PageSettings& page, const Preset& preset, const SessionRequest& request,
+                          const PageWishes& wishes);
 
 /// One sentence for what could not be had of a preset with this title; empty if all could.
 QString leftOutSentence(const QString& title, const QList<LeftOut>& leftOut);

@@ -63,16 +63,22 @@ QWidget* PresetNameDialog::makeContents()
     auto* contents = new QWidget(this);
     copies_ = new QCheckBox(tr("With the number of &copies (%1)").arg(session_.page().copies), contents);
     copies_->setObjectName(QStringLiteral("presetCopies"));
+    const PageChoice& choice = session_.page().pages;
+    pages_ = new QCheckBox(tr("With the &pages to print"), contents);
+    pages_->setObjectName(QStringLiteral("presetPages"));
+    pages_->setVisible(!choice.ranges.isEmpty() || choice.parity != PageParity::all);
     backText_ = new QCheckBox(tr("With the &text on the back"), contents);
     backText_->setObjectName(QStringLiteral("presetBackText"));
     const PresetContents before = contentsOf(session_.presets().chosen().preset);
     const bool isNamed = session_.presets().chosen().kind == PresetKind::named;
     copies_->setChecked(isNamed && before.copies);
+    pages_->setChecked(isNamed && before.pages);
     backText_->setChecked(isNamed && before.backText);
     backText_->setVisible(session_.model() && !session_.model()->value(backLineSwitch(1)).isEmpty());
     auto* column = new QVBoxLayout(contents);
     column->setContentsMargins(0, 4, 0, 0);
     column->addWidget(copies_);
+    column->addWidget(pages_);
     column->addWidget(backText_);
     return contents;
 }
@@ -84,7 +90,8 @@ QString PresetNameDialog::name() const
 
 PresetContents PresetNameDialog::contents() const
 {
-    return {copies_ && copies_->isChecked(), backText_ && backText_->isChecked()};
+    return {copies_ && copies_->isChecked(), pages_ && pages_->isChecked(),
+            backText_ && backText_->isChecked()};
 }
 
 void PresetNameDialog::check()

@@ -37,6 +37,7 @@ private:
     QLabel* remark_;
     QPushButton* accept_;
     QCheckBox* copies_ = nullptr;
+    QCheckBox* pages_ = nullptr;
     QCheckBox* backText_ = nullptr;
 };
 

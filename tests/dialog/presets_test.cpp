@@ -118,7 +118,8 @@ TEST(PresetUse, SetsOnlyOptionsThatThePrinterHasAndSaysWhatIsGone)
                                                {q("Red"), q("400")},
                                                {q("Gone"), q("Default")}});
     stranger.changed.removeAll(q("Gone"));
-    stranger.page = {{q("copies"), q("100000")}, {q("scaling"), q("none")}, {q("turn"), q("over")}};
+    stranger.page = {
+        {q("copies"), q("100000")}, {q("scaling"), q("none")}, {q("turn"), q("over")}, {q("ranges"), q("x")}};
     const StartingOptions start =
         applyGiven(*model, {}, &stranger, givenBy(OptionOrigin::typed, {{q("PaperTone"), q("Warm")}}));
     EXPECT_EQ(start.leftOut.size(), 5) << "all but what had the default";
@@ -129,7 +130,8 @@ TEST(PresetUse, SetsOnlyOptionsThatThePrinterHasAndSaysWhatIsGone)
     expected.insert(q("PaperTone"), q("Warm"));
     EXPECT_EQ(model->values(), expected);
     const PageSettings page = withPreset({}, stranger);
-    EXPECT_TRUE(page.copies == 1 && page.scaling == Scaling::actualSize && page.turn == PageTurn::automatic);
+    EXPECT_TRUE(page.copies == 1 && page.scaling == Scaling::actualSize && page.turn == PageTurn::automatic &&
+                page.pages == PageChoice());
 }
 
 TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
@@ -138,6 +140,7 @@ TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
     const QMap<QString, QString> byDefault = printerDefaults(*model, {});
     PageSettings page;
     page.copies = 7;
+    page.pages = {q("2-"), PageParity::odd, true};
     for (const auto& [key, value] : {std::pair("EnableCVP1", "True"), {"CVP1", "Lake"}, {"PageSize", "A4"}})
         ASSERT_TRUE(model->change(q(key), q(value)).accepted);
     const QVariantMap saved{{q("com.halvern.private.key"), 1}, {q("job-sheets"), q("none")}};
@@ -150,9 +153,10 @@ TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
     EXPECT_TRUE(rest.options.contains(q("PageSize")) && !rest.options.contains(q("Red")))
         << "what nobody chose gives way to what the user saved since";
     EXPECT_FALSE(contentsOf(last).copies || contentsOf(last).backText);
-    const Preset full = capturePreset(*model, saved, page, byDefault, {true, true});
+    const Preset full = capturePreset(*model, saved, page, byDefault, {true, true, true});
     EXPECT_TRUE(contentsOf(full).copies && contentsOf(full).backText);
-    EXPECT_EQ(withPreset({}, full).copies, 7);
+    EXPECT_EQ(withPreset({}, full), page);
+    EXPECT_EQ(withPreset({}, last).pages, (PageChoice{{}, PageParity::all, true}));
     EXPECT_TRUE(isAsPreset(*model, page, full, {}) && isAsPreset(*model, page, last, {}));
     ASSERT_TRUE(model->change(q("PaperName"), q("MatteA4")).accepted);
     EXPECT_FALSE(isAsPreset(*model, page, full, {}));
