@@ -2,6 +2,9 @@
 // halvern-print as a process: what it says and how it ends.
 #include "tests/support/test.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 namespace halvern {
 namespace {
 
@@ -37,6 +40,11 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         {{q("--copies"), q("0"), photo()}, 2, "1 to 999"},
         {{q("--wait"), q("soon"), photo()}, 2, "seconds from 1"},
         {{q("--option"), q("PageSize"), photo()}, 2, "KEY=VALUE"},
+        {{q("--json")}, 2, "goes with"},
+        {{q("--list-options"), photo()}, 2, "--list-options prints no files"},
+        {{q("--list-presets"), q("-o"), q("A=B")}, 2, "prints no files"},
+        {{q("--save-preset"), q("last used")}, 2, "always there"},
+        {{q("--preset"), q(" "), photo()}, 2, "no name of a preset"},
         {{q("--printer"), q(""), photo()}, 2, "name is empty"},
         {{folder.filePath(q("none.jpg")), folder.filePath(q("nor.jpg"))}, 1, "nor.jpg"},
         {{folder.filePath(q("none.jpg"))}, 1, "no file"},
@@ -112,6 +120,35 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
     const auto received = server.receivedOptions(1);
     ASSERT_TRUE(received);
     EXPECT_EQ(received->at(q("SharpnessIntensity")), q("1.24"));
+}
+
+TEST_F(CommandLineTest, ListsAndPresetsNeedNoDisplayAndPrintNothing)
+{
+    PrivateCups server;
+    ASSERT_TRUE(server.addQueue(q("Listed"), {}, {}, {q("--default"), q("--info"), q("Photo \"room\"")}));
+    const auto listed = [](const QStringList& arguments) {
+        const ProgramResult result = runPrint(arguments);
+        EXPECT_EQ(result.status, 0) << qPrintable(arguments.join(u' ') + result.error);
+        return result.output;
+    };
+    const auto json = [&](const QString& what, const QStringList& more = {}) {
+        return QJsonDocument::fromJson(listed(more + QStringList{what, q("--json")}).toUtf8());
+    };
+    EXPECT_EQ(listed({q("--list-printers")}), q("Listed (default): Ready - Photo \"room\"\n"));
+    EXPECT_EQ(json(q("--list-printers"))[0][q("description")].toString(), q("Photo \"room\""));
+    listed({q("-o"), q("PageSize=A4"), q("-n"), q("2"), q("--save-preset"), q("Größe 4")});
+    EXPECT_EQ(listed({q("--list-presets")}), q("Printer Defaults\nGröße 4\n"));
+    EXPECT_EQ(json(q("--list-presets"))[1][q("changed")][0].toString(), q("PageSize"));
+    const QStringList with{q("--preset"), q("Größe 4")};
+    EXPECT_TRUE(listed(with + QStringList{q("--list-options")})
+                    .startsWith(q("PageSize=A4 (default 4x6) \"Paper size\": 4x6 4x6.Fullbleed ")));
+    const QJsonValue size = json(q("--list-options"), with)[q("options")][0];
+    EXPECT_TRUE(size[q("current")].toString() == q("A4") && size[q("default")].toString() == q("4x6"));
+    const QStringList lines = listed(with + QStringList{q("--dry-run"), photo()}).split(u'\n');
+    EXPECT_TRUE(lines.contains(q("PageSize=A4")) && lines.contains(q("copies=2")));
+    const ProgramResult unknown = runPrint({q("--dry-run"), q("--preset"), q("grösse 4"), photo()});
+    EXPECT_TRUE(unknown.status == 1 && unknown.error.contains(q("Größe 4"))) << qPrintable(unknown.error);
+    EXPECT_FALSE(server.receivedOptions(1));
 }
 
 } // namespace halvern
