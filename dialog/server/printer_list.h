@@ -21,6 +21,8 @@ struct PrinterInfo {
     QStringList reasons;
     bool isAccepting = true;
     QString deviceUri;
+    QString location;          ///< where it stands, by its administrator's words; may be empty
+    QString makeAndModel;      ///< may be empty
     bool isDiscovered = false; ///< seen on the network, without a queue of its own yet
 
     bool operator==(const PrinterInfo&) const = default;
@@ -42,7 +44,7 @@ struct PrinterAnswer {
     QString problem;                   ///< the sentence if it could not be asked
 };
 
-/// Asks for all queues, with six attributes each, on the calling worker.
+/// Asks for all queues, with a few attributes each, on the calling worker.
 PrinterAnswer askPrinters(const cups::CancelFlag& cancelled);
 
 /// Printers on the network that have no queue yet, on the calling worker; takes up to `milliseconds`.

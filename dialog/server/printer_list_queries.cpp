@@ -27,6 +27,10 @@ void readAttribute(ipp_attribute_t* attribute, PrinterInfo& printer)
         printer.isAccepting = ippGetBoolean(attribute, 0) != 0;
     } else if (name == QLatin1StringView("device-uri")) {
         printer.deviceUri = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    } else if (name == QLatin1StringView("printer-location")) {
+        printer.location = QString::fromUtf8(ippGetString(attribute, 0, nullptr)).simplified();
+    } else if (name == QLatin1StringView("printer-make-and-model")) {
+        printer.makeAndModel = QString::fromUtf8(ippGetString(attribute, 0, nullptr)).simplified();
     } else if (name == QLatin1StringView("printer-state-reasons")) {
         for (int i = 0; i < ippGetCount(attribute); ++i) {
             const QString reason = QString::fromUtf8(ippGetString(attribute, i, nullptr));
@@ -72,6 +76,10 @@ int addDiscovered(void* found, unsigned flags, cups_dest_t* dest)
         printer.info = info ? QString::fromUtf8(info) : printer.name;
         const char* uri = cupsGetOption("device-uri", dest->num_options, dest->options);
         printer.deviceUri = QString::fromUtf8(uri);
+        printer.location =
+            QString::fromUtf8(cupsGetOption("printer-location", dest->num_options, dest->options));
+        printer.makeAndModel =
+            QString::fromUtf8(cupsGetOption("printer-make-and-model", dest->num_options, dest->options));
         printer.isDiscovered = true;
         static_cast<std::vector<PrinterInfo>*>(found)->push_back(printer);
     }
@@ -82,9 +90,14 @@ int addDiscovered(void* found, unsigned flags, cups_dest_t* dest)
 
 PrinterAnswer askPrinters(const cups::CancelFlag& cancelled)
 {
-    static const char* const kAttributes[] = {
-        "printer-name", "printer-info", "printer-state", "printer-state-reasons", "printer-is-accepting-jobs",
-        "device-uri"};
+    static const char* const kAttributes[] = {"printer-name",
+                                              "printer-info",
+                                              "printer-state",
+                                              "printer-state-reasons",
+                                              "printer-is-accepting-jobs",
+                                              "device-uri",
+                                              "printer-location",
+                                              "printer-make-and-model"};
     PrinterAnswer result;
     cups::Connection server(cancelled);
     if (!server.isConnected()) {

@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTimeEdit>
@@ -133,6 +134,7 @@ JobPage::JobPage(DialogSession& session, QWidget* parent)
     connect(time_, &QTimeEdit::editingFinished, this, &JobPage::chooseHold);
     for (QComboBox* box : {before_, after_})
         connect(box, &QComboBox::activated, this, &JobPage::chooseBanners);
+    connect(&session_, &DialogSession::photosChanged, this, &JobPage::refresh);
     refresh();
 }
 
@@ -140,6 +142,7 @@ QWidget* JobPage::makeHold()
 {
     hold_->setObjectName(QStringLiteral("jobHold"));
     time_->setObjectName(QStringLiteral("jobTime"));
+    time_->setDisplayFormat(QLocale().timeFormat(QLocale::ShortFormat));
     setPlainName(hold_, tr("Print when"));
     setPlainName(time_, tr("Time of day"));
     auto* box = new QWidget(this);

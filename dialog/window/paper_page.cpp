@@ -147,6 +147,7 @@ void PaperPage::connectControls()
     connect(pages_, &PageRangeRow::chosen, this, &PaperPage::choosePages);
     // Another printer's paper may come, or a roll go.
     connect(&session_, &DialogSession::offerChanged, this, &PaperPage::refresh);
+    connect(&session_, &DialogSession::photosChanged, this, &PaperPage::refresh);
 }
 
 void PaperPage::refresh()

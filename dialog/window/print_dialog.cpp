@@ -6,13 +6,14 @@
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/printer_rows.h"
 #include "dialog/window/run_bar.h"
+#include "dialog/window/search_box.h"
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/wheel_guard.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -59,14 +60,6 @@ QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent
     setPlainName(button, name);
     setPlainToolTip(button, name);
     return button;
-}
-
-QString itemText(const PrinterInfo& printer)
-{
-    return printer.info == printer.name
-               ? displayText(printer.name, kLongestName)
-               : QStringLiteral("%1  –  %2")
-                     .arg(isolated(printer.name), isolated(printer.info, kLongestName));
 }
 
 } // namespace
@@ -172,11 +165,12 @@ QWidget* PrintDialog::makeControlSide()
 
 QLayout* PrintDialog::makePrinterRows(QWidget* parent)
 {
-    printer_ = new QComboBox(parent);
+    printer_ = new SearchBox(SearchBox::Rows::twoLines, tr("Search by name, place or model"), parent);
     printer_->setObjectName(QStringLiteral("printer"));
-    printer_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    printer_->setAccessibleName(tr("Printer"));
     printer_->setMinimumContentsLength(24);
-    printer_->setMaxVisibleItems(20);
+    printers_ = new PrinterRows(printer_);
+    printer_->setModel(printers_);
     printerState_ = new QLabel(parent);
     printerState_->setObjectName(QStringLiteral("printerState"));
     printerState_->setWordWrap(true);
@@ -329,25 +323,10 @@ void PrintDialog::tellOfPrinter(MessageKind kind, const QString& sentence)
 
 void PrintDialog::fillPrinters()
 {
-    const PrinterList& list = session_.printerList();
     const QString selected = session_.printerName();
-    QList<std::pair<QString, QString>> wanted;
-    for (const PrinterInfo& printer : list.printers())
-        wanted.append({printer.name, itemText(printer)});
-    if (!selected.isEmpty() && !list.find(selected))
-        wanted.prepend({selected, selected});
     // An open list keeps its place as long as the same printers are in it.
-    for (int i = 0; i < wanted.size(); ++i) {
-        if (i >= printer_->count())
-            printer_->addItem(wanted[i].second, wanted[i].first);
-        else if (printer_->itemData(i) != wanted[i].first || printer_->itemText(i) != wanted[i].second) {
-            printer_->setItemText(i, wanted[i].second);
-            printer_->setItemData(i, wanted[i].first);
-        }
-    }
-    while (printer_->count() > wanted.size())
-        printer_->removeItem(printer_->count() - 1);
-    printer_->setCurrentIndex(printer_->findData(selected));
+    printers_->setPrinters(session_.printerList().printers(), session_.recentPrinters(), selected);
+    printer_->setCurrentIndex(printers_->rowOf(selected));
     showPrinterState();
 }
 

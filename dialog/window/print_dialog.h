@@ -8,7 +8,6 @@
 
 class QBoxLayout;
 class QCheckBox;
-class QComboBox;
 class QLabel;
 class QPushButton;
 class QSpinBox;
@@ -21,7 +20,9 @@ enum class MessageKind;
 class PanelDeck;
 class PresetBar;
 class PreviewWidget;
+class PrinterRows;
 class RunBar;
+class SearchBox;
 
 /// The print dialog's window. It shows a session and passes on what the user does. Main thread only; usable
 /// as soon as it is shown, whatever the print server does.
@@ -93,7 +94,8 @@ private:
     QWidget* previewSide_ = nullptr;
     QWidget* controlSide_ = nullptr;
     QWidget* messageRoom_ = nullptr; // where messages are told while the preview is no neighbour
-    QComboBox* printer_ = nullptr;
+    SearchBox* printer_ = nullptr;
+    PrinterRows* printers_ = nullptr;
     QLabel* printerState_ = nullptr;
     PresetBar* presets_ = nullptr;
     PanelDeck* deck_ = nullptr;

@@ -6,10 +6,10 @@
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/search_box.h"
 #include "platform/foundation/user_defaults.h"
 
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>

@@ -7,10 +7,10 @@
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
 #include "dialog/window/run_bar.h"
+#include "dialog/window/search_box.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QPushButton>
 #include <QSpinBox>
 

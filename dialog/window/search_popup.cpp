@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kLeastWidth = 400;
 constexpr int kMargin = 8;
-constexpr int kRowPadding = 4;
+constexpr int kRowPadding = 5;
 constexpr int kHeadingPadding = 5;
 constexpr double kShareOfScreen = 0.6;
 
