@@ -3,32 +3,11 @@
 
 #include "platform/printing/cups_ppd.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace halvern {
 
 namespace {
-
-bool isOff(const QString& choice)
-{
-    for (const char* off : {"None", "Off", "False"}) {
-        if (choice.compare(QLatin1StringView(off), Qt::CaseInsensitive) == 0)
-            return true;
-    }
-    return choice.isEmpty();
-}
-
-bool applies(const ConstraintSide& side, const OptionMarks& marks)
-{
-    const QString marked = marks.value(side.option);
-    if (side.choice.isEmpty())
-        return !isOff(marked);
-    if (side.choice == QLatin1StringView("Custom") && marked.startsWith(QLatin1StringView("Custom.")))
-        return true;
-    return marked.compare(side.choice, Qt::CaseInsensitive) == 0;
-}
 
 // The page's region follows its size, and is marked nowhere.
 QString markedName(const QString& option)
@@ -49,7 +28,9 @@ std::vector<ConstraintSide> parseSides(const QString& text)
     return sides;
 }
 
-std::vector<Constraint> readNamed(ppd_file_t* file)
+using Resolvers = QHash<QString, std::vector<ConstraintSide>>;
+
+std::vector<Constraint> readNamed(ppd_file_t* file, Resolvers& resolvers)
 {
     std::vector<Constraint> constraints;
     for (ppd_attr_t* found = ppdFindAttr(file, "cupsUIConstraints", nullptr); found;
@@ -59,19 +40,67 @@ std::vector<Constraint> readNamed(ppd_file_t* file)
             constraints.push_back(std::move(constraint));
     }
     // Not in the loop above: looking up another keyword moves the cursor of ppdFindNextAttr.
+    for (ppd_attr_t* found = ppdFindAttr(file, "cupsUIResolver", nullptr); found;
+         found = ppdFindNextAttr(file, "cupsUIResolver", nullptr))
+        resolvers.insert(QString::fromUtf8(found->spec), parseSides(QString::fromUtf8(found->value)));
     for (Constraint& constraint : constraints) {
-        if (!constraint.resolver.isEmpty() &&
-            !ppdFindAttr(file, "cupsUIResolver", constraint.resolver.toUtf8().constData()))
+        if (!resolvers.contains(constraint.resolver))
             constraint.resolver.clear();
     }
     return constraints;
 }
 
+bool othersApply(const Constraint& constraint, const MarkView& marks, const QString& option)
+{
+    return std::ranges::all_of(constraint.sides, [&](const ConstraintSide& side) {
+        return side.option == option || applies(side, marks.value(side.option));
+    });
+}
+
 } // namespace
+
+QString MarkView::value(const QString& option) const
+{
+    for (const OptionMarks* marks : {&changed, &now, &equipment}) {
+        if (const auto found = marks->constFind(option); found != marks->cend())
+            return *found;
+    }
+    return {};
+}
+
+bool isOffChoice(const QString& choice)
+{
+    for (const char* off : {"None", "Off", "False"}) {
+        if (choice.compare(QLatin1StringView(off), Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return choice.isEmpty();
+}
+
+bool applies(const ConstraintSide& side, const QString& marked)
+{
+    if (side.choice.isEmpty())
+        return !isOffChoice(marked);
+    if (side.choice == QLatin1StringView("Custom") && marked.startsWith(QLatin1StringView("Custom.")))
+        return true;
+    const auto isIt = [&](QStringView choice) {
+        return choice.compare(side.choice, Qt::CaseInsensitive) == 0;
+    };
+    // Several choices of one option are written in a row.
+    return marked.contains(QLatin1Char(',')) ? std::ranges::any_of(marked.split(QLatin1Char(',')), isIt)
+                                             : isIt(marked);
+}
+
+bool isRuledOutBy(const Constraint& constraint, const QString& option, const QString& choice)
+{
+    return std::ranges::all_of(constraint.sides, [&](const ConstraintSide& side) {
+        return side.option != option || applies(side, choice);
+    });
+}
 
 Constraints::Constraints(ppd_file_t* file)
 {
-    for (Constraint& constraint : readNamed(file))
+    for (Constraint& constraint : readNamed(file, resolvers_))
         add(std::move(constraint));
     if (!all_.empty())
         return;
@@ -93,19 +122,41 @@ void Constraints::add(Constraint constraint)
     all_.push_back(std::move(constraint));
 }
 
-std::vector<const Constraint*> Constraints::violatedBy(const OptionMarks& marks, const QString& option) const
+std::vector<const Constraint*> Constraints::violatedBy(const MarkView& marks, const QString& option) const
 {
     std::vector<const Constraint*> violated;
-    const auto found = ofOption_.constFind(option);
-    if (found == ofOption_.cend())
-        return violated;
-    for (const size_t index : *found) {
+    const QString marked = marks.value(option);
+    for (const size_t index : indexesOf(option)) {
         const Constraint& constraint = all_[index];
-        if (std::ranges::all_of(constraint.sides,
-                                [&](const ConstraintSide& side) { return applies(side, marks); }))
+        if (isRuledOutBy(constraint, option, marked) && othersApply(constraint, marks, option))
             violated.push_back(&constraint);
     }
     return violated;
+}
+
+std::vector<const Constraint*> Constraints::standingAgainst(const MarkView& marks,
+                                                            const QString& option) const
+{
+    std::vector<const Constraint*> standing;
+    for (const size_t index : indexesOf(option)) {
+        if (othersApply(all_[index], marks, option))
+            standing.push_back(&all_[index]);
+    }
+    return standing;
+}
+
+const std::vector<size_t>& Constraints::indexesOf(const QString& option) const
+{
+    static const std::vector<size_t> none;
+    const auto found = ofOption_.constFind(option);
+    return found == ofOption_.cend() ? none : *found;
+}
+
+const std::vector<ConstraintSide>& Constraints::resolver(const QString& name) const
+{
+    static const std::vector<ConstraintSide> none;
+    const auto found = resolvers_.constFind(name);
+    return found == resolvers_.cend() ? none : *found;
 }
 
 } // namespace halvern

@@ -35,7 +35,9 @@ QString valueText(const QVariant& value)
 
 PpdModel::PpdModel(ppd::File file) : file_(std::move(file)), constraints_(file_.get())
 {
+    readOwnTexts();
     ppdLocalize(file_.get());
+    keepOwnTexts();
     ppd::markDefaults(file_.get());
     readOptions();
 }
@@ -77,6 +79,8 @@ PpdModel::Proposal PpdModel::propose(const QString& key, const QString& value,
         proposal.isListed = true;
         return proposal;
     }
+    if (areListed(proposal.key, value))
+        return proposal;
     return isPageSize(proposal.key) ? proposePageSize(proposal) : proposeCustom(proposal, reading);
 }
 
@@ -114,14 +118,6 @@ PpdModel::Proposal PpdModel::proposePageSize(Proposal proposal) const
     return proposal;
 }
 
-OptionMarks PpdModel::marksWith(const OptionMarks& changed) const
-{
-    OptionMarks marks = values_;
-    marks.insert(equipment_);
-    marks.insert(changed);
-    return marks;
-}
-
 bool PpdModel::goesWithTheRest(const QString& key, const QString& choice) const
 {
     return ppd_lookup::listedChoice(file_.get(), key, choice) &&
@@ -137,58 +133,26 @@ ChangeResult PpdModel::changeListed(const QString& key, const QString& choice)
 {
     if (value(key) == choice && !isKept(key))
         return {true, {}, {}};
-    OptionMarks proposed = marksWith({{key, choice}});
-    const std::vector<const Constraint*> clashes = constraints_.violatedBy(proposed, key);
+    const OptionMarks wanted{{key, choice}};
+    const std::vector<const Constraint*> clashes = constraints_.violatedBy(marksWith(wanted), key);
     for (const Constraint* constraint : clashes) {
-        // Without a resolver, libcups would try choices until something fits, which nobody could follow.
+        // Another choice that happens to fit could be followed by nobody who only hears the answer.
         if (constraint->resolver.isEmpty())
-            return refuse(conflictSentence(key, proposed, *constraint));
+            return refuse(conflictSentence(key, marksWith(wanted), *constraint));
     }
+    const std::optional<OptionMarks> others = resolve(key, wanted);
+    if (!others)
+        return refuse(conflictSentence(key, marksWith(wanted), *clashes.front()));
     ChangeResult result{true, {}, {}};
-    if (!clashes.empty()) {
-        OptionMarks resolved = proposed;
-        if (!resolve(key, {{key, choice}}, resolved))
-            return refuse(conflictSentence(key, proposed, *clashes.front()));
-        for (auto it = resolved.cbegin(); it != resolved.cend(); ++it) {
-            if (it.key() != key && value(it.key()) != it.value())
-                result.sideChanges.append(sideChange(it.key(), it.value()));
-        }
-    }
+    for (auto it = others->cbegin(); it != others->cend(); ++it)
+        result.sideChanges.append(sideChange(it.key(), it.value()));
     setMark(key, choice);
     for (const SideChange& side : result.sideChanges)
         setMark(side.key, side.choice);
     return result;
 }
 
-// Lets libcups settle what clashes with `key` without touching any of `fixed`.
-bool PpdModel::resolve(const QString& key, const OptionMarks& fixed, OptionMarks& proposed) const
-{
-    cups_option_t* options = nullptr;
-    int count = 0;
-    for (auto it = fixed.cbegin(); it != fixed.cend(); ++it)
-        count = cupsAddOption(it.key().toUtf8().constData(), it->toUtf8().constData(), count, &options);
-    // It answers a list of changes and marks nothing.
-    const bool settled = cupsResolveConflicts(file_.get(), key.toUtf8().constData(),
-                                              fixed.value(key).toUtf8().constData(), &count, &options) != 0;
-    for (int i = 0; settled && i < count; ++i) {
-        const QString changed = QString::fromUtf8(options[i].name);
-        if (changed != QLatin1StringView("PageRegion"))
-            proposed[changed] = QString::fromUtf8(options[i].value);
-    }
-    cupsFreeOptions(count, options);
-    if (!settled)
-        return false;
-    for (auto it = proposed.cbegin(); it != proposed.cend(); ++it) {
-        const bool changes = fixed.contains(it.key()) || value(it.key()) != it.value();
-        if (fixed.value(it.key(), it.value()) != it.value() ||
-            equipment_.value(it.key(), it.value()) != it.value() ||
-            (changes && !constraints_.violatedBy(proposed, it.key()).empty()))
-            return false;
-    }
-    return true;
-}
-
-QString PpdModel::conflictSentence(const QString& key, const OptionMarks& proposed,
+QString PpdModel::conflictSentence(const QString& key, const MarkView& proposed,
                                    const Constraint& constraint) const
 {
     QStringList others;
@@ -211,16 +175,6 @@ QString PpdModel::conflictSentence(const QString& key, const OptionMarks& propos
         .arg(chosen, (others + built).join(between));
 }
 
-QString PpdModel::equipmentObstacle(const QString& key, const QString& choice) const
-{
-    if (equipment_.isEmpty())
-        return {};
-    OptionMarks marks = equipment_;
-    marks[key] = choice;
-    const std::vector<const Constraint*> clashes = constraints_.violatedBy(marks, key);
-    return clashes.empty() ? QString() : conflictSentence(key, marks, *clashes.front());
-}
-
 void PpdModel::setMark(const QString& key, const QString& choice)
 {
     if (!ppd_lookup::listedChoice(file_.get(), key, choice)) {
@@ -228,7 +182,7 @@ void PpdModel::setMark(const QString& key, const QString& choice)
         return;
     }
     kept_.remove(key);
-    values_.insert(key, choice);
+    note(key, choice);
     ppdMarkOption(file_.get(), key.toUtf8().constData(), choice.toUtf8().constData());
 }
 
@@ -238,7 +192,25 @@ void PpdModel::keep(const QString& key, const QString& value)
     if (isPageSize(key))
         ppd_lookup::unmark(file_.get(), QStringLiteral("PageRegion"));
     kept_.insert(key, value);
+    note(key, value);
+}
+
+void PpdModel::note(const QString& key, const QString& value)
+{
     values_.insert(key, value);
+    marks_.insert(key, asMark(key, value));
+    if (value == defaults_.value(key))
+        changed_.remove(key);
+    else
+        changed_.insert(key);
+}
+
+// Constraints speak of all of an option's custom values at once.
+QString PpdModel::asMark(const QString& key, const QString& value) const
+{
+    const bool isCustom =
+        ppd_lookup::customParameter(file_.get(), key) && !ppd_lookup::listedChoice(file_.get(), key, value);
+    return isCustom ? QLatin1StringView(kCustomPrefix) + value : value;
 }
 
 void PpdModel::hide(const QString& key)

@@ -4,10 +4,12 @@
 #include "dialog/options/constraints.h"
 #include "dialog/options/given_options.h"
 #include "dialog/options/ppd_lookup.h"
+#include "dialog/options/printer_offer.h"
 #include "platform/printing/ppd.h"
 
 #include <QCoreApplication>
 #include <QRectF>
+#include <QSet>
 #include <QVariant>
 
 #include <functional>
@@ -58,6 +60,20 @@ struct OptionItem {
     bool isInstallable = false; ///< part of the printer's equipment, not of a job
 };
 
+enum class OptionKind { one, several, yesOrNo };
+
+/// The kind and the limits of an option's custom values.
+struct CustomValue {
+    enum class Kind { none, whole, number, length, text, digits, secret };
+
+    Kind kind = Kind::none; ///< none: the option has none, or one of several parts
+    /// Of numbers, in points where they are lengths; of texts, of their characters. Nothing: only the printer
+    /// knows.
+    std::optional<ppd::Range> limits = {};
+
+    bool isHidden() const { return kind == Kind::digits || kind == Kind::secret; }
+};
+
 /// A sheet in points, origin at its top left corner.
 struct SheetGeometry {
     QSizeF paper;
@@ -99,6 +115,27 @@ public:
     ChangeResult change(const QString& key, const QVariant& value,
                         ppd_lookup::NumberReading reading = ppd_lookup::NumberReading::whole);
 
+    /// The same for a user who can be told: what clashes with the choice is changed with it, as little as
+    /// possible, and what is in `chosen` or the paper's size only if nothing else helps. Values are read as a
+    /// whole. Refused only if there is no way, and then nothing has changed.
+    ChangeResult choose(const QString& key, const QVariant& value, const QSet<QString>& chosen);
+
+    /// Chooses the printer's defaults for several options as one. What else had to change is in the result, and
+    /// so are the options themselves.
+    ChangeResult putBack(const QStringList& keys);
+
+    /// Why listed choices of the option clash with what is chosen now, by keyword: "not with Two-sided: Long
+    /// edge". What goes with the rest is not in it.
+    QHash<QString, QString> clashes(const QString& key) const;
+
+    /// What choose() would change beside the listed choice.
+    QList<SideChange> alsoChanges(const QString& key, const QString& choice,
+                                  const QSet<QString>& chosen) const;
+
+    /// What the printer has told of itself: it rules nothing out, but what it cannot do is chosen by nobody
+    /// but the user.
+    void setOffer(PrinterOffer offer) { offer_ = std::move(offer); }
+
     /// Puts earlier values back without any check, as undoing a change needs.
     void restore(const QMap<QString, QString>& values);
 
@@ -123,15 +160,39 @@ public:
     /// Every current value: marks and kept ones, without the printer's equipment.
     const QMap<QString, QString>& values() const { return values_; }
 
+    /// The current value as a job has to spell it: a custom value says that it is one, unless the printer's
+    /// own pages speak with it in another way.
+    QString jobValue(const QString& key) const;
+
+    /// What the printer has by itself where that is not what the PPD says: a queue may have defaults of its own.
+    void setDefaults(const QMap<QString, QString>& defaults);
+
+    /// What the printer has by itself; empty if it chooses nothing that the PPD lists.
+    QString defaultValue(const QString& key) const { return defaults_.value(key); }
+
+    /// The options whose value is another one than the printer has by itself.
+    const QSet<QString>& changedKeys() const { return changed_; }
+
     /// The user's words for an option and a value; the keyword or value itself if nobody has any.
     QString optionText(const QString& key) const;
     QString choiceText(const QString& key, const QString& choice) const;
+
+    /// What the PPD itself calls an option or a listed choice in the language that it was written in.
+    QString ownText(const QString& key, const QString& choice = QString()) const;
 
     /// The keywords of the options in the PPD's order. PageRegion, which follows PageSize, is not among them.
     const QStringList& keys() const { return keys_; }
 
     /// How many choices the PPD lists for an option; 0 if it does not know it.
     int choiceCount(const QString& key) const;
+
+    OptionKind kind(const QString& key) const;
+
+    /// What may be chosen beside the listed choices.
+    CustomValue customValue(const QString& key) const;
+
+    /// The title of the option's group; empty if the PPD does not know the option.
+    QString groupText(const QString& key) const;
 
     /// Whether the option says what is built into the printer.
     bool isInstallable(const QString& key) const { return equipment_.contains(key); }
@@ -169,13 +230,24 @@ private:
     Proposal proposeGiven(const GivenOption& option) const;
     GivenSet checkGiven(const GivenOptions& given, ApplyResult& result) const;
     bool settleGiven(GivenSet& set, ApplyResult& result) const;
-    OptionMarks marksWith(const OptionMarks& changed) const;
+
+    MarkView marksWith(const OptionMarks& changed) const { return {equipment_, marks_, changed}; }
+
+    QString asMark(const QString& key, const QString& value) const;
     ChangeResult changeListed(const QString& key, const QString& choice);
-    bool resolve(const QString& key, const OptionMarks& fixed, OptionMarks& proposed) const;
+    std::optional<OptionMarks> resolve(const QString& key, const OptionMarks& fixed) const;
+    std::optional<OptionMarks> settle(const OptionMarks& wanted, const QSet<QString>& chosen) const;
+    QStringList choicesToTry(const QString& key) const;
+    bool areListed(const QString& key, const QString& values) const;
+    bool isOfferedWith(const QString& key, const QString& choice) const;
     ChangeResult refuse(const QString& sentence) const;
-    QString conflictSentence(const QString& key, const OptionMarks& proposed,
+    QString conflictSentence(const QString& key, const MarkView& proposed,
                              const Constraint& constraint) const;
-    QString equipmentObstacle(const QString& key, const QString& choice) const;
+    QString clashText(const QString& key, const Constraint& constraint) const;
+    QString unlistedText(const QString& key, const QString& value) const;
+    void readOwnTexts();
+    void keepOwnTexts();
+    void note(const QString& key, const QString& value);
     SideChange sideChange(const QString& key, const QString& choice) const;
     void setMark(const QString& key, const QString& choice);
     void keep(const QString& key, const QString& value);
@@ -185,9 +257,14 @@ private:
     QStringList keys_;
     QHash<QString, int> groups_; ///< the options' groups in the PPD
     QMap<QString, QString> values_;
+    QMap<QString, QString> defaults_;
+    OptionMarks marks_; // the values as constraints look at them
+    QSet<QString> changed_;
     QMap<QString, QString> equipment_;
     QMap<QString, QString> kept_;
-    QMap<QString, QByteArray> hidden_; // the PPD's defaults
+    QMap<QString, QByteArray> hidden_;    // the PPD's defaults
+    QHash<QString, QByteArray> ownTexts_; // those that are shown in another language
+    PrinterOffer offer_;
     Words words_;
 };
 

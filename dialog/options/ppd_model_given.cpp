@@ -77,7 +77,8 @@ PpdModel::Proposal PpdModel::proposeGiven(const GivenOption& given) const
     const QByteArray key = proposal.key.toUtf8();
     if (const ppd_option_t* known = ppd_lookup::option(file_.get(), proposal.key)) {
         const bool isPageSize = proposal.key == QLatin1StringView("PageSize");
-        const bool isTaken = proposal.isListed || ppdFindCustomOption(file_.get(), known->keyword);
+        const bool isTaken = proposal.isListed || ppdFindCustomOption(file_.get(), known->keyword) ||
+                             areListed(proposal.key, given.value);
         QStringList names;
         for (const ChoiceItem& choice : option(proposal.key).choices)
             names.append(choice.keyword);
@@ -104,7 +105,7 @@ bool PpdModel::settleGiven(GivenSet& set, ApplyResult& result) const
     const OptionMarks fixed = set.values();
     OptionMarks changed = set.sides;
     changed.insert(fixed);
-    const OptionMarks proposed = marksWith(changed);
+    const MarkView proposed = marksWith(changed);
     for (auto it = changed.cbegin(); it != changed.cend(); ++it) {
         const auto clashes = value(it.key()) == it.value() ? std::vector<const Constraint*>()
                                                            : constraints_.violatedBy(proposed, it.key());
@@ -115,13 +116,12 @@ bool PpdModel::settleGiven(GivenSet& set, ApplyResult& result) const
             if (set.entries.contains(side.option))
                 given.append(side.option);
         }
-        OptionMarks resolved = proposed;
-        if (given.size() == 1 && !clashes.front()->resolver.isEmpty() &&
-            result.settled.size() <= set.entries.size() && resolve(given.front(), fixed, resolved)) {
+        const bool mayResolve = given.size() == 1 && !clashes.front()->resolver.isEmpty() &&
+                                result.settled.size() <= set.entries.size();
+        if (const std::optional<OptionMarks> others =
+                mayResolve ? resolve(given.front(), fixed) : std::nullopt) {
             SettledOption settled{given.front(), value(given.front()), {}};
-            for (auto side = resolved.cbegin(); side != resolved.cend(); ++side) {
-                if (fixed.contains(side.key()) || value(side.key()) == side.value())
-                    continue;
+            for (auto side = others->cbegin(); side != others->cend(); ++side) {
                 set.sides.insert(side.key(), side.value());
                 settled.sideChanges.append(sideChange(side.key(), side.value()));
             }

@@ -7,6 +7,8 @@
 #include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 namespace halvern {
@@ -17,6 +19,16 @@ QString textOr(const char* text, const QString& other)
 {
     const QString found = QString::fromUtf8(text);
     return found.isEmpty() ? other : found;
+}
+
+QString choiceName(const QString& key, const QString& choice)
+{
+    return key + QLatin1Char(' ') + choice;
+}
+
+QString choiceName(const QString& key, const char* choice)
+{
+    return choiceName(key, QString::fromUtf8(choice));
 }
 
 } // namespace
@@ -41,6 +53,55 @@ void PpdModel::readOptions()
                 values_.insert(key, choice);
         }
     }
+    defaults_ = marks_ = values_;
+}
+
+// A text that the PPD has in the user's language too is replaced in the file. Only then is the old one worth
+// keeping, and that is known afterwards.
+void PpdModel::readOwnTexts()
+{
+    if (!ppdFindAttr(file_.get(), "cupsLanguages", nullptr))
+        return;
+    for (int g = 0; g < file_->num_groups; ++g) {
+        for (int i = 0; i < file_->groups[g].num_options; ++i) {
+            const ppd_option_t& option = file_->groups[g].options[i];
+            const QString key = QString::fromUtf8(option.keyword);
+            ownTexts_.insert(key, QByteArray(option.text));
+            for (int c = 0; c < option.num_choices; ++c)
+                ownTexts_.insert(choiceName(key, option.choices[c].choice),
+                                 QByteArray(option.choices[c].text));
+        }
+    }
+}
+
+void PpdModel::keepOwnTexts()
+{
+    for (int g = 0; g < file_->num_groups; ++g) {
+        for (int i = 0; i < file_->groups[g].num_options && !ownTexts_.isEmpty(); ++i) {
+            const ppd_option_t& option = file_->groups[g].options[i];
+            const auto drop = [&](const QString& name, const char* shown) {
+                if (ownTexts_.value(name) == shown)
+                    ownTexts_.remove(name);
+            };
+            const QString key = QString::fromUtf8(option.keyword);
+            drop(key, option.text);
+            for (int c = 0; c < option.num_choices; ++c)
+                drop(choiceName(key, option.choices[c].choice), option.choices[c].text);
+        }
+    }
+}
+
+QString PpdModel::ownText(const QString& key, const QString& choice) const
+{
+    const auto found = ownTexts_.constFind(choice.isEmpty() ? key : choiceName(key, choice));
+    if (found != ownTexts_.cend())
+        return QString::fromUtf8(*found);
+    if (!choice.isEmpty()) {
+        const ppd_choice_t* listed = ppd_lookup::listedChoice(file_.get(), key, choice);
+        return listed ? textOr(listed->text, choice) : choice;
+    }
+    const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    return option ? textOr(option->text, key) : key;
 }
 
 QString PpdModel::value(const QString& key) const
@@ -64,7 +125,29 @@ QString PpdModel::choiceText(const QString& key, const QString& choice) const
     const ppd_choice_t* listed = ppd_lookup::listedChoice(file_.get(), key, choice);
     if (!listed && key == QLatin1StringView("PageSize"))
         return customText(choice);
-    return listed ? inWords(textOr(listed->text, choice)) : choice;
+    return listed ? inWords(textOr(listed->text, choice)) : unlistedText(key, choice);
+}
+
+// What the PPD does not list as a user reads it.
+QString PpdModel::unlistedText(const QString& key, const QString& value) const
+{
+    if (areListed(key, value)) {
+        QStringList texts;
+        for (const QString& choice : value.split(QLatin1Char(',')))
+            texts.append(choiceText(key, choice));
+        return texts.join(QStringLiteral(", "));
+    }
+    const CustomValue custom = customValue(key);
+    if (custom.isHidden())
+        return value.isEmpty() ? QString() : QString(6, QChar(0x2022));
+    bool isNumber = false;
+    const double points = value.toDouble(&isNumber);
+    if (custom.kind != CustomValue::Kind::length || !isNumber)
+        return value;
+    const QLocale locale;
+    return locale.measurementSystem() == QLocale::MetricSystem
+               ? tr("%1 mm").arg(locale.toString(points * kMillimetresPerInch / kPointsPerInch, 'f', 1))
+               : tr("%1 in").arg(locale.toString(points / kPointsPerInch, 'f', 2));
 }
 
 int PpdModel::choiceCount(const QString& key) const
@@ -74,23 +157,86 @@ int PpdModel::choiceCount(const QString& key) const
     return option ? option->num_choices - (hasCustom ? 1 : 0) : 0;
 }
 
+OptionKind PpdModel::kind(const QString& key) const
+{
+    const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
+    if (option && option->ui == PPD_UI_PICKMANY)
+        return OptionKind::several;
+    return option && option->ui == PPD_UI_BOOLEAN && choiceCount(key) == 2 &&
+                   ppd_lookup::listedChoice(file_.get(), key, QStringLiteral("True")) &&
+                   ppd_lookup::listedChoice(file_.get(), key, QStringLiteral("False"))
+               ? OptionKind::yesOrNo
+               : OptionKind::one;
+}
+
+CustomValue PpdModel::customValue(const QString& key) const
+{
+    using Kind = CustomValue::Kind;
+    const ppd_cparam_t* parameter = ppd_lookup::customParameter(file_.get(), key);
+    if (!parameter)
+        return {};
+    switch (parameter->type) {
+    case PPD_CUSTOM_INT:
+        return {Kind::whole, ppd::customRange(file_.get(), key)};
+    case PPD_CUSTOM_POINTS:
+        return {Kind::length, ppd::customRange(file_.get(), key)};
+    case PPD_CUSTOM_REAL:
+    case PPD_CUSTOM_CURVE:
+    case PPD_CUSTOM_INVCURVE:
+        return {Kind::number, ppd::customRange(file_.get(), key)};
+    case PPD_CUSTOM_STRING:
+        return {Kind::text, ppd::Range{double(parameter->minimum.custom_string),
+                                       double(parameter->maximum.custom_string), true}};
+    case PPD_CUSTOM_PASSCODE:
+    case PPD_CUSTOM_PASSWORD:
+        return {parameter->type == PPD_CUSTOM_PASSCODE ? Kind::digits : Kind::secret,
+                ppd::Range{double(parameter->minimum.custom_password),
+                           double(parameter->maximum.custom_password), true}};
+    default:
+        return {};
+    }
+}
+
+bool PpdModel::areListed(const QString& key, const QString& values) const
+{
+    if (kind(key) != OptionKind::several || !values.contains(QLatin1Char(',')))
+        return false;
+    const QStringList choices = values.split(QLatin1Char(','));
+    return std::ranges::all_of(choices, [&](const QString& choice) {
+        return ppd_lookup::listedChoice(file_.get(), key, choice) != nullptr;
+    });
+}
+
+QString PpdModel::groupText(const QString& key) const
+{
+    const auto group = groups_.constFind(key);
+    return group != groups_.cend() ? inWords(QString::fromUtf8(file_->groups[*group].text)) : QString();
+}
+
 OptionItem PpdModel::option(const QString& key) const
 {
-    OptionItem item{key, optionText(key), {}, {}, isInstallable(key)};
+    OptionItem item{key, optionText(key), groupText(key), {}, isInstallable(key)};
     const ppd_option_t* option = ppd_lookup::option(file_.get(), key);
     if (!option)
         return item;
-    if (const auto group = groups_.constFind(key); group != groups_.cend())
-        item.group = inWords(QString::fromUtf8(file_->groups[*group].text));
     const bool hasCustom = ppdFindCustomOption(file_.get(), option->keyword) != nullptr;
+    const OptionMarks nothing;
+    const MarkView built{equipment_, nothing, nothing};
+    const auto standing =
+        item.isInstallable ? std::vector<const Constraint*>() : constraints_.standingAgainst(built, key);
     item.choices.reserve(option->num_choices);
     for (int i = 0; i < option->num_choices; ++i) {
         const ppd_choice_t& choice = option->choices[i];
         if (hasCustom && qstrcmp(choice.choice, "Custom") == 0)
             continue;
         const QString keyword = QString::fromUtf8(choice.choice);
-        item.choices.append({keyword, inWords(textOr(choice.text, keyword)),
-                             item.isInstallable ? QString() : equipmentObstacle(key, keyword)});
+        const auto clash = std::ranges::find_if(
+            standing, [&](const Constraint* constraint) { return isRuledOutBy(*constraint, key, keyword); });
+        const OptionMarks chosen{{key, keyword}};
+        const QString obstacle = clash == standing.end()
+                                     ? QString()
+                                     : conflictSentence(key, {equipment_, nothing, chosen}, **clash);
+        item.choices.append({keyword, inWords(textOr(choice.text, keyword)), obstacle});
     }
     return item;
 }

@@ -85,6 +85,7 @@ void DialogSession::leavePrinter()
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
+    chosen_.clear();
     backLinesProblem_.clear();
     presets_.leave();
     filledIn_.clear();
@@ -107,6 +108,7 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
     presets_.take(printerName(), model_->file(), printer.presets, printer_.saved());
     jobOffer_ = ppd.jobs;
     applyOptions(printer);
+    model_->setOffer(printer.offer);
     keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, printer.offer);
     loadPanels();
     Q_EMIT printerReady();
@@ -118,6 +120,7 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
     const QMap<QString, QString> byDefault = model_->values();
     printerDefaults_ = printerDefaults(*model_, printer.ppd.defaults);
     presets_.setPrinterDefaults(printerDefaults_);
+    model_->setDefaults(printerDefaults_);
     const std::optional<PresetEntry> preset = startingPreset();
     const StartingOptions start =
         applyGiven(*model_,
@@ -199,7 +202,12 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
                                    ChangeOrigin origin)
 {
     const QString before = model_->value(key);
-    ChangeResult result = model_->change(key, value, reading);
+    return accept(key, before, origin, model_->change(key, value, reading));
+}
+
+ChangeResult DialogSession::accept(const QString& key, const QString& before, ChangeOrigin origin,
+                                   const ChangeResult& result)
+{
     if (!result.accepted) {
         Q_EMIT refused(result.refusal);
         return result;
@@ -212,6 +220,8 @@ ChangeResult DialogSession::change(const QString& key, const QVariant& value, Nu
     keeper_->forget(key);
     if (origin == ChangeOrigin::filling)
         filledIn_.insert(key, model_->value(key));
+    if (origin == ChangeOrigin::user)
+        chosen_.insert(key);
     remember(key, before, origin, result.sideChanges);
     Q_EMIT optionsChanged();
     return result;
@@ -257,7 +267,10 @@ void DialogSession::storeInSettings(const QString& key)
 bool DialogSession::changeOption(const QString& key, const QVariant& value)
 {
     history_.endGroup();
-    if (!model_ || !change(key, value, NumberReading::whole, ChangeOrigin::user).accepted)
+    if (!model_)
+        return false;
+    const QString before = model_->value(key);
+    if (!accept(key, before, ChangeOrigin::user, model_->choose(key, value, chosen_)).accepted)
         return false;
     history_.endGroup();
     panels_.tell(key, model_->value(key));
@@ -292,6 +305,7 @@ void DialogSession::undoLastChange()
         return;
     history_.endGroup();
     model_->restore(before);
+    chosen_.subtract(QSet<QString>(before.keyBegin(), before.keyEnd()));
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
         panels_.tell(it.key(), it.value());
@@ -350,6 +364,7 @@ std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
 
 void DialogSession::takeOffer(const PrinterOffer& offer)
 {
+    model_->setOffer(offer);
     const OptionValues overdue = keeper_->takeOffer(offer);
     for (const OptionValue& option : overdue) {
         if (change(option.key, option.value, NumberReading::whole, ChangeOrigin::rule).accepted)
@@ -369,8 +384,14 @@ OptionValues DialogSession::collectOptions()
     // A name that the panels were not shown cannot have been changed by them.
     if (keeper_)
         keeper_->showSheetName();
-    return mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
-                            page().copies, int(chosenPages().pages.size()), page().isCollated});
+    OptionValues options =
+        mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
+                         page().copies, int(chosenPages().pages.size()), page().isCollated});
+    for (OptionValue& option : options) {
+        if (model_ && option.value == model_->value(option.key))
+            option.value = model_->jobValue(option.key);
+    }
+    return options;
 }
 
 void DialogSession::noteUse()

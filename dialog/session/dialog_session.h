@@ -99,6 +99,13 @@ public:
     /// why.
     bool changeOption(const QString& key, const QVariant& value);
 
+    /// What changeOption() would change beside the listed choice.
+    QList<SideChange> alsoChanges(const QString& key, const QString& choice) const;
+
+    /// Puts the options back to what the printer has by default, as one change that can be undone;
+    /// optionsPutBack() follows. False if it was refused; refused() then says why.
+    bool putBack(const QStringList& keys);
+
     /// What is known of the paper that is chosen.
     PaperRoom chosenPaper() const;
 
@@ -166,6 +173,8 @@ Q_SIGNALS:
     void refused(const QString& sentence);
     /// A choice of the user's has changed other options too, by a resolver or by a panel's rules.
     void otherOptionsChanged(const QList<halvern::SideChange>& changes);
+    /// Options have been put back to the printer's defaults, and undoLastChange() undoes it.
+    void optionsPutBack(const QList<halvern::SideChange>& changes);
     /// A panel has corrected what its printer cannot do.
     void optionsCorrected(const QList<halvern::SideChange>& changes);
     /// What undoLastChange() put back was corrected again at once, and would be every time.
@@ -196,6 +205,8 @@ private:
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
                         ChangeOrigin origin);
+    ChangeResult accept(const QString& key, const QString& before, ChangeOrigin origin,
+                        const ChangeResult& result);
     void remember(const QString& key, const QString& before, ChangeOrigin origin,
                   const QList<SideChange>& others);
     void tellChanges();
@@ -212,6 +223,7 @@ private:
     PageSetup page_;
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
+    QSet<QString> chosen_; // by the user, since the printer was selected
     QString backLinesProblem_;
     Presets presets_;
     QMap<QString, QString> printerDefaults_;

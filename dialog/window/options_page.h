@@ -3,58 +3,60 @@
 
 #include "dialog/session/dialog_session.h"
 
-#include <QMap>
-#include <QTimer>
 #include <QWidget>
 
-class QComboBox;
-class QFormLayout;
+class QCheckBox;
 class QLabel;
+class QPushButton;
+class QTreeView;
 
 namespace halvern {
 
-class ChoiceList;
+class OptionTree;
 
-/// The PPD's options that no panel offers, as a list of pop-ups under their groups' titles. Main thread only.
+/// The PPD's options that no panel offers: one list of folding groups, each option with its value beside it.
+/// What differs from the printer's defaults is marked and can be put back, one by one or all together. Main
+/// thread only.
 class OptionsPage : public QWidget {
     Q_OBJECT
 
 public:
     OptionsPage(DialogSession& session, QWidget* parent);
 
-    /// Builds the controls for the session's printer, or takes them away.
+    /// Shows the session's printer's options, or none.
     void rebuild();
 
-    /// Takes the current values into the controls.
+    /// Takes the current values.
     void refresh();
 
-    /// Whether there is anything on the page.
-    bool isEmpty() const { return keys_.isEmpty(); }
+    /// Whether there is nothing on the page.
+    bool isEmpty() const;
+
+    /// Goes to an option: opens its group and takes the focus there. False if it is not on the page.
+    bool reveal(const QString& key);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Box {
-        QComboBox* box = nullptr;
-        ChoiceList* choices = nullptr;
-    };
-
-    void addRows();
-    void addOption(const OptionItem& option);
-    QComboBox* makeBox(const OptionItem& option);
-    void refreshBox(const QString& key);
-    void choose(const QString& key);
+    QWidget* makeHead();
+    void makeView();
+    void choose(const QString& key, const QString& value);
+    void edit(const QModelIndex& index);
+    void click(const QModelIndex& index);
+    void putBack(const QModelIndex& index);
+    void showMenu(const QPoint& at);
+    void layOutGroups();
+    void rememberFold(const QModelIndex& group, bool isFolded);
+    void showCount();
 
     DialogSession& session_;
-    QWidget* content_ = nullptr;
-    QFormLayout* form_ = nullptr;
-    QLabel* more_;
-    QTimer timer_;
-    QStringList keys_;
-    qsizetype built_ = 0; ///< how many of them have their row
-    QString group_;       ///< of the last row
-    QMap<QString, Box> boxes_;
+    OptionTree* tree_;
+    QTreeView* view_ = nullptr;
+    QCheckBox* changedOnly_ = nullptr;
+    QLabel* count_ = nullptr;
+    QPushButton* putBackAll_ = nullptr;
+    bool isLayingOut_ = false;
 };
 
 /// The keywords of the options that no panel owns, the printer's equipment among them.

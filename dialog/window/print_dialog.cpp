@@ -292,6 +292,11 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::photoDamaged, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
     connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
+    connect(&session_, &DialogSession::optionsPutBack, this, [this](const QList<SideChange>& changes) {
+        offerUndo(changes.size() == 1
+                      ? tr("1 option was put back to the printer's default.")
+                      : tr("%1 options were put back to the printer's defaults.").arg(changes.size()));
+    });
     connect(&session_, &DialogSession::optionsCorrected, this, &PrintDialog::showCorrections);
     connect(&session_, &DialogSession::undoFailed, this, [this](const QList<SideChange>& changes) {
         message_->showMessage(
