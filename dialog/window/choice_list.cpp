@@ -18,7 +18,8 @@ namespace {
 // Beyond it a list is only quick if it need not measure each line.
 constexpr qsizetype kLongList = 200;
 // A pop-up with reasons is wide enough for most of them.
-constexpr int kReasonLetters = 52;
+constexpr int kReasonLetters = 60;
+constexpr int kPadding = 4;
 
 // A choice, and under it in a quieter line what stands against it.
 class ReasonDelegate : public QStyledItemDelegate {
@@ -28,8 +29,8 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         QSize size = QStyledItemDelegate::sizeHint(option, index);
-        if (index.data(ChoiceList::kHasReasonRole).toBool())
-            size.setHeight(size.height() + option.fontMetrics.lineSpacing());
+        const int lines = index.data(ChoiceList::kHasReasonRole).toBool() ? 2 : 1;
+        size.setHeight(lines * option.fontMetrics.lineSpacing() + 2 * kPadding);
         return size;
     }
 
@@ -46,7 +47,7 @@ public:
         const QString text = std::exchange(item.text, QString());
         style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
         const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &item, item.widget) + 1;
-        const QRect room = item.rect.adjusted(margin, 2, -margin, -2);
+        const QRect room = item.rect.adjusted(margin, kPadding, -margin, -kPadding);
         const bool isOn = item.state & QStyle::State_Selected;
         const auto draw = [&](const QString& line, Qt::Alignment edge, double opacity) {
             painter->setOpacity(opacity);

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <utility>
 
 namespace halvern {
 
@@ -26,6 +27,14 @@ namespace {
 const QString kOther = QStringLiteral(" other");
 // Longer than any text that a printer takes.
 constexpr int kMostLetters = 1024;
+
+// Across windows, which QWidget::isAncestorOf() does not look beyond: an open pop-up is one.
+bool isWithin(const QObject* root, const QObject* object)
+{
+    while (object && object != root)
+        object = object->parent();
+    return object != nullptr;
+}
 
 } // namespace
 
@@ -48,14 +57,21 @@ CustomField::CustomField(const OptionItem& option, const CustomValue& custom, QW
     connect(box_, &QComboBox::activated, this, [this] {
         showField();
         if (!isOther())
-            Q_EMIT finished();
+            finish();
         else
             field_->setFocus(Qt::OtherFocusReason);
     });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
-        if (before && isAncestorOf(before) && now && !isAncestorOf(now))
-            Q_EMIT finished();
+        if (before && now && isWithin(this, before) && !isWithin(this, now))
+            finish();
     });
+}
+
+// Once: whoever hears it takes the editor away, and with it the focus.
+void CustomField::finish()
+{
+    if (!std::exchange(isOver_, true))
+        Q_EMIT finished();
 }
 
 void CustomField::makeField()
@@ -117,7 +133,7 @@ void CustomField::addText()
         text_->setMaxLength(std::clamp(int(custom_.limits->maximum), 1, kMostLetters));
     text_->setInputMethodHints(custom_.kind == CustomValue::Kind::digits ? Qt::ImhDigitsOnly : Qt::ImhNone);
     watch(text_);
-    connect(text_, &QLineEdit::returnPressed, this, &CustomField::finished);
+    connect(text_, &QLineEdit::returnPressed, this, &CustomField::finish);
 }
 
 void CustomField::watch(QWidget* field)
@@ -130,7 +146,7 @@ void CustomField::watch(QWidget* field)
         return;
     spin->setKeyboardTracking(false);
     if (auto* line = spin->findChild<QLineEdit*>())
-        connect(line, &QLineEdit::returnPressed, this, &CustomField::finished);
+        connect(line, &QLineEdit::returnPressed, this, &CustomField::finish);
 }
 
 double CustomField::pointsPerUnit() const

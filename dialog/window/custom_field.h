@@ -31,16 +31,19 @@ public:
 
     QComboBox* box() const { return box_; }
 
+    /// Whether a custom value is shown, and not a listed one.
+    bool isOther() const;
+
 Q_SIGNALS:
-    /// A choice was made, or the editing of a custom value has ended.
+    /// A choice was made, or the editing of a custom value has ended; told once.
     void finished();
 
 private:
+    void finish();
     void makeField();
     void addNumber();
     void addLength();
     void addText();
-    bool isOther() const;
     void showField();
     double pointsPerUnit() const;
     void takeUnit();
@@ -56,6 +59,7 @@ private:
     QLineEdit* text_ = nullptr;
     QString shown_; ///< what setValue() was given, for whoever changes nothing
     double unitNow_ = 1.0;
+    bool isOver_ = false;
 };
 
 } // namespace halvern

@@ -2,6 +2,7 @@
 #include "dialog/window/options_page.h"
 
 #include "dialog/options/option_tree.h"
+#include "dialog/window/custom_field.h"
 #include "dialog/window/option_delegate.h"
 #include "platform/foundation/user_defaults.h"
 #include "platform/toolkit/plain_text.h"
@@ -194,7 +195,11 @@ void OptionsPage::edit(const QModelIndex& index)
         return;
     view_->setCurrentIndex(value);
     view_->edit(value);
-    if (auto* box = qobject_cast<QComboBox*>(view_->indexWidget(value)))
+    QWidget* const editor = view_->indexWidget(value);
+    const auto* field = qobject_cast<CustomField*>(editor);
+    if (field && field->isOther())
+        return;
+    if (auto* box = field ? field->box() : qobject_cast<QComboBox*>(editor))
         box->showPopup();
 }
 

@@ -2,6 +2,7 @@
 #include "dialog/window/panel_deck.h"
 
 #include "dialog/window/job_page.h"
+#include "dialog/window/option_finder.h"
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
 #include "dialog/window/summary_page.h"
@@ -12,6 +13,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStackedLayout>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -50,6 +53,8 @@ const QIcon& indent()
 PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     : QWidget(parent),
       session_(session),
+      finder_(new OptionFinder(
+          session, [this] { return searchPages(); }, this)),
       list_(new QListWidget(this)),
       area_(new QScrollArea(this)),
       empty_(new QWidget(this)),
@@ -70,14 +75,71 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     for (QWidget* page : {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_),
                           static_cast<QWidget*>(job_), static_cast<QWidget*>(summary_), empty_})
         page->hide();
-    auto* row = new QHBoxLayout(this);
+    layOut();
+    setFocusProxy(list_);
+    connect(list_, &QListWidget::currentRowChanged, this, &PanelDeck::showRow);
+    connect(finder_, &OptionFinder::searching, this,
+            [this](bool isSearching) { stack_->setCurrentIndex(isSearching ? 1 : 0); });
+    connect(finder_, &OptionFinder::chosen, this, &PanelDeck::go);
+    rebuild();
+}
+
+// What a search has found takes the pages' place as long as it lasts.
+void PanelDeck::layOut()
+{
+    auto* pages = new QWidget(this);
+    auto* row = new QHBoxLayout(pages);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kSpacing);
     row->addWidget(list_);
     row->addWidget(area_, 1);
-    setFocusProxy(list_);
-    connect(list_, &QListWidget::currentRowChanged, this, &PanelDeck::showRow);
-    rebuild();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(finder_);
+    stack_ = new QStackedLayout;
+    stack_->addWidget(pages);
+    stack_->addWidget(finder_->results());
+    column->addLayout(stack_, 1);
+}
+
+void PanelDeck::startSearch()
+{
+    finder_->start();
+}
+
+QList<SearchPage> PanelDeck::searchPages() const
+{
+    QList<SearchPage> pages;
+    for (int i = 0; i < list_->count(); ++i) {
+        const QString identifier = list_->item(i)->data(Qt::UserRole).toString();
+        SearchPage page{identifier, list_->item(i)->text()};
+        if (identifier == kPage) {
+            page.view = page_;
+            page.keys = {QStringLiteral("PageSize")};
+        } else if (identifier == kOptions) {
+            page.keys = optionsWithoutPanel(session_);
+        } else if (const Panel* panel = panelFor(identifier)) {
+            page.keys = const_cast<Panel*>(panel)->supportedPPDOptionKeys();
+        }
+        pages.append(page);
+    }
+    return pages;
+}
+
+void PanelDeck::go(const SearchHit& hit)
+{
+    if (hit.page == OptionFinder::printersPage()) {
+        session_.selectPrinter(hit.key);
+        return;
+    }
+    if (!showPage(hit.page) || (hit.page == kOptions && options_->reveal(hit.key)))
+        return;
+    if (QWidget* control = findControl(*area_->widget(), hit.title)) {
+        area_->ensureWidgetVisible(control);
+        control->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    list_->setFocus(Qt::OtherFocusReason);
 }
 
 Panel* PanelDeck::panelFor(const QString& identifier) const
@@ -105,6 +167,7 @@ void PanelDeck::rebuild()
 {
     const QString current =
         list_->currentItem() ? list_->currentItem()->data(Qt::UserRole).toString() : kPage;
+    finder_->stop();
     releasePanels();
     {
         const QSignalBlocker quiet(list_);
@@ -233,7 +296,7 @@ int PanelDeck::wantedWidth() const
 
 QList<QWidget*> PanelDeck::tabOrder() const
 {
-    QList<QWidget*> order{list_};
+    QList<QWidget*> order = finder_->tabOrder() << list_;
     if (area_->focusPolicy() != Qt::NoFocus)
         order.append(area_);
     QWidget* const page = area_->widget();

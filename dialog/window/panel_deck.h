@@ -7,14 +7,17 @@
 
 class QListWidget;
 class QScrollArea;
-class QStackedWidget;
+class QStackedLayout;
 
 namespace halvern {
 
 class JobPage;
+class OptionFinder;
 class OptionsPage;
 class SummaryPage;
 class PaperPage;
+struct SearchHit;
+struct SearchPage;
 
 /// The list of pages, the dialog's own and the panels', and the page that is shown. It keeps the protocol of
 /// showing and hiding panels. Main thread only.
@@ -52,6 +55,9 @@ public:
 
     QStringList identifiers() const;
 
+    /// Takes the focus to the field that searches all pages.
+    void startSearch();
+
     /// Takes the preview in as a page of its own, because there is no room beside the pages; null gives it
     /// back to the caller, who shows it elsewhere.
     void setPreviewPage(QWidget* preview);
@@ -67,7 +73,10 @@ Q_SIGNALS:
     void pageShown();
 
 private:
+    void layOut();
     void addPage(const QString& identifier, const QString& title);
+    QList<SearchPage> searchPages() const;
+    void go(const SearchHit& hit);
     void showRow(int row);
     bool hideShownPanel();
     void takeShownView();
@@ -76,6 +85,8 @@ private:
     Panel* panelFor(const QString& identifier) const;
 
     DialogSession& session_;
+    OptionFinder* finder_;
+    QStackedLayout* stack_ = nullptr;
     QListWidget* list_;
     QScrollArea* area_;
     QWidget* empty_;

@@ -255,6 +255,7 @@ void PrintDialog::makeShortcuts()
     add(QKeySequence::Print, [this] { print_->click(); });
     add(QKeySequence::Close, [this] { close(); });
     add(QKeySequence::Quit, [this] { close(); });
+    add(QKeySequence::Find, [this] { deck_->startSearch(); });
     add(QKeySequence::HelpContents, [this] { showHelp(); });
     add(Qt::CTRL | Qt::Key_PageDown, [this] { step(1); });
     add(Qt::CTRL | Qt::Key_PageUp, [this] { step(-1); });

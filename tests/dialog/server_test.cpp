@@ -387,8 +387,8 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     } while (dialog.focusWidget() != first && visited.size() < 30);
     visited.removeIf(
         [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
-    EXPECT_EQ(visited.join(u' '), q("printer preset presetMenu pageList paperSize borderless twoSided copies "
-                                    "cancelButton printButton preview zoomButton"))
+    EXPECT_EQ(visited.join(u' '), q("printer preset presetMenu search pageList paperSize borderless twoSided "
+                                    "copies cancelButton printButton preview zoomButton"))
         << qPrintable(visited.join(u' '));
     QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
     field.show();
