@@ -120,8 +120,8 @@ public:
     /// whole. Refused only if there is no way, and then nothing has changed.
     ChangeResult choose(const QString& key, const QVariant& value, const QSet<QString>& chosen);
 
-    /// Chooses the printer's defaults for several options as one. What else had to change is in the result, and
-    /// so are the options themselves.
+    /// Chooses the printer's defaults for several options as one. What else had to change is in the result,
+    /// and so are the options themselves.
     ChangeResult putBack(const QStringList& keys);
 
     /// Why listed choices of the option clash with what is chosen now, by keyword: "not with Two-sided: Long
@@ -164,7 +164,8 @@ public:
     /// own pages speak with it in another way.
     QString jobValue(const QString& key) const;
 
-    /// What the printer has by itself where that is not what the PPD says: a queue may have defaults of its own.
+    /// What the printer has by itself where that is not what the PPD says: a queue may have defaults of its
+    /// own.
     void setDefaults(const QMap<QString, QString>& defaults);
 
     /// What the printer has by itself; empty if it chooses nothing that the PPD lists.

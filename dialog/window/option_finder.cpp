@@ -135,7 +135,8 @@ void OptionFinder::lookAtOthers()
 void OptionFinder::lookAtControls(const SearchPage& page)
 {
     for (const QWidget* widget : page.view->findChildren<QWidget*>()) {
-        const QString name = nameOf(widget);
+        const bool isThere = widget->isVisibleTo(page.view) && widget->isEnabledTo(page.view);
+        const QString name = isThere ? nameOf(widget) : QString();
         std::optional<SearchHit> hit = name.isEmpty() ? std::nullopt : findNamed({name}, words_);
         if (!hit)
             continue;

@@ -116,6 +116,8 @@ QList<SearchPage> PanelDeck::searchPages() const
         if (identifier == kPage) {
             page.view = page_;
             page.keys = {QStringLiteral("PageSize")};
+        } else if (identifier == kJob) {
+            page.view = job_;
         } else if (identifier == kOptions) {
             page.keys = optionsWithoutPanel(session_);
         } else if (const Panel* panel = panelFor(identifier)) {

@@ -197,7 +197,11 @@ TEST_F(OptionsPageTest, TheSearchFindsWhatItIsCalledAndGoesThere)
         ASSERT_TRUE(field->hasFocus());
         QTest::keyClicks(field, q(c.typed));
         EXPECT_TRUE(results->isVisible());
-        EXPECT_EQ(results->currentIndex().data(Qt::AccessibleTextRole).toString(), q(c.found));
+        auto* count = dialog.findChild<QLabel*>(q("searchCount"));
+        EXPECT_TRUE(waitUntil([&] {
+            return *c.found ? results->currentIndex().data(Qt::AccessibleTextRole) == q(c.found)
+                            : count->text() == q("Nothing has this name.");
+        })) << qPrintable(results->currentIndex().data(Qt::AccessibleTextRole).toString());
         if (*c.page == 0) {
             QTest::keyClick(field, Qt::Key_Escape);
             EXPECT_TRUE(field->text().isEmpty() && dialog.isVisible());
