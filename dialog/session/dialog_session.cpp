@@ -359,7 +359,8 @@ void DialogSession::handBack(const QString& key)
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
 {
-    return model_ ? page_.format(*model_, photos().empty() ? nullptr : &photos().front()) : nullptr;
+    const std::vector<size_t> pages = chosenPages().pages;
+    return model_ ? page_.format(*model_, pages.empty() ? nullptr : &photos()[pages.front()]) : nullptr;
 }
 
 void DialogSession::takeOffer(const PrinterOffer& offer)

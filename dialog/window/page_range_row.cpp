@@ -63,7 +63,7 @@ void PageRangeRow::refresh(const PageChoice& choice, size_t count, const QString
     const QSignalBlocker quiet(ranges_);
     if (ranges_->text() != choice.ranges)
         ranges_->setText(choice.ranges); // plain: a field holds a value
-    ranges_->setPlaceholderText(tr("All %1, or for example 1-3, 7, 12-").arg(count));
+    ranges_->setPlaceholderText(tr("All %1, or for example 1-3, 5-").arg(count));
     parity_->setCurrentIndex(parity_->findData(int(choice.parity)));
     reversed_->setChecked(choice.isReversed);
     const bool isDark = palette().color(QPalette::Window).lightness() < 128;

@@ -252,7 +252,11 @@ void PrintDialog::makeShortcuts()
     const auto add = [this](const QKeySequence& keys, auto slot) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, slot);
     };
-    add(QKeySequence::Print, [this] { print_->click(); });
+    add(QKeySequence::Print, [this] {
+        print_->click();
+        if (const QString reason = print_->accessibleDescription(); !print_->isEnabled() && !reason.isEmpty())
+            message_->showMessage(MessageKind::warning, reason, {}, kReasonMessage);
+    });
     add(QKeySequence::Close, [this] { close(); });
     add(QKeySequence::Quit, [this] { close(); });
     add(QKeySequence::Find, [this] { deck_->startSearch(); });

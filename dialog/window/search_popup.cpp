@@ -213,7 +213,19 @@ void SearchPopup::search()
     if (field_->text().isEmpty() && before.isValid())
         list_->setCurrentIndex(before);
     else
-        list_->setCurrentIndex(rows_->index(0, 0));
+        list_->setCurrentIndex(bestMatch());
+}
+
+// What begins with the words is meant rather than what has them somewhere.
+QModelIndex SearchPopup::bestMatch() const
+{
+    const QString form = box_.formOf(field_->text());
+    for (int row = 0; row < rows_->rowCount(); ++row) {
+        const QModelIndex match = rows_->index(row, 0);
+        if (match.data(kSearchedRole).toString().startsWith(form))
+            return match;
+    }
+    return rows_->index(0, 0);
 }
 
 // The view tells it only while it has the keyboard itself.

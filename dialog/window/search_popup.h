@@ -60,6 +60,7 @@ protected:
 private:
     void search();
     void choose(const QModelIndex& match);
+    QModelIndex bestMatch() const;
     void place();
     void tell(const QModelIndex& current);
     bool takeKey(QObject* watched, QKeyEvent& key);

@@ -75,7 +75,7 @@ QList<SummaryPage::Line> SummaryPage::jobLines() const
     if (!session_.photos().empty()) {
         const PageLayout layout = session_.layoutFor(session_.photos().front());
         lines.append({tr("Printed area"), pageSizeText(layout.visible().size())});
-        lines.append({tr("Pages"), QString::number(session_.photos().size())});
+        lines.append({tr("Pages"), QString::number(session_.chosenPages().pages.size())});
     }
     lines.append({tr("Copies"), QString::number(session_.page().copies)});
     return lines;

@@ -2,6 +2,9 @@
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/paper_sizes.h"
 #include "dialog/page/page_choice.h"
+#include "dialog/window/paper_size_list.h"
+#include "dialog/window/printer_rows.h"
+#include "dialog/window/search_box.h"
 #include "platform/foundation/units.h"
 #include "tests/dialog/model_support.h"
 
@@ -116,6 +119,56 @@ TEST(CustomPaper, MeasuresTravelInMillimetresWithinThePrintersLimits)
     EXPECT_NEAR(model->sheet().paper.height(), points.height(), 0.01);
     const double height = heightForPhoto(points.width(), {300.0, 200.0}, limits->margins);
     EXPECT_NEAR(height, (points.width() - 17.0) * 2.0 / 3.0 + 17.0, 0.01) << "margins of 8.5 points";
+}
+
+TEST(SearchBox, FindsWhatIsTypedAndReturnChoosesItWhileEscapeChangesNothing)
+{
+    const auto model = tessarinModel();
+    SearchBox box(SearchBox::Rows::oneLine, q("Search"), nullptr);
+    auto* list = new PaperSizeList(&box);
+    list->setSizes(paperSizes(*model),
+                   {{q("Panorama"), QSizeF(300.0, 900.0)}, {q("Wall"), QSizeF(3000.0, 9000.0)}},
+                   paperLimits(model->file()));
+    box.setForm(searchForm);
+    box.setModel(list);
+    box.show();
+    int chosen = -1;
+    QObject::connect(&box, &QComboBox::activated, &box, [&](int row) { chosen = row; });
+    const auto search = [&](const char* words, Qt::Key key) {
+        box.showPopup();
+        auto* field = box.findChild<QLineEdit*>(q("search"));
+        QTest::keyClicks(field, q(words));
+        QTest::keyClick(field, key);
+        EXPECT_FALSE(field->isVisible());
+    };
+    search("a4", Qt::Key_Return);
+    EXPECT_EQ(box.currentData(), q("A4"));
+    EXPECT_EQ(chosen, box.currentIndex());
+    search("10 x 15", Qt::Key_Escape);
+    EXPECT_EQ(box.currentData(), q("A4"));
+    search("panor", Qt::Key_Return);
+    EXPECT_EQ(box.currentText(), q("Panorama"));
+    EXPECT_EQ(list->rowOf(q("Custom.120x300mm")), box.findData(q("Custom")));
+    EXPECT_LT(box.findText(q("Wall")), 0) << "it is beyond the printer's limits";
+}
+
+TEST(PrinterRows, ThoseUsedLastComeFirstAndAChangedStateMovesNothing)
+{
+    std::vector<PrinterInfo> printers(3);
+    for (size_t i = 0; i < 3; ++i)
+        printers[i].name = printers[i].info = QString(QChar(u'a' + char16_t(i)));
+    printers[1].location = q("Second Floor");
+    PrinterRows rows;
+    rows.setPrinters(printers, {q("c"), q("gone")}, q("new"));
+    EXPECT_TRUE(rows.rowOf(q("c")) == 0 && rows.rowOf(q("new")) == 1 && rows.rowOf(q("b")) == 3);
+    EXPECT_TRUE(rows.index(3).data(kSearchedRole).toString().contains(q("second floor")));
+    int resets = 0;
+    int changes = 0;
+    QObject::connect(&rows, &QAbstractItemModel::modelReset, &rows, [&] { ++resets; });
+    QObject::connect(&rows, &QAbstractItemModel::dataChanged, &rows, [&] { ++changes; });
+    printers[1].isAccepting = false;
+    rows.setPrinters(printers, {q("c")}, q("new"));
+    EXPECT_TRUE(resets == 0 && changes == 1);
 }
 
 } // namespace halvern
