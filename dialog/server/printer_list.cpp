@@ -43,6 +43,9 @@ QString stateText(const PrinterInfo& printer)
         if (!text.isEmpty() && reason != QLatin1StringView("paused") && !reasons.contains(text))
             reasons.append(text);
     }
+    if (const QString text = messageText(printer.message);
+        !text.isEmpty() && !reasons.contains(text, Qt::CaseInsensitive))
+        reasons.append(text);
     return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
 }
 

@@ -19,6 +19,7 @@ struct PrinterInfo {
     QString info; ///< the description that its administrator wrote; the name if there is none
     PrinterState state = PrinterState::idle;
     QStringList reasons;
+    QString message; ///< the state in the printer's words; empty while it can print
     bool isAccepting = true;
     QString deviceUri;
     bool isDiscovered = false; ///< seen on the network, without a queue of its own yet
@@ -42,7 +43,7 @@ struct PrinterAnswer {
     QString problem;                   ///< the sentence if it could not be asked
 };
 
-/// Asks for all queues, with six attributes each, on the calling worker.
+/// Asks for all queues, with a few attributes each, on the calling worker.
 PrinterAnswer askPrinters(const cups::CancelFlag& cancelled);
 
 /// Printers on the network that have no queue yet, on the calling worker; takes up to `milliseconds`.
