@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
+#include <QLabel>
 
 namespace halvern {
 
@@ -18,6 +19,10 @@ QString reasonOf(const QWidget* widget, const QPoint& at)
                    ? item.data(Qt::AccessibleDescriptionRole).toString()
                    : QString();
     }
+    // A caption is disabled with its control.
+    const auto* caption = qobject_cast<const QLabel*>(widget);
+    if (caption && !caption->isEnabled() && caption->buddy())
+        widget = caption->buddy();
     return widget->isEnabled() || !widget->toolTip().isEmpty() ? QString() : widget->accessibleDescription();
 }
 

@@ -14,6 +14,12 @@
 
 namespace halvern {
 
+namespace {
+
+const QString kRunMessage = QStringLiteral("run");
+
+} // namespace
+
 void PrintDialog::updateButtons()
 {
     if (!print_)
@@ -22,6 +28,7 @@ void PrintDialog::updateButtons()
     print_->setEnabled(!isBusy && session_.canPrint());
     printer_->setEnabled(!isBusy);
     deck_->setEnabled(!isBusy);
+    message_->setCanAct(!isBusy);
     copies_->setEnabled(!isBusy);
     collate_->setEnabled(!isBusy);
     collate_->setVisible(copies_->value() > 1 && session_.photos().size() > 1);
@@ -42,8 +49,7 @@ void PrintDialog::print()
     if (QWidget* editor = focusWidget(); editor && deck_->isAncestorOf(editor))
         print_->setFocus(Qt::OtherFocusReason);
     delete run_;
-    message_->clear();
-    toldMisfit_.clear();
+    message_->withdraw(kRunMessage);
     run_ = session_.makeRun();
     deck_->pausePanels();
     followRun();
@@ -89,7 +95,7 @@ void PrintDialog::takeOutcome(const PrintOutcome& outcome)
     const bool isFailure = !outcome.printed && outcome.stage != JobStage::cancelled;
     if (isFailure) {
         runBar_->clear();
-        message_->showMessage(MessageKind::error, outcome.sentence);
+        message_->showMessage(MessageKind::error, outcome.sentence, {}, kRunMessage);
     } else {
         runBar_->showEnd(outcome.sentence);
     }
