@@ -10,7 +10,9 @@
 #include "tests/support/scripted_server.h"
 
 #include <QAbstractItemView>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTabWidget>
 
 namespace halvern {
 namespace {
@@ -357,6 +359,17 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     dialog.resize(1240, 780);
     dialog.show();
     ASSERT_TRUE(isReady(session) && QTest::qWaitForWindowActive(&dialog));
+    // A panel's page may have tabs, and its controls in any order.
+    QTabWidget tabs(dialog.findChild<QWidget*>(q("pagePage")));
+    auto* const tab = new QWidget;
+    tabs.addTab(tab, q("Tab"));
+    tabs.setGeometry(0, 300, 200, 120);
+    for (const auto& [name, y] : {std::pair("lower", 50), {"upper", 10}}) {
+        auto* const field = new QLineEdit(tab);
+        field->setObjectName(q(name));
+        field->move(0, y);
+    }
+    tabs.show();
     auto* const first = dialog.findChild<QWidget*>(q("printer"));
     first->setFocus();
     QStringList visited;
@@ -367,7 +380,8 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     visited.removeIf(
         [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
     EXPECT_EQ(visited.join(u' '),
-              q("printer pageList paperSize copies cancelButton printButton preview zoomButton"));
+              q("printer pageList paperSize qt_tabwidget_tabbar upper lower copies cancelButton printButton "
+                "preview zoomButton"));
     QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
     field.show();
     field.setFocus();
@@ -379,9 +393,14 @@ TEST(MessageBarTest, KeepsAllAndNeverPutsAnotherButtonUnderThePointer)
 {
     QWidget window;
     MessageBar bar(&window);
+    bar.resize(400, 60);
     window.show();
     int undone = 0;
     bar.showMessage(MessageKind::warning, q("first"));
+    const int oneLine = bar.heightForWidth(400);
+    bar.showMessage(MessageKind::warning, q("words ").repeated(60), {}, q("long"));
+    EXPECT_GT(bar.heightForWidth(400), oneLine);
+    bar.withdraw(q("long"));
     bar.showMessage(MessageKind::information, q("second"), {q("Undo"), [&] { ++undone; }}, q("printer/undo"));
     EXPECT_EQ(bar.text(), q("second"));
     bar.setAttribute(Qt::WA_UnderMouse);
