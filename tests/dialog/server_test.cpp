@@ -2,6 +2,8 @@
 // The dialog's model and window on a real print server with virtual printers.
 #include "dialog/job/job_actions.h"
 #include "dialog/program/batch_print.h"
+#include "dialog/session/panel_host.h"
+#include "dialog/session/printer_panels.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "platform/printing/printer.h"
@@ -250,16 +252,22 @@ TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
 
 TEST_F(DialogServerTest, NothingIsPrintedBeforeAllPhotosAreRead)
 {
+    // One that is there before the printer, and one that takes longer.
+    QImage large(8000, 7000, QImage::Format_RGB32);
+    large.fill(Qt::gray);
     SessionRequest two = request(q("Tessarin"));
-    two.files += two.files;
+    two.files.append(folder.filePath(q("large.png")));
+    ASSERT_TRUE(large.save(two.files.back()));
     DialogSession session(two, panels);
     int asked = 0;
-    QObject::connect(&session, &DialogSession::photosChanged, &session, [&] {
+    const auto look = [&] {
         EXPECT_TRUE(session.photos().size() == 2 || !session.canPrint());
         ++asked;
-    });
+    };
+    QObject::connect(&session, &DialogSession::photosChanged, &session, look);
+    QObject::connect(&session, &DialogSession::printerReady, &session, look);
     ASSERT_TRUE(isReady(session));
-    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(asked, 3);
 }
 
 TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
@@ -387,6 +395,22 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Return);
     EXPECT_EQ(dialog.run(), nullptr);
+}
+
+TEST(PrinterPanelsTest, NewsOfAPrinterThatIsLeftReachNobody)
+{
+    FakePanels source;
+    PrinterPanels panels(source);
+    DialogSession session({}, source);
+    for (const char* tone : {"Warm", "Cool"}) {
+        panels.meet(std::make_shared<PanelHost>(session, nullptr, nullptr, true));
+        panels.load(q("any"));
+        panels.tell(q("PaperTone"), q(tone));
+        if (q(tone) == q("Warm"))
+            panels.leave();
+    }
+    EXPECT_TRUE(waitUntil([&] { return !source.first.lock()->changes.isEmpty(); }));
+    EXPECT_EQ(source.first.lock()->changes, QStringList{q("PaperTone=Cool")});
 }
 
 TEST(MessageBarTest, KeepsAllAndNeverPutsAnotherButtonUnderThePointer)
