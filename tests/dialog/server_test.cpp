@@ -252,22 +252,23 @@ TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
 
 TEST_F(DialogServerTest, NothingIsPrintedBeforeAllPhotosAreRead)
 {
-    // One that is there before the printer, and one that takes longer.
-    QImage large(8000, 7000, QImage::Format_RGB32);
+    // One that is there before the printer, and some that take longer.
+    QImage large(4000, 4000, QImage::Format_RGB32);
     large.fill(Qt::gray);
-    SessionRequest two = request(q("Tessarin"));
-    two.files.append(folder.filePath(q("large.png")));
-    ASSERT_TRUE(large.save(two.files.back()));
-    DialogSession session(two, panels);
+    const QString slow = folder.filePath(q("slow.png"));
+    ASSERT_TRUE(large.save(slow));
+    SessionRequest four = request(q("Tessarin"));
+    four.files.append({slow, slow, slow});
+    DialogSession session(four, panels);
     int asked = 0;
     const auto look = [&] {
-        EXPECT_TRUE(session.photos().size() == 2 || !session.canPrint());
+        EXPECT_TRUE(session.photos().size() == 4 || !session.canPrint());
         ++asked;
     };
     QObject::connect(&session, &DialogSession::photosChanged, &session, look);
     QObject::connect(&session, &DialogSession::printerReady, &session, look);
     ASSERT_TRUE(isReady(session));
-    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(asked, 5);
 }
 
 TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
