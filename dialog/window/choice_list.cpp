@@ -61,6 +61,8 @@ QVariant ChoiceList::data(const QModelIndex& index, int role) const
         return choice.keyword;
     case Qt::ToolTipRole:
         return plainToolTip(choice.obstacle.isEmpty() ? choice.text : choice.obstacle);
+    case Qt::AccessibleDescriptionRole:
+        return displayText(choice.obstacle);
     default:
         return {};
     }

@@ -15,7 +15,8 @@ QString reasonOf(const QWidget* widget, const QPoint& at)
     const auto* view = qobject_cast<const QAbstractItemView*>(widget->parentWidget());
     if (view && view->viewport() == widget) {
         const QModelIndex item = view->indexAt(at);
-        return item.isValid() && !(item.flags() & Qt::ItemIsEnabled)
+        const bool isOff = item.isValid() && !(item.flags() & Qt::ItemIsEnabled);
+        return isOff && item.data(Qt::ToolTipRole).toString().isEmpty()
                    ? item.data(Qt::AccessibleDescriptionRole).toString()
                    : QString();
     }
