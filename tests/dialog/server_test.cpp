@@ -253,7 +253,7 @@ TEST_F(DialogServerTest, ThePageControlsChangeThePreviewAndTheJob)
 TEST_F(DialogServerTest, NothingIsPrintedBeforeAllPhotosAreRead)
 {
     // One that is there before the printer, and some that take longer.
-    QImage large(4000, 4000, QImage::Format_RGB32);
+    QImage large(3000, 3000, QImage::Format_RGB32);
     large.fill(Qt::gray);
     const QString slow = folder.filePath(q("slow.png"));
     ASSERT_TRUE(large.save(slow));
