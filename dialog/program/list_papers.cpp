@@ -65,17 +65,13 @@ private:
             return fail(answer.problem);
         queue_ = queueOf(startingPrinter(request_.printer, readSavedOptions()));
         if (queue_.isEmpty())
-            queue_ = answer.defaultName;
-        if (queue_.isEmpty() && answer.printers.size() == 1)
-            queue_ = answer.printers.front().name;
+            queue_ = usualPrinter(answer.defaultName, answer.printers);
         for (const PrinterInfo& printer : answer.printers) {
             if (printer.name == queue_) {
                 isAccepting_ = printer.isAccepting;
                 return true;
             }
         }
-        if (queue_.isEmpty() && !answer.printers.empty())
-            return fail(tr("The print server has no default printer. Name one with --printer."));
         return fail(unknownPrinterText(queue_, answer.printers));
     }
 
