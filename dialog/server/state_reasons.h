@@ -5,7 +5,7 @@
 
 namespace halvern {
 
-/// How much a state reason matters to somebody who wants to print.
+/// How much a state reason matters to somebody who wants to print. All of this on any thread.
 enum class Severity { report, warning, error };
 
 /// What the reason's ending says; without one, what the reason means.

@@ -5,7 +5,7 @@
 
 #include <QtGlobal>
 
-/// Which tones the loaded papers allow, as a mask of which only the low eight bits count.
+/// Which tones the loaded papers allow, as a mask of which only the low eight bits count. Any thread.
 namespace HALVERN_EXPORT halvern {
 namespace tone {
 
