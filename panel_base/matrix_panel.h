@@ -6,7 +6,7 @@
 namespace halvern {
 
 /// A base for panels whose options are all radio-button matrices. No panel of ours derives from it; it is
-/// there for those that will.
+/// there for those that will. Main thread only.
 class KSTRVLMatrixPDEHalvern : public KSTRVLBasePDEHalvern {
 public:
     QVariant newChoiceForSender(QWidget* sender) override;

@@ -6,7 +6,7 @@
 namespace halvern {
 
 /// The bundle's principal class: accepts its own bundle only, and hands out the roster of panels. Holds no
-/// state.
+/// state. Main thread only.
 class RZPDEPlugInHalvern : public PrincipalClass {
 public:
     ~RZPDEPlugInHalvern() override;

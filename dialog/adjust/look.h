@@ -5,7 +5,7 @@
 
 namespace halvern {
 
-/// What the printer will do to a photo, as far as a screen can show it.
+/// What the printer will do to a photo, as far as a screen can show it. A value, any thread.
 struct Look {
     adjust::ColorAdjustments colors;
     adjust::Sharpening sharpening;

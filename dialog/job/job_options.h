@@ -8,7 +8,7 @@
 
 namespace halvern {
 
-/// What a job's options are made of.
+/// What a job's options are made of. A value; all of this on any thread.
 struct JobInputs {
     QMap<QString, QString> values; ///< the PPD's marks and the values kept beside them
     QVariantMap settings;          ///< what the panels saved

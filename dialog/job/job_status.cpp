@@ -5,7 +5,6 @@
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 namespace halvern {
 
@@ -122,23 +121,11 @@ QString pattern(const JobStatus& status)
     return Words::tr("The print server does not answer. Job %1 was sent to \"%2\", and may be printed.");
 }
 
-// What filters say of their work rather than of what is wrong with it.
-bool isFiltersChatter(const QString& message)
-{
-    static const QRegularExpression chatter(
-        QStringLiteral("^(color manager|printing page|processing page|(start )?rendering|loading|loaded|"
-                       "ready to print|print(ing)? (file|job)|sending|sent |spooling|connect(ed|ing) to|"
-                       "looking up|paused\\.?$)|\\d ?%"),
-        QRegularExpression::CaseInsensitiveOption);
-    return chatter.match(message).hasMatch();
-}
-
 // While a job gets on, its message is a filter's account of it; where it does not, it may be the reason.
-bool isNews(const JobStatus& status)
+bool mayBeTheReason(const JobStatus& status)
 {
-    const bool hasFailed = status.stage == JobStage::aborted || status.stage == JobStage::cancelled;
-    return (isResting(status.stage) || hasFailed) && !status.message.isEmpty() &&
-           !isFiltersChatter(status.message);
+    return isResting(status.stage) || status.stage == JobStage::aborted ||
+           status.stage == JobStage::cancelled;
 }
 
 } // namespace
@@ -169,9 +156,6 @@ JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& 
     status.reasons = strings(answer.get(), "job-state-reasons");
     status.printerReasons = strings(answer.get(), "job-printer-state-reasons");
     status.message = strings(answer.get(), "job-printer-state-message").join(QLatin1Char(' '));
-    // It becomes part of a sentence.
-    if (status.message.endsWith(QLatin1Char('.')))
-        status.message.chop(1);
     status.pagesDone = integer(answer.get(), "job-media-sheets-completed");
     const int state = integer(answer.get(), "job-state");
     if (state == IPP_JSTATE_PENDING || state == IPP_JSTATE_STOPPED) {
@@ -224,8 +208,9 @@ QString jobReasons(const JobStatus& status)
         if (!text.isEmpty() && !isSaid && !texts.contains(text))
             texts.append(text);
     }
-    if (isNews(status) && !texts.contains(status.message, Qt::CaseInsensitive))
-        texts.append(status.message);
+    const QString message = mayBeTheReason(status) ? messageText(status.message) : QString();
+    if (!message.isEmpty() && !texts.contains(message, Qt::CaseInsensitive))
+        texts.append(message);
     return texts.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(texts.join(QStringLiteral(", ")));
 }
 

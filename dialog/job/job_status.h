@@ -7,7 +7,7 @@
 
 namespace halvern {
 
-/// What a job is doing, in the stages that a user tells apart.
+/// What a job is doing, in the stages that a user tells apart. All of this on any thread, but for asking.
 enum class JobStage {
     unknown, ///< the server has not answered
     waiting, ///< pending, and its printer will get to it

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 
 #include <cups/pwg.h>
 
@@ -21,6 +22,7 @@ namespace {
 
 const QString kPageSize = QStringLiteral("PageSize");
 const QString kPaperWidth = QStringLiteral("PaperWidth");
+const QString kResolution = QStringLiteral("Resolution");
 const QString kPaperName = QStringLiteral("PaperName");
 
 // Names are round: "102x152" is 101.6 by 152.4 mm, and "127x178" is 127 by 177.8.
@@ -126,6 +128,28 @@ QString bestPage(const QList<NamedPage>& pages, const QSizeF& wanted, const Pape
             best = &page;
     }
     return best ? best->keyword : QString();
+}
+
+QString fittingSheet(const PpdModel& model, const PrinterOffer& offer)
+{
+    const QSizeF page = model.sheet().paper;
+    QStringList known;
+    for (const ChoiceItem& choice : model.option(kPaperName).choices)
+        known.append(choice.text);
+    QMap<QString, QString> choices = model.values();
+    // Of equal ones the one that the PPD names first, then by name.
+    std::map<std::tuple<double, qsizetype, QString>, QString> fitting;
+    for (const LoadedPaper& paper : offer.papers) {
+        choices.insert(kPaperName, paper.sheetName);
+        const PaperRoom room = paperRoom(offer, choices, paper.sheetName);
+        if (paper.isRoll() || room.isRoll || !room.width || !room.length || !isOn(page, room) ||
+            !isOffered(offer, choices, kResolution))
+            continue;
+        const qsizetype place = known.indexOf(paper.sheetName);
+        fitting[{*room.width * *room.length, place < 0 ? known.size() : place, paper.sheetName}] =
+            paper.sheetName;
+    }
+    return fitting.empty() ? QString() : fitting.begin()->second;
 }
 
 std::optional<PageMisfit> findMisfit(const PpdModel& model, const PrinterOffer& offer)

@@ -38,6 +38,10 @@ struct NamedPage {
 /// the roll that is most alike; the first of equals; empty if none can be on it. Any thread.
 QString bestPage(const QList<NamedPage>& pages, const QSizeF& wanted, const PaperRoom& room);
 
+/// The loaded sheet to take where nobody has chosen one: the smallest that the chosen page can be on, at the
+/// chosen resolution; empty if there is none. On the model's thread.
+QString fittingSheet(const PpdModel& model, const PrinterOffer& offer);
+
 /// A chosen page size that cannot be on the chosen paper. The user may print all the same.
 struct PageMisfit {
     QString sentence;

@@ -58,11 +58,11 @@ std::unique_ptr<Poppler::Document> openPdf(const QString& path, QString* problem
     Poppler::setDebugErrorFunction([](const QString&, const QVariant&) {}, {});
     std::unique_ptr<Poppler::Document> document = Poppler::Document::load(path);
     if (!document || document->numPages() < 1) {
-        *problem = photo_problem::damaged(path);
+        *problem = photoProblem(PhotoFault::damaged, path);
         return nullptr;
     }
     if (document->isLocked()) {
-        *problem = photo_problem::locked(path);
+        *problem = photoProblem(PhotoFault::locked, path);
         return nullptr;
     }
     document->setRenderHint(Poppler::Document::Antialiasing);
@@ -119,7 +119,7 @@ PhotoFile readPhotoFile(const QString& path)
         std::any_of(file.pages.begin(), file.pages.end(), [](const Photo& photo) { return photo.isDamaged; });
     // One page of several that cannot be read at all is a part that is missing, too.
     if (isDamaged || (!file.pages.empty() && !file.problem.isEmpty()))
-        file.problem = photo_problem::partMissing(path);
+        file.problem = photoProblem(PhotoFault::partMissing, path);
     return file;
 }
 
@@ -132,7 +132,7 @@ QImage readPixels(const Photo& photo, int resolution, QString* problem)
         Picture picture = readPicture(photo.path, photo.page, 0);
         *problem = picture.problem;
         if (!picture.image.isNull() && picture.isDamaged && !photo.isDamaged) {
-            *problem = photo_problem::changed(photo.path);
+            *problem = photoProblem(PhotoFault::changed, photo.path);
             return {};
         }
         return picture.image;
@@ -140,7 +140,7 @@ QImage readPixels(const Photo& photo, int resolution, QString* problem)
     const auto document = openPdf(photo.path, problem);
     const std::unique_ptr<Poppler::Page> page = document ? document->page(photo.page) : nullptr;
     if (document && !page)
-        *problem = photo_problem::changed(photo.path);
+        *problem = photoProblem(PhotoFault::changed, photo.path);
     return page ? page->renderToImage(resolution, resolution) : QImage();
 }
 

@@ -5,17 +5,22 @@
 
 namespace halvern {
 
-/// The sentences about files that cannot be printed as they are: what is wrong, and what to do. Any thread.
-namespace photo_problem {
+/// Why a file cannot be printed as it is.
+enum class PhotoFault {
+    missing,
+    isFolder,
+    unreadable, ///< not for this user
+    empty,
+    noPicture,
+    damaged,     ///< nothing of it can be read
+    partMissing, ///< a picture, but not all of it
+    tooLarge,
+    locked,
+    changed, ///< since it was opened
+};
 
-QString damaged(const QString& path);     ///< nothing of it can be read
-QString partMissing(const QString& path); ///< a picture, but not all of it
-QString tooLarge(const QString& path);
-QString noPicture(const QString& path);
-QString locked(const QString& path);
-QString changed(const QString& path); ///< since it was opened
-
-} // namespace photo_problem
+/// What is wrong with the file, and what to do. Any thread.
+QString photoProblem(PhotoFault fault, const QString& path);
 
 /// A quick look without decoding: the sentence about a file that is missing, a folder, empty or unreadable.
 /// Any thread.

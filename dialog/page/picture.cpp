@@ -61,13 +61,13 @@ Picture readJpeg(const QString& path, const QByteArray& bytes, int leastEdge)
 {
     JpegDecoder decoder(bytes);
     if (!decoder.header())
-        return failed(photo_problem::damaged(path));
+        return failed(photoProblem(PhotoFault::damaged, path));
     const JpegHeader& header = *decoder.header();
     if (isTooLarge(header.size))
-        return failed(photo_problem::tooLarge(path));
+        return failed(photoProblem(PhotoFault::tooLarge, path));
     const QImage image = decoder.read(leastEdge);
     if (image.isNull())
-        return failed(photo_problem::damaged(path));
+        return failed(photoProblem(PhotoFault::damaged, path));
     const Orientation how = jpegOrientation(bytes);
     return {uprightImage(image, how), how.upright(header.size), header.dotsPerInch, decoder.isDamaged(), {}};
 }
@@ -82,11 +82,11 @@ Picture readWithQt(const QString& path, int page)
     if (page > 0)
         reader.jumpToImage(page);
     if (isTooLarge(reader.size()))
-        return failed(photo_problem::tooLarge(path));
+        return failed(photoProblem(PhotoFault::tooLarge, path));
     QImage image = reader.read();
     if (image.isNull()) {
         const bool isPicture = reader.canRead() || reader.error() == QImageReader::InvalidDataError;
-        return failed(isPicture ? photo_problem::damaged(path) : photo_problem::noPicture(path));
+        return failed(photoProblem(isPicture ? PhotoFault::damaged : PhotoFault::noPicture, path));
     }
     const double dotsPerInch = image.dotsPerMeterX() * kMetresPerInch;
     const QByteArray profile = image.colorSpace().iccProfile();
@@ -115,7 +115,8 @@ Picture readPicture(const QString& path, int page, int leastEdge)
     if (!looksLikeJpeg(path))
         return readWithQt(path, page);
     const QByteArray bytes = jpegBytes(path);
-    return bytes.isEmpty() ? failed(photo_problem::tooLarge(path)) : readJpeg(path, bytes, leastEdge);
+    return bytes.isEmpty() ? failed(photoProblem(PhotoFault::tooLarge, path))
+                           : readJpeg(path, bytes, leastEdge);
 }
 
 QByteArray jpegBytes(const QString& path)

@@ -14,7 +14,7 @@ constexpr int kTakeBackMilliseconds = 3000;
 // Nobody sees here what is loaded, and a dry run sends nothing: the panels work from the options alone.
 SessionRequest unattended(SessionRequest request)
 {
-    request.replacesLostDefault = false;
+    request.isAttended = false;
     request.panelsAskPrinter = false;
     request.panelsChangeOptions = false;
     request.remembers = false;

@@ -11,7 +11,7 @@
 
 namespace halvern {
 
-/// What the user asked for on the command line.
+/// What the user asked for on the command line. Values; all of this on the main thread, before anything else.
 struct CommandLine {
     SessionRequest request;
     bool showDialog = true;

@@ -7,6 +7,8 @@
 
 namespace halvern {
 
+/// Texts for a terminal, on any thread that owns the PPD.
+///
 /// "Tessarin: last updated 2026-11-21 08:20 (3 min ago)" in the user's language and time zone.
 QString paperHeading(const QString& queue, const LoadedPapers& loaded, const QDateTime& now);
 

@@ -12,10 +12,6 @@ namespace halvern {
 
 namespace {
 
-struct Words {
-    Q_DECLARE_TR_FUNCTIONS(ListPapers)
-};
-
 // The sentences of what was asked for and cannot be had.
 QStringList refusalsOf(const StartingOptions& start, const QString& preset, QStringList& remarks)
 {
@@ -53,18 +49,14 @@ FoundQueue findQueue(const QString& wanted, const cups::CancelFlag& cancelled)
     const QString named = startingPrinter(wanted, readSavedOptions());
     FoundQueue found{queueOf(named), named == queueOf(named) ? QString() : named, true, {}};
     if (found.name.isEmpty())
-        found.name = answer.defaultName;
-    if (found.name.isEmpty() && answer.printers.size() == 1)
-        found.name = answer.printers.front().name;
+        found.name = usualPrinter(answer.defaultName, answer.printers);
     for (const PrinterInfo& printer : answer.printers) {
         if (printer.name == found.name) {
             found.isAccepting = printer.isAccepting;
             return found;
         }
     }
-    found.problem = found.name.isEmpty() && !answer.printers.empty()
-                        ? Words::tr("The print server has no default printer. Name one with --printer.")
-                        : unknownPrinterText(found.name, answer.printers);
+    found.problem = unknownPrinterText(found.name, answer.printers);
     return found;
 }
 

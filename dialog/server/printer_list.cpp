@@ -43,6 +43,9 @@ QString stateText(const PrinterInfo& printer)
         if (!text.isEmpty() && reason != QLatin1StringView("paused") && !reasons.contains(text))
             reasons.append(text);
     }
+    if (const QString text = messageText(printer.message);
+        !text.isEmpty() && !reasons.contains(text, Qt::CaseInsensitive))
+        reasons.append(text);
     return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
 }
 
@@ -58,6 +61,13 @@ Severity stateSeverity(const PrinterInfo& printer)
     return worst;
 }
 
+QString usualPrinter(const QString& serverDefault, const std::vector<PrinterInfo>& printers)
+{
+    if (std::ranges::find(printers, serverDefault, &PrinterInfo::name) != printers.end())
+        return serverDefault;
+    return printers.size() == 1 ? printers.front().name : QString();
+}
+
 QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers)
 {
     QStringList names;
@@ -65,6 +75,8 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
         names.append(printer.name);
     if (names.isEmpty())
         return Words::tr("The print server has no printers. Add one, for example with lpadmin.");
+    if (name.isEmpty())
+        return Words::tr("The print server has no default printer. Name one with --printer.");
     const qsizetype count = names.size();
     if (count > kMostNamed) {
         names = nearNames(name, names, kMostNamed) + names;

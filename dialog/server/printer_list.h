@@ -19,6 +19,7 @@ struct PrinterInfo {
     QString info; ///< the description that its administrator wrote; the name if there is none
     PrinterState state = PrinterState::idle;
     QStringList reasons;
+    QString message; ///< the state in the printer's words; empty while it can print
     bool isAccepting = true;
     QString deviceUri;
     QString location;          ///< where it stands, by its administrator's words; may be empty
@@ -34,7 +35,12 @@ QString stateText(const PrinterInfo& printer);
 /// How bad that is: an error keeps the printer from printing.
 Severity stateSeverity(const PrinterInfo& printer);
 
-/// The sentence for a queue name that is not among the server's.
+/// The printer of somebody who named none and has no default of his own: the server's default, or the only
+/// printer that there is; else empty.
+QString usualPrinter(const QString& serverDefault, const std::vector<PrinterInfo>& printers);
+
+/// The sentence for a queue name that is not among the server's; for an empty one, that somebody has to name
+/// one.
 QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& printers);
 
 /// What the server answered about its queues.

@@ -31,6 +31,8 @@ void readAttribute(ipp_attribute_t* attribute, PrinterInfo& printer)
         printer.location = QString::fromUtf8(ippGetString(attribute, 0, nullptr)).simplified();
     } else if (name == QLatin1StringView("printer-make-and-model")) {
         printer.makeAndModel = QString::fromUtf8(ippGetString(attribute, 0, nullptr)).simplified();
+    } else if (name == QLatin1StringView("printer-state-message")) {
+        printer.message = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
     } else if (name == QLatin1StringView("printer-state-reasons")) {
         for (int i = 0; i < ippGetCount(attribute); ++i) {
             const QString reason = QString::fromUtf8(ippGetString(attribute, i, nullptr));
@@ -45,6 +47,9 @@ void finish(PrinterInfo& printer, std::vector<PrinterInfo>& printers)
     if (!printer.name.isEmpty()) {
         if (printer.info.isEmpty())
             printer.info = printer.name;
+        // Filters leave theirs behind when all went well.
+        if (stateSeverity(printer) != Severity::error)
+            printer.message.clear();
         printers.push_back(printer);
     }
     printer = PrinterInfo();
@@ -93,6 +98,7 @@ PrinterAnswer askPrinters(const cups::CancelFlag& cancelled)
     static const char* const kAttributes[] = {"printer-name",
                                               "printer-info",
                                               "printer-state",
+                                              "printer-state-message",
                                               "printer-state-reasons",
                                               "printer-is-accepting-jobs",
                                               "device-uri",

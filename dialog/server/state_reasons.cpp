@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/server/state_reasons.h"
 
+#include "platform/foundation/display_text.h"
+
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -9,6 +12,8 @@
 namespace halvern {
 
 namespace {
+
+constexpr int kLongestMessage = 160;
 
 struct ReasonText {
     const char* reason;
@@ -92,6 +97,21 @@ QString reasonText(const QString& reason)
     if (severityOf(reason) != Severity::error)
         return {};
     return bare.replace(QLatin1Char('-'), QLatin1Char(' '));
+}
+
+QString messageText(const QString& message)
+{
+    static const QRegularExpression chatter(
+        QStringLiteral("^(color manager|printing page|processing page|(start )?rendering|loading|loaded|"
+                       "ready to print|print(ing)? (file|job)|sending|sent |spooling|connect(ed|ing) to|"
+                       "looking up|(paused|rejecting jobs)\\.?$)|\\d ?%"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (chatter.match(message).hasMatch())
+        return {};
+    QString text = displayText(message, kLongestMessage);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
 }
 
 } // namespace halvern

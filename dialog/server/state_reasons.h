@@ -5,7 +5,7 @@
 
 namespace halvern {
 
-/// How much a state reason matters to somebody who wants to print.
+/// How much a state reason matters to somebody who wants to print. All of this on any thread.
 enum class Severity { report, warning, error };
 
 /// What the reason's ending says; without one, what the reason means.
@@ -13,5 +13,9 @@ Severity severityOf(const QString& reason);
 
 /// A printer's state reason ("media-empty-error") in the user's words; empty for one that says nothing.
 QString reasonText(const QString& reason);
+
+/// A state message as a part of a sentence, shortened; empty for what filters say of their work rather than
+/// of what is wrong, and for the server's own words for a paused queue.
+QString messageText(const QString& message);
 
 } // namespace halvern

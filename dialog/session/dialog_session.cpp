@@ -368,7 +368,9 @@ void DialogSession::takeOffer(const PrinterOffer& offer)
     model_->setOffer(offer);
     const OptionValues overdue = keeper_->takeOffer(offer);
     for (const OptionValue& option : overdue) {
-        if (change(option.key, option.value, NumberReading::whole, ChangeOrigin::rule).accepted)
+        const ChangeOrigin origin =
+            keeper_->isByDefault(option.key) ? ChangeOrigin::filling : ChangeOrigin::rule;
+        if (change(option.key, option.value, NumberReading::whole, origin).accepted)
             panels_.tell(option.key, model_->value(option.key));
     }
     Q_EMIT offerChanged();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/paper_keeper.h"
 
+#include "dialog/options/page_fit.h"
 #include "platform/printing/print_settings.h"
 
 namespace halvern {
@@ -34,14 +35,26 @@ PaperKeeper::Answer PaperKeeper::judge(const QString& key, const QString& choice
     }
     if (key != kSheetName)
         return Answer::accept;
-    if (now == ppd::defaultChoice(model_.file(), key).value_or(QString()))
-        return Answer::fillIn;
+    if (isByDefault(key)) {
+        // The first by name is not what a user would take. Which one is, is settled with the papers at hand.
+        const QString fitting = fittingSheet(model_, offer_);
+        if (!offer_.papers.isEmpty() && (fitting.isEmpty() || fitting == choice))
+            return Answer::fillIn;
+        refused_.insert(key, choice);
+        return Answer::refuse;
+    }
     // The panel takes the first sheet because it was shown no name at all. The PPD's own goes before it.
     const std::optional<QString> standard = standardSheet();
     if (!standard)
         return Answer::accept;
     refused_.insert(key, *standard);
     return Answer::refuse;
+}
+
+bool PaperKeeper::isByDefault(const QString& key) const
+{
+    return key == kSheetName &&
+           model_.value(key) == ppd::defaultChoice(model_.file(), key).value_or(QString());
 }
 
 // The PPD's own name of a sheet, if the printer offers it.
@@ -64,6 +77,9 @@ OptionValues PaperKeeper::takeOffer(PrinterOffer offer)
     const std::optional<QString> standard = standardSheet();
     if (!offer_.papers.isEmpty() && standard && !refused_.contains(kSheetName))
         refused_.insert(kSheetName, *standard);
+    if (const QString fitting = fittingSheet(model_, offer_);
+        refused_.contains(kSheetName) && isByDefault(kSheetName) && !fitting.isEmpty())
+        refused_.insert(kSheetName, fitting);
     OptionValues overdue;
     QMap<QString, QString> choices = model_.values();
     for (auto it = refused_.begin(); it != refused_.end();) {

@@ -33,6 +33,9 @@ public:
     /// A choice that a panel proposes by itself.
     Answer judge(const QString& key, const QString& choice);
 
+    /// Whether a sheet's name is the PPD's default still, which nobody has chosen.
+    bool isByDefault(const QString& key) const;
+
     /// The option was changed: what was refused for it is settled.
     void forget(const QString& key);
 

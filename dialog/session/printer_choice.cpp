@@ -47,13 +47,16 @@ QString PrinterChoice::instance() const
 
 void PrinterChoice::takePrinters()
 {
-    const bool isLost = request_.printer.isEmpty() && request_.replacesLostDefault && !isThere_ &&
+    const bool isLost = request_.printer.isEmpty() && request_.isAttended && !isThere_ &&
                         printerName_ == queueOf(startedWith_) && !printers_->find(printerName_);
     if ((!printerName_.isEmpty() && !isLost) || printers_->printers().empty())
         return;
     const QString lost = printerName_;
-    const QString standard = printers_->serverDefault();
-    select(printers_->find(standard) ? standard : printers_->printers().front().name);
+    const QString usual = usualPrinter(printers_->serverDefault(), printers_->printers());
+    // Where somebody looks on and may choose another, any is better than none.
+    if (usual.isEmpty() && !request_.isAttended)
+        return;
+    select(usual.isEmpty() ? printers_->printers().front().name : usual);
     if (!lost.isEmpty())
         Q_EMIT notice(
             tr("Your default printer \"%1\" is none of the print server's. \"%2\" was chosen instead.")

@@ -19,8 +19,9 @@ struct SessionRequest {
     PageChoice pages = {};
     QString title = {};        ///< of the job; empty: the first photo's name
     bool printDamaged = false; ///< also photos of which a part is missing, without asking
-    /// Whether another printer is taken if the user's default is none of the server's.
-    bool replacesLostDefault = true;
+    /// Whether somebody sees which printer was taken: another one may be if the user's default is none of the
+    /// server's, or if nobody has named one and the server has no default.
+    bool isAttended = true;
     /// Whether the panels' background work gets to know the printer, and so may ask it what is loaded, which
     /// sends it command jobs.
     bool panelsAskPrinter = true;

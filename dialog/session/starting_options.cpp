@@ -2,6 +2,7 @@
 #include "dialog/session/starting_options.h"
 
 #include "dialog/options/back_lines.h"
+#include "dialog/options/page_fit.h"
 #include "dialog/session/preset_use.h"
 #include "platform/printing/print_settings.h"
 
@@ -82,8 +83,15 @@ void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer)
             return paper.sheetName == sheet;
         });
     };
-    if (isLoaded(name) && !isLoaded(choice))
-        model.restore({{key, name}});
+    if (isLoaded(choice))
+        return;
+    QString sheet;
+    if (isLoaded(name))
+        sheet = name;
+    else if (choice == ppd::defaultChoice(model.file(), key).value_or(QString()))
+        sheet = fittingSheet(model, offer);
+    if (!sheet.isEmpty())
+        model.restore({{key, sheet}});
 }
 
 void storeStart(const PpdModel& model, const QMap<QString, QString>& byDefault, const QString& queueJobSheets,

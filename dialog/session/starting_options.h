@@ -35,7 +35,8 @@ struct AppliedLines {
 AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QString& printer);
 
 /// Gives a sheet that was chosen by the PPD's keyword the printer's name for it, which is the text of that
-/// choice and the only one that a panel knows, if such a sheet is loaded.
+/// choice and the only one that a panel knows, if such a sheet is loaded. In place of the PPD's default, if
+/// that is none of those that are loaded, the sheet that fits: a panel would take the first by name.
 void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer);
 
 /// Stores in the print settings what differs from `byDefault`, the model's values before, and the banner

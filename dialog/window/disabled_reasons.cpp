@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
+#include <QLabel>
 
 namespace halvern {
 
@@ -14,10 +15,15 @@ QString reasonOf(const QWidget* widget, const QPoint& at)
     const auto* view = qobject_cast<const QAbstractItemView*>(widget->parentWidget());
     if (view && view->viewport() == widget) {
         const QModelIndex item = view->indexAt(at);
-        return item.isValid() && !(item.flags() & Qt::ItemIsEnabled)
+        const bool isOff = item.isValid() && !(item.flags() & Qt::ItemIsEnabled);
+        return isOff && item.data(Qt::ToolTipRole).toString().isEmpty()
                    ? item.data(Qt::AccessibleDescriptionRole).toString()
                    : QString();
     }
+    // A caption is disabled with its control.
+    const auto* caption = qobject_cast<const QLabel*>(widget);
+    if (caption && !caption->isEnabled() && caption->buddy())
+        widget = caption->buddy();
     return widget->isEnabled() || !widget->toolTip().isEmpty() ? QString() : widget->accessibleDescription();
 }
 

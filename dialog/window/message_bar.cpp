@@ -104,6 +104,7 @@ MessageBar::MessageBar(QWidget* parent)
     : QFrame(parent),
       icon_(new QLabel(this)),
       label_(new QLabel),
+      room_(new TextRoom(label_, this)),
       body_(new QBoxLayout(QBoxLayout::TopToBottom)),
       back_(makeTool(tr("Previous message"), this)),
       number_(new QLabel(this)),
@@ -115,7 +116,6 @@ MessageBar::MessageBar(QWidget* parent)
     setFrameShape(QFrame::StyledPanel);
     label_->setObjectName(QStringLiteral("messageText"));
     label_->setWordWrap(true);
-    label_->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     label_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     action_->setObjectName(QStringLiteral("messageAction"));
     action_->setAutoDefault(false);
@@ -127,14 +127,15 @@ MessageBar::MessageBar(QWidget* parent)
     tools->addStretch();
     tools->addWidget(action_);
     body_->setSpacing(6);
-    body_->addWidget(new TextRoom(label_, this), 1);
+    body_->addWidget(room_, 1);
     body_->addLayout(tools);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 8, 8, 8);
     row->setSpacing(10);
-    row->addWidget(icon_, 0, Qt::AlignTop);
+    row->addWidget(icon_);
     row->addLayout(body_, 1);
-    row->addWidget(close_, 0, Qt::AlignTop);
+    row->addWidget(close_);
+    setCompact(false);
     connect(close_, &QToolButton::clicked, this, &MessageBar::dismiss);
     connect(action_, &QPushButton::clicked, this, &MessageBar::act);
     hide();
@@ -190,11 +191,6 @@ void MessageBar::withdraw(const QString& key)
     drop([&](const Message& told) { return told.key == key || told.key.startsWith(prefix); });
 }
 
-void MessageBar::clear()
-{
-    drop([](const Message&) { return true; });
-}
-
 QString MessageBar::text() const
 {
     return messages_.empty() ? QString() : messages_[current_].text;
@@ -203,6 +199,17 @@ QString MessageBar::text() const
 void MessageBar::setCompact(bool compact)
 {
     body_->setDirection(compact ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const Qt::Alignment height = compact ? Qt::AlignVCenter : Qt::AlignTop;
+    label_->setAlignment(Qt::AlignLeading | height);
+    for (QWidget* edge : {static_cast<QWidget*>(icon_), static_cast<QWidget*>(close_)})
+        layout()->setAlignment(edge, height);
+    showCurrent();
+}
+
+void MessageBar::setCanAct(bool canAct)
+{
+    canAct_ = canAct;
+    action_->setEnabled(canAct);
 }
 
 QList<QWidget*> MessageBar::tabOrder() const
@@ -260,9 +267,10 @@ void MessageBar::showCurrent()
         update(); // the ground has the message's colour
         icon_->setPixmap(markOf(message.kind, devicePixelRatioF()));
         setPlainText(label_, message.text);
+        room_->updateGeometry(); // a scroll area does not pass on that its content wants another height
         action_->setText(displayText(message.action.title)); // plain: a button knows no markup
         action_->setVisible(!message.action.title.isEmpty());
-        action_->setEnabled(true);
+        action_->setEnabled(canAct_);
         const bool isOneOfMany = messages_.size() > 1;
         for (QWidget* part :
              {static_cast<QWidget*>(back_), static_cast<QWidget*>(number_), static_cast<QWidget*>(forward_)})
@@ -270,6 +278,7 @@ void MessageBar::showCurrent()
         setPlainText(number_, tr("%1 of %2").arg(current_ + 1).arg(messages_.size()));
         back_->setEnabled(current_ > 0);
         forward_->setEnabled(current_ + 1 < messages_.size());
+        layout()->activate(); // until then the layouts in it know the old heights
     }
     Q_EMIT changed();
 }
@@ -287,7 +296,7 @@ void MessageBar::paintEvent(QPaintEvent* event)
 
 void MessageBar::leaveEvent(QEvent* event)
 {
-    action_->setEnabled(true);
+    action_->setEnabled(canAct_);
     if (std::exchange(hasNews_, false) && !messages_.empty()) {
         current_ = messages_.size() - 1;
         showCurrent();

@@ -39,9 +39,6 @@ public:
     /// Takes the messages with this key away, and those whose key begins with it and a slash.
     void withdraw(const QString& key);
 
-    /// Takes all messages away.
-    void clear();
-
     /// The shown message; empty if there is none.
     QString text() const;
 
@@ -49,6 +46,9 @@ public:
 
     /// One row instead of two, for a bar that is wide and low.
     void setCompact(bool compact);
+
+    /// Whether the button of a message does something now; if not it is shown disabled.
+    void setCanAct(bool canAct);
 
     /// What the Tab key visits here.
     QList<QWidget*> tabOrder() const;
@@ -80,8 +80,10 @@ private:
     std::vector<Message> messages_;
     size_t current_ = 0;
     bool hasNews_ = false; // the last one came while the bar was in use
+    bool canAct_ = true;
     QLabel* icon_;
     QLabel* label_;
+    QWidget* room_;
     QBoxLayout* body_;
     QToolButton* back_;
     QLabel* number_;

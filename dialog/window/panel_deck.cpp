@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <map>
 
 namespace halvern {
 
@@ -46,6 +47,32 @@ const QIcon& indent()
         return QIcon(nothing);
     }();
     return icon;
+}
+
+// The controls of a page by lines. What stands beside each other is not aligned to the dot: a line is as high
+// as half a text.
+QList<QWidget*> inReadingOrder(QWidget* page)
+{
+    std::multimap<int, QWidget*> byHeight;
+    const auto centre = [page](const QWidget* widget) {
+        return widget->mapTo(page, widget->rect().center());
+    };
+    for (QWidget* widget : page->findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus && !widget->focusProxy())
+            byHeight.emplace(centre(widget).y(), widget);
+    }
+    const bool isMirrored = page->layoutDirection() == Qt::RightToLeft;
+    QList<QWidget*> order;
+    while (!byHeight.empty()) {
+        const auto end = byHeight.upper_bound(byHeight.begin()->first + page->fontMetrics().height() / 2);
+        std::multimap<int, QWidget*> line;
+        for (auto next = byHeight.begin(); next != end; ++next)
+            line.emplace(centre(next->second).x() * (isMirrored ? -1 : 1), next->second);
+        for (const auto& [across, widget] : line)
+            order.append(widget);
+        byHeight.erase(byHeight.begin(), end);
+    }
+    return order;
 }
 
 } // namespace
@@ -301,13 +328,7 @@ QList<QWidget*> PanelDeck::tabOrder() const
     QList<QWidget*> order = finder_->tabOrder() << list_;
     if (area_->focusPolicy() != Qt::NoFocus)
         order.append(area_);
-    QWidget* const page = area_->widget();
-    for (QWidget* next = page ? page->nextInFocusChain() : nullptr; next != page;
-         next = next->nextInFocusChain()) {
-        if (page->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) && !next->focusProxy())
-            order.append(next);
-    }
-    return order;
+    return area_->widget() ? order + inReadingOrder(area_->widget()) : order;
 }
 
 void PanelDeck::releasePanels()

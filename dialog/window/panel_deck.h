@@ -65,7 +65,8 @@ public:
     /// The width at which no page that has been shown is cut at its side.
     int wantedWidth() const;
 
-    /// What the Tab key visits here: the list, then the shown page's controls as its layout orders them.
+    /// What the Tab key may visit here: the list, then what the shown page shows, from the top to the bottom
+    /// and in a line as one reads.
     QList<QWidget*> tabOrder() const;
 
 Q_SIGNALS:

@@ -20,6 +20,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
@@ -41,16 +42,19 @@ constexpr int kLongestName = 120;
 constexpr int kLongestState = 240;
 constexpr int kMessageMargins = 22;
 
-QFrame* makeLine(QWidget* parent)
-{
-    auto* line = new QFrame(parent);
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Plain);
-    QPalette colours = line->palette();
-    colours.setColor(QPalette::WindowText, colours.color(QPalette::Mid));
-    line->setPalette(colours);
-    return line;
-}
+// A shade of the text's colour: what palettes have for a frame may be as bright as the text.
+class Separator : public QWidget {
+public:
+    explicit Separator(QWidget* parent) : QWidget(parent) { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QColor colour = palette().color(QPalette::WindowText);
+        colour.setAlphaF(0.25F);
+        QPainter(this).fillRect(rect(), colour);
+    }
+};
 
 QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
 {
@@ -83,10 +87,7 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     for (QWidget* place : {previewSide_, messageRoom_})
         place->installEventFilter(this);
     connect(message_, &MessageBar::changed, this, &PrintDialog::placeMessage);
-    connect(deck_, &PanelDeck::pageShown, this, [this] {
-        arrange();
-        orderTabs();
-    });
+    connect(deck_, &PanelDeck::pageShown, this, &PrintDialog::arrange);
     new WheelGuard(this);
     connect(new DisabledReasons(this), &DisabledReasons::asked, this, [this](const QString& reason) {
         message_->showMessage(MessageKind::information, reason, {}, kReasonMessage);
@@ -97,7 +98,6 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     showPhotos();
     updateButtons();
     takeOpeningSize();
-    orderTabs();
     // Not to a pop-up, whose value the wheel would change.
     deck_->setFocus();
 }
@@ -145,10 +145,10 @@ QWidget* PrintDialog::makeControlSide()
     column->setContentsMargins(20, 18, 20, 18);
     column->setSpacing(14);
     column->addLayout(makePrinterRows(side));
-    column->addWidget(makeLine(side));
+    column->addWidget(new Separator(side));
     deck_ = new PanelDeck(session_, side);
     column->addWidget(deck_, 1);
-    column->addWidget(makeLine(side));
+    column->addWidget(new Separator(side));
     messageRoom_ = new QWidget(side);
     messageRoom_->setFixedHeight(2 * fontMetrics().lineSpacing() + kMessageMargins);
     messageRoom_->hide();

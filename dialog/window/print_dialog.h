@@ -50,6 +50,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 Q_SIGNALS:
     /// A run has ended, and the dialog says so.
@@ -65,9 +66,9 @@ private:
     void makeShortcuts();
     void takeOpeningSize();
     void rememberSize() const;
+    QList<QWidget*> tabOrder() const;
     void arrange();
     void placeMessage();
-    void orderTabs();
     void offerUndo(const QString& sentence);
     void tellOfPrinter(MessageKind kind, const QString& sentence);
     void fillPrinters();
@@ -112,6 +113,8 @@ private:
     QPointer<PrintRun> run_;
     PrintOutcome outcome_;
     QString toldMisfit_;
+    QSize wantedSize_;
+    QSize openingSize_; // as much of it as the screen has
     int current_ = 0;
     bool hasPrinted_ = false;
     bool previewIsBeside_ = true;

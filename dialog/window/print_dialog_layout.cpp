@@ -6,13 +6,17 @@
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/run_bar.h"
 #include "dialog/window/search_box.h"
 #include "platform/foundation/user_defaults.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -37,7 +41,9 @@ void PrintDialog::takeOpeningSize()
     const QSize available = (screen()->availableSize() - kFrame).expandedTo({320, 240});
     setMinimumSize(kLeastSize.boundedTo(available));
     const QSize last = UserDefaults::standardUserDefaults().objectForKey(kSizeKey).toSize();
-    resize((last.isValid() ? last : kUsualSize).expandedTo(minimumSize()).boundedTo(available));
+    wantedSize_ = last.isValid() ? last : kUsualSize;
+    openingSize_ = wantedSize_.expandedTo(minimumSize()).boundedTo(available);
+    resize(openingSize_);
 }
 
 void PrintDialog::rememberSize() const
@@ -45,7 +51,12 @@ void PrintDialog::rememberSize() const
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
     // Of a maximized window, what it comes back to.
-    const QSize size = isMaximized() ? normalGeometry().size() : this->size();
+    QSize size = isMaximized() ? normalGeometry().size() : this->size();
+    // What a small screen has cut is nobody's wish for the next one.
+    if (size.width() == openingSize_.width())
+        size.setWidth(wantedSize_.width());
+    if (size.height() == openingSize_.height())
+        size.setHeight(wantedSize_.height());
     if (size.isEmpty() || values.value(kSizeKey).toSize() == size)
         return;
     values.insert(kSizeKey, size);
@@ -73,7 +84,6 @@ void PrintDialog::arrange()
         }
         messageRoom_->setVisible(!isBeside);
         message_->setCompact(!isBeside);
-        orderTabs();
     }
     placeMessage();
 }
@@ -105,17 +115,37 @@ void PrintDialog::resizeEvent(QResizeEvent* event)
 }
 
 // The controls come first, from the top to the bottom, although the preview stands first.
-void PrintDialog::orderTabs()
+QList<QWidget*> PrintDialog::tabOrder() const
 {
     QList<QWidget*> order{printer_};
     order += presets_->tabOrder();
     order += deck_->tabOrder();
-    order += {copies_, cancel_, print_};
+    order += {runBar_->button(), copies_, collate_, cancelJob_, cancel_, print_};
     if (previewIsBeside_)
         order += {preview_, preview_->zoomButton(), back_, forward_};
     order += message_->tabOrder();
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    order.removeIf([this](const QWidget* stop) {
+        const bool isStop = stop->isVisible() && stop->isEnabled() && (stop->focusPolicy() & Qt::TabFocus);
+        return !isStop && stop != focusWidget();
+    });
+    return order;
+}
+
+// Asked for each time: panels bring pages with orders of their own, and what takes the focus changes.
+bool PrintDialog::focusNextPrevChild(bool next)
+{
+    const QList<QWidget*> order = tabOrder();
+    if (order.isEmpty())
+        return false;
+    const qsizetype here = order.indexOf(focusWidget());
+    const qsizetype step = next ? 1 : here < 0 ? order.size() : order.size() - 1;
+    QWidget* const stop = order[(here + step) % order.size()];
+    stop->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    for (QWidget* outer = stop->parentWidget(); outer; outer = outer->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(outer))
+            area->ensureWidgetVisible(stop);
+    }
+    return true;
 }
 
 } // namespace halvern

@@ -16,6 +16,12 @@
 
 namespace halvern {
 
+namespace {
+
+const QString kRunMessage = QStringLiteral("run");
+
+} // namespace
+
 void PrintDialog::updateButtons()
 {
     if (!print_)
@@ -27,6 +33,7 @@ void PrintDialog::updateButtons()
     printer_->setEnabled(!isBusy);
     presets_->setEnabled(!isBusy && session_.model());
     deck_->setEnabled(!isBusy);
+    message_->setCanAct(!isBusy);
     copies_->setEnabled(!isBusy);
     collate_->setEnabled(!isBusy);
     collate_->setVisible(copies_->value() > 1 && session_.chosenPages().pages.size() > 1);
@@ -47,8 +54,7 @@ void PrintDialog::print()
     if (QWidget* editor = focusWidget(); editor && deck_->isAncestorOf(editor))
         print_->setFocus(Qt::OtherFocusReason);
     delete run_;
-    message_->clear();
-    toldMisfit_.clear();
+    message_->withdraw(kRunMessage);
     session_.noteUse();
     run_ = session_.makeRun();
     deck_->pausePanels();
@@ -95,7 +101,7 @@ void PrintDialog::takeOutcome(const PrintOutcome& outcome)
     const bool isFailure = !outcome.printed && outcome.stage != JobStage::cancelled;
     if (isFailure) {
         runBar_->clear();
-        message_->showMessage(MessageKind::error, outcome.sentence);
+        message_->showMessage(MessageKind::error, outcome.sentence, {}, kRunMessage);
     } else {
         runBar_->showEnd(outcome.sentence);
     }

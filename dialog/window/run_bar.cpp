@@ -106,6 +106,11 @@ void RunBar::clear()
     showRemedy(Remedy::none);
 }
 
+QWidget* RunBar::button() const
+{
+    return button_;
+}
+
 void RunBar::showRemedy(Remedy remedy)
 {
     remedy_ = remedy;

@@ -35,6 +35,9 @@ public:
 
     void clear();
 
+    /// For the order of the Tab key.
+    QWidget* button() const;
+
 Q_SIGNALS:
     void remedyChosen(halvern::Remedy remedy);
 

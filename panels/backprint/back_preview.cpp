@@ -100,7 +100,7 @@ void BackPreview::setLine(int index, const QString& text)
 
 QSize BackPreview::sizeHint() const
 {
-    return {480, 160};
+    return minimumSizeHint(); // it takes what is left, and gives way first
 }
 
 QSize BackPreview::minimumSizeHint() const

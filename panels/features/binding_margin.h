@@ -4,7 +4,7 @@
 #include <QString>
 
 /// The binding margin is chosen as the page is seen and stored as the paper lies: on a landscape page the two
-/// are a quarter turn apart.
+/// are a quarter turn apart. Any thread.
 namespace halvern::binding {
 
 /// What is stored for a margin chosen on a landscape page, and which margin to show for a stored one. "None"

@@ -79,13 +79,6 @@ void RZFeaturesPDEHalvern::updatePaperInfo(const Notification*)
     setSortedPaper(found.index);
     enableToneValues(found.tones);
     restoreValuesAndReturnError(nullptr);
-    // The host still has the name that is gone: what is stored is what is shown. A name that was chosen since
-    // then is another matter.
-    const QString restored = descriptionOf(storedChoice(QStringLiteral("PaperName")));
-    if (namePutInPlace_.isValid() && _sortedPaper && !_sortedPaper->names.contains(restored)) {
-        setChoice_forKey(namePutInPlace_, QStringLiteral("PaperName"));
-        updateUI();
-    }
 }
 
 int RZFeaturesPDEHalvern::indexOfMenuItem_forValue(QWidget* popup, const QVariant& value)

@@ -2,6 +2,7 @@
 #include "panels/features/features_panel.h"
 #include "panels/features/features_tags.h"
 
+#include "platform/foundation/description.h"
 #include "platform/foundation/log.h"
 #include "platform/foundation/notifications/distributed_notification_center.h"
 #include "platform/foundation/threads/run_loop_timer.h"
@@ -173,6 +174,13 @@ bool RZFeaturesPDEHalvern::saveValuesAndReturnError(PanelError*)
 bool RZFeaturesPDEHalvern::restoreValuesAndReturnError(PanelError* error)
 {
     const bool restored = KSTRVLBasePDEHalvern::restoreValuesAndReturnError(error);
+    // The host still has the name that is gone: what is stored is what is shown. A name that was chosen since
+    // then is another matter.
+    const QString name = descriptionOf(storedChoice(QStringLiteral("PaperName")));
+    if (namePutInPlace_.isValid() && _sortedPaper && !_sortedPaper->names.contains(name)) {
+        setChoice_forKey(namePutInPlace_, QStringLiteral("PaperName"));
+        updateUI();
+    }
     didSelectNewPaper(nullptr);
     setDuplexAvailable();
     didSelectTwoSided(nullptr);

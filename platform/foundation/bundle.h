@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 #include <QVariantMap>
 
@@ -9,7 +11,7 @@
 
 class QTranslator;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A bundle folder: Info.plist, a loadable module and Resources/ with layouts, translations (NAME_de.qm and
 /// so on in the folder NAME.pde) and the help book. Main thread only, except the plain look-ups of loaded

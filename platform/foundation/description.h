@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QVariant>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A value as log lines spell it, on one line: "{key = value; ...}" with sorted keys for a dictionary,
 /// "(value, ...)" for a list, "(null)" for nothing. Texts inside collections are quoted where they need it,

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 
 #include <cstdio>
 
 class QTextStream;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// Words that a printer, a PPD, a server, a file's name or a preset chose, made fit for a screen or a
 /// terminal. Any thread. Where a widget takes them: toolkit/plain_text.h.

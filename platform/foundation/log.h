@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QLoggingCategory>
 #include <QString>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 Q_DECLARE_LOGGING_CATEGORY(pdeLog)
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 #include <QStringView>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The number at the start of a text, after white space: an optional sign, digits, a point, an exponent. 0 if
 /// the text does not start with a number. The decimal sign is "." in every locale.

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 #include <QStringList>
 #include <QStringView>
 
 #include <functional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 namespace KSTRVL_NSStringAdditions {
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 /// Lengths and resolutions that everybody counts in.
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 inline constexpr double kPointsPerInch = 72.0;
 inline constexpr double kMillimetresPerInch = 25.4;

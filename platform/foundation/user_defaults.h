@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 #include <QVariantMap>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The user's preferences, kept in one settings file ("halvern/print.ini" in the user's configuration
 /// folder). Main thread only.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
 #include "platform/foundation/string_additions.h"
 
 #include <QString>
@@ -9,7 +10,8 @@
 
 /// What a line of text on the back of a picture may hold, and in which form it is stored. Lengths are in
 /// UTF-16 units. Any thread.
-namespace halvern::backprint {
+namespace HALVERN_EXPORT halvern {
+namespace backprint {
 
 inline constexpr qsizetype kLongestLine = 120;
 
@@ -62,4 +64,5 @@ struct EnteredLine {
 /// editing.
 EnteredLine enteredLine(const QString& text);
 
-} // namespace halvern::backprint
+} // namespace backprint
+} // namespace halvern

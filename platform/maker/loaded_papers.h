@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -10,7 +12,7 @@
 struct ppd_file_s;
 using ppd_file_t = ppd_file_s;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A sheet, or a roll with one surface, and what the printer can do on it.
 struct LoadedPaper {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -9,7 +11,7 @@
 
 #include <optional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// What the printer knows of its papers: paper key -> record. A record's fields are "paperName" (a sheet's
 /// name; rolls have none), "paperWidth" (tenths of a millimetre), "paperSurface" (a code), "paperResolution"

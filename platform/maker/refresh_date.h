@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QDateTime>
 #include <QString>
 
 #include <optional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The moment of a printer's time stamp: a decimal number of seconds since the start of 2001, UTC; a text
 /// that does not start with a number counts as zero. Any thread.

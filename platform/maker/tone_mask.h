@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QtGlobal>
 
-/// Which tones the loaded papers allow, as a mask of which only the low eight bits count.
-namespace halvern::tone {
+/// Which tones the loaded papers allow, as a mask of which only the low eight bits count. Any thread.
+namespace HALVERN_EXPORT halvern {
+namespace tone {
 
 constexpr bool allowsAny(quint32 mask)
 {
@@ -19,4 +22,5 @@ constexpr bool allowsItem(quint32 mask, int index)
     return index >= 1 && index <= 32 && quint8(mask & (1U << (index - 1))) != 0;
 }
 
-} // namespace halvern::tone
+} // namespace tone
+} // namespace halvern

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -9,7 +11,7 @@
 struct ppd_file_s;
 using ppd_file_t = ppd_file_s;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 class PageFormat;
 class PrintSession;

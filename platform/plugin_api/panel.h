@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -12,7 +14,7 @@
 
 class QWidget;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// What a panel reports when saving or restoring fails. The panels that we ship never fill it.
 struct PanelError {

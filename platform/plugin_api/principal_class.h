@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
 #include "platform/plugin_api/panel.h"
 
 #include <QtPlugin>
@@ -8,7 +9,7 @@
 #include <memory>
 #include <optional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 class Bundle;
 class HostCallback;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
 #include "platform/printing/jobs.h"
 
 #include <QStringList>
 
 #include <functional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The document of a command job: its header line, then the commands, each line ended by one line feed.
 QString commandFile(const QStringList& commands);

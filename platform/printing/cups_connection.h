@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
 #include "platform/printing/exchange_watch.h"
 
 #include <QByteArray>
@@ -13,7 +14,8 @@ struct _http_s;
 struct _ipp_s;
 
 /// The one way to the CUPS server, for the dialog and for panels.
-namespace halvern::cups {
+namespace HALVERN_EXPORT halvern {
+namespace cups {
 
 CancelFlag makeCancelFlag();
 
@@ -115,4 +117,5 @@ int jobIdOf(const Ipp& answer);
 /// The sentence for a server that cannot be reached.
 QString serverUnreachable();
 
-} // namespace halvern::cups
+} // namespace cups
+} // namespace halvern

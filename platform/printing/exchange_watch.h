@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <atomic>
 #include <chrono>
 #include <memory>
 
-namespace halvern::cups {
+namespace HALVERN_EXPORT halvern {
+namespace cups {
 
 /// A flag that one thread raises to make another give up its conversation with the server.
 using CancelFlag = std::shared_ptr<std::atomic<bool>>;
@@ -39,4 +42,5 @@ private:
     std::unique_ptr<Entry> entry_;
 };
 
-} // namespace halvern::cups
+} // namespace cups
+} // namespace halvern

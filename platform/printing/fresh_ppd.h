@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
 
 /// What a queue's PPD says now. Any thread.
-namespace halvern::ppd {
+namespace HALVERN_EXPORT halvern {
+namespace ppd {
 
 /// Where the server has a queue's PPD, for HTTP.
 QByteArray resourceOf(const QString& queue);
@@ -20,4 +23,5 @@ std::optional<QByteArray> freshText(const QString& queue);
 /// Keeps a text that somebody else has got from the server just now, in case that the next one is late.
 void rememberText(const QString& queue, const QByteArray& text);
 
-} // namespace halvern::ppd
+} // namespace ppd
+} // namespace halvern

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
 #include "platform/printing/jobs.h"
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// How a command job is watched until it ends: the decisions, without the waiting. step() says what is to be
 /// done next; the operation of that step is told the result. One thread at a time; nothing here blocks.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
 #include "platform/printing/cups_connection.h"
 
 #include <QByteArray>
@@ -12,7 +13,8 @@
 #include <optional>
 
 /// The jobs of the CUPS server's queues.
-namespace halvern::jobs {
+namespace HALVERN_EXPORT halvern {
+namespace jobs {
 
 /// IPP job states, as Job::state has them.
 inline constexpr int kPending = 3;
@@ -76,4 +78,5 @@ private:
 /// The format of a command job's document.
 inline constexpr char kCommandFormat[] = "application/vnd.cups-command";
 
-} // namespace halvern::jobs
+} // namespace jobs
+} // namespace halvern

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace halvern {
+#include "platform/foundation/export.h"
+
+namespace HALVERN_EXPORT halvern {
 
 /// A rectangle in points (1/72 inch), y growing downwards, as the printing platform gives it.
 struct PageRect {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -10,7 +12,8 @@
 
 /// How long the main thread waits for the CUPS server: 50 ms in one turn of its event loop, however often it
 /// asks; before the loop runs, 50 ms each time.
-namespace halvern::cups {
+namespace HALVERN_EXPORT halvern {
+namespace cups {
 
 bool isMainThread();
 
@@ -32,4 +35,5 @@ template <class Answer, class Question> Answer askPatiently(Question question, A
     return isThere ? std::move(**answer) : std::move(late);
 }
 
-} // namespace halvern::cups
+} // namespace cups
+} // namespace halvern

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -14,7 +16,8 @@ using ppd_file_t = ppd_file_s;
 /// Reading PPD files through libcups. A handle belongs to one thread at a time; different threads use
 /// different handles. All texts are UTF-8 in the file and QString here. Keywords that are not ASCII are never
 /// found.
-namespace halvern::ppd {
+namespace HALVERN_EXPORT halvern {
+namespace ppd {
 
 struct Closer {
     void operator()(ppd_file_t* file) const;
@@ -79,4 +82,5 @@ bool mark(ppd_file_t* file, const QString& option, const QString& choice);
 /// httpDecode64_2 on the text: nothing if decoding fails or yields no byte.
 std::optional<QByteArray> decodeBase64(const QByteArray& text);
 
-} // namespace halvern::ppd
+} // namespace ppd
+} // namespace halvern

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 struct ppd_file_s;
 using ppd_file_t = ppd_file_s;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The print session of a legacy host. Main thread only.
 class PrintSession {

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 #include <QVariant>
 #include <QVariantMap>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// What the settings answer. Zero is success.
 inline constexpr int kPrintingOk = 0;

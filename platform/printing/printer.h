@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 
 #include <optional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A printer that the dialog has selected: a CUPS queue. Immutable, any thread.
 class Printer {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <functional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The system's alert sound. Main thread only.
 void beep();

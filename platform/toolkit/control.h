@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -14,7 +16,8 @@ class QWidget;
 
 /// What a panel may ask of a control without knowing its class: each capability is asked, never assumed. A
 /// null widget has none. Main thread only.
-namespace halvern::control {
+namespace HALVERN_EXPORT halvern {
+namespace control {
 
 /// The dynamic property "tag"; a widget without one has tag 0.
 int tagOf(const QWidget* widget);
@@ -85,4 +88,5 @@ struct MenuItem {
 /// with their number only.
 void setItems(QComboBox* popup, const QList<MenuItem>& items);
 
-} // namespace halvern::control
+} // namespace control
+} // namespace halvern

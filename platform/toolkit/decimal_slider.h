@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QSlider>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A slider with a real minimum, maximum and value. The handle moves in steps of `singleStepValue`; a value
 /// set by the program is kept exactly. Main thread only.

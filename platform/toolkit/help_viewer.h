@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 class Bundle;
 

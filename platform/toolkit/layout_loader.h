@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 
 #include <memory>
 
 class QWidget;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 class Bundle;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QStringList>
 #include <QWidget>
 
@@ -9,7 +11,7 @@
 
 class QRadioButton;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A grid of radio buttons of which at most one is selected. Each cell has a tag of its own and a title. The
 /// cells are not views: only the matrix has a place in a panel's view. Main thread only.

@@ -3,11 +3,25 @@
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QStyle>
 
 namespace halvern {
 
+namespace {
+
+// A label goes by the direction of its text: in a window that is written from right to left, a printer's name
+// would stand at the far end of its line.
+void alignWithWindow(QLabel* label)
+{
+    if (label->layoutDirection() == Qt::RightToLeft)
+        label->setAlignment(QStyle::visualAlignment(Qt::RightToLeft, label->alignment()));
+}
+
+} // namespace
+
 void setPlainText(QLabel* label, const QString& text, int longest)
 {
+    alignWithWindow(label);
     label->setTextFormat(Qt::PlainText);
     label->setText(displayText(text, longest));
 }
@@ -56,6 +70,7 @@ QString markupText(const QString& text)
 
 void setMarkup(QLabel* label, const QString& markup)
 {
+    alignWithWindow(label);
     label->setTextFormat(Qt::RichText);
     label->setText(markup);
 }

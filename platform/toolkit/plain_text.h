@@ -2,11 +2,12 @@
 #pragma once
 
 #include "platform/foundation/display_text.h"
+#include "platform/foundation/export.h"
 
 class QLabel;
 class QWidget;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// The way of every text that is not ours alone onto a widget. A label or a tool tip of Qt's own guesses:
 /// what looks like markup is rendered, and an image in it is read from any file. These show the characters as

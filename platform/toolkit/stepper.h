@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QWidget>
 
 class QToolButton;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// Two arrow buttons, one above the other, with a real value between a minimum and a maximum. Main thread
 /// only.

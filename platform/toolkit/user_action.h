@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QtGlobal>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// Stands while a panel does what a control was told by the user, so that the dialog can tell a user's choice
 /// from what a panel changes by itself. The first choice that a panel proposes meanwhile is the user's, the

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QList>
 
 class QWidget;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
+/// Main thread only.
+///
 /// The children that a layout put into the view, in layout order; the toolkit's own parts of a control (a
 /// combo box's list, a matrix's cells, a tab widget's stack) are not among them: of a tab widget the pages
 /// are.

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QObject>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// Keeps the wheel for scrolling: below `root` it changes the value of a pop-up, a slider, a stepper or a
 /// field of numbers only while that has the keyboard's focus, and does not move the focus there. Whoever else

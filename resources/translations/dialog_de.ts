@@ -630,6 +630,10 @@
         <translation>Suche Drucker ...</translation>
     </message>
     <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
+    </message>
+    <message>
         <source>The print server has no printers. Add one in the system's settings.</source>
         <translation>Der Druckserver hat keine Drucker. Richten Sie in den Systemeinstellungen einen ein.</translation>
     </message>
@@ -754,10 +758,6 @@
     <message>
         <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
         <translation>Der Drucker „%1“ wurde gefragt, hat seine Papiere aber nicht gemeldet. Sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
-    </message>
-    <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
     </message>
     <message>
         <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>

@@ -630,6 +630,10 @@
         <translation>Buscando impresoras...</translation>
     </message>
     <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>El servidor de impresión no tiene impresora predeterminada. Indique una con --printer.</translation>
+    </message>
+    <message>
         <source>The print server has no printers. Add one in the system's settings.</source>
         <translation>El servidor de impresión no tiene impresoras. Añada una en los ajustes del sistema.</translation>
     </message>
@@ -754,10 +758,6 @@
     <message>
         <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
         <translation>Se preguntó a la impresora «%1», pero no ha comunicado sus papeles. Consulte el registro de errores del servidor de impresión.</translation>
-    </message>
-    <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>El servidor de impresión no tiene impresora predeterminada. Indique una con --printer.</translation>
     </message>
     <message>
         <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>

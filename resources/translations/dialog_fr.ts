@@ -630,6 +630,10 @@
         <translation>Recherche d’imprimantes…</translation>
     </message>
     <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>Le serveur d'impression n'a pas d'imprimante par défaut. Indiquez-en une avec --printer.</translation>
+    </message>
+    <message>
         <source>The print server has no printers. Add one in the system's settings.</source>
         <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une dans les réglages du système.</translation>
     </message>
@@ -754,10 +758,6 @@
     <message>
         <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
         <translation>L'imprimante « %1 » a été interrogée, mais n'a pas communiqué ses papiers. Consultez le journal d'erreurs du serveur d'impression.</translation>
-    </message>
-    <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>Le serveur d'impression n'a pas d'imprimante par défaut. Indiquez-en une avec --printer.</translation>
     </message>
     <message>
         <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>

@@ -630,6 +630,10 @@
         <translation>プリンターを探しています...</translation>
     </message>
     <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation>プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
+    </message>
+    <message>
         <source>The print server has no printers. Add one in the system's settings.</source>
         <translation>プリントサーバーにプリンターがありません。システムの設定で追加してください。</translation>
     </message>
@@ -754,10 +758,6 @@
     <message>
         <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
         <translation>プリンター「%1」に問い合わせましたが、用紙の情報が届きませんでした。プリントサーバーのエラーログを確認してください。</translation>
-    </message>
-    <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
     </message>
     <message>
         <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>

@@ -183,6 +183,10 @@ TEST(JobWords, APrintersStateNamesWhatIsWrong)
     printer.state = PrinterState::stopped;
     printer.reasons = {q("paused"), q("media-empty-error"), q("weird-thing-error"), q("harmless-report")};
     EXPECT_EQ(stateText(printer), q("Paused: out of paper, weird thing"));
+    printer.message = q("Call <b>Ann</b>.");
+    EXPECT_EQ(stateText(printer), q("Paused: out of paper, weird thing, Call <b>Ann</b>"));
+    printer.message = q("Rejecting Jobs");
+    EXPECT_EQ(stateText(printer), q("Paused: out of paper, weird thing"));
     printer.isAccepting = false;
     EXPECT_TRUE(stateText(printer).startsWith(q("Does not accept jobs")));
 }

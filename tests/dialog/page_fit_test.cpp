@@ -57,4 +57,17 @@ TEST(PageFit, APageThatCannotBeOnThePaperIsToldWithOneThatCan)
     }
 }
 
+TEST(PageFit, WhereNobodyChoseASheetTheSmallestThatDoesIsTaken)
+{
+    PrinterOffer offer;
+    for (const auto& [name, dotsPerInch] :
+         {std::pair("Art A4", 360), {"Matte A4", 300}, {"Gloss 102x152", 300}, {"Gloss 90x130", 300}})
+        offer.papers.append({q(name), {}, {}, q("1"), {dotsPerInch}, {}});
+    const auto model = tessarinModel();
+    for (const auto& [page, sheet] : {std::pair("4x6", "Gloss 102x152"), {"A5", "Matte A4"}, {"A3", ""}}) {
+        ASSERT_TRUE(model->change(q("PageSize"), q(page)).accepted);
+        EXPECT_EQ(fittingSheet(*model, offer), q(sheet)) << page;
+    }
+}
+
 } // namespace halvern

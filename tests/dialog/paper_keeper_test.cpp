@@ -42,6 +42,8 @@ TEST(PaperKeeper, LetsAPanelCorrectOnlyWhatThePrinterDoesNotOffer)
              Case{"PaperName", "Gone", "Matte A4", offerWith(true, true), Answer::accept},
              Case{"PaperName", "Gone", "Matte A4", unknown, Answer::refuse},
              Case{"PaperName", "Loaded", "Matte A4", offerWith(true, true), Answer::fillIn},
+             Case{"PaperName", "Loaded", "Art A4", offerWith(true, true), Answer::refuse},
+             Case{"PaperName", "Loaded", "Matte A4", unknown, Answer::refuse},
              Case{"PaperName", "Matte A4", "Other", offerWith(true, true), Answer::refuse},
              Case{"PaperWidth", "1270", "1524", offerWith(true, true), Answer::accept},
              Case{"PaperSurface", "3", "1", offerWith(true, true), Answer::refuse},
@@ -64,7 +66,7 @@ TEST(StartingOptions, ASheetChosenByItsKeywordIsTheLoadedOneOfThatName)
     for (const auto& [chosen, sheet] : {std::pair("MatteA4", "Matte A4"),
                                         {"Matte A4", "Matte A4"},
                                         {"PhotoGlossA4", "PhotoGlossA4"},
-                                        {"Loaded", "Loaded"}}) {
+                                        {"Loaded", "Matte A4"}}) {
         const auto model = tessarinModel();
         ASSERT_TRUE(model->change(q("PaperName"), q(chosen)).accepted);
         nameLoadedSheet(*model, offerWith(true, true));

@@ -101,6 +101,7 @@ TEST(PpdModel, PageSizesThatThePrinterCannotTakeAreRefused)
     const auto model = tessarinModel();
     EXPECT_FALSE(model->change(q("PageSize"), q("Tabloid")).accepted);
     EXPECT_FALSE(model->change(q("PageSize"), q("Custom.20x20")).accepted);
+    ASSERT_TRUE(model->change(q("PageRegion"), q("A4")).accepted);
     ASSERT_TRUE(model->change(q("PageSize"), q("Custom.300x500")).accepted);
     EXPECT_FALSE(ppd::markedChoice(model->file(), q("PageRegion"))) << "a second size in the job";
     EXPECT_EQ(model->sheet().paper, QSizeF(300, 500));

@@ -2,6 +2,8 @@
 // The dialog's model and window on a real print server with virtual printers.
 #include "dialog/job/job_actions.h"
 #include "dialog/program/batch_print.h"
+#include "dialog/session/panel_host.h"
+#include "dialog/session/printer_panels.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "platform/printing/printer.h"
@@ -10,7 +12,9 @@
 #include "tests/support/scripted_server.h"
 
 #include <QAbstractItemView>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTabWidget>
 
 namespace halvern {
 namespace {
@@ -269,16 +273,23 @@ TEST_F(DialogServerTest, TheChosenPagesAreShownAndSentAndAWrongChoiceIsExplained
 
 TEST_F(DialogServerTest, NothingIsPrintedBeforeAllPhotosAreRead)
 {
-    SessionRequest two = request(q("Tessarin"));
-    two.files += two.files;
-    DialogSession session(two, panels);
+    // One that is there before the printer, and some that take longer.
+    QImage large(3000, 3000, QImage::Format_RGB32);
+    large.fill(Qt::gray);
+    const QString slow = folder.filePath(q("slow.png"));
+    ASSERT_TRUE(large.save(slow));
+    SessionRequest four = request(q("Tessarin"));
+    four.files.append({slow, slow, slow});
+    DialogSession session(four, panels);
     int asked = 0;
-    QObject::connect(&session, &DialogSession::photosChanged, &session, [&] {
-        EXPECT_TRUE(session.photos().size() == 2 || !session.canPrint());
+    const auto look = [&] {
+        EXPECT_TRUE(session.photos().size() == 4 || !session.canPrint());
         ++asked;
-    });
+    };
+    QObject::connect(&session, &DialogSession::photosChanged, &session, look);
+    QObject::connect(&session, &DialogSession::printerReady, &session, look);
     ASSERT_TRUE(isReady(session));
-    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(asked, 5);
 }
 
 TEST_F(DialogServerTest, PrintsFromTheWindowAndSaysSo)
@@ -378,6 +389,17 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     dialog.resize(1240, 780);
     dialog.show();
     ASSERT_TRUE(isReady(session) && QTest::qWaitForWindowActive(&dialog));
+    // A panel's page may have tabs, and its controls in any order.
+    QTabWidget tabs(dialog.findChild<QWidget*>(q("pagePage")));
+    auto* const tab = new QWidget;
+    tabs.addTab(tab, q("Tab"));
+    tabs.setGeometry(0, 300, 200, 120);
+    for (const auto& [name, y] : {std::pair("lower", 50), {"upper", 10}}) {
+        auto* const field = new QLineEdit(tab);
+        field->setObjectName(q(name));
+        field->move(0, y);
+    }
+    tabs.show();
     auto* const first = dialog.findChild<QWidget*>(q("printer"));
     first->setFocus();
     QStringList visited;
@@ -397,13 +419,34 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     EXPECT_EQ(dialog.run(), nullptr);
 }
 
+TEST(PrinterPanelsTest, NewsOfAPrinterThatIsLeftReachNobody)
+{
+    FakePanels source;
+    PrinterPanels panels(source);
+    DialogSession session({}, source);
+    for (const char* tone : {"Warm", "Cool"}) {
+        panels.meet(std::make_shared<PanelHost>(session, nullptr, nullptr, true));
+        panels.load(q("any"));
+        panels.tell(q("PaperTone"), q(tone));
+        if (q(tone) == q("Warm"))
+            panels.leave();
+    }
+    EXPECT_TRUE(waitUntil([&] { return !source.first.lock()->changes.isEmpty(); }));
+    EXPECT_EQ(source.first.lock()->changes, QStringList{q("PaperTone=Cool")});
+}
+
 TEST(MessageBarTest, KeepsAllAndNeverPutsAnotherButtonUnderThePointer)
 {
     QWidget window;
     MessageBar bar(&window);
+    bar.resize(400, 60);
     window.show();
     int undone = 0;
     bar.showMessage(MessageKind::warning, q("first"));
+    const int oneLine = bar.heightForWidth(400);
+    bar.showMessage(MessageKind::warning, q("words ").repeated(60), {}, q("long"));
+    EXPECT_GT(bar.heightForWidth(400), oneLine);
+    bar.withdraw(q("long"));
     bar.showMessage(MessageKind::information, q("second"), {q("Undo"), [&] { ++undone; }}, q("printer/undo"));
     EXPECT_EQ(bar.text(), q("second"));
     bar.setAttribute(Qt::WA_UnderMouse);

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVariantMap>
 
 #include <optional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// Decodes keyed archives, binary or XML, that come from a printer and may hold anything.
 ///

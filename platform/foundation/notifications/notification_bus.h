@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <chrono>
 #include <string>
 
 /// How the printing system's notifications travel: as signals on the D-Bus system bus (the one that
 /// DBUS_SYSTEM_BUS_ADDRESS names, if it is set). docs/printer-notifications.md describes the interface. This
 /// header needs no Qt, so that printer back ends can use it too.
-namespace halvern::notification_bus {
+namespace HALVERN_EXPORT halvern {
+namespace notification_bus {
 
 inline constexpr char kPath[] = "/com/halvern/vlx/Notifications";
 inline constexpr char kInterface[] = "com.halvern.vlx.Notifications";
@@ -27,4 +30,5 @@ inline constexpr std::chrono::milliseconds kPatience{5000};
 bool post(const std::string& name, const std::string& object, std::string* why = nullptr,
           std::chrono::milliseconds patience = kPatience);
 
-} // namespace halvern::notification_bus
+} // namespace notification_bus
+} // namespace halvern

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QString>
 
 #include <functional>
 #include <memory>
 #include <optional>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// What an observer receives. `object` identifies the sender; it is compared, never dereferenced.
 struct Notification {

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <memory>
 #include <mutex>
 #include <utility>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A shared reference that threads may read, replace and take without further arrangement.
 template <class T> class AtomicShared {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <functional>
 #include <memory>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A repeating timer of the main thread's event loop, behind a handle that any thread may let go of. The
 /// timer runs until it is invalidated or its last handle goes.

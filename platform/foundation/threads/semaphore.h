@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <condition_variable>
 #include <mutex>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// A counting semaphore whose signal tells whether somebody was waiting, which decides who lets go of it. Any
 /// thread.

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <functional>
 #include <memory>
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
 /// Work for the main thread, run from its event loop in the order of submission. async() may be called from
 /// any thread and never blocks. Work that is still queued when the event loop has ended for good never runs;

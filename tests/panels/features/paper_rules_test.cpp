@@ -99,8 +99,11 @@ TEST_F(PaperRules, KeepAStoredNameThatIsLoadedElseThePpdsElseTheFirst)
     host->settings->setValue(q("PaperName"), q("Unloaded"), false);
     show(catalogueOf(kSheets));
     EXPECT_EQ(menu(kNameTag)->findText(q("Matte A3")), 1);
-    EXPECT_EQ(menu(kNameTag)->currentText(), q("Matte A3"));
-    EXPECT_EQ(choice("PaperName"), q("Matte A3")) << "what is shown is what is stored";
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(menu(kNameTag)->currentText(), q("Matte A3"));
+        EXPECT_EQ(choice("PaperName"), q("Matte A3")) << "what is shown is what is stored";
+        panel->restoreValuesAndReturnError(nullptr); // a host may do that at any time
+    }
     EXPECT_TRUE(asked("PaperName").isEmpty());
 
     make();
