@@ -128,6 +128,12 @@ QString bestPage(const QList<NamedPage>& pages, const QSizeF& wanted, const Pape
     return best ? best->keyword : QString();
 }
 
+bool isPageOnPaper(const PpdModel& model, const PrinterOffer& offer)
+{
+    const QString sheet = model.choiceText(kPaperName, model.value(kPaperName));
+    return isOn(model.sheet().paper, paperRoom(offer, model.values(), sheet));
+}
+
 std::optional<PageMisfit> findMisfit(const PpdModel& model, const PrinterOffer& offer)
 {
     const QString sheet = model.choiceText(kPaperName, model.value(kPaperName));

@@ -3,6 +3,7 @@
 
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/disabled_reasons.h"
+#include "dialog/window/job_line.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
@@ -159,6 +160,8 @@ QWidget* PrintDialog::makeControlSide()
             run_->apply(remedy);
     });
     column->addWidget(runBar_);
+    jobLine_ = new JobLine(session_, side);
+    column->addWidget(jobLine_);
     column->addLayout(makeButtonRow(side));
     return side;
 }
@@ -219,6 +222,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     row->addWidget(copies_);
     row->addWidget(makeCollateBox(parent));
     row->addStretch();
+    row->addWidget(makeOutputMenu(parent));
     row->addWidget(cancelJob_);
     row->addWidget(cancel_);
     row->addWidget(print_);

@@ -4,6 +4,7 @@
 
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/message_bar.h"
+#include "dialog/window/output_menu.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
 #include "dialog/window/search_box.h"
@@ -110,7 +111,7 @@ void PrintDialog::orderTabs()
     QList<QWidget*> order{printer_};
     order += presets_->tabOrder();
     order += deck_->tabOrder();
-    order += {copies_, cancel_, print_};
+    order += {copies_, output_, cancel_, print_};
     if (previewIsBeside_)
         order += {preview_, preview_->zoomButton(), back_, forward_};
     order += message_->tabOrder();
