@@ -382,9 +382,9 @@ void PrintDialog::showPhotos()
     const std::vector<size_t> pages = session_.chosenPages().pages;
     pager_->setVisible(pages.size() > 1);
     if (pages.empty()) {
-        preview_->showText(photos.empty() ? (session_.hasPhotos() ? tr("There is no photo to print.")
-                                                                  : tr("Reading the photo..."))
-                                          : tr("No page is chosen."));
+        preview_->showText(!session_.hasPhotos() ? tr("Reading the photo...")
+                           : photos.empty()      ? tr("There is no photo to print.")
+                                                 : tr("No page is chosen."));
         updateButtons();
         return;
     }
