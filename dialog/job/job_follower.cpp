@@ -38,13 +38,25 @@ JobFollower::~JobFollower()
 void JobFollower::ask()
 {
     QPointer<JobFollower> self(this);
-    WorkQueue().async([self, queue = queue_, jobId = jobId_, stop = stop_] {
+    WorkQueue().async([self, queue = queue_, jobId = jobId_, sent = sent_, stop = stop_] {
+        const JobReadBack job = sent ? readBackJob(queue, jobId, *sent, stop) : JobReadBack();
         const JobStatus status = askJobStatus(queue, jobId, stop);
-        mainQueue().async([self, status, stop] {
-            if (self && !stop->load())
-                self->take(status);
+        mainQueue().async([self, job, status, stop] {
+            if (!self || stop->load())
+                return;
+            self->takeComparison(job, status.stage);
+            self->take(status);
         });
     });
+}
+
+// A server that does not answer is asked again, one that has told of the job's end is not.
+void JobFollower::takeComparison(const JobReadBack& job, JobStage stage)
+{
+    if (!sent_ || (!job.isKnown && !hasEnded(stage)))
+        return;
+    sent_.reset();
+    Q_EMIT compared(job);
 }
 
 void JobFollower::take(const JobStatus& status)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/job/job_actions.h"
+#include "dialog/job/job_read_back.h"
 
 #include <QObject>
 #include <QTimer>
@@ -29,6 +30,9 @@ public:
 
     const JobStatus& status() const { return status_; }
 
+    /// Has the job read back and compared with what was sent; compared() follows, before ended() if it can.
+    void compareWith(const OptionValues& sent) { sent_ = sent; }
+
     /// Asks the server to cancel the job, again and again until it answers; the change of status follows by
     /// the watch.
     void cancel();
@@ -41,12 +45,15 @@ Q_SIGNALS:
     void changed(const halvern::JobStatus& status);
     /// The job has ended, or the patience has (JobStage::unknown); nothing follows.
     void ended(const halvern::JobStatus& status);
+    /// What compareWith() asked for; emitted once.
+    void compared(const halvern::JobReadBack& job);
     /// What was asked of the server was not done; a sentence.
     void actionFailed(const QString& problem);
 
 private:
     void ask();
     void take(const JobStatus& status);
+    void takeComparison(const JobReadBack& job, JobStage stage);
     void sendCancel();
     void tellSilence();
     void end(const JobStatus& status);
@@ -54,6 +61,7 @@ private:
     QString queue_;
     int jobId_;
     JobStatus status_;
+    std::optional<OptionValues> sent_; // until they have been compared
     QTimer timer_;
     QTimer silence_;
     QTimer patienceEnd_;

@@ -47,52 +47,106 @@ QString asServerSpells(const QString& jobSheets)
     return jobSheets.compare(none, Qt::CaseInsensitive) == 0 ? none : jobSheets;
 }
 
-void layOut(QMap<QString, QString>& merged, const JobInputs& inputs)
+} // namespace
+
+JobValues::JobValues(const JobInputs& inputs) : base_(inputs.values)
+{
+    for (auto it = inputs.settings.cbegin(); it != inputs.settings.cend(); ++it) {
+        if (!isPlatformSetting(it.key()))
+            over_.insert(it.key(), valueText(it.value()));
+    }
+    layOut(inputs);
+    collate(inputs.isCollated);
+    const QString sheets = QStringLiteral("job-sheets");
+    if (contains(sheets))
+        over_.insert(sheets, asServerSpells(value(sheets)));
+    over_.insert(QStringLiteral("copies"), QString::number(inputs.copies));
+}
+
+void JobValues::layOut(const JobInputs& inputs)
 {
     for (const char* name : kDecidedByUs)
-        merged.remove(QLatin1StringView(name));
+        over_.insert(QLatin1StringView(name), std::nullopt);
     for (const Neutral& neutral : kNeutral)
-        merged.insert(QLatin1StringView(neutral.name), QString::fromLatin1(neutral.value));
+        over_.insert(QLatin1StringView(neutral.name), QString::fromLatin1(neutral.value));
     const bool hasDuplex = std::ranges::any_of(
-        kDuplexKeywords, [&](const char* keyword) { return merged.contains(QLatin1StringView(keyword)); });
+        kDuplexKeywords, [this](const char* keyword) { return contains(QLatin1StringView(keyword)); });
     if (!hasDuplex)
-        merged.insert(QStringLiteral("sides"), QStringLiteral("one-sided"));
+        over_.insert(QStringLiteral("sides"), QStringLiteral("one-sided"));
     // The document has the chosen pages and no others.
-    merged.remove(QStringLiteral("page-ranges"));
-    if (inputs.pages > 0)
-        merged.insert(QStringLiteral("page-ranges"), QStringLiteral("1-%1").arg(inputs.pages));
+    over_.insert(QStringLiteral("page-ranges"),
+                 inputs.pages > 0 ? std::optional(QStringLiteral("1-%1").arg(inputs.pages)) : std::nullopt);
 }
 
 // The server looks at the one, filters at the other.
-void collate(QMap<QString, QString>& merged, bool isCollated)
+void JobValues::collate(bool isCollated)
 {
-    merged.insert(QStringLiteral("multiple-document-handling"),
-                  isCollated ? QStringLiteral("separate-documents-collated-copies")
-                             : QStringLiteral("separate-documents-uncollated-copies"));
-    merged.insert(QStringLiteral("Collate"), isCollated ? QStringLiteral("True") : QStringLiteral("False"));
+    over_.insert(QStringLiteral("multiple-document-handling"),
+                 isCollated ? QStringLiteral("separate-documents-collated-copies")
+                            : QStringLiteral("separate-documents-uncollated-copies"));
+    over_.insert(QStringLiteral("Collate"), isCollated ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
-} // namespace
-
-OptionValues mergeJobOptions(const JobInputs& inputs)
+QString JobValues::value(const QString& key) const
 {
-    QMap<QString, QString> merged = inputs.values;
-    for (auto it = inputs.settings.cbegin(); it != inputs.settings.cend(); ++it) {
-        if (!isPlatformSetting(it.key()))
-            merged.insert(it.key(), valueText(it.value()));
+    const auto said = over_.constFind(key);
+    return said != over_.cend() ? said->value_or(QString()) : base_.value(key);
+}
+
+bool JobValues::contains(const QString& key) const
+{
+    const auto said = over_.constFind(key);
+    return said != over_.cend() ? said->has_value() : base_.contains(key);
+}
+
+template <typename Use> void JobValues::forEach(Use use) const
+{
+    auto said = over_.cbegin();
+    const auto useSaid = [&] {
+        if (*said)
+            use(said.key(), **said);
+        ++said;
+    };
+    for (auto it = base_.cbegin(); it != base_.cend(); ++it) {
+        while (said != over_.cend() && said.key() < it.key())
+            useSaid();
+        if (said != over_.cend() && said.key() == it.key())
+            useSaid();
+        else
+            use(it.key(), *it);
     }
-    layOut(merged, inputs);
-    collate(merged, inputs.isCollated);
-    if (const auto sheets = merged.find(QStringLiteral("job-sheets")); sheets != merged.end())
-        *sheets = asServerSpells(*sheets);
-    merged.insert(QStringLiteral("copies"), QString::number(inputs.copies));
+    while (said != over_.cend())
+        useSaid();
+}
+
+QStringList JobValues::differingFrom(const QMap<QString, QString>& others) const
+{
+    QStringList keys;
+    auto other = others.cbegin();
+    forEach([&](const QString& key, const QString& value) {
+        while (other != others.cend() && other.key() < key)
+            ++other;
+        const bool isThere = other != others.cend() && other.key() == key;
+        if (!isThere || *other != value)
+            keys.append(key);
+    });
+    return keys;
+}
+
+OptionValues JobValues::list() const
+{
     OptionValues options;
-    for (auto it = merged.cbegin(); it != merged.cend(); ++it)
-        options.append({it.key(), it.value()});
+    options.reserve(base_.size() + over_.size());
+    forEach([&](const QString& key, const QString& value) { options.append({key, value}); });
     // The stock filters take such a text for a list of options, and what follows it for its members.
     std::ranges::stable_partition(
         options, [](const OptionValue& option) { return !option.value.startsWith(QLatin1Char('{')); });
     return options;
+}
+
+OptionValues mergeJobOptions(const JobInputs& inputs)
+{
+    return JobValues(inputs).list();
 }
 
 } // namespace halvern

@@ -98,8 +98,12 @@ void PrintRun::takeSubmission(const SubmitResult& result)
         return;
     }
     follower_ = new JobFollower(job_.queue, result.jobId, patience_, this);
+    follower_->compareWith(job_.options);
     connect(follower_, &JobFollower::changed, this, &PrintRun::takeStatus);
     connect(follower_, &JobFollower::ended, this, &PrintRun::takeEnd);
+    connect(follower_, &JobFollower::compared, this, [this](const JobReadBack& job) {
+        Q_EMIT readBack(job, readBackSentence(job, follower_->jobId()));
+    });
     connect(follower_, &JobFollower::actionFailed, this,
             [this](const QString& problem) { Q_EMIT followed(follower_->status(), problem); });
     Q_EMIT submitted(result.jobId);

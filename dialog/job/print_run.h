@@ -55,6 +55,9 @@ Q_SIGNALS:
     /// The job's status has changed, also while it rests, or something asked of the server failed: a
     /// sentence.
     void followed(const halvern::JobStatus& status, const QString& sentence);
+    /// What the server holds of the job was compared with what was sent, with a sentence about it; at most
+    /// once, and not if the server has gone silent.
+    void readBack(const halvern::JobReadBack& job, const QString& sentence);
     /// The end; emitted once.
     void finished(const halvern::PrintOutcome& outcome);
 

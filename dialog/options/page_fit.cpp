@@ -152,6 +152,12 @@ QString fittingSheet(const PpdModel& model, const PrinterOffer& offer)
     return fitting.empty() ? QString() : fitting.begin()->second;
 }
 
+bool isPageOnPaper(const PpdModel& model, const PrinterOffer& offer)
+{
+    const QString sheet = model.choiceText(kPaperName, model.value(kPaperName));
+    return isOn(model.sheet().paper, paperRoom(offer, model.values(), sheet));
+}
+
 std::optional<PageMisfit> findMisfit(const PpdModel& model, const PrinterOffer& offer)
 {
     const QString sheet = model.choiceText(kPaperName, model.value(kPaperName));

@@ -49,6 +49,9 @@ struct PageMisfit {
     QString fittingText; ///< the same for the user
 };
 
+/// Whether the chosen page size can be on the chosen paper, or nobody knows. On the model's thread.
+bool isPageOnPaper(const PpdModel& model, const PrinterOffer& offer);
+
 /// Looks at what is chosen; nothing if the page fits, or if nobody knows. On the model's thread.
 std::optional<PageMisfit> findMisfit(const PpdModel& model, const PrinterOffer& offer);
 

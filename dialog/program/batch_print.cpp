@@ -91,10 +91,16 @@ void BatchPrint::proceed()
     }
     hasStarted_ = true;
     warnOfMisfit();
-    if (!line_.dryRun) {
+    if (line_.dryRun)
+        tellOptions();
+    else if (!line_.output.isEmpty())
+        writeFile();
+    else
         print();
-        return;
-    }
+}
+
+void BatchPrint::tellOptions()
+{
     const OptionValues options = session_.collectOptions();
     for (const OptionValue& option : options)
         writeLine(out_, option.key + QLatin1Char('=') + option.value);
@@ -112,11 +118,23 @@ void BatchPrint::warnOfMisfit()
     writeLine(err_, sentence);
 }
 
+void BatchPrint::writeFile()
+{
+    file_ = session_.makePdf(line_.output);
+    connect(file_, &PdfOutput::finished, this, [this](const PdfOutcome& outcome) {
+        writeLine(outcome.isWritten ? out_ : err_, outcome.sentence);
+        end(outcome.isWritten ? kExitPrinted : outcome.wasCancelled ? kExitCancelled : kExitFailed);
+    });
+    file_->start();
+}
+
 void BatchPrint::print()
 {
     run_ = session_.makeRun();
     run_->setPatience({.untilGivenUp = line_.wait});
     connect(run_, &PrintRun::followed, this, &BatchPrint::takeStatus);
+    connect(run_, &PrintRun::readBack, this,
+            [this](const JobReadBack& job, const QString&) { readBack_ = job; });
     connect(run_, &PrintRun::finished, this, &BatchPrint::takeOutcome);
     run_->start();
 }
@@ -139,15 +157,25 @@ void BatchPrint::takeOutcome(const PrintOutcome& outcome)
 {
     writeLine(outcome.printed ? out_ : err_, outcome.sentence);
     if (outcome.printed)
-        end(kExitPrinted);
+        end(line_.verify ? statusOfPrinted(outcome.jobId) : kExitPrinted);
     else if (outcome.stage == JobStage::cancelled)
         end(kExitCancelled);
     else
         end(outcome.jobId > 0 && outcome.stage == JobStage::unknown ? kExitUnknown : kExitFailed);
 }
 
+int BatchPrint::statusOfPrinted(int jobId)
+{
+    writeLine(err_, readBackSentence(readBack_, jobId));
+    return readBack_.isEqual() ? kExitPrinted : kExitDiffers;
+}
+
 void BatchPrint::leave()
 {
+    if (file_) {
+        file_->cancel();
+        return;
+    }
     if (run_ && run_->jobId() > 0) {
         writeLine(err_, tr("Job %1 stays on the queue; \"cancel %2-%1\" takes it away.")
                             .arg(QString::number(run_->jobId()), session_.printerName()));

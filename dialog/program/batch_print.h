@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/job/pdf_output.h"
 #include "dialog/program/command_line.h"
 #include "dialog/session/dialog_session.h"
 
@@ -31,9 +32,12 @@ private:
     void takeDamage(const QString& sentence);
     void proceed();
     void warnOfMisfit();
+    void tellOptions();
+    void writeFile();
     void print();
     void takeStatus(const JobStatus& status, const QString& sentence);
     void takeOutcome(const PrintOutcome& outcome);
+    int statusOfPrinted(int jobId);
     void fail(const QString& sentence, int status = kExitFailed);
     void end(int status);
 
@@ -46,7 +50,9 @@ private:
     QString printerFailure_;
     QStringList photoProblems_;
     QPointer<PrintRun> run_;
+    QPointer<PdfOutput> file_;
     QString lastSentence_;
+    JobReadBack readBack_;
 };
 
 } // namespace halvern

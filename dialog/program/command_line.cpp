@@ -55,6 +55,14 @@ public:
         QStringLiteral("dry-run"),
         tr("Write the options that would be sent, one KEY=VALUE a line, and send nothing.")};
 
+    QCommandLineOption output{
+        QStringLiteral("output"),
+        tr("Write the pages, as they would be sent, into this PDF file, and send nothing."),
+        QStringLiteral("FILE")};
+    QCommandLineOption verify{
+        QStringLiteral("verify"),
+        tr("With --no-dialog: read the job back from the print server, and say what was added or changed.")};
+
     QCommandLineOption preset{
         QStringLiteral("preset"),
         tr("Start with this preset of the printer's. Without it the dialog starts with what you printed with "
@@ -105,6 +113,15 @@ public:
         return tr("The back of a picture takes %1 lines: give --backprint once or twice.").arg(kBackLines);
     }
 
+    static QString emptyOutput() { return tr("The name of the file to write is empty."); }
+
+    static QString outputAlone() { return tr("--output writes a file, and does not go with --dry-run."); }
+
+    static QString verifyAlone()
+    {
+        return tr("--verify goes with --no-dialog, and with nothing that sends no job.");
+    }
+
     static QString refreshAlone() { return tr("--refresh goes with --list-papers."); }
 
     static QString jsonAlone()
@@ -146,7 +163,8 @@ public:
                   "  2  Wrong usage.\n"
                   "  3  The job is on the queue, and had not ended yet.\n"
                   "  4  Cancelled: nothing was printed.\n"
-                  "  5  The job was sent, but the print server does not answer: the outcome is not known.");
+                  "  5  The job was sent, but the print server does not answer: the outcome is not known.\n"
+                  "  6  With --verify: printed, but not held by the print server as it was sent.");
     }
 
     static QString fileHelp() { return tr("JPEG, PNG, TIFF or PDF files; each photo becomes a page."); }
@@ -281,6 +299,17 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
     return {};
 }
 
+// What does not go together among the ways to print.
+QString contradiction(const QCommandLineParser& parser, const Switches& switches, const CommandLine& line)
+{
+    const bool writes = parser.isSet(switches.output);
+    if (line.verify && (line.showDialog || line.dryRun || writes))
+        return Switches::verifyAlone();
+    if (writes && line.output.isEmpty())
+        return Switches::emptyOutput();
+    return writes && line.dryRun ? Switches::outputAlone() : QString();
+}
+
 } // namespace
 
 ParsedCommandLine parseCommandLine(const QStringList& arguments)
@@ -288,11 +317,13 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     const Switches switches;
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
-    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages, switches.reverse,
-                       switches.title, switches.backprint, switches.preset, switches.printDamaged,
-                       switches.noDialog, switches.wait, switches.dryRun, switches.listPrinters,
-                       switches.listPapers, switches.refresh, switches.listOptions, switches.listPresets,
-                       switches.savePreset, switches.json});
+    parser.addOptions({switches.printer,     switches.option,     switches.copies,
+                       switches.pages,       switches.reverse,    switches.title,
+                       switches.backprint,   switches.preset,     switches.printDamaged,
+                       switches.noDialog,    switches.wait,       switches.dryRun,
+                       switches.output,      switches.verify,     switches.listPrinters,
+                       switches.listPapers,  switches.refresh,    switches.listOptions,
+                       switches.listPresets, switches.savePreset, switches.json});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -309,6 +340,9 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
     line.request.printDamaged = parser.isSet(switches.printDamaged);
     line.dryRun = parser.isSet(switches.dryRun);
+    line.verify = parser.isSet(switches.verify);
+    line.output = parser.value(switches.output);
+    line.showDialog = line.showDialog && !parser.isSet(switches.output);
     QStringList remarks;
     line.request.files = parser.positionalArguments();
     QString problem = readValues(parser, switches, line);
@@ -316,6 +350,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
         problem = readBackLines(parser.values(switches.backprint), line, remarks);
     if (problem.isEmpty())
         problem = readListing(parser, switches, line);
+    if (problem.isEmpty())
+        problem = contradiction(parser, switches, line);
     if (!problem.isEmpty())
         return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
     if (line.listing.what != Listing::none)
@@ -337,10 +373,10 @@ bool asksForWindow(const QStringList& arguments)
     const Switches switches;
     QCommandLineParser parser;
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages, switches.title,
-                       switches.backprint, switches.wait, switches.noDialog, switches.dryRun,
+                       switches.backprint, switches.wait, switches.noDialog, switches.dryRun, switches.output,
                        switches.preset});
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
-                                         switches.dryRun};
+                                         switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {
         parser.addOption(listing.option);
         windowless.append(listing.option);

@@ -16,6 +16,8 @@ struct CommandLine {
     SessionRequest request;
     bool showDialog = true;
     bool dryRun = false;                              ///< say what would be sent, and send nothing
+    QString output = {};                              ///< a PDF file to write instead of printing
+    bool verify = false;                              ///< compare what the server holds with what was sent
     ListingRequest listing = {};                      ///< write that and do nothing else
     std::optional<ListPapersRequest> listPapers = {}; ///< of Listing::papers
     std::chrono::seconds wait{

@@ -11,6 +11,7 @@ enum ExitStatus {
     kExitUnfinished = 3, ///< the job is on the queue, and has not ended
     kExitCancelled = 4,  ///< nothing was printed, because somebody said so
     kExitUnknown = 5,    ///< the job was sent, and the server has gone silent
+    kExitDiffers = 6,    ///< printed, but the server does not hold the job as it was sent, or does not tell
 };
 
 } // namespace halvern

@@ -82,6 +82,7 @@ void DialogSession::leavePrinter()
     keeper_.reset();
     model_.reset();
     jobOffer_ = {};
+    printerDefaults_.clear();
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
@@ -118,7 +119,7 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
 void DialogSession::applyOptions(const FetchedPrinter& printer)
 {
     const QMap<QString, QString> byDefault = model_->values();
-    printerDefaults_ = printerDefaults(*model_, printer.ppd.defaults);
+    printerDefaults_ = halvern::printerDefaults(*model_, printer.ppd.defaults);
     presets_.setPrinterDefaults(printerDefaults_);
     model_->setDefaults(printerDefaults_);
     const std::optional<PresetEntry> preset = startingPreset();
@@ -381,20 +382,28 @@ bool DialogSession::canPrint() const
     return model_ && photos_.isDone() && !photos().empty() && chosenPages().problem.isEmpty();
 }
 
+JobInputs DialogSession::jobInputs() const
+{
+    JobInputs inputs{
+        {}, settings_->values(), page().copies, int(chosenPages().pages.size()), page().isCollated};
+    if (!model_)
+        return inputs;
+    inputs.values = model_->values();
+    const QMap<QString, QString>& kept = model_->kept();
+    for (auto it = kept.cbegin(); it != kept.cend(); ++it) {
+        // What a panel has saved instead is spelled by the panel.
+        if (valueText(inputs.settings.value(it.key(), *it)) == *it)
+            inputs.settings.insert(it.key(), model_->jobValue(it.key()));
+    }
+    return inputs;
+}
+
 OptionValues DialogSession::collectOptions()
 {
     panels_.save();
-    // A name that the panels were not shown cannot have been changed by them.
     if (keeper_)
-        keeper_->showSheetName();
-    OptionValues options =
-        mergeJobOptions({model_ ? model_->values() : QMap<QString, QString>(), settings_->values(),
-                         page().copies, int(chosenPages().pages.size()), page().isCollated});
-    for (OptionValue& option : options) {
-        if (model_ && option.value == model_->value(option.key))
-            option.value = model_->jobValue(option.key);
-    }
-    return options;
+        keeper_->settleSaved();
+    return mergeJobOptions(jobInputs());
 }
 
 void DialogSession::noteUse()
@@ -412,11 +421,17 @@ QString DialogSession::jobTitle() const
     return QFileInfo(photos()[chosen.pages.front()].path).fileName();
 }
 
-PrintRun* DialogSession::makeRun()
+std::vector<PageToPrint> DialogSession::pagesToPrint() const
 {
     std::vector<PageToPrint> pages;
     for (const size_t place : chosenPages().pages)
         pages.push_back({photos()[place], layoutFor(photos()[place])});
+    return pages;
+}
+
+PrintRun* DialogSession::makeRun()
+{
+    std::vector<PageToPrint> pages = pagesToPrint();
     JobRequest job{printerName(), jobTitle(), collectOptions()};
     auto* run = new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
     if (request_.remembers)

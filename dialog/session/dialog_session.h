@@ -21,6 +21,9 @@
 
 namespace halvern {
 
+struct JobInWords;
+class PdfOutput;
+
 /// Everything about one print dialog that is not a widget: how photos, printer, options and panels come
 /// together, and the job that comes of them. Main thread only; what blocks is done by workers.
 class DialogSession : public QObject, public HostSource {
@@ -142,12 +145,32 @@ public:
     /// What the job is called: what the user wrote, else the name of the first page's file.
     QString jobTitle() const;
 
+    /// The job's options as they would go out now. No panel is asked: what a panel holds is in the model or
+    /// in the print settings as soon as its user has ended an editing.
+    JobValues valuesToSend() const;
+
+    /// The same in words; nothing without a printer.
+    JobInWords jobInWords() const;
+
+    /// What the printer does by itself: the PPD's choices and the queue's; empty without a printer.
+    const QMap<QString, QString>& printerDefaults() const { return printerDefaults_; }
+
+    /// Whether the chosen page size can be on the chosen paper, or nobody knows.
+    bool isPageOnPaper() const;
+
     /// Lets the panels save and merges the job's options.
     OptionValues collectOptions();
 
     /// Makes the run for the chosen pages; the caller starts it. Owned by the session. Call canPrint()
     /// first.
     PrintRun* makeRun();
+
+    /// Makes what writes the current pages into a file; the caller starts it. Owned by the session. Call
+    /// canPrint() first.
+    PdfOutput* makePdf(const QString& path);
+
+    /// The command line that prints this again. Call canPrint() first.
+    QString command() const;
 
     // What the panels' callback object asks.
     ppd_file_t* hostPpdFile() override;
@@ -210,6 +233,8 @@ private:
     void remember(const QString& key, const QString& before, ChangeOrigin origin,
                   const QList<SideChange>& others);
     void tellChanges();
+    JobInputs jobInputs() const;
+    std::vector<PageToPrint> pagesToPrint() const;
     void storeInSettings(const QString& key);
     bool takeProposal(const QString& key, const QVariant& choice);
     void handBack(const QString& key);

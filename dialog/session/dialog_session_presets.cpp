@@ -125,7 +125,7 @@ Preset DialogSession::capture(const PresetContents& contents)
     if (!model_)
         return {};
     panels_.save();
-    keeper_->showSheetName();
+    keeper_->settleSaved();
     return capturePreset(*model_, settings_->values(), page(), printerDefaults_, contents);
 }
 

@@ -26,6 +26,19 @@ PageSetup::PageSetup(const SessionRequest& request)
     settings_.title = request.title;
 }
 
+QString scalingWord(Scaling scaling)
+{
+    switch (scaling) {
+    case Scaling::fit:
+        return QStringLiteral("fit");
+    case Scaling::fill:
+        return QStringLiteral("fill");
+    case Scaling::actualSize:
+        break;
+    }
+    return QStringLiteral("none");
+}
+
 void PageSetup::takeWishes(const PageWishes& wishes)
 {
     if (std::exchange(hasTakenWishes_, true))

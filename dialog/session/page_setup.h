@@ -4,6 +4,8 @@
 #include "dialog/page/page_choice.h"
 #include "dialog/page/page_layout.h"
 
+#include <QString>
+
 #include <memory>
 
 namespace halvern {
@@ -25,6 +27,9 @@ struct PageSettings {
 
     bool operator==(const PageSettings&) const = default;
 };
+
+/// The word for it in options of a job: "fit", "fill" or "none".
+QString scalingWord(Scaling scaling);
 
 /// How photos are laid on the printer's sheet: what the user set, applied to a printer. Main thread only.
 class PageSetup {

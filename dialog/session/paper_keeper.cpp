@@ -94,6 +94,23 @@ OptionValues PaperKeeper::takeOffer(PrinterOffer offer)
     return overdue;
 }
 
+void PaperKeeper::keepChosen(const QString& key)
+{
+    settings_.setValue(key, model_.isKept(key) ? QVariant(model_.value(key)) : QVariant(), false);
+}
+
+void PaperKeeper::settleSaved()
+{
+    showSheetName();
+    const QStringList refused = refused_.keys();
+    for (const QString& key : refused)
+        keepChosen(key);
+    // A panel that was restored while the name was hidden holds an empty one until it is told another.
+    QVariant saved;
+    if (settings_.getValue(kSheetName, saved) == kPrintingOk && saved.toString().isEmpty())
+        keepChosen(kSheetName);
+}
+
 void PaperKeeper::hideSheetName()
 {
     model_.hide(kSheetName);

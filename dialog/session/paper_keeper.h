@@ -42,10 +42,15 @@ public:
     /// News of the printer. Answers the refused choices that are now known to be right.
     OptionValues takeOffer(PrinterOffer offer);
 
+    /// After the panels have saved: a name that they were not shown, what they were refused, and no name at
+    /// all are not what they have chosen.
+    void settleSaved();
+
     /// What the panels may find of the sheet's name in the settings once more.
     void showSheetName();
 
 private:
+    void keepChosen(const QString& key);
     std::optional<QString> standardSheet() const;
     void hideSheetName();
 

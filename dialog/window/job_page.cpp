@@ -82,7 +82,7 @@ void select(QComboBox* box, const QString& value, const QString& text)
     box->setCurrentIndex(box->findData(value));
 }
 
-const Panel* coverPanel(const DialogSession& session)
+Panel* coverPanel(const DialogSession& session)
 {
     for (const std::shared_ptr<Panel>& panel : session.panels()) {
         if (panel->panelKind().value_or(QString()).endsWith(kCoverPanel))
@@ -214,7 +214,7 @@ void JobPage::refreshHold()
 
 void JobPage::refreshBanners()
 {
-    Panel* panel = const_cast<Panel*>(coverPanel(session_));
+    Panel* panel = coverPanel(session_);
     const PpdModel* model = session_.model();
     QStringList sheets =
         model ? model->value(kSheets).split(QLatin1Char(','), Qt::SkipEmptyParts) : QStringList();

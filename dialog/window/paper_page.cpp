@@ -169,7 +169,8 @@ void PaperPage::listPapers()
     const PpdModel* model = session_.model();
     std::vector<PaperSize> sizes = model ? paperSizes(*model) : std::vector<PaperSize>();
     lift(sizes, listedRoom_, listedRecent_);
-    papers_->setSizes(std::move(sizes), ownPapers(), model ? paperLimits(model->file()) : std::nullopt);
+    own_ = ownPapers();
+    papers_->setSizes(std::move(sizes), own_, model ? paperLimits(model->file()) : std::nullopt);
 }
 
 void PaperPage::refreshPaper()
@@ -212,7 +213,7 @@ void PaperPage::refreshCustom()
         return;
     custom_->show(*limits, *points);
     QString name;
-    for (const OwnPaper& paper : ownPapers()) {
+    for (const OwnPaper& paper : own_) {
         if (customKeyword(paper.points) == customKeyword(*points))
             name = paper.name;
     }
@@ -229,8 +230,11 @@ void PaperPage::refreshTwoSided()
     form_->setRowVisible(twoSided_, !key.isEmpty());
     if (key.isEmpty())
         return;
+    const std::shared_ptr<ppd_file_t> file = model->sharedFile();
+    if (twoSidedKey_ != key || sidesFor_.lock() != file)
+        sides_->setChoices(model->option(key).choices);
     twoSidedKey_ = key;
-    sides_->setChoices(model->option(key).choices);
+    sidesFor_ = file;
     sides_->select(model->value(key));
 }
 

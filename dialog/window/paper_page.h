@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/session/dialog_session.h"
+#include "dialog/session/own_papers.h"
 
 #include <QWidget>
 
@@ -54,6 +55,7 @@ private:
     std::weak_ptr<ppd_file_t> listedFor_; ///< whose sizes are listed
     PaperRoom listedRoom_;                ///< for which paper they are sorted
     QStringList listedRecent_;
+    QList<OwnPaper> own_;
     QCheckBox* borderless_;
     CustomPaperRow* custom_;
     QButtonGroup* turn_;
@@ -61,6 +63,7 @@ private:
     QComboBox* twoSided_;
     ChoiceList* sides_;
     QString twoSidedKey_;
+    std::weak_ptr<ppd_file_t> sidesFor_; ///< whose choices are listed
     PageRangeRow* pages_;
 };
 

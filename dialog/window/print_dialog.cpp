@@ -3,6 +3,7 @@
 
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/disabled_reasons.h"
+#include "dialog/window/job_line.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
@@ -159,6 +160,8 @@ QWidget* PrintDialog::makeControlSide()
             run_->apply(remedy);
     });
     column->addWidget(runBar_);
+    jobLine_ = new JobLine(session_, side);
+    column->addWidget(jobLine_);
     column->addLayout(makeButtonRow(side));
     return side;
 }
@@ -219,6 +222,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     row->addWidget(copies_);
     row->addWidget(makeCollateBox(parent));
     row->addStretch();
+    row->addWidget(makeOutputMenu(parent));
     row->addWidget(cancelJob_);
     row->addWidget(cancel_);
     row->addWidget(print_);
@@ -378,9 +382,9 @@ void PrintDialog::showPhotos()
     const std::vector<size_t> pages = session_.chosenPages().pages;
     pager_->setVisible(pages.size() > 1);
     if (pages.empty()) {
-        preview_->showText(photos.empty() ? (session_.hasPhotos() ? tr("There is no photo to print.")
-                                                                  : tr("Reading the photo..."))
-                                          : tr("No page is chosen."));
+        preview_->showText(!session_.hasPhotos() ? tr("Reading the photo...")
+                           : photos.empty()      ? tr("There is no photo to print.")
+                                                 : tr("No page is chosen."));
         updateButtons();
         return;
     }

@@ -15,7 +15,9 @@ class QToolButton;
 
 namespace halvern {
 
+class JobLine;
 class MessageBar;
+class OutputMenu;
 enum class MessageKind;
 class PanelDeck;
 class PresetBar;
@@ -86,6 +88,7 @@ private:
     void followRun();
     void takeOutcome(const PrintOutcome& outcome);
     void cancelJob();
+    QWidget* makeOutputMenu(QWidget* parent);
     void clearOldOutcome();
 
     DialogSession& session_;
@@ -105,7 +108,9 @@ private:
     QPushButton* print_ = nullptr;
     QPushButton* cancel_ = nullptr;
     QPushButton* cancelJob_ = nullptr;
+    OutputMenu* output_ = nullptr;
     RunBar* runBar_ = nullptr;
+    JobLine* jobLine_ = nullptr;
     QWidget* pager_ = nullptr;
     QLabel* pageNumber_ = nullptr;
     QToolButton* back_ = nullptr;

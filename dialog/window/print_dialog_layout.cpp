@@ -4,6 +4,7 @@
 
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/message_bar.h"
+#include "dialog/window/output_menu.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
 #include "dialog/window/run_bar.h"
@@ -120,7 +121,7 @@ QList<QWidget*> PrintDialog::tabOrder() const
     QList<QWidget*> order{printer_};
     order += presets_->tabOrder();
     order += deck_->tabOrder();
-    order += {runBar_->button(), copies_, collate_, cancelJob_, cancel_, print_};
+    order += {runBar_->button(), copies_, collate_, output_, cancelJob_, cancel_, print_};
     if (previewIsBeside_)
         order += {preview_, preview_->zoomButton(), back_, forward_};
     order += message_->tabOrder();

@@ -3,7 +3,9 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/window/damage_question.h"
+#include "dialog/window/job_line.h"
 #include "dialog/window/message_bar.h"
+#include "dialog/window/output_menu.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
 #include "dialog/window/run_bar.h"
@@ -28,6 +30,7 @@ void PrintDialog::updateButtons()
         return;
     const bool isBusy = isRunning();
     print_->setEnabled(!isBusy && session_.canPrint());
+    output_->setEnabled(!isBusy && session_.canPrint());
     // Said to whoever rests the pointer on the button.
     setPlainDescription(print_, isBusy || !session_.hasPhotos() ? QString() : session_.chosenPages().problem);
     printer_->setEnabled(!isBusy);
@@ -40,6 +43,24 @@ void PrintDialog::updateButtons()
     cancelJob_->setVisible(isBusy);
     cancelJob_->setEnabled(isBusy && !run_->isCancelled());
     cancel_->setText(isBusy || hasPrinted_ ? tr("Close") : tr("Cancel"));
+}
+
+QWidget* PrintDialog::makeOutputMenu(QWidget* parent)
+{
+    output_ = new OutputMenu(session_, parent);
+    connect(output_, &OutputMenu::progressed, this, [this](double share) {
+        if (!isRunning())
+            runBar_->showProgress(share, tr("Writing the file..."));
+    });
+    connect(output_, &OutputMenu::done, this, [this](const QString& sentence) {
+        if (!isRunning())
+            runBar_->showEnd(sentence);
+    });
+    connect(output_, &OutputMenu::failed, this, [this](const QString& sentence) {
+        clearOldOutcome();
+        message_->showMessage(MessageKind::error, sentence);
+    });
+    return output_;
 }
 
 void PrintDialog::print()
@@ -57,6 +78,7 @@ void PrintDialog::print()
     message_->withdraw(kRunMessage);
     session_.noteUse();
     run_ = session_.makeRun();
+    jobLine_->refresh();
     deck_->pausePanels();
     followRun();
     runBar_->showProgress(0, tr("Preparing the pages..."));
@@ -80,6 +102,12 @@ void PrintDialog::followRun()
     });
     connect(run_, &PrintRun::followed, this, [this](const JobStatus& status, const QString& sentence) {
         runBar_->showStatus(status, sentence);
+    });
+    connect(run_, &PrintRun::readBack, this, [this](const JobReadBack& job, const QString& sentence) {
+        if (job.isEqual())
+            runBar_->showCheck(sentence);
+        else if (job.isKnown)
+            message_->showMessage(MessageKind::warning, sentence);
     });
     connect(run_, &PrintRun::finished, this, &PrintDialog::takeOutcome);
 }

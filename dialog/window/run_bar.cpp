@@ -34,12 +34,15 @@ QString buttonText(Remedy remedy)
 RunBar::RunBar(QWidget* parent)
     : QWidget(parent),
       text_(new QLabel(this)),
+      check_(new QLabel(this)),
       progress_(new QProgressBar(this)),
       button_(new QPushButton(this))
 {
     text_->setObjectName(QStringLiteral("status"));
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    check_->setObjectName(QStringLiteral("check"));
+    check_->setForegroundRole(QPalette::PlaceholderText);
     progress_->setObjectName(QStringLiteral("progress"));
     progress_->setAccessibleName(tr("Progress of the print job"));
     progress_->setTextVisible(false);
@@ -51,8 +54,9 @@ RunBar::RunBar(QWidget* parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(10);
     grid->addWidget(text_, 0, 0);
-    grid->addWidget(button_, 0, 1, Qt::AlignTop);
-    grid->addWidget(progress_, 1, 0, 1, 2);
+    grid->addWidget(check_, 0, 1, Qt::AlignTop);
+    grid->addWidget(button_, 0, 2, Qt::AlignTop);
+    grid->addWidget(progress_, 1, 0, 1, 3);
     grid->setColumnStretch(0, 1);
     connect(button_, &QPushButton::clicked, this, [this] {
         // One press is one request; the next status brings the button back if it is still needed.
@@ -67,6 +71,7 @@ void RunBar::showProgress(double share, const QString& words)
     progress_->setRange(0, kProgressSteps);
     progress_->setValue(int(share * kProgressSteps));
     progress_->show();
+    check_->hide();
     showRemedy(Remedy::none);
     tell(words);
 }
@@ -88,8 +93,17 @@ void RunBar::showStatus(const JobStatus& status, const QString& sentence)
 
 void RunBar::showEnd(const QString& sentence)
 {
-    clear();
+    progress_->hide();
+    showRemedy(Remedy::none);
     tell(sentence);
+}
+
+void RunBar::showCheck(const QString& sentence)
+{
+    check_->setText(tr("✓ as shown"));
+    setPlainToolTip(check_, sentence);
+    setPlainName(check_, sentence);
+    check_->show();
 }
 
 void RunBar::tell(const QString& text)
@@ -102,6 +116,7 @@ void RunBar::clear()
 {
     hide();
     text_->clear();
+    check_->hide();
     progress_->hide();
     showRemedy(Remedy::none);
 }

@@ -30,6 +30,9 @@ public:
     /// A last sentence, without progress or button.
     void showEnd(const QString& sentence);
 
+    /// Says quietly, until the next run, that the server holds what was sent; `sentence` is the long form.
+    void showCheck(const QString& sentence);
+
     /// A sentence in between, which leaves the rest as it is.
     void tell(const QString& text);
 
@@ -45,6 +48,7 @@ private:
     void showRemedy(Remedy remedy);
 
     QLabel* text_;
+    QLabel* check_;
     QProgressBar* progress_;
     QPushButton* button_;
     Remedy remedy_ = Remedy::none;

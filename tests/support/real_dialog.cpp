@@ -86,7 +86,11 @@ void RealDialog::type(int tag, const QString& text)
 
 int RealDialog::print()
 {
-    QTest::mouseClick(dialog.findChild<QPushButton*>(q("printButton")), Qt::LeftButton);
+    auto* const button = dialog.findChild<QPushButton*>(q("printButton"));
+    QTest::mousePress(button, Qt::LeftButton);
+    const OptionValues shown = session.valuesToSend().list();
+    QTest::mouseRelease(button, Qt::LeftButton);
+    EXPECT_EQ(session.valuesToSend().list(), shown) << "what the panels saved is what was shown";
     return jobWhenOver();
 }
 
@@ -102,6 +106,7 @@ int RealDialog::jobWhenOver()
 {
     const bool ended = waitUntil([this] { return dialog.run() && dialog.run()->isOver(); });
     EXPECT_TRUE(ended && dialog.outcome().printed) << qPrintable(dialog.outcome().sentence);
+    EXPECT_FALSE(dialog.findChild<QLabel*>(q("check"))->isHidden()) << "the server holds what was sent";
     return dialog.outcome().printed ? dialog.outcome().jobId : 0;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lines typed into the Backprint page of the real dialog, printed on a real server.
+#include "dialog/job/job_command.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/message_bar.h"
 #include "tests/end_to_end/backprint/back_of_picture.h"
@@ -61,6 +62,35 @@ TEST_F(BackprintInDialog, TypedLinesArriveByteForByteAndArePrintedAsTheyWereType
         EXPECT_EQ(received(job, "Resolution"), q("360dpi"));
         expectBack(job, c.printed);
     }
+}
+
+TEST_F(BackprintInDialog, TheCopiedCommandSendsWhatIsShown)
+{
+    open({q("Tessarin"), {resolution()}, {photo()}});
+    type(1, q("She \"said\" 'it\\'s' $HOME `id` {x} [YYYY]"));
+    type(2, q("two"));
+    switchLine(2, false);
+    ASSERT_TRUE(real->session.changeOption(q("PaperTone"), q("Vivid")));
+    ASSERT_TRUE(real->session.changeOption(q("Overspill"), q("1.5")));
+    PageSettings page = real->session.page();
+    page.copies = 3;
+    page.isCollated = false;
+    page.title = q("-My 'lake'");
+    real->session.setPage(page);
+    drainMainQueue(); // the panels are told
+    const QByteArray path = QFileInfo(q(HALVERN_PRINT_PROGRAM)).path().toUtf8() + ':' + qgetenv("PATH");
+    const QString command = real->session.command();
+    const ProgramResult again =
+        runProgram(q("/bin/sh"), {q("-c"), command + q(" --dry-run")}, {{"PATH", path}});
+    ASSERT_EQ(again.status, 0) << qPrintable(again.error);
+    QStringList sent;
+    for (const OptionValue& option : real->session.collectOptions())
+        sent.append(option.key + u'=' + option.value);
+    EXPECT_EQ(again.output.trimmed().split(u'\n').join(u'|').toStdString(), sent.join(u'|').toStdString())
+        << qPrintable(command);
+    const ProgramResult word =
+        runProgram(q("/bin/sh"), {q("-c"), q("printf %s ") + shellQuoted(q("a\x1b%'\\\nb"))});
+    EXPECT_EQ(word.output, q("a\x1b%'\\\nb"));
 }
 
 TEST_F(BackprintInDialog, EmptyAndSwitchedOffLinesPrintNothing)

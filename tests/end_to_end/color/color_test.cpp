@@ -44,7 +44,7 @@ protected:
     {
         dialog.showPage("summary");
         QTextDocument text;
-        text.setHtml(dialog.dialog.findChild<QLabel*>(q("summaryPage"))->text());
+        text.setHtml(dialog.dialog.findChild<QLabel*>(q("summaryText"))->text());
         return text.toPlainText();
     }
 

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/job/pdf_output.h"
+
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QFileInfo>
+#include <QPointer>
+#include <QSaveFile>
+
+namespace halvern {
+
+namespace {
+
+QString fileProblem(const QString& path, const QString& reason)
+{
+    return PdfOutput::tr("The file \"%1\" could not be written: %2.").arg(path, reason);
+}
+
+PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages, int resolution,
+                     const cups::CancelFlag& cancelled, const std::function<void(double)>& report)
+{
+    // A device would be replaced by a file.
+    if (const QFileInfo there(path); there.exists() && !there.isFile())
+        return {false, false, PdfOutput::tr("\"%1\" is no regular file. Name a file to write.").arg(path)};
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {false, false, fileProblem(path, file.errorString())};
+    const QString problem = writePdf(file, pages, resolution, [&](double share) {
+        report(share);
+        return !cancelled->load();
+    });
+    if (cancelled->load())
+        return {false, true, PdfOutput::tr("Cancelled: no file was written.")};
+    if (!file.flush() || file.error() != QFileDevice::NoError)
+        return {false, false, fileProblem(path, file.errorString())};
+    if (!problem.isEmpty())
+        return {false, false, PdfOutput::tr("No file was written. %1").arg(problem)};
+    if (!file.commit())
+        return {false, false, fileProblem(path, file.errorString())};
+    const size_t count = pages.size();
+    return {true, false,
+            count == 1 ? PdfOutput::tr("1 page was written to \"%1\".").arg(path)
+                       : PdfOutput::tr("%1 pages were written to \"%2\".").arg(QString::number(count), path)};
+}
+
+} // namespace
+
+PdfOutput::PdfOutput(QString path, std::vector<PageToPrint> pages, int resolution, QObject* parent)
+    : QObject(parent),
+      path_(std::move(path)),
+      pages_(std::move(pages)),
+      resolution_(resolution),
+      cancelled_(cups::makeCancelFlag())
+{
+}
+
+PdfOutput::~PdfOutput()
+{
+    cancel();
+}
+
+void PdfOutput::start()
+{
+    QPointer<PdfOutput> self(this);
+    const auto report = [self](double share) {
+        mainQueue().async([self, share] {
+            if (self && !self->isOver_)
+                Q_EMIT self->progressed(share);
+        });
+    };
+    WorkQueue().async([self, report, path = path_, pages = std::move(pages_), resolution = resolution_,
+                       cancelled = cancelled_] {
+        const PdfOutcome outcome = writeFile(path, pages, resolution, cancelled, report);
+        mainQueue().async([self, outcome] {
+            if (!self)
+                return;
+            self->isOver_ = true;
+            Q_EMIT self->finished(outcome);
+        });
+    });
+}
+
+} // namespace halvern
