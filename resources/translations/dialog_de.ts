@@ -2,26 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>DamageQuestion</name>
+    <name>Application</name>
     <message>
-        <source>Print damaged photos?</source>
-        <translation>Beschädigte Fotos drucken?</translation>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>Der Bildschirm ist nicht benutzbar: %1. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY auf einen, der geht.</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>Und %1 weitere.</translation>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>Es gibt keinen Bildschirm für den Dialog. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY.</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>Was fehlt, wird grau oder verschmiert gedruckt.</translation>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
+        <translation>Zeile %1 der Rückseite kann %2 nicht enthalten; das wurde weggelassen. Möglich sind die Zeichen einer englischen Tastatur außer „~“ sowie „©“.</translation>
     </message>
     <message>
-        <source>&amp;Leave Them Out</source>
-        <translation>&amp;Weglassen</translation>
-    </message>
-    <message>
-        <source>&amp;Print All the Same</source>
-        <translation>&amp;Trotzdem drucken</translation>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
     </message>
 </context>
 <context>
@@ -51,15 +54,15 @@
         <translation>Die Optionen ausgeben, die gesendet würden, je Zeile KEY=VALUE, und nichts senden.</translation>
     </message>
     <message>
-        <source>See "halvern-print --help".</source>
+        <source>See &quot;halvern-print --help&quot;.</source>
         <translation>Siehe „halvern-print --help“.</translation>
     </message>
     <message>
-        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <source>&quot;%1&quot; is no option: write KEY=VALUE, for example PageSize=A4.</source>
         <translation>„%1“ ist keine Option: Schreiben Sie KEY=VALUE, zum Beispiel PageSize=A4.</translation>
     </message>
     <message>
-        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <source>&quot;%1&quot; is no number of copies: write a number from 1 to %2.</source>
         <translation>„%1“ ist keine Anzahl: Schreiben Sie eine Zahl von 1 bis %2.</translation>
     </message>
     <message>
@@ -67,11 +70,11 @@
         <translation>Nennen Sie mindestens ein Foto (JPEG, PNG, TIFF oder PDF).</translation>
     </message>
     <message>
-        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>Der Name der Warteschlange ist leer. „lpstat -e“ zeigt die Warteschlangen.</translation>
     </message>
     <message>
-        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>Druckt Fotos, mit Vorschau und den eigenen Optionsseiten des Druckers.</translation>
     </message>
     <message>
@@ -99,16 +102,84 @@
         <translation>--refresh gehört zu --list-papers.</translation>
     </message>
     <message>
-        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
-        <translation>--list-papers druckt keine Dateien: Lassen Sie die Dateien und die Optionen zum Drucken weg.</translation>
-    </message>
-    <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
         <translation>Mit --no-dialog: so lange auf einen Druckserver warten, der nach dem Senden des Auftrags verstummt; sonst 60 Sekunden.</translation>
     </message>
     <message>
-        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <source>&quot;%1&quot; is no time to wait: write a number of seconds from 1 to %2.</source>
         <translation>„%1“ ist keine Wartezeit: Schreiben Sie eine Zahl von Sekunden von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>Print these pages only, for example 1-3,7,12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the last page first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Call the job this; without it, it is called like the first file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the print server&apos;s queues, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the names of the printer&apos;s presets, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the file to write is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--output writes a file, and does not go with --dry-run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 prints no files: leave out the files and the options for printing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Exit status:
@@ -117,77 +188,895 @@
   2  Wrong usage.
   3  The job is on the queue, and had not ended yet.
   4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
-        <translation>Rückgabewert:
-  0  Gedruckt, oder ausgegeben, was verlangt war.
-  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
-  2  Falscher Aufruf.
-  3  Der Auftrag ist in der Warteschlange und noch nicht beendet.
-  4  Abgebrochen: Es wurde nichts gedruckt.
-  5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist unbekannt.</translation>
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server&apos;s error log.</source>
+        <translation>Der Druckserver hat das Gespräch abgebrochen. Versuchen Sie es erneut; wenn es wieder misslingt, sehen Sie in das Fehlerprotokoll des Druckservers.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>Der Druckserver antwortet nicht. Warten Sie einen Moment und versuchen Sie es erneut, oder starten Sie ihn neu.</translation>
+    </message>
+    <message>
+        <source>The print server&apos;s answer does not end. Restart the print server, and try again.</source>
+        <translation>Die Antwort des Druckservers nimmt kein Ende. Starten Sie den Druckserver neu und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>Der Drucker ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>Der Drucker nimmt zurzeit keine Aufträge an. Wählen Sie einen anderen oder lassen Sie ihn Aufträge annehmen (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen das nicht. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Der Druckserver meldet: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
+        <translation>Der Druckserver unter %1 ist nicht erreichbar. Starten Sie ihn, zum Beispiel mit „systemctl start cups“, und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>CustomPaper</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished">%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation type="unfinished">%1 × %2 Zoll</translation>
+    </message>
+</context>
+<context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>Beschädigte Fotos drucken?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>Was fehlt, wird grau oder verschmiert gedruckt.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>&amp;Trotzdem drucken</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper &quot;%1&quot;.</source>
+        <translation>Der Drucker hat kein Papier „%1“.</translation>
+    </message>
+    <message>
+        <source>The printer has no &quot;sides=%1&quot;. Leave it out, or use the printer&apos;s own option for two-sided printing.</source>
+        <translation>Der Drucker kennt „sides=%1“ nicht. Lassen Sie es weg, oder nehmen Sie die eigene Option des Druckers für beidseitigen Druck.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>„%1“ ist keine Art zu skalieren. Schreiben Sie print-scaling=fit, fill oder none.</translation>
+    </message>
+    <message>
+        <source>&quot;%1=%2&quot; is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>„%1=%2“ ist nicht möglich: Die Seite wird vor dem Senden angelegt, mit einem Foto auf jeder. Lassen Sie es weg.</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>Die Zahl der Kopien ist keine Option des Druckers. Geben Sie sie mit --copies an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is set by the printer&apos;s own options here. &quot;lpoptions -p QUEUE -l&quot; lists them.</source>
+        <translation>„%1“ wird hier mit den eigenen Optionen des Druckers gewählt. „lpoptions -p QUEUE -l“ listet sie auf.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>Es gibt: %1 und %2 weitere.</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>Es gibt: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>Der Wert von %1 ist zu lang: Er hat %2 Bytes, möglich sind %3. Kürzen Sie ihn.</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>Der Druckserver lässt Sie diesen Auftrag nicht abbrechen. Fragen Sie, wer ihn betreut.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume &quot;%1&quot;. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Der Druckserver lässt Sie „%1“ nicht fortsetzen. Fragen Sie, wer ihn betreut; der Auftrag wartet so lange.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Der Druckserver lässt Sie den Auftrag nicht freigeben. Fragen Sie, wer ihn betreut; der Auftrag wartet so lange.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>Der Druckserver lässt Sie den Auftrag nicht erneut drucken. Fragen Sie, wer ihn betreut.</translation>
+    </message>
+</context>
+<context>
+    <name>JobInWords</name>
+    <message>
+        <source>not enough paper for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 roll %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sheet: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>two-sided: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not collated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text on the back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a banner page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>held on the queue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more settings changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 borderless</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>JobReadBack</name>
+    <message>
+        <source>The print server does not tell what it holds of job %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server holds job %1 exactly as it was sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 instead of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added to job %1 by the print server or the queue: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed in job %1 by the print server: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>JobStatus</name>
     <message>
-        <source>Job %1 waits for "%2"%3.</source>
+        <source>Job %1 waits for &quot;%2&quot;%3.</source>
         <translation>Auftrag %1 wartet auf „%2“%3.</translation>
     </message>
     <message>
-        <source>Job %1 is printing on "%2"%3.</source>
+        <source>Job %1 is printing on &quot;%2&quot;%3.</source>
         <translation>Auftrag %1 wird auf „%2“ gedruckt%3.</translation>
     </message>
     <message>
-        <source>Job %1 was cancelled on "%2".</source>
+        <source>Job %1 was cancelled on &quot;%2&quot;.</source>
         <translation>Auftrag %1 auf „%2“ wurde abgebrochen.</translation>
     </message>
     <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <source>Job %1 failed on &quot;%2&quot;%3. Print again; if it fails again, look into the print server&apos;s error log.</source>
         <translation>Auftrag %1 ist auf „%2“ fehlgeschlagen%3. Drucken Sie erneut; wenn es wieder fehlschlägt, sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
     </message>
     <message>
-        <source>Printed: job %1 on "%2".</source>
+        <source>Printed: job %1 on &quot;%2&quot;.</source>
         <translation>Gedruckt: Auftrag %1 auf „%2“.</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3.</source>
+        <source>Job %1 waits because &quot;%2&quot; is paused%3.</source>
         <translation>Auftrag %1 wartet, weil „%2“ angehalten ist%3.</translation>
     </message>
     <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <source>Job %1 is held on &quot;%2&quot; because it was asked to wait%3.</source>
         <translation>Auftrag %1 ist auf „%2“ zurückgehalten, weil er warten soll%3.</translation>
     </message>
     <message>
-        <source>Job %1 is held on "%2"%3.</source>
+        <source>Job %1 is held on &quot;%2&quot;%3.</source>
         <translation>Auftrag %1 ist auf „%2“ zurückgehalten%3.</translation>
     </message>
     <message>
-        <source>Job %1 stopped on "%2"%3.</source>
+        <source>Job %1 stopped on &quot;%2&quot;%3.</source>
         <translation>Auftrag %1 ist auf „%2“ stehen geblieben%3.</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <source>Job %1 has left the queue of &quot;%2&quot;. The print server keeps no record of how it ended.</source>
         <translation>Auftrag %1 hat die Warteschlange von „%2“ verlassen. Der Druckserver bewahrt nicht auf, wie er geendet hat.</translation>
     </message>
     <message>
-        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <source>&quot;%2&quot; is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
         <translation>„%2“ ist nicht mehr auf dem Druckserver und Auftrag %1 mit ihm. Sehen Sie am Drucker nach, bevor Sie erneut drucken.</translation>
     </message>
     <message>
-        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <source>The print server does not answer. Job %1 was sent to &quot;%2&quot;, and may be printed.</source>
         <translation>Der Druckserver antwortet nicht. Auftrag %1 wurde an „%2“ gesendet und wird vielleicht gedruckt.</translation>
     </message>
     <message>
-        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <source>See to the printer and resume it with &quot;cupsenable %2&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
         <translation>Sehen Sie nach dem Drucker und setzen Sie ihn mit „cupsenable %2“ fort oder brechen Sie den Auftrag mit „cancel %2-%1“ ab.</translation>
     </message>
     <message>
-        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <source>Release it with &quot;lp -i %1 -H resume&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Geben Sie ihn mit „lp -i %1 -H resume“ frei oder brechen Sie ihn mit „cancel %2-%1“ ab.</translation>
     </message>
     <message>
-        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Drucken Sie ihn mit „lp -i %1 -H restart“ erneut oder brechen Sie ihn mit „cancel %2-%1“ ab.</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of &quot;%2&quot; without its pages: cancel it there before you print again.</source>
+        <translation> Auftrag %1 ist vielleicht noch ohne seine Seiten in der Warteschlange von „%2“: Brechen Sie ihn dort ab, bevor Sie erneut drucken.</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>Der Druckserver hat dem Auftrag keine Nummer gegeben. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
+        <translation>Der Drucker „%1“ wurde gefragt, hat seine Papiere aber nicht gemeldet. Sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not report its papers: it has no Halvern driver.</source>
+        <translation>Der Drucker „%1“ meldet seine Papiere nicht: Er hat keinen Halvern-Treiber.</translation>
+    </message>
+    <message>
+        <source>Asking &quot;%1&quot; ...</source>
+        <translation>„%1“ wird gefragt ...</translation>
+    </message>
+    <message>
+        <source>Waiting for &quot;%1&quot;%2 ...</source>
+        <translation>Warten auf „%1“%2 ...</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is busy with another job. Ask again when that has ended.</source>
+        <translation>Der Drucker „%1“ bearbeitet einen anderen Auftrag. Fragen Sie noch einmal, wenn dieser beendet ist.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>Der Drucker „%1“ arbeitet zurzeit nicht%2, und die Anfrage wurde zurückgenommen. Setzen Sie den Drucker fort (cupsenable) und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not answer%2. See to the printer and ask again.</source>
+        <translation>Der Drucker „%1“ konnte nicht antworten%2. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>Der Drucker „%1“ nimmt keine Aufträge an und kann nicht gefragt werden. Lassen Sie ihn Aufträge annehmen (cupsaccept) und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to &quot;%1&quot;. Look into its error log.</source>
+        <translation>Der Druckserver hat die Anfrage an „%1“ abgelehnt. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
+    </message>
+    <message>
+        <source>The list of papers that &quot;%1&quot; reported cannot be read (%2).</source>
+        <translation>Die Papierliste, die „%1“ gemeldet hat, ist nicht lesbar (%2).</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>Es ist kein Papier eingelegt.</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>Der Drucker hat noch nicht gemeldet, was eingelegt ist.</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>Fragen Sie ihn mit --refresh.</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; could not be processed%2 and was taken back. See to the printer, look into the print server&apos;s error log, and ask again.</source>
+        <translation>Die Anfrage an „%1“ konnte nicht verarbeitet werden%2 und wurde zurückgenommen. Sehen Sie nach dem Drucker und im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>Die Anfrage an „%1“ wurde angehalten%2 und ist abgebrochen worden. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; was cancelled. Ask again.</source>
+        <translation>Die Anfrage an „%1“ wurde abgebrochen. Fragen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>Der Druckserver antwortet nicht; Auftrag %1 ist vielleicht noch in der Warteschlange (cancel %2-%1).</translation>
+    </message>
+    <message>
+        <source>Look into the print server&apos;s error log, and ask again.</source>
+        <translation>Sehen Sie im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>%1 (default): %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation type="unfinished">%1: %2 %3 {1:?}</translation>
+    </message>
+    <message>
+        <source>The print server has no printers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (from your saved options)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (default %2) &quot;%3&quot;: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>There is no page %1: there is one page only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1: the first page is 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1: the pages are 1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these pages has an odd number. Choose all pages, or others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these pages has an even number. Choose all pages, or others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size &quot;%1&quot; is wider than the roll (%2).</source>
+        <translation>Das Papierformat „%1“ ist breiter als die Rolle (%2).</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is larger than the paper &quot;%2&quot;.</source>
+        <translation>Das Papierformat „%1“ ist größer als das Papier „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>Der Druckauftrag konnte nicht in eine temporäre Datei geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>For the loaded paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished">Rolle</translation>
+    </message>
+    <message>
+        <source>ISO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished">%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation type="unfinished">%1 × %2 Zoll</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>gerade eben</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>vor %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>vor %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>vor %1 Tagen</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: nie aktualisiert</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: zuletzt aktualisiert %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Oberfläche</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tonwerte</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>„%1“ ist beschädigt und nicht lesbar. Exportieren Sie die Datei erneut aus Ihrem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt. Kopieren Sie die Datei erneut von der Kamera oder exportieren Sie sie erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>„%1“ ist zu groß zum Drucken. Drucken Sie eine Kopie mit weniger Pixeln.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF- oder PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
+        <translation>„%1“ ist mit einem Passwort geschützt. Drucken Sie eine Kopie ohne Passwort.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed meanwhile. Open it again.</source>
+        <translation>„%1“ hat sich inzwischen geändert. Öffnen Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;. Check its name.</source>
+        <translation>Es gibt keine Datei „%1“. Prüfen Sie den Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>„%1“ ist ein Ordner. Nennen Sie die Fotos darin, zum Beispiel *.jpg.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
+        <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie, ob Sie die Datei lesen dürfen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
+        <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Kamera.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer&apos;s own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) bieten für diesen Drucker nichts. Sie können ohne sie drucken.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the pages &quot;%1&quot;, which is no name of a bundle. You can print without them.</source>
+        <translation>Die Beschreibung des Druckers verlangt die Seiten „%1“; das ist kein gültiger Name. Sie können ohne sie drucken.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own pages (%1) are not installed. You can print without them; install the printer&apos;s software to have them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) sind nicht installiert. Sie können ohne sie drucken; installieren Sie die Software des Druckers, um sie zu haben.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own pages (%1) cannot be loaded: %2. You can print without them; install the printer&apos;s software again to have them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) lassen sich nicht laden: %2. Sie können ohne sie drucken; installieren Sie die Software des Druckers neu, um sie zu haben.</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>sie nennen kein Modul</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>das Modul ist von anderer Art</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>sie gehören zu etwas anderem</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 muss eine Zahl von %2 bis %3 sein.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 muss %2 bis %3 Zeichen haben.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>Eine Option ohne Namen oder Wert kann nicht gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The printer has no page size &quot;%1&quot;. Choose one from the list.</source>
+        <translation>Der Drucker hat kein Papierformat „%1“. Wählen Sie eines aus der Liste.</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size &quot;%1&quot;. Choose one from the list.</source>
+        <translation>Der Drucker kann das Papierformat „%1“ nicht verwenden. Wählen Sie eines aus der Liste.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go together with &quot;%2&quot;. Change that first.</source>
+        <translation>„%1“ passt nicht zu „%2“. Ändern Sie das zuerst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is part of the printer&apos;s equipment, and is set by whoever installed the printer.</source>
+        <translation>„%1“ gehört zur Ausstattung des Druckers und wird bei dessen Einrichtung festgelegt.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s equipment does not allow &quot;%1&quot;: whoever installed the printer has set &quot;%2&quot;.</source>
+        <translation>„%1“ ist mit der Ausstattung des Druckers nicht möglich: Bei der Einrichtung wurde „%2“ festgelegt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no choice &quot;%2&quot;.</source>
+        <translation>„%1“ kennt die Auswahl „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;.</source>
+        <translation>Der Drucker hat keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not with what the printer has loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not with %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>It holds no presets of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are %1 presets already. Delete one first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is not there any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets in %1 cannot be used. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some presets in %1 cannot be read and are left alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program holds the lock %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It would be too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No presets were read from %1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is none in it that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some presets in %1 cannot be read and were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets could not be written to %1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;.</source>
+        <translation type="unfinished">Der Drucker hat keine Option „%1“.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation type="unfinished">Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>Not all of &quot;%1&quot; can be had now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Im Netz gefunden</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Braucht Hilfe</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>Der Druckserver hat keine Drucker. Richten Sie einen ein, zum Beispiel mit lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot;. It has: %2.</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot;. It has: %2, and %3 more (lpstat -e).</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2 und %3 weitere (lpstat -e).</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation type="unfinished">Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer &quot;%1&quot; prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>Der Drucker „%1“ druckt keinen Text auf die Rückseite. Lassen Sie --backprint weg oder wählen Sie einen anderen Drucker.</translation>
     </message>
 </context>
 <context>
@@ -278,77 +1167,14 @@
     </message>
 </context>
 <context>
-    <name>PluginLoader</name>
+    <name>Stepper</name>
     <message>
-        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
-        <translation>Die eigenen Seiten des Druckers (%1) bieten für diesen Drucker nichts. Sie können ohne sie drucken.</translation>
+        <source>Increase</source>
+        <translation type="unfinished">Erhöhen</translation>
     </message>
     <message>
-        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
-        <translation>Die Beschreibung des Druckers verlangt die Seiten „%1“; das ist kein gültiger Name. Sie können ohne sie drucken.</translation>
-    </message>
-    <message>
-        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
-        <translation>Die eigenen Seiten des Druckers (%1) sind nicht installiert. Sie können ohne sie drucken; installieren Sie die Software des Druckers, um sie zu haben.</translation>
-    </message>
-    <message>
-        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
-        <translation>Die eigenen Seiten des Druckers (%1) lassen sich nicht laden: %2. Sie können ohne sie drucken; installieren Sie die Software des Druckers neu, um sie zu haben.</translation>
-    </message>
-    <message>
-        <source>they name no module</source>
-        <translation>sie nennen kein Modul</translation>
-    </message>
-    <message>
-        <source>the module is of another kind</source>
-        <translation>das Modul ist von anderer Art</translation>
-    </message>
-    <message>
-        <source>they belong to something else</source>
-        <translation>sie gehören zu etwas anderem</translation>
-    </message>
-</context>
-<context>
-    <name>PpdModel</name>
-    <message>
-        <source>An option without a name or a value cannot be set.</source>
-        <translation>Eine Option ohne Namen oder Wert kann nicht gesetzt werden.</translation>
-    </message>
-    <message>
-        <source>The printer has no page size "%1". Choose one from the list.</source>
-        <translation>Der Drucker hat kein Papierformat „%1“. Wählen Sie eines aus der Liste.</translation>
-    </message>
-    <message>
-        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
-        <translation>Der Drucker kann das Papierformat „%1“ nicht verwenden. Wählen Sie eines aus der Liste.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not go together with "%2". Change that first.</source>
-        <translation>„%1“ passt nicht zu „%2“. Ändern Sie das zuerst.</translation>
-    </message>
-    <message>
-        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
-        <translation>„%1“ gehört zur Ausstattung des Druckers und wird bei dessen Einrichtung festgelegt.</translation>
-    </message>
-    <message>
-        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
-        <translation>„%1“ ist mit der Ausstattung des Druckers nicht möglich: Bei der Einrichtung wurde „%2“ festgelegt.</translation>
-    </message>
-    <message>
-        <source>"%1" has no choice "%2".</source>
-        <translation>„%1“ kennt die Auswahl „%2“ nicht.</translation>
-    </message>
-    <message>
-        <source>The printer has no option "%1".</source>
-        <translation>Der Drucker hat keine Option „%1“.</translation>
-    </message>
-    <message>
-        <source>Paper size</source>
-        <translation>Papierformat</translation>
+        <source>Decrease</source>
+        <translation type="unfinished">Verringern</translation>
     </message>
 </context>
 <context>
@@ -366,7 +1192,7 @@
         <translation>Abgebrochen: Es wurde nichts gedruckt.</translation>
     </message>
     <message>
-        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <source>Job %1 stays on the queue; &quot;cancel %2-%1&quot; takes it away.</source>
         <translation>Auftrag %1 bleibt in der Warteschlange; „cancel %2-%1“ nimmt ihn weg.</translation>
     </message>
     <message>
@@ -374,8 +1200,93 @@
         <translation>Warnung: %1</translation>
     </message>
     <message>
-        <source>With "-o PageSize=%1" it fits.</source>
+        <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>Mit „-o PageSize=%1“ passt es.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::ChoiceList</name>
+    <message>
+        <source>%1; %2</source>
+        <translation type="unfinished">%1: %2 {1;?}</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::CustomField</name>
+    <message>
+        <source>Other value...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: other value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::CustomPaperRow</name>
+    <message>
+        <source>Width of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of this paper size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;Long as the Photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;High as the Photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -383,6 +1294,120 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::HitList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobPage</name>
+    <message>
+        <source>At once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By day, from 6:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the evening, from 18:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At night, from 18:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the second shift, from 16:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the third shift, from 0:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 waits longest, 100 goes first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print &amp;when:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page &amp;before:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page &amp;after:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print when</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -405,60 +1430,187 @@
     </message>
 </context>
 <context>
-    <name>halvern::OptionsPage</name>
+    <name>halvern::OptionDelegate</name>
     <message>
-        <source>More options follow...</source>
-        <translation>Weitere Optionen folgen ...</translation>
+        <source>%1 (the printer&apos;s default)</source>
+        <translation type="unfinished">%1 (Vorgabe des Druckers)</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>Bei der Einrichtung des Druckers festgelegt.</translation>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (Vorgabe des Druckers)</translation>
+        <source>also sets %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>halvern::SummaryPage</name>
+    <name>halvern::OptionFinder</name>
     <message>
-        <source>Fit</source>
-        <translation>Einpassen</translation>
+        <source>Search options and printers (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Fill</source>
-        <translation>Füllen</translation>
+        <source>Search options and printers</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Actual size</source>
-        <translation>Originalgröße</translation>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Drucker</translation>
+        <source>Printers</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Paper size</source>
-        <translation>Papierformat</translation>
+        <source>%1 › %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Photo size</source>
-        <translation>Größe des Fotos</translation>
+        <source>Searching...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printed area</source>
-        <translation>Bedruckte Fläche</translation>
+        <source>Nothing has this name.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
+        <source>The first %1 that were found</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
+        <source>%1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionTree</name>
+    <message>
+        <source>Installed in the printer (set by whoever installed it)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>More options</source>
+        <source>%1 (the printer&apos;s default)</source>
+        <translation type="unfinished">%1 (Vorgabe des Druckers)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put back to the printer&apos;s default: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>Changed from the printer&apos;s default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Show changed only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the options of this page back to the printer&apos;s defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished">Optionen</translation>
+    </message>
+    <message>
+        <source>Nothing changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put Back to the Printer&apos;s Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OutputMenu</name>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print to a &amp;PDF File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy as Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print to a PDF File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PageRangeRow</name>
+    <message>
+        <source>Last page &amp;first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd or even pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1, or for example 1-3, 5-</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>Optionsseiten</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>More Options</source>
         <translation>Weitere Optionen</translation>
     </message>
     <message>
@@ -466,12 +1618,16 @@
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>%1 more are on the page of options.</source>
-        <translation>%1 weitere stehen auf der Seite mit den Optionen.</translation>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
     </message>
     <message>
-        <source>Off: %1</source>
-        <translation>Aus: %1</translation>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -512,32 +1668,232 @@
         <source>Photo si&amp;ze:</source>
         <translation>&amp;Größe des Fotos:</translation>
     </message>
+    <message>
+        <source>Search by name or measures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Borderless</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Two-sided:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation type="unfinished">Papierformat</translation>
+    </message>
+    <message>
+        <source>The printer does not have this paper size both with and without a margin.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>halvern::PanelDeck</name>
+    <name>halvern::PaperSizeList</name>
     <message>
-        <source>Pages of options</source>
-        <translation>Optionsseiten</translation>
+        <source>Custom size...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PdfOutput</name>
+    <message>
+        <source>The file &quot;%1&quot; could not be written: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Page</source>
-        <translation>Seite</translation>
+        <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>More Options</source>
-        <translation>Weitere Optionen</translation>
+        <source>Cancelled: no file was written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
+        <source>No file was written. %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>Übersicht</translation>
+        <source>1 page was written to &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
+        <source>%1 pages were written to &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PresetBar</name>
+    <message>
+        <source>From your saved options (lpoptions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made for a printer of the same model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was printed here yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save, rename and more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read from the file, and not applied yet: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as New Preset...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import from File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export &amp;All to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename &quot;%1&quot;...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export &quot;%1&quot; to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; was deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished">Rü&amp;ckgängig</translation>
+    </message>
+    <message>
+        <source>Import Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PresetNameDialog</name>
+    <message>
+        <source>Save Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the number of &amp;copies (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;text on the back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is always there. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset of this name. It will be replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset of this name. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Presets</name>
+    <message>
+        <source>%1 (from %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation type="unfinished">Es gibt: %1.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation type="unfinished">Meinten Sie %1?</translation>
     </message>
 </context>
 <context>
@@ -579,7 +1935,7 @@
         <translation>1:1, ein Bildschirmpunkt je Druckpunkt (%1 dpi)</translation>
     </message>
     <message>
-        <source>The printer's adjustments, approximated on the screen</source>
+        <source>The printer&apos;s adjustments, approximated on the screen</source>
         <translation>Anpassungen des Druckers, am Bildschirm angenähert</translation>
     </message>
     <message>
@@ -630,15 +1986,11 @@
         <translation>Suche Drucker ...</translation>
     </message>
     <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
-    </message>
-    <message>
-        <source>The print server has no printers. Add one in the system's settings.</source>
+        <source>The print server has no printers. Add one in the system&apos;s settings.</source>
         <translation>Der Druckserver hat keine Drucker. Richten Sie in den Systemeinstellungen einen ein.</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". Choose another one.</source>
+        <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>Der Druckserver hat keinen Drucker „%1“. Wählen Sie einen anderen.</translation>
     </message>
     <message>
@@ -682,11 +2034,11 @@
         <translation>Seiten werden vorbereitet ...</translation>
     </message>
     <message>
-        <source>Job %1 was sent to "%2".</source>
+        <source>Job %1 was sent to &quot;%2&quot;.</source>
         <translation>Auftrag %1 wurde an „%2“ gesendet.</translation>
     </message>
     <message>
-        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer&apos;s own pages.</source>
         <translation>Wählen Sie Drucker und Papierformat, prüfen Sie die Vorschau und drücken Sie „Drucken“. Die Liste links neben den Optionen enthält die eigenen Seiten des Druckers.</translation>
     </message>
     <message>
@@ -721,6 +2073,38 @@
         <source>The printer cannot do what was chosen, so this stays: %1</source>
         <translation>Der Drucker kann nicht, was gewählt war; deshalb bleibt es bei: %1</translation>
     </message>
+    <message>
+        <source>Search by name, place or model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation type="unfinished">Drucker</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 option was put back to the printer&apos;s default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 options were put back to the printer&apos;s defaults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -749,113 +2133,30 @@
         <translation>Der Druckserver antwortet nicht. Auftrag %1 wird abgebrochen, sobald er es tut, falls dieses Fenster dann noch offen ist.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>Auftrag %1 wurde an „%2“ gesendet, aber der Druckserver hat seit %3 Sekunden nicht geantwortet: Ob er gedruckt wurde, ist nicht bekannt. Sehen Sie am Drucker nach, bevor Sie erneut drucken.</translation>
     </message>
 </context>
 <context>
-    <name>ListPapers</name>
+    <name>halvern::PrinterChoice</name>
     <message>
-        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
-        <translation>Der Drucker „%1“ wurde gefragt, hat seine Papiere aber nicht gemeldet. Sehen Sie im Fehlerprotokoll des Druckservers nach.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
-        <translation>Der Drucker „%1“ meldet seine Papiere nicht: Er hat keinen Halvern-Treiber.</translation>
-    </message>
-    <message>
-        <source>Asking "%1" ...</source>
-        <translation>„%1“ wird gefragt ...</translation>
-    </message>
-    <message>
-        <source>Waiting for "%1"%2 ...</source>
-        <translation>Warten auf „%1“%2 ...</translation>
-    </message>
-    <message>
-        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
-        <translation>Der Drucker „%1“ bearbeitet einen anderen Auftrag. Fragen Sie noch einmal, wenn dieser beendet ist.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
-        <translation>Der Drucker „%1“ arbeitet zurzeit nicht%2, und die Anfrage wurde zurückgenommen. Setzen Sie den Drucker fort (cupsenable) und fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
-        <translation>Der Drucker „%1“ konnte nicht antworten%2. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
-        <translation>Der Drucker „%1“ nimmt keine Aufträge an und kann nicht gefragt werden. Lassen Sie ihn Aufträge annehmen (cupsaccept) und fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The print server refused the question to "%1". Look into its error log.</source>
-        <translation>Der Druckserver hat die Anfrage an „%1“ abgelehnt. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
-    </message>
-    <message>
-        <source>The list of papers that "%1" reported cannot be read (%2).</source>
-        <translation>Die Papierliste, die „%1“ gemeldet hat, ist nicht lesbar (%2).</translation>
-    </message>
-    <message>
-        <source>No papers are loaded.</source>
-        <translation>Es ist kein Papier eingelegt.</translation>
-    </message>
-    <message>
-        <source>The printer has not said yet what is loaded.</source>
-        <translation>Der Drucker hat noch nicht gemeldet, was eingelegt ist.</translation>
-    </message>
-    <message>
-        <source>Ask it with --refresh.</source>
-        <translation>Fragen Sie ihn mit --refresh.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
-        <translation>Die Anfrage an „%1“ konnte nicht verarbeitet werden%2 und wurde zurückgenommen. Sehen Sie nach dem Drucker und im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
-        <translation>Die Anfrage an „%1“ wurde angehalten%2 und ist abgebrochen worden. Sehen Sie nach dem Drucker und fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled. Ask again.</source>
-        <translation>Die Anfrage an „%1“ wurde abgebrochen. Fragen Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
-        <translation>Der Druckserver antwortet nicht; Auftrag %1 ist vielleicht noch in der Warteschlange (cancel %2-%1).</translation>
-    </message>
-    <message>
-        <source>Look into the print server's error log, and ask again.</source>
-        <translation>Sehen Sie im Fehlerprotokoll des Druckservers nach, und fragen Sie noch einmal.</translation>
+        <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
     </message>
 </context>
 <context>
-    <name>JobActions</name>
+    <name>halvern::PrinterRows</name>
     <message>
-        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
-        <translation>Der Druckserver lässt Sie diesen Auftrag nicht abbrechen. Fragen Sie, wer ihn betreut.</translation>
+        <source>Used last</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
-        <translation>Der Druckserver lässt Sie „%1“ nicht fortsetzen. Fragen Sie, wer ihn betreut; der Auftrag wartet so lange.</translation>
+        <source>Found on the network</source>
+        <translation type="unfinished">Im Netz gefunden</translation>
     </message>
     <message>
-        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
-        <translation>Der Druckserver lässt Sie den Auftrag nicht freigeben. Fragen Sie, wer ihn betreut; der Auftrag wartet so lange.</translation>
-    </message>
-    <message>
-        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
-        <translation>Der Druckserver lässt Sie den Auftrag nicht erneut drucken. Fragen Sie, wer ihn betreut.</translation>
-    </message>
-</context>
-<context>
-    <name>JobSubmitter</name>
-    <message>
-        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
-        <translation> Auftrag %1 ist vielleicht noch ohne seine Seiten in der Warteschlange von „%2“: Brechen Sie ihn dort ab, bevor Sie erneut drucken.</translation>
-    </message>
-    <message>
-        <source>The print server gave the job no number. Look into its error log.</source>
-        <translation>Der Druckserver hat dem Auftrag keine Nummer gegeben. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
+        <source>Printers</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -876,313 +2177,95 @@
         <source>Print Job Again</source>
         <translation>Auftrag erneut drucken</translation>
     </message>
-</context>
-<context>
-    <name>GivenOptions</name>
     <message>
-        <source>The printer has no paper "%1".</source>
-        <translation>Der Drucker hat kein Papier „%1“.</translation>
-    </message>
-    <message>
-        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
-        <translation>Der Drucker kennt „sides=%1“ nicht. Lassen Sie es weg, oder nehmen Sie die eigene Option des Druckers für beidseitigen Druck.</translation>
-    </message>
-    <message>
-        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
-        <translation>„%1“ ist keine Art zu skalieren. Schreiben Sie print-scaling=fit, fill oder none.</translation>
-    </message>
-    <message>
-        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
-        <translation>„%1=%2“ ist nicht möglich: Die Seite wird vor dem Senden angelegt, mit einem Foto auf jeder. Lassen Sie es weg.</translation>
-    </message>
-    <message>
-        <source>The number of copies is no option of the printer. Give it with --copies.</source>
-        <translation>Die Zahl der Kopien ist keine Option des Druckers. Geben Sie sie mit --copies an.</translation>
-    </message>
-    <message>
-        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
-        <translation>„%1“ wird hier mit den eigenen Optionen des Druckers gewählt. „lpoptions -p QUEUE -l“ listet sie auf.</translation>
-    </message>
-    <message>
-        <source>Did you mean %1?</source>
-        <translation>Meinten Sie %1?</translation>
-    </message>
-    <message>
-        <source>It has: %1 and %2 more.</source>
-        <translation>Es gibt: %1 und %2 weitere.</translation>
-    </message>
-    <message>
-        <source>It has: %1.</source>
-        <translation>Es gibt: %1.</translation>
+        <source>✓ as shown</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>halvern::Stepper</name>
+    <name>halvern::SearchPopup</name>
     <message>
-        <source>Increase</source>
-        <translation>Erhöhen</translation>
-    </message>
-    <message>
-        <source>Decrease</source>
-        <translation>Verringern</translation>
+        <source>Nothing here is called &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>PageFit</name>
+    <name>halvern::SummaryPage</name>
     <message>
-        <source>The paper size "%1" is wider than the roll (%2).</source>
-        <translation>Das Papierformat „%1“ ist breiter als die Rolle (%2).</translation>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
     </message>
     <message>
-        <source>The paper size "%1" is larger than the paper "%2".</source>
-        <translation>Das Papierformat „%1“ ist größer als das Papier „%2“.</translation>
-    </message>
-</context>
-<context>
-    <name>StartingOptions</name>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>Der Drucker „%1“ druckt keinen Text auf die Rückseite. Lassen Sie --backprint weg oder wählen Sie einen anderen Drucker.</translation>
-    </message>
-</context>
-<context>
-    <name>halvern::PrinterChoice</name>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterList</name>
-    <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
+        <source>Fill</source>
+        <translation>Füllen</translation>
     </message>
     <message>
-        <source>Does not accept jobs</source>
-        <translation>Nimmt keine Aufträge an</translation>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
     </message>
     <message>
-        <source>Paused</source>
-        <translation>Angehalten</translation>
+        <source>Printer</source>
+        <translation>Drucker</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Druckt</translation>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
     </message>
     <message>
-        <source>Found on the network</source>
-        <translation>Im Netz gefunden</translation>
+        <source>Photo size</source>
+        <translation>Größe des Fotos</translation>
     </message>
     <message>
-        <source>Needs attention</source>
-        <translation>Braucht Hilfe</translation>
+        <source>Printed area</source>
+        <translation>Bedruckte Fläche</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>Der Druckserver hat keine Drucker. Richten Sie einen ein, zum Beispiel mit lpadmin.</translation>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2.</translation>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>Der Druckserver hat keinen Drucker „%1“. Er hat: %2 und %3 weitere (lpstat -e).</translation>
-    </message>
-</context>
-<context>
-    <name>QueuePpd</name>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
+        <source>More options</source>
+        <translation>Weitere Optionen</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
-    </message>
-</context>
-<context>
-    <name>PpdLookup</name>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 muss eine Zahl von %2 bis %3 sein.</translation>
+        <source>Options</source>
+        <translation>Optionen</translation>
     </message>
     <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 muss %2 bis %3 Zeichen haben.</translation>
-    </message>
-</context>
-<context>
-    <name>CupsSentences</name>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>Der Druckserver hat das Gespräch abgebrochen. Versuchen Sie es erneut; wenn es wieder misslingt, sehen Sie in das Fehlerprotokoll des Druckservers.</translation>
+        <source>Off: %1</source>
+        <translation>Aus: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>Der Druckserver antwortet nicht. Warten Sie einen Moment und versuchen Sie es erneut, oder starten Sie ihn neu.</translation>
+        <source>All other settings</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>Die Antwort des Druckservers nimmt kein Ende. Starten Sie den Druckserver neu und versuchen Sie es erneut.</translation>
+        <source>The options as they are sent</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>Der Drucker ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen.</translation>
+        <source>Cop&amp;y</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>Der Drucker nimmt zurzeit keine Aufträge an. Wählen Sie einen anderen oder lassen Sie ihn Aufträge annehmen (cupsaccept).</translation>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 von %2</translation>
     </message>
     <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>Der Druckserver erlaubt Ihnen das nicht. Fragen Sie, wer ihn verwaltet.</translation>
+        <source>Job title</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server reports: %1</source>
-        <translation>Der Druckserver meldet: %1</translation>
+        <source>printer&apos;s default: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>Der Druckserver unter %1 ist nicht erreichbar. Starten Sie ihn, zum Beispiel mit „systemctl start cups“, und versuchen Sie es erneut.</translation>
-    </message>
-</context>
-<context>
-    <name>PageRenderer</name>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>Der Druckauftrag konnte nicht in eine temporäre Datei geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
-    </message>
-</context>
-<context>
-    <name>PhotoProblem</name>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>„%1“ ist beschädigt und nicht lesbar. Exportieren Sie die Datei erneut aus Ihrem Fotoprogramm.</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt. Kopieren Sie die Datei erneut von der Kamera oder exportieren Sie sie erneut.</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>„%1“ ist zu groß zum Drucken. Drucken Sie eine Kopie mit weniger Pixeln.</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF- oder PDF-Datei.</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>„%1“ ist mit einem Passwort geschützt. Drucken Sie eine Kopie ohne Passwort.</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>„%1“ hat sich inzwischen geändert. Öffnen Sie die Datei erneut.</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>Es gibt keine Datei „%1“. Prüfen Sie den Namen.</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>„%1“ ist ein Ordner. Nennen Sie die Fotos darin, zum Beispiel *.jpg.</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie, ob Sie die Datei lesen dürfen.</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Kamera.</translation>
-    </message>
-</context>
-<context>
-    <name>IppOptions</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>Der Wert von %1 ist zu lang: Er hat %2 Bytes, möglich sind %3. Kürzen Sie ihn.</translation>
-    </message>
-</context>
-<context>
-    <name>BackLines</name>
-    <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>Zeile %1 der Rückseite kann %2 nicht enthalten; das wurde weggelassen. Möglich sind die Zeichen einer englischen Tastatur außer „~“ sowie „©“.</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
-    </message>
-</context>
-<context>
-    <name>PaperTable</name>
-    <message>
-        <source>just now</source>
-        <translation>gerade eben</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>vor %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>vor %1 h</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>vor %1 Tagen</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1: nie aktualisiert</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1: zuletzt aktualisiert %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>Rolle</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Blatt</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>Oberfläche</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Auflösung</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>Tonwerte</translation>
-    </message>
-</context>
-<context>
-    <name>Application</name>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>Der Bildschirm ist nicht benutzbar: %1. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY auf einen, der geht.</translation>
-    </message>
-    <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>Es gibt keinen Bildschirm für den Dialog. Drucken Sie mit --no-dialog oder setzen Sie DISPLAY.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Drucken</translation>
-    </message>
-</context>
-<context>
-    <name>Main</name>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
+        <source>%1 more are in the list of all other settings.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -2,26 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>DamageQuestion</name>
+    <name>Application</name>
     <message>
-        <source>Print damaged photos?</source>
-        <translation>Imprimer les photos endommagées ?</translation>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>L’écran est inutilisable : %1. Imprimez avec --no-dialog ou définissez DISPLAY sur un écran qui fonctionne.</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>Et %1 de plus.</translation>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>Aucun écran pour afficher le dialogue. Imprimez avec --no-dialog ou définissez DISPLAY.</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>Ce qui manque sort gris ou brouillé.</translation>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
+        <translation>La ligne %1 du dos ne peut pas contenir %2, qui a été omis. Elle accepte les caractères d’un clavier anglais sauf « ~ », ainsi que « © ».</translation>
     </message>
     <message>
-        <source>&amp;Leave Them Out</source>
-        <translation>&amp;Les omettre</translation>
-    </message>
-    <message>
-        <source>&amp;Print All the Same</source>
-        <translation>&amp;Imprimer quand même</translation>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
     </message>
 </context>
 <context>
@@ -51,15 +54,15 @@
         <translation>Écrire les options qui seraient envoyées, une KEY=VALUE par ligne, sans rien envoyer.</translation>
     </message>
     <message>
-        <source>See "halvern-print --help".</source>
+        <source>See &quot;halvern-print --help&quot;.</source>
         <translation>Voir « halvern-print --help ».</translation>
     </message>
     <message>
-        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <source>&quot;%1&quot; is no option: write KEY=VALUE, for example PageSize=A4.</source>
         <translation>« %1 » n’est pas une option : écrivez KEY=VALUE, par exemple PageSize=A4.</translation>
     </message>
     <message>
-        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <source>&quot;%1&quot; is no number of copies: write a number from 1 to %2.</source>
         <translation>« %1 » n’est pas un nombre de copies : écrivez un nombre de 1 à %2.</translation>
     </message>
     <message>
@@ -67,11 +70,11 @@
         <translation>Nommez au moins une photo à imprimer (JPEG, PNG, TIFF ou PDF).</translation>
     </message>
     <message>
-        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>Le nom de la file est vide. « lpstat -e » affiche les files.</translation>
     </message>
     <message>
-        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>Imprime des photos, avec un aperçu et les pages d’options propres à l’imprimante.</translation>
     </message>
     <message>
@@ -88,27 +91,95 @@
     </message>
     <message>
         <source>Write what the printer has loaded, and how old that knowledge is.</source>
-        <translation>Afficher ce qui est chargé dans l'imprimante et l'âge de cette information.</translation>
+        <translation>Afficher ce qui est chargé dans l&apos;imprimante et l&apos;âge de cette information.</translation>
     </message>
     <message>
         <source>With --list-papers: ask the printer first.</source>
-        <translation>Avec --list-papers : interroger d'abord l'imprimante.</translation>
+        <translation>Avec --list-papers : interroger d&apos;abord l&apos;imprimante.</translation>
     </message>
     <message>
         <source>--refresh goes with --list-papers.</source>
-        <translation>--refresh s'emploie avec --list-papers.</translation>
-    </message>
-    <message>
-        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
-        <translation>--list-papers n'imprime aucun fichier : omettez les fichiers et les options d'impression.</translation>
+        <translation>--refresh s&apos;emploie avec --list-papers.</translation>
     </message>
     <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
         <translation>Avec --no-dialog : attendre aussi longtemps un serveur d’impression qui se tait après l’envoi de la tâche ; sinon 60 secondes.</translation>
     </message>
     <message>
-        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <source>&quot;%1&quot; is no time to wait: write a number of seconds from 1 to %2.</source>
         <translation>« %1 » n’est pas une durée d’attente : écrivez un nombre de secondes de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>Print these pages only, for example 1-3,7,12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the last page first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Call the job this; without it, it is called like the first file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the print server&apos;s queues, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the names of the printer&apos;s presets, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the file to write is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--output writes a file, and does not go with --dry-run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 prints no files: leave out the files and the options for printing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Exit status:
@@ -117,77 +188,895 @@
   2  Wrong usage.
   3  The job is on the queue, and had not ended yet.
   4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
-        <translation>Code de sortie :
-  0  Imprimé, ou écrit ce qui était demandé.
-  1  Échec ; la sortie d’erreur dit pourquoi.
-  2  Mauvais usage.
-  3  La tâche est dans la file et n’était pas encore terminée.
-  4  Annulé : rien n’a été imprimé.
-  5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue est inconnue.</translation>
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server&apos;s error log.</source>
+        <translation>Le serveur d’impression a interrompu la conversation. Réessayez ; si cela échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>Le serveur d’impression ne répond pas. Attendez un moment et réessayez, ou redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>The print server&apos;s answer does not end. Restart the print server, and try again.</source>
+        <translation>La réponse du serveur d’impression ne se termine pas. Redémarrez le serveur d’impression et réessayez.</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>L’imprimante n’est plus sur le serveur d’impression. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>L’imprimante n’accepte pas de tâches pour le moment. Choisissez-en une autre ou autorisez-la (cupsaccept).</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous y autorise pas. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Le serveur d’impression signale : %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
+        <translation>Le serveur d’impression %1 est injoignable. Démarrez-le, par exemple avec « systemctl start cups », et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>CustomPaper</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished">%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation type="unfinished">%1 × %2 po</translation>
+    </message>
+</context>
+<context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>Imprimer les photos endommagées ?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>Ce qui manque sort gris ou brouillé.</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Les omettre</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>&amp;Imprimer quand même</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper &quot;%1&quot;.</source>
+        <translation>L’imprimante n’a pas de papier « %1 ».</translation>
+    </message>
+    <message>
+        <source>The printer has no &quot;sides=%1&quot;. Leave it out, or use the printer&apos;s own option for two-sided printing.</source>
+        <translation>L’imprimante ne connaît pas « sides=%1 ». Retirez-le, ou utilisez l’option de l’imprimante pour l’impression recto verso.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>« %1 » n’est pas un mode de mise à l’échelle. Écrivez print-scaling=fit, fill ou none.</translation>
+    </message>
+    <message>
+        <source>&quot;%1=%2&quot; is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>« %1=%2 » n’est pas possible : la page est composée avant l’envoi, une photo sur chacune. Retirez-le.</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>Le nombre de copies n’est pas une option de l’imprimante. Donnez-le avec --copies.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is set by the printer&apos;s own options here. &quot;lpoptions -p QUEUE -l&quot; lists them.</source>
+        <translation>« %1 » se choisit ici avec les options de l’imprimante. « lpoptions -p QUEUE -l » les affiche.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Vouliez-vous dire %1 ?</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>Il y a : %1 et %2 de plus.</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>Il y a : %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>La valeur de %1 est trop longue : %2 octets, %3 au plus. Raccourcissez-la.</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous laisse pas annuler cette tâche. Demandez à qui s’en occupe.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume &quot;%1&quot;. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Le serveur d’impression ne vous laisse pas relancer « %1 ». Demandez à qui s’en occupe ; la tâche attend entre-temps.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>Le serveur d’impression ne vous laisse pas libérer la tâche. Demandez à qui s’en occupe ; la tâche attend entre-temps.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous laisse pas réimprimer la tâche. Demandez à qui s’en occupe.</translation>
+    </message>
+</context>
+<context>
+    <name>JobInWords</name>
+    <message>
+        <source>not enough paper for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 roll %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sheet: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1 : %2</translation>
+    </message>
+    <message>
+        <source>two-sided: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not collated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text on the back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a banner page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>held on the queue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more settings changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 borderless</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>JobReadBack</name>
+    <message>
+        <source>The print server does not tell what it holds of job %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server holds job %1 exactly as it was sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 instead of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added to job %1 by the print server or the queue: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed in job %1 by the print server: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>JobStatus</name>
     <message>
-        <source>Job %1 waits for "%2"%3.</source>
+        <source>Job %1 waits for &quot;%2&quot;%3.</source>
         <translation>La tâche %1 attend « %2 »%3.</translation>
     </message>
     <message>
-        <source>Job %1 is printing on "%2"%3.</source>
+        <source>Job %1 is printing on &quot;%2&quot;%3.</source>
         <translation>La tâche %1 s’imprime sur « %2 »%3.</translation>
     </message>
     <message>
-        <source>Job %1 was cancelled on "%2".</source>
+        <source>Job %1 was cancelled on &quot;%2&quot;.</source>
         <translation>La tâche %1 sur « %2 » a été annulée.</translation>
     </message>
     <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <source>Job %1 failed on &quot;%2&quot;%3. Print again; if it fails again, look into the print server&apos;s error log.</source>
         <translation>La tâche %1 a échoué sur « %2 »%3. Réimprimez ; si elle échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
     </message>
     <message>
-        <source>Printed: job %1 on "%2".</source>
+        <source>Printed: job %1 on &quot;%2&quot;.</source>
         <translation>Imprimé : tâche %1 sur « %2 ».</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3.</source>
+        <source>Job %1 waits because &quot;%2&quot; is paused%3.</source>
         <translation>La tâche %1 attend car « %2 » est en pause%3.</translation>
     </message>
     <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <source>Job %1 is held on &quot;%2&quot; because it was asked to wait%3.</source>
         <translation>La tâche %1 est retenue sur « %2 » car on lui a demandé d’attendre%3.</translation>
     </message>
     <message>
-        <source>Job %1 is held on "%2"%3.</source>
+        <source>Job %1 is held on &quot;%2&quot;%3.</source>
         <translation>La tâche %1 est retenue sur « %2 »%3.</translation>
     </message>
     <message>
-        <source>Job %1 stopped on "%2"%3.</source>
+        <source>Job %1 stopped on &quot;%2&quot;%3.</source>
         <translation>La tâche %1 s’est arrêtée sur « %2 »%3.</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <source>Job %1 has left the queue of &quot;%2&quot;. The print server keeps no record of how it ended.</source>
         <translation>La tâche %1 a quitté la file de « %2 ». Le serveur d’impression ne garde pas trace de sa fin.</translation>
     </message>
     <message>
-        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <source>&quot;%2&quot; is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
         <translation>« %2 » n’est plus sur le serveur d’impression, et la tâche %1 non plus. Regardez l’imprimante avant de réimprimer.</translation>
     </message>
     <message>
-        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <source>The print server does not answer. Job %1 was sent to &quot;%2&quot;, and may be printed.</source>
         <translation>Le serveur d’impression ne répond pas. La tâche %1 a été envoyée à « %2 » et sera peut-être imprimée.</translation>
     </message>
     <message>
-        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <source>See to the printer and resume it with &quot;cupsenable %2&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
         <translation>Vérifiez l’imprimante et relancez-la avec « cupsenable %2 », ou annulez la tâche avec « cancel %2-%1 ».</translation>
     </message>
     <message>
-        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <source>Release it with &quot;lp -i %1 -H resume&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Libérez-la avec « lp -i %1 -H resume » ou annulez-la avec « cancel %2-%1 ».</translation>
     </message>
     <message>
-        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Réimprimez-la avec « lp -i %1 -H restart » ou annulez-la avec « cancel %2-%1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of &quot;%2&quot; without its pages: cancel it there before you print again.</source>
+        <translation> La tâche %1 est peut-être encore dans la file de « %2 » sans ses pages : annulez-la avant de réimprimer.</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>Le serveur d’impression n’a pas donné de numéro à la tâche. Consultez son journal d’erreurs.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
+        <translation>L&apos;imprimante « %1 » a été interrogée, mais n&apos;a pas communiqué ses papiers. Consultez le journal d&apos;erreurs du serveur d&apos;impression.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not report its papers: it has no Halvern driver.</source>
+        <translation>L&apos;imprimante « %1 » ne communique pas ses papiers : elle n&apos;a pas de pilote Halvern.</translation>
+    </message>
+    <message>
+        <source>Asking &quot;%1&quot; ...</source>
+        <translation>Interrogation de « %1 »...</translation>
+    </message>
+    <message>
+        <source>Waiting for &quot;%1&quot;%2 ...</source>
+        <translation>Attente de « %1 »%2...</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is busy with another job. Ask again when that has ended.</source>
+        <translation>L&apos;imprimante « %1 » traite une autre tâche. Interrogez-la à nouveau quand celle-ci sera terminée.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>L&apos;imprimante « %1 » ne fonctionne pas pour le moment%2 et la demande a été retirée. Relancez l&apos;imprimante (cupsenable) et recommencez.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not answer%2. See to the printer and ask again.</source>
+        <translation>L&apos;imprimante « %1 » n&apos;a pas pu répondre%2. Vérifiez l&apos;imprimante et recommencez.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>L&apos;imprimante « %1 » n&apos;accepte pas de tâches et ne peut pas être interrogée. Faites-la en accepter (cupsaccept) et recommencez.</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to &quot;%1&quot;. Look into its error log.</source>
+        <translation>Le serveur d&apos;impression a refusé la demande à « %1 ». Consultez son journal d&apos;erreurs.</translation>
+    </message>
+    <message>
+        <source>The list of papers that &quot;%1&quot; reported cannot be read (%2).</source>
+        <translation>La liste de papiers communiquée par « %1 » est illisible (%2).</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>Aucun papier n&apos;est chargé.</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>L&apos;imprimante n&apos;a pas encore dit ce qui est chargé.</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>Interrogez-la avec --refresh.</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; could not be processed%2 and was taken back. See to the printer, look into the print server&apos;s error log, and ask again.</source>
+        <translation>La demande à « %1 » n&apos;a pas pu être traitée%2 et a été retirée. Vérifiez l&apos;imprimante, consultez le journal d&apos;erreurs du serveur d&apos;impression et recommencez.</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>La demande à « %1 » a été retenue%2 et annulée. Vérifiez l&apos;imprimante et recommencez.</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; was cancelled. Ask again.</source>
+        <translation>La demande à « %1 » a été annulée. Recommencez.</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>Le serveur d&apos;impression ne répond pas ; la tâche %1 est peut-être encore dans la file (cancel %2-%1).</translation>
+    </message>
+    <message>
+        <source>Look into the print server&apos;s error log, and ask again.</source>
+        <translation>Consultez le journal d&apos;erreurs du serveur d&apos;impression et recommencez.</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>%1 (default): %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation type="unfinished">%1 : %2 %3 {1:?}</translation>
+    </message>
+    <message>
+        <source>The print server has no printers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (from your saved options)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (default %2) &quot;%3&quot;: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>La sortie n&apos;a pas pu être écrite : %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>There is no page %1: there is one page only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1: the first page is 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1: the pages are 1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these pages has an odd number. Choose all pages, or others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these pages has an even number. Choose all pages, or others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size &quot;%1&quot; is wider than the roll (%2).</source>
+        <translation>Le format de papier « %1 » est plus large que le rouleau (%2).</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is larger than the paper &quot;%2&quot;.</source>
+        <translation>Le format de papier « %1 » est plus grand que le papier « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>La tâche n’a pas pu être écrite dans un fichier temporaire. Libérez de la place sur le disque et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>For the loaded paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished">Rouleau</translation>
+    </message>
+    <message>
+        <source>ISO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished">%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation type="unfinished">%1 × %2 po</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>à l&apos;instant</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>il y a %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>il y a %1 h</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>il y a %1 jours</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1 : jamais mis à jour</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1 : dernière mise à jour %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rouleau</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Surface</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>Tons</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>« %1 » est endommagé et illisible. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>« %1 » est endommagé : une partie de l’image manque. Copiez-le à nouveau depuis l’appareil photo ou exportez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>« %1 » est trop grande pour être imprimée. Imprimez une copie avec moins de pixels.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF ou PDF.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
+        <translation>« %1 » est protégé par un mot de passe. Imprimez une copie sans mot de passe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed meanwhile. Open it again.</source>
+        <translation>« %1 » a changé entre-temps. Ouvrez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;. Check its name.</source>
+        <translation>Il n’y a pas de fichier « %1 ». Vérifiez son nom.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>« %1 » est un dossier. Nommez les photos qu’il contient, par exemple *.jpg.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
+        <translation>« %1 » ne peut pas être ouvert. Vérifiez que vous avez le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
+        <translation>« %1 » est vide. Copiez-le à nouveau depuis l’appareil photo.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer&apos;s own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>Les pages propres à l’imprimante (%1) n’offrent rien pour celle-ci. Vous pouvez imprimer sans elles.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the pages &quot;%1&quot;, which is no name of a bundle. You can print without them.</source>
+        <translation>La description de l’imprimante demande les pages « %1 », ce qui n’est pas un nom valable. Vous pouvez imprimer sans elles.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own pages (%1) are not installed. You can print without them; install the printer&apos;s software to have them.</source>
+        <translation>Les pages propres à l’imprimante (%1) ne sont pas installées. Vous pouvez imprimer sans elles ; installez le logiciel de l’imprimante pour les avoir.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own pages (%1) cannot be loaded: %2. You can print without them; install the printer&apos;s software again to have them.</source>
+        <translation>Les pages propres à l’imprimante (%1) ne peuvent pas être chargées : %2. Vous pouvez imprimer sans elles ; réinstallez le logiciel de l’imprimante pour les avoir.</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>elles ne nomment aucun module</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>le module est d’un autre type</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>elles appartiennent à autre chose</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 doit être un nombre de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 doit avoir de %2 à %3 caractères.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>Une option sans nom ou sans valeur ne peut pas être définie.</translation>
+    </message>
+    <message>
+        <source>The printer has no page size &quot;%1&quot;. Choose one from the list.</source>
+        <translation>L’imprimante n’a pas de format « %1 ». Choisissez-en un dans la liste.</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size &quot;%1&quot;. Choose one from the list.</source>
+        <translation>L’imprimante n’accepte pas le format « %1 ». Choisissez-en un dans la liste.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go together with &quot;%2&quot;. Change that first.</source>
+        <translation>« %1 » ne va pas avec « %2 ». Changez d’abord cela.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is part of the printer&apos;s equipment, and is set by whoever installed the printer.</source>
+        <translation>« %1 » fait partie de l’équipement de l’imprimante et est réglé par la personne qui l’a installée.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s equipment does not allow &quot;%1&quot;: whoever installed the printer has set &quot;%2&quot;.</source>
+        <translation>L’équipement de l’imprimante ne permet pas « %1 » : la personne qui l’a installée a réglé « %2 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no choice &quot;%2&quot;.</source>
+        <translation>« %1 » n’a pas le choix « %2 ».</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;.</source>
+        <translation>L’imprimante n’a pas d’option « %1 ».</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Format de papier</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not with what the printer has loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not with %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>It holds no presets of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are %1 presets already. Delete one first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is not there any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets in %1 cannot be used. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some presets in %1 cannot be read and are left alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program holds the lock %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It would be too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No presets were read from %1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is none in it that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some presets in %1 cannot be read and were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets could not be written to %1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;.</source>
+        <translation type="unfinished">L’imprimante n’a pas d’option « %1 ».</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation type="unfinished">Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>Not all of &quot;%1&quot; can be had now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>N’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprime</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trouvée sur le réseau</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>Demande votre attention</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une, par exemple avec lpadmin.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot;. It has: %2.</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2.</translation>
+    </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot;. It has: %2, and %3 more (lpstat -e).</source>
+        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2 et %3 de plus (lpstat -e).</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation type="unfinished">Le serveur d&apos;impression n&apos;a pas d&apos;imprimante par défaut. Indiquez-en une avec --printer.</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer &quot;%1&quot; prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’imprime pas de texte au dos des photos. Retirez --backprint ou choisissez une autre imprimante.</translation>
     </message>
 </context>
 <context>
@@ -278,77 +1167,14 @@
     </message>
 </context>
 <context>
-    <name>PluginLoader</name>
+    <name>Stepper</name>
     <message>
-        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
-        <translation>Les pages propres à l’imprimante (%1) n’offrent rien pour celle-ci. Vous pouvez imprimer sans elles.</translation>
+        <source>Increase</source>
+        <translation type="unfinished">Augmenter</translation>
     </message>
     <message>
-        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
-        <translation>La description de l’imprimante demande les pages « %1 », ce qui n’est pas un nom valable. Vous pouvez imprimer sans elles.</translation>
-    </message>
-    <message>
-        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
-        <translation>Les pages propres à l’imprimante (%1) ne sont pas installées. Vous pouvez imprimer sans elles ; installez le logiciel de l’imprimante pour les avoir.</translation>
-    </message>
-    <message>
-        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
-        <translation>Les pages propres à l’imprimante (%1) ne peuvent pas être chargées : %2. Vous pouvez imprimer sans elles ; réinstallez le logiciel de l’imprimante pour les avoir.</translation>
-    </message>
-    <message>
-        <source>they name no module</source>
-        <translation>elles ne nomment aucun module</translation>
-    </message>
-    <message>
-        <source>the module is of another kind</source>
-        <translation>le module est d’un autre type</translation>
-    </message>
-    <message>
-        <source>they belong to something else</source>
-        <translation>elles appartiennent à autre chose</translation>
-    </message>
-</context>
-<context>
-    <name>PpdModel</name>
-    <message>
-        <source>An option without a name or a value cannot be set.</source>
-        <translation>Une option sans nom ou sans valeur ne peut pas être définie.</translation>
-    </message>
-    <message>
-        <source>The printer has no page size "%1". Choose one from the list.</source>
-        <translation>L’imprimante n’a pas de format « %1 ». Choisissez-en un dans la liste.</translation>
-    </message>
-    <message>
-        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
-        <translation>L’imprimante n’accepte pas le format « %1 ». Choisissez-en un dans la liste.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not go together with "%2". Change that first.</source>
-        <translation>« %1 » ne va pas avec « %2 ». Changez d’abord cela.</translation>
-    </message>
-    <message>
-        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
-        <translation>« %1 » fait partie de l’équipement de l’imprimante et est réglé par la personne qui l’a installée.</translation>
-    </message>
-    <message>
-        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
-        <translation>L’équipement de l’imprimante ne permet pas « %1 » : la personne qui l’a installée a réglé « %2 ».</translation>
-    </message>
-    <message>
-        <source>"%1" has no choice "%2".</source>
-        <translation>« %1 » n’a pas le choix « %2 ».</translation>
-    </message>
-    <message>
-        <source>The printer has no option "%1".</source>
-        <translation>L’imprimante n’a pas d’option « %1 ».</translation>
-    </message>
-    <message>
-        <source>Paper size</source>
-        <translation>Format de papier</translation>
+        <source>Decrease</source>
+        <translation type="unfinished">Diminuer</translation>
     </message>
 </context>
 <context>
@@ -366,7 +1192,7 @@
         <translation>Annulé : rien n’a été imprimé.</translation>
     </message>
     <message>
-        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <source>Job %1 stays on the queue; &quot;cancel %2-%1&quot; takes it away.</source>
         <translation>La tâche %1 reste dans la file ; « cancel %2-%1 » l’enlève.</translation>
     </message>
     <message>
@@ -374,8 +1200,93 @@
         <translation>Attention : %1</translation>
     </message>
     <message>
-        <source>With "-o PageSize=%1" it fits.</source>
+        <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>Avec « -o PageSize=%1 », cela convient.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::ChoiceList</name>
+    <message>
+        <source>%1; %2</source>
+        <translation type="unfinished">%1 : %2 {1;?}</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::CustomField</name>
+    <message>
+        <source>Other value...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: other value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::CustomPaperRow</name>
+    <message>
+        <source>Width of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of this paper size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;Long as the Photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;High as the Photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -383,6 +1294,120 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>Un réglage enregistré a été ignoré. %1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::HitList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobPage</name>
+    <message>
+        <source>At once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By day, from 6:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the evening, from 18:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At night, from 18:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the second shift, from 16:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the third shift, from 0:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 waits longest, 100 goes first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print &amp;when:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page &amp;before:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page &amp;after:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print when</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -405,60 +1430,187 @@
     </message>
 </context>
 <context>
-    <name>halvern::OptionsPage</name>
+    <name>halvern::OptionDelegate</name>
     <message>
-        <source>More options follow...</source>
-        <translation>D’autres options suivent...</translation>
+        <source>%1 (the printer&apos;s default)</source>
+        <translation type="unfinished">%1 (valeur de l’imprimante)</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>Réglé par la personne qui a installé l’imprimante.</translation>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (valeur de l’imprimante)</translation>
+        <source>also sets %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>halvern::SummaryPage</name>
+    <name>halvern::OptionFinder</name>
     <message>
-        <source>Fit</source>
-        <translation>Ajuster</translation>
+        <source>Search options and printers (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Fill</source>
-        <translation>Remplir</translation>
+        <source>Search options and printers</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Actual size</source>
-        <translation>Taille réelle</translation>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>Imprimante</translation>
+        <source>Printers</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Paper size</source>
-        <translation>Format du papier</translation>
+        <source>%1 › %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Photo size</source>
-        <translation>Taille de la photo</translation>
+        <source>Searching...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printed area</source>
-        <translation>Surface imprimée</translation>
+        <source>Nothing has this name.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
+        <source>The first %1 that were found</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
+        <source>%1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionTree</name>
+    <message>
+        <source>Installed in the printer (set by whoever installed it)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>More options</source>
+        <source>%1 (the printer&apos;s default)</source>
+        <translation type="unfinished">%1 (valeur de l’imprimante)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put back to the printer&apos;s default: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1 : %2</translation>
+    </message>
+    <message>
+        <source>Changed from the printer&apos;s default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Show changed only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the options of this page back to the printer&apos;s defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished">Options</translation>
+    </message>
+    <message>
+        <source>Nothing changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put Back to the Printer&apos;s Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OutputMenu</name>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print to a &amp;PDF File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy as Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print to a PDF File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PageRangeRow</name>
+    <message>
+        <source>Last page &amp;first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd or even pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1, or for example 1-3, 5-</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>Pages d’options</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>More Options</source>
         <translation>Autres options</translation>
     </message>
     <message>
@@ -466,12 +1618,16 @@
         <translation>Options</translation>
     </message>
     <message>
-        <source>%1 more are on the page of options.</source>
-        <translation>%1 autres se trouvent sur la page des options.</translation>
+        <source>Summary</source>
+        <translation>Résumé</translation>
     </message>
     <message>
-        <source>Off: %1</source>
-        <translation>Désactivé : %1</translation>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -512,32 +1668,232 @@
         <source>Photo si&amp;ze:</source>
         <translation>&amp;Taille de la photo :</translation>
     </message>
+    <message>
+        <source>Search by name or measures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Borderless</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Two-sided:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer does not have this paper size both with and without a margin.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>halvern::PanelDeck</name>
+    <name>halvern::PaperSizeList</name>
     <message>
-        <source>Pages of options</source>
-        <translation>Pages d’options</translation>
+        <source>Custom size...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PdfOutput</name>
+    <message>
+        <source>The file &quot;%1&quot; could not be written: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Page</source>
-        <translation>Page</translation>
+        <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>More Options</source>
-        <translation>Autres options</translation>
+        <source>Cancelled: no file was written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>Options</translation>
+        <source>No file was written. %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
+        <source>1 page was written to &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Preview</source>
-        <translation>Aperçu</translation>
+        <source>%1 pages were written to &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PresetBar</name>
+    <message>
+        <source>From your saved options (lpoptions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made for a printer of the same model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was printed here yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save, rename and more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read from the file, and not applied yet: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as New Preset...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import from File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export &amp;All to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename &quot;%1&quot;...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export &quot;%1&quot; to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; was deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished">Ann&amp;uler la modification</translation>
+    </message>
+    <message>
+        <source>Import Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PresetNameDialog</name>
+    <message>
+        <source>Save Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the number of &amp;copies (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;text on the back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is always there. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset of this name. It will be replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset of this name. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Presets</name>
+    <message>
+        <source>%1 (from %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation type="unfinished">Il y a : %1.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation type="unfinished">Vouliez-vous dire %1 ?</translation>
     </message>
 </context>
 <context>
@@ -579,7 +1935,7 @@
         <translation>1:1, un pixel d’écran par point d’impression (%1 ppp)</translation>
     </message>
     <message>
-        <source>The printer's adjustments, approximated on the screen</source>
+        <source>The printer&apos;s adjustments, approximated on the screen</source>
         <translation>Réglages de l’imprimante, approchés à l’écran</translation>
     </message>
     <message>
@@ -630,15 +1986,11 @@
         <translation>Recherche d’imprimantes…</translation>
     </message>
     <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>Le serveur d'impression n'a pas d'imprimante par défaut. Indiquez-en une avec --printer.</translation>
-    </message>
-    <message>
-        <source>The print server has no printers. Add one in the system's settings.</source>
+        <source>The print server has no printers. Add one in the system&apos;s settings.</source>
         <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une dans les réglages du système.</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". Choose another one.</source>
+        <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Choisissez-en une autre.</translation>
     </message>
     <message>
@@ -682,11 +2034,11 @@
         <translation>Préparation des pages…</translation>
     </message>
     <message>
-        <source>Job %1 was sent to "%2".</source>
+        <source>Job %1 was sent to &quot;%2&quot;.</source>
         <translation>La tâche %1 a été envoyée à « %2 ».</translation>
     </message>
     <message>
-        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer&apos;s own pages.</source>
         <translation>Choisissez une imprimante et un format de papier, regardez l’aperçu et cliquez sur Imprimer. La liste à gauche des options contient les pages propres à l’imprimante.</translation>
     </message>
     <message>
@@ -721,6 +2073,38 @@
         <source>The printer cannot do what was chosen, so this stays: %1</source>
         <translation>L’imprimante ne peut pas faire ce qui a été choisi ; il en reste donc à : %1</translation>
     </message>
+    <message>
+        <source>Search by name, place or model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation type="unfinished">Imprimante</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 option was put back to the printer&apos;s default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 options were put back to the printer&apos;s defaults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -749,113 +2133,30 @@
         <translation>Le serveur d’impression ne répond pas. La tâche %1 sera annulée dès qu’il répondra, si cette fenêtre est encore ouverte.</translation>
     </message>
     <message>
-        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>La tâche %1 a été envoyée à « %2 », mais le serveur d’impression ne répond plus depuis %3 secondes : on ne sait pas si elle a été imprimée. Regardez l’imprimante avant de réimprimer.</translation>
     </message>
 </context>
 <context>
-    <name>ListPapers</name>
+    <name>halvern::PrinterChoice</name>
     <message>
-        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
-        <translation>L'imprimante « %1 » a été interrogée, mais n'a pas communiqué ses papiers. Consultez le journal d'erreurs du serveur d'impression.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
-        <translation>L'imprimante « %1 » ne communique pas ses papiers : elle n'a pas de pilote Halvern.</translation>
-    </message>
-    <message>
-        <source>Asking "%1" ...</source>
-        <translation>Interrogation de « %1 »...</translation>
-    </message>
-    <message>
-        <source>Waiting for "%1"%2 ...</source>
-        <translation>Attente de « %1 »%2...</translation>
-    </message>
-    <message>
-        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
-        <translation>L'imprimante « %1 » traite une autre tâche. Interrogez-la à nouveau quand celle-ci sera terminée.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
-        <translation>L'imprimante « %1 » ne fonctionne pas pour le moment%2 et la demande a été retirée. Relancez l'imprimante (cupsenable) et recommencez.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
-        <translation>L'imprimante « %1 » n'a pas pu répondre%2. Vérifiez l'imprimante et recommencez.</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
-        <translation>L'imprimante « %1 » n'accepte pas de tâches et ne peut pas être interrogée. Faites-la en accepter (cupsaccept) et recommencez.</translation>
-    </message>
-    <message>
-        <source>The print server refused the question to "%1". Look into its error log.</source>
-        <translation>Le serveur d'impression a refusé la demande à « %1 ». Consultez son journal d'erreurs.</translation>
-    </message>
-    <message>
-        <source>The list of papers that "%1" reported cannot be read (%2).</source>
-        <translation>La liste de papiers communiquée par « %1 » est illisible (%2).</translation>
-    </message>
-    <message>
-        <source>No papers are loaded.</source>
-        <translation>Aucun papier n'est chargé.</translation>
-    </message>
-    <message>
-        <source>The printer has not said yet what is loaded.</source>
-        <translation>L'imprimante n'a pas encore dit ce qui est chargé.</translation>
-    </message>
-    <message>
-        <source>Ask it with --refresh.</source>
-        <translation>Interrogez-la avec --refresh.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
-        <translation>La demande à « %1 » n'a pas pu être traitée%2 et a été retirée. Vérifiez l'imprimante, consultez le journal d'erreurs du serveur d'impression et recommencez.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
-        <translation>La demande à « %1 » a été retenue%2 et annulée. Vérifiez l'imprimante et recommencez.</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled. Ask again.</source>
-        <translation>La demande à « %1 » a été annulée. Recommencez.</translation>
-    </message>
-    <message>
-        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
-        <translation>Le serveur d'impression ne répond pas ; la tâche %1 est peut-être encore dans la file (cancel %2-%1).</translation>
-    </message>
-    <message>
-        <source>Look into the print server's error log, and ask again.</source>
-        <translation>Consultez le journal d'erreurs du serveur d'impression et recommencez.</translation>
+        <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
     </message>
 </context>
 <context>
-    <name>JobActions</name>
+    <name>halvern::PrinterRows</name>
     <message>
-        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
-        <translation>Le serveur d’impression ne vous laisse pas annuler cette tâche. Demandez à qui s’en occupe.</translation>
+        <source>Used last</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
-        <translation>Le serveur d’impression ne vous laisse pas relancer « %1 ». Demandez à qui s’en occupe ; la tâche attend entre-temps.</translation>
+        <source>Found on the network</source>
+        <translation type="unfinished">Trouvée sur le réseau</translation>
     </message>
     <message>
-        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
-        <translation>Le serveur d’impression ne vous laisse pas libérer la tâche. Demandez à qui s’en occupe ; la tâche attend entre-temps.</translation>
-    </message>
-    <message>
-        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
-        <translation>Le serveur d’impression ne vous laisse pas réimprimer la tâche. Demandez à qui s’en occupe.</translation>
-    </message>
-</context>
-<context>
-    <name>JobSubmitter</name>
-    <message>
-        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
-        <translation> La tâche %1 est peut-être encore dans la file de « %2 » sans ses pages : annulez-la avant de réimprimer.</translation>
-    </message>
-    <message>
-        <source>The print server gave the job no number. Look into its error log.</source>
-        <translation>Le serveur d’impression n’a pas donné de numéro à la tâche. Consultez son journal d’erreurs.</translation>
+        <source>Printers</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -876,313 +2177,95 @@
         <source>Print Job Again</source>
         <translation>Réimprimer la tâche</translation>
     </message>
-</context>
-<context>
-    <name>GivenOptions</name>
     <message>
-        <source>The printer has no paper "%1".</source>
-        <translation>L’imprimante n’a pas de papier « %1 ».</translation>
-    </message>
-    <message>
-        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
-        <translation>L’imprimante ne connaît pas « sides=%1 ». Retirez-le, ou utilisez l’option de l’imprimante pour l’impression recto verso.</translation>
-    </message>
-    <message>
-        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
-        <translation>« %1 » n’est pas un mode de mise à l’échelle. Écrivez print-scaling=fit, fill ou none.</translation>
-    </message>
-    <message>
-        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
-        <translation>« %1=%2 » n’est pas possible : la page est composée avant l’envoi, une photo sur chacune. Retirez-le.</translation>
-    </message>
-    <message>
-        <source>The number of copies is no option of the printer. Give it with --copies.</source>
-        <translation>Le nombre de copies n’est pas une option de l’imprimante. Donnez-le avec --copies.</translation>
-    </message>
-    <message>
-        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
-        <translation>« %1 » se choisit ici avec les options de l’imprimante. « lpoptions -p QUEUE -l » les affiche.</translation>
-    </message>
-    <message>
-        <source>Did you mean %1?</source>
-        <translation>Vouliez-vous dire %1 ?</translation>
-    </message>
-    <message>
-        <source>It has: %1 and %2 more.</source>
-        <translation>Il y a : %1 et %2 de plus.</translation>
-    </message>
-    <message>
-        <source>It has: %1.</source>
-        <translation>Il y a : %1.</translation>
+        <source>✓ as shown</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>halvern::Stepper</name>
+    <name>halvern::SearchPopup</name>
     <message>
-        <source>Increase</source>
-        <translation>Augmenter</translation>
-    </message>
-    <message>
-        <source>Decrease</source>
-        <translation>Diminuer</translation>
+        <source>Nothing here is called &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>PageFit</name>
+    <name>halvern::SummaryPage</name>
     <message>
-        <source>The paper size "%1" is wider than the roll (%2).</source>
-        <translation>Le format de papier « %1 » est plus large que le rouleau (%2).</translation>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
     </message>
     <message>
-        <source>The paper size "%1" is larger than the paper "%2".</source>
-        <translation>Le format de papier « %1 » est plus grand que le papier « %2 ».</translation>
-    </message>
-</context>
-<context>
-    <name>StartingOptions</name>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’imprime pas de texte au dos des photos. Retirez --backprint ou choisissez une autre imprimante.</translation>
-    </message>
-</context>
-<context>
-    <name>halvern::PrinterChoice</name>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterList</name>
-    <message>
-        <source>Ready</source>
-        <translation>Prête</translation>
+        <source>Fill</source>
+        <translation>Remplir</translation>
     </message>
     <message>
-        <source>Does not accept jobs</source>
-        <translation>N’accepte pas de tâches</translation>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
     </message>
     <message>
-        <source>Paused</source>
-        <translation>En pause</translation>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>Imprime</translation>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
     </message>
     <message>
-        <source>Found on the network</source>
-        <translation>Trouvée sur le réseau</translation>
+        <source>Photo size</source>
+        <translation>Taille de la photo</translation>
     </message>
     <message>
-        <source>Needs attention</source>
-        <translation>Demande votre attention</translation>
+        <source>Printed area</source>
+        <translation>Surface imprimée</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>Le serveur d’impression n’a aucune imprimante. Ajoutez-en une, par exemple avec lpadmin.</translation>
+        <source>Pages</source>
+        <translation>Pages</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2.</translation>
+        <source>Copies</source>
+        <translation>Copies</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Il a : %2 et %3 de plus (lpstat -e).</translation>
-    </message>
-</context>
-<context>
-    <name>QueuePpd</name>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
+        <source>More options</source>
+        <translation>Autres options</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
-    </message>
-</context>
-<context>
-    <name>PpdLookup</name>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 doit être un nombre de %2 à %3.</translation>
+        <source>Options</source>
+        <translation>Options</translation>
     </message>
     <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 doit avoir de %2 à %3 caractères.</translation>
-    </message>
-</context>
-<context>
-    <name>CupsSentences</name>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>Le serveur d’impression a interrompu la conversation. Réessayez ; si cela échoue encore, consultez le journal d’erreurs du serveur d’impression.</translation>
+        <source>Off: %1</source>
+        <translation>Désactivé : %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>Le serveur d’impression ne répond pas. Attendez un moment et réessayez, ou redémarrez-le.</translation>
+        <source>All other settings</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>La réponse du serveur d’impression ne se termine pas. Redémarrez le serveur d’impression et réessayez.</translation>
+        <source>The options as they are sent</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>L’imprimante n’est plus sur le serveur d’impression. Choisissez-en une autre.</translation>
+        <source>Cop&amp;y</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>L’imprimante n’accepte pas de tâches pour le moment. Choisissez-en une autre ou autorisez-la (cupsaccept).</translation>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 sur %2</translation>
     </message>
     <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>Le serveur d’impression ne vous y autorise pas. Adressez-vous à la personne qui le gère.</translation>
+        <source>Job title</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server reports: %1</source>
-        <translation>Le serveur d’impression signale : %1</translation>
+        <source>printer&apos;s default: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>Le serveur d’impression %1 est injoignable. Démarrez-le, par exemple avec « systemctl start cups », et réessayez.</translation>
-    </message>
-</context>
-<context>
-    <name>PageRenderer</name>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>La tâche n’a pas pu être écrite dans un fichier temporaire. Libérez de la place sur le disque et réessayez.</translation>
-    </message>
-</context>
-<context>
-    <name>PhotoProblem</name>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>« %1 » est endommagé et illisible. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>« %1 » est endommagé : une partie de l’image manque. Copiez-le à nouveau depuis l’appareil photo ou exportez-le à nouveau.</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>« %1 » est trop grande pour être imprimée. Imprimez une copie avec moins de pixels.</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF ou PDF.</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>« %1 » est protégé par un mot de passe. Imprimez une copie sans mot de passe.</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>« %1 » a changé entre-temps. Ouvrez-le à nouveau.</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>Il n’y a pas de fichier « %1 ». Vérifiez son nom.</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>« %1 » est un dossier. Nommez les photos qu’il contient, par exemple *.jpg.</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>« %1 » ne peut pas être ouvert. Vérifiez que vous avez le droit de le lire.</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>« %1 » est vide. Copiez-le à nouveau depuis l’appareil photo.</translation>
-    </message>
-</context>
-<context>
-    <name>IppOptions</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>La valeur de %1 est trop longue : %2 octets, %3 au plus. Raccourcissez-la.</translation>
-    </message>
-</context>
-<context>
-    <name>BackLines</name>
-    <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>La ligne %1 du dos ne peut pas contenir %2, qui a été omis. Elle accepte les caractères d’un clavier anglais sauf « ~ », ainsi que « © ».</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
-    </message>
-</context>
-<context>
-    <name>PaperTable</name>
-    <message>
-        <source>just now</source>
-        <translation>à l'instant</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>il y a %1 min</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>il y a %1 h</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>il y a %1 jours</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1 : jamais mis à jour</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1 : dernière mise à jour %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>Rouleau</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>Feuille</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>Surface</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Résolution</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>Tons</translation>
-    </message>
-</context>
-<context>
-    <name>Application</name>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>L’écran est inutilisable : %1. Imprimez avec --no-dialog ou définissez DISPLAY sur un écran qui fonctionne.</translation>
-    </message>
-    <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>Aucun écran pour afficher le dialogue. Imprimez avec --no-dialog ou définissez DISPLAY.</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>Impression</translation>
-    </message>
-</context>
-<context>
-    <name>Main</name>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>La sortie n'a pas pu être écrite : %1.</translation>
+        <source>%1 more are in the list of all other settings.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -2,26 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>DamageQuestion</name>
+    <name>Application</name>
     <message>
-        <source>Print damaged photos?</source>
-        <translation>破損した写真を印刷しますか?</translation>
+        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
+        <translation>画面を使用できません: %1。--no-dialog で印刷するか、DISPLAY に使える画面を設定してください。</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>ほか %1 件。</translation>
+        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
+        <translation>ダイアログを表示する画面がありません。--no-dialog で印刷するか、DISPLAY を設定してください。</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>欠けている部分は灰色または乱れて印刷されます。</translation>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
+</context>
+<context>
+    <name>BackLines</name>
+    <message>
+        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
+        <translation>裏面の %1 行目には %2 を入れられないため、省きました。使えるのは、「~」を除く英語キーボードの文字と「©」です。</translation>
     </message>
     <message>
-        <source>&amp;Leave Them Out</source>
-        <translation>除外する(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Print All the Same</source>
-        <translation>そのまま印刷(&amp;P)</translation>
+        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
+        <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
     </message>
 </context>
 <context>
@@ -51,15 +54,15 @@
         <translation>送信されるオプションを 1 行に 1 つ KEY=VALUE で出力し、何も送信しません。</translation>
     </message>
     <message>
-        <source>See "halvern-print --help".</source>
+        <source>See &quot;halvern-print --help&quot;.</source>
         <translation>「halvern-print --help」をご覧ください。</translation>
     </message>
     <message>
-        <source>"%1" is no option: write KEY=VALUE, for example PageSize=A4.</source>
+        <source>&quot;%1&quot; is no option: write KEY=VALUE, for example PageSize=A4.</source>
         <translation>「%1」はオプションではありません。PageSize=A4 のように KEY=VALUE で指定してください。</translation>
     </message>
     <message>
-        <source>"%1" is no number of copies: write a number from 1 to %2.</source>
+        <source>&quot;%1&quot; is no number of copies: write a number from 1 to %2.</source>
         <translation>「%1」は部数ではありません。1 から %2 までの数を指定してください。</translation>
     </message>
     <message>
@@ -67,11 +70,11 @@
         <translation>印刷する写真を 1 枚以上指定してください (JPEG、PNG、TIFF、PDF)。</translation>
     </message>
     <message>
-        <source>The queue's name is empty. "lpstat -e" lists the queues.</source>
+        <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>キューの名前が空です。「lpstat -e」でキューの一覧が見られます。</translation>
     </message>
     <message>
-        <source>Prints photos, with a preview and the printer's own pages of options.</source>
+        <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>プレビューとプリンター固有の設定ページを使って写真を印刷します。</translation>
     </message>
     <message>
@@ -99,16 +102,84 @@
         <translation>--refresh は --list-papers と一緒に使います。</translation>
     </message>
     <message>
-        <source>--list-papers prints no files: leave out the files and the options for printing.</source>
-        <translation>--list-papers はファイルを印刷しません。ファイルと印刷用のオプションを省いてください。</translation>
-    </message>
-    <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
         <translation>--no-dialog と共に: ジョブの送信後に応答しなくなったプリントサーバーを待つ秒数。省略時は 60 秒。</translation>
     </message>
     <message>
-        <source>"%1" is no time to wait: write a number of seconds from 1 to %2.</source>
+        <source>&quot;%1&quot; is no time to wait: write a number of seconds from 1 to %2.</source>
         <translation>「%1」は待ち時間ではありません。1 から %2 までの秒数を指定してください。</translation>
+    </message>
+    <message>
+        <source>Print these pages only, for example 1-3,7,12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print the last page first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Call the job this; without it, it is called like the first file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the print server&apos;s queues, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the names of the printer&apos;s presets, a line each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of the file to write is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--output writes a file, and does not go with --dry-run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 prints no files: leave out the files and the options for printing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Exit status:
@@ -117,77 +188,895 @@
   2  Wrong usage.
   3  The job is on the queue, and had not ended yet.
   4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.</source>
-        <translation>終了ステータス:
-  0  印刷した、または求められたものを出力した。
-  1  失敗。理由は標準エラーに出力。
-  2  使い方の誤り。
-  3  ジョブはキューにあり、まだ終わっていない。
-  4  キャンセル: 何も印刷していない。
-  5  ジョブは送信したが、プリントサーバーが応答せず、結果は不明。</translation>
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CupsSentences</name>
+    <message>
+        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server&apos;s error log.</source>
+        <translation>プリントサーバーとの通信が途中で切れました。もう一度お試しください。再び失敗する場合は、プリントサーバーのエラーログをご確認ください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
+        <translation>プリントサーバーが応答しません。少し待ってからもう一度試すか、再起動してください。</translation>
+    </message>
+    <message>
+        <source>The print server&apos;s answer does not end. Restart the print server, and try again.</source>
+        <translation>プリントサーバーの応答が終わりません。プリントサーバーを再起動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The printer is not on the print server any more. Choose another one.</source>
+        <translation>そのプリンターはもうプリントサーバーにありません。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
+        <translation>プリンターは今ジョブを受け付けていません。別のプリンターを選ぶか、受け付けを許可してください (cupsaccept)。</translation>
+    </message>
+    <message>
+        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
+        <translation>プリントサーバーで許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>プリントサーバーからの報告: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
+        <translation>プリントサーバー %1 に接続できません。「systemctl start cups」などで起動して、もう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>CustomPaper</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished">%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation type="unfinished">%1 × %2 インチ</translation>
+    </message>
+</context>
+<context>
+    <name>DamageQuestion</name>
+    <message>
+        <source>Print damaged photos?</source>
+        <translation>破損した写真を印刷しますか?</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared.</source>
+        <translation>欠けている部分は灰色または乱れて印刷されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>除外する(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Print All the Same</source>
+        <translation>そのまま印刷(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>GivenOptions</name>
+    <message>
+        <source>The printer has no paper &quot;%1&quot;.</source>
+        <translation>プリンターに「%1」という用紙はありません。</translation>
+    </message>
+    <message>
+        <source>The printer has no &quot;sides=%1&quot;. Leave it out, or use the printer&apos;s own option for two-sided printing.</source>
+        <translation>プリンターに「sides=%1」はありません。省くか、プリンター自身の両面印刷オプションを使ってください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no way to scale. Write print-scaling=fit, fill or none.</source>
+        <translation>「%1」という拡大縮小の方法はありません。print-scaling=fit、fill、none のいずれかを書いてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1=%2&quot; is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
+        <translation>「%1=%2」は使えません。ページは送信前に 1 枚ずつ配置されます。省いてください。</translation>
+    </message>
+    <message>
+        <source>The number of copies is no option of the printer. Give it with --copies.</source>
+        <translation>部数はプリンターのオプションではありません。--copies で指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is set by the printer&apos;s own options here. &quot;lpoptions -p QUEUE -l&quot; lists them.</source>
+        <translation>「%1」はプリンター自身のオプションで指定します。「lpoptions -p QUEUE -l」で一覧できます。</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>%1 のことですか？</translation>
+    </message>
+    <message>
+        <source>It has: %1 and %2 more.</source>
+        <translation>次のものがあります: %1、ほか %2 件。</translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation>次のものがあります: %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IppOptions</name>
+    <message>
+        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
+        <translation>%1 の値が長すぎて送れません: %2 バイトあり、上限は %3 です。短くしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>JobActions</name>
+    <message>
+        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
+        <translation>プリントサーバーはこのジョブのキャンセルを許可していません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you resume &quot;%1&quot;. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>プリントサーバーは「%1」の再開を許可していません。管理者にお尋ねください。その間ジョブは待っています。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
+        <translation>プリントサーバーはジョブの再開を許可していません。管理者にお尋ねください。その間ジョブは待っています。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
+        <translation>プリントサーバーはジョブの再印刷を許可していません。管理者にお尋ねください。</translation>
+    </message>
+</context>
+<context>
+    <name>JobInWords</name>
+    <message>
+        <source>not enough paper for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 roll %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sheet: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>two-sided: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not collated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text on the back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with a banner page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>held on the queue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more settings changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 borderless</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>JobReadBack</name>
+    <message>
+        <source>The print server does not tell what it holds of job %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server holds job %1 exactly as it was sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 instead of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added to job %1 by the print server or the queue: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed in job %1 by the print server: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>JobStatus</name>
     <message>
-        <source>Job %1 waits for "%2"%3.</source>
+        <source>Job %1 waits for &quot;%2&quot;%3.</source>
         <translation>ジョブ %1 は「%2」を待っています%3。</translation>
     </message>
     <message>
-        <source>Job %1 is printing on "%2"%3.</source>
+        <source>Job %1 is printing on &quot;%2&quot;%3.</source>
         <translation>ジョブ %1 を「%2」で印刷しています%3。</translation>
     </message>
     <message>
-        <source>Job %1 was cancelled on "%2".</source>
+        <source>Job %1 was cancelled on &quot;%2&quot;.</source>
         <translation>「%2」のジョブ %1 はキャンセルされました。</translation>
     </message>
     <message>
-        <source>Job %1 failed on "%2"%3. Print again; if it fails again, look into the print server's error log.</source>
+        <source>Job %1 failed on &quot;%2&quot;%3. Print again; if it fails again, look into the print server&apos;s error log.</source>
         <translation>ジョブ %1 は「%2」で失敗しました%3。もう一度印刷してください。再び失敗する場合は、プリントサーバーのエラーログをご覧ください。</translation>
     </message>
     <message>
-        <source>Printed: job %1 on "%2".</source>
+        <source>Printed: job %1 on &quot;%2&quot;.</source>
         <translation>印刷しました: 「%2」のジョブ %1。</translation>
     </message>
     <message>
-        <source>Job %1 waits because "%2" is paused%3.</source>
+        <source>Job %1 waits because &quot;%2&quot; is paused%3.</source>
         <translation>「%2」が一時停止中のため、ジョブ %1 は待っています%3。</translation>
     </message>
     <message>
-        <source>Job %1 is held on "%2" because it was asked to wait%3.</source>
+        <source>Job %1 is held on &quot;%2&quot; because it was asked to wait%3.</source>
         <translation>ジョブ %1 は待機の指定により「%2」で保留されています%3。</translation>
     </message>
     <message>
-        <source>Job %1 is held on "%2"%3.</source>
+        <source>Job %1 is held on &quot;%2&quot;%3.</source>
         <translation>ジョブ %1 は「%2」で保留されています%3。</translation>
     </message>
     <message>
-        <source>Job %1 stopped on "%2"%3.</source>
+        <source>Job %1 stopped on &quot;%2&quot;%3.</source>
         <translation>ジョブ %1 は「%2」で停止しました%3。</translation>
     </message>
     <message>
-        <source>Job %1 has left the queue of "%2". The print server keeps no record of how it ended.</source>
+        <source>Job %1 has left the queue of &quot;%2&quot;. The print server keeps no record of how it ended.</source>
         <translation>ジョブ %1 は「%2」のキューを出ました。プリントサーバーは終了の記録を残していません。</translation>
     </message>
     <message>
-        <source>"%2" is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
+        <source>&quot;%2&quot; is not on the print server any more, and job %1 with it. Look at the printer before you print again.</source>
         <translation>「%2」はプリントサーバーになくなり、ジョブ %1 も失われました。もう一度印刷する前にプリンターをご確認ください。</translation>
     </message>
     <message>
-        <source>The print server does not answer. Job %1 was sent to "%2", and may be printed.</source>
+        <source>The print server does not answer. Job %1 was sent to &quot;%2&quot;, and may be printed.</source>
         <translation>プリントサーバーが応答しません。ジョブ %1 は「%2」に送信済みで、印刷される可能性があります。</translation>
     </message>
     <message>
-        <source>See to the printer and resume it with "cupsenable %2", or cancel the job with "cancel %2-%1".</source>
+        <source>See to the printer and resume it with &quot;cupsenable %2&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
         <translation>プリンターを確認して「cupsenable %2」で再開するか、「cancel %2-%1」でジョブをキャンセルしてください。</translation>
     </message>
     <message>
-        <source>Release it with "lp -i %1 -H resume", or cancel it with "cancel %2-%1".</source>
+        <source>Release it with &quot;lp -i %1 -H resume&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>「lp -i %1 -H resume」で再開するか、「cancel %2-%1」でキャンセルしてください。</translation>
     </message>
     <message>
-        <source>Print it again with "lp -i %1 -H restart", or cancel it with "cancel %2-%1".</source>
+        <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>「lp -i %1 -H restart」でもう一度印刷するか、「cancel %2-%1」でキャンセルしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmitter</name>
+    <message>
+        <source> Job %1 may still be on the queue of &quot;%2&quot; without its pages: cancel it there before you print again.</source>
+        <translation> ジョブ %1 がページのないまま「%2」のキューに残っている可能性があります。もう一度印刷する前にキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>The print server gave the job no number. Look into its error log.</source>
+        <translation>プリントサーバーがジョブに番号を付けませんでした。エラーログをご覧ください。</translation>
+    </message>
+</context>
+<context>
+    <name>ListPapers</name>
+    <message>
+        <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
+        <translation>プリンター「%1」に問い合わせましたが、用紙の情報が届きませんでした。プリントサーバーのエラーログを確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not report its papers: it has no Halvern driver.</source>
+        <translation>プリンター「%1」は用紙の情報を知らせません。Halvern のドライバーではありません。</translation>
+    </message>
+    <message>
+        <source>Asking &quot;%1&quot; ...</source>
+        <translation>「%1」に問い合わせています...</translation>
+    </message>
+    <message>
+        <source>Waiting for &quot;%1&quot;%2 ...</source>
+        <translation>「%1」を待っています%2...</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is busy with another job. Ask again when that has ended.</source>
+        <translation>プリンター「%1」は別のジョブを処理しています。終わってからもう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
+        <translation>プリンター「%1」は現在動作していないため%2、問い合わせを取り消しました。プリンターを再開して (cupsenable) もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not answer%2. See to the printer and ask again.</source>
+        <translation>プリンター「%1」は応答できませんでした%2。プリンターを確認して、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
+        <translation>プリンター「%1」はジョブを受け付けていないため、問い合わせできません。受け付けるようにして (cupsaccept) もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server refused the question to &quot;%1&quot;. Look into its error log.</source>
+        <translation>プリントサーバーが「%1」への問い合わせを拒否しました。エラーログを確認してください。</translation>
+    </message>
+    <message>
+        <source>The list of papers that &quot;%1&quot; reported cannot be read (%2).</source>
+        <translation>「%1」から届いた用紙の一覧を読み取れません (%2)。</translation>
+    </message>
+    <message>
+        <source>No papers are loaded.</source>
+        <translation>用紙はセットされていません。</translation>
+    </message>
+    <message>
+        <source>The printer has not said yet what is loaded.</source>
+        <translation>セットされている用紙の情報がまだ届いていません。</translation>
+    </message>
+    <message>
+        <source>Ask it with --refresh.</source>
+        <translation>--refresh で問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; could not be processed%2 and was taken back. See to the printer, look into the print server&apos;s error log, and ask again.</source>
+        <translation>「%1」への問い合わせは処理できなかったため%2、取り消しました。プリンターとプリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; was held%2 and has been cancelled. See to the printer and ask again.</source>
+        <translation>「%1」への問い合わせは保留されたため%2、取り消しました。プリンターを確認して、もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The question to &quot;%1&quot; was cancelled. Ask again.</source>
+        <translation>「%1」への問い合わせはキャンセルされました。もう一度問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
+        <translation>プリントサーバーが応答しません。ジョブ %1 がキューに残っている可能性があります (cancel %2-%1)。</translation>
+    </message>
+    <message>
+        <source>Look into the print server&apos;s error log, and ask again.</source>
+        <translation>プリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>%1 (default): %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 %3</source>
+        <translation type="unfinished">%1: %2 %3 {1:?}</translation>
+    </message>
+    <message>
+        <source>The print server has no printers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (from your saved options)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (default %2) &quot;%3&quot;: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>出力を書き込めませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PageChoice</name>
+    <message>
+        <source>There is no page %1: there is one page only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1: the first page is 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1: the pages are 1 to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these pages has an odd number. Choose all pages, or others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of these pages has an even number. Choose all pages, or others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PageFit</name>
+    <message>
+        <source>The paper size &quot;%1&quot; is wider than the roll (%2).</source>
+        <translation>用紙サイズ「%1」はロール紙 (%2) の幅を超えています。</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is larger than the paper &quot;%2&quot;.</source>
+        <translation>用紙サイズ「%1」は用紙「%2」より大きくなっています。</translation>
+    </message>
+</context>
+<context>
+    <name>PageRenderer</name>
+    <message>
+        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
+        <translation>印刷ジョブを一時ファイルに書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>PaperSizes</name>
+    <message>
+        <source>For the loaded paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photo sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation type="unfinished">ロール</translation>
+    </message>
+    <message>
+        <source>ISO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other sizes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished">%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation type="unfinished">%1 × %2 インチ</translation>
+    </message>
+</context>
+<context>
+    <name>PaperTable</name>
+    <message>
+        <source>just now</source>
+        <translation>たった今</translation>
+    </message>
+    <message>
+        <source>%1 min ago</source>
+        <translation>%1 分前</translation>
+    </message>
+    <message>
+        <source>%1 h ago</source>
+        <translation>%1 時間前</translation>
+    </message>
+    <message>
+        <source>%1 days ago</source>
+        <translation>%1 日前</translation>
+    </message>
+    <message>
+        <source>%1: last updated never</source>
+        <translation>%1: 最終更新 なし</translation>
+    </message>
+    <message>
+        <source>%1: last updated %2 (%3)</source>
+        <translation>%1: 最終更新 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>カット紙</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>面質</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Tones</source>
+        <translation>トーン</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoProblem</name>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be read. Export it from your photo program again.</source>
+        <translation>「%1」は壊れていて読めません。写真ソフトからもう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
+        <translation>「%1」は破損しています: 画像の一部が欠けています。カメラからもう一度コピーするか、もう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to print. Make a copy with fewer pixels and print that.</source>
+        <translation>「%1」は大きすぎて印刷できません。画素数を減らしたコピーを印刷してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
+        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、PDF のファイルをお使いください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
+        <translation>「%1」はパスワードで保護されています。パスワードなしのコピーを印刷してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed meanwhile. Open it again.</source>
+        <translation>「%1」は途中で変わりました。もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;. Check its name.</source>
+        <translation>「%1」というファイルはありません。名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
+        <translation>「%1」はフォルダーです。*.jpg のように中の写真を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
+        <translation>「%1」を開けません。読み取りの権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
+        <translation>「%1」は空です。カメラからもう一度コピーしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>The printer&apos;s own pages (%1) offer nothing for this printer. You can print without them.</source>
+        <translation>プリンター固有のページ (%1) には、このプリンター用の設定がありません。なしでも印刷できます。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description asks for the pages &quot;%1&quot;, which is no name of a bundle. You can print without them.</source>
+        <translation>プリンターの記述が求めるページ「%1」は正しい名前ではありません。なしでも印刷できます。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own pages (%1) are not installed. You can print without them; install the printer&apos;s software to have them.</source>
+        <translation>プリンター固有のページ (%1) がインストールされていません。なしでも印刷できます。使うにはプリンターのソフトウェアをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own pages (%1) cannot be loaded: %2. You can print without them; install the printer&apos;s software again to have them.</source>
+        <translation>プリンター固有のページ (%1) を読み込めません: %2。なしでも印刷できます。使うにはプリンターのソフトウェアを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>they name no module</source>
+        <translation>モジュールの指定がありません</translation>
+    </message>
+    <message>
+        <source>the module is of another kind</source>
+        <translation>モジュールの種類が違います</translation>
+    </message>
+    <message>
+        <source>they belong to something else</source>
+        <translation>別のもの用です</translation>
+    </message>
+</context>
+<context>
+    <name>PpdLookup</name>
+    <message>
+        <source>%1 must be a number from %2 to %3.</source>
+        <translation>%1 は %2 から %3 までの数にしてください。</translation>
+    </message>
+    <message>
+        <source>%1 must have %2 to %3 characters.</source>
+        <translation>%1 は %2～%3 文字にしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>PpdModel</name>
+    <message>
+        <source>An option without a name or a value cannot be set.</source>
+        <translation>名前か値のないオプションは設定できません。</translation>
+    </message>
+    <message>
+        <source>The printer has no page size &quot;%1&quot;. Choose one from the list.</source>
+        <translation>プリンターに用紙サイズ「%1」はありません。一覧から選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer cannot take the page size &quot;%1&quot;. Choose one from the list.</source>
+        <translation>プリンターは用紙サイズ「%1」を使えません。一覧から選んでください。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not go together with &quot;%2&quot;. Change that first.</source>
+        <translation>「%1」は「%2」と一緒に使えません。先にそちらを変えてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is part of the printer&apos;s equipment, and is set by whoever installed the printer.</source>
+        <translation>「%1」はプリンターの装備の一部で、プリンターを設定した人が決めます。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s equipment does not allow &quot;%1&quot;: whoever installed the printer has set &quot;%2&quot;.</source>
+        <translation>プリンターの装備では「%1」は使えません。設定した人が「%2」としています。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no choice &quot;%2&quot;.</source>
+        <translation>「%1」に「%2」という選択肢はありません。</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;.</source>
+        <translation>プリンターに「%1」というオプションはありません。</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not with what the printer has loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not with %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>It holds no presets of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was written by a newer version of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are %1 presets already. Delete one first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is not there any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets in %1 cannot be used. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some presets in %1 cannot be read and are left alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program holds the lock %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It would be too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No presets were read from %1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is none in it that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some presets in %1 cannot be read and were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The presets could not be written to %1. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;.</source>
+        <translation type="unfinished">プリンターに「%1」というオプションはありません。</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation type="unfinished">ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>Not all of &quot;%1&quot; can be had now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PrinterList</name>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Does not accept jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>ネットワークで見つかりました</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>確認が必要です</translation>
+    </message>
+    <message>
+        <source>The print server has no printers. Add one, for example with lpadmin.</source>
+        <translation>プリントサーバーにプリンターがありません。lpadmin などで追加してください。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot;. It has: %2.</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。使えるプリンター: %2。</translation>
+    </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot;. It has: %2, and %3 more (lpstat -e).</source>
+        <translation>プリントサーバーに「%1」というプリンターはありません。あるもの: %2、ほか %3 台 (lpstat -e)。</translation>
+    </message>
+    <message>
+        <source>The print server has no default printer. Name one with --printer.</source>
+        <translation type="unfinished">プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePpd</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
+        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
+        <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>StartingOptions</name>
+    <message>
+        <source>The printer &quot;%1&quot; prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
+        <translation>プリンター「%1」は写真の裏面に文字を印刷できません。--backprint を外すか、別のプリンターを選んでください。</translation>
     </message>
 </context>
 <context>
@@ -278,77 +1167,14 @@
     </message>
 </context>
 <context>
-    <name>PluginLoader</name>
+    <name>Stepper</name>
     <message>
-        <source>The printer's own pages (%1) offer nothing for this printer. You can print without them.</source>
-        <translation>プリンター固有のページ (%1) には、このプリンター用の設定がありません。なしでも印刷できます。</translation>
+        <source>Increase</source>
+        <translation type="unfinished">増やす</translation>
     </message>
     <message>
-        <source>The printer's description asks for the pages "%1", which is no name of a bundle. You can print without them.</source>
-        <translation>プリンターの記述が求めるページ「%1」は正しい名前ではありません。なしでも印刷できます。</translation>
-    </message>
-    <message>
-        <source>The printer's own pages (%1) are not installed. You can print without them; install the printer's software to have them.</source>
-        <translation>プリンター固有のページ (%1) がインストールされていません。なしでも印刷できます。使うにはプリンターのソフトウェアをインストールしてください。</translation>
-    </message>
-    <message>
-        <source>The printer's own pages (%1) cannot be loaded: %2. You can print without them; install the printer's software again to have them.</source>
-        <translation>プリンター固有のページ (%1) を読み込めません: %2。なしでも印刷できます。使うにはプリンターのソフトウェアを再インストールしてください。</translation>
-    </message>
-    <message>
-        <source>they name no module</source>
-        <translation>モジュールの指定がありません</translation>
-    </message>
-    <message>
-        <source>the module is of another kind</source>
-        <translation>モジュールの種類が違います</translation>
-    </message>
-    <message>
-        <source>they belong to something else</source>
-        <translation>別のもの用です</translation>
-    </message>
-</context>
-<context>
-    <name>PpdModel</name>
-    <message>
-        <source>An option without a name or a value cannot be set.</source>
-        <translation>名前か値のないオプションは設定できません。</translation>
-    </message>
-    <message>
-        <source>The printer has no page size "%1". Choose one from the list.</source>
-        <translation>プリンターに用紙サイズ「%1」はありません。一覧から選んでください。</translation>
-    </message>
-    <message>
-        <source>The printer cannot take the page size "%1". Choose one from the list.</source>
-        <translation>プリンターは用紙サイズ「%1」を使えません。一覧から選んでください。</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>"%1" does not go together with "%2". Change that first.</source>
-        <translation>「%1」は「%2」と一緒に使えません。先にそちらを変えてください。</translation>
-    </message>
-    <message>
-        <source>"%1" is part of the printer's equipment, and is set by whoever installed the printer.</source>
-        <translation>「%1」はプリンターの装備の一部で、プリンターを設定した人が決めます。</translation>
-    </message>
-    <message>
-        <source>The printer's equipment does not allow "%1": whoever installed the printer has set "%2".</source>
-        <translation>プリンターの装備では「%1」は使えません。設定した人が「%2」としています。</translation>
-    </message>
-    <message>
-        <source>"%1" has no choice "%2".</source>
-        <translation>「%1」に「%2」という選択肢はありません。</translation>
-    </message>
-    <message>
-        <source>The printer has no option "%1".</source>
-        <translation>プリンターに「%1」というオプションはありません。</translation>
-    </message>
-    <message>
-        <source>Paper size</source>
-        <translation>用紙サイズ</translation>
+        <source>Decrease</source>
+        <translation type="unfinished">減らす</translation>
     </message>
 </context>
 <context>
@@ -366,7 +1192,7 @@
         <translation>キャンセルしました。何も印刷していません。</translation>
     </message>
     <message>
-        <source>Job %1 stays on the queue; "cancel %2-%1" takes it away.</source>
+        <source>Job %1 stays on the queue; &quot;cancel %2-%1&quot; takes it away.</source>
         <translation>ジョブ %1 はキューに残ります。「cancel %2-%1」で取り除けます。</translation>
     </message>
     <message>
@@ -374,8 +1200,93 @@
         <translation>警告: %1</translation>
     </message>
     <message>
-        <source>With "-o PageSize=%1" it fits.</source>
+        <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>「-o PageSize=%1」なら収まります。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::ChoiceList</name>
+    <message>
+        <source>%1; %2</source>
+        <translation type="unfinished">%1: %2 {1;?}</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::CustomField</name>
+    <message>
+        <source>Other value...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: other value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::CustomPaperRow</name>
+    <message>
+        <source>Width of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of this paper size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;Long as the Photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;High as the Photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -383,6 +1294,120 @@
     <message>
         <source>A saved setting was left out. %1</source>
         <translation>保存された設定を 1 つ使いませんでした。%1</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::HitList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobPage</name>
+    <message>
+        <source>At once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When somebody releases it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By day, from 6:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the evening, from 18:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At night, from 18:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the second shift, from 16:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the third shift, from 0:00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 waits longest, 100 goes first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print &amp;when:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page &amp;before:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page &amp;after:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print when</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -405,73 +1430,204 @@
     </message>
 </context>
 <context>
-    <name>halvern::OptionsPage</name>
+    <name>halvern::OptionDelegate</name>
     <message>
-        <source>More options follow...</source>
-        <translation>続きがあります...</translation>
+        <source>%1 (the printer&apos;s default)</source>
+        <translation type="unfinished">%1 (プリンターの既定値)</translation>
     </message>
     <message>
-        <source>Set by whoever installed the printer.</source>
-        <translation>プリンターを設定した人が決めたものです。</translation>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 (the printer's default)</source>
-        <translation>%1 (プリンターの既定値)</translation>
+        <source>also sets %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>halvern::SummaryPage</name>
+    <name>halvern::OptionFinder</name>
     <message>
-        <source>Fit</source>
-        <translation>全体を収める</translation>
+        <source>Search options and printers (Ctrl+F)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Fill</source>
-        <translation>ページを満たす</translation>
+        <source>Search options and printers</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Actual size</source>
-        <translation>実際のサイズ</translation>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printer</source>
-        <translation>プリンター</translation>
+        <source>Printers</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Paper size</source>
-        <translation>用紙サイズ</translation>
+        <source>%1 › %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Photo size</source>
-        <translation>写真のサイズ</translation>
+        <source>Searching...</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Printed area</source>
-        <translation>印刷範囲</translation>
+        <source>Nothing has this name.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>ページ数</translation>
+        <source>The first %1 that were found</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copies</source>
-        <translation>部数</translation>
+        <source>%1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionTree</name>
+    <message>
+        <source>Installed in the printer (set by whoever installed it)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>More options</source>
-        <translation>その他のオプション</translation>
+        <source>%1 (the printer&apos;s default)</source>
+        <translation type="unfinished">%1 (プリンターの既定値)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put back to the printer&apos;s default: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>Changed from the printer&apos;s default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OptionsPage</name>
+    <message>
+        <source>Show changed only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the options of this page back to the printer&apos;s defaults</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Options</source>
-        <translation>オプション</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 more are on the page of options.</source>
-        <translation>ほか%1件はオプションのページにあります。</translation>
+        <source>Nothing changed</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Off: %1</source>
-        <translation>オフ: %1</translation>
+        <source>%1 changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put Back to the Printer&apos;s Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::OutputMenu</name>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print to a &amp;PDF File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy as Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print to a PDF File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PageRangeRow</name>
+    <message>
+        <source>Last page &amp;first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Odd or even pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1, or for example 1-3, 5-</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PanelDeck</name>
+    <message>
+        <source>Pages of options</source>
+        <translation>設定のページ</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他の設定</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -512,32 +1668,232 @@
         <source>Photo si&amp;ze:</source>
         <translation>写真のサイズ(&amp;Z):</translation>
     </message>
+    <message>
+        <source>Search by name or measures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Borderless</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Two-sided:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation type="unfinished">用紙サイズ</translation>
+    </message>
+    <message>
+        <source>The printer does not have this paper size both with and without a margin.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>halvern::PanelDeck</name>
+    <name>halvern::PaperSizeList</name>
     <message>
-        <source>Pages of options</source>
-        <translation>設定のページ</translation>
+        <source>Custom size...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PdfOutput</name>
+    <message>
+        <source>The file &quot;%1&quot; could not be written: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Page</source>
-        <translation>ページ</translation>
+        <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>More Options</source>
-        <translation>その他の設定</translation>
+        <source>Cancelled: no file was written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Options</source>
-        <translation>設定</translation>
+        <source>No file was written. %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>概要</translation>
+        <source>1 page was written to &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Preview</source>
-        <translation>プレビュー</translation>
+        <source>%1 pages were written to &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PresetBar</name>
+    <message>
+        <source>From your saved options (lpoptions)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made for a printer of the same model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was printed here yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save, rename and more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read from the file, and not applied yet: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as New Preset...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import from File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export &amp;All to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename &quot;%1&quot;...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export &quot;%1&quot; to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export to File...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; was deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished">元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Import Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PresetNameDialog</name>
+    <message>
+        <source>Save Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the number of &amp;copies (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;pages to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With the &amp;text on the back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is always there. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset of this name. It will be replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset of this name. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Presets</name>
+    <message>
+        <source>%1 (from %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has: %1.</source>
+        <translation type="unfinished">次のものがあります: %1。</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation type="unfinished">%1 のことですか？</translation>
     </message>
 </context>
 <context>
@@ -579,7 +1935,7 @@
         <translation>1:1、プリンターの1ドットが画面の1ピクセル（%1 dpi）</translation>
     </message>
     <message>
-        <source>The printer's adjustments, approximated on the screen</source>
+        <source>The printer&apos;s adjustments, approximated on the screen</source>
         <translation>プリンターの調整を画面で近似表示しています</translation>
     </message>
     <message>
@@ -630,15 +1986,11 @@
         <translation>プリンターを探しています...</translation>
     </message>
     <message>
-        <source>The print server has no default printer. Name one with --printer.</source>
-        <translation>プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
-    </message>
-    <message>
-        <source>The print server has no printers. Add one in the system's settings.</source>
+        <source>The print server has no printers. Add one in the system&apos;s settings.</source>
         <translation>プリントサーバーにプリンターがありません。システムの設定で追加してください。</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". Choose another one.</source>
+        <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>プリントサーバーに「%1」というプリンターはありません。別のプリンターを選んでください。</translation>
     </message>
     <message>
@@ -682,11 +2034,11 @@
         <translation>ページを準備しています...</translation>
     </message>
     <message>
-        <source>Job %1 was sent to "%2".</source>
+        <source>Job %1 was sent to &quot;%2&quot;.</source>
         <translation>ジョブ %1 を「%2」に送りました。</translation>
     </message>
     <message>
-        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer's own pages.</source>
+        <source>Choose a printer and a paper size, look at the preview, and press Print. The list on the left of the options has the printer&apos;s own pages.</source>
         <translation>プリンターと用紙サイズを選び、プレビューを確認して「印刷」を押してください。設定の左の一覧に、プリンター固有のページがあります。</translation>
     </message>
     <message>
@@ -721,6 +2073,38 @@
         <source>The printer cannot do what was chosen, so this stays: %1</source>
         <translation>選ばれた内容はこのプリンターでは使えないため、次のままにします: %1</translation>
     </message>
+    <message>
+        <source>Search by name, place or model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation type="unfinished">プリンター</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 option was put back to the printer&apos;s default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 options were put back to the printer&apos;s defaults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was applied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -749,113 +2133,30 @@
         <translation>プリントサーバーが応答しません。このウィンドウが開いていれば、応答があり次第ジョブ %1 をキャンセルします。</translation>
     </message>
     <message>
-        <source>Job %1 was sent to "%2", but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
+        <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>ジョブ %1 は「%2」に送信しましたが、プリントサーバーが %3 秒間応答していません。印刷されたかどうかは不明です。もう一度印刷する前にプリンターをご確認ください。</translation>
     </message>
 </context>
 <context>
-    <name>ListPapers</name>
+    <name>halvern::PrinterChoice</name>
     <message>
-        <source>The printer "%1" was asked, but has not reported its papers. Look into the print server's error log.</source>
-        <translation>プリンター「%1」に問い合わせましたが、用紙の情報が届きませんでした。プリントサーバーのエラーログを確認してください。</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not report its papers: it has no Halvern driver.</source>
-        <translation>プリンター「%1」は用紙の情報を知らせません。Halvern のドライバーではありません。</translation>
-    </message>
-    <message>
-        <source>Asking "%1" ...</source>
-        <translation>「%1」に問い合わせています...</translation>
-    </message>
-    <message>
-        <source>Waiting for "%1"%2 ...</source>
-        <translation>「%1」を待っています%2...</translation>
-    </message>
-    <message>
-        <source>The printer "%1" is busy with another job. Ask again when that has ended.</source>
-        <translation>プリンター「%1」は別のジョブを処理しています。終わってからもう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
-        <translation>プリンター「%1」は現在動作していないため%2、問い合わせを取り消しました。プリンターを再開して (cupsenable) もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The printer "%1" could not answer%2. See to the printer and ask again.</source>
-        <translation>プリンター「%1」は応答できませんでした%2。プリンターを確認して、もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The printer "%1" does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
-        <translation>プリンター「%1」はジョブを受け付けていないため、問い合わせできません。受け付けるようにして (cupsaccept) もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The print server refused the question to "%1". Look into its error log.</source>
-        <translation>プリントサーバーが「%1」への問い合わせを拒否しました。エラーログを確認してください。</translation>
-    </message>
-    <message>
-        <source>The list of papers that "%1" reported cannot be read (%2).</source>
-        <translation>「%1」から届いた用紙の一覧を読み取れません (%2)。</translation>
-    </message>
-    <message>
-        <source>No papers are loaded.</source>
-        <translation>用紙はセットされていません。</translation>
-    </message>
-    <message>
-        <source>The printer has not said yet what is loaded.</source>
-        <translation>セットされている用紙の情報がまだ届いていません。</translation>
-    </message>
-    <message>
-        <source>Ask it with --refresh.</source>
-        <translation>--refresh で問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The question to "%1" could not be processed%2 and was taken back. See to the printer, look into the print server's error log, and ask again.</source>
-        <translation>「%1」への問い合わせは処理できなかったため%2、取り消しました。プリンターとプリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was held%2 and has been cancelled. See to the printer and ask again.</source>
-        <translation>「%1」への問い合わせは保留されたため%2、取り消しました。プリンターを確認して、もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The question to "%1" was cancelled. Ask again.</source>
-        <translation>「%1」への問い合わせはキャンセルされました。もう一度問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
-        <translation>プリントサーバーが応答しません。ジョブ %1 がキューに残っている可能性があります (cancel %2-%1)。</translation>
-    </message>
-    <message>
-        <source>Look into the print server's error log, and ask again.</source>
-        <translation>プリントサーバーのエラーログを確認して、もう一度問い合わせてください。</translation>
+        <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
     </message>
 </context>
 <context>
-    <name>JobActions</name>
+    <name>halvern::PrinterRows</name>
     <message>
-        <source>The print server does not let you cancel this job. Ask whoever looks after it.</source>
-        <translation>プリントサーバーはこのジョブのキャンセルを許可していません。管理者にお尋ねください。</translation>
+        <source>Used last</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server does not let you resume "%1". Ask whoever looks after it; the job waits meanwhile.</source>
-        <translation>プリントサーバーは「%1」の再開を許可していません。管理者にお尋ねください。その間ジョブは待っています。</translation>
+        <source>Found on the network</source>
+        <translation type="unfinished">ネットワークで見つかりました</translation>
     </message>
     <message>
-        <source>The print server does not let you release the job. Ask whoever looks after it; the job waits meanwhile.</source>
-        <translation>プリントサーバーはジョブの再開を許可していません。管理者にお尋ねください。その間ジョブは待っています。</translation>
-    </message>
-    <message>
-        <source>The print server does not let you print the job again. Ask whoever looks after it.</source>
-        <translation>プリントサーバーはジョブの再印刷を許可していません。管理者にお尋ねください。</translation>
-    </message>
-</context>
-<context>
-    <name>JobSubmitter</name>
-    <message>
-        <source> Job %1 may still be on the queue of "%2" without its pages: cancel it there before you print again.</source>
-        <translation> ジョブ %1 がページのないまま「%2」のキューに残っている可能性があります。もう一度印刷する前にキャンセルしてください。</translation>
-    </message>
-    <message>
-        <source>The print server gave the job no number. Look into its error log.</source>
-        <translation>プリントサーバーがジョブに番号を付けませんでした。エラーログをご覧ください。</translation>
+        <source>Printers</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -876,313 +2177,95 @@
         <source>Print Job Again</source>
         <translation>もう一度印刷</translation>
     </message>
-</context>
-<context>
-    <name>GivenOptions</name>
     <message>
-        <source>The printer has no paper "%1".</source>
-        <translation>プリンターに「%1」という用紙はありません。</translation>
-    </message>
-    <message>
-        <source>The printer has no "sides=%1". Leave it out, or use the printer's own option for two-sided printing.</source>
-        <translation>プリンターに「sides=%1」はありません。省くか、プリンター自身の両面印刷オプションを使ってください。</translation>
-    </message>
-    <message>
-        <source>"%1" is no way to scale. Write print-scaling=fit, fill or none.</source>
-        <translation>「%1」という拡大縮小の方法はありません。print-scaling=fit、fill、none のいずれかを書いてください。</translation>
-    </message>
-    <message>
-        <source>"%1=%2" is not possible: the page is laid out before it is sent, one photo on each. Leave it out.</source>
-        <translation>「%1=%2」は使えません。ページは送信前に 1 枚ずつ配置されます。省いてください。</translation>
-    </message>
-    <message>
-        <source>The number of copies is no option of the printer. Give it with --copies.</source>
-        <translation>部数はプリンターのオプションではありません。--copies で指定してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is set by the printer's own options here. "lpoptions -p QUEUE -l" lists them.</source>
-        <translation>「%1」はプリンター自身のオプションで指定します。「lpoptions -p QUEUE -l」で一覧できます。</translation>
-    </message>
-    <message>
-        <source>Did you mean %1?</source>
-        <translation>%1 のことですか？</translation>
-    </message>
-    <message>
-        <source>It has: %1 and %2 more.</source>
-        <translation>次のものがあります: %1、ほか %2 件。</translation>
-    </message>
-    <message>
-        <source>It has: %1.</source>
-        <translation>次のものがあります: %1。</translation>
+        <source>✓ as shown</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>halvern::Stepper</name>
+    <name>halvern::SearchPopup</name>
     <message>
-        <source>Increase</source>
-        <translation>増やす</translation>
-    </message>
-    <message>
-        <source>Decrease</source>
-        <translation>減らす</translation>
+        <source>Nothing here is called &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>PageFit</name>
+    <name>halvern::SummaryPage</name>
     <message>
-        <source>The paper size "%1" is wider than the roll (%2).</source>
-        <translation>用紙サイズ「%1」はロール紙 (%2) の幅を超えています。</translation>
+        <source>Fit</source>
+        <translation>全体を収める</translation>
     </message>
     <message>
-        <source>The paper size "%1" is larger than the paper "%2".</source>
-        <translation>用紙サイズ「%1」は用紙「%2」より大きくなっています。</translation>
-    </message>
-</context>
-<context>
-    <name>StartingOptions</name>
-    <message>
-        <source>The printer "%1" prints no text on the back of a picture. Leave --backprint out, or choose another printer.</source>
-        <translation>プリンター「%1」は写真の裏面に文字を印刷できません。--backprint を外すか、別のプリンターを選んでください。</translation>
-    </message>
-</context>
-<context>
-    <name>halvern::PrinterChoice</name>
-    <message>
-        <source>Your default printer "%1" is none of the print server's. "%2" was chosen instead.</source>
-        <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
-    </message>
-</context>
-<context>
-    <name>PrinterList</name>
-    <message>
-        <source>Ready</source>
-        <translation>準備完了</translation>
+        <source>Fill</source>
+        <translation>ページを満たす</translation>
     </message>
     <message>
-        <source>Does not accept jobs</source>
-        <translation>ジョブを受け付けません</translation>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
     </message>
     <message>
-        <source>Paused</source>
-        <translation>一時停止中</translation>
+        <source>Printer</source>
+        <translation>プリンター</translation>
     </message>
     <message>
-        <source>Printing</source>
-        <translation>印刷中</translation>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
     </message>
     <message>
-        <source>Found on the network</source>
-        <translation>ネットワークで見つかりました</translation>
+        <source>Photo size</source>
+        <translation>写真のサイズ</translation>
     </message>
     <message>
-        <source>Needs attention</source>
-        <translation>確認が必要です</translation>
+        <source>Printed area</source>
+        <translation>印刷範囲</translation>
     </message>
     <message>
-        <source>The print server has no printers. Add one, for example with lpadmin.</source>
-        <translation>プリントサーバーにプリンターがありません。lpadmin などで追加してください。</translation>
+        <source>Pages</source>
+        <translation>ページ数</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". It has: %2.</source>
-        <translation>プリントサーバーに「%1」というプリンターはありません。使えるプリンター: %2。</translation>
+        <source>Copies</source>
+        <translation>部数</translation>
     </message>
     <message>
-        <source>The print server has no printer "%1". It has: %2, and %3 more (lpstat -e).</source>
-        <translation>プリントサーバーに「%1」というプリンターはありません。あるもの: %2、ほか %3 台 (lpstat -e)。</translation>
-    </message>
-</context>
-<context>
-    <name>QueuePpd</name>
-    <message>
-        <source>The printer "%1" has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
+        <source>More options</source>
+        <translation>その他のオプション</translation>
     </message>
     <message>
-        <source>The description of the printer "%1" is damaged: %2. Install its driver again, or choose another printer.</source>
-        <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
-    </message>
-</context>
-<context>
-    <name>PpdLookup</name>
-    <message>
-        <source>%1 must be a number from %2 to %3.</source>
-        <translation>%1 は %2 から %3 までの数にしてください。</translation>
+        <source>Options</source>
+        <translation>オプション</translation>
     </message>
     <message>
-        <source>%1 must have %2 to %3 characters.</source>
-        <translation>%1 は %2～%3 文字にしてください。</translation>
-    </message>
-</context>
-<context>
-    <name>CupsSentences</name>
-    <message>
-        <source>The print server broke off the conversation. Try again; if it fails again, look into the print server's error log.</source>
-        <translation>プリントサーバーとの通信が途中で切れました。もう一度お試しください。再び失敗する場合は、プリントサーバーのエラーログをご確認ください。</translation>
+        <source>Off: %1</source>
+        <translation>オフ: %1</translation>
     </message>
     <message>
-        <source>The print server does not answer. Wait a moment and try again, or restart it.</source>
-        <translation>プリントサーバーが応答しません。少し待ってからもう一度試すか、再起動してください。</translation>
+        <source>All other settings</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server's answer does not end. Restart the print server, and try again.</source>
-        <translation>プリントサーバーの応答が終わりません。プリントサーバーを再起動して、もう一度お試しください。</translation>
+        <source>The options as they are sent</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer is not on the print server any more. Choose another one.</source>
-        <translation>そのプリンターはもうプリントサーバーにありません。別のプリンターを選んでください。</translation>
+        <source>Cop&amp;y</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The printer does not accept jobs at the moment. Choose another one, or let it accept jobs (cupsaccept).</source>
-        <translation>プリンターは今ジョブを受け付けていません。別のプリンターを選ぶか、受け付けを許可してください (cupsaccept)。</translation>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 / %2</translation>
     </message>
     <message>
-        <source>The print server does not allow you to do this. Ask whoever looks after it.</source>
-        <translation>プリントサーバーで許可されていません。管理者にお尋ねください。</translation>
+        <source>Job title</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server reports: %1</source>
-        <translation>プリントサーバーからの報告: %1</translation>
+        <source>printer&apos;s default: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The print server at %1 cannot be reached. Start it, for example with "systemctl start cups", and try again.</source>
-        <translation>プリントサーバー %1 に接続できません。「systemctl start cups」などで起動して、もう一度お試しください。</translation>
-    </message>
-</context>
-<context>
-    <name>PageRenderer</name>
-    <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>印刷ジョブを一時ファイルに書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
-    </message>
-</context>
-<context>
-    <name>PhotoProblem</name>
-    <message>
-        <source>"%1" is damaged and cannot be read. Export it from your photo program again.</source>
-        <translation>「%1」は壊れていて読めません。写真ソフトからもう一度書き出してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is damaged: a part of the picture is missing. Copy it from the camera again, or export it again.</source>
-        <translation>「%1」は破損しています: 画像の一部が欠けています。カメラからもう一度コピーするか、もう一度書き出してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is too large to print. Make a copy with fewer pixels and print that.</source>
-        <translation>「%1」は大きすぎて印刷できません。画素数を減らしたコピーを印刷してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、PDF のファイルをお使いください。</translation>
-    </message>
-    <message>
-        <source>"%1" is locked with a password. Save a copy without one and print that.</source>
-        <translation>「%1」はパスワードで保護されています。パスワードなしのコピーを印刷してください。</translation>
-    </message>
-    <message>
-        <source>"%1" has changed meanwhile. Open it again.</source>
-        <translation>「%1」は途中で変わりました。もう一度開いてください。</translation>
-    </message>
-    <message>
-        <source>There is no file "%1". Check its name.</source>
-        <translation>「%1」というファイルはありません。名前を確認してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>「%1」はフォルダーです。*.jpg のように中の写真を指定してください。</translation>
-    </message>
-    <message>
-        <source>"%1" cannot be opened. Check that you may read it.</source>
-        <translation>「%1」を開けません。読み取りの権限を確認してください。</translation>
-    </message>
-    <message>
-        <source>"%1" is empty. Copy it from the camera again.</source>
-        <translation>「%1」は空です。カメラからもう一度コピーしてください。</translation>
-    </message>
-</context>
-<context>
-    <name>IppOptions</name>
-    <message>
-        <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
-        <translation>%1 の値が長すぎて送れません: %2 バイトあり、上限は %3 です。短くしてください。</translation>
-    </message>
-</context>
-<context>
-    <name>BackLines</name>
-    <message>
-        <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except "~", and "©".</source>
-        <translation>裏面の %1 行目には %2 を入れられないため、省きました。使えるのは、「~」を除く英語キーボードの文字と「©」です。</translation>
-    </message>
-    <message>
-        <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
-        <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
-    </message>
-</context>
-<context>
-    <name>PaperTable</name>
-    <message>
-        <source>just now</source>
-        <translation>たった今</translation>
-    </message>
-    <message>
-        <source>%1 min ago</source>
-        <translation>%1 分前</translation>
-    </message>
-    <message>
-        <source>%1 h ago</source>
-        <translation>%1 時間前</translation>
-    </message>
-    <message>
-        <source>%1 days ago</source>
-        <translation>%1 日前</translation>
-    </message>
-    <message>
-        <source>%1: last updated never</source>
-        <translation>%1: 最終更新 なし</translation>
-    </message>
-    <message>
-        <source>%1: last updated %2 (%3)</source>
-        <translation>%1: 最終更新 %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Roll</source>
-        <translation>ロール</translation>
-    </message>
-    <message>
-        <source>Sheet</source>
-        <translation>カット紙</translation>
-    </message>
-    <message>
-        <source>Surface</source>
-        <translation>面質</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>解像度</translation>
-    </message>
-    <message>
-        <source>Tones</source>
-        <translation>トーン</translation>
-    </message>
-</context>
-<context>
-    <name>Application</name>
-    <message>
-        <source>The display cannot be used: %1. Print with --no-dialog, or set DISPLAY to one that works.</source>
-        <translation>画面を使用できません: %1。--no-dialog で印刷するか、DISPLAY に使える画面を設定してください。</translation>
-    </message>
-    <message>
-        <source>There is no display to show the dialog on. Print with --no-dialog, or set DISPLAY.</source>
-        <translation>ダイアログを表示する画面がありません。--no-dialog で印刷するか、DISPLAY を設定してください。</translation>
-    </message>
-    <message>
-        <source>Printing</source>
-        <translation>印刷</translation>
-    </message>
-</context>
-<context>
-    <name>Main</name>
-    <message>
-        <source>The output could not be written: %1.</source>
-        <translation>出力を書き込めませんでした: %1</translation>
+        <source>%1 more are in the list of all other settings.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
