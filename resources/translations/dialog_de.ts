@@ -111,75 +111,75 @@
     </message>
     <message>
         <source>Print these pages only, for example 1-3,7,12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur diese Seiten drucken, zum Beispiel 1-3,7,12-.</translation>
     </message>
     <message>
         <source>Print the last page first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die letzte Seite zuerst drucken.</translation>
     </message>
     <message>
         <source>Call the job this; without it, it is called like the first file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Auftrag so nennen; sonst heißt er wie die erste Datei.</translation>
     </message>
     <message>
         <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seiten, wie sie gesendet würden, in diese PDF-Datei schreiben und nichts senden.</translation>
     </message>
     <message>
         <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit --no-dialog: den Auftrag vom Druckserver zurücklesen und sagen, was hinzugefügt oder geändert wurde.</translation>
     </message>
     <message>
         <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit dieser Voreinstellung des Druckers beginnen. Ohne sie beginnt der Dialog mit dem, womit Sie zuletzt gedruckt haben, und --no-dialog mit Ihren gespeicherten Optionen.</translation>
     </message>
     <message>
         <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gespeicherten Optionen der Warteschlange, --preset und die hier angegebenen Optionen als Voreinstellung speichern und nichts drucken. Exemplare, Seiten und der Text auf der Rückseite gehören dazu, wenn sie angegeben sind.</translation>
     </message>
     <message>
         <source>Write the print server&apos;s queues, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Warteschlangen des Druckservers ausgeben, je Zeile eine.</translation>
     </message>
     <message>
         <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Optionen des Druckers mit aktuellem Wert, Vorgabe und Auswahlmöglichkeiten ausgeben, je Zeile eine.</translation>
     </message>
     <message>
         <source>Write the names of the printer&apos;s presets, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Namen der Voreinstellungen des Druckers ausgeben, je Zeile einen.</translation>
     </message>
     <message>
         <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit --list-printers, --list-options oder --list-presets: JSON ausgeben, mit mehr Einzelheiten.</translation>
     </message>
     <message>
         <source>The name of the file to write is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name der zu schreibenden Datei ist leer.</translation>
     </message>
     <message>
         <source>--output writes a file, and does not go with --dry-run.</source>
-        <translation type="unfinished"></translation>
+        <translation>--output schreibt eine Datei und passt nicht zu --dry-run.</translation>
     </message>
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
-        <translation type="unfinished"></translation>
+        <translation>--verify gehört zu --no-dialog und passt zu nichts, was keinen Auftrag sendet.</translation>
     </message>
     <message>
         <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation type="unfinished"></translation>
+        <translation>--json gehört zu --list-printers, --list-options oder --list-presets.</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 druckt keine Dateien: Lassen Sie die Dateien und die Optionen zum Drucken weg.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine Voreinstellung, die es immer gibt. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Name für eine Voreinstellung: Schreiben Sie 1 bis %2 Zeichen.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -190,7 +190,14 @@
   4  Cancelled: nothing was printed.
   5  The job was sent, but the print server does not answer: the outcome is not known.
   6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exit-Status:
+  0  Gedruckt, oder ausgegeben, was verlangt war.
+  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
+  2  Falscher Aufruf.
+  3  Der Auftrag ist in der Warteschlange und war noch nicht beendet.
+  4  Abgebrochen: Es wurde nichts gedruckt.
+  5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist nicht bekannt.
+  6  Mit --verify: gedruckt, aber beim Druckserver lag der Auftrag nicht so vor, wie er gesendet wurde.</translation>
     </message>
 </context>
 <context>
@@ -232,11 +239,11 @@
     <name>CustomPaper</name>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 Zoll</translation>
+        <translation>%1 × %2 Zoll</translation>
     </message>
 </context>
 <context>
@@ -302,11 +309,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Seitenauswahl. Schreiben Sie page-set=all, odd oder even.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Reihenfolge der Seiten. Schreiben Sie outputorder=normal oder reverse.</translation>
     </message>
 </context>
 <context>
@@ -339,110 +346,110 @@
     <name>JobInWords</name>
     <message>
         <source>not enough paper for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht genug Papier für %1</translation>
     </message>
     <message>
         <source>roll %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle %1</translation>
     </message>
     <message>
         <source>%1 roll %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolle %2, %1</translation>
     </message>
     <message>
         <source>sheet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Blatt: %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zoll</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>two-sided: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>beidseitig: %1</translation>
     </message>
     <message>
         <source>pages %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten %1 von %2</translation>
     </message>
     <message>
         <source>%1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Seiten</translation>
     </message>
     <message>
         <source>last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>letzte Seite zuerst</translation>
     </message>
     <message>
         <source>1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Exemplar</translation>
     </message>
     <message>
         <source>%1 copies</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Exemplare</translation>
     </message>
     <message>
         <source>not collated</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht sortiert</translation>
     </message>
     <message>
         <source>text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>Text auf der Rückseite</translation>
     </message>
     <message>
         <source>with a banner page</source>
-        <translation type="unfinished"></translation>
+        <translation>mit einem Deckblatt</translation>
     </message>
     <message>
         <source>held on the queue</source>
-        <translation type="unfinished"></translation>
+        <translation>in der Warteschlange zurückgehalten</translation>
     </message>
     <message>
         <source>%1 more settings changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weitere Einstellungen geändert</translation>
     </message>
     <message>
         <source>%1 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cm</translation>
     </message>
     <message>
         <source>%1 borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 randlos</translation>
     </message>
 </context>
 <context>
     <name>JobReadBack</name>
     <message>
         <source>The print server does not tell what it holds of job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver sagt nicht, wie Auftrag %1 bei ihm vorliegt.</translation>
     </message>
     <message>
         <source>The print server holds job %1 exactly as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Druckserver liegt Auftrag %1 genau so vor, wie er gesendet wurde.</translation>
     </message>
     <message>
         <source>%1 instead of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 statt %2</translation>
     </message>
     <message>
         <source>without %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne %1</translation>
     </message>
     <message>
         <source>Added to job %1 by the print server or the queue: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Druckserver oder von der Warteschlange zu Auftrag %1 hinzugefügt: %2.</translation>
     </message>
     <message>
         <source>Changed in job %1 by the print server: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Druckserver in Auftrag %1 geändert: %2.</translation>
     </message>
 </context>
 <context>
@@ -598,31 +605,31 @@
     <name>Listings</name>
     <message>
         <source>%1 (default): %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Standarddrucker): %2 %3</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
-        <translation type="unfinished">%1: %2 %3 {1:?}</translation>
+        <translation>%1: %2 %3</translation>
     </message>
     <message>
         <source>The print server has no printers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver hat keine Drucker.</translation>
     </message>
     <message>
         <source>%1 (from your saved options)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (aus Ihren gespeicherten Optionen)</translation>
     </message>
     <message>
         <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung „%1“ von „%2“ gespeichert.</translation>
     </message>
     <message>
         <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (im Drucker eingebaut) „%2“: %3</translation>
     </message>
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Vorgabe %2) „%3“: %4</translation>
     </message>
 </context>
 <context>
@@ -636,31 +643,31 @@
     <name>PageChoice</name>
     <message>
         <source>There is no page %1: there is one page only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Seite %1: Es gibt nur eine Seite.</translation>
     </message>
     <message>
         <source>There is no page %1: the first page is 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Seite %1: Die erste Seite ist 1.</translation>
     </message>
     <message>
         <source>There is no page %1: the pages are 1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Seite %1: Die Seiten sind 1 bis %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ endet, bevor es beginnt. Schreiben Sie %2-%3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Seite. Schreiben Sie Zahlen und Bereiche, zum Beispiel 1-3, 7, 12-.</translation>
     </message>
     <message>
         <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine dieser Seiten hat eine ungerade Nummer. Wählen Sie alle Seiten oder andere.</translation>
     </message>
     <message>
         <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine dieser Seiten hat eine gerade Nummer. Wählen Sie alle Seiten oder andere.</translation>
     </message>
 </context>
 <context>
@@ -685,43 +692,43 @@
     <name>PaperSizes</name>
     <message>
         <source>For the loaded paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Für das eingelegte Papier</translation>
     </message>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt verwendet</translation>
     </message>
     <message>
         <source>Your sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Formate</translation>
     </message>
     <message>
         <source>Photo sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotoformate</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished">Rolle</translation>
+        <translation>Rolle</translation>
     </message>
     <message>
         <source>ISO</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO</translation>
     </message>
     <message>
         <source>US</source>
-        <translation type="unfinished"></translation>
+        <translation>US</translation>
     </message>
     <message>
         <source>Other sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Formate</translation>
     </message>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 Zoll</translation>
+        <translation>%1 × %2 Zoll</translation>
     </message>
 </context>
 <context>
@@ -900,122 +907,122 @@
     </message>
     <message>
         <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorgaben des Druckers passen nicht zu dem, was sonst gewählt ist. Setzen Sie die Optionen einzeln zurück.</translation>
     </message>
     <message>
         <source>not with what the printer has loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht mit dem, was im Drucker eingelegt ist</translation>
     </message>
     <message>
         <source>not with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht mit %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zoll</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>It holds no presets of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält keine Voreinstellungen dieses Programms.</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde von einer neueren Version dieses Programms geschrieben.</translation>
     </message>
     <message>
         <source>Printer Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckervorgaben</translation>
     </message>
     <message>
         <source>Last Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt verwendet</translation>
     </message>
     <message>
         <source>It is no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Datei.</translation>
     </message>
     <message>
         <source>It is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist zu groß.</translation>
     </message>
     <message>
         <source>There are %1 presets already. Delete one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon %1 Voreinstellungen. Löschen Sie zuerst eine.</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen von „%1“ sind nicht lesbar, und %2 lässt sich nicht beiseitelegen. %3</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen von „%1“ waren nicht lesbar und beginnen neu. Was da war, ist in %2. %3</translation>
     </message>
     <message>
         <source>The presets in %1 cannot be used. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen in %1 sind nicht verwendbar. %2</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and are left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Voreinstellungen in %1 sind nicht lesbar und bleiben unberührt.</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen von „%1“ konnten nicht nach %2 geschrieben werden. %3</translation>
     </message>
     <message>
         <source>The folder cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner kann nicht angelegt werden.</translation>
     </message>
     <message>
         <source>Another program holds the lock %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hält die Sperre %1.</translation>
     </message>
     <message>
         <source>It would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei würde zu groß.</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon eine Voreinstellung „%1“. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>No presets were read from %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus %1 wurden keine Voreinstellungen gelesen. %2</translation>
     </message>
     <message>
         <source>There is none in it that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin ist keine lesbare Voreinstellung.</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Voreinstellungen in %1 sind nicht lesbar und wurden ausgelassen.</translation>
     </message>
     <message>
         <source>The presets could not be written to %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellungen konnten nicht nach %1 geschrieben werden. %2</translation>
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;.</source>
-        <translation type="unfinished">Der Drucker hat keine Option „%1“.</translation>
+        <translation>Der Drucker hat keine Option „%1“.</translation>
     </message>
     <message>
         <source>And %1 more.</source>
-        <translation type="unfinished">Und %1 weitere.</translation>
+        <translation>Und %1 weitere.</translation>
     </message>
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alles aus „%1“ ist jetzt möglich.</translation>
     </message>
 </context>
 <context>
@@ -1058,7 +1065,7 @@
     </message>
     <message>
         <source>The print server has no default printer. Name one with --printer.</source>
-        <translation type="unfinished">Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
+        <translation>Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
     </message>
 </context>
 <context>
@@ -1170,11 +1177,11 @@
     <name>Stepper</name>
     <message>
         <source>Increase</source>
-        <translation type="unfinished">Erhöhen</translation>
+        <translation>Erhöhen</translation>
     </message>
     <message>
         <source>Decrease</source>
-        <translation type="unfinished">Verringern</translation>
+        <translation>Verringern</translation>
     </message>
 </context>
 <context>
@@ -1208,85 +1215,85 @@
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1: %2 {1;?}</translation>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderer Wert ...</translation>
     </message>
     <message>
         <source>%1: other value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: anderer Wert</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoll</translation>
     </message>
     <message>
         <source>pt</source>
-        <translation type="unfinished"></translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomPaperRow</name>
     <message>
         <source>Width of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Papiers</translation>
     </message>
     <message>
         <source>Height of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe des Papiers</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Merken</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoll</translation>
     </message>
     <message>
         <source>Unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>Längeneinheit</translation>
     </message>
     <message>
         <source>Name, to find it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Name zum Wiederfinden</translation>
     </message>
     <message>
         <source>Name of this paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Name dieses Papierformats</translation>
     </message>
     <message>
         <source>From %1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Von %1 bis %2 %3</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vergessen</translation>
     </message>
     <message>
         <source>As &amp;Long as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>So la&amp;ng wie das Foto</translation>
     </message>
     <message>
         <source>As &amp;High as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>So &amp;hoch wie das Foto</translation>
     </message>
 </context>
 <context>
@@ -1300,114 +1307,114 @@
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, in %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::JobPage</name>
     <message>
         <source>At once</source>
-        <translation type="unfinished"></translation>
+        <translation>Sofort</translation>
     </message>
     <message>
         <source>When somebody releases it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn ihn jemand freigibt</translation>
     </message>
     <message>
         <source>By day, from 6:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagsüber, ab 6:00 Uhr</translation>
     </message>
     <message>
         <source>In the evening, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Abends, ab 18:00 Uhr</translation>
     </message>
     <message>
         <source>At night, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachts, ab 18:00 Uhr</translation>
     </message>
     <message>
         <source>In the second shift, from 16:00</source>
-        <translation type="unfinished"></translation>
+        <translation>In der zweiten Schicht, ab 16:00 Uhr</translation>
     </message>
     <message>
         <source>In the third shift, from 0:00</source>
-        <translation type="unfinished"></translation>
+        <translation>In der dritten Schicht, ab 0:00 Uhr</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Wochenende</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Unclassified</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht eingestuft</translation>
     </message>
     <message>
         <source>Confidential</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertraulich</translation>
     </message>
     <message>
         <source>Classified</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingestuft</translation>
     </message>
     <message>
         <source>Secret</source>
-        <translation type="unfinished"></translation>
+        <translation>Geheim</translation>
     </message>
     <message>
         <source>Top secret</source>
-        <translation type="unfinished"></translation>
+        <translation>Streng geheim</translation>
     </message>
     <message>
         <source>1 waits longest, 100 goes first</source>
-        <translation type="unfinished"></translation>
+        <translation>1 wartet am längsten, 100 kommt zuerst</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel:</translation>
     </message>
     <message>
         <source>Pr&amp;iority:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Priorität:</translation>
     </message>
     <message>
         <source>Print &amp;when:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wann drucken:</translation>
     </message>
     <message>
         <source>Page &amp;before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite da&amp;vor:</translation>
     </message>
     <message>
         <source>Page &amp;after:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite da&amp;nach:</translation>
     </message>
     <message>
         <source>Print when</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann drucken</translation>
     </message>
     <message>
         <source>Time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhrzeit</translation>
     </message>
     <message>
         <source>At a time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Uhrzeit</translation>
     </message>
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Seiten vor und nach dem Auftrag entscheidet die Seite „%1“.</translation>
     </message>
 </context>
 <context>
@@ -1433,170 +1440,170 @@
     <name>halvern::OptionDelegate</name>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (Vorgabe des Druckers)</translation>
+        <translation>%1 (Vorgabe des Druckers)</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf %2</translation>
     </message>
     <message>
         <source>also sets %1</source>
-        <translation type="unfinished"></translation>
+        <translation>setzt auch %1</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionFinder</name>
     <message>
         <source>Search options and printers (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen und Drucker suchen (Strg+F)</translation>
     </message>
     <message>
         <source>Search options and printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen und Drucker suchen</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefunden</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>%1 › %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 › %2</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche ...</translation>
     </message>
     <message>
         <source>Nothing has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts hat diesen Namen.</translation>
     </message>
     <message>
         <source>The first %1 that were found</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ersten %1 Treffer</translation>
     </message>
     <message>
         <source>%1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gefunden</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionTree</name>
     <message>
         <source>Installed in the printer (set by whoever installed it)</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Drucker eingebaut (bei der Einrichtung festgelegt)</translation>
     </message>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (Vorgabe des Druckers)</translation>
+        <translation>%1 (Vorgabe des Druckers)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Put back to the printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Vorgabe des Druckers zurücksetzen: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Changed from the printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Weicht von der Vorgabe des Druckers ab</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
     <message>
         <source>Show changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur geänderte zeigen</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zurücksetzen</translation>
     </message>
     <message>
         <source>Puts the options of this page back to the printer&apos;s defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Optionen dieser Seite auf die Vorgaben des Druckers zurück</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished">Optionen</translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts geändert</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geändert</translation>
     </message>
     <message>
         <source>Put Back to the Printer&apos;s Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Vorgabe des Druckers zurücksetzen</translation>
     </message>
 </context>
 <context>
     <name>halvern::OutputMenu</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr</translation>
     </message>
     <message>
         <source>Print to a &amp;PDF File...</source>
-        <translation type="unfinished"></translation>
+        <translation>In eine &amp;PDF-Datei drucken ...</translation>
     </message>
     <message>
         <source>&amp;Copy as Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;Befehl kopieren</translation>
     </message>
     <message>
         <source>Print to a PDF File</source>
-        <translation type="unfinished"></translation>
+        <translation>In eine PDF-Datei drucken</translation>
     </message>
     <message>
         <source>PDF files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Dateien (*.pdf)</translation>
     </message>
     <message>
         <source>The command that prints this again is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Befehl, der dies wieder druckt, ist in der Zwischenablage.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
     <message>
         <source>Last page &amp;first</source>
-        <translation type="unfinished"></translation>
+        <translation>Let&amp;zte Seite zuerst</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu druckende Seiten</translation>
     </message>
     <message>
         <source>Odd and even</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade und ungerade</translation>
     </message>
     <message>
         <source>Odd only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ungerade</translation>
     </message>
     <message>
         <source>Even only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur gerade</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungerade oder gerade Seiten</translation>
     </message>
     <message>
         <source>All %1, or for example 1-3, 5-</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle %1, oder zum Beispiel 1-3, 5-</translation>
     </message>
 </context>
 <context>
@@ -1627,7 +1634,7 @@
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftrag</translation>
     </message>
 </context>
 <context>
@@ -1670,230 +1677,230 @@
     </message>
     <message>
         <source>Search by name or measures</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Name oder Maßen suchen</translation>
     </message>
     <message>
         <source>&amp;Borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand&amp;los</translation>
     </message>
     <message>
         <source>&amp;Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beidseitig:</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sei&amp;ten:</translation>
     </message>
     <message>
         <source>Paper size</source>
-        <translation type="unfinished">Papierformat</translation>
+        <translation>Papierformat</translation>
     </message>
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker hat dieses Papierformat nicht sowohl mit als auch ohne Rand.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PaperSizeList</name>
     <message>
         <source>Custom size...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes Format ...</translation>
     </message>
 </context>
 <context>
     <name>halvern::PdfOutput</name>
     <message>
         <source>The file &quot;%1&quot; could not be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ konnte nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine gewöhnliche Datei. Nennen Sie eine Datei zum Schreiben.</translation>
     </message>
     <message>
         <source>Cancelled: no file was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: Es wurde keine Datei geschrieben.</translation>
     </message>
     <message>
         <source>No file was written. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine Datei geschrieben. %1</translation>
     </message>
     <message>
         <source>1 page was written to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Seite wurde in „%1“ geschrieben.</translation>
     </message>
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Seiten wurden in „%2“ geschrieben.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetBar</name>
     <message>
         <source>From your saved options (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Ihren gespeicherten Optionen (lpoptions)</translation>
     </message>
     <message>
         <source>Made for a printer of the same model</source>
-        <translation type="unfinished"></translation>
+        <translation>Für einen Drucker desselben Modells angelegt</translation>
     </message>
     <message>
         <source>Nothing was printed here yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier wurde noch nichts gedruckt</translation>
     </message>
     <message>
         <source>Presets (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen (*.json)</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Save, rename and more</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern, umbenennen und mehr</translation>
     </message>
     <message>
         <source>Read from the file, and not applied yet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus der Datei gelesen und noch nicht angewendet: %1</translation>
     </message>
     <message>
         <source>%1 – changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – geändert</translation>
     </message>
     <message>
         <source>&amp;Save as New Preset...</source>
-        <translation type="unfinished"></translation>
+        <translation>Als neue Voreinstellung &amp;speichern ...</translation>
     </message>
     <message>
         <source>&amp;Import from File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Datei &amp;importieren ...</translation>
     </message>
     <message>
         <source>Export &amp;All to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle in Datei exportieren ...</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen</translation>
     </message>
     <message>
         <source>&amp;Update &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ a&amp;ktualisieren</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ktualisieren</translation>
     </message>
     <message>
         <source>&amp;Rename &quot;%1&quot;...</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ &amp;umbenennen ...</translation>
     </message>
     <message>
         <source>&amp;Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen ...</translation>
     </message>
     <message>
         <source>&amp;Delete &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ &amp;löschen</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>&amp;Export &quot;%1&quot; to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ in Datei &amp;exportieren ...</translation>
     </message>
     <message>
         <source>&amp;Export to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>In Datei &amp;exportieren ...</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Voreinstellung „%1“ wurde gelöscht.</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">Rü&amp;ckgängig</translation>
+        <translation>Rü&amp;ckgängig</translation>
     </message>
     <message>
         <source>Import Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen importieren</translation>
     </message>
     <message>
         <source>Export Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen exportieren</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetNameDialog</name>
     <message>
         <source>Save Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung speichern</translation>
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellung umbenennen</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>With the number of &amp;copies (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der Zahl der &amp;Exemplare (%1)</translation>
     </message>
     <message>
         <source>With the &amp;pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit den zu druckenden Se&amp;iten</translation>
     </message>
     <message>
         <source>With the &amp;text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit dem &amp;Text auf der Rückseite</translation>
     </message>
     <message>
         <source>This name is always there. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Namen gibt es immer. Wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>There is a preset of this name. It will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt eine Voreinstellung dieses Namens. Sie wird ersetzt.</translation>
     </message>
     <message>
         <source>There is a preset of this name. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt eine Voreinstellung dieses Namens. Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
 <context>
     <name>halvern::Presets</name>
     <message>
         <source>%1 (from %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (von %2)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Voreinstellung „%2“.</translation>
     </message>
     <message>
         <source>It has: %1.</source>
-        <translation type="unfinished">Es gibt: %1.</translation>
+        <translation>Es gibt: %1.</translation>
     </message>
     <message>
         <source>Did you mean %1?</source>
-        <translation type="unfinished">Meinten Sie %1?</translation>
+        <translation>Meinten Sie %1?</translation>
     </message>
 </context>
 <context>
@@ -2075,35 +2082,35 @@
     </message>
     <message>
         <source>Search by name, place or model</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Name, Ort oder Modell suchen</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Drucker</translation>
+        <translation>Drucker</translation>
     </message>
     <message>
         <source>Pre&amp;set:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorein&amp;stellung:</translation>
     </message>
     <message>
         <source>1 option was put back to the printer&apos;s default.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Option wurde auf die Vorgabe des Druckers zurückgesetzt.</translation>
     </message>
     <message>
         <source>%1 options were put back to the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Optionen wurden auf die Vorgaben des Druckers zurückgesetzt.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde angewendet.</translation>
     </message>
     <message>
         <source>No page is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Seite gewählt.</translation>
     </message>
     <message>
         <source>Writing the file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wird geschrieben ...</translation>
     </message>
 </context>
 <context>
@@ -2148,15 +2155,15 @@
     <name>halvern::PrinterRows</name>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt verwendet</translation>
     </message>
     <message>
         <source>Found on the network</source>
-        <translation type="unfinished">Im Netz gefunden</translation>
+        <translation>Im Netz gefunden</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker</translation>
     </message>
 </context>
 <context>
@@ -2179,14 +2186,14 @@
     </message>
     <message>
         <source>✓ as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ wie angezeigt</translation>
     </message>
 </context>
 <context>
     <name>halvern::SearchPopup</name>
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts hier heißt „%1“.</translation>
     </message>
 </context>
 <context>
@@ -2241,31 +2248,31 @@
     </message>
     <message>
         <source>All other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle anderen Einstellungen</translation>
     </message>
     <message>
         <source>The options as they are sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Optionen, wie sie gesendet werden</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 von %2</translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Job title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel des Auftrags</translation>
     </message>
     <message>
         <source>printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgabe des Druckers: %1</translation>
     </message>
     <message>
         <source>%1 more are in the list of all other settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weitere stehen in der Liste aller anderen Einstellungen.</translation>
     </message>
 </context>
 </TS>

@@ -111,75 +111,75 @@
     </message>
     <message>
         <source>Print these pages only, for example 1-3,7,12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer seulement ces pages, par exemple 1-3,7,12-.</translation>
     </message>
     <message>
         <source>Print the last page first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer la dernière page en premier.</translation>
     </message>
     <message>
         <source>Call the job this; without it, it is called like the first file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donner ce nom à la tâche ; sinon, elle prend celui du premier fichier.</translation>
     </message>
     <message>
         <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire les pages, telles qu’elles seraient envoyées, dans ce fichier PDF, sans rien envoyer.</translation>
     </message>
     <message>
         <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec --no-dialog : relire la tâche sur le serveur d’impression et dire ce qui a été ajouté ou modifié.</translation>
     </message>
     <message>
         <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer avec ce préréglage de l’imprimante. Sans lui, le dialogue commence avec les réglages de votre dernière impression, et --no-dialog avec vos options enregistrées.</translation>
     </message>
     <message>
         <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer comme préréglage les options enregistrées de la file, --preset et les options données ici, sans rien imprimer. Les copies, les pages et le texte au dos en font partie s’ils sont donnés.</translation>
     </message>
     <message>
         <source>Write the print server&apos;s queues, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les files du serveur d’impression, une par ligne.</translation>
     </message>
     <message>
         <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les options de l’imprimante avec leur valeur actuelle, leur valeur par défaut et leurs choix, une par ligne.</translation>
     </message>
     <message>
         <source>Write the names of the printer&apos;s presets, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les noms des préréglages de l’imprimante, un par ligne.</translation>
     </message>
     <message>
         <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec --list-printers, --list-options ou --list-presets : écrire du JSON, avec plus de détails.</translation>
     </message>
     <message>
         <source>The name of the file to write is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du fichier à écrire est vide.</translation>
     </message>
     <message>
         <source>--output writes a file, and does not go with --dry-run.</source>
-        <translation type="unfinished"></translation>
+        <translation>--output écrit un fichier et ne va pas avec --dry-run.</translation>
     </message>
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
-        <translation type="unfinished"></translation>
+        <translation>--verify s’emploie avec --no-dialog, et jamais quand aucune tâche n’est envoyée.</translation>
     </message>
     <message>
         <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation type="unfinished"></translation>
+        <translation>--json s’emploie avec --list-printers, --list-options ou --list-presets.</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 n’imprime pas de fichiers : retirez les fichiers et les options d’impression.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est un préréglage toujours présent. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un nom de préréglage : écrivez de 1 à %2 caractères.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -190,7 +190,14 @@
   4  Cancelled: nothing was printed.
   5  The job was sent, but the print server does not answer: the outcome is not known.
   6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Code de sortie :
+  0  Imprimé, ou ce qui était demandé a été écrit.
+  1  Échec ; la sortie d’erreur dit pourquoi.
+  2  Mauvais usage.
+  3  La tâche est dans la file et n’était pas encore terminée.
+  4  Annulé : rien n’a été imprimé.
+  5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue n’est pas connue.
+  6  Avec --verify : imprimé, mais le serveur d’impression ne détient pas la tâche telle qu’elle a été envoyée.</translation>
     </message>
 </context>
 <context>
@@ -232,11 +239,11 @@
     <name>CustomPaper</name>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 po</translation>
+        <translation>%1 × %2 po</translation>
     </message>
 </context>
 <context>
@@ -302,11 +309,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un ensemble de pages. Écrivez page-set=all, odd ou even.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un ordre de pages. Écrivez outputorder=normal ou reverse.</translation>
     </message>
 </context>
 <context>
@@ -339,110 +346,110 @@
     <name>JobInWords</name>
     <message>
         <source>not enough paper for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas assez de papier pour %1</translation>
     </message>
     <message>
         <source>roll %1</source>
-        <translation type="unfinished"></translation>
+        <translation>rouleau %1</translation>
     </message>
     <message>
         <source>%1 roll %2</source>
-        <translation type="unfinished"></translation>
+        <translation>rouleau %1 %2</translation>
     </message>
     <message>
         <source>sheet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>feuille : %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 po</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>two-sided: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>recto verso : %1</translation>
     </message>
     <message>
         <source>pages %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>pages %1 sur %2</translation>
     </message>
     <message>
         <source>%1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pages</translation>
     </message>
     <message>
         <source>last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>dernière page en premier</translation>
     </message>
     <message>
         <source>1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>1 copie</translation>
     </message>
     <message>
         <source>%1 copies</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 copies</translation>
     </message>
     <message>
         <source>not collated</source>
-        <translation type="unfinished"></translation>
+        <translation>non assemblées</translation>
     </message>
     <message>
         <source>text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>texte au dos</translation>
     </message>
     <message>
         <source>with a banner page</source>
-        <translation type="unfinished"></translation>
+        <translation>avec une page de garde</translation>
     </message>
     <message>
         <source>held on the queue</source>
-        <translation type="unfinished"></translation>
+        <translation>retenue dans la file</translation>
     </message>
     <message>
         <source>%1 more settings changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 autres réglages modifiés</translation>
     </message>
     <message>
         <source>%1 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cm</translation>
     </message>
     <message>
         <source>%1 borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sans bordure</translation>
     </message>
 </context>
 <context>
     <name>JobReadBack</name>
     <message>
         <source>The print server does not tell what it holds of job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression ne dit pas ce qu’il détient de la tâche %1.</translation>
     </message>
     <message>
         <source>The print server holds job %1 exactly as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression détient la tâche %1 exactement telle qu’elle a été envoyée.</translation>
     </message>
     <message>
         <source>%1 instead of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 au lieu de %2</translation>
     </message>
     <message>
         <source>without %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sans %1</translation>
     </message>
     <message>
         <source>Added to job %1 by the print server or the queue: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouté à la tâche %1 par le serveur d’impression ou la file : %2.</translation>
     </message>
     <message>
         <source>Changed in job %1 by the print server: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifié dans la tâche %1 par le serveur d’impression : %2.</translation>
     </message>
 </context>
 <context>
@@ -598,31 +605,31 @@
     <name>Listings</name>
     <message>
         <source>%1 (default): %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (par défaut) : %2 %3</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
-        <translation type="unfinished">%1 : %2 %3 {1:?}</translation>
+        <translation>%1 : %2 %3</translation>
     </message>
     <message>
         <source>The print server has no printers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression n’a aucune imprimante.</translation>
     </message>
     <message>
         <source>%1 (from your saved options)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (de vos options enregistrées)</translation>
     </message>
     <message>
         <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglage « %1 » de « %2 » enregistré.</translation>
     </message>
     <message>
         <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (installé dans l’imprimante) « %2 » : %3</translation>
     </message>
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (par défaut %2) « %3 » : %4</translation>
     </message>
 </context>
 <context>
@@ -636,31 +643,31 @@
     <name>PageChoice</name>
     <message>
         <source>There is no page %1: there is one page only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de page %1 : il n’y a qu’une page.</translation>
     </message>
     <message>
         <source>There is no page %1: the first page is 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de page %1 : la première page est 1.</translation>
     </message>
     <message>
         <source>There is no page %1: the pages are 1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de page %1 : les pages vont de 1 à %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » finit avant de commencer. Écrivez %2-%3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas une page. Écrivez des nombres et des intervalles, par exemple 1-3, 7, 12-.</translation>
     </message>
     <message>
         <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune de ces pages n’a un numéro impair. Choisissez toutes les pages, ou d’autres.</translation>
     </message>
     <message>
         <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune de ces pages n’a un numéro pair. Choisissez toutes les pages, ou d’autres.</translation>
     </message>
 </context>
 <context>
@@ -685,43 +692,43 @@
     <name>PaperSizes</name>
     <message>
         <source>For the loaded paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour le papier chargé</translation>
     </message>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisés en dernier</translation>
     </message>
     <message>
         <source>Your sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos formats</translation>
     </message>
     <message>
         <source>Photo sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Formats photo</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished">Rouleau</translation>
+        <translation>Rouleau</translation>
     </message>
     <message>
         <source>ISO</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO</translation>
     </message>
     <message>
         <source>US</source>
-        <translation type="unfinished"></translation>
+        <translation>US</translation>
     </message>
     <message>
         <source>Other sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres formats</translation>
     </message>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 po</translation>
+        <translation>%1 × %2 po</translation>
     </message>
 </context>
 <context>
@@ -900,122 +907,122 @@
     </message>
     <message>
         <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs par défaut de l’imprimante ne vont pas avec ce qui est choisi ailleurs. Rétablissez les options une par une.</translation>
     </message>
     <message>
         <source>not with what the printer has loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>pas avec ce qui est chargé dans l’imprimante</translation>
     </message>
     <message>
         <source>not with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas avec %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 po</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>It holds no presets of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient pas de préréglages de ce programme.</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été écrit par une version plus récente de ce programme.</translation>
     </message>
     <message>
         <source>Printer Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs par défaut de l’imprimante</translation>
     </message>
     <message>
         <source>Last Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Derniers réglages</translation>
     </message>
     <message>
         <source>It is no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier.</translation>
     </message>
     <message>
         <source>It is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est trop grand.</translation>
     </message>
     <message>
         <source>There are %1 presets already. Delete one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà %1 préréglages. Supprimez-en d’abord un.</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le préréglage « %1 » n’existe plus.</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages de « %1 » sont illisibles, et %2 ne peut pas être mis de côté. %3</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages de « %1 » étaient illisibles et repartent de zéro. Ce qu’il y avait est dans %2. %3</translation>
     </message>
     <message>
         <source>The presets in %1 cannot be used. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages de %1 sont inutilisables. %2</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and are left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains préréglages de %1 sont illisibles et restent tels quels.</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages de « %1 » n’ont pas pu être écrits dans %2. %3</translation>
     </message>
     <message>
         <source>The folder cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier ne peut pas être créé.</translation>
     </message>
     <message>
         <source>Another program holds the lock %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme détient le verrou %1.</translation>
     </message>
     <message>
         <source>It would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier serait trop grand.</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà un préréglage « %1 ». Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>No presets were read from %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun préréglage n’a été lu dans %1. %2</translation>
     </message>
     <message>
         <source>There is none in it that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient aucun préréglage lisible.</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains préréglages de %1 sont illisibles et ont été omis.</translation>
     </message>
     <message>
         <source>The presets could not be written to %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préréglages n’ont pas pu être écrits dans %1. %2</translation>
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;.</source>
-        <translation type="unfinished">L’imprimante n’a pas d’option « %1 ».</translation>
+        <translation>L’imprimante n’a pas d’option « %1 ».</translation>
     </message>
     <message>
         <source>And %1 more.</source>
-        <translation type="unfinished">Et %1 de plus.</translation>
+        <translation>Et %1 de plus.</translation>
     </message>
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie de « %1 » n’est pas possible pour le moment.</translation>
     </message>
 </context>
 <context>
@@ -1058,7 +1065,7 @@
     </message>
     <message>
         <source>The print server has no default printer. Name one with --printer.</source>
-        <translation type="unfinished">Le serveur d&apos;impression n&apos;a pas d&apos;imprimante par défaut. Indiquez-en une avec --printer.</translation>
+        <translation>Le serveur d’impression n’a pas d’imprimante par défaut. Indiquez-en une avec --printer.</translation>
     </message>
 </context>
 <context>
@@ -1170,11 +1177,11 @@
     <name>Stepper</name>
     <message>
         <source>Increase</source>
-        <translation type="unfinished">Augmenter</translation>
+        <translation>Augmenter</translation>
     </message>
     <message>
         <source>Decrease</source>
-        <translation type="unfinished">Diminuer</translation>
+        <translation>Diminuer</translation>
     </message>
 </context>
 <context>
@@ -1208,85 +1215,85 @@
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1 : %2 {1;?}</translation>
+        <translation>%1 ; %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre valeur…</translation>
     </message>
     <message>
         <source>%1: other value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : autre valeur</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>po</translation>
     </message>
     <message>
         <source>pt</source>
-        <translation type="unfinished"></translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomPaperRow</name>
     <message>
         <source>Width of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur du papier</translation>
     </message>
     <message>
         <source>Height of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur du papier</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conserver</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>po</translation>
     </message>
     <message>
         <source>Unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité de longueur</translation>
     </message>
     <message>
         <source>Name, to find it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom, pour le retrouver</translation>
     </message>
     <message>
         <source>Name of this paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de ce format de papier</translation>
     </message>
     <message>
         <source>From %1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>De %1 à %2 %3</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation type="unfinished"></translation>
+        <translation>Oub&amp;lier</translation>
     </message>
     <message>
         <source>As &amp;Long as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi lo&amp;ng que la photo</translation>
     </message>
     <message>
         <source>As &amp;High as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi &amp;haut que la photo</translation>
     </message>
 </context>
 <context>
@@ -1300,114 +1307,114 @@
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, dans %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::JobPage</name>
     <message>
         <source>At once</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout de suite</translation>
     </message>
     <message>
         <source>When somebody releases it</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand quelqu’un la libère</translation>
     </message>
     <message>
         <source>By day, from 6:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Le jour, à partir de 6 h</translation>
     </message>
     <message>
         <source>In the evening, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Le soir, à partir de 18 h</translation>
     </message>
     <message>
         <source>At night, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>La nuit, à partir de 18 h</translation>
     </message>
     <message>
         <source>In the second shift, from 16:00</source>
-        <translation type="unfinished"></translation>
+        <translation>En deuxième équipe, à partir de 16 h</translation>
     </message>
     <message>
         <source>In the third shift, from 0:00</source>
-        <translation type="unfinished"></translation>
+        <translation>En troisième équipe, à partir de 0 h</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>Le week-end</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Unclassified</source>
-        <translation type="unfinished"></translation>
+        <translation>Non classifié</translation>
     </message>
     <message>
         <source>Confidential</source>
-        <translation type="unfinished"></translation>
+        <translation>Confidentiel</translation>
     </message>
     <message>
         <source>Classified</source>
-        <translation type="unfinished"></translation>
+        <translation>Classifié</translation>
     </message>
     <message>
         <source>Secret</source>
-        <translation type="unfinished"></translation>
+        <translation>Secret</translation>
     </message>
     <message>
         <source>Top secret</source>
-        <translation type="unfinished"></translation>
+        <translation>Très secret</translation>
     </message>
     <message>
         <source>1 waits longest, 100 goes first</source>
-        <translation type="unfinished"></translation>
+        <translation>1 attend le plus longtemps, 100 passe en premier</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titre :</translation>
     </message>
     <message>
         <source>Pr&amp;iority:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;iorité :</translation>
     </message>
     <message>
         <source>Print &amp;when:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quand imprimer :</translation>
     </message>
     <message>
         <source>Page &amp;before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Page a&amp;vant :</translation>
     </message>
     <message>
         <source>Page &amp;after:</source>
-        <translation type="unfinished"></translation>
+        <translation>Page &amp;après :</translation>
     </message>
     <message>
         <source>Print when</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand imprimer</translation>
     </message>
     <message>
         <source>Time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>At a time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>À une heure précise</translation>
     </message>
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pages avant et après la tâche se choisissent à la page « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -1433,170 +1440,170 @@
     <name>halvern::OptionDelegate</name>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (valeur de l’imprimante)</translation>
+        <translation>%1 (valeur par défaut de l’imprimante)</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>also sets %1</source>
-        <translation type="unfinished"></translation>
+        <translation>règle aussi %1</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionFinder</name>
     <message>
         <source>Search options and printers (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des options et des imprimantes (Ctrl+F)</translation>
     </message>
     <message>
         <source>Search options and printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des options et des imprimantes</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimantes</translation>
     </message>
     <message>
         <source>%1 › %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 › %2</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche…</translation>
     </message>
     <message>
         <source>Nothing has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne porte ce nom.</translation>
     </message>
     <message>
         <source>The first %1 that were found</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 premiers résultats</translation>
     </message>
     <message>
         <source>%1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats : %1</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionTree</name>
     <message>
         <source>Installed in the printer (set by whoever installed it)</source>
-        <translation type="unfinished"></translation>
+        <translation>Installé dans l’imprimante (réglé par la personne qui l’a installée)</translation>
     </message>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (valeur de l’imprimante)</translation>
+        <translation>%1 (valeur par défaut de l’imprimante)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Put back to the printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir la valeur par défaut de l’imprimante : %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Changed from the printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Diffère de la valeur par défaut de l’imprimante</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
     <message>
         <source>Show changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifiées seulement</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout rétablir</translation>
     </message>
     <message>
         <source>Puts the options of this page back to the printer&apos;s defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablit pour les options de cette page les valeurs par défaut de l’imprimante</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished">Options</translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune modification</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications : %1</translation>
     </message>
     <message>
         <source>Put Back to the Printer&apos;s Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir la valeur par défaut de l’imprimante</translation>
     </message>
 </context>
 <context>
     <name>halvern::OutputMenu</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus</translation>
     </message>
     <message>
         <source>Print to a &amp;PDF File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer dans un fichier &amp;PDF…</translation>
     </message>
     <message>
         <source>&amp;Copy as Command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier comme commande</translation>
     </message>
     <message>
         <source>Print to a PDF File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer dans un fichier PDF</translation>
     </message>
     <message>
         <source>PDF files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The command that prints this again is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>La commande qui imprime cela à nouveau est dans le presse-papiers.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
     <message>
         <source>Last page &amp;first</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dernière page en premier</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages à imprimer</translation>
     </message>
     <message>
         <source>Odd and even</source>
-        <translation type="unfinished"></translation>
+        <translation>Paires et impaires</translation>
     </message>
     <message>
         <source>Odd only</source>
-        <translation type="unfinished"></translation>
+        <translation>Impaires seulement</translation>
     </message>
     <message>
         <source>Even only</source>
-        <translation type="unfinished"></translation>
+        <translation>Paires seulement</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages impaires ou paires</translation>
     </message>
     <message>
         <source>All %1, or for example 1-3, 5-</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes (%1), ou par exemple 1-3, 5-</translation>
     </message>
 </context>
 <context>
@@ -1627,7 +1634,7 @@
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Tâche</translation>
     </message>
 </context>
 <context>
@@ -1670,230 +1677,230 @@
     </message>
     <message>
         <source>Search by name or measures</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher par nom ou dimensions</translation>
     </message>
     <message>
         <source>&amp;Borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans &amp;bordure</translation>
     </message>
     <message>
         <source>&amp;Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>Recto &amp;verso :</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation type="unfinished"></translation>
+        <translation>Page&amp;s :</translation>
     </message>
     <message>
         <source>Paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Format du papier</translation>
     </message>
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante n’a pas ce format de papier à la fois avec et sans marge.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PaperSizeList</name>
     <message>
         <source>Custom size...</source>
-        <translation type="unfinished"></translation>
+        <translation>Format personnalisé…</translation>
     </message>
 </context>
 <context>
     <name>halvern::PdfOutput</name>
     <message>
         <source>The file &quot;%1&quot; could not be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier « %1 » n’a pas pu être écrit : %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un fichier ordinaire. Nommez un fichier à écrire.</translation>
     </message>
     <message>
         <source>Cancelled: no file was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé : aucun fichier n’a été écrit.</translation>
     </message>
     <message>
         <source>No file was written. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier n’a été écrit. %1</translation>
     </message>
     <message>
         <source>1 page was written to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 page a été écrite dans « %1 ».</translation>
     </message>
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pages ont été écrites dans « %2 ».</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetBar</name>
     <message>
         <source>From your saved options (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>De vos options enregistrées (lpoptions)</translation>
     </message>
     <message>
         <source>Made for a printer of the same model</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait pour une imprimante du même modèle</translation>
     </message>
     <message>
         <source>Nothing was printed here yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a encore été imprimé ici</translation>
     </message>
     <message>
         <source>Presets (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages (*.json)</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglage</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Save, rename and more</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer, renommer et plus</translation>
     </message>
     <message>
         <source>Read from the file, and not applied yet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lu dans le fichier et pas encore appliqué : %1</translation>
     </message>
     <message>
         <source>%1 – changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – modifié</translation>
     </message>
     <message>
         <source>&amp;Save as New Preset...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer comme nouveau préréglage…</translation>
     </message>
     <message>
         <source>&amp;Import from File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer d’un fichier…</translation>
     </message>
     <message>
         <source>Export &amp;All to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter &amp;tous vers un fichier…</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages</translation>
     </message>
     <message>
         <source>&amp;Update &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mettre à jour « %1 »</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mettre à jour</translation>
     </message>
     <message>
         <source>&amp;Rename &quot;%1&quot;...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer « %1 »…</translation>
     </message>
     <message>
         <source>&amp;Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer…</translation>
     </message>
     <message>
         <source>&amp;Delete &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer « %1 »</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>&amp;Export &quot;%1&quot; to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter « %1 » vers un fichier…</translation>
     </message>
     <message>
         <source>&amp;Export to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xporter vers un fichier…</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le préréglage « %1 » a été supprimé.</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">Ann&amp;uler la modification</translation>
+        <translation>Ann&amp;uler la modification</translation>
     </message>
     <message>
         <source>Import Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des préréglages</translation>
     </message>
     <message>
         <source>Export Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter des préréglages</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetNameDialog</name>
     <message>
         <source>Save Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le préréglage</translation>
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer le préréglage</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom :</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer</translation>
     </message>
     <message>
         <source>With the number of &amp;copies (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec le nombre de &amp;copies (%1)</translation>
     </message>
     <message>
         <source>With the &amp;pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec les &amp;pages à imprimer</translation>
     </message>
     <message>
         <source>With the &amp;text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec le &amp;texte au dos</translation>
     </message>
     <message>
         <source>This name is always there. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce nom existe toujours. Choisissez-en un autre.</translation>
     </message>
     <message>
         <source>There is a preset of this name. It will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un préréglage de ce nom. Il sera remplacé.</translation>
     </message>
     <message>
         <source>There is a preset of this name. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a un préréglage de ce nom. Choisissez-en un autre.</translation>
     </message>
 </context>
 <context>
     <name>halvern::Presets</name>
     <message>
         <source>%1 (from %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (de %2)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’a pas de préréglage « %2 ».</translation>
     </message>
     <message>
         <source>It has: %1.</source>
-        <translation type="unfinished">Il y a : %1.</translation>
+        <translation>Il y a : %1.</translation>
     </message>
     <message>
         <source>Did you mean %1?</source>
-        <translation type="unfinished">Vouliez-vous dire %1 ?</translation>
+        <translation>Vouliez-vous dire %1 ?</translation>
     </message>
 </context>
 <context>
@@ -2075,35 +2082,35 @@
     </message>
     <message>
         <source>Search by name, place or model</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher par nom, lieu ou modèle</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Imprimante</translation>
+        <translation>Imprimante</translation>
     </message>
     <message>
         <source>Pre&amp;set:</source>
-        <translation type="unfinished"></translation>
+        <translation>Prérégla&amp;ge :</translation>
     </message>
     <message>
         <source>1 option was put back to the printer&apos;s default.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 option a été rétablie à la valeur par défaut de l’imprimante.</translation>
     </message>
     <message>
         <source>%1 options were put back to the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 options ont été rétablies aux valeurs par défaut de l’imprimante.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été appliqué.</translation>
     </message>
     <message>
         <source>No page is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune page n’est choisie.</translation>
     </message>
     <message>
         <source>Writing the file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture du fichier…</translation>
     </message>
 </context>
 <context>
@@ -2148,15 +2155,15 @@
     <name>halvern::PrinterRows</name>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisées en dernier</translation>
     </message>
     <message>
         <source>Found on the network</source>
-        <translation type="unfinished">Trouvée sur le réseau</translation>
+        <translation>Trouvées sur le réseau</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimantes</translation>
     </message>
 </context>
 <context>
@@ -2179,14 +2186,14 @@
     </message>
     <message>
         <source>✓ as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ comme affiché</translation>
     </message>
 </context>
 <context>
     <name>halvern::SearchPopup</name>
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ici ne s’appelle « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -2241,31 +2248,31 @@
     </message>
     <message>
         <source>All other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les autres réglages</translation>
     </message>
     <message>
         <source>The options as they are sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Les options telles qu’elles sont envoyées</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 sur %2</translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Job title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre de la tâche</translation>
     </message>
     <message>
         <source>printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>valeur par défaut de l’imprimante : %1</translation>
     </message>
     <message>
         <source>%1 more are in the list of all other settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste de tous les autres réglages en contient %1 de plus.</translation>
     </message>
 </context>
 </TS>
