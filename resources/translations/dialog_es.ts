@@ -111,75 +111,75 @@
     </message>
     <message>
         <source>Print these pages only, for example 1-3,7,12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir solo estas páginas, por ejemplo 1-3,7,12-.</translation>
     </message>
     <message>
         <source>Print the last page first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir primero la última página.</translation>
     </message>
     <message>
         <source>Call the job this; without it, it is called like the first file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dar este nombre al trabajo; si no se indica, se llama como el primer archivo.</translation>
     </message>
     <message>
         <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir las páginas, tal como se enviarían, en este archivo PDF y no enviar nada.</translation>
     </message>
     <message>
         <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --no-dialog: volver a leer el trabajo del servidor de impresión e indicar qué se añadió o cambió.</translation>
     </message>
     <message>
         <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar con este preajuste de la impresora. Si no se indica, el diálogo empieza con lo último que usó para imprimir, y --no-dialog, con sus opciones guardadas.</translation>
     </message>
     <message>
         <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como preajuste las opciones guardadas de la cola, --preset y las opciones indicadas aquí, y no imprimir nada. Las copias, las páginas y el texto del dorso se incluyen si se indican.</translation>
     </message>
     <message>
         <source>Write the print server&apos;s queues, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir las colas del servidor de impresión, una por línea.</translation>
     </message>
     <message>
         <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir las opciones de la impresora con su valor actual, su valor predeterminado y los valores posibles, una por línea.</translation>
     </message>
     <message>
         <source>Write the names of the printer&apos;s presets, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir los nombres de los preajustes de la impresora, uno por línea.</translation>
     </message>
     <message>
         <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con --list-printers, --list-options o --list-presets: escribir JSON, con más detalles.</translation>
     </message>
     <message>
         <source>The name of the file to write is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre del archivo que se va a escribir está vacío.</translation>
     </message>
     <message>
         <source>--output writes a file, and does not go with --dry-run.</source>
-        <translation type="unfinished"></translation>
+        <translation>--output escribe un archivo y no se puede usar con --dry-run.</translation>
     </message>
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
-        <translation type="unfinished"></translation>
+        <translation>--verify se usa con --no-dialog y no con opciones que no envían ningún trabajo.</translation>
     </message>
     <message>
         <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation type="unfinished"></translation>
+        <translation>--json se usa con --list-printers, --list-options o --list-presets.</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 no imprime archivos: quite los archivos y las opciones de impresión.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es un preajuste que siempre existe. Elija otro nombre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un nombre de preajuste: escriba de 1 a %2 caracteres.</translation>
     </message>
     <message>
         <source>Exit status:
@@ -190,7 +190,14 @@
   4  Cancelled: nothing was printed.
   5  The job was sent, but the print server does not answer: the outcome is not known.
   6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de salida:
+  0  Impreso, o escrito lo que se pidió.
+  1  Error; la salida de error estándar indica la causa.
+  2  Uso incorrecto.
+  3  El trabajo está en la cola y aún no había terminado.
+  4  Cancelado: no se imprimió nada.
+  5  El trabajo se envió, pero el servidor de impresión no responde: no se conoce el resultado.
+  6  Con --verify: impreso, pero el servidor de impresión no lo tiene tal como se envió.</translation>
     </message>
 </context>
 <context>
@@ -232,11 +239,11 @@
     <name>CustomPaper</name>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 pulg.</translation>
+        <translation>%1 × %2 pulg.</translation>
     </message>
 </context>
 <context>
@@ -302,11 +309,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una selección de páginas. Escriba page-set=all, odd o even.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un orden de páginas. Escriba outputorder=normal o reverse.</translation>
     </message>
 </context>
 <context>
@@ -339,110 +346,110 @@
     <name>JobInWords</name>
     <message>
         <source>not enough paper for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el papel no alcanza para %1</translation>
     </message>
     <message>
         <source>roll %1</source>
-        <translation type="unfinished"></translation>
+        <translation>rollo de %1</translation>
     </message>
     <message>
         <source>%1 roll %2</source>
-        <translation type="unfinished"></translation>
+        <translation>rollo %1 de %2</translation>
     </message>
     <message>
         <source>sheet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hoja: %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pulg.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>two-sided: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>a doble cara: %1</translation>
     </message>
     <message>
         <source>pages %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>páginas %1 de %2</translation>
     </message>
     <message>
         <source>%1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 páginas</translation>
     </message>
     <message>
         <source>last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>la última página primero</translation>
     </message>
     <message>
         <source>1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>1 copia</translation>
     </message>
     <message>
         <source>%1 copies</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 copias</translation>
     </message>
     <message>
         <source>not collated</source>
-        <translation type="unfinished"></translation>
+        <translation>sin intercalar</translation>
     </message>
     <message>
         <source>text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>texto en el dorso</translation>
     </message>
     <message>
         <source>with a banner page</source>
-        <translation type="unfinished"></translation>
+        <translation>con portada</translation>
     </message>
     <message>
         <source>held on the queue</source>
-        <translation type="unfinished"></translation>
+        <translation>retenido en la cola</translation>
     </message>
     <message>
         <source>%1 more settings changed</source>
-        <translation type="unfinished"></translation>
+        <translation>otros %1 ajustes cambiados</translation>
     </message>
     <message>
         <source>%1 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cm</translation>
     </message>
     <message>
         <source>%1 borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sin bordes</translation>
     </message>
 </context>
 <context>
     <name>JobReadBack</name>
     <message>
         <source>The print server does not tell what it holds of job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no comunica qué tiene del trabajo %1.</translation>
     </message>
     <message>
         <source>The print server holds job %1 exactly as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión tiene el trabajo %1 exactamente como se envió.</translation>
     </message>
     <message>
         <source>%1 instead of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en lugar de %2</translation>
     </message>
     <message>
         <source>without %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sin %1</translation>
     </message>
     <message>
         <source>Added to job %1 by the print server or the queue: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadido al trabajo %1 por el servidor de impresión o la cola: %2.</translation>
     </message>
     <message>
         <source>Changed in job %1 by the print server: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiado en el trabajo %1 por el servidor de impresión: %2.</translation>
     </message>
 </context>
 <context>
@@ -598,31 +605,31 @@
     <name>Listings</name>
     <message>
         <source>%1 (default): %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (predeterminada): %2 %3</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
-        <translation type="unfinished">%1: %2 %3 {1:?}</translation>
+        <translation>%1: %2 %3</translation>
     </message>
     <message>
         <source>The print server has no printers.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión no tiene impresoras.</translation>
     </message>
     <message>
         <source>%1 (from your saved options)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (de sus opciones guardadas)</translation>
     </message>
     <message>
         <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó el preajuste «%1» de «%2».</translation>
     </message>
     <message>
         <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (instalado en la impresora) «%2»: %3</translation>
     </message>
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (predeterminado: %2) «%3»: %4</translation>
     </message>
 </context>
 <context>
@@ -636,31 +643,31 @@
     <name>PageChoice</name>
     <message>
         <source>There is no page %1: there is one page only.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la página %1: solo hay una página.</translation>
     </message>
     <message>
         <source>There is no page %1: the first page is 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la página %1: la primera página es la 1.</translation>
     </message>
     <message>
         <source>There is no page %1: the pages are 1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la página %1: las páginas van de la 1 a la %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» termina antes de empezar. Escriba %2-%3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una página. Escriba números e intervalos, por ejemplo 1-3, 7, 12-.</translation>
     </message>
     <message>
         <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna de estas páginas tiene número impar. Elija todas las páginas u otras.</translation>
     </message>
     <message>
         <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna de estas páginas tiene número par. Elija todas las páginas u otras.</translation>
     </message>
 </context>
 <context>
@@ -685,43 +692,43 @@
     <name>PaperSizes</name>
     <message>
         <source>For the loaded paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Para el papel cargado</translation>
     </message>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Usados recientemente</translation>
     </message>
     <message>
         <source>Your sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus tamaños</translation>
     </message>
     <message>
         <source>Photo sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaños de foto</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished">Rollo</translation>
+        <translation>Rollo</translation>
     </message>
     <message>
         <source>ISO</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO</translation>
     </message>
     <message>
         <source>US</source>
-        <translation type="unfinished"></translation>
+        <translation>EE. UU.</translation>
     </message>
     <message>
         <source>Other sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros tamaños</translation>
     </message>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 pulg.</translation>
+        <translation>%1 × %2 pulg.</translation>
     </message>
 </context>
 <context>
@@ -900,122 +907,122 @@
     </message>
     <message>
         <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores predeterminados de la impresora no son compatibles con lo elegido en otros lugares. Restablezca las opciones una por una.</translation>
     </message>
     <message>
         <source>not with what the printer has loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>no con lo que la impresora tiene cargado</translation>
     </message>
     <message>
         <source>not with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no con %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pulg.</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>It holds no presets of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene preajustes de este programa.</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo escribió una versión más reciente de este programa.</translation>
     </message>
     <message>
         <source>Printer Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores de la impresora</translation>
     </message>
     <message>
         <source>Last Used</source>
-        <translation type="unfinished"></translation>
+        <translation>Última impresión</translation>
     </message>
     <message>
         <source>It is no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo.</translation>
     </message>
     <message>
         <source>It is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es demasiado grande.</translation>
     </message>
     <message>
         <source>There are %1 presets already. Delete one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay %1 preajustes. Elimine uno primero.</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>El preajuste «%1» ya no existe.</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes de «%1» no se pueden leer, y %2 no se puede apartar. %3</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes de «%1» no se pudieron leer y se empieza de nuevo. Lo que había está en %2. %3</translation>
     </message>
     <message>
         <source>The presets in %1 cannot be used. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes de %1 no se pueden usar. %2</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and are left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos preajustes de %1 no se pueden leer y se dejan como están.</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes de «%1» no se pudieron escribir en %2. %3</translation>
     </message>
     <message>
         <source>The folder cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta.</translation>
     </message>
     <message>
         <source>Another program holds the lock %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa tiene el bloqueo %1.</translation>
     </message>
     <message>
         <source>It would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sería demasiado grande.</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un preajuste «%1». Elija otro nombre.</translation>
     </message>
     <message>
         <source>No presets were read from %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se leyó ningún preajuste de %1. %2</translation>
     </message>
     <message>
         <source>There is none in it that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay en él ninguno que se pueda leer.</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos preajustes de %1 no se pueden leer y se omitieron.</translation>
     </message>
     <message>
         <source>The presets could not be written to %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Los preajustes no se pudieron escribir en %1. %2</translation>
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;.</source>
-        <translation type="unfinished">La impresora no tiene la opción «%1».</translation>
+        <translation>La impresora no tiene la opción «%1».</translation>
     </message>
     <message>
         <source>And %1 more.</source>
-        <translation type="unfinished">Y %1 más.</translation>
+        <translation>Y %1 más.</translation>
     </message>
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
-        <translation type="unfinished"></translation>
+        <translation>No todo lo de «%1» está disponible ahora.</translation>
     </message>
 </context>
 <context>
@@ -1058,7 +1065,7 @@
     </message>
     <message>
         <source>The print server has no default printer. Name one with --printer.</source>
-        <translation type="unfinished">El servidor de impresión no tiene impresora predeterminada. Indique una con --printer.</translation>
+        <translation>El servidor de impresión no tiene impresora predeterminada. Indique una con --printer.</translation>
     </message>
 </context>
 <context>
@@ -1170,11 +1177,11 @@
     <name>Stepper</name>
     <message>
         <source>Increase</source>
-        <translation type="unfinished">Aumentar</translation>
+        <translation>Aumentar</translation>
     </message>
     <message>
         <source>Decrease</source>
-        <translation type="unfinished">Reducir</translation>
+        <translation>Reducir</translation>
     </message>
 </context>
 <context>
@@ -1208,85 +1215,85 @@
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1: %2 {1;?}</translation>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro valor...</translation>
     </message>
     <message>
         <source>%1: other value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: otro valor</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>pulg.</translation>
     </message>
     <message>
         <source>pt</source>
-        <translation type="unfinished"></translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidad</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomPaperRow</name>
     <message>
         <source>Width of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho del papel</translation>
     </message>
     <message>
         <source>Height of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura del papel</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;nservar</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>pulg.</translation>
     </message>
     <message>
         <source>Unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidad de longitud</translation>
     </message>
     <message>
         <source>Name, to find it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre, para volver a encontrarlo</translation>
     </message>
     <message>
         <source>Name of this paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de este tamaño de papel</translation>
     </message>
     <message>
         <source>From %1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>De %1 a %2 %3</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation type="unfinished"></translation>
+        <translation>Ol&amp;vidar</translation>
     </message>
     <message>
         <source>As &amp;Long as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Tan &amp;largo como la foto</translation>
     </message>
     <message>
         <source>As &amp;High as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Tan a&amp;lto como la foto</translation>
     </message>
 </context>
 <context>
@@ -1300,114 +1307,114 @@
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, en %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::JobPage</name>
     <message>
         <source>At once</source>
-        <translation type="unfinished"></translation>
+        <translation>Enseguida</translation>
     </message>
     <message>
         <source>When somebody releases it</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuando alguien lo libere</translation>
     </message>
     <message>
         <source>By day, from 6:00</source>
-        <translation type="unfinished"></translation>
+        <translation>De día, desde las 6:00</translation>
     </message>
     <message>
         <source>In the evening, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Por la tarde, desde las 18:00</translation>
     </message>
     <message>
         <source>At night, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>Por la noche, desde las 18:00</translation>
     </message>
     <message>
         <source>In the second shift, from 16:00</source>
-        <translation type="unfinished"></translation>
+        <translation>En el segundo turno, desde las 16:00</translation>
     </message>
     <message>
         <source>In the third shift, from 0:00</source>
-        <translation type="unfinished"></translation>
+        <translation>En el tercer turno, desde las 0:00</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>En fin de semana</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar</translation>
     </message>
     <message>
         <source>Unclassified</source>
-        <translation type="unfinished"></translation>
+        <translation>No clasificado</translation>
     </message>
     <message>
         <source>Confidential</source>
-        <translation type="unfinished"></translation>
+        <translation>Confidencial</translation>
     </message>
     <message>
         <source>Classified</source>
-        <translation type="unfinished"></translation>
+        <translation>Clasificado</translation>
     </message>
     <message>
         <source>Secret</source>
-        <translation type="unfinished"></translation>
+        <translation>Secreto</translation>
     </message>
     <message>
         <source>Top secret</source>
-        <translation type="unfinished"></translation>
+        <translation>Alto secreto</translation>
     </message>
     <message>
         <source>1 waits longest, 100 goes first</source>
-        <translation type="unfinished"></translation>
+        <translation>1 espera más tiempo, 100 va primero</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Título:</translation>
     </message>
     <message>
         <source>Pr&amp;iority:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;ioridad:</translation>
     </message>
     <message>
         <source>Print &amp;when:</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir c&amp;uándo:</translation>
     </message>
     <message>
         <source>Page &amp;before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Página a&amp;ntes:</translation>
     </message>
     <message>
         <source>Page &amp;after:</source>
-        <translation type="unfinished"></translation>
+        <translation>Página d&amp;espués:</translation>
     </message>
     <message>
         <source>Print when</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo imprimir</translation>
     </message>
     <message>
         <source>Time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>At a time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>A una hora determinada</translation>
     </message>
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las páginas antes y después del trabajo se eligen en la página «%1».</translation>
     </message>
 </context>
 <context>
@@ -1433,170 +1440,170 @@
     <name>halvern::OptionDelegate</name>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (valor de la impresora)</translation>
+        <translation>%1 (valor de la impresora)</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>also sets %1</source>
-        <translation type="unfinished"></translation>
+        <translation>también pone %1</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionFinder</name>
     <message>
         <source>Search options and printers (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar opciones e impresoras (Ctrl+F)</translation>
     </message>
     <message>
         <source>Search options and printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar opciones e impresoras</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrado</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresoras</translation>
     </message>
     <message>
         <source>%1 › %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 › %2</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando...</translation>
     </message>
     <message>
         <source>Nothing has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada tiene este nombre.</translation>
     </message>
     <message>
         <source>The first %1 that were found</source>
-        <translation type="unfinished"></translation>
+        <translation>Los primeros %1 encontrados</translation>
     </message>
     <message>
         <source>%1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrados: %1</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionTree</name>
     <message>
         <source>Installed in the printer (set by whoever installed it)</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalado en la impresora (lo establece quien la instaló)</translation>
     </message>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (valor de la impresora)</translation>
+        <translation>%1 (valor de la impresora)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Put back to the printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer el valor de la impresora: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Changed from the printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>Distinto del valor de la impresora</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
     <message>
         <source>Show changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo lo cambiado</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer todo</translation>
     </message>
     <message>
         <source>Puts the options of this page back to the printer&apos;s defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablece las opciones de esta página a los valores de la impresora</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished">Opciones</translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada cambiado</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiadas: %1</translation>
     </message>
     <message>
         <source>Put Back to the Printer&apos;s Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer el valor de la impresora</translation>
     </message>
 </context>
 <context>
     <name>halvern::OutputMenu</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Más</translation>
     </message>
     <message>
         <source>Print to a &amp;PDF File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir en un archivo &amp;PDF...</translation>
     </message>
     <message>
         <source>&amp;Copy as Command</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar como comando</translation>
     </message>
     <message>
         <source>Print to a PDF File</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir en un archivo PDF</translation>
     </message>
     <message>
         <source>PDF files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The command that prints this again is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>El comando que imprime esto de nuevo está en el portapapeles.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
     <message>
         <source>Last page &amp;first</source>
-        <translation type="unfinished"></translation>
+        <translation>La últi&amp;ma página primero</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas que imprimir</translation>
     </message>
     <message>
         <source>Odd and even</source>
-        <translation type="unfinished"></translation>
+        <translation>Impares y pares</translation>
     </message>
     <message>
         <source>Odd only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo impares</translation>
     </message>
     <message>
         <source>Even only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo pares</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas impares o pares</translation>
     </message>
     <message>
         <source>All %1, or for example 1-3, 5-</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas (%1) o, por ejemplo, 1-3, 5-</translation>
     </message>
 </context>
 <context>
@@ -1627,7 +1634,7 @@
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo</translation>
     </message>
 </context>
 <context>
@@ -1670,230 +1677,230 @@
     </message>
     <message>
         <source>Search by name or measures</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar por nombre o medidas</translation>
     </message>
     <message>
         <source>&amp;Borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin &amp;bordes</translation>
     </message>
     <message>
         <source>&amp;Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>A doble &amp;cara:</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pá&amp;ginas:</translation>
     </message>
     <message>
         <source>Paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de papel</translation>
     </message>
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora no tiene este tamaño de papel en las dos formas, con margen y sin él.</translation>
     </message>
 </context>
 <context>
     <name>halvern::PaperSizeList</name>
     <message>
         <source>Custom size...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño personalizado...</translation>
     </message>
 </context>
 <context>
     <name>halvern::PdfOutput</name>
     <message>
         <source>The file &quot;%1&quot; could not be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el archivo «%1»: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un archivo normal. Indique un archivo que escribir.</translation>
     </message>
     <message>
         <source>Cancelled: no file was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado: no se escribió ningún archivo.</translation>
     </message>
     <message>
         <source>No file was written. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se escribió ningún archivo. %1</translation>
     </message>
     <message>
         <source>1 page was written to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se escribió 1 página en «%1».</translation>
     </message>
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se escribieron %1 páginas en «%2».</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetBar</name>
     <message>
         <source>From your saved options (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>De sus opciones guardadas (lpoptions)</translation>
     </message>
     <message>
         <source>Made for a printer of the same model</source>
-        <translation type="unfinished"></translation>
+        <translation>Hecho para una impresora del mismo modelo</translation>
     </message>
     <message>
         <source>Nothing was printed here yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí aún no se ha impreso nada</translation>
     </message>
     <message>
         <source>Presets (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes (*.json)</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajuste</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Save, rename and more</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar, cambiar el nombre y más</translation>
     </message>
     <message>
         <source>Read from the file, and not applied yet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Leídos del archivo y aún sin aplicar: %1</translation>
     </message>
     <message>
         <source>%1 – changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – cambiado</translation>
     </message>
     <message>
         <source>&amp;Save as New Preset...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como preajuste nuevo...</translation>
     </message>
     <message>
         <source>&amp;Import from File...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar de un archivo...</translation>
     </message>
     <message>
         <source>Export &amp;All to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar &amp;todos a un archivo...</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes</translation>
     </message>
     <message>
         <source>&amp;Update &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualizar «%1»</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Actualizar</translation>
     </message>
     <message>
         <source>&amp;Rename &quot;%1&quot;...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar el &amp;nombre de «%1»...</translation>
     </message>
     <message>
         <source>&amp;Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar el &amp;nombre...</translation>
     </message>
     <message>
         <source>&amp;Delete &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eliminar «%1»</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>&amp;Export &quot;%1&quot; to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar «%1» a un archivo...</translation>
     </message>
     <message>
         <source>&amp;Export to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar a un archivo...</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó el preajuste «%1».</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">&amp;Deshacer</translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>Import Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar preajustes</translation>
     </message>
     <message>
         <source>Export Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar preajustes</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetNameDialog</name>
     <message>
         <source>Save Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar preajuste</translation>
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar el nombre del preajuste</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar el nombre</translation>
     </message>
     <message>
         <source>With the number of &amp;copies (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Con el número de c&amp;opias (%1)</translation>
     </message>
     <message>
         <source>With the &amp;pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Con las &amp;páginas que imprimir</translation>
     </message>
     <message>
         <source>With the &amp;text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>Con el &amp;texto del dorso</translation>
     </message>
     <message>
         <source>This name is always there. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este nombre siempre existe. Elija otro.</translation>
     </message>
     <message>
         <source>There is a preset of this name. It will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un preajuste con este nombre. Se reemplazará.</translation>
     </message>
     <message>
         <source>There is a preset of this name. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un preajuste con este nombre. Elija otro.</translation>
     </message>
 </context>
 <context>
     <name>halvern::Presets</name>
     <message>
         <source>%1 (from %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (de %2)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no tiene el preajuste «%2».</translation>
     </message>
     <message>
         <source>It has: %1.</source>
-        <translation type="unfinished">Hay: %1.</translation>
+        <translation>Hay: %1.</translation>
     </message>
     <message>
         <source>Did you mean %1?</source>
-        <translation type="unfinished">¿Quiso decir %1?</translation>
+        <translation>¿Quiso decir %1?</translation>
     </message>
 </context>
 <context>
@@ -2075,35 +2082,35 @@
     </message>
     <message>
         <source>Search by name, place or model</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar por nombre, lugar o modelo</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">Impresora</translation>
+        <translation>Impresora</translation>
     </message>
     <message>
         <source>Pre&amp;set:</source>
-        <translation type="unfinished"></translation>
+        <translation>Prea&amp;juste:</translation>
     </message>
     <message>
         <source>1 option was put back to the printer&apos;s default.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se restableció 1 opción al valor de la impresora.</translation>
     </message>
     <message>
         <source>%1 options were put back to the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se restablecieron %1 opciones a los valores de la impresora.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se aplicó «%1».</translation>
     </message>
     <message>
         <source>No page is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna página elegida.</translation>
     </message>
     <message>
         <source>Writing the file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo el archivo...</translation>
     </message>
 </context>
 <context>
@@ -2148,15 +2155,15 @@
     <name>halvern::PrinterRows</name>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>Usadas recientemente</translation>
     </message>
     <message>
         <source>Found on the network</source>
-        <translation type="unfinished">Encontrada en la red</translation>
+        <translation>Encontrada en la red</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>Impresoras</translation>
     </message>
 </context>
 <context>
@@ -2179,14 +2186,14 @@
     </message>
     <message>
         <source>✓ as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ como se muestra</translation>
     </message>
 </context>
 <context>
     <name>halvern::SearchPopup</name>
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí nada se llama «%1».</translation>
     </message>
 </context>
 <context>
@@ -2241,31 +2248,31 @@
     </message>
     <message>
         <source>All other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los demás ajustes</translation>
     </message>
     <message>
         <source>The options as they are sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Las opciones tal como se envían</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>Cop&amp;iar</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 de %2</translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Job title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título del trabajo</translation>
     </message>
     <message>
         <source>printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>valor de la impresora: %1</translation>
     </message>
     <message>
         <source>%1 more are in the list of all other settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay %1 más en la lista de todos los demás ajustes.</translation>
     </message>
 </context>
 </TS>

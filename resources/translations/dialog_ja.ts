@@ -111,75 +111,75 @@
     </message>
     <message>
         <source>Print these pages only, for example 1-3,7,12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>1-3,7,12- のように指定したページだけを印刷します。</translation>
     </message>
     <message>
         <source>Print the last page first.</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のページから印刷します。</translation>
     </message>
     <message>
         <source>Call the job this; without it, it is called like the first file.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの名前。省略時は最初のファイルの名前になります。</translation>
     </message>
     <message>
         <source>Write the pages, as they would be sent, into this PDF file, and send nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>送信されるとおりのページをこの PDF ファイルに書き込み、何も送信しません。</translation>
     </message>
     <message>
         <source>With --no-dialog: read the job back from the print server, and say what was added or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>--no-dialog と併用: プリントサーバーからジョブを読み戻し、追加または変更されたものを知らせます。</translation>
     </message>
     <message>
         <source>Start with this preset of the printer&apos;s. Without it the dialog starts with what you printed with last, and --no-dialog with your saved options.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのこのプリセットで始めます。省略時、ダイアログは前回の印刷で使った設定で、--no-dialog は保存されたオプションで始めます。</translation>
     </message>
     <message>
         <source>Keep the queue&apos;s saved options, --preset and the options given here as a preset, and print nothing. Copies, pages and the text on the back are in it if they are given.</source>
-        <translation type="unfinished"></translation>
+        <translation>キューの保存されたオプション、--preset、ここで指定したオプションをプリセットとして保存し、何も印刷しません。部数、ページ、裏面の文字は、指定した場合に含まれます。</translation>
     </message>
     <message>
         <source>Write the print server&apos;s queues, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーのキューを 1 行に 1 つ出力します。</translation>
     </message>
     <message>
         <source>Write the printer&apos;s options with their current and default value and their choices, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのオプションを、現在の値、既定値、選択肢とともに 1 行に 1 つ出力します。</translation>
     </message>
     <message>
         <source>Write the names of the printer&apos;s presets, a line each.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのプリセットの名前を 1 行に 1 つ出力します。</translation>
     </message>
     <message>
         <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation type="unfinished"></translation>
+        <translation>--list-printers、--list-options、--list-presets と併用: より詳しい内容を JSON で出力します。</translation>
     </message>
     <message>
         <source>The name of the file to write is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>書き込むファイルの名前が空です。</translation>
     </message>
     <message>
         <source>--output writes a file, and does not go with --dry-run.</source>
-        <translation type="unfinished"></translation>
+        <translation>--output はファイルを書き込むため、--dry-run と一緒には使えません。</translation>
     </message>
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
-        <translation type="unfinished"></translation>
+        <translation>--verify は --no-dialog と一緒に使います。ジョブを送信しないオプションとは使えません。</translation>
     </message>
     <message>
         <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation type="unfinished"></translation>
+        <translation>--json は --list-printers、--list-options、--list-presets と一緒に使います。</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 はファイルを印刷しません。ファイルと印刷用のオプションを省いてください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a preset that is always there. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は最初から用意されているプリセットです。別の名前にしてください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name of a preset: write 1 to %2 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はプリセットの名前に使えません。1～%2 文字で指定してください。</translation>
     </message>
     <message>
         <source>Exit status:
@@ -190,7 +190,14 @@
   4  Cancelled: nothing was printed.
   5  The job was sent, but the print server does not answer: the outcome is not known.
   6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>終了ステータス:
+  0  印刷したか、求められた内容を出力しました。
+  1  失敗しました。理由は標準エラー出力に示します。
+  2  使い方の誤りです。
+  3  ジョブはキューにあり、まだ終わっていませんでした。
+  4  キャンセルしました。何も印刷していません。
+  5  ジョブは送信しましたが、プリントサーバーが応答しません。結果は不明です。
+  6  --verify と併用: 印刷しましたが、プリントサーバーにあるジョブは送信したものと違います。</translation>
     </message>
 </context>
 <context>
@@ -232,11 +239,11 @@
     <name>CustomPaper</name>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 インチ</translation>
+        <translation>%1 × %2 インチ</translation>
     </message>
 </context>
 <context>
@@ -302,11 +309,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no set of pages. Write page-set=all, odd or even.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」というページの組はありません。page-set=all、odd、even のいずれかを書いてください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」というページの順序はありません。outputorder=normal か reverse を書いてください。</translation>
     </message>
 </context>
 <context>
@@ -339,110 +346,110 @@
     <name>JobInWords</name>
     <message>
         <source>not enough paper for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 には用紙の大きさが足りません</translation>
     </message>
     <message>
         <source>roll %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ロール紙 %1</translation>
     </message>
     <message>
         <source>%1 roll %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ロール紙 %2</translation>
     </message>
     <message>
         <source>sheet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カット紙: %1</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 インチ</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>two-sided: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>両面印刷: %1</translation>
     </message>
     <message>
         <source>pages %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>全 %2 ページ中 %1 ページ</translation>
     </message>
     <message>
         <source>%1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ページ</translation>
     </message>
     <message>
         <source>last page first</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のページから</translation>
     </message>
     <message>
         <source>1 copy</source>
-        <translation type="unfinished"></translation>
+        <translation>1 部</translation>
     </message>
     <message>
         <source>%1 copies</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 部</translation>
     </message>
     <message>
         <source>not collated</source>
-        <translation type="unfinished"></translation>
+        <translation>部単位で印刷しない</translation>
     </message>
     <message>
         <source>text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>裏面に文字</translation>
     </message>
     <message>
         <source>with a banner page</source>
-        <translation type="unfinished"></translation>
+        <translation>表紙付き</translation>
     </message>
     <message>
         <source>held on the queue</source>
-        <translation type="unfinished"></translation>
+        <translation>キューで保留</translation>
     </message>
     <message>
         <source>%1 more settings changed</source>
-        <translation type="unfinished"></translation>
+        <translation>ほか %1 件の設定を変更</translation>
     </message>
     <message>
         <source>%1 cm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cm</translation>
     </message>
     <message>
         <source>%1 borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 フチなし</translation>
     </message>
 </context>
 <context>
     <name>JobReadBack</name>
     <message>
         <source>The print server does not tell what it holds of job %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーがジョブ %1 の内容を知らせません。</translation>
     </message>
     <message>
         <source>The print server holds job %1 exactly as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーにあるジョブ %1 は、送信したものとまったく同じです。</translation>
     </message>
     <message>
         <source>%1 instead of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 の代わり)</translation>
     </message>
     <message>
         <source>without %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 なし</translation>
     </message>
     <message>
         <source>Added to job %1 by the print server or the queue: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーまたはキューがジョブ %1 に追加したもの: %2。</translation>
     </message>
     <message>
         <source>Changed in job %1 by the print server: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーがジョブ %1 で変更したもの: %2。</translation>
     </message>
 </context>
 <context>
@@ -598,31 +605,31 @@
     <name>Listings</name>
     <message>
         <source>%1 (default): %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (既定): %2 %3</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
-        <translation type="unfinished">%1: %2 %3 {1:?}</translation>
+        <translation>%1: %2 %3</translation>
     </message>
     <message>
         <source>The print server has no printers.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバーにプリンターがありません。</translation>
     </message>
     <message>
         <source>%1 (from your saved options)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (保存されたオプションから)</translation>
     </message>
     <message>
         <source>Saved the preset &quot;%1&quot; of &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%2」のプリセット「%1」を保存しました。</translation>
     </message>
     <message>
         <source>%1 (installed in the printer) &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (プリンターの装備)「%2」: %3</translation>
     </message>
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (既定 %2)「%3」: %4</translation>
     </message>
 </context>
 <context>
@@ -636,31 +643,31 @@
     <name>PageChoice</name>
     <message>
         <source>There is no page %1: there is one page only.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ページはありません。全部で 1 ページだけです。</translation>
     </message>
     <message>
         <source>There is no page %1: the first page is 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ページはありません。最初のページは 1 です。</translation>
     </message>
     <message>
         <source>There is no page %1: the pages are 1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ページはありません。ページは 1 から %2 までです。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends before it begins. Write %2-%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は終わりが始まりより前です。%2-%3 と書いてください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no page. Write numbers and ranges, for example 1-3, 7, 12-.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はページではありません。1-3, 7, 12- のように番号や範囲を書いてください。</translation>
     </message>
     <message>
         <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらのページに奇数ページはありません。すべてのページか、別のページを選んでください。</translation>
     </message>
     <message>
         <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらのページに偶数ページはありません。すべてのページか、別のページを選んでください。</translation>
     </message>
 </context>
 <context>
@@ -685,43 +692,43 @@
     <name>PaperSizes</name>
     <message>
         <source>For the loaded paper</source>
-        <translation type="unfinished"></translation>
+        <translation>セットされた用紙用</translation>
     </message>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>最近使ったもの</translation>
     </message>
     <message>
         <source>Your sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>登録したサイズ</translation>
     </message>
     <message>
         <source>Photo sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>写真サイズ</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished">ロール</translation>
+        <translation>ロール紙</translation>
     </message>
     <message>
         <source>ISO</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO</translation>
     </message>
     <message>
         <source>US</source>
-        <translation type="unfinished"></translation>
+        <translation>米国</translation>
     </message>
     <message>
         <source>Other sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のサイズ</translation>
     </message>
     <message>
         <source>%1 × %2 mm</source>
-        <translation type="unfinished">%1 × %2 mm</translation>
+        <translation>%1 × %2 mm</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation type="unfinished">%1 × %2 インチ</translation>
+        <translation>%1 × %2 インチ</translation>
     </message>
 </context>
 <context>
@@ -900,122 +907,122 @@
     </message>
     <message>
         <source>The printer&apos;s own defaults do not go together with what is chosen elsewhere. Put the options back one by one.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値は、ほかで選んだ設定と一緒に使えません。オプションを 1 つずつ既定値に戻してください。</translation>
     </message>
     <message>
         <source>not with what the printer has loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターにセットされているものでは使えません</translation>
     </message>
     <message>
         <source>not with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 とは一緒に使えません</translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>%1 in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 インチ</translation>
     </message>
 </context>
 <context>
     <name>Presets</name>
     <message>
         <source>It holds no presets of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプログラムのプリセットが入っていません。</translation>
     </message>
     <message>
         <source>It was written by a newer version of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプログラムの新しいバージョンで書かれています。</translation>
     </message>
     <message>
         <source>Printer Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値</translation>
     </message>
     <message>
         <source>Last Used</source>
-        <translation type="unfinished"></translation>
+        <translation>前回の設定</translation>
     </message>
     <message>
         <source>It is no file.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルではありません。</translation>
     </message>
     <message>
         <source>It is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>大きすぎます。</translation>
     </message>
     <message>
         <source>There are %1 presets already. Delete one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットはすでに %1 件あります。先に 1 つ削除してください。</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」はもうありません。</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; cannot be read, and %2 cannot be moved away. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のプリセットを読み取れず、%2 を別の場所に移すこともできません。%3</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be read, and begin anew. What was there is in %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のプリセットを読み取れなかったため、新しく作り直します。元の内容は %2 にあります。%3</translation>
     </message>
     <message>
         <source>The presets in %1 cannot be used. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のプリセットは使えません。%2</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and are left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の一部のプリセットは読み取れないため、そのまま残します。</translation>
     </message>
     <message>
         <source>The presets of &quot;%1&quot; could not be written to %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のプリセットを %2 に書き込めませんでした。%3</translation>
     </message>
     <message>
         <source>The folder cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを作れません。</translation>
     </message>
     <message>
         <source>Another program holds the lock %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のプログラムが %1 をロックしています。</translation>
     </message>
     <message>
         <source>It would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>大きくなりすぎます。</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」はすでにあります。別の名前にしてください。</translation>
     </message>
     <message>
         <source>No presets were read from %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 からプリセットを読み込みませんでした。%2</translation>
     </message>
     <message>
         <source>There is none in it that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取れるものが入っていません。</translation>
     </message>
     <message>
         <source>Some presets in %1 cannot be read and were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の一部のプリセットは読み取れないため、省きました。</translation>
     </message>
     <message>
         <source>The presets could not be written to %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットを %1 に書き込めませんでした。%2</translation>
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;.</source>
-        <translation type="unfinished">プリンターに「%1」というオプションはありません。</translation>
+        <translation>プリンターに「%1」というオプションはありません。</translation>
     </message>
     <message>
         <source>And %1 more.</source>
-        <translation type="unfinished">ほか %1 件。</translation>
+        <translation>ほか %1 件。</translation>
     </message>
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の一部は今は使えません。</translation>
     </message>
 </context>
 <context>
@@ -1058,7 +1065,7 @@
     </message>
     <message>
         <source>The print server has no default printer. Name one with --printer.</source>
-        <translation type="unfinished">プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
+        <translation>プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
     </message>
 </context>
 <context>
@@ -1170,11 +1177,11 @@
     <name>Stepper</name>
     <message>
         <source>Increase</source>
-        <translation type="unfinished">増やす</translation>
+        <translation>増やす</translation>
     </message>
     <message>
         <source>Decrease</source>
-        <translation type="unfinished">減らす</translation>
+        <translation>減らす</translation>
     </message>
 </context>
 <context>
@@ -1208,85 +1215,85 @@
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
-        <translation type="unfinished">%1: %2 {1;?}</translation>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
-        <translation type="unfinished"></translation>
+        <translation>その他の値...</translation>
     </message>
     <message>
         <source>%1: other value</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: その他の値</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>インチ</translation>
     </message>
     <message>
         <source>pt</source>
-        <translation type="unfinished"></translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>単位</translation>
     </message>
 </context>
 <context>
     <name>halvern::CustomPaperRow</name>
     <message>
         <source>Width of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の幅</translation>
     </message>
     <message>
         <source>Height of the paper</source>
-        <translation type="unfinished"></translation>
+        <translation>用紙の高さ</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>登録(&amp;K)</translation>
     </message>
     <message>
         <source>mm</source>
-        <translation type="unfinished"></translation>
+        <translation>mm</translation>
     </message>
     <message>
         <source>in</source>
-        <translation type="unfinished"></translation>
+        <translation>インチ</translation>
     </message>
     <message>
         <source>Unit of length</source>
-        <translation type="unfinished"></translation>
+        <translation>長さの単位</translation>
     </message>
     <message>
         <source>Name, to find it again</source>
-        <translation type="unfinished"></translation>
+        <translation>後で見つけるための名前</translation>
     </message>
     <message>
         <source>Name of this paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>この用紙サイズの名前</translation>
     </message>
     <message>
         <source>From %1 to %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2 %3</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation type="unfinished"></translation>
+        <translation>登録を解除(&amp;F)</translation>
     </message>
     <message>
         <source>As &amp;Long as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>写真と同じ長さ(&amp;L)</translation>
     </message>
     <message>
         <source>As &amp;High as the Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>写真と同じ高さ(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1300,114 +1307,114 @@
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>halvern::JobPage</name>
     <message>
         <source>At once</source>
-        <translation type="unfinished"></translation>
+        <translation>すぐに</translation>
     </message>
     <message>
         <source>When somebody releases it</source>
-        <translation type="unfinished"></translation>
+        <translation>手動で再開したとき</translation>
     </message>
     <message>
         <source>By day, from 6:00</source>
-        <translation type="unfinished"></translation>
+        <translation>日中 (6:00 から)</translation>
     </message>
     <message>
         <source>In the evening, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>夕方 (18:00 から)</translation>
     </message>
     <message>
         <source>At night, from 18:00</source>
-        <translation type="unfinished"></translation>
+        <translation>夜間 (18:00 から)</translation>
     </message>
     <message>
         <source>In the second shift, from 16:00</source>
-        <translation type="unfinished"></translation>
+        <translation>第 2 シフト (16:00 から)</translation>
     </message>
     <message>
         <source>In the third shift, from 0:00</source>
-        <translation type="unfinished"></translation>
+        <translation>第 3 シフト (0:00 から)</translation>
     </message>
     <message>
         <source>At the weekend</source>
-        <translation type="unfinished"></translation>
+        <translation>週末</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>標準</translation>
     </message>
     <message>
         <source>Unclassified</source>
-        <translation type="unfinished"></translation>
+        <translation>機密指定なし</translation>
     </message>
     <message>
         <source>Confidential</source>
-        <translation type="unfinished"></translation>
+        <translation>社外秘</translation>
     </message>
     <message>
         <source>Classified</source>
-        <translation type="unfinished"></translation>
+        <translation>機密</translation>
     </message>
     <message>
         <source>Secret</source>
-        <translation type="unfinished"></translation>
+        <translation>極秘</translation>
     </message>
     <message>
         <source>Top secret</source>
-        <translation type="unfinished"></translation>
+        <translation>最高機密</translation>
     </message>
     <message>
         <source>1 waits longest, 100 goes first</source>
-        <translation type="unfinished"></translation>
+        <translation>1 が最も後、100 が最も先になります</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトル(&amp;T):</translation>
     </message>
     <message>
         <source>Pr&amp;iority:</source>
-        <translation type="unfinished"></translation>
+        <translation>優先度(&amp;I):</translation>
     </message>
     <message>
         <source>Print &amp;when:</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷する時期(&amp;W):</translation>
     </message>
     <message>
         <source>Page &amp;before:</source>
-        <translation type="unfinished"></translation>
+        <translation>前に付けるページ(&amp;B):</translation>
     </message>
     <message>
         <source>Page &amp;after:</source>
-        <translation type="unfinished"></translation>
+        <translation>後に付けるページ(&amp;A):</translation>
     </message>
     <message>
         <source>Print when</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷する時期</translation>
     </message>
     <message>
         <source>Time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻</translation>
     </message>
     <message>
         <source>At a time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻を指定</translation>
     </message>
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの前後に付けるページは「%1」のページで決めます。</translation>
     </message>
 </context>
 <context>
@@ -1433,170 +1440,170 @@
     <name>halvern::OptionDelegate</name>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (プリンターの既定値)</translation>
+        <translation>%1 (プリンターの既定値)</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 → %2</translation>
     </message>
     <message>
         <source>also sets %1</source>
-        <translation type="unfinished"></translation>
+        <translation>次も変わります: %1</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionFinder</name>
     <message>
         <source>Search options and printers (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>オプションとプリンターを検索 (Ctrl+F)</translation>
     </message>
     <message>
         <source>Search options and printers</source>
-        <translation type="unfinished"></translation>
+        <translation>オプションとプリンターを検索</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>検索結果</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター</translation>
     </message>
     <message>
         <source>%1 › %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 › %2</translation>
     </message>
     <message>
         <source>Searching...</source>
-        <translation type="unfinished"></translation>
+        <translation>検索しています...</translation>
     </message>
     <message>
         <source>Nothing has this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前のものはありません。</translation>
     </message>
     <message>
         <source>The first %1 that were found</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかったうちの最初の %1 件</translation>
     </message>
     <message>
         <source>%1 found</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件見つかりました</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionTree</name>
     <message>
         <source>Installed in the printer (set by whoever installed it)</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの装備 (プリンターを設定した人が決めます)</translation>
     </message>
     <message>
         <source>%1 (the printer&apos;s default)</source>
-        <translation type="unfinished">%1 (プリンターの既定値)</translation>
+        <translation>%1 (プリンターの既定値)</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Put back to the printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値に戻す: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Changed from the printer&apos;s default</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値から変更されています</translation>
     </message>
 </context>
 <context>
     <name>halvern::OptionsPage</name>
     <message>
         <source>Show changed only</source>
-        <translation type="unfinished"></translation>
+        <translation>変更した項目だけを表示</translation>
     </message>
     <message>
         <source>Reset All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてリセット</translation>
     </message>
     <message>
         <source>Puts the options of this page back to the printer&apos;s defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>このページのオプションをプリンターの既定値に戻します</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>オプション</translation>
     </message>
     <message>
         <source>Nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更なし</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更 %1 件</translation>
     </message>
     <message>
         <source>Put Back to the Printer&apos;s Default</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値に戻す</translation>
     </message>
 </context>
 <context>
     <name>halvern::OutputMenu</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>Print to a &amp;PDF File...</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF ファイルに印刷(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;Copy as Command</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドとしてコピー(&amp;C)</translation>
     </message>
     <message>
         <source>Print to a PDF File</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF ファイルに印刷</translation>
     </message>
     <message>
         <source>PDF files (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF ファイル (*.pdf)</translation>
     </message>
     <message>
         <source>The command that prints this again is on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ印刷をもう一度行うコマンドをクリップボードにコピーしました。</translation>
     </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
     <message>
         <source>Last page &amp;first</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のページから(&amp;F)</translation>
     </message>
     <message>
         <source>Pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷するページ</translation>
     </message>
     <message>
         <source>Odd and even</source>
-        <translation type="unfinished"></translation>
+        <translation>奇数と偶数</translation>
     </message>
     <message>
         <source>Odd only</source>
-        <translation type="unfinished"></translation>
+        <translation>奇数のみ</translation>
     </message>
     <message>
         <source>Even only</source>
-        <translation type="unfinished"></translation>
+        <translation>偶数のみ</translation>
     </message>
     <message>
         <source>Odd or even pages</source>
-        <translation type="unfinished"></translation>
+        <translation>奇数ページまたは偶数ページ</translation>
     </message>
     <message>
         <source>All %1, or for example 1-3, 5-</source>
-        <translation type="unfinished"></translation>
+        <translation>全 %1 ページ、または 1-3, 5- など</translation>
     </message>
 </context>
 <context>
@@ -1627,7 +1634,7 @@
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ</translation>
     </message>
 </context>
 <context>
@@ -1670,230 +1677,230 @@
     </message>
     <message>
         <source>Search by name or measures</source>
-        <translation type="unfinished"></translation>
+        <translation>名前または寸法で検索</translation>
     </message>
     <message>
         <source>&amp;Borderless</source>
-        <translation type="unfinished"></translation>
+        <translation>フチなし(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Two-sided:</source>
-        <translation type="unfinished"></translation>
+        <translation>両面印刷(&amp;T):</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ(&amp;G):</translation>
     </message>
     <message>
         <source>Paper size</source>
-        <translation type="unfinished">用紙サイズ</translation>
+        <translation>用紙サイズ</translation>
     </message>
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターのこの用紙サイズには、余白ありと余白なしの両方はありません。</translation>
     </message>
 </context>
 <context>
     <name>halvern::PaperSizeList</name>
     <message>
         <source>Custom size...</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタムサイズ...</translation>
     </message>
 </context>
 <context>
     <name>halvern::PdfOutput</name>
     <message>
         <source>The file &quot;%1&quot; could not be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル「%1」に書き込めませんでした: %2。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no regular file. Name a file to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は通常のファイルではありません。書き込むファイルを指定してください。</translation>
     </message>
     <message>
         <source>Cancelled: no file was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルしました。ファイルは書き込んでいません。</translation>
     </message>
     <message>
         <source>No file was written. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルは書き込んでいません。%1</translation>
     </message>
     <message>
         <source>1 page was written to &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ページを「%1」に書き込みました。</translation>
     </message>
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ページを「%2」に書き込みました。</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetBar</name>
     <message>
         <source>From your saved options (lpoptions)</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されたオプションから (lpoptions)</translation>
     </message>
     <message>
         <source>Made for a printer of the same model</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ機種のプリンター用に作成</translation>
     </message>
     <message>
         <source>Nothing was printed here yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ここではまだ何も印刷していません</translation>
     </message>
     <message>
         <source>Presets (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット (*.json)</translation>
     </message>
     <message>
         <source>Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Save, rename and more</source>
-        <translation type="unfinished"></translation>
+        <translation>保存、名前の変更など</translation>
     </message>
     <message>
         <source>Read from the file, and not applied yet: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルから読み込みました (まだ適用していません): %1</translation>
     </message>
     <message>
         <source>%1 – changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – 変更あり</translation>
     </message>
     <message>
         <source>&amp;Save as New Preset...</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいプリセットとして保存(&amp;S)...</translation>
     </message>
     <message>
         <source>&amp;Import from File...</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルから読み込む(&amp;I)...</translation>
     </message>
     <message>
         <source>Export &amp;All to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてファイルに書き出す(&amp;A)...</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>&amp;Update &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を更新(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Rename &quot;%1&quot;...</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」の名前を変更(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を変更(&amp;R)...</translation>
     </message>
     <message>
         <source>&amp;Delete &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を削除(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Export &quot;%1&quot; to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」をファイルに書き出す(&amp;E)...</translation>
     </message>
     <message>
         <source>&amp;Export to File...</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに書き出す(&amp;E)...</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット「%1」を削除しました。</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished">元に戻す(&amp;U)</translation>
+        <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>Import Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの読み込み</translation>
     </message>
     <message>
         <source>Export Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの書き出し</translation>
     </message>
 </context>
 <context>
     <name>halvern::PresetNameDialog</name>
     <message>
         <source>Save Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの保存</translation>
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットの名前の変更</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>名前(&amp;N):</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を変更(&amp;R)</translation>
     </message>
     <message>
         <source>With the number of &amp;copies (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>部数も含める (%1)(&amp;C)</translation>
     </message>
     <message>
         <source>With the &amp;pages to print</source>
-        <translation type="unfinished"></translation>
+        <translation>印刷するページも含める(&amp;P)</translation>
     </message>
     <message>
         <source>With the &amp;text on the back</source>
-        <translation type="unfinished"></translation>
+        <translation>裏面の文字も含める(&amp;T)</translation>
     </message>
     <message>
         <source>This name is always there. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前は最初から用意されています。別の名前にしてください。</translation>
     </message>
     <message>
         <source>There is a preset of this name. It will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前のプリセットがあります。置き換えられます。</translation>
     </message>
     <message>
         <source>There is a preset of this name. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>この名前のプリセットがあります。別の名前にしてください。</translation>
     </message>
 </context>
 <context>
     <name>halvern::Presets</name>
     <message>
         <source>%1 (from %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 より)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no preset &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」にプリセット「%2」はありません。</translation>
     </message>
     <message>
         <source>It has: %1.</source>
-        <translation type="unfinished">次のものがあります: %1。</translation>
+        <translation>次のものがあります: %1。</translation>
     </message>
     <message>
         <source>Did you mean %1?</source>
-        <translation type="unfinished">%1 のことですか？</translation>
+        <translation>%1 のことですか？</translation>
     </message>
 </context>
 <context>
@@ -2075,35 +2082,35 @@
     </message>
     <message>
         <source>Search by name, place or model</source>
-        <translation type="unfinished"></translation>
+        <translation>名前、場所、機種で検索</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished">プリンター</translation>
+        <translation>プリンター</translation>
     </message>
     <message>
         <source>Pre&amp;set:</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット(&amp;S):</translation>
     </message>
     <message>
         <source>1 option was put back to the printer&apos;s default.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 件のオプションをプリンターの既定値に戻しました。</translation>
     </message>
     <message>
         <source>%1 options were put back to the printer&apos;s defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件のオプションをプリンターの既定値に戻しました。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was applied.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を適用しました。</translation>
     </message>
     <message>
         <source>No page is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>ページが選ばれていません。</translation>
     </message>
     <message>
         <source>Writing the file...</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを書き込んでいます...</translation>
     </message>
 </context>
 <context>
@@ -2148,15 +2155,15 @@
     <name>halvern::PrinterRows</name>
     <message>
         <source>Used last</source>
-        <translation type="unfinished"></translation>
+        <translation>最近使ったもの</translation>
     </message>
     <message>
         <source>Found on the network</source>
-        <translation type="unfinished">ネットワークで見つかりました</translation>
+        <translation>ネットワークで見つかりました</translation>
     </message>
     <message>
         <source>Printers</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンター</translation>
     </message>
 </context>
 <context>
@@ -2179,14 +2186,14 @@
     </message>
     <message>
         <source>✓ as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 表示どおり</translation>
     </message>
 </context>
 <context>
     <name>halvern::SearchPopup</name>
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」という名前のものはここにありません。</translation>
     </message>
 </context>
 <context>
@@ -2241,31 +2248,31 @@
     </message>
     <message>
         <source>All other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のすべての設定</translation>
     </message>
     <message>
         <source>The options as they are sent</source>
-        <translation type="unfinished"></translation>
+        <translation>送信されるとおりのオプション</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー(&amp;Y)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 / %2</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>Job title</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブのタイトル</translation>
     </message>
     <message>
         <source>printer&apos;s default: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの既定値: %1</translation>
     </message>
     <message>
         <source>%1 more are in the list of all other settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>ほか %1 件は「その他のすべての設定」の一覧にあります。</translation>
     </message>
 </context>
 </TS>
