@@ -127,7 +127,8 @@ MessageBar::MessageBar(QWidget* parent)
     tools->addStretch();
     tools->addWidget(action_);
     body_->setSpacing(6);
-    body_->addWidget(new TextRoom(label_, this), 1);
+    room_ = new TextRoom(label_, this);
+    body_->addWidget(room_, 1);
     body_->addLayout(tools);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 8, 8, 8);
@@ -270,6 +271,9 @@ void MessageBar::showCurrent()
         setPlainText(number_, tr("%1 of %2").arg(current_ + 1).arg(messages_.size()));
         back_->setEnabled(current_ > 0);
         forward_->setEnabled(current_ + 1 < messages_.size());
+        // A text in a scroll area tells no layout that it has grown.
+        room_->updateGeometry();
+        layout()->activate();
     }
     Q_EMIT changed();
 }

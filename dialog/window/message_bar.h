@@ -82,6 +82,7 @@ private:
     bool hasNews_ = false; // the last one came while the bar was in use
     QLabel* icon_;
     QLabel* label_;
+    QWidget* room_ = nullptr; // the text's
     QBoxLayout* body_;
     QToolButton* back_;
     QLabel* number_;
