@@ -102,10 +102,14 @@ Constraints::Constraints(ppd_file_t* file)
 {
     for (Constraint& constraint : readNamed(file, resolvers_))
         add(std::move(constraint));
-    if (!all_.empty())
-        return;
     for (int i = 0; i < file->num_consts; ++i) {
+        // Makers write each both ways round.
         const ppd_const_t& old = file->consts[i];
+        const ppd_const_t* before = i > 0 ? &file->consts[i - 1] : nullptr;
+        if (before && qstricmp(old.option1, before->option2) == 0 &&
+            qstricmp(old.choice1, before->choice2) == 0 && qstricmp(old.option2, before->option1) == 0 &&
+            qstricmp(old.choice2, before->choice1) == 0)
+            continue;
         add({{{markedName(QString::fromUtf8(old.option1)), QString::fromUtf8(old.choice1)},
               {markedName(QString::fromUtf8(old.option2)), QString::fromUtf8(old.choice2)}},
              {}});

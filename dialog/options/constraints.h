@@ -42,7 +42,7 @@ bool applies(const ConstraintSide& side, const QString& marked);
 /// Whether a choice switches its option off.
 bool isOffChoice(const QString& choice);
 
-/// The constraints of a PPD as plain data. The PPD's newer form counts where it has one, the older otherwise.
+/// The constraints of a PPD as plain data. Both of their forms count, as they do for the server's filters.
 /// Immutable once made: any thread then; the constructor on the thread that owns the file.
 class Constraints {
 public:

@@ -43,6 +43,9 @@ void PpdModel::readOptions()
             if (qstrcmp(keyword, "PageRegion") == 0)
                 continue;
             const QString key = QString::fromUtf8(keyword);
+            // A damaged PPD may have it in two groups; libcups knows one.
+            if (groups_.contains(key))
+                continue;
             keys_.append(key);
             groups_.insert(key, g);
             const ppd_choice_t* marked = ppdFindMarkedChoice(file_.get(), keyword);

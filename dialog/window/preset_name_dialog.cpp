@@ -47,10 +47,9 @@ PresetNameDialog::PresetNameDialog(Purpose purpose, DialogSession& session, QWid
     column->setSpacing(8);
     column->addWidget(label);
     column->addWidget(name_);
-    column->addWidget(remark_);
     if (saves)
         column->addWidget(makeContents());
-    column->addSpacing(6);
+    column->addWidget(remark_);
     column->addWidget(buttons);
     connect(name_, &QLineEdit::textChanged, this, &PresetNameDialog::check);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

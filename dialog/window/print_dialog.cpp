@@ -186,7 +186,7 @@ QLayout* PrintDialog::makePrinterRows(QWidget* parent)
     form->addRow(label, printer_);
     form->addRow(QString(), printerState_);
     presets_ = new PresetBar(session_, parent);
-    auto* presetLabel = new QLabel(tr("Pre&set:"), parent);
+    auto* presetLabel = new QLabel(tr("Preset:"), parent);
     presetLabel->setBuddy(presets_->box());
     form->addRow(presetLabel, presets_);
     connect(presets_, &PresetBar::told, this, [this](const QString& sentence, const MessageAction& action) {

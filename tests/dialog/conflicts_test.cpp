@@ -66,6 +66,9 @@ TEST(Conflicts, AChoiceChangesAsLittleElseAsItCan)
          "Edge=Full", "Plain Full Rear On"},
         {"the older form without choices", "*NonUIConstraints: *Edge *Gloss\n", "Gloss=On", "", "Edge=Full",
          "Plain Full Main Off"},
+        {"both forms in one PPD",
+         "*cupsUIConstraints: \"*Gloss On *Tray Rear\"\n*UIConstraints: *Edge Full *Media Plain\n", "", "",
+         "Edge=Full", "Matte Full Main Off"},
         {"the paper last", pageSize, "", "", "Edge=Full", ""},
     };
 

@@ -410,7 +410,7 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     visited.removeIf(
         [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
     EXPECT_EQ(visited.join(u' '), q("printer preset presetMenu search pageList paperSize borderless twoSided "
-                                    "copies cancelButton printButton preview zoomButton"))
+                                    "copies outputButton cancelButton printButton preview zoomButton"))
         << qPrintable(visited.join(u' '));
     QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
     field.show();

@@ -44,6 +44,8 @@ QStringList processesOf(const QString& home)
 void LeftoverListener::OnTestStart(const testing::TestInfo&)
 {
     before_ = QApplication::topLevelWidgets();
+    // Each test is a new user's, who has printed nothing yet.
+    QDir(home_ + q("/.local/share/halvern/presets")).removeRecursively();
 }
 
 void LeftoverListener::OnTestEnd(const testing::TestInfo&)

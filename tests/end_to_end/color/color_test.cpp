@@ -48,11 +48,20 @@ protected:
         return text.toPlainText();
     }
 
+    SessionRequest request() const
+    {
+        SessionRequest request{q("Tessarin"), {}, {makeTestPhoto(folder.filePath(q("photo.jpg")))}};
+        // What the printer would answer meanwhile changes the resolution, and so does an earlier test's job.
+        request.panelsAskPrinter = false;
+        request.remembers = false;
+        return request;
+    }
+
     QImage page(int job) { return QImage(server->jobFile(job, q("page-1.png"))); }
 
     QTemporaryDir folder;
     PluginLoader panels{QStringList{QFileInfo(q(HALVERN_TEST_BUNDLE)).absolutePath()}};
-    RealDialog dialog{{q("Tessarin"), {}, {makeTestPhoto(folder.filePath(q("photo.jpg")))}}, panels};
+    RealDialog dialog{request(), panels};
 };
 
 TEST_F(ColorEndToEnd, SevenValuesAndTheToggleArriveAsTypedAndThePageIsLeftToThePrinter)
