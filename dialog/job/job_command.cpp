@@ -68,6 +68,10 @@ QString commandFor(const JobToRepeat& job)
         words << QStringLiteral("--pages") << QString(job.ranges).remove(QLatin1Char(' '));
     if (job.isReversed)
         words << QStringLiteral("--reverse-order");
+    if (!job.orientation.isEmpty())
+        words << QStringLiteral("--orientation") << job.orientation;
+    for (const QString& position : job.positions)
+        words << QStringLiteral("--position") << position;
     if (!job.title.isEmpty())
         words << QStringLiteral("--job-title=") + job.title;
     for (const OptionValue& option : job.options) {

@@ -11,10 +11,12 @@ namespace halvern {
 struct JobToRepeat {
     QString printer;
     QStringList files;
-    OptionValues options; ///< those that nobody would send without having chosen them
-    QStringList page;     ///< what the dialog itself decides, as KEY=VALUE
-    QString ranges;       ///< "1-3, 7"; empty: all pages
-    QString title;        ///< empty: as without one
+    OptionValues options;  ///< those that nobody would send without having chosen them
+    QStringList page;      ///< what the dialog itself decides, as KEY=VALUE
+    QString orientation;   ///< "portrait" or "landscape"; empty: as the photo
+    QStringList positions; ///< "0.5,0.5", a photo each; empty: all in the middle
+    QString ranges;        ///< "1-3, 7"; empty: all pages
+    QString title;         ///< empty: as without one
     int copies = 1;
     bool isReversed = false;
     bool printsDamaged = false;

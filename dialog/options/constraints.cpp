@@ -3,6 +3,8 @@
 
 #include "platform/printing/cups_ppd.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace halvern {
@@ -26,6 +28,37 @@ std::vector<ConstraintSide> parseSides(const QString& text)
             sides.back().choice = word;
     }
     return sides;
+}
+
+// The same for the same sides in any order.
+QString nameOf(const Constraint& constraint)
+{
+    QStringList sides;
+    for (const ConstraintSide& side : constraint.sides)
+        sides.append(QStringLiteral("%1 %2").arg(side.option, side.choice).toLower());
+    sides.sort();
+    return sides.join(QLatin1Char('*'));
+}
+
+// Whether one of the known ones of two sides says it, with these choices or with any.
+bool isSaid(const Constraint& constraint, const QSet<QString>& known)
+{
+    for (const bool anyFirst : {false, true}) {
+        for (const bool anyLast : {false, true}) {
+            Constraint wider = constraint;
+            ConstraintSide& first = wider.sides.front();
+            ConstraintSide& last = wider.sides.back();
+            if ((anyFirst && isOffChoice(first.choice)) || (anyLast && isOffChoice(last.choice)))
+                continue;
+            if (anyFirst)
+                first.choice.clear();
+            if (anyLast)
+                last.choice.clear();
+            if (known.contains(nameOf(wider)))
+                return true;
+        }
+    }
+    return false;
 }
 
 using Resolvers = QHash<QString, std::vector<ConstraintSide>>;
@@ -100,19 +133,21 @@ bool isRuledOutBy(const Constraint& constraint, const QString& option, const QSt
 
 Constraints::Constraints(ppd_file_t* file)
 {
-    for (Constraint& constraint : readNamed(file, resolvers_))
+    QSet<QString> known;
+    for (Constraint& constraint : readNamed(file, resolvers_)) {
+        known.insert(nameOf(constraint));
         add(std::move(constraint));
+    }
     for (int i = 0; i < file->num_consts; ++i) {
-        // Makers write each both ways round.
         const ppd_const_t& old = file->consts[i];
-        const ppd_const_t* before = i > 0 ? &file->consts[i - 1] : nullptr;
-        if (before && qstricmp(old.option1, before->option2) == 0 &&
-            qstricmp(old.choice1, before->choice2) == 0 && qstricmp(old.option2, before->option1) == 0 &&
-            qstricmp(old.choice2, before->choice1) == 0)
+        Constraint constraint{{{markedName(QString::fromUtf8(old.option1)), QString::fromUtf8(old.choice1)},
+                               {markedName(QString::fromUtf8(old.option2)), QString::fromUtf8(old.choice2)}},
+                              {}};
+        // Makers write each both ways round, and in the newer form too, which says how to settle it.
+        if (isSaid(constraint, known))
             continue;
-        add({{{markedName(QString::fromUtf8(old.option1)), QString::fromUtf8(old.choice1)},
-              {markedName(QString::fromUtf8(old.option2)), QString::fromUtf8(old.choice2)}},
-             {}});
+        known.insert(nameOf(constraint));
+        add(std::move(constraint));
     }
 }
 

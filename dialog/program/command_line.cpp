@@ -33,6 +33,14 @@ public:
     QCommandLineOption pages{QStringLiteral("pages"), tr("Print these pages only, for example 1-3,7,12-."),
                              QStringLiteral("RANGES")};
     QCommandLineOption reverse{QStringLiteral("reverse-order"), tr("Print the last page first.")};
+    QCommandLineOption orientation{QStringLiteral("orientation"),
+                                   tr("Turn the page: portrait or landscape; without it, as the photo."),
+                                   QStringLiteral("WORD")};
+    QCommandLineOption position{
+        QStringLiteral("position"),
+        tr("Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given "
+           "several times, for one photo after the other."),
+        QStringLiteral("X,Y")};
     QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("job-title")},
                              tr("Call the job this; without it, it is called like the first file."),
                              QStringLiteral("TEXT")};
@@ -111,6 +119,16 @@ public:
     static QString tooManyBackLines()
     {
         return tr("The back of a picture takes %1 lines: give --backprint once or twice.").arg(kBackLines);
+    }
+
+    static QString badOrientation(const QString& text)
+    {
+        return tr("\"%1\" is no orientation: write portrait or landscape.").arg(text);
+    }
+
+    static QString badPosition(const QString& text)
+    {
+        return tr("\"%1\" is no place: write two numbers from 0 to 1, for example 0.5,0.5.").arg(text);
     }
 
     static QString emptyOutput() { return tr("The name of the file to write is empty."); }
@@ -264,6 +282,27 @@ QString readListing(const QCommandLineParser& parser, const Switches& switches, 
     return parser.isSet(switches.json) ? Switches::jsonAlone() : QString();
 }
 
+QString readLayout(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
+{
+    if (const QString word = parser.value(switches.orientation); word == QLatin1StringView("portrait"))
+        line.request.turn = PageTurn::portrait;
+    else if (word == QLatin1StringView("landscape"))
+        line.request.turn = PageTurn::landscape;
+    else if (parser.isSet(switches.orientation))
+        return Switches::badOrientation(word);
+    const auto isShare = [](double number) { return number >= 0.0 && number <= 1.0; };
+    for (const QString& text : parser.values(switches.position)) {
+        bool hasX = false;
+        bool hasY = false;
+        const QPointF place(text.section(QLatin1Char(','), 0, 0).toDouble(&hasX),
+                            text.section(QLatin1Char(','), 1).toDouble(&hasY));
+        if (!hasX || !hasY || !isShare(place.x()) || !isShare(place.y()))
+            return Switches::badPosition(text);
+        line.request.positions.append(place);
+    }
+    return {};
+}
+
 QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
 {
     for (const QString& text : parser.values(switches.option)) {
@@ -317,13 +356,13 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     const Switches switches;
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
-    parser.addOptions({switches.printer,     switches.option,     switches.copies,
-                       switches.pages,       switches.reverse,    switches.title,
-                       switches.backprint,   switches.preset,     switches.printDamaged,
-                       switches.noDialog,    switches.wait,       switches.dryRun,
-                       switches.output,      switches.verify,     switches.listPrinters,
-                       switches.listPapers,  switches.refresh,    switches.listOptions,
-                       switches.listPresets, switches.savePreset, switches.json});
+    parser.addOptions(
+        {switches.printer,      switches.option,     switches.copies,       switches.pages,
+         switches.orientation,  switches.position,   switches.reverse,      switches.title,
+         switches.backprint,    switches.preset,     switches.printDamaged, switches.noDialog,
+         switches.wait,         switches.dryRun,     switches.output,       switches.verify,
+         switches.listPrinters, switches.listPapers, switches.refresh,      switches.listOptions,
+         switches.listPresets,  switches.savePreset, switches.json});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -346,6 +385,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QStringList remarks;
     line.request.files = parser.positionalArguments();
     QString problem = readValues(parser, switches, line);
+    if (problem.isEmpty())
+        problem = readLayout(parser, switches, line);
     if (problem.isEmpty())
         problem = readBackLines(parser.values(switches.backprint), line, remarks);
     if (problem.isEmpty())
@@ -372,9 +413,9 @@ bool asksForWindow(const QStringList& arguments)
 {
     const Switches switches;
     QCommandLineParser parser;
-    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages, switches.title,
-                       switches.backprint, switches.wait, switches.noDialog, switches.dryRun, switches.output,
-                       switches.preset});
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages,
+                       switches.orientation, switches.position, switches.title, switches.backprint,
+                       switches.wait, switches.noDialog, switches.dryRun, switches.output, switches.preset});
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

@@ -26,7 +26,7 @@ const QString kPaperFeed = QStringLiteral("PaperFeed");
 DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObject* parent)
     : QObject(parent),
       request_(std::move(request)),
-      photos_(request_.files, request_.printDamaged),
+      photos_(request_.files, request_.printDamaged, request_.positions),
       printer_(request_),
       panels_(panels),
       settings_(std::make_shared<PrintSettings>()),

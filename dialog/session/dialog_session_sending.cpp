@@ -6,6 +6,7 @@
 #include "dialog/job/job_in_words.h"
 #include "dialog/job/pdf_output.h"
 #include "dialog/session/starting_options.h"
+#include "platform/foundation/numbers.h"
 
 #include <QSet>
 
@@ -26,6 +27,19 @@ QStringList filesOf(const std::vector<Photo>& photos)
         page = photo.page;
     }
     return files;
+}
+
+// A photo each, up to the last that is not where the one before it is.
+QStringList positionsOf(const std::vector<Photo>& photos)
+{
+    QStringList positions;
+    for (const Photo& photo : photos)
+        positions.append(shortestDouble(photo.position.x()) + QLatin1Char(',') +
+                         shortestDouble(photo.position.y()));
+    while (positions.size() > 1 && positions.back() == positions[positions.size() - 2])
+        positions.removeLast();
+    const bool isCentred = positions.size() == 1 && photos.front().position == Photo().position;
+    return isCentred ? QStringList() : positions;
 }
 
 } // namespace
@@ -90,6 +104,10 @@ QString DialogSession::command() const
     if (chosen.pages.size() < photos().size())
         job.ranges = rangesOf(chosen.pages);
     job.isReversed = page().pages.isReversed;
+    if (page().turn != PageTurn::automatic)
+        job.orientation =
+            page().turn == PageTurn::portrait ? QStringLiteral("portrait") : QStringLiteral("landscape");
+    job.positions = positionsOf(photos());
     job.title = page().title.trimmed();
     job.copies = page().copies;
     job.printsDamaged = std::ranges::any_of(photos(), [](const Photo& photo) { return photo.isDamaged; });

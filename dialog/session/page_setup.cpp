@@ -23,6 +23,7 @@ PageSetup::PageSetup(const SessionRequest& request)
 {
     settings_.copies = request.copies;
     settings_.pages = request.pages;
+    settings_.turn = request.turn;
     settings_.title = request.title;
 }
 

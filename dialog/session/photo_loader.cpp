@@ -5,11 +5,14 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 namespace halvern {
 
-PhotoLoader::PhotoLoader(QStringList files, bool printDamaged)
+PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<QPointF> positions)
     : files_(std::move(files)),
       printDamaged_(printDamaged),
+      positions_(std::move(positions)),
       filesLeft_(int(files_.size())),
       stop_(cups::makeCancelFlag())
 {
@@ -40,7 +43,11 @@ void PhotoLoader::start()
 void PhotoLoader::take(const PhotoFile& file)
 {
     --filesLeft_;
-    photos_.insert(photos_.end(), file.pages.begin(), file.pages.end());
+    for (const Photo& page : file.pages) {
+        photos_.push_back(page);
+        if (!positions_.isEmpty())
+            photos_.back().position = positions_[std::min(qsizetype(photos_.size()), positions_.size()) - 1];
+    }
     if (!file.problem.isEmpty() && file.pages.empty()) {
         Q_EMIT failed(file.problem);
     } else if (!file.problem.isEmpty()) {

@@ -16,8 +16,9 @@ class PhotoLoader : public QObject {
     Q_OBJECT
 
 public:
-    /// If not `printDamaged`, damaged files wait to be settled.
-    PhotoLoader(QStringList files, bool printDamaged);
+    /// If not `printDamaged`, damaged files wait to be settled. The photos start at `positions`, the last of
+    /// which is also that of all that follow; without any, in the middle.
+    PhotoLoader(QStringList files, bool printDamaged, QList<QPointF> positions = {});
     ~PhotoLoader() override;
 
     /// Starts to read. Once.
@@ -52,6 +53,7 @@ private:
 
     QStringList files_;
     bool printDamaged_;
+    QList<QPointF> positions_;
     std::vector<Photo> photos_;
     QStringList damagedFiles_;
     int filesLeft_;

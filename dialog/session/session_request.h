@@ -3,6 +3,7 @@
 
 #include "dialog/options/option_value.h"
 #include "dialog/page/page_choice.h"
+#include "dialog/page/page_layout.h"
 
 #include <QStringList>
 
@@ -17,8 +18,10 @@ struct SessionRequest {
     QStringList files;
     int copies = 1;
     PageChoice pages = {};
-    QString title = {};        ///< of the job; empty: the first photo's name
-    bool printDamaged = false; ///< also photos of which a part is missing, without asking
+    PageTurn turn = PageTurn::automatic;
+    QList<QPointF> positions = {}; ///< of the photos in their order, the last one also of those that follow
+    QString title = {};            ///< of the job; empty: the first photo's name
+    bool printDamaged = false;     ///< also photos of which a part is missing, without asking
     /// Whether somebody sees which printer was taken: another one may be if the user's default is none of the
     /// server's, or if nobody has named one and the server has no default.
     bool isAttended = true;

@@ -146,6 +146,9 @@ SearchPopup::SearchPopup(SearchBox& box, SearchBox::Rows rows, const QString& se
     setPlainName(list_, box.accessibleName());
     nothing_->setMargin(2 * kMargin);
     nothing_->setWordWrap(true);
+    nothing_->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    nothing_->setBackgroundRole(QPalette::Base);
+    nothing_->setAutoFillBackground(true);
     nothing_->hide();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(1, 1, 1, 1);
@@ -154,7 +157,7 @@ SearchPopup::SearchPopup(SearchBox& box, SearchBox::Rows rows, const QString& se
     top->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     top->addWidget(field_);
     column->addLayout(top);
-    column->addWidget(nothing_);
+    column->addWidget(nothing_, 1);
     column->addWidget(list_, 1);
     for (QWidget* watched : {static_cast<QWidget*>(field_), static_cast<QWidget*>(list_)})
         watched->installEventFilter(this);

@@ -76,7 +76,10 @@ TEST_F(BackprintInDialog, TheCopiedCommandSendsWhatIsShown)
     page.copies = 3;
     page.isCollated = false;
     page.title = q("-My 'lake'");
+    page.turn = PageTurn::landscape;
+    page.scaling = Scaling::fill;
     real->session.setPage(page);
+    real->session.setPosition(0, {0.25, 1.0});
     drainMainQueue(); // the panels are told
     const QByteArray path = QFileInfo(q(HALVERN_PRINT_PROGRAM)).path().toUtf8() + ':' + qgetenv("PATH");
     const QString command = real->session.command();
@@ -88,6 +91,7 @@ TEST_F(BackprintInDialog, TheCopiedCommandSendsWhatIsShown)
         sent.append(option.key + u'=' + option.value);
     EXPECT_EQ(again.output.trimmed().split(u'\n').join(u'|').toStdString(), sent.join(u'|').toStdString())
         << qPrintable(command);
+    EXPECT_TRUE(command.contains(q(" --orientation landscape --position 0.25,1 "))) << qPrintable(command);
     const ProgramResult word =
         runProgram(q("/bin/sh"), {q("-c"), q("printf %s ") + shellQuoted(q("a\x1b%'\\\nb"))});
     EXPECT_EQ(word.output, q("a\x1b%'\\\nb"));
