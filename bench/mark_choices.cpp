@@ -72,7 +72,8 @@ void markEach(PpdModel& model, const QString& key, Totals& totals, const std::st
         if (!result.accepted && (model.values() != before || result.refusal.isEmpty()))
             fail(totals, path,
                  key + u'=' + choice.keyword + QStringLiteral(": refused, and something changed"));
-        else if (result.accepted && !model.goesWithTheRest(key, choice.keyword))
+        else if (result.accepted && before.value(key) != choice.keyword &&
+                 !model.goesWithTheRest(key, choice.keyword))
             fail(totals, path, key + u'=' + choice.keyword + QStringLiteral(": accepted, and it clashes"));
     }
 }

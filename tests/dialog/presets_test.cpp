@@ -163,4 +163,12 @@ TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
     EXPECT_TRUE(isAsPreset(*model, page, full, {{q("PaperName"), q("MatteA4")}})) << "nobody chose it";
 }
 
+TEST(Presets, ASecretIsInNoPreset)
+{
+    const auto model = modelOf(ppdHeader() + ppdOption("Pin", {"None"}) +
+                               "*CustomPin True: \"pop\"\n*ParamCustomPin Value/Value: 1 passcode 4 8\n");
+    ASSERT_TRUE(model->choose(q("Pin"), q("1234"), {}).accepted);
+    EXPECT_FALSE(capturePreset(*model, {{q("Pin"), q("1234")}}, {}, {}, {}).options.contains(q("Pin")));
+}
+
 } // namespace halvern
