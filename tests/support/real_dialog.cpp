@@ -96,9 +96,10 @@ int RealDialog::print()
 
 int RealDialog::printByKey()
 {
-    PrintRun* const before = dialog.run();
+    const bool isFirst = !dialog.run();
+    const QPointer<PrintRun> before = dialog.run(); // the next one may lie in its place
     QTest::keyClick(&dialog, Qt::Key_P, Qt::ControlModifier);
-    EXPECT_NE(dialog.run(), before);
+    EXPECT_TRUE(dialog.run() && (isFirst || !before));
     return jobWhenOver();
 }
 
