@@ -53,9 +53,10 @@ function(halvern_verify_headers)
 endfunction()
 
 # The Qt headers that almost every source includes, precompiled once for all targets of the product.
-set(HALVERN_PRECOMPILED_HEADERS <memory> <optional> <functional> <vector> <QString> <QStringList> <QVariant> <QMap> <QWidget>)
 function(halvern_precompile target)
-    halvern_precompiled(halvern-precompiled LIBS Qt6::Widgets HEADERS ${HALVERN_PRECOMPILED_HEADERS})
+    halvern_precompiled(halvern-precompiled LIBS Qt6::Widgets HEADERS
+        <memory> <optional> <functional> <vector>
+        <QString> <QStringList> <QVariant> <QMap> <QWidget>)
     target_precompile_headers(${target} REUSE_FROM halvern-precompiled)
 endfunction()
 

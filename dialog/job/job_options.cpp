@@ -139,8 +139,9 @@ OptionValues JobValues::list() const
     options.reserve(base_.size() + over_.size());
     forEach([&](const QString& key, const QString& value) { options.append({key, value}); });
     // The stock filters take such a text for a list of options, and what follows it for its members.
-    std::ranges::stable_partition(
-        options, [](const OptionValue& option) { return !option.value.startsWith(QLatin1Char('{')); });
+    std::stable_partition(options.begin(), options.end(), [](const OptionValue& option) {
+        return !option.value.startsWith(QLatin1Char('{'));
+    });
     return options;
 }
 

@@ -55,6 +55,7 @@ void OptionTree::collect()
     groups_.clear();
     Group equipment{tr("Installed in the printer (set by whoever installed it)"), true};
     QHash<QString, size_t> known;
+    QHash<int, QString> titles;
     for (const QString& key : model_ ? keys_ : QStringList()) {
         if (isChangedOnly_ && !model_->changedKeys().contains(key))
             continue;
@@ -62,7 +63,9 @@ void OptionTree::collect()
             equipment.keys.append(key);
             continue;
         }
-        const QString title = model_->groupText(key);
+        QString& title = titles[model_->groupNumber(key)];
+        if (title.isNull())
+            title = model_->groupText(key);
         const auto found = known.constFind(title);
         const size_t group = found == known.cend() ? groups_.size() : *found;
         if (found == known.cend()) {

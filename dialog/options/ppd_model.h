@@ -195,6 +195,9 @@ public:
     /// The title of the option's group; empty if the PPD does not know the option.
     QString groupText(const QString& key) const;
 
+    /// The number of that group in the PPD; -1 if it has none.
+    int groupNumber(const QString& key) const { return groups_.value(key, -1); }
+
     /// Whether the option says what is built into the printer.
     bool isInstallable(const QString& key) const { return equipment_.contains(key); }
 

@@ -224,6 +224,9 @@ bool isAsPreset(const PpdModel& model, const PageSettings& page, const Preset& p
 {
     for (auto it = preset.options.cbegin(); it != preset.options.cend(); ++it) {
         const QString now = model.value(it.key());
+        // Nearly all of ten thousand are the same, and looking into the PPD for each takes its time.
+        if (now == it.value())
+            continue;
         const bool isSettled = settled.contains(it.key()) && settled.value(it.key()) == now;
         if (isPrinters(model, it.key()) && !isPages(it.key()) && !isSettled &&
             !isSameChoice(model, it.key(), now, it.value()))
