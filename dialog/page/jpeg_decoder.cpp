@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_decoder.h"
 
-#include "dialog/page/srgb.h"
-
 #include <algorithm>
 #include <csetjmp>
 #include <cstdio>
@@ -151,31 +149,29 @@ void JpegDecoder::scaleDown(int leastEdge)
     state_->info.scale_denom = kEighths;
 }
 
-QImage JpegDecoder::read(int leastEdge)
+QSize JpegDecoder::start(int leastEdge)
 {
     jpeg_decompress_struct& info = state_->info;
-    const bool isInk = info.num_components == 4;
-    const bool isGray = info.num_components == 1;
     scaleDown(leastEdge);
-    info.out_color_space = isInk ? JCS_CMYK : isGray ? JCS_GRAYSCALE : JCS_RGB;
+    info.out_color_space = info.num_components == 4   ? JCS_CMYK
+                           : info.num_components == 1 ? JCS_GRAYSCALE
+                                                      : JCS_RGB;
     if (!state_->guarded([&info] { jpeg_start_decompress(&info); }))
         return {};
-    const int width = int(info.output_width);
-    QImage image(width, int(info.output_height), isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
-    if (image.isNull())
-        return {};
-    QByteArray inks(isInk ? qsizetype(width) * 4 : 0, '\0');
-    const InkConverter converter(isInk ? header_->profile : QByteArray(), header_->isInverted);
-    for (int y = 0; y < image.height(); ++y) {
-        uchar* line = image.scanLine(y);
-        JSAMPROW row = isInk ? reinterpret_cast<JSAMPROW>(inks.data()) : line;
-        if (!state_->guarded([&info, &row] { jpeg_read_scanlines(&info, &row, 1); }))
-            return {};
-        if (isInk)
-            converter.convert(row, line, width);
-    }
-    state_->guarded([&info] { jpeg_finish_decompress(&info); });
-    return isInk ? image : inSrgb(std::move(image), header_->profile);
+    return {int(info.output_width), int(info.output_height)};
+}
+
+bool JpegDecoder::readRow(uchar* row)
+{
+    jpeg_decompress_struct& info = state_->info;
+    JSAMPROW target = row;
+    if (!state_->guarded([&info, &target] { jpeg_read_scanlines(&info, &target, 1); }))
+        return false;
+    if (info.num_components == 4 && header_->isInverted)
+        std::transform(row, row + size_t(info.output_width) * 4, row, [](uchar ink) { return 255 - ink; });
+    if (info.output_scanline == info.output_height)
+        state_->guarded([&info] { jpeg_finish_decompress(&info); });
+    return true;
 }
 
 bool JpegDecoder::isDamaged() const

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QSize>
 
 #include <memory>
@@ -30,12 +29,15 @@ public:
     /// Nothing if it is no JPEG file, or one that cannot be read.
     const std::optional<JpegHeader>& header() const { return header_; }
 
-    /// The pixels as they are stored, converted to sRGB from the file's profile: gray, or RGB with 8 bits
-    /// each. The picture may be scaled down as long as its longer edge has `leastEdge` pixels; 0: never. Null
-    /// if it cannot be decoded. Call it once, and with a header only.
-    QImage read(int leastEdge);
+    /// Starts to decode: gray, RGB or four inks with 0 for none, 8 bits each, as they are stored. The picture
+    /// may be scaled down as long as its longer edge has `leastEdge` pixels; 0: never. Answers its size;
+    /// empty if it cannot be decoded. Call it once, and with a header only.
+    QSize start(int leastEdge);
 
-    /// Whether read() had to make up pixels, because data were missing or wrong.
+    /// The next row, into room for it. False if it cannot be decoded.
+    bool readRow(uchar* row);
+
+    /// Once all rows are read: whether pixels had to be made up, because data were missing or wrong.
     bool isDamaged() const;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "dialog/page/photo_problem.h"
 #include "dialog/page/picture.h"
+#include "dialog/photo/image_rows.h"
 #include "platform/foundation/units.h"
 
 #include <QFile>
@@ -104,6 +105,47 @@ PhotoFile readPictures(const QString& path)
     return file;
 }
 
+/// A photo's rows, which are no longer what was seen if they turn out to be damaged only now.
+class SeenRows : public PictureRows {
+public:
+    SeenRows(std::unique_ptr<PictureRows> rows, const Photo& photo)
+        : rows_(std::move(rows)), path_(photo.path), wasDamaged_(photo.isDamaged)
+    {
+    }
+
+    const StoredPicture& picture() const override { return rows_->picture(); }
+
+    int read(uchar* rows, int count) override
+    {
+        const int given = rows_->read(rows, count);
+        rowsLeft_ -= given;
+        return given;
+    }
+
+    QString problem() const override
+    {
+        const bool hasChanged = rowsLeft_ == 0 && isDamaged() && !wasDamaged_;
+        return hasChanged ? photoProblem(PhotoFault::changed, path_) : rows_->problem();
+    }
+
+    bool isDamaged() const override { return rows_->isDamaged(); }
+
+private:
+    std::unique_ptr<PictureRows> rows_;
+    QString path_;
+    bool wasDamaged_;
+    int rowsLeft_ = rows_->picture().size.height();
+};
+
+QImage drawPdfPage(const Photo& photo, int resolution, QString* problem)
+{
+    const auto document = openPdf(photo.path, problem);
+    const std::unique_ptr<Poppler::Page> page = document ? document->page(photo.page) : nullptr;
+    if (document && !page)
+        *problem = photoProblem(PhotoFault::changed, photo.path);
+    return page ? page->renderToImage(resolution, resolution) : QImage();
+}
+
 } // namespace
 
 PhotoFile readPhotoFile(const QString& path)
@@ -123,25 +165,27 @@ PhotoFile readPhotoFile(const QString& path)
     return file;
 }
 
-QImage readPixels(const Photo& photo, int resolution, QString* problem)
+std::unique_ptr<PictureRows> openPixels(const Photo& photo, int resolution, int leastEdge, QString* problem)
 {
     *problem = fileProblem(photo.path);
     if (!problem->isEmpty())
-        return {};
-    if (!photo.isPdf) {
-        Picture picture = readPicture(photo.path, photo.page, 0);
-        *problem = picture.problem;
-        if (!picture.image.isNull() && picture.isDamaged && !photo.isDamaged) {
-            *problem = photoProblem(PhotoFault::changed, photo.path);
-            return {};
-        }
-        return picture.image;
+        return nullptr;
+    if (photo.isPdf) {
+        const QImage page = drawPdfPage(photo, resolution, problem);
+        return page.isNull() ? nullptr : std::make_unique<ImageRows>(page, photo.isDamaged);
     }
-    const auto document = openPdf(photo.path, problem);
-    const std::unique_ptr<Poppler::Page> page = document ? document->page(photo.page) : nullptr;
-    if (document && !page)
-        *problem = photoProblem(PhotoFault::changed, photo.path);
-    return page ? page->renderToImage(resolution, resolution) : QImage();
+    std::unique_ptr<PictureRows> rows = openPicture(photo.path, photo.page, leastEdge, problem);
+    return rows ? std::make_unique<SeenRows>(std::move(rows), photo) : nullptr;
+}
+
+QImage readPixels(const Photo& photo, int resolution, QString* problem)
+{
+    const std::unique_ptr<PictureRows> rows = openPixels(photo, resolution, 0, problem);
+    if (!rows)
+        return {};
+    const Picture picture = readPicture(*rows);
+    *problem = picture.problem;
+    return picture.image;
 }
 
 } // namespace halvern

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/photo/picture_rows.h"
+
 #include <QImage>
 #include <QPointF>
 #include <QSizeF>
-#include <QString>
 
+#include <memory>
 #include <vector>
 
 namespace halvern {
@@ -37,6 +39,12 @@ struct PhotoFile {
 
 /// Reads a JPEG, PNG, TIFF or PDF file. Takes as long as decoding takes: call it on a worker. Any thread.
 PhotoFile readPhotoFile(const QString& path);
+
+/// The photo's pixels row by row, as its file has them: what a job is made from. They may be scaled down as
+/// long as the longer edge has `leastEdge` pixels, 0: never; a PDF page is drawn at `resolution` dots per
+/// inch instead, in sRGB. Null, with a sentence in `problem`, if the file is gone or cannot be read. Any
+/// thread.
+std::unique_ptr<PictureRows> openPixels(const Photo& photo, int resolution, int leastEdge, QString* problem);
 
 /// The whole picture, upright and in sRGB; a PDF page is drawn at `resolution` dots per inch. Null, with a
 /// sentence in `problem`, if the file is gone, or has changed to one that cannot be printed as it was seen.

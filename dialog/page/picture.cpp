@@ -5,11 +5,14 @@
 #include "dialog/page/photo_problem.h"
 #include "dialog/page/srgb.h"
 #include "dialog/page/tiff_pages.h"
+#include "dialog/photo/image_rows.h"
 
 #include <QBuffer>
-#include <QColorSpace>
 #include <QFile>
 #include <QImageReader>
+
+#include <algorithm>
+#include <cstring>
 
 namespace halvern {
 
@@ -18,7 +21,6 @@ namespace {
 constexpr qint64 kLargestJpeg = 512LL * 1024 * 1024;
 constexpr int kAllocationMegabytes = 2048; // 100 megapixels at 16 bits a channel, and a copy
 constexpr qint64 kMostPixels = 400'000'000;
-constexpr double kMetresPerInch = 0.0254;
 
 bool looksLikeJpeg(const QString& path)
 {
@@ -50,29 +52,62 @@ QImage uprightImage(const QImage& stored, const Orientation& how)
     return how.quarterTurns == 0 ? image : image.transformed(QTransform().rotate(90.0 * how.quarterTurns));
 }
 
-Picture failed(const QString& problem)
-{
-    Picture picture;
-    picture.problem = problem;
-    return picture;
-}
+class JpegRows : public PictureRows {
+public:
+    JpegRows(QString path, const QByteArray& bytes) : path_(std::move(path)), decoder_(bytes)
+    {
+        picture_.orientation = jpegOrientation(bytes);
+    }
 
-Picture readJpeg(const QString& path, const QByteArray& bytes, int leastEdge)
-{
-    JpegDecoder decoder(bytes);
-    if (!decoder.header())
-        return failed(photoProblem(PhotoFault::damaged, path));
-    const JpegHeader& header = *decoder.header();
-    if (isTooLarge(header.size))
-        return failed(photoProblem(PhotoFault::tooLarge, path));
-    const QImage image = decoder.read(leastEdge);
-    if (image.isNull())
-        return failed(photoProblem(PhotoFault::damaged, path));
-    const Orientation how = jpegOrientation(bytes);
-    return {uprightImage(image, how), how.upright(header.size), header.dotsPerInch, decoder.isDamaged(), {}};
-}
+    /// The sentence about what is wrong; empty if nothing is.
+    QString open(int leastEdge)
+    {
+        if (!decoder_.header())
+            return photoProblem(PhotoFault::damaged, path_);
+        const JpegHeader& header = *decoder_.header();
+        if (isTooLarge(header.size))
+            return photoProblem(PhotoFault::tooLarge, path_);
+        picture_.size = decoder_.start(leastEdge);
+        if (picture_.size.isEmpty())
+            return photoProblem(PhotoFault::damaged, path_);
+        picture_.fullSize = header.size;
+        picture_.format = header.components == 4   ? PixelFormat::cmyk8
+                          : header.components == 1 ? PixelFormat::gray8
+                                                   : PixelFormat::rgb8;
+        picture_.profile = header.profile;
+        picture_.dotsPerInch = header.dotsPerInch;
+        return {};
+    }
 
-Picture readWithQt(const QString& path, int page)
+    const StoredPicture& picture() const override { return picture_; }
+
+    int read(uchar* rows, int count) override
+    {
+        int done = 0;
+        while (done < count && row_ < picture_.size.height() && problem_.isEmpty()) {
+            if (decoder_.readRow(rows + done * picture_.rowBytes())) {
+                ++done;
+                ++row_;
+            } else {
+                problem_ = photoProblem(PhotoFault::damaged, path_);
+            }
+        }
+        return done;
+    }
+
+    QString problem() const override { return problem_; }
+
+    bool isDamaged() const override { return decoder_.isDamaged(); }
+
+private:
+    QString path_;
+    JpegDecoder decoder_;
+    StoredPicture picture_;
+    QString problem_;
+    int row_ = 0;
+};
+
+std::unique_ptr<PictureRows> openWithQt(const QString& path, int page, QString* problem)
 {
     silenceTiffLibrary();
     QImageReader::setAllocationLimit(kAllocationMegabytes);
@@ -81,18 +116,30 @@ Picture readWithQt(const QString& path, int page)
     reader.setDecideFormatFromContent(true);
     if (page > 0)
         reader.jumpToImage(page);
-    if (isTooLarge(reader.size()))
-        return failed(photoProblem(PhotoFault::tooLarge, path));
+    if (isTooLarge(reader.size())) {
+        *problem = photoProblem(PhotoFault::tooLarge, path);
+        return nullptr;
+    }
     QImage image = reader.read();
     if (image.isNull()) {
         const bool isPicture = reader.canRead() || reader.error() == QImageReader::InvalidDataError;
-        return failed(photoProblem(isPicture ? PhotoFault::damaged : PhotoFault::noPicture, path));
+        *problem = photoProblem(isPicture ? PhotoFault::damaged : PhotoFault::noPicture, path);
+        return nullptr;
     }
-    const double dotsPerInch = image.dotsPerMeterX() * kMetresPerInch;
-    const QByteArray profile = image.colorSpace().iccProfile();
-    const bool isDamaged = looksLikeTiff(path) && !isTiffPageWhole(path, page);
-    const QSize pixels = image.size();
-    return {inSrgb(std::move(image), profile), pixels, dotsPerInch, isDamaged, {}};
+    return std::make_unique<ImageRows>(std::move(image), looksLikeTiff(path) && !isTiffPageWhole(path, page));
+}
+
+QImage imageInSrgb(const StoredPicture& picture, const QByteArray& bytes)
+{
+    const auto* rows = reinterpret_cast<const uchar*>(bytes.constData());
+    const int height = picture.size.height();
+    if (picture.format != PixelFormat::cmyk8)
+        return inSrgb(imageOfRows(picture, rows, height), picture.profile);
+    QImage image(picture.size, QImage::Format_RGB888);
+    const InkConverter inks(picture.profile, false);
+    for (int y = 0; y < image.height(); ++y, rows += picture.rowBytes())
+        inks.convert(rows, image.scanLine(y), image.width());
+    return image;
 }
 
 } // namespace
@@ -110,13 +157,40 @@ std::vector<int> picturesIn(const QString& path)
     return looksLikeTiff(path) ? tiffPages(path) : std::vector<int>{0};
 }
 
-Picture readPicture(const QString& path, int page, int leastEdge)
+std::unique_ptr<PictureRows> openPicture(const QString& path, int page, int leastEdge, QString* problem)
 {
     if (!looksLikeJpeg(path))
-        return readWithQt(path, page);
+        return openWithQt(path, page, problem);
     const QByteArray bytes = jpegBytes(path);
-    return bytes.isEmpty() ? failed(photoProblem(PhotoFault::tooLarge, path))
-                           : readJpeg(path, bytes, leastEdge);
+    if (bytes.isEmpty()) {
+        *problem = photoProblem(PhotoFault::tooLarge, path);
+        return nullptr;
+    }
+    auto rows = std::make_unique<JpegRows>(path, bytes);
+    *problem = rows->open(leastEdge);
+    return problem->isEmpty() ? std::move(rows) : nullptr;
+}
+
+Picture readPicture(PictureRows& rows)
+{
+    Picture result;
+    const StoredPicture& picture = rows.picture();
+    const QByteArray bytes = readAllRows(rows);
+    result.problem = rows.problem();
+    if (!result.problem.isEmpty())
+        return result;
+    result.image = uprightImage(imageInSrgb(picture, bytes), picture.orientation);
+    result.pixels = picture.orientation.upright(picture.fullSize);
+    result.dotsPerInch = picture.dotsPerInch;
+    result.isDamaged = rows.isDamaged();
+    return result;
+}
+
+Picture readPicture(const QString& path, int page, int leastEdge)
+{
+    Picture result;
+    const std::unique_ptr<PictureRows> rows = openPicture(path, page, leastEdge, &result.problem);
+    return rows ? readPicture(*rows) : result;
 }
 
 QByteArray jpegBytes(const QString& path)

@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QImage>
-#include <QSize>
-#include <QString>
+#include "dialog/photo/picture_rows.h"
 
+#include <QImage>
+
+#include <memory>
 #include <vector>
 
 namespace halvern {
-
-/// How a stored picture becomes an upright one.
-struct Orientation {
-    int quarterTurns = 0;    ///< clockwise
-    bool isMirrored = false; ///< left to right, before it is turned
-
-    QSize upright(const QSize& stored) const { return quarterTurns % 2 ? stored.transposed() : stored; }
-};
 
 /// What the camera has noted in a JPEG file.
 Orientation jpegOrientation(const QByteArray& bytes);
@@ -33,8 +25,14 @@ struct Picture {
 /// The file's pictures: 0, or a TIFF file's directories that are photos. Any thread, like all here.
 std::vector<int> picturesIn(const QString& path);
 
-/// Decodes one of a file's pictures: JPEG, PNG, TIFF and what else Qt reads. It may come scaled down, as long
-/// as its longer edge has `leastEdge` pixels; 0: never.
+/// Opens one of a file's pictures: JPEG, PNG, TIFF and what else Qt reads. It may come scaled down, as long
+/// as its longer edge has `leastEdge` pixels; 0: never. Null, with a sentence in `problem`, if there is none.
+std::unique_ptr<PictureRows> openPicture(const QString& path, int page, int leastEdge, QString* problem);
+
+/// Reads all rows.
+Picture readPicture(PictureRows& rows);
+
+/// Decodes one of a file's pictures, scaled down as openPicture() does.
 Picture readPicture(const QString& path, int page, int leastEdge);
 
 /// The bytes of a file that is small enough to be held in memory and begins as a JPEG file; else nothing.
