@@ -26,7 +26,8 @@ void KSTRVLBasePDEHalvern::sendPrinterCommands(const QStringList& commands)
 void KSTRVLBasePDEHalvern::sendCommandJob(const QStringList& commands)
 {
     const QString destination = destinationName().value_or(QString());
-    if (activeJobIDForDesinationName(destination) != 0)
+    // The questions take their time, and nobody wants the answer any more once the panel goes.
+    if (activeJobIDForDesinationName(destination) != 0 || pdePluginDidUnload)
         return;
     CommandJob job(destination);
     job.send(commands);

@@ -140,10 +140,16 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
     for (const SettledOption& settled : lines.settled)
         rememberStart(settled);
     if (request_.panelsChangeOptions)
-        nameLoadedSheet(*model_, printer.offer);
+        takeLoadedSheet(printer.offer);
     keepJobAttributes();
     storeStart(*model_, byDefault, printer.ppd.jobSheets, *settings_);
     chooseStartingPreset(preset);
+}
+
+void DialogSession::takeLoadedSheet(const PrinterOffer& offer)
+{
+    if (const QString sheet = nameLoadedSheet(*model_, offer); !sheet.isEmpty())
+        filledIn_.insert(QStringLiteral("PaperName"), sheet);
 }
 
 // What the user has set for the job goes with the job to another printer, as far as that one takes it.

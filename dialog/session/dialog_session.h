@@ -224,6 +224,7 @@ private:
     PresetOptions resetTo(const PresetEntry& entry);
     void rememberWhenSent(PrintRun* run);
     void keepJobAttributes();
+    void takeLoadedSheet(const PrinterOffer& offer);
     void rememberStart(const SettledOption& settled);
     void loadPanels();
     ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
@@ -252,7 +253,7 @@ private:
     QString backLinesProblem_;
     Presets presets_;
     QMap<QString, QString> printerDefaults_;
-    QMap<QString, QString> filledIn_; // by panels, where nobody had chosen anything
+    QMap<QString, QString> filledIn_; // by panels or by what is loaded, where nobody had chosen anything
     bool hasTakenPreset_ = false;
     bool pageIsUsers_ = false; // no other printer's preset changes it
 

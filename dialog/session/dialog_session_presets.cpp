@@ -88,7 +88,7 @@ PresetOptions DialogSession::resetTo(const PresetEntry& entry)
     }
     PresetOptions wanted = optionsOf(*model_, entry.preset, model_->values());
     wanted.leftOut += model_->apply(wanted.given).leftOut;
-    nameLoadedSheet(*model_, keeper_->offer());
+    takeLoadedSheet(keeper_->offer());
     return wanted;
 }
 
@@ -149,6 +149,13 @@ void DialogSession::rememberWhenSent(PrintRun* run)
     for (const GivenOption& option : understoodSaved())
         unchosen.insert(option.key, option.value);
     Preset last = captureLastUsed(*model_, settings_->values(), page(), unchosen);
+    // The next time it is filled in again, by what is loaded then.
+    for (auto it = filledIn_.cbegin(); it != filledIn_.cend(); ++it) {
+        if (!chosen_.contains(it.key()) && last.options.value(it.key()) == *it) {
+            last.options.remove(it.key());
+            last.changed.removeAll(it.key());
+        }
+    }
     if (presets_.chosen().kind == PresetKind::named && isAsChosen())
         last.basedOn = presets_.chosen().preset.name;
     connect(run, &PrintRun::submitted, this,

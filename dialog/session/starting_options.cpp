@@ -73,7 +73,7 @@ AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QSt
     return applied;
 }
 
-void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer)
+QString nameLoadedSheet(PpdModel& model, const PrinterOffer& offer)
 {
     const QString key = QStringLiteral("PaperName");
     const QString choice = model.value(key);
@@ -84,14 +84,17 @@ void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer)
         });
     };
     if (isLoaded(choice))
-        return;
-    QString sheet;
-    if (isLoaded(name))
-        sheet = name;
-    else if (choice == ppd::defaultChoice(model.file(), key).value_or(QString()))
-        sheet = fittingSheet(model, offer);
+        return {};
+    if (isLoaded(name)) {
+        model.restore({{key, name}});
+        return {};
+    }
+    if (choice != ppd::defaultChoice(model.file(), key).value_or(QString()))
+        return {};
+    const QString sheet = fittingSheet(model, offer);
     if (!sheet.isEmpty())
         model.restore({{key, sheet}});
+    return sheet;
 }
 
 void storeStart(const PpdModel& model, const QMap<QString, QString>& byDefault, const QString& queueJobSheets,

@@ -36,8 +36,9 @@ AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QSt
 
 /// Gives a sheet that was chosen by the PPD's keyword the printer's name for it, which is the text of that
 /// choice and the only one that a panel knows, if such a sheet is loaded. In place of the PPD's default, if
-/// that is none of those that are loaded, the sheet that fits: a panel would take the first by name.
-void nameLoadedSheet(PpdModel& model, const PrinterOffer& offer);
+/// that is none of those that are loaded, the sheet that fits: a panel would take the first by name. Answers
+/// that sheet, which nobody has chosen; else nothing.
+QString nameLoadedSheet(PpdModel& model, const PrinterOffer& offer);
 
 /// Stores in the print settings what differs from `byDefault`, the model's values before, and the banner
 /// pages that the queue adds by itself.
