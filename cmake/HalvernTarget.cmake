@@ -89,6 +89,6 @@ function(halvern_test name)
     cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/tests OUTPUT_VARIABLE room)
     string(REGEX REPLACE "/.*" "" room ${room})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/tsan.supp:die_after_fork=0"
+        ENVIRONMENT "ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/cmake/lsan.supp':print_suppressions=0;TSAN_OPTIONS=suppressions='${CMAKE_SOURCE_DIR}/cmake/tsan.supp':die_after_fork=0"
         TIMEOUT 1800 LABELS "${room};${T_LABELS}")
 endfunction()

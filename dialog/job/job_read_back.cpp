@@ -109,6 +109,21 @@ JobReadBack compareJob(const OptionValues& sent, _ipp_s* answer)
     return result;
 }
 
+void JobReadBack::conceal(const QSet<QString>& secrets)
+{
+    for (OptionValue& option : added) {
+        if (secrets.contains(option.key))
+            option.value = concealed();
+    }
+    for (ChangedOption& option : changed) {
+        if (!secrets.contains(option.key))
+            continue;
+        option.sent = concealed();
+        if (option.held)
+            option.held = concealed();
+    }
+}
+
 JobReadBack readBackJob(const QString& queue, int jobId, const OptionValues& sent,
                         const cups::CancelFlag& cancelled)
 {

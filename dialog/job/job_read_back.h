@@ -4,6 +4,8 @@
 #include "dialog/options/option_value.h"
 #include "platform/printing/cups_connection.h"
 
+#include <QSet>
+
 namespace halvern {
 
 /// An option that the server holds otherwise than it was sent; without `held`, not at all.
@@ -20,6 +22,9 @@ struct JobReadBack {
     bool isKnown = false; ///< the server has told; without it, the rest says nothing
     OptionValues added;   ///< by the server, or by the queue's defaults
     QList<ChangedOption> changed;
+
+    /// Puts something else in the place of these options' values.
+    void conceal(const QSet<QString>& secrets);
 
     bool isEqual() const { return isKnown && added.isEmpty() && changed.isEmpty(); }
 };

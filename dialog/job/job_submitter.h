@@ -5,6 +5,7 @@
 #include "platform/printing/cups_connection.h"
 
 #include <QIODevice>
+#include <QSet>
 
 #include <functional>
 
@@ -15,6 +16,7 @@ struct JobRequest {
     QString queue;
     QString title;
     OptionValues options;
+    QSet<QString> secrets = {}; ///< the options whose values nobody is to read
 };
 
 /// What became of sending it: a job number, or the sentence that says why there is none.

@@ -101,7 +101,8 @@ void PrintRun::takeSubmission(const SubmitResult& result)
     follower_->compareWith(job_.options);
     connect(follower_, &JobFollower::changed, this, &PrintRun::takeStatus);
     connect(follower_, &JobFollower::ended, this, &PrintRun::takeEnd);
-    connect(follower_, &JobFollower::compared, this, [this](const JobReadBack& job) {
+    connect(follower_, &JobFollower::compared, this, [this](JobReadBack job) {
+        job.conceal(job_.secrets);
         Q_EMIT readBack(job, readBackSentence(job, follower_->jobId()));
     });
     connect(follower_, &JobFollower::actionFailed, this,

@@ -5,6 +5,11 @@
 
 namespace halvern {
 
+QString concealed()
+{
+    return QString(6, QChar(0x2022));
+}
+
 std::optional<OptionValue> parseOption(const QString& text)
 {
     static const QRegularExpression bareWord(QStringLiteral("^[a-z]+(-[a-z]+)*$"));

@@ -18,6 +18,9 @@ struct OptionValue {
 
 using OptionValues = QList<OptionValue>;
 
+/// What stands on a screen for a PIN or a password, however long it is.
+QString concealed();
+
 /// "KEY=VALUE" -> an option, and "fit-to-page" -> "fit-to-page=true", as the server's own words are written;
 /// nothing without a key or, for a printer's option, a "=".
 std::optional<OptionValue> parseOption(const QString& text);

@@ -192,6 +192,12 @@ public:
     /// What may be chosen beside the listed choices.
     CustomValue customValue(const QString& key) const;
 
+    /// Whether the current value is a PIN or a password, which nobody is to read on a screen or in a file.
+    bool isSecret(const QString& key) const { return isKept(key) && customValue(key).isHidden(); }
+
+    /// The options of which that is true.
+    QSet<QString> secrets() const;
+
     /// The title of the option's group; empty if the PPD does not know the option.
     QString groupText(const QString& key) const;
 

@@ -142,7 +142,7 @@ QString PpdModel::unlistedText(const QString& key, const QString& value) const
     }
     const CustomValue custom = customValue(key);
     if (custom.isHidden())
-        return value.isEmpty() ? QString() : QString(6, QChar(0x2022));
+        return value.isEmpty() ? QString() : concealed();
     bool isNumber = false;
     const double points = value.toDouble(&isNumber);
     if (custom.kind != CustomValue::Kind::length || !isNumber)
@@ -170,6 +170,16 @@ OptionKind PpdModel::kind(const QString& key) const
                    ppd_lookup::listedChoice(file_.get(), key, QStringLiteral("False"))
                ? OptionKind::yesOrNo
                : OptionKind::one;
+}
+
+QSet<QString> PpdModel::secrets() const
+{
+    QSet<QString> keys;
+    for (auto it = kept_.cbegin(); it != kept_.cend(); ++it) {
+        if (isSecret(it.key()))
+            keys.insert(it.key());
+    }
+    return keys;
 }
 
 CustomValue PpdModel::customValue(const QString& key) const

@@ -253,7 +253,7 @@ QString PresetFile::add(const QList<Preset>& added, QStringList* names) const
         for (Preset preset : added) {
             const QString name = preset.name.left(kLongestPresetName - 8);
             for (int number = 2; indexOf(presets, preset.name) >= 0; ++number)
-                preset.name = QStringLiteral("%1 (%2)").arg(name).arg(number);
+                preset.name = QStringLiteral("%1 (%2)").arg(name, QString::number(number));
             if (refusal.isEmpty())
                 refusal = putInto(presets, preset);
             names->append(preset.name);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/application.h"
 
+#include "dialog/job/pdf_output.h"
 #include "dialog/job/print_run.h"
 #include "dialog/program/exit_status.h"
 #include "platform/foundation/display_text.h"
@@ -164,6 +165,20 @@ bool waitForUnfinishedRun(PrintRun* run)
         limit();
     loop.exec();
     return true;
+}
+
+QString waitForUnfinishedFile(PdfOutput* file)
+{
+    if (!file)
+        return {};
+    QString problem;
+    QEventLoop loop;
+    QObject::connect(file, &PdfOutput::finished, &loop, [&](const PdfOutcome& outcome) {
+        problem = outcome.isWritten || outcome.wasCancelled ? QString() : outcome.sentence;
+        loop.quit();
+    });
+    loop.exec();
+    return problem;
 }
 
 void tellAfterwards(const QString& sentence)

@@ -8,6 +8,7 @@
 
 namespace halvern {
 
+class PdfOutput;
 class PrintRun;
 
 /// Before the application object is made: where the log goes, and what it is shown on. Without a window
@@ -28,6 +29,10 @@ QList<std::shared_ptr<QTranslator>> prepareApplication();
 /// After the window has gone: waits until the server has the whole job, or, of a cancelled run, a moment
 /// until what was sent of it has been taken back. Whether it waited.
 bool waitForUnfinishedRun(PrintRun* run);
+
+/// The same for a file that was being written when the window was closed. The sentence about what failed;
+/// empty if it is there, or if there was none.
+QString waitForUnfinishedFile(PdfOutput* file);
 
 /// Tells somebody whose window is closed what became of the job: in a notification of the desktop, or on
 /// standard error if there is none.

@@ -106,7 +106,8 @@ public:
 
     static QString badCopies(const QString& text)
     {
-        return tr("\"%1\" is no number of copies: write a number from 1 to %2.").arg(text).arg(kMostCopies);
+        return tr("\"%1\" is no number of copies: write a number from 1 to %2.")
+            .arg(text, QString::number(kMostCopies));
     }
 
     static QString badWait(const QString& text)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "dialog/job/pdf_output.h"
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/program/quit_signals.h"
@@ -45,13 +46,18 @@ int runDialog(const CommandLine& line)
         // Whoever ends the program wants no half of a job; what the server has, it prints.
         if (dialog.isRunning() && dialog.run()->jobId() == 0)
             dialog.run()->cancel();
+        if (dialog.unfinishedFile())
+            dialog.unfinishedFile()->cancel();
         if (dialog.isVisible())
             dialog.done(QDialog::Rejected);
     });
     QObject::connect(&dialog, &QDialog::finished, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
     const bool wasClosedEarly = waitForUnfinishedRun(dialog.run());
-    const int status = statusOf(dialog);
+    const QString fileProblem = waitForUnfinishedFile(dialog.unfinishedFile());
+    if (!fileProblem.isEmpty())
+        tellAfterwards(fileProblem);
+    const int status = fileProblem.isEmpty() ? statusOf(dialog) : kExitFailed;
     if (wasClosedEarly && status == kExitFailed)
         tellAfterwards(dialog.outcome().sentence);
     if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {

@@ -2,6 +2,7 @@
 #include "dialog/session/dialog_session.h"
 
 #include "dialog/session/starting_options.h"
+#include "platform/foundation/display_text.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/print_settings.h"
 #include "platform/printing/printer.h"
@@ -383,9 +384,18 @@ void DialogSession::takeOffer(const PrinterOffer& offer)
     Q_EMIT offerChanged();
 }
 
-bool DialogSession::canPrint() const
+QString DialogSession::whyNotPrintable() const
 {
-    return model_ && photos_.isDone() && !photos().empty() && chosenPages().problem.isEmpty();
+    if (printerName().isEmpty())
+        return tr("No printer is chosen. Choose one from the list.");
+    if (!model_)
+        return tr("Nothing is known of the printer \"%1\" yet. Wait for it, or choose another one.")
+            .arg(displayText(printerName()));
+    if (!photos_.isDone())
+        return tr("The photos are still being read. Wait a moment.");
+    if (photos().empty())
+        return tr("There is no photo to print. Open the dialog with one.");
+    return chosenPages().problem;
 }
 
 JobInputs DialogSession::jobInputs() const
@@ -438,7 +448,7 @@ std::vector<PageToPrint> DialogSession::pagesToPrint() const
 PrintRun* DialogSession::makeRun()
 {
     std::vector<PageToPrint> pages = pagesToPrint();
-    JobRequest job{printerName(), jobTitle(), collectOptions()};
+    JobRequest job{printerName(), jobTitle(), collectOptions(), model_->secrets()};
     auto* run = new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
     if (request_.remembers)
         rememberWhenSent(run);

@@ -136,7 +136,10 @@ public:
     bool isAsChosen() const;
 
     /// Whether print() would do something.
-    bool canPrint() const;
+    bool canPrint() const { return whyNotPrintable().isEmpty(); }
+
+    /// Why it would not, and what to do; empty if it would.
+    QString whyNotPrintable() const;
 
     /// Why the request's lines for the back cannot be printed on the selected printer; empty if they can, or
     /// if there are none.

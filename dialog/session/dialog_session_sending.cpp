@@ -93,7 +93,7 @@ QString DialogSession::command() const
         return pinned.contains(key) || (unchanged.contains(key) && unchanged.value(key) == values.value(key));
     });
     for (const QString& key : keys + pinned.values()) {
-        if (values.contains(key))
+        if (values.contains(key) && !model_->isSecret(key))
             job.options.append({key, values.value(key)});
     }
     if (!page().isCollated || saved.page.isCollated)

@@ -149,9 +149,7 @@ Preset capturePreset(const PpdModel& model, const QVariantMap& saved, const Page
         preset.page.insert(kParity, wordOf(kParities, page.pages.parity));
     }
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        // A PIN or a password is nobody's to read in a file.
-        const bool isSecret = model.isKept(it.key()) && model.customValue(it.key()).isHidden();
-        if (!isPrinters(model, it.key()) || isPages(it.key()) || isSecret ||
+        if (!isPrinters(model, it.key()) || isPages(it.key()) || model.isSecret(it.key()) ||
             (isBackText(it.key()) && !contents.backText))
             continue;
         preset.options.insert(it.key(), it.value());

@@ -71,6 +71,7 @@ void OptionFinder::makeResults()
     list_->setModel(hits_);
     list_->setItemDelegate(new HitDelegate(list_));
     list_->setUniformItemSizes(true);
+    list_->installEventFilter(this);
     auto* column = new QVBoxLayout(results_);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(count_);
@@ -96,6 +97,11 @@ void OptionFinder::start()
 void OptionFinder::stop()
 {
     field_->clear();
+}
+
+void OptionFinder::searchAgain()
+{
+    search(field_->text());
 }
 
 void OptionFinder::search(const QString& typed)
@@ -196,9 +202,14 @@ bool OptionFinder::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !isSearching_)
         return QWidget::eventFilter(watched, event);
+    const int key = static_cast<const QKeyEvent*>(event)->key();
+    // The list has its own way with the others.
+    if (watched == list_ && key != Qt::Key_Escape)
+        return QWidget::eventFilter(watched, event);
     const int row = list_->currentIndex().row();
-    switch (static_cast<const QKeyEvent*>(event)->key()) {
+    switch (key) {
     case Qt::Key_Escape:
+        field_->setFocus(Qt::OtherFocusReason);
         stop();
         return true;
     case Qt::Key_Return:

@@ -48,6 +48,9 @@ public:
     /// Ends the search and forgets it.
     void stop();
 
+    /// The pages are others now: looks for the same once more.
+    void searchAgain();
+
     /// The identifier that stands for the printers.
     static QString printersPage();
 

@@ -63,21 +63,30 @@ void OutputMenu::chooseFile()
     question->open();
 }
 
+PdfOutput* OutputMenu::unfinished() const
+{
+    return file_ && !file_->isOver() ? file_ : nullptr;
+}
+
 void OutputMenu::write(const QString& path)
 {
     if (path.isEmpty() || !session_.canPrint())
         return;
-    PdfOutput* const file = session_.makePdf(path);
-    connect(file, &PdfOutput::progressed, this, &OutputMenu::progressed);
-    connect(file, &PdfOutput::finished, this, [this, file](const PdfOutcome& outcome) {
-        file->deleteLater();
+    if (unfinished()) {
+        Q_EMIT failed(tr("A file is being written still. Write the next one when it is there."));
+        return;
+    }
+    file_ = session_.makePdf(path);
+    connect(file_, &PdfOutput::progressed, this, &OutputMenu::progressed);
+    connect(file_, &PdfOutput::finished, this, [this](const PdfOutcome& outcome) {
+        file_->deleteLater();
         if (outcome.isWritten)
             Q_EMIT done(outcome.sentence);
         else
             Q_EMIT failed(outcome.sentence);
     });
     Q_EMIT progressed(0.0);
-    file->start();
+    file_->start();
 }
 
 void OutputMenu::copyCommand()
@@ -86,7 +95,10 @@ void OutputMenu::copyCommand()
         return;
     endEditing();
     QGuiApplication::clipboard()->setText(session_.command()); // plain: quoted for a shell
-    Q_EMIT done(tr("The command that prints this again is on the clipboard."));
+    Q_EMIT done(
+        session_.model()->secrets().isEmpty()
+            ? tr("The command that prints this again is on the clipboard.")
+            : tr("The command that prints this again is on the clipboard, without your PIN or password."));
 }
 
 } // namespace halvern

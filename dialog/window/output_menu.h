@@ -3,6 +3,7 @@
 
 #include "dialog/session/dialog_session.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 namespace halvern {
@@ -22,6 +23,9 @@ public:
     /// Puts the command on the clipboard.
     void copyCommand();
 
+    /// The file that is being written; null if there is none.
+    PdfOutput* unfinished() const;
+
 Q_SIGNALS:
     /// The share of the file that is written, 0 to 1.
     void progressed(double share);
@@ -34,6 +38,7 @@ private:
     void endEditing();
 
     DialogSession& session_;
+    QPointer<PdfOutput> file_;
 };
 
 } // namespace halvern

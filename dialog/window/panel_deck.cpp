@@ -196,7 +196,6 @@ void PanelDeck::rebuild()
 {
     const QString current =
         list_->currentItem() ? list_->currentItem()->data(Qt::UserRole).toString() : kPage;
-    finder_->stop();
     releasePanels();
     {
         const QSignalBlocker quiet(list_);
@@ -219,6 +218,7 @@ void PanelDeck::rebuild()
     }
     if (!showPage(current))
         showPage(kPage);
+    finder_->searchAgain();
 }
 
 QStringList PanelDeck::identifiers() const

@@ -150,7 +150,6 @@ void PresetBar::refresh()
             box_->setItemText(row, text);
     }
     box_->setCurrentIndex(current);
-    setEnabled(session_.model() != nullptr);
 }
 
 void PresetBar::applyShown()

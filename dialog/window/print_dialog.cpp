@@ -394,8 +394,11 @@ void PrintDialog::showPhotos()
     const QString name = QFileInfo(photo.path).fileName();
     const QString shown = isolated(name, kLongestName);
     setPlainTitle(this, tr("Print %1").arg(shown));
-    const QString page = photo.pageNumber > 0 ? tr("%1, page %2").arg(shown).arg(photo.pageNumber) : shown;
-    setPlainText(pageNumber_, tr("%1 of %2  ·  %3").arg(current_ + 1).arg(pages.size()).arg(page));
+    const QString page =
+        photo.pageNumber > 0 ? tr("%1, page %2").arg(shown, QString::number(photo.pageNumber)) : shown;
+    setPlainText(
+        pageNumber_,
+        tr("%1 of %2  ·  %3").arg(QString::number(current_ + 1), QString::number(pages.size()), page));
     back_->setEnabled(current_ > 0);
     forward_->setEnabled(current_ + 1 < int(pages.size()));
     updateButtons();

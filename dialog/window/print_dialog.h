@@ -39,6 +39,9 @@ public:
     /// The run that is under way or the last one; null before the first.
     PrintRun* run() { return run_; }
 
+    /// The PDF file that is being written; null if there is none.
+    PdfOutput* unfinishedFile() const;
+
     bool isRunning() const { return run_ && !run_->isOver(); }
 
     /// How the last run ended.

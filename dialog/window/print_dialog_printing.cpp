@@ -32,7 +32,7 @@ void PrintDialog::updateButtons()
     print_->setEnabled(!isBusy && session_.canPrint());
     output_->setEnabled(!isBusy && session_.canPrint());
     // Said to whoever rests the pointer on the button.
-    setPlainDescription(print_, isBusy || !session_.hasPhotos() ? QString() : session_.chosenPages().problem);
+    setPlainDescription(print_, isBusy ? QString() : session_.whyNotPrintable());
     printer_->setEnabled(!isBusy);
     presets_->setEnabled(!isBusy && session_.model());
     deck_->setEnabled(!isBusy);
@@ -61,6 +61,11 @@ QWidget* PrintDialog::makeOutputMenu(QWidget* parent)
         message_->showMessage(MessageKind::error, sentence);
     });
     return output_;
+}
+
+PdfOutput* PrintDialog::unfinishedFile() const
+{
+    return output_ ? output_->unfinished() : nullptr;
 }
 
 void PrintDialog::print()

@@ -291,13 +291,19 @@ void SummaryPage::fillAll(RowsOnDemand& rows)
     });
 }
 
+QString SummaryPage::asSent(const QString& key) const
+{
+    const PpdModel* model = session_.model();
+    return model && model->isSecret(key) ? concealed() : options_.value(key);
+}
+
 void SummaryPage::fillSent(RowsOnDemand& rows) const
 {
     QStringList keys;
     for (const OptionValue& option : options_.list())
         keys.append(option.key);
     rows.setRows(keys, [this](const QString& key) -> RowsOnDemand::Row {
-        return {key, options_.value(key), changed_.contains(key)};
+        return {key, asSent(key), changed_.contains(key)};
     });
 }
 
@@ -315,7 +321,7 @@ QString SummaryPage::asText() const
         text += QLatin1Char('\n') + tr("Off: %1").arg(off_.join(QStringLiteral(", "))) + QLatin1Char('\n');
     text += QLatin1Char('\n') + tr("The options as they are sent") + QLatin1Char('\n');
     for (const OptionValue& option : options_.list())
-        text += option.key + QLatin1Char('=') + option.value + QLatin1Char('\n');
+        text += option.key + QLatin1Char('=') + asSent(option.key) + QLatin1Char('\n');
     return text;
 }
 

@@ -57,6 +57,7 @@ private:
     void copy() const;
     QString row(const Line& line) const;
     void fillAll(RowsOnDemand& rows);
+    QString asSent(const QString& key) const;
     void fillSent(RowsOnDemand& rows) const;
 
     DialogSession& session_;
