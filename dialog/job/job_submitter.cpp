@@ -10,13 +10,13 @@
 #include <QThread>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace halvern {
 
 namespace {
 
-constexpr qint64 kChunk = 64 * 1024;
 constexpr int kLongestTitle = 255; // bytes of an IPP name
 constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
 constexpr int kTakeBackTries = 3;
@@ -133,8 +133,8 @@ int createJob(cups::Connection& server, const JobRequest& job, QString* problem)
     return jobId;
 }
 
-bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, QIODevice& document,
-                  const std::function<void(double)>& progress, QString* problem)
+bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, const cups::NextPiece& document,
+                  QString* problem)
 {
     cups::Ipp request = cups::newRequest(IPP_OP_SEND_DOCUMENT, job.queue);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
@@ -143,16 +143,10 @@ bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, QI
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  CUPS_FORMAT_PDF);
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
-    const auto size = double(document.size());
     bool isWritten = false;
     const auto nextPiece = [&]() -> std::optional<QByteArray> {
-        isWritten = document.atEnd();
-        if (isWritten)
-            return QByteArray();
-        const QByteArray piece = document.read(kChunk);
-        if (piece.isEmpty())
-            return std::nullopt;
-        progress(double(document.pos()) / size);
+        std::optional<QByteArray> piece = document();
+        isWritten = piece && piece->isEmpty();
         return piece;
     };
     const cups::Ipp answer = server.request(std::move(request), resourceOf(job).constData(), nextPiece);
@@ -165,22 +159,34 @@ bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, QI
 
 } // namespace
 
-SubmitResult submitJob(const JobRequest& job, QIODevice& document, const cups::CancelFlag& cancelled,
-                       const std::function<void(double)>& progress)
+SubmitResult submitJob(const JobRequest& job, const cups::NextPiece& nextPiece,
+                       const cups::CancelFlag& cancelled)
 {
     SubmitResult result;
+    // A first photo that cannot be read makes no job.
+    std::optional<QByteArray> first = nextPiece();
+    result.wasCancelled = cancelled->load();
+    result.isDocumentAtFault = !first;
+    if (!first || result.wasCancelled)
+        return result;
     cups::Connection server(cancelled);
     if (!server.isConnected()) {
         result.problem = server.error();
         return result;
     }
+    const auto document = [&] {
+        std::optional<QByteArray> piece = first ? std::exchange(first, std::nullopt) : nextPiece();
+        result.isDocumentAtFault = !piece;
+        return piece;
+    };
     const int jobId = createJob(server, job, &result.problem);
-    if (jobId > 0 && sendDocument(server, job, jobId, document, progress, &result.problem))
+    if (jobId > 0 && sendDocument(server, job, jobId, document, &result.problem))
         return {jobId, {}, false};
     result.wasCancelled = server.isCancelled();
     if (jobId > 0) {
         const QString left = takeBack(job, jobId);
-        result.problem = result.wasCancelled ? left : result.problem + left;
+        const bool isServerAtFault = !result.wasCancelled && !result.isDocumentAtFault;
+        result.problem = isServerAtFault ? result.problem + left : left;
     }
     return result;
 }

@@ -4,10 +4,7 @@
 #include "dialog/options/option_value.h"
 #include "platform/printing/cups_connection.h"
 
-#include <QIODevice>
 #include <QSet>
-
-#include <functional>
 
 namespace halvern {
 
@@ -24,12 +21,13 @@ struct SubmitResult {
     int jobId = 0;
     QString problem;
     bool wasCancelled = false;
+    bool isDocumentAtFault = false; ///< it did not come to its end; `problem` says what is left of the job
 };
 
-/// Creates the job and sends its document, a PDF that `document` holds from its beginning, on the calling
-/// worker. A job whose document did not arrive whole is cancelled again, for some seconds if need be.
-/// `progress` gets the share sent, from 0 to 1.
-SubmitResult submitJob(const JobRequest& job, QIODevice& document, const cups::CancelFlag& cancelled,
-                       const std::function<void(double)>& progress);
+/// Creates the job and sends its document, a PDF that comes in pieces, on the calling worker. A job whose
+/// document did not arrive whole is cancelled again, for some seconds if need be. Nothing is asked of the
+/// server before there is a first piece.
+SubmitResult submitJob(const JobRequest& job, const cups::NextPiece& nextPiece,
+                       const cups::CancelFlag& cancelled);
 
 } // namespace halvern

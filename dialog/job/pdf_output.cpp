@@ -25,10 +25,11 @@ PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages,
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return {false, false, fileProblem(path, file.errorString())};
-    const QString problem = writePdf(file, pages, resolution, [&](double share) {
+    const auto keepGoing = [&](double share) {
         report(share);
         return !cancelled->load();
-    });
+    };
+    const QString problem = writePdf(file, pages, resolution, {keepGoing});
     if (cancelled->load())
         return {false, true, PdfOutput::tr("Cancelled: no file was written.")};
     if (!file.flush() || file.error() != QFileDevice::NoError)

@@ -1,55 +1,71 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/print_run.h"
 
+#include "dialog/job/page_stream.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QPointer>
-#include <QTemporaryFile>
+
+#include <algorithm>
 
 namespace halvern {
 
 namespace {
 
-// Rendering and sending take about as long.
-constexpr double kRenderingShare = 0.5;
+// What the worker that sends is told and asked.
+struct Sending {
+    JobRequest job;
+    std::vector<PageToPrint> pages;
+    size_t photosPerJob = 0; // 0: all in one
+    int resolution = 0;
+    cups::CancelFlag cancelled;
+    std::shared_ptr<std::atomic<bool>> paused;
+    std::function<void(double)> report;
+};
 
-using Report = std::function<void(double, bool)>;
-
-// Without a name: whatever ends the program, nothing of the pages is left behind.
-bool openNameless(QTemporaryFile& file)
+QString numbered(const QString& title, size_t job, size_t jobs)
 {
-    if (!file.open())
-        return false;
-    file.setAutoRemove(false);
-    return QFile::remove(file.fileName());
+    return jobs > 1 ? QStringLiteral("%1 (%2/%3)").arg(title).arg(job + 1).arg(jobs) : title;
 }
 
-SubmitResult renderAndSend(const JobRequest& job, const std::vector<PageToPrint>& pages, int resolution,
-                           const cups::CancelFlag& cancelled, const Report& report)
+SubmitResult sendPages(const Sending& sending, const JobRequest& job, size_t first, size_t count)
 {
-    SubmitResult result;
-    QTemporaryFile file;
-    const auto fileProblem = [&file] {
-        return PrintRun::tr("No temporary file can be made: %1. Make room on the disk and try again.")
-            .arg(file.errorString());
-    };
-    if (!openNameless(file)) {
-        result.problem = fileProblem();
-        return result;
-    }
-    result.problem = writePdf(file, pages, resolution, [&](double share) {
-        report(share * kRenderingShare, false);
+    const double share = double(count) / double(sending.pages.size());
+    const double before = double(first) / double(sending.pages.size());
+    const auto keepGoing = [=, report = sending.report, cancelled = sending.cancelled](double done) {
+        report(before + done * share);
         return !cancelled->load();
-    });
-    result.wasCancelled = cancelled->load();
-    if (!result.problem.isEmpty() || result.wasCancelled)
-        return result;
-    if (!file.flush() || !file.seek(0)) {
-        result.problem = fileProblem();
-        return result;
+    };
+    const auto from = sending.pages.begin() + std::ptrdiff_t(first);
+    PageStream stream({from, from + std::ptrdiff_t(count)}, sending.resolution,
+                      {keepGoing, [paused = sending.paused] { return paused->load(); }});
+    SubmitResult result = submitJob(
+        job, [&stream] { return stream.next(); }, sending.cancelled);
+    if (result.isDocumentAtFault && !result.wasCancelled)
+        result.problem = stream.problem() + result.problem;
+    return result;
+}
+
+SentJobs send(const Sending& sending)
+{
+    SentJobs sent;
+    const size_t all = sending.pages.size();
+    const size_t each = sending.photosPerJob > 0 ? std::min(sending.photosPerJob, all) : all;
+    const size_t jobs = (all + each - 1) / each;
+    for (size_t i = 0; i < jobs; ++i) {
+        JobRequest job = sending.job;
+        job.title = numbered(job.title, i, jobs);
+        const size_t count = std::min(each, all - i * each);
+        const SubmitResult result = sendPages(sending, job, i * each, count);
+        sent.problem = result.problem;
+        sent.wasCancelled = result.wasCancelled;
+        if (result.jobId == 0)
+            break;
+        sent.ids.append(result.jobId);
+        sent.photos += int(count);
     }
-    return submitJob(job, file, cancelled,
-                     [&](double share) { report(kRenderingShare + share * (1.0 - kRenderingShare), true); });
+    sent.isAll = size_t(sent.photos) == all;
+    return sent;
 }
 
 } // namespace
@@ -59,7 +75,9 @@ PrintRun::PrintRun(JobRequest job, std::vector<PageToPrint> pages, int resolutio
       job_(std::move(job)),
       pages_(std::move(pages)),
       resolution_(resolution),
-      cancelled_(cups::makeCancelFlag())
+      cancelled_(cups::makeCancelFlag()),
+      paused_(cups::makeCancelFlag()),
+      progress_(int(pages_.size()))
 {
 }
 
@@ -71,33 +89,57 @@ PrintRun::~PrintRun()
 void PrintRun::start()
 {
     QPointer<PrintRun> self(this);
-    const Report report = [self](double share, bool isSending) {
-        mainQueue().async([self, share, isSending] {
+    progress_.start();
+    const auto report = [self](double share) {
+        mainQueue().async([self, share] {
             if (self && !self->isOver_)
-                Q_EMIT self->progressed(share,
-                                        isSending ? tr("Sending the job...") : tr("Preparing the pages..."));
+                self->takeProgress(share);
         });
     };
-    WorkQueue().async([self, report, job = job_, pages = std::move(pages_), resolution = resolution_,
-                       cancelled = cancelled_] {
-        const SubmitResult result = renderAndSend(job, pages, resolution, cancelled, report);
-        mainQueue().async([self, result] {
+    Sending sending{job_, std::move(pages_), photosPerJob_, resolution_, cancelled_, paused_, report};
+    WorkQueue().async([self, sending = std::move(sending)] {
+        const SentJobs sent = send(sending);
+        mainQueue().async([self, sent] {
             if (self)
-                self->takeSubmission(result);
+                self->takeSubmission(sent);
         });
     });
 }
 
-void PrintRun::takeSubmission(const SubmitResult& result)
+void PrintRun::takeProgress(double share)
 {
-    if (result.jobId == 0) {
-        const JobStage stage = result.wasCancelled ? JobStage::cancelled : JobStage::unknown;
-        const QString words = result.wasCancelled ? tr("Cancelled: nothing was printed.") + result.problem
-                                                  : tr("Nothing was printed. %1").arg(result.problem);
+    share_ = share;
+    Q_EMIT progressed(share, progress_.words(share));
+}
+
+void PrintRun::setPaused(bool paused)
+{
+    paused_->store(paused);
+    progress_.setPaused(paused);
+    takeProgress(share_);
+}
+
+void PrintRun::takeSubmission(const SentJobs& sent)
+{
+    sent_ = sent;
+    if (sent.ids.isEmpty()) {
+        const JobStage stage = sent.wasCancelled ? JobStage::cancelled : JobStage::unknown;
+        const QString words = sent.wasCancelled ? tr("Cancelled: nothing was printed.") + sent.problem
+                                                : tr("Nothing was printed. %1").arg(sent.problem);
         finish({false, 0, stage, words});
         return;
     }
-    follower_ = new JobFollower(job_.queue, result.jobId, patience_, this);
+    followNext();
+    Q_EMIT submitted(follower_->jobId());
+    if (cancelled_->load())
+        follower_->cancel();
+}
+
+void PrintRun::followNext()
+{
+    if (follower_)
+        follower_->deleteLater();
+    follower_ = new JobFollower(job_.queue, sent_.ids.at(followed_++), patience_, this);
     follower_->compareWith(job_.options);
     connect(follower_, &JobFollower::changed, this, &PrintRun::takeStatus);
     connect(follower_, &JobFollower::ended, this, &PrintRun::takeEnd);
@@ -107,9 +149,6 @@ void PrintRun::takeSubmission(const SubmitResult& result)
     });
     connect(follower_, &JobFollower::actionFailed, this,
             [this](const QString& problem) { Q_EMIT followed(follower_->status(), problem); });
-    Q_EMIT submitted(result.jobId);
-    if (cancelled_->load())
-        follower_->cancel();
 }
 
 void PrintRun::takeStatus(const JobStatus& status)
@@ -132,7 +171,31 @@ void PrintRun::takeEnd(const JobStatus& status)
                        QString::number(
                            std::chrono::round<std::chrono::seconds>(patience_.untilGivenUp).count()))
             : jobSentence(status, job_.queue, jobId);
-    finish({isPrinted(status.stage), jobId, status.stage, sentence});
+    takeJobEnd({isPrinted(status.stage), jobId, status.stage, sentence});
+}
+
+void PrintRun::takeJobEnd(const PrintOutcome& outcome)
+{
+    // Of several jobs the first that was not printed is what is to be told.
+    if (followed_ == 1 || outcome_.printed)
+        outcome_ = outcome;
+    if (followed_ < sent_.ids.size() && outcome.stage != JobStage::unknown) {
+        followNext();
+        if (cancelled_->load())
+            follower_->cancel();
+        return;
+    }
+    if (!sent_.isAll) {
+        outcome_ = {false, 0, sent_.wasCancelled ? JobStage::cancelled : JobStage::aborted,
+                    tr("%1 photos went out in %2 jobs; the others were not sent. %3")
+                        .arg(QString::number(sent_.photos), QString::number(sent_.ids.size()), sent_.problem)
+                        .trimmed()};
+    } else if (outcome_.printed && sent_.ids.size() > 1) {
+        outcome_.sentence = tr("%1 photos were printed in %2 jobs, %3 to %4.")
+                                .arg(QString::number(sent_.photos), QString::number(sent_.ids.size()),
+                                     QString::number(sent_.ids.first()), QString::number(sent_.ids.last()));
+    }
+    finish(outcome_);
 }
 
 void PrintRun::cancel()

@@ -3,6 +3,7 @@
 
 #include "dialog/job/job_follower.h"
 #include "dialog/job/job_submitter.h"
+#include "dialog/job/run_progress.h"
 #include "dialog/page/page_renderer.h"
 
 #include <QObject>
@@ -17,8 +18,18 @@ struct PrintOutcome {
     QString sentence;                   ///< for the user
 };
 
-/// One press on Print: renders the pages, sends the job and follows it to its end. The work is done by
-/// workers; this object lives on the main thread, and deleting it makes the workers stop by themselves.
+/// The jobs that the server has whole, and why there are no more.
+struct SentJobs {
+    QList<int> ids;
+    int photos = 0;
+    bool isAll = false;
+    bool wasCancelled = false;
+    QString problem;
+};
+
+/// One press on Print: sends the pages while they are made, as one job or as several, and follows it to its
+/// end. The work is done by workers; this object lives on the main thread, and deleting it makes the workers
+/// stop by themselves.
 class PrintRun : public QObject {
     Q_OBJECT
 
@@ -30,15 +41,25 @@ public:
     /// start().
     void setPatience(Patience patience) { patience_ = patience; }
 
+    /// At most so many in each job, 0 for all in one. Before start().
+    void setPhotosPerJob(int count) { photosPerJob_ = size_t(count); }
+
     void start();
 
-    /// Stops rendering or sending, or asks the server to cancel the job.
+    /// Holds up the sending before the next photo, or goes on with it. The connection to the server stays.
+    void setPaused(bool paused);
+
+    int photoCount() const { return progress_.photos(); }
+
+    bool isPaused() const { return progress_.isPaused(); }
+
+    /// Stops sending, or asks the server to cancel the jobs.
     void cancel();
 
     /// Gets the resting job on its way again.
     void apply(Remedy remedy);
 
-    /// 0 as long as the server does not have the whole job.
+    /// 0 as long as the server does not have all that is sent; of several jobs the one that is followed.
     int jobId() const { return follower_ ? follower_->jobId() : 0; }
 
     bool isOver() const { return isOver_; }
@@ -46,23 +67,26 @@ public:
     bool isCancelled() const { return cancelled_->load(); }
 
 Q_SIGNALS:
-    /// The share of preparing and sending that is done, 0 to 1, with the words for it.
+    /// The share of the photos that is sent, 0 to 1, with the words for it.
     void progressed(double share, const QString& words);
     /// cancel() was called.
     void cancelling();
-    /// The server has the whole job.
+    /// The server has all of it; of several jobs the first.
     void submitted(int jobId);
     /// The job's status has changed, also while it rests, or something asked of the server failed: a
     /// sentence.
     void followed(const halvern::JobStatus& status, const QString& sentence);
-    /// What the server holds of the job was compared with what was sent, with a sentence about it; at most
-    /// once, and not if the server has gone silent.
+    /// What the server holds of a job was compared with what was sent, with a sentence about it; at most once
+    /// for each, and not if the server has gone silent.
     void readBack(const halvern::JobReadBack& job, const QString& sentence);
     /// The end; emitted once.
     void finished(const halvern::PrintOutcome& outcome);
 
 private:
-    void takeSubmission(const SubmitResult& result);
+    void takeProgress(double share);
+    void takeSubmission(const SentJobs& sent);
+    void followNext();
+    void takeJobEnd(const PrintOutcome& outcome);
     void takeStatus(const JobStatus& status);
     void takeEnd(const JobStatus& status);
     void finish(PrintOutcome outcome);
@@ -70,8 +94,15 @@ private:
     JobRequest job_;
     std::vector<PageToPrint> pages_;
     int resolution_;
+    size_t photosPerJob_ = 0;
     Patience patience_;
     cups::CancelFlag cancelled_;
+    cups::CancelFlag paused_;
+    RunProgress progress_;
+    double share_ = 0.0;
+    SentJobs sent_;
+    qsizetype followed_ = 0; ///< of the jobs, with the one that is followed now
+    PrintOutcome outcome_;
     JobFollower* follower_ = nullptr;
     bool isOver_ = false;
 };

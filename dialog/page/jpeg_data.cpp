@@ -2,23 +2,38 @@
 #include "dialog/page/jpeg_data.h"
 
 #include "dialog/page/jpeg_decoder.h"
-#include "dialog/page/srgb.h"
+#include "dialog/page/jpeg_scan.h"
+
+#include <QFile>
 
 namespace halvern {
 
-std::optional<JpegData> readJpegData(const Photo& photo)
+std::optional<JpegInfo> readJpegInfo(const QString& path, bool through)
+{
+    QFile file(path);
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? readJpegHead(file) : QByteArray();
+    const std::optional<JpegHeader> header = head.isEmpty() ? std::nullopt : JpegDecoder(head).header();
+    if (!header)
+        return std::nullopt;
+    JpegInfo info;
+    info.size = header->size;
+    info.components = header->components;
+    info.profile = header->profile;
+    info.orientation = jpegOrientation(head);
+    info.dotsPerInch = header->dotsPerInch;
+    info.suitsPdf = header->suitsPdf;
+    info.isWhole = through && isJpegInOrder(file);
+    return info;
+}
+
+std::optional<JpegInfo> untouchableJpeg(const Photo& photo)
 {
     // Made-up pixels differ from decoder to decoder: a damaged photo prints as it was shown.
     if (photo.isPdf || photo.isDamaged)
         return std::nullopt;
-    const QByteArray bytes = jpegBytes(photo.path);
-    const std::optional<JpegHeader> header = bytes.isEmpty() ? std::nullopt : JpegDecoder(bytes).header();
-    if (!header || !header->suitsPdf || !isSrgb(header->profile, header->components == 1))
-        return std::nullopt;
-    const Orientation orientation = jpegOrientation(bytes);
-    if (orientation.upright(header->size) != photo.pixels)
-        return std::nullopt;
-    return JpegData{bytes, header->size, header->components, orientation};
+    std::optional<JpegInfo> info = readJpegInfo(photo.path, false);
+    const bool isAsOpened = info && info->suitsPdf && info->orientation.upright(info->size) == photo.pixels;
+    return isAsOpened ? info : std::nullopt;
 }
 
 } // namespace halvern

@@ -10,16 +10,24 @@
 
 namespace halvern {
 
-/// A JPEG file whose compressed data can go into a print job as they stand.
-struct JpegData {
-    QByteArray bytes;
+/// What a JPEG file says before its pixels, without the pixels.
+struct JpegInfo {
     QSize size;         ///< as stored
-    int components = 3; ///< 1 or 3
+    int components = 3; ///< 1 gray, 3 colours, 4 inks
+    QByteArray profile; ///< ICC; empty: none
     Orientation orientation;
+    double dotsPerInch = 0.0; ///< 0: not said
+    bool suitsPdf = false;    ///< each reader of PDF files decodes it to the pixels that we see
+    bool isWhole = false;     ///< nothing is missing that can be seen without decoding
 };
 
-/// Nothing if the photo is no such JPEG: another format, four components, damaged, changed since, or colours
-/// that need converting. Decodes no pixels. Any thread.
-std::optional<JpegData> readJpegData(const Photo& photo);
+/// Reads a file's head only, and with `through` the whole of it, which sets isWhole. Nothing if it is no JPEG
+/// file. Any thread.
+std::optional<JpegInfo> readJpegInfo(const QString& path, bool through);
+
+/// What of a photo's file can go into a print job as it stands, as far as its colours may: nothing if the
+/// photo is another format, has four components, is damaged, or has changed since. Reads the head only. Any
+/// thread.
+std::optional<JpegInfo> untouchableJpeg(const Photo& photo);
 
 } // namespace halvern

@@ -27,11 +27,17 @@ QTransform photoToSheet(const PageLayout& layout);
 /// points of the page, turned as the user looks at it.
 void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo);
 
-/// Writes one PDF page of exactly the sheet's size for each page. JPEG data go in untouched; other pictures
-/// without loss, at no more than twice `resolution` dots per inch. `keepGoing` is asked between pages, with
-/// the share done. Answers the sentence about what failed, empty on success; also empty if it was told to
-/// stop. Any thread.
+/// How whoever writes a PDF file is told to wait or to stop. Both are called on the thread that writes.
+struct PdfControl {
+    std::function<bool(double)> keepGoing;    ///< asked between pages, with the share done
+    std::function<bool()> isPaused = nullptr; ///< looked at between pages; null: never
+};
+
+/// Writes one PDF page of exactly the sheet's size for each page, picture after picture, so that the number
+/// of pages costs no memory. JPEG data go in untouched; other pictures without loss, at no more than twice
+/// `resolution` dots per inch. Answers the sentence about what failed, empty on success; also empty if it was
+/// told to stop. Any thread.
 QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, int resolution,
-                 const std::function<bool(double)>& keepGoing);
+                 const PdfControl& control);
 
 } // namespace halvern

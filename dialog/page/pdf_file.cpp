@@ -24,6 +24,11 @@ QByteArray reference(int object)
     return QByteArray::number(object) + " 0 R";
 }
 
+QByteArray colorSpace(int components)
+{
+    return components == 1 ? "/DeviceGray" : components == 4 ? "/DeviceCMYK" : "/DeviceRGB";
+}
+
 } // namespace
 
 PdfFile::PdfFile(QIODevice& device) : device_(device)
@@ -46,35 +51,51 @@ int PdfFile::beginObject()
     return object;
 }
 
-void PdfFile::addStream(const QByteArray& dictionary, const QByteArray& bytes)
+void PdfFile::addContent(const QByteArray& content)
 {
-    write("<< " + dictionary + " /Length " + QByteArray::number(bytes.size()) + " >>\nstream\n");
-    write(bytes);
-    write("\nendstream\nendobj\n");
+    write("<< /Length " + QByteArray::number(content.size()) + " >>\nstream\n" + content +
+          "\nendstream\nendobj\n");
 }
 
-void PdfFile::addPage(const QSizeF& paper, const QRectF& clip, const QTransform& placement,
-                      const PdfImage& image)
+void PdfFile::beginPicture(const PdfImage& image)
 {
-    const int picture = beginObject();
-    addStream("/Type /XObject /Subtype /Image /Width " + QByteArray::number(image.size.width()) +
-                  " /Height " + QByteArray::number(image.size.height()) +
-                  " /BitsPerComponent 8 /ColorSpace " +
-                  (image.components == 1 ? "/DeviceGray" : "/DeviceRGB") + " /Interpolate true /Filter /" +
-                  image.filter,
-              image.bytes);
+    picture_ = beginObject();
+    // How long the data are is known behind them, and stands in the next object.
+    write("<< /Type /XObject /Subtype /Image /Width " + QByteArray::number(image.size.width()) + " /Height " +
+          QByteArray::number(image.size.height()) + " /BitsPerComponent 8 /ColorSpace " +
+          colorSpace(image.components) + " /Interpolate true /Filter /" + image.filter + " /Length " +
+          reference(picture_ + 1) + " >>\nstream\n");
+    pictureStart_ = written_;
+}
+
+bool PdfFile::addToPicture(const char* bytes, qsizetype count)
+{
+    write(QByteArray::fromRawData(bytes, count));
+    return ok_;
+}
+
+void PdfFile::endPage(const QSizeF& paper, const QRectF& clip, const QTransform& placement)
+{
+    const qint64 length = written_ - pictureStart_;
+    write("\nendstream\nendobj\n");
+    beginObject();
+    write(QByteArray::number(length) + "\nendobj\n");
     // PDF's picture square has its origin at the bottom left, and so has its page.
     const QTransform flip(1.0, 0.0, 0.0, -1.0, 0.0, 1.0);
     const QTransform pageFlip(1.0, 0.0, 0.0, -1.0, 0.0, paper.height());
     const QRectF cut = pageFlip.mapRect(clip);
     const int content = beginObject();
-    addStream("", "q " + number(cut.left()) + ' ' + number(cut.top()) + ' ' + number(cut.width()) + ' ' +
-                      number(cut.height()) + " re W n " + matrix(flip * placement * pageFlip) +
-                      " cm /I Do Q");
+    addContent("q " + number(cut.left()) + ' ' + number(cut.top()) + ' ' + number(cut.width()) + ' ' +
+               number(cut.height()) + " re W n " + matrix(flip * placement * pageFlip) + " cm /I Do Q");
     pages_.push_back(beginObject());
     write("<< /Type /Page /Parent " + reference(kPageTree) + " /MediaBox [0 0 " + number(paper.width()) +
-          ' ' + number(paper.height()) + "] /Resources << /XObject << /I " + reference(picture) +
+          ' ' + number(paper.height()) + "] /Resources << /XObject << /I " + reference(picture_) +
           " >> >> /Contents " + reference(content) + " >>\nendobj\n");
+}
+
+void PdfFile::sayStillHere()
+{
+    write("%\n");
 }
 
 bool PdfFile::finish()

@@ -10,6 +10,7 @@ namespace halvern {
 namespace {
 
 constexpr int kTakeBackMilliseconds = 3000;
+constexpr int kProgressMilliseconds = 10000;
 
 // Nobody sees here what is loaded, and a dry run sends nothing: the panels work from the options alone.
 SessionRequest unattended(SessionRequest request)
@@ -132,9 +133,19 @@ void BatchPrint::print()
 {
     run_ = session_.makeRun();
     run_->setPatience({.untilGivenUp = line_.wait});
+    lastProgress_.start();
+    connect(run_, &PrintRun::progressed, this, [this](double, const QString& words) {
+        if (lastProgress_.hasExpired(kProgressMilliseconds)) {
+            writeLine(err_, words);
+            lastProgress_.start();
+        }
+    });
     connect(run_, &PrintRun::followed, this, &BatchPrint::takeStatus);
-    connect(run_, &PrintRun::readBack, this,
-            [this](const JobReadBack& job, const QString&) { readBack_ = job; });
+    connect(run_, &PrintRun::readBack, this, [this](const JobReadBack& job, const QString&) {
+        // Of several jobs, one that differs is what counts.
+        if (!readBack_.isKnown || readBack_.isEqual())
+            readBack_ = job;
+    });
     connect(run_, &PrintRun::finished, this, &BatchPrint::takeOutcome);
     run_->start();
 }

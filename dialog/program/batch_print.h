@@ -5,6 +5,7 @@
 #include "dialog/program/command_line.h"
 #include "dialog/session/dialog_session.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QTextStream>
 
@@ -52,6 +53,7 @@ private:
     QPointer<PrintRun> run_;
     QPointer<PdfOutput> file_;
     QString lastSentence_;
+    QElapsedTimer lastProgress_;
     JobReadBack readBack_;
 };
 

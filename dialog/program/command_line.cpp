@@ -52,6 +52,10 @@ public:
         QStringLiteral("TEXT")};
     QCommandLineOption printDamaged{QStringLiteral("print-damaged"),
                                     tr("Print photos of which a part is missing, too, without asking.")};
+    QCommandLineOption photosPerJob{
+        QStringLiteral("photos-per-job"),
+        tr("Send several jobs in order, with at most this many photos each; without it, one job."),
+        QStringLiteral("N")};
     QCommandLineOption noDialog{QStringLiteral("no-dialog"),
                                 tr("Print at once, and wait until the job has ended.")};
     QCommandLineOption wait{
@@ -108,6 +112,11 @@ public:
     {
         return tr("\"%1\" is no number of copies: write a number from 1 to %2.")
             .arg(text, QString::number(kMostCopies));
+    }
+
+    static QString badPhotosPerJob(const QString& text)
+    {
+        return tr("\"%1\" is no number of photos: write 1 or more.").arg(text);
     }
 
     static QString badWait(const QString& text)
@@ -318,6 +327,11 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
         if (!isNumber || line.request.copies < 1 || line.request.copies > kMostCopies)
             return Switches::badCopies(parser.value(switches.copies));
     }
+    if (parser.isSet(switches.photosPerJob)) {
+        line.request.photosPerJob = parser.value(switches.photosPerJob).toInt();
+        if (line.request.photosPerJob < 1)
+            return Switches::badPhotosPerJob(parser.value(switches.photosPerJob));
+    }
     if (parser.isSet(switches.wait)) {
         bool isNumber = false;
         const int seconds = parser.value(switches.wait).toInt(&isNumber);
@@ -363,7 +377,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
          switches.backprint,    switches.preset,     switches.printDamaged, switches.noDialog,
          switches.wait,         switches.dryRun,     switches.output,       switches.verify,
          switches.listPrinters, switches.listPapers, switches.refresh,      switches.listOptions,
-         switches.listPresets,  switches.savePreset, switches.json});
+         switches.listPresets,  switches.savePreset, switches.json,         switches.photosPerJob});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -416,7 +430,8 @@ bool asksForWindow(const QStringList& arguments)
     QCommandLineParser parser;
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages,
                        switches.orientation, switches.position, switches.title, switches.backprint,
-                       switches.wait, switches.noDialog, switches.dryRun, switches.output, switches.preset});
+                       switches.wait, switches.noDialog, switches.dryRun, switches.output, switches.preset,
+                       switches.photosPerJob});
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

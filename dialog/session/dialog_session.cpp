@@ -450,6 +450,7 @@ PrintRun* DialogSession::makeRun()
     std::vector<PageToPrint> pages = pagesToPrint();
     JobRequest job{printerName(), jobTitle(), collectOptions(), model_->secrets()};
     auto* run = new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
+    run->setPhotosPerJob(request_.photosPerJob);
     if (request_.remembers)
         rememberWhenSent(run);
     return run;

@@ -36,6 +36,7 @@ struct SessionRequest {
     QString preset = {};
     /// Whether it starts with what the user printed with last, and remembers what is printed.
     bool remembers = true;
+    int photosPerJob = 0;     ///< at most so many; 0: all in one job
     bool namesCopies = false; ///< somebody said how many, so no preset decides it
 };
 

@@ -159,6 +159,10 @@ QWidget* PrintDialog::makeControlSide()
         if (run_)
             run_->apply(remedy);
     });
+    connect(runBar_, &RunBar::pauseChosen, this, [this](bool pause) {
+        if (run_)
+            run_->setPaused(pause);
+    });
     column->addWidget(runBar_);
     jobLine_ = new JobLine(session_, side);
     column->addWidget(jobLine_);

@@ -97,8 +97,13 @@ void PrintDialog::print()
 void PrintDialog::followRun()
 {
     connect(run_, &PrintRun::progressed, this, [this](double share, const QString& words) {
-        if (!run_->isCancelled())
-            runBar_->showProgress(share, words);
+        if (run_->isCancelled())
+            return;
+        const bool canPause = share < 1.0 && run_->photoCount() > 1;
+        runBar_->showProgress(share, words,
+                              !canPause          ? RunBar::Pause::none
+                              : run_->isPaused() ? RunBar::Pause::on
+                                                 : RunBar::Pause::offered);
     });
     connect(run_, &PrintRun::submitted, this, [this](int jobId) {
         if (!run_->isCancelled())

@@ -36,7 +36,8 @@ RunBar::RunBar(QWidget* parent)
       text_(new QLabel(this)),
       check_(new QLabel(this)),
       progress_(new QProgressBar(this)),
-      button_(new QPushButton(this))
+      button_(new QPushButton(this)),
+      pause_(new QPushButton(this))
 {
     text_->setObjectName(QStringLiteral("status"));
     text_->setWordWrap(true);
@@ -48,14 +49,19 @@ RunBar::RunBar(QWidget* parent)
     progress_->setTextVisible(false);
     progress_->setFixedHeight(8);
     button_->setObjectName(QStringLiteral("remedyButton"));
-    button_->setAutoDefault(false);
-    button_->setMinimumSize(104, 32);
+    pause_->setObjectName(QStringLiteral("pauseButton"));
+    pause_->setCheckable(true);
+    for (QPushButton* button : {button_, pause_}) {
+        button->setAutoDefault(false);
+        button->setMinimumSize(104, 32);
+    }
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(10);
     grid->addWidget(text_, 0, 0);
     grid->addWidget(check_, 0, 1, Qt::AlignTop);
     grid->addWidget(button_, 0, 2, Qt::AlignTop);
+    grid->addWidget(pause_, 0, 2, Qt::AlignTop);
     grid->addWidget(progress_, 1, 0, 1, 3);
     grid->setColumnStretch(0, 1);
     connect(button_, &QPushButton::clicked, this, [this] {
@@ -63,23 +69,33 @@ RunBar::RunBar(QWidget* parent)
         button_->setEnabled(false);
         Q_EMIT remedyChosen(remedy_);
     });
+    connect(pause_, &QPushButton::clicked, this, &RunBar::pauseChosen);
     clear();
 }
 
-void RunBar::showProgress(double share, const QString& words)
+void RunBar::showProgress(double share, const QString& words, Pause pause)
 {
     progress_->setRange(0, kProgressSteps);
     progress_->setValue(int(share * kProgressSteps));
     progress_->show();
     check_->hide();
     showRemedy(Remedy::none);
+    showPause(pause);
     tell(words);
+}
+
+void RunBar::showPause(Pause pause)
+{
+    pause_->setChecked(pause == Pause::on);
+    pause_->setText(pause == Pause::on ? tr("Go On") : tr("Pause")); // plain: words of ours
+    pause_->setVisible(pause != Pause::none);
 }
 
 void RunBar::showSent(const QString& words)
 {
     progress_->setRange(0, 0);
     progress_->show();
+    showPause(Pause::none);
     tell(words);
 }
 
@@ -87,6 +103,7 @@ void RunBar::showStatus(const JobStatus& status, const QString& sentence)
 {
     progress_->setRange(0, 0);
     progress_->setVisible(!isResting(status.stage) && status.stage != JobStage::unknown);
+    showPause(Pause::none);
     showRemedy(remedyFor(status));
     tell(sentence);
 }
@@ -94,6 +111,7 @@ void RunBar::showStatus(const JobStatus& status, const QString& sentence)
 void RunBar::showEnd(const QString& sentence)
 {
     progress_->hide();
+    showPause(Pause::none);
     showRemedy(Remedy::none);
     tell(sentence);
 }
@@ -118,6 +136,7 @@ void RunBar::clear()
     text_->clear();
     check_->hide();
     progress_->hide();
+    showPause(Pause::none);
     showRemedy(Remedy::none);
 }
 

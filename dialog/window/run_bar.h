@@ -19,8 +19,11 @@ class RunBar : public QWidget {
 public:
     explicit RunBar(QWidget* parent);
 
+    /// Whether what is sent can be paused, or is.
+    enum class Pause { none, offered, on };
+
     /// Preparing and sending; `share` from 0 to 1.
-    void showProgress(double share, const QString& words);
+    void showProgress(double share, const QString& words, Pause pause = Pause::none);
 
     /// The server has the job; it takes as long as it takes.
     void showSent(const QString& words);
@@ -43,14 +46,17 @@ public:
 
 Q_SIGNALS:
     void remedyChosen(halvern::Remedy remedy);
+    void pauseChosen(bool pause);
 
 private:
     void showRemedy(Remedy remedy);
+    void showPause(Pause pause);
 
     QLabel* text_;
     QLabel* check_;
     QProgressBar* progress_;
     QPushButton* button_;
+    QPushButton* pause_;
     Remedy remedy_ = Remedy::none;
 };
 

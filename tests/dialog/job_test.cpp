@@ -4,8 +4,6 @@
 #include "dialog/job/job_submitter.h"
 #include "tests/support/scripted_server.h"
 
-#include <QBuffer>
-
 #include <cups/cups.h>
 
 namespace halvern {
@@ -31,10 +29,11 @@ cups::Ipp listedJob(int documents)
 
 SubmitResult send(const QString& title = q("title"))
 {
-    QByteArray pages(200000, 'x');
-    QBuffer document(&pages);
-    document.open(QIODevice::ReadOnly);
-    return submitJob({q("Queue"), title, {}}, document, cups::makeCancelFlag(), [](double) {});
+    int left = 2;
+    const auto nextPiece = [&left]() -> std::optional<QByteArray> {
+        return left-- > 0 ? QByteArray(100000, 'x') : QByteArray();
+    };
+    return submitJob({q("Queue"), title, {}}, nextPiece, cups::makeCancelFlag());
 }
 
 } // namespace

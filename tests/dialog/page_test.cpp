@@ -3,6 +3,7 @@
 #include "dialog/page/page_layout.h"
 #include "dialog/page/page_renderer.h"
 #include "dialog/page/photo.h"
+#include "dialog/page/srgb.h"
 #include "dialog/preview/preview_widget.h"
 #include "tests/support/test.h"
 
@@ -139,7 +140,7 @@ protected:
         pdf.clear();
         QBuffer buffer(&pdf);
         buffer.open(QIODevice::WriteOnly);
-        EXPECT_EQ(writePdf(buffer, {{photo, layout}}, 300, [](double) { return true; }), QString());
+        EXPECT_EQ(writePdf(buffer, {{photo, layout}}, 300, {[](double) { return true; }}), QString());
         return Poppler::Document::loadFromData(pdf);
     }
 
@@ -284,11 +285,11 @@ TEST_F(PageTest, JpegDataThatPdfReadersWouldReadOtherwiseAreDecoded)
     const QByteArray bare = jfif.first(2) + jfif.mid(20);
     const QByteArray adobe("Adobe\0\x64\0\0\0\0\0", 12);
     const Photo rgb = readPhotoFile(put("rgb.jpg", withSegment(bare, 0xEE, adobe))).pages.at(0);
-    EXPECT_FALSE(readJpegData(rgb));
+    EXPECT_FALSE(untouchableJpeg(rgb));
     EXPECT_EQ(at(rgb.preview, 32, 32), QColor(Qt::blue)) << "the numbers are red, green and blue";
     const Photo plain =
         readPhotoFile(put("ycc.jpg", withSegment(bare, 0xEE, adobe.chopped(1) + '\x01'))).pages.at(0);
-    EXPECT_TRUE(readJpegData(plain));
+    EXPECT_TRUE(untouchableJpeg(plain));
 }
 
 TEST_F(PageTest, AResolutionIsBelievedOnlyIfSomebodyMeantIt)
@@ -311,7 +312,7 @@ TEST_F(PageTest, InksAndColoursComeThroughTheFilesOwnProfile)
     ASSERT_TRUE(QFile::exists(profile)) << "install libgs-common";
     const QByteArray inks("\x58\xFF\x00\xFF", 4); // 65 % cyan, 100 % yellow, as Adobe's programs store them
     const Photo photo = readPhotoFile(put("inks.jpg", inkJpeg(inks, readFile(profile)))).pages.at(0);
-    EXPECT_FALSE(readJpegData(photo));
+    EXPECT_FALSE(untouchableJpeg(photo));
     const PageLayout layout = layOut({k4x6, k4x6Area, photo.ownSize});
     const QImage sheet = printed(photo, layout)->page(0)->renderToImage(72, 72);
     for (const QColor& color : {photo.preview.pixelColor(20, 20), sheet.pixelColor(144, 216)}) {
@@ -344,7 +345,7 @@ TEST_F(PageTest, APartThatIsMissingIsTold)
         const PhotoFile read = readPhotoFile(put(c.name, c.bytes));
         ASSERT_FALSE(read.pages.empty()) << qPrintable(read.problem);
         EXPECT_EQ(read.problem.contains(q("part of the picture is missing")), c.isToldOf);
-        EXPECT_EQ(readJpegData(read.pages.back()).has_value(),
+        EXPECT_EQ(untouchableJpeg(read.pages.back()).has_value(),
                   !c.isToldOf && QByteArray(c.name).endsWith("jpg"))
             << "printed as it was shown";
     }
@@ -369,7 +370,8 @@ TEST_F(PageTest, ColoursOfATaggedPhotoAreConverted)
     for (const char* name : {"adobe.jpg", "adobe.png"}) {
         const PhotoFile read = readPhotoFile(save(image, q(name)));
         ASSERT_EQ(read.pages.size(), 1u);
-        EXPECT_FALSE(readJpegData(read.pages.front())) << "its numbers mean other colours";
+        const std::optional<JpegInfo> jpeg = untouchableJpeg(read.pages.front());
+        EXPECT_FALSE(jpeg && isSrgb(jpeg->profile, false)) << "its numbers mean other colours";
         EXPECT_GT(read.pages.front().preview.pixelColor(20, 20).red(), 215);
     }
 }
@@ -392,7 +394,7 @@ TEST_F(PageTest, PdfFilesGiveAPageForEachOfTheirs)
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
     ASSERT_EQ(writePdf(buffer, {{photo.pages.front(), layout}, {photo.pages.front(), layout}}, 300,
-                       [](double) { return true; }),
+                       {[](double) { return true; }}),
               QString());
     const PhotoFile read = readPhotoFile(put("two.pdf", pdf));
     ASSERT_EQ(read.pages.size(), 2u) << qPrintable(read.problem);
@@ -433,7 +435,7 @@ TEST_F(PageTest, AFileThatVanishesBeforePrintingIsNamed)
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
     const PageLayout layout = layOut({k4x6, k4x6Area, photo.ownSize});
-    const QString problem = writePdf(buffer, {{photo, layout}}, 300, [](double) { return true; });
+    const QString problem = writePdf(buffer, {{photo, layout}}, 300, {[](double) { return true; }});
     EXPECT_TRUE(problem.contains(q("gone.png"))) << qPrintable(problem);
 }
 
