@@ -16,7 +16,7 @@ QString fileProblem(const QString& path, const QString& reason)
     return PdfOutput::tr("The file \"%1\" could not be written: %2.").arg(path, reason);
 }
 
-PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages, int resolution,
+PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages, const PdfQuality& quality,
                      const cups::CancelFlag& cancelled, const std::function<void(double)>& report)
 {
     // A device would be replaced by a file.
@@ -29,7 +29,7 @@ PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages,
         report(share);
         return !cancelled->load();
     };
-    const QString problem = writePdf(file, pages, resolution, {keepGoing});
+    const QString problem = writePdf(file, pages, quality, {keepGoing});
     if (cancelled->load())
         return {false, true, PdfOutput::tr("Cancelled: no file was written.")};
     if (!file.flush() || file.error() != QFileDevice::NoError)
@@ -46,11 +46,11 @@ PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages,
 
 } // namespace
 
-PdfOutput::PdfOutput(QString path, std::vector<PageToPrint> pages, int resolution, QObject* parent)
+PdfOutput::PdfOutput(QString path, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent)
     : QObject(parent),
       path_(std::move(path)),
       pages_(std::move(pages)),
-      resolution_(resolution),
+      quality_(std::move(quality)),
       cancelled_(cups::makeCancelFlag())
 {
 }
@@ -69,16 +69,16 @@ void PdfOutput::start()
                 Q_EMIT self->progressed(share);
         });
     };
-    WorkQueue().async([self, report, path = path_, pages = std::move(pages_), resolution = resolution_,
-                       cancelled = cancelled_] {
-        const PdfOutcome outcome = writeFile(path, pages, resolution, cancelled, report);
-        mainQueue().async([self, outcome] {
-            if (!self)
-                return;
-            self->isOver_ = true;
-            Q_EMIT self->finished(outcome);
+    WorkQueue().async(
+        [self, report, path = path_, pages = std::move(pages_), quality = quality_, cancelled = cancelled_] {
+            const PdfOutcome outcome = writeFile(path, pages, quality, cancelled, report);
+            mainQueue().async([self, outcome] {
+                if (!self)
+                    return;
+                self->isOver_ = true;
+                Q_EMIT self->finished(outcome);
+            });
         });
-    });
 }
 
 } // namespace halvern

@@ -22,7 +22,7 @@ class PdfOutput : public QObject {
     Q_OBJECT
 
 public:
-    PdfOutput(QString path, std::vector<PageToPrint> pages, int resolution, QObject* parent);
+    PdfOutput(QString path, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent);
     ~PdfOutput() override;
 
     void start();
@@ -41,7 +41,7 @@ Q_SIGNALS:
 private:
     QString path_;
     std::vector<PageToPrint> pages_;
-    int resolution_;
+    PdfQuality quality_;
     cups::CancelFlag cancelled_;
     bool isOver_ = false;
 };

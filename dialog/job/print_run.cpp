@@ -17,7 +17,7 @@ struct Sending {
     JobRequest job;
     std::vector<PageToPrint> pages;
     size_t photosPerJob = 0; // 0: all in one
-    int resolution = 0;
+    PdfQuality quality;
     cups::CancelFlag cancelled;
     std::shared_ptr<std::atomic<bool>> paused;
     std::function<void(double)> report;
@@ -37,7 +37,7 @@ SubmitResult sendPages(const Sending& sending, const JobRequest& job, size_t fir
         return !cancelled->load();
     };
     const auto from = sending.pages.begin() + std::ptrdiff_t(first);
-    PageStream stream({from, from + std::ptrdiff_t(count)}, sending.resolution,
+    PageStream stream({from, from + std::ptrdiff_t(count)}, sending.quality,
                       {keepGoing, [paused = sending.paused] { return paused->load(); }});
     SubmitResult result = submitJob(
         job, [&stream] { return stream.next(); }, sending.cancelled);
@@ -70,11 +70,11 @@ SentJobs send(const Sending& sending)
 
 } // namespace
 
-PrintRun::PrintRun(JobRequest job, std::vector<PageToPrint> pages, int resolution, QObject* parent)
+PrintRun::PrintRun(JobRequest job, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent)
     : QObject(parent),
       job_(std::move(job)),
       pages_(std::move(pages)),
-      resolution_(resolution),
+      quality_(std::move(quality)),
       cancelled_(cups::makeCancelFlag()),
       paused_(cups::makeCancelFlag()),
       progress_(int(pages_.size()))
@@ -96,7 +96,7 @@ void PrintRun::start()
                 self->takeProgress(share);
         });
     };
-    Sending sending{job_, std::move(pages_), photosPerJob_, resolution_, cancelled_, paused_, report};
+    Sending sending{job_, std::move(pages_), photosPerJob_, quality_, cancelled_, paused_, report};
     WorkQueue().async([self, sending = std::move(sending)] {
         const SentJobs sent = send(sending);
         mainQueue().async([self, sent] {

@@ -34,7 +34,7 @@ class PrintRun : public QObject {
     Q_OBJECT
 
 public:
-    PrintRun(JobRequest job, std::vector<PageToPrint> pages, int resolution, QObject* parent);
+    PrintRun(JobRequest job, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent);
     ~PrintRun() override;
 
     /// How long a server that goes silent after the job was sent is borne with; without it, for ever. Before
@@ -93,7 +93,7 @@ private:
 
     JobRequest job_;
     std::vector<PageToPrint> pages_;
-    int resolution_;
+    PdfQuality quality_;
     size_t photosPerJob_ = 0;
     Patience patience_;
     cups::CancelFlag cancelled_;

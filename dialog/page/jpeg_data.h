@@ -2,7 +2,6 @@
 #pragma once
 
 #include "dialog/page/photo.h"
-#include "dialog/page/picture.h"
 
 #include <QByteArray>
 
@@ -18,7 +17,11 @@ struct JpegInfo {
     Orientation orientation;
     double dotsPerInch = 0.0; ///< 0: not said
     bool suitsPdf = false;    ///< each reader of PDF files decodes it to the pixels that we see
-    bool isWhole = false;     ///< nothing is missing that can be seen without decoding
+    ColorTag colorTag = ColorTag::none;
+    bool isWhole = false; ///< nothing is missing that can be seen without decoding
+
+    /// The same as a decoder would say it.
+    StoredPicture asStored() const;
 };
 
 /// Reads a file's head only, and with `through` the whole of it, which sets isWhole. Nothing if it is no JPEG

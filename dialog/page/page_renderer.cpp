@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/page_renderer.h"
 
+#include "dialog/page/colour_transform.h"
 #include "dialog/page/jpeg_data.h"
 #include "dialog/page/packed_rows.h"
 #include "dialog/page/pdf_file.h"
 #include "dialog/page/photo_problem.h"
-#include "dialog/page/srgb.h"
+#include "dialog/page/scaled_rows.h"
 #include "platform/foundation/units.h"
 
 #include <QCoreApplication>
@@ -14,6 +15,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <vector>
 
 namespace halvern {
 
@@ -21,6 +23,7 @@ namespace {
 
 constexpr int kMostTimesPrinterResolution = 2;
 constexpr qint64 kPiece = 64 * 1024;
+constexpr qsizetype kStripPixels = 1024 * 1024;
 constexpr int kPauseStep = 100;        // milliseconds
 constexpr int kSignOfLife = 60 * 1000; // a server takes some minutes of silence for the end
 
@@ -42,25 +45,22 @@ QTransform uprightFromStored(const Orientation& how)
     return t;
 }
 
-QImage onWhite(const QImage& image)
-{
-    if (!image.hasAlphaChannel())
-        return image.convertToFormat(QImage::Format_RGB888);
-    QImage opaque(image.size(), QImage::Format_RGB888);
-    opaque.fill(Qt::white);
-    QPainter painter(&opaque);
-    painter.drawImage(0, 0, image);
-    return opaque;
-}
-
-// More pixels than the printer can show cost time and memory in every filter, and change nothing on paper.
-QImage withoutSparePixels(const QImage& image, const QSizeF& onPaper, int resolution)
+// How many pixels of the upright photo the paper is worth: more cost time and memory in every filter, and
+// change nothing on paper.
+QSize mostPixels(const QSizeF& onPaper, int resolution)
 {
     const double most = kMostTimesPrinterResolution * resolution / kPointsPerInch;
-    const QSize limit(int(onPaper.width() * most) + 1, int(onPaper.height() * most) + 1);
-    if (image.width() <= limit.width() || image.height() <= limit.height())
-        return image;
-    return image.scaled(limit, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return {int(onPaper.width() * most) + 1, int(onPaper.height() * most) + 1};
+}
+
+std::unique_ptr<PictureRows> withoutSparePixels(std::unique_ptr<PictureRows> rows, const QSize& most)
+{
+    const StoredPicture& picture = rows->picture();
+    // From upright to stored is the same swap.
+    const QSize limit = picture.orientation.upright(most);
+    if (picture.size.width() <= limit.width() || picture.size.height() <= limit.height())
+        return rows;
+    return std::make_unique<ScaledRows>(std::move(rows), limit);
 }
 
 struct PlacedPage {
@@ -76,18 +76,27 @@ PlacedPage placed(const PageLayout& layout)
             photoToSheet(layout)};
 }
 
-bool addPixels(PdfFile& pdf, const QImage& image)
+// A few rows at a time: read, converted on all cores, packed.
+QString addRows(PdfFile& pdf, PictureRows& rows, const ColourPlan& plan)
 {
-    const bool isGray = image.isGrayscale() && !image.hasAlphaChannel();
-    const QImage plain = isGray ? image.convertToFormat(QImage::Format_Grayscale8) : onWhite(image);
-    const int components = isGray ? 1 : 3;
-    pdf.beginPicture({plain.size(), components, "FlateDecode"});
-    PackedRows rows(pdf);
-    for (int y = 0; y < plain.height(); ++y) {
-        if (!rows.add(plain.constScanLine(y), qsizetype(plain.width()) * components))
-            return false;
+    const StoredPicture& picture = rows.picture();
+    const ColourTransform colours(picture, plan);
+    const qsizetype width = picture.size.width();
+    const int strip = int(std::clamp<qsizetype>(kStripPixels / width, 1, picture.size.height()));
+    std::vector<uchar> given(size_t(strip * picture.rowBytes()));
+    std::vector<uchar> converted(size_t(strip * width * colours.channels()));
+    pdf.beginPicture({picture.size, colours.channels(), "FlateDecode"});
+    PackedRows packed(pdf);
+    for (int left = picture.size.height(); left > 0;) {
+        const int count = rows.read(given.data(), std::min(strip, left));
+        if (count == 0)
+            return rows.problem();
+        colours.convertOnAllCores(given.data(), converted.data(), count * width);
+        if (!packed.add(converted.data(), count * width * colours.channels()))
+            return writeProblem();
+        left -= count;
     }
-    return rows.finish();
+    return packed.finish() ? rows.problem() : writeProblem();
 }
 
 QString addJpeg(PdfFile& pdf, const QString& path, const JpegInfo& jpeg)
@@ -108,27 +117,41 @@ QString addJpeg(PdfFile& pdf, const QString& path, const JpegInfo& jpeg)
     return {};
 }
 
-QString addPage(PdfFile& pdf, const PageToPrint& page, int resolution)
+// The JPEG file whose data may go in as they are.
+std::optional<JpegInfo> untouched(const Photo& photo, const ColourPlan& plan)
+{
+    std::optional<JpegInfo> jpeg = untouchableJpeg(photo);
+    if (jpeg && !ColourTransform(jpeg->asStored(), plan).changesNothing())
+        jpeg.reset();
+    return jpeg;
+}
+
+QString addPage(PdfFile& pdf, const PageToPrint& page, const PdfQuality& quality)
 {
     const PageLayout& layout = page.layout;
     PlacedPage place = placed(layout);
     QString problem = fileProblem(page.photo.path);
     if (!problem.isEmpty())
         return problem;
-    if (const std::optional<JpegInfo> jpeg = untouchableJpeg(page.photo);
-        jpeg && isSrgb(jpeg->profile, jpeg->components == 1)) {
+    Orientation stored;
+    if (const std::optional<JpegInfo> jpeg = untouched(page.photo, quality.colours)) {
         problem = addJpeg(pdf, page.photo.path, *jpeg);
-        place.placement = uprightFromStored(jpeg->orientation) * place.placement;
+        stored = jpeg->orientation;
     } else {
+        const QSize most = mostPixels(layout.photo.size(), quality.resolution);
         // A PDF page that is enlarged needs more dots than its own size says.
         const double enlarged = layout.photo.width() / std::max(page.photo.ownSize.width(), 1.0);
-        const int dots = std::clamp(int(resolution * enlarged), 72, 1200);
-        const QImage image = readPixels(page.photo, dots, &problem);
-        if (!image.isNull() && !addPixels(pdf, withoutSparePixels(image, layout.photo.size(), resolution)))
-            problem = writeProblem();
+        const int dots = std::clamp(int(quality.resolution * enlarged), 72, 1200);
+        std::unique_ptr<PictureRows> rows =
+            openPixels(page.photo, dots, std::max(most.width(), most.height()), &problem);
+        if (rows) {
+            rows = withoutSparePixels(std::move(rows), most);
+            stored = rows->picture().orientation;
+            problem = addRows(pdf, *rows, quality.colours);
+        }
     }
     if (problem.isEmpty())
-        pdf.endPage(place.paper, place.clip, place.placement);
+        pdf.endPage(place.paper, place.clip, uprightFromStored(stored) * place.placement);
     return problem;
 }
 
@@ -170,7 +193,7 @@ void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo)
     painter.restore();
 }
 
-QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, int resolution,
+QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, const PdfQuality& quality,
                  const PdfControl& control)
 {
     PdfFile pdf(device);
@@ -178,7 +201,7 @@ QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, int r
     for (const PageToPrint& page : pages) {
         if (!waitWhilePaused(pdf, control, done / double(pages.size())))
             return {};
-        const QString problem = addPage(pdf, page, resolution);
+        const QString problem = addPage(pdf, page, quality);
         if (!problem.isEmpty())
             return problem;
         done += 1.0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/page/colour_plan.h"
 #include "dialog/page/page_layout.h"
 #include "dialog/page/photo.h"
 
@@ -33,11 +34,17 @@ struct PdfControl {
     std::function<bool()> isPaused = nullptr; ///< looked at between pages; null: never
 };
 
-/// Writes one PDF page of exactly the sheet's size for each page, picture after picture, so that the number
-/// of pages costs no memory. JPEG data go in untouched; other pictures without loss, at no more than twice
-/// `resolution` dots per inch. Answers the sentence about what failed, empty on success; also empty if it was
-/// told to stop. Any thread.
-QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, int resolution,
+/// What a PDF file's pictures are made for.
+struct PdfQuality {
+    int resolution = 300; ///< the printer's dots per inch
+    ColourPlan colours = {};
+};
+
+/// Writes one PDF page of exactly the sheet's size for each page, picture after picture and row after row, so
+/// that neither the number of pages nor the size of a picture counts. JPEG data whose colours need no
+/// converting go in untouched; other pictures without loss, at no more than twice the printer's resolution.
+/// Answers the sentence about what failed, empty on success; also empty if it was told to stop. Any thread.
+QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, const PdfQuality& quality,
                  const PdfControl& control);
 
 } // namespace halvern

@@ -20,14 +20,6 @@ constexpr double kAssumedResolution = 300.0;
 constexpr double kLeastBelievedResolution = 100.0;
 constexpr int kPdfSignatureRange = 1024; // both at the start and at the end
 
-// Cameras and scanners write a resolution; a plain 72 or 96 is what programs write that know none.
-QSizeF ownSizeInPoints(const Picture& picture)
-{
-    const double dpi =
-        picture.dotsPerInch > kLeastBelievedResolution ? picture.dotsPerInch : kAssumedResolution;
-    return QSizeF(picture.pixels) * (kPointsPerInch / dpi);
-}
-
 QImage smallCopy(const QImage& image)
 {
     const QSize bounds(kPreviewEdge, kPreviewEdge);
@@ -99,8 +91,9 @@ PhotoFile readPictures(const QString& path)
             file.problem = picture.problem;
             continue;
         }
-        file.pages.push_back({path, page, false, picture.pixels, ownSizeInPoints(picture),
-                              smallCopy(picture.image), picture.isDamaged});
+        file.pages.push_back({path, page, false, picture.pixels,
+                              ownSizeInPoints(picture.pixels, picture.dotsPerInch), smallCopy(picture.image),
+                              picture.isDamaged});
     }
     return file;
 }
@@ -147,6 +140,13 @@ QImage drawPdfPage(const Photo& photo, int resolution, QString* problem)
 }
 
 } // namespace
+
+// Cameras and scanners write a resolution; a plain 72 or 96 is what programs write that know none.
+QSizeF ownSizeInPoints(const QSize& pixels, double dotsPerInch)
+{
+    const double dpi = dotsPerInch > kLeastBelievedResolution ? dotsPerInch : kAssumedResolution;
+    return QSizeF(pixels) * (kPointsPerInch / dpi);
+}
 
 PhotoFile readPhotoFile(const QString& path)
 {

@@ -37,6 +37,10 @@ struct PhotoFile {
     QString problem;
 };
 
+/// What "actual size" prints: the pixels at the resolution that the file says, 0 for none, as far as it is to
+/// be believed.
+QSizeF ownSizeInPoints(const QSize& pixels, double dotsPerInch);
+
 /// Reads a JPEG, PNG, TIFF or PDF file. Takes as long as decoding takes: call it on a worker. Any thread.
 PhotoFile readPhotoFile(const QString& path);
 

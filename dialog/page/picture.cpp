@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/picture.h"
 
+#include "dialog/page/colour_transform.h"
 #include "dialog/page/jpeg_decoder.h"
 #include "dialog/page/photo_problem.h"
-#include "dialog/page/srgb.h"
 #include "dialog/page/tiff_pages.h"
 #include "dialog/photo/image_rows.h"
 
@@ -129,19 +129,6 @@ std::unique_ptr<PictureRows> openWithQt(const QString& path, int page, QString* 
     return std::make_unique<ImageRows>(std::move(image), looksLikeTiff(path) && !isTiffPageWhole(path, page));
 }
 
-QImage imageInSrgb(const StoredPicture& picture, const QByteArray& bytes)
-{
-    const auto* rows = reinterpret_cast<const uchar*>(bytes.constData());
-    const int height = picture.size.height();
-    if (picture.format != PixelFormat::cmyk8)
-        return inSrgb(imageOfRows(picture, rows, height), picture.profile);
-    QImage image(picture.size, QImage::Format_RGB888);
-    const InkConverter inks(picture.profile, false);
-    for (int y = 0; y < image.height(); ++y, rows += picture.rowBytes())
-        inks.convert(rows, image.scanLine(y), image.width());
-    return image;
-}
-
 } // namespace
 
 Orientation jpegOrientation(const QByteArray& bytes)
@@ -179,7 +166,9 @@ Picture readPicture(PictureRows& rows)
     result.problem = rows.problem();
     if (!result.problem.isEmpty())
         return result;
-    result.image = uprightImage(imageInSrgb(picture, bytes), picture.orientation);
+    result.image = uprightImage(
+        imageInSrgb(picture, reinterpret_cast<const uchar*>(bytes.constData()), picture.size.height()),
+        picture.orientation);
     result.pixels = picture.orientation.upright(picture.fullSize);
     result.dotsPerInch = picture.dotsPerInch;
     result.isDamaged = rows.isDamaged();

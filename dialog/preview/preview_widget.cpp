@@ -3,6 +3,7 @@
 
 #include "dialog/page/page_renderer.h"
 #include "dialog/preview/sharp_photo_reader.h"
+#include "dialog/preview/small_copies.h"
 #include "platform/foundation/units.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -69,7 +70,10 @@ QString pageSizeText(const QSizeF& points)
 }
 
 PreviewWidget::PreviewWidget(QWidget* parent)
-    : QWidget(parent), reader_(new SharpPhotoReader(this)), zoomButton_(new QToolButton(this))
+    : QWidget(parent),
+      reader_(new SharpPhotoReader(this)),
+      copies_(new SmallCopies(this)),
+      zoomButton_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("preview"));
     setAccessibleName(tr("Preview"));
@@ -91,6 +95,12 @@ PreviewWidget::PreviewWidget(QWidget* parent)
         detailProblem_ = sentence;
         showState();
     });
+    connect(copies_, &SmallCopies::ready, this, [this](const QImage& copy) {
+        screen_.setPreview(copy);
+        showState();
+    });
+    connect(copies_, &SmallCopies::damageFound, this, &PreviewWidget::damageFound);
+    connect(copies_, &SmallCopies::failed, this, &PreviewWidget::failed);
     showState();
 }
 
@@ -102,7 +112,7 @@ QSize PreviewWidget::sizeHint() const
 void PreviewWidget::showPage(const PreviewPage& page)
 {
     page_ = page;
-    screen_.setPreview(page.photo.preview);
+    screen_.setPreview(copies_->find(page.photo));
     screen_.setLook(page.look);
     text_.clear();
     hasPage_ = true;

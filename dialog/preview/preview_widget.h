@@ -16,6 +16,7 @@ class QToolButton;
 namespace halvern {
 
 class SharpPhotoReader;
+class SmallCopies;
 
 /// A page for the preview.
 struct PreviewPage {
@@ -59,6 +60,10 @@ public:
 Q_SIGNALS:
     /// The user drags the photo's cut or place: 0 to 1 each way.
     void positionChosen(const QPointF& position);
+    /// A photo that was read to be shown lacks a part.
+    void damageFound(const QString& path, int page);
+    /// The photo cannot be read any more; a sentence.
+    void failed(const QString& sentence);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -89,6 +94,7 @@ private:
     PreviewPage page_;
     ScreenPhoto screen_;
     SharpPhotoReader* reader_;
+    SmallCopies* copies_;
     QToolButton* zoomButton_;
     QString text_;
     QString detailProblem_;

@@ -449,7 +449,7 @@ PrintRun* DialogSession::makeRun()
 {
     std::vector<PageToPrint> pages = pagesToPrint();
     JobRequest job{printerName(), jobTitle(), collectOptions(), model_->secrets()};
-    auto* run = new PrintRun(std::move(job), std::move(pages), model_->resolution(), this);
+    auto* run = new PrintRun(std::move(job), std::move(pages), PdfQuality{model_->resolution()}, this);
     run->setPhotosPerJob(request_.photosPerJob);
     if (request_.remembers)
         rememberWhenSent(run);

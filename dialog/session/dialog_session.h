@@ -46,6 +46,9 @@ public:
     /// Moves the cut or the place of one photo: 0 to 1 each way.
     void setPosition(size_t photo, const QPointF& position);
 
+    /// Somebody who decoded a photo has found that a part of it is missing.
+    void noteDamage(const QString& path, int page) { photos_.noteDamage(path, page); }
+
     /// A sentence for each file of which a part is missing. They print only if the user says so: ask before
     /// makeRun(), and settle it.
     const QStringList& damagedFiles() const { return photos_.damagedFiles(); }

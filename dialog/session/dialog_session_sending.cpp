@@ -69,7 +69,7 @@ JobInWords DialogSession::jobInWords() const
 
 PdfOutput* DialogSession::makePdf(const QString& path)
 {
-    return new PdfOutput(path, pagesToPrint(), resolution(), this);
+    return new PdfOutput(path, pagesToPrint(), PdfQuality{resolution()}, this);
 }
 
 QString DialogSession::command() const

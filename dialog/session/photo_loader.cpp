@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/photo_loader.h"
 
+#include "dialog/page/photo_opening.h"
+#include "dialog/page/photo_problem.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QPointer>
@@ -8,6 +10,12 @@
 #include <algorithm>
 
 namespace halvern {
+
+namespace {
+
+constexpr size_t kKeptPreviews = 8;
+
+} // namespace
 
 PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<QPointF> positions)
     : files_(std::move(files)),
@@ -31,7 +39,7 @@ void PhotoLoader::start()
         queue.async([self, path, stop = stop_] {
             if (stop->load())
                 return;
-            PhotoFile file = readPhotoFile(path);
+            PhotoFile file = openPhotoFile(path);
             mainQueue().async([self, file = std::move(file)] {
                 if (self)
                     self->take(file);
@@ -45,17 +53,36 @@ void PhotoLoader::take(const PhotoFile& file)
     --filesLeft_;
     for (const Photo& page : file.pages) {
         photos_.push_back(page);
+        // The others are read again when they are looked at.
+        if (photos_.size() > kKeptPreviews)
+            photos_.back().preview = QImage();
         if (!positions_.isEmpty())
             photos_.back().position = positions_[std::min(qsizetype(photos_.size()), positions_.size()) - 1];
     }
     if (!file.problem.isEmpty() && file.pages.empty()) {
         Q_EMIT failed(file.problem);
     } else if (!file.problem.isEmpty()) {
-        if (!printDamaged_)
-            damagedFiles_.append(file.problem);
-        Q_EMIT damaged(file.problem);
+        tellDamage(file.problem);
     }
     Q_EMIT changed();
+}
+
+void PhotoLoader::noteDamage(const QString& path, int page)
+{
+    const auto isIt = [&](const Photo& photo) { return photo.path == path && photo.page == page; };
+    const auto isNews = [&](const Photo& photo) { return isIt(photo) && !photo.isDamaged; };
+    if (std::ranges::none_of(photos_, isNews))
+        return;
+    for (Photo& photo : photos_)
+        photo.isDamaged = photo.isDamaged || isIt(photo);
+    tellDamage(photoProblem(PhotoFault::partMissing, path));
+}
+
+void PhotoLoader::tellDamage(const QString& sentence)
+{
+    if (!printDamaged_)
+        damagedFiles_.append(sentence);
+    Q_EMIT damaged(sentence);
 }
 
 void PhotoLoader::setPosition(size_t photo, const QPointF& position)

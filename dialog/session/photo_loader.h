@@ -35,6 +35,9 @@ public:
     /// Puts all photos back in the middle.
     void centre();
 
+    /// Somebody who decoded a photo has found that a part of it is missing.
+    void noteDamage(const QString& path, int page);
+
     /// A sentence for each file of which a part is missing, until that is settled.
     const QStringList& damagedFiles() const { return damagedFiles_; }
 
@@ -50,6 +53,7 @@ Q_SIGNALS:
 
 private:
     void take(const PhotoFile& file);
+    void tellDamage(const QString& sentence);
 
     QStringList files_;
     bool printDamaged_;

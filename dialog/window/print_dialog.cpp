@@ -136,6 +136,10 @@ QWidget* PrintDialog::makePreviewSide()
         if (size_t(current_) < pages.size())
             session_.setPosition(pages[size_t(current_)], position);
     });
+    connect(preview_, &PreviewWidget::damageFound, this,
+            [this](const QString& path, int page) { session_.noteDamage(path, page); });
+    connect(preview_, &PreviewWidget::failed, this,
+            [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     return side;
 }
 

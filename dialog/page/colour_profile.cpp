@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/page/colour_profile.h"
+
+#include <array>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kLongestName = 200;
+
+OpenProfile held(cmsHPROFILE profile)
+{
+    return {profile, [](void* p) {
+                if (p)
+                    cmsCloseProfile(p);
+            }};
+}
+
+OpenProfile makeGray()
+{
+    // Little CMS has sRGB for three channels; one channel takes the same curve.
+    const double curve[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
+    cmsToneCurve* tone = cmsBuildParametricToneCurve(nullptr, 4, curve);
+    OpenProfile profile = held(cmsCreateGrayProfile(cmsD50_xyY(), tone));
+    cmsFreeToneCurve(tone);
+    return profile;
+}
+
+// Adobe RGB (1998), from its published primaries, white point and gamma.
+OpenProfile makeAdobeRgb()
+{
+    const cmsCIExyY white{0.3127, 0.3290, 1.0};
+    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.21, 0.71, 1.0}, {0.15, 0.06, 1.0}};
+    cmsToneCurve* tone = cmsBuildGamma(nullptr, 563.0 / 256.0);
+    const std::array<cmsToneCurve*, 3> tones{tone, tone, tone};
+    OpenProfile profile = held(cmsCreateRGBProfile(&white, &primaries, tones.data()));
+    cmsFreeToneCurve(tone);
+    return profile;
+}
+
+// Not a link between two devices and no list of named colours.
+bool isOfPixels(cmsHPROFILE profile)
+{
+    const cmsProfileClassSignature kind = cmsGetDeviceClass(profile);
+    return kind == cmsSigInputClass || kind == cmsSigDisplayClass || kind == cmsSigOutputClass ||
+           kind == cmsSigColorSpaceClass;
+}
+
+} // namespace
+
+OpenProfile openProfile(const QByteArray& bytes)
+{
+    if (bytes.isEmpty())
+        return nullptr;
+    OpenProfile profile = held(cmsOpenProfileFromMem(bytes.constData(), cmsUInt32Number(bytes.size())));
+    return profile && isOfPixels(profile.get()) && channelsOf(profile) > 0 ? profile : nullptr;
+}
+
+OpenProfile srgbProfile(bool isGray)
+{
+    static const OpenProfile colours = held(cmsCreate_sRGBProfile());
+    static const OpenProfile grays = makeGray();
+    return isGray ? grays : colours;
+}
+
+OpenProfile sourceProfile(const StoredPicture& picture)
+{
+    const int channels = channelsOf(picture.format);
+    if (OpenProfile embedded = openProfile(picture.profile); embedded && channelsOf(embedded) == channels)
+        return embedded;
+    if (channels == 4)
+        return nullptr;
+    static const OpenProfile adobe = makeAdobeRgb();
+    const bool isAdobe = channels == 3 && picture.colorTag == ColorTag::adobeRgb;
+    return isAdobe ? adobe : srgbProfile(channels == 1);
+}
+
+int channelsOf(const OpenProfile& profile)
+{
+    switch (cmsGetColorSpace(profile.get())) {
+    case cmsSigGrayData:
+        return 1;
+    case cmsSigRgbData:
+        return 3;
+    case cmsSigCmykData:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+QString profileName(const OpenProfile& profile)
+{
+    std::array<wchar_t, kLongestName> name = {};
+    cmsGetProfileInfo(profile.get(), cmsInfoDescription, "en", "US", name.data(),
+                      cmsUInt32Number(name.size() * sizeof(wchar_t)));
+    name.back() = L'\0';
+    return QString::fromWCharArray(name.data()).simplified();
+}
+
+cmsUInt32Number pixelType(PixelFormat format)
+{
+    switch (format) {
+    case PixelFormat::gray8:
+        return TYPE_GRAY_8;
+    case PixelFormat::gray16:
+        return TYPE_GRAY_16;
+    case PixelFormat::rgb8:
+        return TYPE_RGB_8;
+    case PixelFormat::rgb16:
+        return TYPE_RGB_16;
+    case PixelFormat::cmyk8:
+        break;
+    }
+    return TYPE_CMYK_8;
+}
+
+cmsUInt32Number plainType(int channels)
+{
+    return channels == 1 ? TYPE_GRAY_8 : channels == 4 ? TYPE_CMYK_8 : TYPE_RGB_8;
+}
+
+} // namespace halvern

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/photo/stored_picture.h"
+
+#include <QString>
+
+#include <memory>
+
+#include <lcms2.h>
+
+namespace halvern {
+
+/// A profile that is open in Little CMS; null: none. Read by several threads at once.
+using OpenProfile = std::shared_ptr<void>;
+
+/// Null unless it is a profile for pixels that conversions can be made from or to.
+OpenProfile openProfile(const QByteArray& bytes);
+
+/// sRGB, or of one channel with sRGB's curve.
+OpenProfile srgbProfile(bool isGray = false);
+
+/// The profile that tells what a picture's numbers mean: the embedded one if it is for this kind of pixels,
+/// else what the camera has noted, else sRGB. Null for four inks without a profile.
+OpenProfile sourceProfile(const StoredPicture& picture);
+
+int channelsOf(const OpenProfile& profile);
+
+/// A profile's own name, on one line: a stranger's text.
+QString profileName(const OpenProfile& profile);
+
+/// How Little CMS is handed the pixels of a picture.
+cmsUInt32Number pixelType(PixelFormat format);
+
+/// How it hands out 1, 3 or 4 channels of 8 bits.
+cmsUInt32Number plainType(int channels);
+
+} // namespace halvern
