@@ -31,12 +31,16 @@ QString inQuotes(const QString& text)
            QLatin1Char('\'');
 }
 
-// No shell is without printf.
+// No shell is without printf. What looks like a switch would be one of its own, and what it prints loses the
+// line feeds at its end.
 QString printed(const QString& word)
 {
     QString format;
-    for (const QChar c : word) {
-        if (isControl(c)) {
+    qsizetype end = word.size();
+    while (end > 0 && word[end - 1] == QLatin1Char('\n'))
+        --end;
+    for (const QChar c : word.first(end)) {
+        if (isControl(c) || (c == QLatin1Char('-') && format.isEmpty())) {
             for (const char byte : QString(c).toUtf8())
                 format += QStringLiteral("\\%1").arg(uint(uchar(byte)), 3, 8, QLatin1Char('0'));
         } else {
@@ -45,7 +49,7 @@ QString printed(const QString& word)
             format += c;
         }
     }
-    return QStringLiteral("\"$(printf %1)\"").arg(inQuotes(format));
+    return QStringLiteral("\"$(printf %1)%2\"").arg(inQuotes(format), word.sliced(end));
 }
 
 } // namespace

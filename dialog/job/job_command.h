@@ -26,7 +26,8 @@ struct JobToRepeat {
 /// files are named by absolute paths. Any thread.
 QString commandFor(const JobToRepeat& job);
 
-/// A word as a shell reads it back, plain where it can be; control characters never stand in it as such.
+/// A word as a shell reads it back, plain where it can be. Of control characters only line feeds
+/// at its end stand in it as such.
 QString shellQuoted(const QString& word);
 
 } // namespace halvern

@@ -26,7 +26,8 @@ constexpr std::array kAccounts{"job-",        "time-at-",   "date-time-at-", "do
                                "attributes-", "number-of-", "original-",     "output-device-"};
 
 // Among them, what decides how a job is printed.
-constexpr std::array kOptionsOfJobs{"job-sheets", "job-hold-until", "job-priority", "job-billing"};
+constexpr std::array kOptionsOfJobs{"job-sheets", "job-hold-until", "job-priority", "job-billing",
+                                    "printer-resolution"};
 
 struct Filled {
     const char* name;

@@ -252,7 +252,11 @@ QString PresetFile::add(const QList<Preset>& added, QStringList* names) const
         QString refusal;
         for (Preset preset : added) {
             const QString name = preset.name.left(kLongestPresetName - 8);
-            for (int number = 2; indexOf(presets, preset.name) >= 0; ++number)
+            const auto isTaken = [&presets](const QString& wanted) {
+                return indexOf(presets, wanted) >= 0 || isLastUsedName(wanted) ||
+                       isPrinterDefaultsName(wanted);
+            };
+            for (int number = 2; isTaken(preset.name); ++number)
                 preset.name = QStringLiteral("%1 (%2)").arg(name, QString::number(number));
             if (refusal.isEmpty())
                 refusal = putInto(presets, preset);

@@ -161,24 +161,27 @@ void BatchPrint::takeStatus(const JobStatus& status, const QString& sentence)
     const QString advice = jobAdvice(status, session_.printerName(), run_->jobId());
     if (!advice.isEmpty())
         writeLine(err_, advice);
+    tellReadBack();
     end(kExitUnfinished);
 }
 
 void BatchPrint::takeOutcome(const PrintOutcome& outcome)
 {
     writeLine(outcome.printed ? out_ : err_, outcome.sentence);
+    tellReadBack();
     if (outcome.printed)
-        end(line_.verify ? statusOfPrinted(outcome.jobId) : kExitPrinted);
+        end(!line_.verify || readBack_.isEqual() ? kExitPrinted : kExitDiffers);
     else if (outcome.stage == JobStage::cancelled)
         end(kExitCancelled);
     else
         end(outcome.jobId > 0 && outcome.stage == JobStage::unknown ? kExitUnknown : kExitFailed);
 }
 
-int BatchPrint::statusOfPrinted(int jobId)
+// However the job ends, what was added to it may be why.
+void BatchPrint::tellReadBack()
 {
-    writeLine(err_, readBackSentence(readBack_, jobId));
-    return readBack_.isEqual() ? kExitPrinted : kExitDiffers;
+    if (line_.verify && run_ && run_->jobId() > 0)
+        writeLine(err_, readBackSentence(readBack_, run_->jobId()));
 }
 
 void BatchPrint::leave()
@@ -190,6 +193,7 @@ void BatchPrint::leave()
     if (run_ && run_->jobId() > 0) {
         writeLine(err_, tr("Job %1 stays on the queue; \"cancel %2-%1\" takes it away.")
                             .arg(QString::number(run_->jobId()), session_.printerName()));
+        tellReadBack();
         end(kExitUnfinished);
         return;
     }

@@ -38,7 +38,7 @@ private:
     void print();
     void takeStatus(const JobStatus& status, const QString& sentence);
     void takeOutcome(const PrintOutcome& outcome);
-    int statusOfPrinted(int jobId);
+    void tellReadBack();
     void fail(const QString& sentence, int status = kExitFailed);
     void end(int status);
 

@@ -8,6 +8,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -143,6 +144,12 @@ public:
 
     static QString emptyOutput() { return tr("The name of the file to write is empty."); }
 
+    static QString outputIsInput(const QString& path)
+    {
+        return tr("%1 is one of the files to print. Write to another file with --output.")
+            .arg(displayText(path));
+    }
+
     static QString outputAlone() { return tr("--output writes a file, and does not go with --dry-run."); }
 
     static QString verifyAlone()
@@ -259,7 +266,7 @@ QList<ListingSwitch> listingSwitches(const Switches& switches)
             {switches.savePreset,
              Listing::savePreset,
              {switches.printer, switches.option, switches.preset, switches.copies, switches.pages,
-              switches.reverse, switches.backprint}}};
+              switches.reverse, switches.orientation, switches.backprint}}};
 }
 
 // What to write instead of printing, if anything. The sentence about what does not go with it; empty if all
@@ -361,6 +368,13 @@ QString contradiction(const QCommandLineParser& parser, const Switches& switches
         return Switches::verifyAlone();
     if (writes && line.output.isEmpty())
         return Switches::emptyOutput();
+    const QString output = QFileInfo(line.output).canonicalFilePath();
+    const bool isInput =
+        writes && !output.isEmpty() && std::ranges::any_of(line.request.files, [&](const QString& file) {
+            return QFileInfo(file).canonicalFilePath() == output;
+        });
+    if (isInput)
+        return Switches::outputIsInput(line.output);
     return writes && line.dryRun ? Switches::outputAlone() : QString();
 }
 

@@ -172,6 +172,8 @@ private:
     int savePreset(const QueueState& state)
     {
         const PageChoice& pages = state.page.pages;
+        if (const QString problem = choosePages(pages, 0).problem; !problem.isEmpty())
+            return fail(problem);
         const bool choosesPages = !pages.ranges.isEmpty() || pages.parity != PageParity::all;
         Preset preset = capturePreset(*state.model, {}, state.page, state.printerDefaults,
                                       {request_.namesCopies, choosesPages, !request_.backLines.isEmpty()});

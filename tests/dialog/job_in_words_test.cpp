@@ -108,10 +108,12 @@ TEST(JobReadBack, NamesWhatTheServerAddedAndChangedAndNoAccountOfItsOwn)
 
     ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "sides", nullptr, "two-sided-long-edge");
     OptionValues more = sent;
+    ippAddResolution(answer.get(), IPP_TAG_JOB, "printer-resolution", IPP_RES_PER_INCH, 150, 150);
     more[1].value = q("3");
     more.append({q("PaperTone"), q("Warm")});
     const JobReadBack job = compareJob(more, answer.get());
-    EXPECT_EQ(job.added, (OptionValues{{q("sides"), q("two-sided-long-edge")}}));
+    EXPECT_EQ(job.added,
+              (OptionValues{{q("sides"), q("two-sided-long-edge")}, {q("printer-resolution"), q("150dpi")}}));
     EXPECT_EQ(job.changed, (QList<ChangedOption>{{q("copies"), q("3"), q("2")},
                                                  {q("PaperTone"), q("Warm"), std::nullopt}}));
     const QString sentence = readBackSentence(job, 7);

@@ -92,9 +92,11 @@ TEST_F(BackprintInDialog, TheCopiedCommandSendsWhatIsShown)
     EXPECT_EQ(again.output.trimmed().split(u'\n').join(u'|').toStdString(), sent.join(u'|').toStdString())
         << qPrintable(command);
     EXPECT_TRUE(command.contains(q(" --orientation landscape --position 0.25,1 "))) << qPrintable(command);
-    const ProgramResult word =
-        runProgram(q("/bin/sh"), {q("-c"), q("printf %s ") + shellQuoted(q("a\x1b%'\\\nb"))});
-    EXPECT_EQ(word.output, q("a\x1b%'\\\nb"));
+    for (const char* word : {"a\x1b%'\\\nb", "--job-title=a\tb", "two feeds\n\n", "\n"}) {
+        const ProgramResult said =
+            runProgram(q("/bin/sh"), {q("-c"), q("printf %s ") + shellQuoted(q(word))});
+        EXPECT_EQ(said.output, q(word)) << qPrintable(said.error);
+    }
 }
 
 TEST_F(BackprintInDialog, EmptyAndSwitchedOffLinesPrintNothing)
