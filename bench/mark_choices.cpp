@@ -58,6 +58,7 @@ QStringList clashing(const PpdModel& model)
 
 void markEach(PpdModel& model, const QString& key, Totals& totals, const std::string& path)
 {
+    const bool wasClean = ppdConflicts(model.file()) == 0;
     double started = milliseconds();
     const QHash<QString, QString> clashes = model.clashes(key);
     totals.slowestReasons = std::max(totals.slowestReasons, milliseconds() - started);
@@ -75,6 +76,9 @@ void markEach(PpdModel& model, const QString& key, Totals& totals, const std::st
         else if (result.accepted && before.value(key) != choice.keyword &&
                  !model.goesWithTheRest(key, choice.keyword))
             fail(totals, path, key + u'=' + choice.keyword + QStringLiteral(": accepted, and it clashes"));
+        // libcups has an opinion of its own.
+        else if (wasClean && result.accepted && ppdConflicts(model.file()) > 0)
+            fail(totals, path, key + u'=' + choice.keyword + QStringLiteral(": libcups counts a conflict"));
     }
 }
 
@@ -88,7 +92,6 @@ void drive(const std::string& path, Totals& totals)
     ++totals.files;
     PpdModel model(std::move(file));
     const QStringList atFirst = clashing(model);
-    const int countedAtFirst = ppdConflicts(model.file());
     for (const QString& key : model.keys()) {
         if (model.isInstallable(key))
             continue;
@@ -99,10 +102,7 @@ void drive(const std::string& path, Totals& totals)
         if (!atFirst.contains(key))
             fail(totals, path, key + QStringLiteral(": clashes in the end"));
     }
-    // libcups has an opinion of its own.
-    if (countedAtFirst == 0 && atFirst.isEmpty() && ppdConflicts(model.file()) > 0)
-        fail(totals, path, QStringLiteral("libcups counts conflicts in the end"));
-    model.putBack(model.keys());
+    model.putBack(model.keys(), {});
 }
 
 } // namespace

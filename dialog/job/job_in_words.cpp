@@ -216,7 +216,8 @@ private:
     {
         QStringList others = job_.options.differingFrom(job_.byDefault);
         others.removeIf([this](const QString& key) {
-            return !job_.byDefault.contains(key) || told_.contains(key) || maker::saysNothing(key, values_) ||
+            const bool isKnown = job_.byDefault.contains(key) || job_.model.choiceCount(key) > 0;
+            return !isKnown || told_.contains(key) || maker::saysNothing(key, values_) ||
                    valueInModel(job_.model, key, value(key)) == job_.byDefault.value(key);
         });
         if (others.size() > kMostNamed) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/constraints.h"
 
+#include "dialog/options/ppd_lookup.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QSet>
@@ -11,22 +12,38 @@ namespace halvern {
 
 namespace {
 
-// The page's region follows its size, and is marked nowhere.
-QString markedName(const QString& option)
+const QString kCustom = QStringLiteral("Custom");
+
+// The name under which the option is marked: as the PPD spells it where it defines it. The page's region
+// follows its size, and is marked nowhere.
+QString markedName(ppd_file_t* file, const QString& name)
 {
-    return option == QLatin1StringView("PageRegion") ? QStringLiteral("PageSize") : option;
+    const ppd_option_t* option = ppd_lookup::option(file, name);
+    const QString keyword = option ? QString::fromUtf8(option->keyword) : name;
+    return keyword == QLatin1StringView("PageRegion") ? QStringLiteral("PageSize") : keyword;
+}
+
+// "CustomPageSize True" is another way to say "PageSize Custom".
+ConstraintSide sideOf(ppd_file_t* file, const QString& name, const QString& choice)
+{
+    const bool isCustom = name.startsWith(kCustom, Qt::CaseInsensitive) &&
+                          choice.compare(QLatin1StringView("True"), Qt::CaseInsensitive) == 0;
+    return isCustom ? ConstraintSide{markedName(file, name.mid(kCustom.size())), kCustom}
+                    : ConstraintSide{markedName(file, name), choice};
 }
 
 // "*PaperFeed Roll *TwoSided" -> (PaperFeed, Roll), (TwoSided, "")
-std::vector<ConstraintSide> parseSides(const QString& text)
+std::vector<ConstraintSide> parseSides(ppd_file_t* file, const QString& text)
 {
     std::vector<ConstraintSide> sides;
     for (const QString& word : text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         if (word.startsWith(QLatin1Char('*')))
-            sides.push_back({markedName(word.mid(1)), {}});
+            sides.push_back({word.mid(1), {}});
         else if (!sides.empty() && sides.back().choice.isEmpty())
             sides.back().choice = word;
     }
+    for (ConstraintSide& side : sides)
+        side = sideOf(file, side.option, side.choice);
     return sides;
 }
 
@@ -68,14 +85,15 @@ std::vector<Constraint> readNamed(ppd_file_t* file, Resolvers& resolvers)
     std::vector<Constraint> constraints;
     for (ppd_attr_t* found = ppdFindAttr(file, "cupsUIConstraints", nullptr); found;
          found = ppdFindNextAttr(file, "cupsUIConstraints", nullptr)) {
-        Constraint constraint{parseSides(QString::fromUtf8(found->value)), QString::fromUtf8(found->spec)};
+        Constraint constraint{parseSides(file, QString::fromUtf8(found->value)),
+                              QString::fromUtf8(found->spec)};
         if (constraint.sides.size() > 1)
             constraints.push_back(std::move(constraint));
     }
     // Not in the loop above: looking up another keyword moves the cursor of ppdFindNextAttr.
     for (ppd_attr_t* found = ppdFindAttr(file, "cupsUIResolver", nullptr); found;
          found = ppdFindNextAttr(file, "cupsUIResolver", nullptr))
-        resolvers.insert(QString::fromUtf8(found->spec), parseSides(QString::fromUtf8(found->value)));
+        resolvers.insert(QString::fromUtf8(found->spec), parseSides(file, QString::fromUtf8(found->value)));
     for (Constraint& constraint : constraints) {
         if (!resolvers.contains(constraint.resolver))
             constraint.resolver.clear();
@@ -114,14 +132,10 @@ bool applies(const ConstraintSide& side, const QString& marked)
 {
     if (side.choice.isEmpty())
         return !isOffChoice(marked);
-    if (side.choice == QLatin1StringView("Custom") && marked.startsWith(QLatin1StringView("Custom.")))
+    if (side.choice.compare(kCustom, Qt::CaseInsensitive) == 0 &&
+        marked.startsWith(QLatin1StringView("Custom.")))
         return true;
-    const auto isIt = [&](QStringView choice) {
-        return choice.compare(side.choice, Qt::CaseInsensitive) == 0;
-    };
-    // Several choices of one option are written in a row.
-    return marked.contains(QLatin1Char(',')) ? std::ranges::any_of(marked.split(QLatin1Char(',')), isIt)
-                                             : isIt(marked);
+    return marked.compare(side.choice, Qt::CaseInsensitive) == 0;
 }
 
 bool isRuledOutBy(const Constraint& constraint, const QString& option, const QString& choice)
@@ -140,8 +154,8 @@ Constraints::Constraints(ppd_file_t* file)
     }
     for (int i = 0; i < file->num_consts; ++i) {
         const ppd_const_t& old = file->consts[i];
-        Constraint constraint{{{markedName(QString::fromUtf8(old.option1)), QString::fromUtf8(old.choice1)},
-                               {markedName(QString::fromUtf8(old.option2)), QString::fromUtf8(old.choice2)}},
+        Constraint constraint{{sideOf(file, QString::fromUtf8(old.option1), QString::fromUtf8(old.choice1)),
+                               sideOf(file, QString::fromUtf8(old.option2), QString::fromUtf8(old.choice2))},
                               {}};
         // Makers write each both ways round, and in the newer form too, which says how to settle it.
         if (isSaid(constraint, known))

@@ -53,7 +53,9 @@ std::optional<PaperLimits> paperLimits(ppd_file_t* file)
 {
     ppd_size_t least{};
     ppd_size_t most{};
-    if (!ppdPageSizeLimits(file, &least, &most) || most.width <= least.width || most.length <= 0.0F)
+    // A roll of one width has the same least and most.
+    if (!ppdPageSizeLimits(file, &least, &most) || most.width < least.width || most.length < least.length ||
+        most.width <= 0.0F || most.length <= 0.0F)
         return std::nullopt;
     const std::array<double, 4> custom{double(file->custom_margins[0]), double(file->custom_margins[1]),
                                        double(file->custom_margins[2]), double(file->custom_margins[3])};

@@ -75,6 +75,11 @@ template <size_t N> bool contains(const std::array<const char*, N>& names, const
     return std::ranges::any_of(names, [&](const char* known) { return name == QLatin1StringView(known); });
 }
 
+bool isNamed(const QString& key, const char* name)
+{
+    return key.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0;
+}
+
 bool isTrue(const QString& value)
 {
     static const QStringList words{QStringLiteral("true"), QStringLiteral("yes"), QStringLiteral("on"),
@@ -128,7 +133,7 @@ QString pageSizeFor(ppd_file_t* file, const QString& name)
 
 class Understanding {
 public:
-    explicit Understanding(ppd_file_t* file) : file_(file) {}
+    Understanding(ppd_file_t* file, const GivenOptions& given) : file_(file), given_(given) {}
 
     UnderstoodOptions result;
 
@@ -137,13 +142,15 @@ public:
         const QString& key = option.key;
         if (key == QLatin1StringView("media"))
             takeMedia(option);
+        else if (isNamed(key, "PageRegion"))
+            takeRegion(option);
         else if (key == QLatin1StringView("sides"))
             takeSides(option);
         else if (key == QLatin1StringView("fit-to-page") || key == QLatin1StringView("fitplot"))
             result.page.scaling = isTrue(option.value) ? QStringLiteral("fit") : QStringLiteral("none");
         else if (key == QLatin1StringView("print-scaling"))
             takeScaling(option);
-        else if (key.compare(QLatin1StringView("Collate"), Qt::CaseInsensitive) == 0)
+        else if (isNamed(key, "Collate"))
             result.page.isCollated = isTrue(option.value);
         else if (key == QLatin1StringView("multiple-document-handling"))
             result.page.isCollated =
@@ -184,6 +191,17 @@ private:
                 leaveOut(option, Words::tr("The printer has no paper \"%1\".").arg(name) +
                                      listSentence(name, sizeNames(file_)));
         }
+    }
+
+    // It is another word for the size, and often saved beside it.
+    void takeRegion(const GivenOption& option)
+    {
+        const bool isSaidBetter = std::ranges::any_of(given_, [&](const GivenOption& other) {
+            return other.origin >= option.origin &&
+                   (isNamed(other.key, "PageSize") || other.key == QLatin1StringView("media"));
+        });
+        if (!isSaidBetter)
+            takeAs(option, QStringLiteral("PageSize"), option.value);
     }
 
     void takeSides(const GivenOption& option)
@@ -263,6 +281,7 @@ private:
     }
 
     ppd_file_t* file_;
+    const GivenOptions& given_;
 };
 
 } // namespace
@@ -277,7 +296,7 @@ GivenOptions givenBy(OptionOrigin origin, const OptionValues& options)
 
 UnderstoodOptions understand(ppd_file_t* file, const GivenOptions& given)
 {
-    Understanding understanding(file);
+    Understanding understanding(file, given);
     for (const GivenOption& option : given)
         understanding.take(option);
     return understanding.result;

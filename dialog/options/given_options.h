@@ -34,7 +34,7 @@ struct PageWishes {
     std::optional<bool> isCollated;
     QString pageRanges = {}; ///< as they were written; empty if nobody said
     QString pageSet = {};    ///< a word of IPP's: "all", "odd" or "even"; empty if nobody said
-    bool isReversed = false;
+    std::optional<bool> isReversed = {};
 };
 
 /// Given options as a printer's PPD spells them.

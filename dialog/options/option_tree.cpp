@@ -30,6 +30,12 @@ int optionIn(quintptr id)
     return int(id >> kRowShift) - 1;
 }
 
+// PPDs spell it as they like.
+bool isTrue(const QString& value)
+{
+    return value.compare(QLatin1StringView("True"), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 void OptionTree::setOptions(const PpdModel* model, const QStringList& keys)
@@ -283,18 +289,20 @@ QVariant OptionTree::partData(const QModelIndex& index, int role) const
     }
 }
 
+QString OptionTree::textOf(const QString& key, const QString& value) const
+{
+    const QString missing = value.isEmpty() ? model_->unlistedDefault(key) : QString();
+    return missing.isEmpty() ? model_->choiceText(key, value) : tr("%1 (the printer's default)").arg(missing);
+}
+
 QString OptionTree::shownText(const QModelIndex& index) const
 {
     const QString key = keyOf(index);
     switch (index.column()) {
     case titleColumn:
         return model_->optionText(key);
-    case valueColumn: {
-        const QString value = model_->value(key);
-        const QString missing = value.isEmpty() ? model_->unlistedDefault(key) : QString();
-        return missing.isEmpty() ? model_->choiceText(key, value)
-                                 : tr("%1 (the printer's default)").arg(missing);
-    }
+    case valueColumn:
+        return textOf(key, model_->value(key));
     default:
         return model_->changedKeys().contains(key) ? QStringLiteral("\u21BA") : QString();
     }
@@ -306,9 +314,9 @@ QString OptionTree::toolTip(const QModelIndex& index) const
     if (index.column() != putBackColumn)
         return index.column() == titleColumn ? tr("%1 (%2)").arg(model_->optionText(key), key)
                                              : shownText(index);
-    return model_->changedKeys().contains(key) ? tr("Put back to the printer's default: %1")
-                                                     .arg(model_->choiceText(key, model_->defaultValue(key)))
-                                               : QString();
+    return model_->changedKeys().contains(key)
+               ? tr("Put back to the printer's default: %1").arg(textOf(key, model_->defaultValue(key)))
+               : QString();
 }
 
 QVariant OptionTree::optionData(const QModelIndex& index, int role) const
@@ -333,7 +341,7 @@ QVariant OptionTree::optionData(const QModelIndex& index, int role) const
         return index.column() == putBackColumn ? QVariant(Qt::AlignCenter) : QVariant();
     case Qt::CheckStateRole:
         return index.column() == valueColumn && rowOf(index) == Row::yesOrNo
-                   ? QVariant(model_->value(key) == QLatin1StringView("True") ? Qt::Checked : Qt::Unchecked)
+                   ? QVariant(isTrue(model_->value(key)) ? Qt::Checked : Qt::Unchecked)
                    : QVariant();
     case Qt::AccessibleTextRole:
         if (index.column() == putBackColumn)

@@ -78,6 +78,7 @@ private:
     QVariant groupData(const Group& group, int column, int role) const;
     QVariant partData(const QModelIndex& index, int role) const;
     QVariant optionData(const QModelIndex& index, int role) const;
+    QString textOf(const QString& key, const QString& value) const;
     QString shownText(const QModelIndex& index) const;
     QString toolTip(const QModelIndex& index) const;
 

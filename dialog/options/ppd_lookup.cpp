@@ -79,6 +79,17 @@ ppd_cparam_t* customParameter(ppd_file_t* file, const QString& key)
     return ppdFirstCustomParam(custom);
 }
 
+bool hasSecret(ppd_file_t* file, const QString& key)
+{
+    ppd_coption_t* custom = ppdFindCustomOption(file, key.toUtf8().constData());
+    for (const ppd_cparam_t* each = custom ? ppdFirstCustomParam(custom) : nullptr; each;
+         each = ppdNextCustomParam(custom)) {
+        if (each->type == PPD_CUSTOM_PASSCODE || each->type == PPD_CUSTOM_PASSWORD)
+            return true;
+    }
+    return false;
+}
+
 QString customValueProblem(ppd_file_t* file, const ppd_cparam_t& parameter, const QString& key,
                            const QString& optionText, const QString& value, NumberReading reading)
 {

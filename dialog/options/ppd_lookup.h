@@ -21,6 +21,9 @@ ppd_choice_s* listedChoice(ppd_file_t* file, const QString& key, const QString& 
 /// The only parameter of an option's custom values; null if it has none or several.
 ppd_cparam_s* customParameter(ppd_file_t* file, const QString& key);
 
+/// Whether a part of the option's custom values is a PIN or a password.
+bool hasSecret(ppd_file_t* file, const QString& key);
+
 /// How a text stands for a number: it is one; or it begins with one, as what the user is still typing does
 /// ("-", "12.") and what a panel lets pass on purpose ("abc" counts as 0).
 enum class NumberReading { whole, leading };

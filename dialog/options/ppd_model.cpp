@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/ppd_model.h"
 
+#include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_lookup.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -79,8 +80,13 @@ PpdModel::Proposal PpdModel::propose(const QString& key, const QString& value,
         proposal.isListed = true;
         return proposal;
     }
-    if (areListed(proposal.key, value))
+    if (areListed(proposal.key, value)) {
+        // Filters mark one choice of an option that a job names, and none at all of a row of them.
+        proposal.refusal = tr("A job carries one choice of \"%1\", and not \"%2\" together. Take one away "
+                              "before you choose another.")
+                               .arg(optionText(proposal.key), unlistedText(proposal.key, value));
         return proposal;
+    }
     return isPageSize(proposal.key) ? proposePageSize(proposal) : proposeCustom(proposal, reading);
 }
 
@@ -101,17 +107,14 @@ PpdModel::Proposal PpdModel::proposeCustom(Proposal proposal, ppd_lookup::Number
 PpdModel::Proposal PpdModel::proposePageSize(Proposal proposal) const
 {
     // libcups answers null for a size that the printer does not take.
-    ppd_size_t least{};
-    ppd_size_t most{};
     const bool isCustom = proposal.value.startsWith(QLatin1StringView(kCustomPrefix));
     const ppd_size_t* size =
         isCustom ? ppdPageSize(file_.get(), proposal.value.toUtf8().constData()) : nullptr;
     if (!size) {
         proposal.refusal =
             tr("The printer has no page size \"%1\". Choose one from the list.").arg(proposal.value);
-    } else if (ppdPageSizeLimits(file_.get(), &least, &most) &&
-               (size->width < least.width || size->width > most.width || size->length < least.length ||
-                size->length > most.length)) {
+    } else if (const std::optional<PaperLimits> limits = paperLimits(file_.get());
+               limits && !limits->holds(QSizeF(double(size->width), double(size->length)))) {
         proposal.refusal =
             tr("The printer cannot take the page size \"%1\". Choose one from the list.").arg(proposal.value);
     }
@@ -178,7 +181,11 @@ QString PpdModel::conflictSentence(const QString& key, const MarkView& proposed,
 void PpdModel::setMark(const QString& key, const QString& choice)
 {
     if (!ppd_lookup::listedChoice(file_.get(), key, choice)) {
-        keep(key, choice);
+        // Kept, it would be in the job as "KEY=".
+        if (choice.isEmpty() && defaultValue(key).isEmpty())
+            drop(key);
+        else
+            keep(key, choice);
         return;
     }
     kept_.remove(key);
@@ -186,11 +193,25 @@ void PpdModel::setMark(const QString& key, const QString& choice)
     ppdMarkOption(file_.get(), key.toUtf8().constData(), choice.toUtf8().constData());
 }
 
-void PpdModel::keep(const QString& key, const QString& value)
+void PpdModel::unmark(const QString& key)
 {
     ppd_lookup::unmark(file_.get(), key);
     if (isPageSize(key))
         ppd_lookup::unmark(file_.get(), QStringLiteral("PageRegion"));
+}
+
+void PpdModel::drop(const QString& key)
+{
+    unmark(key);
+    kept_.remove(key);
+    values_.remove(key);
+    marks_.remove(key);
+    changed_.remove(key);
+}
+
+void PpdModel::keep(const QString& key, const QString& value)
+{
+    unmark(key);
     kept_.insert(key, value);
     note(key, value);
 }
@@ -208,8 +229,9 @@ void PpdModel::note(const QString& key, const QString& value)
 // Constraints speak of all of an option's custom values at once.
 QString PpdModel::asMark(const QString& key, const QString& value) const
 {
-    const bool isCustom =
-        ppd_lookup::customParameter(file_.get(), key) && !ppd_lookup::listedChoice(file_.get(), key, value);
+    const bool isCustom = !value.isEmpty() && !isPageSize(key) &&
+                          ppdFindCustomOption(file_.get(), key.toUtf8().constData()) &&
+                          !ppd_lookup::listedChoice(file_.get(), key, value);
     return isCustom ? QLatin1StringView(kCustomPrefix) + value : value;
 }
 

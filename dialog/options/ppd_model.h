@@ -120,9 +120,10 @@ public:
     /// whole. Refused only if there is no way, and then nothing has changed.
     ChangeResult choose(const QString& key, const QVariant& value, const QSet<QString>& chosen);
 
-    /// Chooses the printer's defaults for several options as one. What else had to change is in the result,
-    /// and so are the options themselves.
-    ChangeResult putBack(const QStringList& keys);
+    /// Chooses the printer's defaults for several options as one; an option that has none loses its choice.
+    /// What else had to change is in the result, and so are the options themselves; what is in `chosen` only
+    /// if nothing else helps.
+    ChangeResult putBack(const QStringList& keys, const QSet<QString>& chosen);
 
     /// Why listed choices of the option clash with what is chosen now, by keyword: "not with Two-sided: Long
     /// edge". What goes with the rest is not in it.
@@ -136,8 +137,12 @@ public:
     /// but the user.
     void setOffer(PrinterOffer offer) { offer_ = std::move(offer); }
 
-    /// Puts earlier values back without any check, as undoing a change needs.
+    /// Puts earlier values back without any check, as undoing a change needs. An empty one is no choice at
+    /// all where the printer has none by itself.
     void restore(const QMap<QString, QString>& values);
+
+    /// Whether the option's current value would clash if restore() put these values back.
+    bool wouldClash(const QString& key, const QMap<QString, QString>& restored) const;
 
     /// Whether a listed choice could be had without changing anything else.
     bool goesWithTheRest(const QString& key, const QString& choice) const;
@@ -192,8 +197,8 @@ public:
     /// What may be chosen beside the listed choices.
     CustomValue customValue(const QString& key) const;
 
-    /// Whether the current value is a PIN or a password, which nobody is to read on a screen or in a file.
-    bool isSecret(const QString& key) const { return isKept(key) && customValue(key).isHidden(); }
+    /// Whether a PIN or a password is in the current value, which nobody is to read on a screen or in a file.
+    bool isSecret(const QString& key) const;
 
     /// The options of which that is true.
     QSet<QString> secrets() const;
@@ -240,6 +245,8 @@ private:
     Proposal proposeGiven(const GivenOption& option) const;
     GivenSet checkGiven(const GivenOptions& given, ApplyResult& result) const;
     bool settleGiven(GivenSet& set, ApplyResult& result) const;
+    bool resolveGiven(const Constraint& clash, GivenSet& set, ApplyResult& result) const;
+    void leaveWeakestOut(const Constraint& clash, GivenSet& set, ApplyResult& result) const;
 
     MarkView marksWith(const OptionMarks& changed) const { return {equipment_, marks_, changed}; }
 
@@ -260,6 +267,8 @@ private:
     void note(const QString& key, const QString& value);
     SideChange sideChange(const QString& key, const QString& choice) const;
     void setMark(const QString& key, const QString& choice);
+    void unmark(const QString& key);
+    void drop(const QString& key);
     void keep(const QString& key, const QString& value);
 
     std::shared_ptr<ppd_file_t> file_;

@@ -98,17 +98,17 @@ void PpdModel::setDefaults(const QMap<QString, QString>& defaults)
     }
 }
 
-ChangeResult PpdModel::putBack(const QStringList& keys)
+ChangeResult PpdModel::putBack(const QStringList& keys, const QSet<QString>& chosen)
 {
     OptionMarks wanted;
     for (const QString& key : keys) {
-        if (changed_.contains(key) && !defaultValue(key).isEmpty())
+        if (changed_.contains(key) && (choiceCount(key) > 0 || !defaultValue(key).isEmpty()))
             wanted.insert(key, defaultValue(key));
     }
     OptionMarks marks;
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it)
         marks.insert(it.key(), asMark(it.key(), *it));
-    const std::optional<OptionMarks> others = settle(marks, {});
+    const std::optional<OptionMarks> others = settle(marks, chosen);
     if (!others)
         return refuse(tr("The printer's own defaults do not go together with what is chosen elsewhere. Put "
                          "the options back one by one."));
@@ -152,16 +152,26 @@ QList<SideChange> PpdModel::alsoChanges(const QString& key, const QString& choic
                                         const QSet<QString>& chosen) const
 {
     QList<SideChange> changes;
-    const OptionMarks others = settle({{key, choice}}, chosen).value_or(OptionMarks());
+    const OptionMarks others = settle({{key, asMark(key, choice)}}, chosen).value_or(OptionMarks());
     for (auto it = others.cbegin(); it != others.cend(); ++it)
         changes.append(sideChange(it.key(), it.value()));
     return changes;
 }
 
+bool PpdModel::wouldClash(const QString& key, const QMap<QString, QString>& restored) const
+{
+    OptionMarks marks;
+    for (auto it = restored.cbegin(); it != restored.cend(); ++it)
+        marks.insert(it.key(), asMark(it.key(), *it));
+    return !constraints_.violatedBy(marksWith(marks), key).empty();
+}
+
 QString PpdModel::jobValue(const QString& key) const
 {
     const QString now = value(key);
-    return isKept(key) && !ppdFindAttr(file_.get(), kOwnPages, nullptr) ? asMark(key, now) : now;
+    const bool isCustom = isKept(key) && ppd_lookup::customParameter(file_.get(), key) &&
+                          !ppdFindAttr(file_.get(), kOwnPages, nullptr);
+    return isCustom ? asMark(key, now) : now;
 }
 
 } // namespace halvern

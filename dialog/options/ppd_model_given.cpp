@@ -5,6 +5,7 @@
 #include "platform/printing/cups_ppd.h"
 
 #include <algorithm>
+#include <set>
 
 namespace halvern {
 
@@ -22,14 +23,39 @@ struct PpdModel::GivenSet {
     };
 
     QMap<QString, Entry> entries;
-    OptionMarks sides; ///< what settles them
+    OptionMarks fixed;          ///< what the entries mark
+    OptionMarks sides;          ///< what settles them
+    OptionMarks changed;        ///< both, those of the entries before the others
+    std::set<QString> unlooked; ///< of these, what may clash
 
-    OptionMarks values() const
+    void add(const Entry& entry, const QString& mark)
     {
-        OptionMarks all;
-        for (auto it = entries.cbegin(); it != entries.cend(); ++it)
-            all.insert(it.key(), it->proposal.value);
-        return all;
+        const QString& key = entry.proposal.key;
+        entries.insert(key, entry);
+        fixed.insert(key, mark);
+        changed.insert(key, mark);
+        unlooked.insert(key);
+    }
+
+    void settleWith(const QString& key, const QString& choice)
+    {
+        sides.insert(key, choice);
+        if (!fixed.contains(key))
+            changed.insert(key, choice);
+        unlooked.insert(key);
+    }
+
+    /// Takes an entry out, and what was settled, which is settled anew. The options that are as before.
+    QStringList giveUp(const QString& key)
+    {
+        QStringList reverted = sides.keys() + QStringList{key};
+        entries.remove(key);
+        fixed.remove(key);
+        sides.clear();
+        reverted.removeIf([this](const QString& other) { return fixed.contains(other); });
+        for (const QString& other : std::as_const(reverted))
+            changed.remove(other);
+        return reverted;
     }
 };
 
@@ -61,7 +87,7 @@ PpdModel::GivenSet PpdModel::checkGiven(const GivenOptions& given, ApplyResult& 
     for (const qsizetype i : last) {
         const Proposal proposal = proposeGiven(given[i]);
         if (proposal.refusal.isEmpty())
-            set.entries.insert(proposal.key, {proposal, given[i].origin, i});
+            set.add({proposal, given[i].origin, i}, asMark(proposal.key, proposal.value));
         else
             result.leftOut.append({given[i].origin, proposal.refusal});
     }
@@ -102,46 +128,65 @@ PpdModel::Proposal PpdModel::proposeGiven(const GivenOption& given) const
 // Takes one step: true if everything goes together.
 bool PpdModel::settleGiven(GivenSet& set, ApplyResult& result) const
 {
-    const OptionMarks fixed = set.values();
-    OptionMarks changed = set.sides;
-    changed.insert(fixed);
-    const MarkView proposed = marksWith(changed);
-    for (auto it = changed.cbegin(); it != changed.cend(); ++it) {
-        const auto clashes = value(it.key()) == it.value() ? std::vector<const Constraint*>()
-                                                           : constraints_.violatedBy(proposed, it.key());
+    const Constraint* clash = nullptr;
+    while (!clash && !set.unlooked.empty()) {
+        const QString key = *set.unlooked.begin();
+        const auto marked = set.changed.constFind(key);
+        const auto clashes = marked == set.changed.cend() || marks_.value(key) == *marked
+                                 ? std::vector<const Constraint*>()
+                                 : constraints_.violatedBy(marksWith(set.changed), key);
         if (clashes.empty())
-            continue;
-        QStringList given;
-        for (const ConstraintSide& side : clashes.front()->sides) {
-            if (set.entries.contains(side.option))
-                given.append(side.option);
-        }
-        const bool mayResolve = given.size() == 1 && !clashes.front()->resolver.isEmpty() &&
-                                result.settled.size() <= set.entries.size();
-        if (const std::optional<OptionMarks> others =
-                mayResolve ? resolve(given.front(), fixed) : std::nullopt) {
-            SettledOption settled{given.front(), value(given.front()), {}};
-            for (auto side = others->cbegin(); side != others->cend(); ++side) {
-                set.sides.insert(side.key(), side.value());
-                settled.sideChanges.append(sideChange(side.key(), side.value()));
-            }
-            result.settled.append(settled);
-            return false;
-        }
-        if (given.isEmpty())
-            given = set.entries.keys();
-        const QString weakest = *std::ranges::min_element(given, [&](const QString& a, const QString& b) {
-            return set.entries[a].isWeaker(set.entries[b]);
-        });
-        result.leftOut.append(
-            {set.entries[weakest].origin, conflictSentence(weakest, proposed, *clashes.front())});
-        // What was settled for its sake is settled anew.
-        set.entries.remove(weakest);
-        set.sides.clear();
-        result.settled.clear();
-        return false;
+            set.unlooked.erase(key);
+        else
+            clash = clashes.front();
     }
+    if (clash && !resolveGiven(*clash, set, result))
+        leaveWeakestOut(*clash, set, result);
+    return !clash;
+}
+
+bool PpdModel::resolveGiven(const Constraint& clash, GivenSet& set, ApplyResult& result) const
+{
+    QStringList given;
+    for (const ConstraintSide& side : clash.sides) {
+        if (set.entries.contains(side.option))
+            given.append(side.option);
+    }
+    if (given.size() != 1 || clash.resolver.isEmpty() || result.settled.size() > set.entries.size())
+        return false;
+    const std::optional<OptionMarks> others = resolve(given.front(), set.fixed);
+    if (!others)
+        return false;
+    SettledOption settled{given.front(), value(given.front()), {}};
+    for (auto side = others->cbegin(); side != others->cend(); ++side) {
+        set.settleWith(side.key(), side.value());
+        settled.sideChanges.append(sideChange(side.key(), side.value()));
+    }
+    result.settled.append(settled);
     return true;
+}
+
+void PpdModel::leaveWeakestOut(const Constraint& clash, GivenSet& set, ApplyResult& result) const
+{
+    QStringList given;
+    for (const ConstraintSide& side : clash.sides) {
+        if (set.entries.contains(side.option))
+            given.append(side.option);
+    }
+    if (given.isEmpty())
+        given = set.entries.keys();
+    const QString weakest = *std::ranges::min_element(
+        given, [&](const QString& a, const QString& b) { return set.entries[a].isWeaker(set.entries[b]); });
+    result.leftOut.append(
+        {set.entries[weakest].origin, conflictSentence(weakest, marksWith(set.changed), clash)});
+    result.settled.clear();
+    // What is as before may clash with what was looked at already.
+    for (const QString& key : set.giveUp(weakest)) {
+        for (const Constraint* anew : constraints_.violatedBy(marksWith(set.changed), key)) {
+            for (const ConstraintSide& side : anew->sides)
+                set.unlooked.insert(side.option);
+        }
+    }
 }
 
 } // namespace halvern

@@ -140,9 +140,9 @@ QString PpdModel::unlistedText(const QString& key, const QString& value) const
             texts.append(choiceText(key, choice));
         return texts.join(QStringLiteral(", "));
     }
-    const CustomValue custom = customValue(key);
-    if (custom.isHidden())
+    if (ppd_lookup::hasSecret(file_.get(), key))
         return value.isEmpty() ? QString() : concealed();
+    const CustomValue custom = customValue(key);
     bool isNumber = false;
     const double points = value.toDouble(&isNumber);
     if (custom.kind != CustomValue::Kind::length || !isNumber)
@@ -170,6 +170,11 @@ OptionKind PpdModel::kind(const QString& key) const
                    ppd_lookup::listedChoice(file_.get(), key, QStringLiteral("False"))
                ? OptionKind::yesOrNo
                : OptionKind::one;
+}
+
+bool PpdModel::isSecret(const QString& key) const
+{
+    return isKept(key) && ppd_lookup::hasSecret(file_.get(), key);
 }
 
 QSet<QString> PpdModel::secrets() const

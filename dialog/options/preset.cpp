@@ -71,7 +71,9 @@ QJsonObject toJson(const Preset& preset)
     insertText("saved", preset.saved.isValid() ? preset.saved.toUTC().toString(Qt::ISODate) : QString());
     insertText("basedOn", preset.basedOn);
     object.insert(QStringLiteral("options"), textsToJson(preset.options));
-    object.insert(QStringLiteral("changed"), QJsonArray::fromStringList(preset.changed));
+    QStringList changed = preset.changed.values();
+    changed.sort();
+    object.insert(QStringLiteral("changed"), QJsonArray::fromStringList(changed));
     object.insert(QStringLiteral("page"), textsToJson(preset.page));
     return object;
 }
@@ -92,11 +94,11 @@ std::optional<Preset> presetFromJson(const QJsonObject& object)
     preset.page = *page;
     for (const QJsonValue& key : object.value(QStringLiteral("changed")).toArray()) {
         if (preset.options.contains(key.toString()))
-            preset.changed.append(key.toString());
+            preset.changed.insert(key.toString());
     }
     // Without the list, whatever is in it was chosen.
     if (!object.value(QStringLiteral("changed")).isArray())
-        preset.changed = preset.options.keys();
+        preset.changed = QSet<QString>(preset.options.keyBegin(), preset.options.keyEnd());
     return preset;
 }
 

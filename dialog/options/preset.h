@@ -6,8 +6,8 @@
 #include <QJsonObject>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -25,7 +25,7 @@ struct Preset {
     QString basedOn; ///< of what was printed with last: the preset that it was
     /// Every option with its value, so that the preset stays what it was when the printer's defaults change.
     QMap<QString, QString> options;
-    QStringList changed;         ///< the options that did not have the printer's default
+    QSet<QString> changed;       ///< the options that did not have the printer's default
     QMap<QString, QString> page; ///< what the dialog itself decides, by names of our own
 
     bool operator==(const Preset&) const = default;

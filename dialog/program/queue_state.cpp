@@ -78,6 +78,7 @@ QueueState readQueueState(const SessionRequest& request, Presets& presets, const
     if (!kept.problem.isEmpty())
         state.remarks.append(kept.problem);
     presets.take(found.name, model->file(), kept, saved);
+    presets.readOthers();
     state.printerDefaults = printerDefaults(*model, ppd.defaults);
     presets.setPrinterDefaults(state.printerDefaults);
     const PresetEntry* preset = request.preset.isEmpty() ? nullptr : presets.find(request.preset);

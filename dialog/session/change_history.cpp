@@ -12,6 +12,7 @@ ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin
 {
     if (!isOpen_ || action_ != UserAction::number()) {
         before_.clear();
+        chosenBefore_ = chosen_;
         hasToTell_ = false;
         isUsers_ = false;
         isStep_ = false;
@@ -33,19 +34,26 @@ ChangeHistory::Effect ChangeHistory::note(const SideChange& change, ChangeOrigin
     }
     if (hasToTell_) {
         undo_ = before_;
+        undoChosen_ = chosenBefore_;
         undoesStep_ = isStep_;
         return Effect::toTell;
     }
     if (!undo_.contains(change.key))
         return Effect::none;
+    expire();
+    return Effect::expired;
+}
+
+void ChangeHistory::expire()
+{
     undo_.clear();
     undoesStep_ = false;
-    return Effect::expired;
 }
 
 void ChangeHistory::noteStep(const QMap<QString, QString>& before)
 {
     before_ = undo_ = before;
+    chosenBefore_ = undoChosen_ = chosen_;
     hasToTell_ = false;
     isUsers_ = isStep_ = undoesStep_ = true;
     action_ = UserAction::number();
@@ -74,8 +82,7 @@ ChangeHistory::News ChangeHistory::takeNews()
     if (isUsers_) {
         news.kind = News::Kind::users;
     } else if (wasUndone) {
-        undo_.clear();
-        undoesStep_ = false;
+        expire();
         news.kind = News::Kind::correctedAgain;
     } else {
         news.kind = News::Kind::corrected;
@@ -88,6 +95,12 @@ QMap<QString, QString> ChangeHistory::takeUndo()
     if (!undo_.isEmpty()) {
         endGroup();
         undone_ = undo_;
+    }
+    for (auto it = undo_.cbegin(); it != undo_.cend(); ++it) {
+        if (undoChosen_.contains(it.key()))
+            chosen_.insert(it.key());
+        else
+            chosen_.remove(it.key());
     }
     undoesStep_ = false;
     return std::exchange(undo_, {});

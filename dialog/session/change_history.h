@@ -34,6 +34,21 @@ public:
 
     void endGroup() { isOpen_ = false; }
 
+    /// The options that the user has chosen since the printer was selected. Undoing leaves those of a step as
+    /// they were before it.
+    const QSet<QString>& chosen() const { return chosen_; }
+
+    /// After the change was noted.
+    void choose(const QString& key) { chosen_.insert(key); }
+
+    void unchoose(const QString& key) { chosen_.remove(key); }
+
+    /// The values that undoing would put back.
+    const QMap<QString, QString>& undo() const { return undo_; }
+
+    /// Lets nothing be undone.
+    void expire();
+
     /// What changed beside what the user wanted.
     struct News {
         enum class Kind {
@@ -67,6 +82,9 @@ private:
     QMap<QString, QString> before_;
     QList<SideChange> told_;
     QMap<QString, QString> undo_;
+    QSet<QString> chosen_;
+    QSet<QString> chosenBefore_;
+    QSet<QString> undoChosen_;
     QMap<QString, QString> undone_; // what was put back and has not been changed by the user since
 };
 

@@ -87,7 +87,6 @@ void DialogSession::leavePrinter()
     // New ones, not emptied ones: no value and no lock of the old printer's is left.
     settings_ = std::make_shared<PrintSettings>();
     history_.clear();
-    chosen_.clear();
     backLinesProblem_.clear();
     presets_.leave();
     filledIn_.clear();
@@ -108,6 +107,7 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
     if (!printer.presets.problem.isEmpty())
         Q_EMIT notice(printer.presets.problem);
     presets_.take(printerName(), model_->file(), printer.presets, printer_.saved());
+    presets_.lookForOthers();
     jobOffer_ = ppd.jobs;
     applyOptions(printer);
     model_->setOffer(printer.offer);
@@ -228,9 +228,9 @@ ChangeResult DialogSession::accept(const QString& key, const QString& before, Ch
     keeper_->forget(key);
     if (origin == ChangeOrigin::filling)
         filledIn_.insert(key, model_->value(key));
-    if (origin == ChangeOrigin::user)
-        chosen_.insert(key);
     remember(key, before, origin, result.sideChanges);
+    if (origin == ChangeOrigin::user)
+        history_.choose(key);
     Q_EMIT optionsChanged();
     return result;
 }
@@ -243,10 +243,23 @@ void DialogSession::remember(const QString& key, const QString& before, ChangeOr
     const ChangeHistory::Effect effect = history_.note(change, origin, others);
     if (effect == ChangeHistory::Effect::expired)
         Q_EMIT undoExpired();
+    else if (effect == ChangeHistory::Effect::none)
+        dropClashingUndo(change, others);
     if (effect != ChangeHistory::Effect::toTell)
         return;
     // Together with what else follows from the same cause.
     panels_.later([this] { tellChanges(); });
+}
+
+// What was chosen since may go with what is marked now and not with what was before.
+void DialogSession::dropClashingUndo(const SideChange& change, const QList<SideChange>& others)
+{
+    const QMap<QString, QString>& undo = history_.undo();
+    const auto clashes = [&](const SideChange& made) { return model_->wouldClash(made.key, undo); };
+    if (undo.isEmpty() || !(clashes(change) || std::ranges::any_of(others, clashes)))
+        return;
+    history_.expire();
+    Q_EMIT undoExpired();
 }
 
 void DialogSession::tellChanges()
@@ -278,7 +291,7 @@ bool DialogSession::changeOption(const QString& key, const QVariant& value)
     if (!model_)
         return false;
     const QString before = model_->value(key);
-    if (!accept(key, before, ChangeOrigin::user, model_->choose(key, value, chosen_)).accepted)
+    if (!accept(key, before, ChangeOrigin::user, model_->choose(key, value, history_.chosen())).accepted)
         return false;
     history_.endGroup();
     panels_.tell(key, model_->value(key));
@@ -313,15 +326,16 @@ void DialogSession::undoLastChange()
         return;
     history_.endGroup();
     model_->restore(before);
-    chosen_.subtract(QSet<QString>(before.keyBegin(), before.keyEnd()));
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
         panels_.tell(it.key(), it.value());
     }
-    if (isStep) {
-        page_.set(beforeStep_.page);
-        presets_.choose(PresetEntry(beforeStep_.chosen));
+    if (isStep && presetStep_) {
+        page_.set(withoutPreset(page(), presetStep_->after, presetStep_->before));
+        if (presets_.chosen().isSame(presetStep_->chosenAfter))
+            presets_.choose(presetStep_->chosenBefore);
     }
+    presetStep_.reset();
     Q_EMIT optionsChanged();
 }
 

@@ -240,6 +240,7 @@ private:
     void remember(const QString& key, const QString& before, ChangeOrigin origin,
                   const QList<SideChange>& others);
     void tellChanges();
+    void dropClashingUndo(const SideChange& change, const QList<SideChange>& others);
     JobInputs jobInputs() const;
     std::vector<PageToPrint> pagesToPrint() const;
     void storeInSettings(const QString& key);
@@ -255,7 +256,6 @@ private:
     PageSetup page_;
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
-    QSet<QString> chosen_; // by the user, since the printer was selected
     QString backLinesProblem_;
     Presets presets_;
     QMap<QString, QString> printerDefaults_;
@@ -263,10 +263,15 @@ private:
     bool hasTakenPreset_ = false;
     bool pageIsUsers_ = false; // no other printer's preset changes it
 
-    struct {
-        PageSettings page;
-        PresetEntry chosen;
-    } beforeStep_;
+    // What the last preset replaced beside options, and what it set.
+    struct PresetStep {
+        PageSettings before;
+        PageSettings after;
+        PresetEntry chosenBefore;
+        PresetEntry chosenAfter;
+    };
+
+    std::optional<PresetStep> presetStep_;
 
     JobOffer jobOffer_;
     QMap<QString, QString> jobAttributes_; ///< what the user has set

@@ -86,6 +86,10 @@ PresetOptions DialogSession::resetTo(const PresetEntry& entry)
         if (!stays && model_->value(it.key()) != it.value())
             model_->restore({{it.key(), it.value()}});
     }
+    for (const QString& key : QSet<QString>(model_->changedKeys())) {
+        if (model_->choiceCount(key) > 0 && !printerDefaults_.contains(key))
+            model_->restore({{key, {}}});
+    }
     PresetOptions wanted = optionsOf(*model_, entry.preset, model_->values());
     wanted.leftOut += model_->apply(wanted.given).leftOut;
     takeLoadedSheet(keeper_->offer());
@@ -98,23 +102,26 @@ void DialogSession::applyPreset(const PresetEntry& entry)
         return;
     keeper_->showSheetName();
     const QMap<QString, QString> before = model_->values();
-    beforeStep_ = {page(), presets_.chosen()};
+    PresetStep step{page(), withPreset(page(), entry.preset), presets_.chosen(), entry};
     const QList<LeftOut> leftOut = resetTo(entry).leftOut;
     QMap<QString, QString> replaced;
     const QMap<QString, QString> after = model_->values();
-    for (auto it = after.cbegin(); it != after.cend(); ++it) {
-        if (before.contains(it.key()) && before.value(it.key()) == it.value())
+    QMap<QString, QString> all = before;
+    all.insert(after);
+    for (auto it = all.cbegin(); it != all.cend(); ++it) {
+        const QString& key = it.key();
+        if (before.contains(key) && after.contains(key) && before.value(key) == after.value(key))
             continue;
-        if (before.contains(it.key()))
-            replaced.insert(it.key(), before.value(it.key()));
-        storeInSettings(it.key());
-        keeper_->forget(it.key());
-        panels_.tell(it.key(), it.value());
+        replaced.insert(key, before.value(key));
+        storeInSettings(key);
+        keeper_->forget(key);
+        panels_.tell(key, after.value(key));
     }
+    presetStep_ = step;
     history_.noteStep(replaced);
     // With what the panels' rules make of it.
     panels_.later([this] { tellChanges(); });
-    setPage(withPreset(page(), entry.preset));
+    setPage(step.after);
     presets_.choose(PresetEntry(entry));
     Q_EMIT presetApplied(entry.title());
     tellLeftOut(leftOut, entry.title());
@@ -151,9 +158,9 @@ void DialogSession::rememberWhenSent(PrintRun* run)
     Preset last = captureLastUsed(*model_, settings_->values(), page(), unchosen);
     // The next time it is filled in again, by what is loaded then.
     for (auto it = filledIn_.cbegin(); it != filledIn_.cend(); ++it) {
-        if (!chosen_.contains(it.key()) && last.options.value(it.key()) == *it) {
+        if (!history_.chosen().contains(it.key()) && last.options.value(it.key()) == *it) {
             last.options.remove(it.key());
-            last.changed.removeAll(it.key());
+            last.changed.remove(it.key());
         }
     }
     if (presets_.chosen().kind == PresetKind::named && isAsChosen())

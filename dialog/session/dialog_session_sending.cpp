@@ -16,29 +16,78 @@ namespace halvern {
 
 namespace {
 
-QStringList filesOf(const std::vector<Photo>& photos)
+struct ReadPage {
+    Photo photo;
+    bool isLeftOut;
+};
+
+// The pages of each file that is still printed: the command reads it whole.
+std::vector<ReadPage> pagesOfFiles(const std::vector<Photo>& photos,
+                                   const std::vector<PhotoLoader::LeftOutPhoto>& leftOut)
+{
+    std::vector<ReadPage> pages;
+    auto left = leftOut.begin();
+    const auto addLeftOut = [&] {
+        while (left != leftOut.end() && left->place == pages.size())
+            pages.push_back({(left++)->photo, true});
+    };
+    for (const Photo& photo : photos) {
+        addLeftOut();
+        pages.push_back({photo, false});
+    }
+    addLeftOut();
+    for (size_t begin = 0; begin < pages.size();) {
+        // A file that was given twice begins again.
+        size_t end = begin + 1;
+        while (end < pages.size() && pages[end].photo.path == pages[begin].photo.path &&
+               pages[end].photo.page > pages[end - 1].photo.page)
+            ++end;
+        const auto first = pages.begin() + std::ptrdiff_t(begin);
+        const auto last = pages.begin() + std::ptrdiff_t(end);
+        if (std::all_of(first, last, [](const ReadPage& page) { return page.isLeftOut; }))
+            pages.erase(first, last);
+        else
+            begin = end;
+    }
+    return pages;
+}
+
+QStringList filesOf(const std::vector<ReadPage>& pages)
 {
     QStringList files;
-    int page = 0;
-    for (const Photo& photo : photos) {
-        // Pages of one file follow one another; a file that was given twice begins again.
-        if (files.isEmpty() || files.back() != photo.path || photo.page <= page)
-            files.append(photo.path);
-        page = photo.page;
+    int before = 0;
+    for (const ReadPage& page : pages) {
+        if (files.isEmpty() || files.back() != page.photo.path || page.photo.page <= before)
+            files.append(page.photo.path);
+        before = page.photo.page;
     }
     return files;
 }
 
+// The chosen places among what is still there, as places among what the command reads.
+QString rangesIn(const std::vector<ReadPage>& pages, const std::vector<size_t>& chosen)
+{
+    std::vector<size_t> there;
+    for (size_t i = 0; i < pages.size(); ++i) {
+        if (!pages[i].isLeftOut)
+            there.push_back(i);
+    }
+    std::vector<size_t> places;
+    for (const size_t place : chosen)
+        places.push_back(there.at(place));
+    return places.size() < pages.size() ? rangesOf(places) : QString();
+}
+
 // A photo each, up to the last that is not where the one before it is.
-QStringList positionsOf(const std::vector<Photo>& photos)
+QStringList positionsOf(const std::vector<ReadPage>& pages)
 {
     QStringList positions;
-    for (const Photo& photo : photos)
-        positions.append(shortestDouble(photo.position.x()) + QLatin1Char(',') +
-                         shortestDouble(photo.position.y()));
+    for (const ReadPage& page : pages)
+        positions.append(shortestDouble(page.photo.position.x()) + QLatin1Char(',') +
+                         shortestDouble(page.photo.position.y()));
     while (positions.size() > 1 && positions.back() == positions[positions.size() - 2])
         positions.removeLast();
-    const bool isCentred = positions.size() == 1 && photos.front().position == Photo().position;
+    const bool isCentred = positions.size() == 1 && pages.front().photo.position == Photo().position;
     return isCentred ? QStringList() : positions;
 }
 
@@ -76,7 +125,8 @@ QString DialogSession::command() const
 {
     JobToRepeat job;
     job.printer = printerName();
-    job.files = filesOf(photos());
+    const std::vector<ReadPage> pages = pagesOfFiles(photos(), photos_.leftOut());
+    job.files = filesOf(pages);
     const UnderstoodOptions saved =
         understand(model_->file(), givenBy(OptionOrigin::saved, printer_.savedOptions()));
     // What the user has saved would come back with the command, so that what was set instead is named.
@@ -100,17 +150,16 @@ QString DialogSession::command() const
         job.page.append(page().isCollated ? QStringLiteral("Collate=True") : QStringLiteral("Collate=False"));
     if (page().scaling != Scaling::fit || !saved.page.scaling.isEmpty())
         job.page.append(QStringLiteral("print-scaling=") + scalingWord(page().scaling));
-    const ChosenPages chosen = chosenPages();
-    if (chosen.pages.size() < photos().size())
-        job.ranges = rangesOf(chosen.pages);
+    job.ranges = rangesIn(pages, chosenPages().pages);
     job.isReversed = page().pages.isReversed;
     if (page().turn != PageTurn::automatic)
         job.orientation =
             page().turn == PageTurn::portrait ? QStringLiteral("portrait") : QStringLiteral("landscape");
-    job.positions = positionsOf(photos());
+    job.positions = positionsOf(pages);
     job.title = page().title.trimmed();
     job.copies = page().copies;
-    job.printsDamaged = std::ranges::any_of(photos(), [](const Photo& photo) { return photo.isDamaged; });
+    // One that is not among the chosen pages is read all the same.
+    job.printsDamaged = std::ranges::any_of(pages, [](const ReadPage& page) { return page.photo.isDamaged; });
     return commandFor(job);
 }
 

@@ -44,10 +44,10 @@ void PageSetup::takeWishes(const PageWishes& wishes)
 {
     if (std::exchange(hasTakenWishes_, true))
         return;
-    if (wishes.scaling == QLatin1StringView("fill"))
-        settings_.scaling = Scaling::fill;
-    else if (wishes.scaling == QLatin1StringView("none"))
-        settings_.scaling = Scaling::actualSize;
+    for (const Scaling scaling : {Scaling::fit, Scaling::fill, Scaling::actualSize}) {
+        if (wishes.scaling == scalingWord(scaling))
+            settings_.scaling = scaling;
+    }
     settings_.isCollated = wishes.isCollated.value_or(settings_.isCollated);
     PageChoice& pages = settings_.pages;
     if (pages.ranges.isEmpty())
@@ -56,7 +56,7 @@ void PageSetup::takeWishes(const PageWishes& wishes)
         pages.parity = PageParity::odd;
     else if (wishes.pageSet == QLatin1StringView("even"))
         pages.parity = PageParity::even;
-    pages.isReversed = pages.isReversed || wishes.isReversed;
+    pages.isReversed = wishes.isReversed.value_or(pages.isReversed);
 }
 
 void PageSetup::keepChoice(const std::vector<size_t>& left, size_t count)

@@ -101,6 +101,10 @@ void PhotoLoader::settleDamaged(bool print)
 {
     damagedFiles_.clear();
     if (!print) {
+        for (size_t i = 0; i < photos_.size(); ++i) {
+            if (photos_[i].isDamaged)
+                leftOut_.push_back({i, photos_[i]});
+        }
         std::erase_if(photos_, [](const Photo& photo) { return photo.isDamaged; });
         Q_EMIT changed();
     }

@@ -41,6 +41,15 @@ public:
     /// A sentence for each file of which a part is missing, until that is settled.
     const QStringList& damagedFiles() const { return damagedFiles_; }
 
+    /// A photo that was left out.
+    struct LeftOutPhoto {
+        size_t place; ///< among all that were read
+        Photo photo;
+    };
+
+    /// In the order of their places.
+    const std::vector<LeftOutPhoto>& leftOut() const { return leftOut_; }
+
     /// The damaged photos print as they are, or are left out.
     void settleDamaged(bool print);
 
@@ -59,6 +68,7 @@ private:
     bool printDamaged_;
     QList<QPointF> positions_;
     std::vector<Photo> photos_;
+    std::vector<LeftOutPhoto> leftOut_;
     QStringList damagedFiles_;
     int filesLeft_;
     cups::CancelFlag stop_;

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace halvern {
@@ -154,7 +155,7 @@ Preset capturePreset(const PpdModel& model, const QVariantMap& saved, const Page
             continue;
         preset.options.insert(it.key(), it.value());
         if (byDefault.value(it.key()) != it.value())
-            preset.changed.append(it.key());
+            preset.changed.insert(it.key());
     }
     return preset;
 }
@@ -165,7 +166,7 @@ Preset captureLastUsed(const PpdModel& model, const QVariantMap& saved, const Pa
     Preset preset = capturePreset(model, saved, page, byDefault, {});
     // A switch without its text prints nothing.
     preset.options.removeIf([](const auto& option) { return isBackSwitch(option.key()); });
-    preset.changed.removeIf(isBackSwitch);
+    preset.changed.removeIf([](const auto& key) { return isBackSwitch(key); });
     return preset;
 }
 
@@ -195,7 +196,7 @@ Preset understoodPreset(ppd_file_t* file, const Preset& preset)
         if (one.page.isCollated)
             understood.page.insert(kCollate, trueOrFalse(*one.page.isCollated));
     }
-    understood.changed = understood.options.keys();
+    understood.changed = QSet<QString>(understood.options.keyBegin(), understood.options.keyEnd());
     return understood;
 }
 
@@ -230,7 +231,13 @@ bool isAsPreset(const PpdModel& model, const PageSettings& page, const Preset& p
             !isSameChoice(model, it.key(), now, it.value()))
             return false;
     }
-    return withPreset(page, preset) == page;
+    // What the printer has no default for is not in the preset if nothing was chosen.
+    const bool isMore = std::ranges::any_of(model.changedKeys(), [&](const QString& key) {
+        return !preset.options.contains(key) && model.choiceCount(key) > 0 &&
+               model.defaultValue(key).isEmpty() && !model.isSecret(key) &&
+               settled.value(key) != model.value(key);
+    });
+    return !isMore && withPreset(page, preset) == page;
 }
 
 PageSettings withPreset(const PageSettings& before, const Preset& preset)
@@ -259,9 +266,38 @@ PageSettings startingPage(const PageSettings& before, const Preset& preset, cons
     PageSettings page = withPreset(before, preset);
     if (request.namesCopies)
         page.copies = request.copies;
-    if (request.pages != PageChoice() || !wishes.pageRanges.isEmpty() || !wishes.pageSet.isEmpty() ||
-        wishes.isReversed)
+    if (request.turn != PageTurn::automatic)
+        page.turn = request.turn;
+    const bool isReversed = page.pages.isReversed || request.pages.isReversed;
+    if (!request.pages.ranges.isEmpty() || request.pages.parity != PageParity::all ||
+        !wishes.pageRanges.isEmpty() || !wishes.pageSet.isEmpty())
         page.pages = before.pages;
+    page.pages.isReversed = wishes.isReversed.value_or(isReversed);
+    return page;
+}
+
+PageWishes withoutDecided(const PageWishes& wishes, const Preset& preset)
+{
+    PageWishes rest = wishes;
+    if (preset.page.contains(kScaling))
+        rest.scaling.clear();
+    if (preset.page.contains(kCollate))
+        rest.isCollated.reset();
+    return rest;
+}
+
+PageSettings withoutPreset(const PageSettings& now, const PageSettings& asPreset, const PageSettings& before)
+{
+    PageSettings page = now;
+    const auto putBack = [&](auto& value, const auto& set, const auto& old) {
+        if (value == set)
+            value = old;
+    };
+    putBack(page.scaling, asPreset.scaling, before.scaling);
+    putBack(page.turn, asPreset.turn, before.turn);
+    putBack(page.copies, asPreset.copies, before.copies);
+    putBack(page.isCollated, asPreset.isCollated, before.isCollated);
+    putBack(page.pages, asPreset.pages, before.pages);
     return page;
 }
 

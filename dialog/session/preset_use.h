@@ -62,9 +62,15 @@ bool isAsPreset(const PpdModel& model, const PageSettings& page, const Preset& p
 /// The page as the preset wants it; what it does not name stays, and so does what it names wrongly.
 PageSettings withPreset(const PageSettings& page, const Preset& preset);
 
-/// The same at the start, where copies and pages that somebody asked for stay.
+/// The same at the start, where what somebody asked for stays: copies, pages and their order, the turn.
 PageSettings startingPage(const PageSettings& page, const Preset& preset, const SessionRequest& request,
                           const PageWishes& wishes);
+
+/// The wishes that a preset leaves open: it wins over what the user has saved for every job.
+PageWishes withoutDecided(const PageWishes& wishes, const Preset& preset);
+
+/// The page with what is still as the preset set it put back to what was before.
+PageSettings withoutPreset(const PageSettings& now, const PageSettings& asPreset, const PageSettings& before);
 
 /// One sentence for what could not be had of a preset with this title; empty if all could.
 QString leftOutSentence(const QString& title, const QList<LeftOut>& leftOut);

@@ -56,7 +56,6 @@ void Presets::take(const QString& queue, ppd_file_t* file, const KeptPresets& ke
     others_.clear();
     chosen_ = {};
     fill(kept);
-    lookForOthers();
 }
 
 void Presets::leave()
@@ -102,13 +101,26 @@ void Presets::lookForOthers()
     disk_.async([self, queue = queue_, model = makeAndModel_] {
         const QList<QueuesPreset> found = presetsForModel(model, queue);
         mainQueue().async([self, queue, found] {
-            if (!self || self->queue_ != queue || found.isEmpty())
-                return;
-            for (const QueuesPreset& other : found)
-                self->others_.append({PresetKind::otherQueue, other.preset, other.queue});
-            self->fill(KeptPresets(self->kept_));
+            if (self && self->queue_ == queue)
+                self->takeOthers(found);
         });
     });
+}
+
+void Presets::readOthers()
+{
+    takeOthers(presetsForModel(makeAndModel_, queue_));
+}
+
+// In the place of what an earlier look has found: somebody may have been at another printer in between.
+void Presets::takeOthers(const QList<QueuesPreset>& found)
+{
+    if (found.isEmpty() && others_.isEmpty())
+        return;
+    others_.clear();
+    for (const QueuesPreset& other : found)
+        others_.append({PresetKind::otherQueue, other.preset, other.queue});
+    fill(KeptPresets(kept_));
 }
 
 const PresetEntry* Presets::findInstance(const QString& fullName) const

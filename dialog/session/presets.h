@@ -36,7 +36,8 @@ struct PresetEntry {
 };
 
 /// The presets for the selected printer: what is offered, which one was chosen, and what the user does with
-/// them. Main thread only, never waits: the disk is a worker's, and changed() tells when it has answered.
+/// them. Main thread only. Nothing but readOthers() waits: the disk is a worker's, and changed() tells when
+/// it has answered.
 class Presets : public QObject {
     Q_OBJECT
 
@@ -48,6 +49,12 @@ public:
 
     /// What "Printer Defaults" means.
     void setPrinterDefaults(const QMap<QString, QString>& values);
+
+    /// Looks for what other queues with a printer of the same make and model have; changed() follows.
+    void lookForOthers();
+
+    /// The same at once, for whoever may wait for the disk.
+    void readOthers();
 
     /// None is selected any more.
     void leave();
@@ -96,7 +103,7 @@ private:
 
     void run(const Work& work, const std::function<void(bool isDone)>& then = {});
     void fill(const KeptPresets& kept);
-    void lookForOthers();
+    void takeOthers(const QList<QueuesPreset>& found);
 
     QString queue_;
     QString makeAndModel_;

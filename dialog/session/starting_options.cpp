@@ -34,10 +34,11 @@ StartingOptions applyGiven(PpdModel& model, const GivenOptions& given, const Pre
     }
     const ApplyResult result = model.apply(below.options + remembered.given + above.options);
     PageWishes page = above.page;
+    const PageWishes otherwise = preset ? withoutDecided(below.page, *preset) : below.page;
     if (page.scaling.isEmpty())
-        page.scaling = below.page.scaling;
+        page.scaling = otherwise.scaling;
     if (!page.isCollated)
-        page.isCollated = below.page.isCollated;
+        page.isCollated = otherwise.isCollated;
     return {page, below.leftOut + remembered.leftOut + above.leftOut + result.leftOut, result.settled};
 }
 

@@ -92,13 +92,21 @@ QSizeF CustomPaperRow::points() const
 void CustomPaperRow::showLimits()
 {
     const bool isMetric = unit_->currentIndex() == 0;
-    const double steps = isMetric ? 10.0 : 1000.0;
     const auto setRange = [&](QDoubleSpinBox* field, double least, double most) {
         const QSignalBlocker quiet(field);
-        field->setDecimals(isMetric ? 1 : 3);
+        const int usual = isMetric ? 1 : 3;
+        // A roll has one width, which need not be a whole step.
+        const bool isFixed = (most - least) / pointsPerUnit_ < std::pow(10.0, -usual);
+        const int decimals = isFixed ? usual + 1 : usual;
+        const double steps = std::pow(10.0, decimals);
+        field->setDecimals(decimals);
         field->setSingleStep(isMetric ? 1.0 : 0.125);
-        field->setRange(std::ceil(least / pointsPerUnit_ * steps) / steps,
-                        std::floor(most / pointsPerUnit_ * steps) / steps);
+        if (isFixed)
+            field->setRange(std::round(least / pointsPerUnit_ * steps) / steps,
+                            std::round(most / pointsPerUnit_ * steps) / steps);
+        else
+            field->setRange(std::ceil(least / pointsPerUnit_ * steps) / steps,
+                            std::floor(most / pointsPerUnit_ * steps) / steps);
         setPlainToolTip(field, tr("From %1 to %2 %3")
                                    .arg(field->textFromValue(field->minimum()),
                                         field->textFromValue(field->maximum()), unit_->currentText()));

@@ -207,7 +207,7 @@ void OptionsPage::putBack(const QModelIndex& index)
 {
     const QString key = index.data(OptionTree::keyRole).toString();
     const PpdModel* model = session_.model();
-    if (model && model->changedKeys().contains(key) && !model->defaultValue(key).isEmpty())
+    if (model && model->changedKeys().contains(key))
         choose(key, model->defaultValue(key));
 }
 

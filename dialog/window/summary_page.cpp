@@ -210,7 +210,10 @@ void SummaryPage::collect()
     changed_.clear();
     for (const QString& key : options_.differingFrom(session_.printerDefaults())) {
         const auto byDefault = session_.printerDefaults().constFind(key);
-        if (byDefault != session_.printerDefaults().cend() && valueOf(key) != *byDefault)
+        // What the printer has no default for is a choice, too.
+        const bool isKnown = byDefault != session_.printerDefaults().cend() ||
+                             (session_.model() && session_.model()->choiceCount(key) > 0);
+        if (isKnown && valueOf(key) != session_.printerDefaults().value(key))
             changed_.insert(key);
     }
     sections_.append({QString(), jobLines()});

@@ -46,6 +46,9 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         {{q("--save-preset"), q("last used")}, 2, "always there"},
         {{q("--preset"), q(" "), photo()}, 2, "no name of a preset"},
         {{q("--printer"), q(""), photo()}, 2, "name is empty"},
+        {{q("--output"), folder.filePath(q("./photo.png")), photo()}, 2, "one of the files to print"},
+        {{q("--output"), q(""), photo()}, 2, "write is empty"},
+        {{q("--verify"), q("--dry-run"), photo()}, 2, "goes with --no-dialog"},
         {{folder.filePath(q("none.jpg")), folder.filePath(q("nor.jpg"))}, 1, "nor.jpg"},
         {{folder.filePath(q("none.jpg"))}, 1, "no file"},
         {{photo()}, 1, "no display"},
@@ -120,6 +123,40 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
     const auto received = server.receivedOptions(1);
     ASSERT_TRUE(received);
     EXPECT_EQ(received->at(q("SharpnessIntensity")), q("1.24"));
+
+    const QString pdf = folder.filePath(q("pages.pdf"));
+    const ProgramResult written = runPrint({q("--output"), pdf, photo()});
+    EXPECT_TRUE(written.status == 0 && readFile(pdf).startsWith("%PDF")) << qPrintable(written.error);
+    const ProgramResult nowhere = runPrint({q("--output"), folder.filePath(q("none/pages.pdf")), photo()});
+    EXPECT_TRUE(nowhere.status == 1 && nowhere.error.contains(q("none/pages.pdf")))
+        << qPrintable(nowhere.error);
+    const ProgramResult full = runPrint({q("--output"), q("/dev/full"), photo()});
+    EXPECT_EQ(full.status, 1) << qPrintable(full.output);
+    EXPECT_FALSE(server.receivedOptions(2)) << "a file is no job";
+}
+
+TEST_F(CommandLineTest, VerifyTellsWhatTheQueueAddsHoweverTheJobEnds)
+{
+    PrivateCups server;
+    ASSERT_TRUE(
+        server.addQueue(q("Plain")) &&
+        server.addQueue(q("Adding"), {}, {}, {q("--option"), q("printer-resolution-default=150dpi")}) &&
+        server.addQueue(q("Stopped"), {}, {}, {q("--disabled")}));
+
+    const struct {
+        const char* queue;
+        int status;
+        const char* words;
+    } cases[] = {{"Plain", 0, "exactly as it was sent"},
+                 {"Adding", 6, "printer-resolution=150dpi"},
+                 {"Stopped", 3, "exactly as it was sent"}};
+
+    for (const auto& c : cases) {
+        const ProgramResult result =
+            runPrint({q("--no-dialog"), q("--verify"), q("-d"), q(c.queue), photo()});
+        EXPECT_EQ(result.status, c.status) << c.queue << qPrintable(result.error);
+        EXPECT_TRUE(result.error.contains(q(c.words))) << qPrintable(result.error);
+    }
 }
 
 TEST_F(CommandLineTest, ListsAndPresetsNeedNoDisplayAndPrintNothing)
@@ -148,6 +185,12 @@ TEST_F(CommandLineTest, ListsAndPresetsNeedNoDisplayAndPrintNothing)
     EXPECT_TRUE(lines.contains(q("PageSize=A4")) && lines.contains(q("copies=2")));
     const ProgramResult unknown = runPrint({q("--dry-run"), q("--preset"), q("grösse 4"), photo()});
     EXPECT_TRUE(unknown.status == 1 && unknown.error.contains(q("Größe 4"))) << qPrintable(unknown.error);
+    EXPECT_EQ(runPrint({q("-o"), q("page-ranges=zzz"), q("--save-preset"), q("Never")}).status, 1);
+    listed({q("--orientation"), q("landscape"), q("--save-preset"), q("Wide")});
+    ASSERT_TRUE(server.addQueue(q("Next")));
+    EXPECT_EQ(listed({q("--list-presets"), q("-d"), q("Next")}),
+              q("Printer Defaults\nGröße 4 (from Listed)\nWide (from Listed)\n"));
+    EXPECT_EQ(json(q("--list-presets"))[2][q("page")][q("turn")].toString(), q("landscape"));
     EXPECT_FALSE(server.receivedOptions(1));
 }
 

@@ -11,7 +11,9 @@ QByteArray photoPpd(const QByteArray& constraints)
 {
     QByteArray text = ppdHeader() + ppdOption("Media", {"Plain", "Matte", "Photo"}) +
                       ppdOption("Edge", {"None/White", "Full/Borderless"}) +
-                      ppdOption("Tray", {"Main", "Rear"}) + ppdOption("Gloss", {"Off", "On"});
+                      ppdOption("Tray", {"Main", "Rear"}) + ppdOption("Gloss", {"Off", "On"}) +
+                      ppdOption("Amount", {"Auto"}) +
+                      "*CustomAmount True: \"pop\"\n*ParamCustomAmount Value/Value: 1 int 0 400\n";
     return text + constraints;
 }
 
@@ -69,7 +71,13 @@ TEST(Conflicts, AChoiceChangesAsLittleElseAsItCan)
         {"both forms in one PPD",
          "*cupsUIConstraints: \"*Gloss On *Tray Rear\"\n*UIConstraints: *Edge Full *Media Plain\n", "", "",
          "Edge=Full", "Matte Full Main Off"},
-        {"the paper last", pageSize, "", "", "Edge=Full", ""},
+        {"the paper, of which there is one", pageSize, "", "", "Edge=Full", ""},
+        {"names as the PPD does not spell them", "*cupsUIConstraints: \"*edge FULL *MEDIA plain\"\n", "", "",
+         "Edge=Full", "Matte Full Main Off"},
+        {"a custom value", "*UIConstraints: *Amount Custom *Media Plain\n", "", "", "Amount=120",
+         "Matte None Main Off"},
+        {"a custom value in other words", "*cupsUIConstraints: \"*CustomAmount True *Media Plain\"\n", "", "",
+         "Amount=120", "Matte None Main Off"},
     };
 
     for (const auto& c : cases) {
@@ -93,15 +101,26 @@ TEST(Conflicts, AChoiceChangesAsLittleElseAsItCan)
 
 TEST(Conflicts, ThePaperChangesOnlyIfNothingElseHelps)
 {
-    const QByteArray paper = "*UIConstraints: *PageSize A4 *Edge Full\n";
-    auto model =
-        modelOf(photoPpd("*cupsUIConstraints: \"*PageSize A4 *Edge Full *Media Plain *Gloss On\"\n"));
-    model->restore({{q("Gloss"), q("On")}});
-    ASSERT_TRUE(model->choose(q("Edge"), q("Full"), {q("Media"), q("Gloss")}).accepted);
-    EXPECT_EQ(model->value(q("PageSize")), q("A4"));
-    EXPECT_NE(now(*model), q("Plain Full Main On")) << "rather what the user chose";
-    model = modelOf(photoPpd(paper));
-    EXPECT_FALSE(model->choose(q("Edge"), q("Full"), {}).accepted) << "there is one size only";
+    const struct {
+        const char* constraints;
+        const char* after;
+        const char* size;
+    } cases[] = {
+        {"*cupsUIConstraints: \"*PageSize A4 *Edge Full *Media Plain *Gloss On\"\n", "Matte Full Main On",
+         "A4"},
+        {"*UIConstraints: *PageSize A4 *Edge Full\n", "Plain Full Main On", "A5"},
+    };
+
+    for (const auto& c : cases) {
+        QByteArray text = photoPpd(c.constraints);
+        text.replace("*CloseUI: *PageSize\n", "*PageSize A5: \"\"\n*CloseUI: *PageSize\n");
+        text += "*ImageableArea A5: \"9 9 411 586\"\n*PaperDimension A5: \"420 595\"\n";
+        const auto model = modelOf(text);
+        model->restore({{q("Gloss"), q("On")}});
+        EXPECT_TRUE(model->choose(q("Edge"), q("Full"), {q("Media"), q("Gloss")}).accepted);
+        EXPECT_EQ(now(*model), q(c.after)) << "rather what the user chose than the paper";
+        EXPECT_EQ(model->value(q("PageSize")), q(c.size));
+    }
 }
 
 TEST(Conflicts, AListOfChoicesSaysWhatEachClashesWith)
@@ -114,9 +133,17 @@ TEST(Conflicts, AListOfChoicesSaysWhatEachClashesWith)
     ASSERT_TRUE(model->choose(q("Edge"), q("Full"), {}).accepted);
     EXPECT_EQ(model->clashes(q("Media")).keys().size(), 2);
     EXPECT_EQ(asTexts(model->alsoChanges(q("Media"), q("Matte"), {})), QStringList{q("Edge=None")});
-    const ChangeResult back = model->putBack({q("Edge"), q("Media")});
+    const ChangeResult back = model->putBack({q("Edge"), q("Media")}, {});
     EXPECT_EQ(asTexts(back.sideChanges), (QStringList{q("Edge=None"), q("Media=Plain")}));
     EXPECT_TRUE(model->changedKeys().isEmpty());
+}
+
+TEST(Conflicts, PuttingBackLeavesWhatTheUserChose)
+{
+    const auto model = modelOf(photoPpd("*cupsUIConstraints: \"*Media Plain *Gloss On *Tray Rear\"\n"));
+    model->restore({{q("Media"), q("Photo")}, {q("Gloss"), q("On")}, {q("Tray"), q("Rear")}});
+    ASSERT_TRUE(model->putBack({q("Media")}, {q("Gloss")}).accepted);
+    EXPECT_EQ(now(*model), q("Plain None Main On"));
 }
 
 TEST(Conflicts, EndlessConstraintsEndInAnAnswer)

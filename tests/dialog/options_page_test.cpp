@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The page of options and the search, worked with mouse and keyboard.
+#include "dialog/job/job_in_words.h"
 #include "dialog/options/option_tree.h"
 #include "dialog/window/choice_list.h"
 #include "dialog/window/message_bar.h"
@@ -19,15 +20,19 @@ QByteArray kindsPpd()
 {
     QByteArray several = ppdOption("Finish", {"None", "Staple", "Punch"});
     several.replace("PickOne", "PickMany");
-    QByteArray mirror = ppdOption("Mirror", {"False/No", "True/Yes"});
+    // Some makers spell it so.
+    QByteArray mirror = ppdOption("Mirror", {"false/No", "true/Yes"});
     mirror.replace("PickOne", "Boolean");
+    QByteArray free = ppdOption("Free", {"A", "B"});
+    free.replace("DefaultFree: A", "DefaultFree: Unknown");
     return ppdHeader() + "*OpenGroup: Look/Look\n" + ppdOption("Media", {"Plain", "Photo/Photo Paper"}) +
            ppdOption("Edge", {"White", "Full/Borderless"}) + mirror + ppdOption("Amount", {"Auto"}) +
            "*CustomAmount True: \"pop\"\n*ParamCustomAmount Value/Value: 1 int 0 400\n" +
-           "*CloseGroup: Look\n*OpenGroup: Last/Last\n" + several +
+           ppdOption("Gloss", {"Off", "On"}) + free + "*CloseGroup: Look\n*OpenGroup: Last/Last\n" + several +
            "*CloseGroup: Last\n*OpenGroup: InstallableOptions/Installed\n" +
            ppdOption("Tray2", {"False/Not there", "True/There"}) +
-           "*CloseGroup: InstallableOptions\n*UIConstraints: *Edge Full *Media Plain\n";
+           "*CloseGroup: InstallableOptions\n*UIConstraints: *Edge Full *Media Plain\n"
+           "*UIConstraints: *Gloss On *Media Plain\n";
 }
 
 } // namespace
@@ -68,20 +73,40 @@ protected:
     // The editor that a click has opened.
     QComboBox* box(const char* key)
     {
+        const auto find = [&] { return dialog.findChild<QWidget*>(q("option.") + q(key)); };
+        EXPECT_TRUE(waitUntil([&] { return !find(); })) << "an earlier one goes with the next events";
         click(key);
-        auto* editor = dialog.findChild<QWidget*>(q("option.") + q(key));
+        QWidget* editor = find();
         auto* found = qobject_cast<QComboBox*>(editor);
         return found || !editor ? found : editor->findChild<QComboBox*>();
     }
 
+    // In the list that the click has opened, by keys.
     static void pick(QComboBox* box, const char* keyword)
     {
         const int row = box->findData(q(keyword));
         ASSERT_GE(row, 0) << keyword;
-        box->setCurrentIndex(row);
-        box->hidePopup();
-        Q_EMIT box->activated(row);
+        QAbstractItemView* list = box->view();
+        ASSERT_TRUE(list->isVisible());
+        const bool isLast = row == box->count() - 1;
+        QTest::keyClick(list, isLast ? Qt::Key_End : Qt::Key_Home);
+        for (int i = 0; i < row && !isLast; ++i)
+            QTest::keyClick(list, Qt::Key_Down);
+        ASSERT_EQ(list->currentIndex().row(), row);
+        QTest::keyClick(list, Qt::Key_Return);
     }
+
+    // A box of an option that takes several choices.
+    void clickPart(const char* key, int row)
+    {
+        const QModelIndex part = tree->index(row, OptionTree::valueColumn, tree->indexOf(q(key)));
+        view->scrollTo(part);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(part).center());
+    }
+
+    QPushButton* undo() { return dialog.findChild<QPushButton*>(q("messageAction")); }
+
+    QString value(const char* key) { return session.model()->value(q(key)); }
 
     inline static QTemporaryDir folder;
     FakePanels panels;
@@ -101,9 +126,9 @@ TEST_F(OptionsPageTest, EachKindOfOptionHasItsControl)
     pick(media, "Photo");
     EXPECT_EQ(session.model()->value(q("Media")), q("Photo"));
     click("Mirror");
-    EXPECT_EQ(session.model()->value(q("Mirror")), q("True"));
+    EXPECT_EQ(value("Mirror"), q("true"));
     QTest::keyClick(view, Qt::Key_Space);
-    EXPECT_EQ(session.model()->value(q("Mirror")), q("False"));
+    EXPECT_EQ(value("Mirror"), q("false"));
 
     QComboBox* amount = box("Amount");
     ASSERT_TRUE(amount);
@@ -121,11 +146,15 @@ TEST_F(OptionsPageTest, EachKindOfOptionHasItsControl)
 
     const QModelIndex finish = tree->indexOf(q("Finish"));
     view->expand(finish);
-    for (const int row : {1, 2})
-        tree->setData(tree->index(row, OptionTree::valueColumn, finish), Qt::Checked, Qt::CheckStateRole);
-    EXPECT_EQ(session.model()->value(q("Finish")), q("Staple,Punch"));
-    tree->setData(tree->index(0, OptionTree::valueColumn, finish), Qt::Checked, Qt::CheckStateRole);
-    EXPECT_EQ(session.model()->value(q("Finish")), q("None")) << "off goes with nothing else";
+    clickPart("Finish", 1);
+    EXPECT_EQ(value("Finish"), q("Staple"));
+    clickPart("Finish", 2);
+    EXPECT_EQ(value("Finish"), q("Staple")) << "the filters would mark none of two";
+    EXPECT_TRUE(dialog.findChild<MessageBar*>()->text().contains(q("Staple, Punch")));
+    clickPart("Finish", 1);
+    EXPECT_EQ(value("Finish"), q("None"));
+    clickPart("Finish", 2);
+    EXPECT_EQ(value("Finish"), q("Punch")) << "off goes with nothing else";
 
     const QModelIndex tray = tree->indexOf(q("Tray2")).siblingAtColumn(OptionTree::valueColumn);
     EXPECT_EQ(tray.data().toString(), q("Not there"));
@@ -145,27 +174,87 @@ TEST_F(OptionsPageTest, AClashIsExplainedThenBothChangeAndUndoTakesBothBack)
     EXPECT_EQ(session.model()->value(q("Media")), q("Photo"));
     auto* message = dialog.findChild<MessageBar*>();
     EXPECT_TRUE(waitUntil([&] { return message->text().contains(q("Photo Paper")); }));
+    QTest::mouseClick(undo(), Qt::LeftButton);
+    EXPECT_EQ(value("Media") + value("Edge"), q("PlainWhite"));
+    pick(box("Edge"), "Full");
+    ASSERT_TRUE(waitUntil([&] { return undo()->isVisible(); }));
+    pick(box("Gloss"), "On");
+    EXPECT_FALSE(undo()->isVisible()) << "gloss does not go with what the paper was before";
     session.undoLastChange();
-    EXPECT_EQ(session.model()->value(q("Media")) + session.model()->value(q("Edge")), q("PlainWhite"));
+    EXPECT_EQ(value("Media") + value("Edge") + value("Gloss"), q("PhotoFullOn"));
+}
+
+TEST_F(OptionsPageTest, UndoOfAStepLeavesWhatWasMadeSince)
+{
+    openPage();
+    PageSettings page = session.page();
+    page.scaling = Scaling::fill;
+    session.setPage(page);
+    pick(box("Media"), "Photo");
+    session.savePreset(q("Photo"), {});
+    ASSERT_TRUE(waitUntil([&] { return session.presets().find(q("Photo")) != nullptr; }));
+    QTest::mouseClick(dialog.findChild<QPushButton*>(q("resetAll")), Qt::LeftButton);
+    page.copies = 20;
+    page.title = q("Lake");
+    session.setPage(page);
+    QTest::mouseClick(undo(), Qt::LeftButton);
+    EXPECT_TRUE(value("Media") == q("Photo") && session.page() == page);
+
+    page.scaling = Scaling::fit;
+    session.setPage(page);
+    session.applyPreset(*session.presets().find(q("Photo")));
+    EXPECT_EQ(session.page().scaling, Scaling::fill);
+    page.title = q("Sea");
+    page.scaling = Scaling::fill;
+    session.setPage(page);
+    QTest::mouseClick(undo(), Qt::LeftButton);
+    page.scaling = Scaling::fit;
+    EXPECT_EQ(session.page(), page) << "only what the preset has set";
+}
+
+TEST_F(OptionsPageTest, AnOptionWithoutADefaultIsToldPutBackAndUndone)
+{
+    openPage();
+    const auto isSent = [&] {
+        return std::ranges::any_of(session.collectOptions(),
+                                   [](const OptionValue& option) { return option.key == q("Free"); });
+    };
+    const auto isTold = [&] { return session.jobInWords().parts.contains(q("Free title: B")); };
+    EXPECT_FALSE(isSent());
+    pick(box("Free"), "B");
+    EXPECT_TRUE(isSent() && isTold());
+    click("Free", OptionTree::putBackColumn);
+    EXPECT_FALSE(isSent() || isTold() || session.model()->changedKeys().contains(q("Free")));
+    pick(box("Free"), "B");
+    const Preset chosen = session.capture({});
+    session.applyPreset({PresetKind::printerDefaults, {}});
+    EXPECT_FALSE(isSent());
+    QTest::mouseClick(undo(), Qt::LeftButton);
+    EXPECT_TRUE(isSent() && isTold());
+    session.applyPreset({PresetKind::printerDefaults, {}});
+    session.applyPreset({PresetKind::named, chosen});
+    EXPECT_EQ(value("Free"), q("B"));
+    QTest::mouseClick(undo(), Qt::LeftButton);
+    EXPECT_FALSE(isSent());
 }
 
 TEST_F(OptionsPageTest, WhatChangedIsMarkedAndPutBack)
 {
     openPage();
-    session.changeOption(q("Media"), q("Photo"));
-    session.changeOption(q("Mirror"), q("True"));
-    session.changeOption(q("Edge"), q("Full"));
+    pick(box("Media"), "Photo");
+    click("Mirror");
+    pick(box("Edge"), "Full");
     EXPECT_TRUE(tree->indexOf(q("Media")).data(OptionTree::changedRole).toBool());
     dialog.findChild<QCheckBox*>(q("changedOnly"))->click();
     EXPECT_FALSE(tree->indexOf(q("Finish")).isValid());
     click("Mirror", OptionTree::putBackColumn);
-    EXPECT_EQ(session.model()->value(q("Mirror")), q("False"));
+    EXPECT_EQ(value("Mirror"), q("false"));
     EXPECT_FALSE(tree->indexOf(q("Mirror")).isValid());
     ASSERT_TRUE(page->reveal(q("Edge")));
     QTest::mouseClick(dialog.findChild<QPushButton*>(q("resetAll")), Qt::LeftButton);
     EXPECT_TRUE(session.model()->changedKeys().isEmpty());
-    session.undoLastChange();
-    EXPECT_EQ(session.model()->value(q("Media")) + session.model()->value(q("Edge")), q("PhotoFull"));
+    QTest::mouseClick(undo(), Qt::LeftButton);
+    EXPECT_EQ(value("Media") + value("Edge"), q("PhotoFull"));
     EXPECT_TRUE(page->reveal(q("Finish"))) << "shows all again";
     EXPECT_FALSE(page->reveal(q("Nothing")));
 }

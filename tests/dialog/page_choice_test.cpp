@@ -2,11 +2,14 @@
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/paper_sizes.h"
 #include "dialog/page/page_choice.h"
+#include "dialog/window/custom_paper_row.h"
 #include "dialog/window/paper_size_list.h"
 #include "dialog/window/printer_rows.h"
 #include "dialog/window/search_box.h"
 #include "platform/foundation/units.h"
 #include "tests/dialog/model_support.h"
+
+#include <QDoubleSpinBox>
 
 namespace halvern {
 namespace {
@@ -100,6 +103,22 @@ TEST(PaperSizes, AnOptionOfThePrintersOwnMayBeTheSwitch)
     EXPECT_EQ(sizes.front().borderless, q("TA4"));
     EXPECT_EQ(borderlessSwitch(*model, sizes).key, q("StpFullBleed"));
     EXPECT_FALSE(paperLimits(model->file()));
+}
+
+TEST(CustomPaper, ARollOfOneWidthTakesSizesOfThatWidth)
+{
+    const auto model = modelOf(ppdHeader() + "*VariablePaperSize: True\n*MaxMediaWidth: \"432\"\n"
+                                             "*MaxMediaHeight: \"6000\"\n"
+                                             "*CustomPageSize True: \"pop\"\n"
+                                             "*ParamCustomPageSize Width: 1 points 432 432\n"
+                                             "*ParamCustomPageSize Height: 2 points 100 6000\n");
+    const std::optional<PaperLimits> limits = paperLimits(model->file());
+    ASSERT_TRUE(limits);
+    EXPECT_TRUE(model->change(q("PageSize"), q("Custom.152.4x300mm")).accepted);
+    EXPECT_FALSE(model->change(q("PageSize"), q("Custom.150x300mm")).accepted);
+    CustomPaperRow row(nullptr);
+    row.show(*limits, {432.0, 600.0});
+    EXPECT_NEAR(row.findChild<QDoubleSpinBox*>(q("customWidth"))->maximum(), 152.4, 0.001);
 }
 
 TEST(CustomPaper, MeasuresTravelInMillimetresWithinThePrintersLimits)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "dialog/options/custom_paper.h"
 #include "tests/dialog/model_support.h"
 
 namespace halvern {
@@ -101,6 +102,8 @@ TEST(PpdModel, PageSizesThatThePrinterCannotTakeAreRefused)
     const auto model = tessarinModel();
     EXPECT_FALSE(model->change(q("PageSize"), q("Tabloid")).accepted);
     EXPECT_FALSE(model->change(q("PageSize"), q("Custom.20x20")).accepted);
+    EXPECT_TRUE(model->change(q("PageSize"), customKeyword(paperLimits(model->file())->least)).accepted)
+        << "hundredths of a millimetre are a little less";
     ASSERT_TRUE(model->change(q("PageRegion"), q("A4")).accepted);
     ASSERT_TRUE(model->change(q("PageSize"), q("Custom.300x500")).accepted);
     EXPECT_FALSE(ppd::markedChoice(model->file(), q("PageRegion"))) << "a second size in the job";
@@ -138,6 +141,11 @@ TEST(PpdModel, GivenOptionsGoInWhateverTheirOrderIfTheyGoTogetherInTheEnd)
     EXPECT_EQ(result.leftOut.front().origin, OptionOrigin::saved);
     EXPECT_EQ(model->value(q("Tray")) + model->value(q("Edge")), q("MainFull"));
     EXPECT_EQ(modelOf(ppd)->apply(givenBy(OptionOrigin::typed, {{q("Edge"), q("Full")}})).leftOut.size(), 1);
+    const auto custom = modelOf(ppd + ppdOption("Amount", {"Auto"}) +
+                                "*CustomAmount True: \"pop\"\n*ParamCustomAmount Value/Value: 1 int 0 400\n"
+                                "*UIConstraints: *Amount Custom *Quality Plain\n");
+    EXPECT_EQ(custom->apply(givenBy(OptionOrigin::typed, {{q("Amount"), q("Custom.120")}})).leftOut.size(),
+              1);
     const auto settled = modelOf(smallPpd());
     settled->change(q("Gloss"), q("On"));
     const ApplyResult roll = settled->apply(givenBy(OptionOrigin::typed, {{q("Feed"), q("Roll")}}));
@@ -188,6 +196,7 @@ TEST(PpdModel, TheServersOwnNamesAreUnderstoodOrRefusedWithASentence)
                  {"media", "na_index-4x6_4x6in", "PageSize=4x6"},
                  {"media", "om_own_100x150mm", "PageSize=Custom.100x150mm"},
                  {"media", "A4", "PageSize=A4"},
+                 {"PageRegion", "A4", "PageSize=A4"},
                  {"sides", "two-sided-short-edge", "Duplex=DuplexTumble"},
                  {"number-up", "1", ""},
                  {"PaperTone", "Gone", "PaperTone=Gone"}};
@@ -213,6 +222,8 @@ TEST(PpdModel, TheServersOwnNamesAreUnderstoodOrRefusedWithASentence)
                                           {{q("print-scaling"), q("fill")}, {q("Collate"), q("False")}}));
     EXPECT_EQ(page.page.scaling, q("fill"));
     EXPECT_EQ(page.page.isCollated, false);
+    const OptionValues both{{q("PageSize"), q("A4")}, {q("PageRegion"), q("4x6")}};
+    EXPECT_EQ(understand(model->file(), givenBy(OptionOrigin::saved, both)).options.size(), 1);
 }
 
 TEST(PpdModel, TheEquipmentTakesPartInTheConstraintsAndIsNobodysToChange)

@@ -2,6 +2,7 @@
 // What is kept of a printer's settings: the files, and what of a preset reaches a printer.
 #include "dialog/options/preset_file.h"
 #include "dialog/session/preset_use.h"
+#include "dialog/session/session_request.h"
 #include "dialog/session/starting_options.h"
 #include "tests/dialog/model_support.h"
 
@@ -17,7 +18,7 @@ Preset presetWith(const char* name, const QMap<QString, QString>& options)
     Preset preset;
     preset.name = q(name);
     preset.options = options;
-    preset.changed = options.keys();
+    preset.changed = QSet<QString>(options.keyBegin(), options.keyEnd());
     return preset;
 }
 
@@ -38,7 +39,7 @@ TEST(PresetFile, KeepsWhatTwoDialogsSaveAndEachPresetAsItWas)
     Preset whole = presetWith("Matte, \"fine\"", {{q("PageSize"), q("A4")}, {q("CVP1"), q("{a} é")}});
     whole.makeAndModel = q("Halvern Tessarin");
     whole.saved = QDateTime::fromString(q("2026-11-22T03:00:00Z"), Qt::ISODate);
-    whole.changed = QStringList{q("CVP1")};
+    whole.changed = {q("CVP1")};
     whole.page = {{q("copies"), q("3")}};
     EXPECT_EQ(one.save(whole), QString());
     EXPECT_EQ(two.save(presetWith("Other", {})), QString());
@@ -47,8 +48,9 @@ TEST(PresetFile, KeepsWhatTwoDialogsSaveAndEachPresetAsItWas)
     EXPECT_NE(one.rename(q("Another"), whole.name), QString()) << "the name is taken";
     EXPECT_NE(one.remove(q("Other")), QString()) << "another dialog has renamed it";
     QStringList added;
-    EXPECT_EQ(one.add({presetWith("Another", {})}, &added), QString());
-    EXPECT_EQ(added, QStringList{q("Another (2)")});
+    EXPECT_EQ(one.add({presetWith("Another", {}), presetWith("last used", {})}, &added), QString());
+    EXPECT_EQ(added, (QStringList{q("Another (2)"), q("last used (2)")})) << "each can be named";
+    EXPECT_EQ(one.remove(q("last used (2)")), QString());
     const KeptPresets kept = two.read();
     EXPECT_EQ(namesIn(two), (QStringList{q("Another"), q("Another (2)"), whole.name}));
     EXPECT_EQ(kept.presets.back(), whole);
@@ -94,6 +96,7 @@ TEST(PresetFile, WhatCannotBeReadIsSetAsideOrLeftAloneAndStopsNothing)
             QFile::remove(file.path());
             ASSERT_EQ(mkfifo(file.path().toLocal8Bit().constData(), 0600), 0);
         }
+        EXPECT_FALSE(importPresets(file.path()).problem.isEmpty()) << c.what;
         const KeptPresets kept = file.read();
         EXPECT_TRUE(kept.presets.isEmpty() && !kept.problem.isEmpty()) << c.what;
         EXPECT_EQ(QFileInfo::exists(file.path()), !c.isSetAside) << c.what;
@@ -102,7 +105,6 @@ TEST(PresetFile, WhatCannotBeReadIsSetAsideOrLeftAloneAndStopsNothing)
             info.dir().entryList({info.fileName() + q(".damaged-*")}, QDir::Files | QDir::System);
         EXPECT_EQ(aside.size(), c.isSetAside ? 1 : 0) << c.what;
         EXPECT_EQ(file.save(presetWith("New", {})).isEmpty(), q(c.what) != q("newer")) << c.what;
-        EXPECT_FALSE(importPresets(file.path() + q(".gone")).problem.isEmpty());
     }
 }
 
@@ -117,7 +119,7 @@ TEST(PresetUse, SetsOnlyOptionsThatThePrinterHasAndSaysWhatIsGone)
                                                {q("Unknown"), q("1")},
                                                {q("Red"), q("400")},
                                                {q("Gone"), q("Default")}});
-    stranger.changed.removeAll(q("Gone"));
+    stranger.changed.remove(q("Gone"));
     stranger.page = {
         {q("copies"), q("100000")}, {q("scaling"), q("none")}, {q("turn"), q("over")}, {q("ranges"), q("x")}};
     const StartingOptions start =
@@ -145,7 +147,7 @@ TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
         ASSERT_TRUE(model->change(q(key), q(value)).accepted);
     const QVariantMap saved{{q("com.halvern.private.key"), 1}, {q("job-sheets"), q("none")}};
     const Preset last = captureLastUsed(*model, saved, page, byDefault);
-    EXPECT_EQ(last.changed, QStringList{q("PageSize")});
+    EXPECT_EQ(last.changed, QSet<QString>{q("PageSize")});
     for (const char* key : {"CVP1", "EnableCVP1", "job-sheets", "com.halvern.private.key"})
         EXPECT_FALSE(last.options.contains(q(key))) << key;
     const Preset rest =
@@ -163,12 +165,78 @@ TEST(PresetUse, HoldsCopiesAndTheTextOnTheBackOnlyIfSomebodySaidSo)
     EXPECT_TRUE(isAsPreset(*model, page, full, {{q("PaperName"), q("MatteA4")}})) << "nobody chose it";
 }
 
+TEST(PresetUse, WhatIsTypedForThePageWinsOverAPresetAndThatOverWhatIsSaved)
+{
+    const struct {
+        const char* typed; ///< KEY=VALUE; empty: nothing
+        const char* saved;
+        const char* preset; ///< of its page
+        PageSettings expected;
+    } cases[] = {
+        {"print-scaling=fit", "", "scaling=fill", {.scaling = Scaling::fit}},
+        {"", "print-scaling=fit", "scaling=fill", {.scaling = Scaling::fill}},
+        {"", "print-scaling=none", "turn=portrait", {Scaling::actualSize, PageTurn::portrait}},
+        {"outputorder=normal", "", "reversed=true", {}},
+        {"page-set=all", "", "parity=odd", {}},
+        {"page-ranges=2", "", "reversed=true", {.pages = {q("2"), PageParity::all, true}}},
+        {"outputorder=reverse", "", "ranges=2", {.pages = {q("2"), PageParity::all, true}}},
+    };
+
+    const auto given = [](OptionOrigin origin, const char* text) {
+        const std::optional<OptionValue> option = parseOption(q(text));
+        return givenBy(origin, option ? OptionValues{*option} : OptionValues());
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.preset);
+        Preset preset = presetWith("P", {});
+        preset.page = {{q(c.preset).section(u'=', 0, 0), q(c.preset).section(u'=', 1)}};
+        const auto model = tessarinModel();
+        const StartingOptions start = applyGiven(*model, given(OptionOrigin::saved, c.saved), &preset,
+                                                 given(OptionOrigin::typed, c.typed));
+        const SessionRequest request;
+        PageSetup setup(request);
+        setup.set(startingPage(setup.settings(), preset, request, start.page));
+        setup.takeWishes(start.page);
+        EXPECT_EQ(setup.settings(), c.expected);
+    }
+    SessionRequest request;
+    request.turn = PageTurn::landscape;
+    Preset upright = presetWith("P", {});
+    upright.page = {{q("turn"), q("portrait")}};
+    EXPECT_EQ(startingPage({}, upright, request, {}).turn, PageTurn::landscape);
+}
+
+TEST(PresetUse, AnOptionWithoutADefaultIsPartOfWhatDiffers)
+{
+    const auto model =
+        modelOf(ppdHeader() + ppdOption("Foo", {"A", "B"}).replace("DefaultFoo: A", "DefaultFoo: Unknown"));
+    const Preset defaults = presetWith("", printerDefaults(*model, {}));
+    EXPECT_TRUE(isAsPreset(*model, {}, defaults, {}));
+    ASSERT_TRUE(model->choose(q("Foo"), q("B"), {}).accepted);
+    EXPECT_FALSE(isAsPreset(*model, {}, defaults, {}));
+    EXPECT_EQ(asTexts(model->putBack({q("Foo")}, {}).sideChanges), QStringList{q("Foo=")});
+    EXPECT_FALSE(model->values().contains(q("Foo"))) << "no job carries it";
+    EXPECT_TRUE(isAsPreset(*model, {}, defaults, {}) && model->changedKeys().isEmpty());
+}
+
 TEST(Presets, ASecretIsInNoPreset)
 {
-    const auto model = modelOf(ppdHeader() + ppdOption("Pin", {"None"}) +
-                               "*CustomPin True: \"pop\"\n*ParamCustomPin Value/Value: 1 passcode 4 8\n");
-    ASSERT_TRUE(model->choose(q("Pin"), q("1234"), {}).accepted);
-    EXPECT_FALSE(capturePreset(*model, {{q("Pin"), q("1234")}}, {}, {}, {}).options.contains(q("Pin")));
+    const struct {
+        const char* parameters;
+        const char* value;
+    } cases[] = {
+        {"*ParamCustomPin Value/Value: 1 passcode 4 8\n", "1234"},
+        {"*ParamCustomPin User/User: 1 string 0 20\n*ParamCustomPin PIN/PIN: 2 passcode 4 8\n",
+         "{User=me PIN=1234}"},
+    };
+
+    for (const auto& c : cases) {
+        const auto model =
+            modelOf(ppdHeader() + ppdOption("Pin", {"None"}) + "*CustomPin True: \"pop\"\n" + c.parameters);
+        ASSERT_TRUE(model->choose(q("Pin"), q(c.value), {}).accepted);
+        EXPECT_FALSE(capturePreset(*model, {{q("Pin"), q(c.value)}}, {}, {}, {}).options.contains(q("Pin")));
+        EXPECT_EQ(model->choiceText(q("Pin"), q(c.value)), concealed());
+    }
 }
 
 } // namespace halvern
