@@ -141,7 +141,7 @@ bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, co
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                  shortTitle(job.title).constData());
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
-                 CUPS_FORMAT_PDF);
+                 job.format.toUtf8().constData());
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
     bool isWritten = false;
     const auto nextPiece = [&]() -> std::optional<QByteArray> {

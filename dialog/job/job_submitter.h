@@ -13,7 +13,8 @@ struct JobRequest {
     QString queue;
     QString title;
     OptionValues options;
-    QSet<QString> secrets = {}; ///< the options whose values nobody is to read
+    QSet<QString> secrets = {};                         ///< the options whose values nobody is to read
+    QString format = QStringLiteral("application/pdf"); ///< the document's, a MIME type
 };
 
 /// What became of sending it: a job number, or the sentence that says why there is none.
@@ -24,7 +25,7 @@ struct SubmitResult {
     bool isDocumentAtFault = false; ///< it did not come to its end; `problem` says what is left of the job
 };
 
-/// Creates the job and sends its document, a PDF that comes in pieces, on the calling worker. A job whose
+/// Creates the job and sends its document, which comes in pieces, on the calling worker. A job whose
 /// document did not arrive whole is cancelled again, for some seconds if need be. Nothing is asked of the
 /// server before there is a first piece.
 SubmitResult submitJob(const JobRequest& job, const cups::NextPiece& nextPiece,

@@ -4,6 +4,7 @@
 #include "dialog/job/page_stream.h"
 #include "platform/foundation/threads/work_queue.h"
 
+#include <QFile>
 #include <QPointer>
 
 #include <algorithm>
@@ -18,6 +19,7 @@ struct Sending {
     std::vector<PageToPrint> pages;
     size_t photosPerJob = 0; // 0: all in one
     PdfQuality quality;
+    QString document; // in place of pages
     cups::CancelFlag cancelled;
     std::shared_ptr<std::atomic<bool>> paused;
     std::function<void(double)> report;
@@ -46,8 +48,38 @@ SubmitResult sendPages(const Sending& sending, const JobRequest& job, size_t fir
     return result;
 }
 
+SentJobs sendFile(const Sending& sending)
+{
+    constexpr qint64 kPiece = 64 * 1024;
+    QFile file(sending.document);
+    file.open(QIODevice::ReadOnly);
+    const SubmitResult result = submitJob(
+        sending.job,
+        [&]() -> std::optional<QByteArray> {
+            const QByteArray piece = file.isOpen() ? file.read(kPiece) : QByteArray();
+            if (!file.isOpen() || (piece.isEmpty() && !file.atEnd()))
+                return std::nullopt;
+            sending.report(double(file.pos()) / double(std::max(file.size(), qint64(1))));
+            return piece;
+        },
+        sending.cancelled);
+    SentJobs sent;
+    sent.wasCancelled = result.wasCancelled;
+    sent.problem = result.problem;
+    if (result.isDocumentAtFault && !result.wasCancelled)
+        sent.problem = PrintRun::tr("The document cannot be read any more: %1. Print it once more.")
+                           .arg(file.errorString()) +
+                       result.problem;
+    if (result.jobId > 0)
+        sent.ids.append(result.jobId);
+    sent.isAll = result.jobId > 0;
+    return sent;
+}
+
 SentJobs send(const Sending& sending)
 {
+    if (!sending.document.isEmpty())
+        return sendFile(sending);
     SentJobs sent;
     const size_t all = sending.pages.size();
     const size_t each = sending.photosPerJob > 0 ? std::min(sending.photosPerJob, all) : all;
@@ -81,6 +113,16 @@ PrintRun::PrintRun(JobRequest job, std::vector<PageToPrint> pages, PdfQuality qu
 {
 }
 
+PrintRun::PrintRun(JobRequest job, const QString& document, QObject* parent)
+    : QObject(parent),
+      job_(std::move(job)),
+      document_(document),
+      cancelled_(cups::makeCancelFlag()),
+      paused_(cups::makeCancelFlag()),
+      progress_(1)
+{
+}
+
 PrintRun::~PrintRun()
 {
     cancelled_->store(true);
@@ -96,7 +138,7 @@ void PrintRun::start()
                 self->takeProgress(share);
         });
     };
-    Sending sending{job_, std::move(pages_), photosPerJob_, quality_, cancelled_, paused_, report};
+    Sending sending{job_, std::move(pages_), photosPerJob_, quality_, document_, cancelled_, paused_, report};
     WorkQueue().async([self, sending = std::move(sending)] {
         const SentJobs sent = send(sending);
         mainQueue().async([self, sent] {

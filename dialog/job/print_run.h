@@ -27,14 +27,16 @@ struct SentJobs {
     QString problem;
 };
 
-/// One press on Print: sends the pages while they are made, as one job or as several, and follows it to its
-/// end. The work is done by workers; this object lives on the main thread, and deleting it makes the workers
-/// stop by themselves.
+/// One press on Print: sends the pages while they are made, as one job or as several, or a document that is
+/// there, and follows it to its end. The work is done by workers; this object lives on the main thread, and
+/// deleting it makes the workers stop by themselves.
 class PrintRun : public QObject {
     Q_OBJECT
 
 public:
     PrintRun(JobRequest job, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent);
+    /// Sends a file as it is.
+    PrintRun(JobRequest job, const QString& document, QObject* parent);
     ~PrintRun() override;
 
     /// How long a server that goes silent after the job was sent is borne with; without it, for ever. Before
@@ -94,6 +96,7 @@ private:
     JobRequest job_;
     std::vector<PageToPrint> pages_;
     PdfQuality quality_;
+    QString document_; // empty: the pages are made
     size_t photosPerJob_ = 0;
     Patience patience_;
     cups::CancelFlag cancelled_;
