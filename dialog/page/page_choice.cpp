@@ -20,11 +20,6 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(PageChoice)
 };
 
-struct Range {
-    int first = 1;
-    std::optional<int> last;
-};
-
 // A number in any script's digits; nothing if it is none.
 std::optional<int> number(const QString& text)
 {
@@ -54,22 +49,22 @@ QString plain(const QString& text)
     return result;
 }
 
-std::optional<Range> readRange(const QString& text)
+std::optional<PageRange> readRange(const QString& text)
 {
     const QStringList ends = text.split(QLatin1Char('-'));
     const auto end = [&](qsizetype i) { return number(ends[i].trimmed()); };
     if (ends.size() == 1) {
         const std::optional<int> only = end(0);
-        return only ? std::optional<Range>({*only, *only}) : std::nullopt;
+        return only ? std::optional<PageRange>({*only, *only}) : std::nullopt;
     }
     const bool isOpen = ends.size() == 2 && ends[1].trimmed().isEmpty();
     const bool isFromStart = ends.size() == 2 && ends[0].trimmed().isEmpty();
     if (ends.size() != 2 || (isOpen && isFromStart) || !(isOpen || end(1)) || !(isFromStart || end(0)))
         return std::nullopt;
-    return Range{isFromStart ? 1 : *end(0), isOpen ? std::nullopt : end(1)};
+    return PageRange{isFromStart ? 1 : *end(0), isOpen ? std::nullopt : end(1)};
 }
 
-QString problemWith(const Range& range, const QString& text, size_t count)
+QString problemWith(const PageRange& range, const QString& text, size_t count)
 {
     const int last = range.last.value_or(range.first);
     const int least = std::min(range.first, last);
@@ -95,7 +90,7 @@ QString mark(const QString& ranges, std::vector<bool>& isChosen)
         const QString text = part.trimmed();
         if (text.isEmpty())
             continue;
-        const std::optional<Range> range = readRange(text);
+        const std::optional<PageRange> range = readRange(text);
         if (!range)
             return Words::tr("\"%1\" is no page. Write numbers and ranges, for example 1-3, 7, 12-.")
                 .arg(isolated(text, kLongestQuoted));
@@ -132,6 +127,18 @@ ChosenPages choosePages(const PageChoice& choice, size_t count)
                 ? Words::tr("None of these pages has an odd number. Choose all pages, or others.")
                 : Words::tr("None of these pages has an even number. Choose all pages, or others.");
     return chosen;
+}
+
+std::vector<PageRange> rangesIn(const QString& ranges)
+{
+    std::vector<PageRange> found;
+    if (!choosePages({ranges, PageParity::all, false}, 0).problem.isEmpty())
+        return found;
+    for (const QString& part : plain(ranges).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (const std::optional<PageRange> range = readRange(part.trimmed()))
+            found.push_back(*range);
+    }
+    return found;
 }
 
 QString rangesOf(std::vector<size_t> pages)

@@ -3,11 +3,13 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace halvern {
 
-enum class PageParity { all, odd, even };
+/// The last two are of a document that another program shows: only that one knows what they come to.
+enum class PageParity { all, odd, even, current, selection };
 
 /// Which of the pages are printed, and in what order. A value.
 struct PageChoice {
@@ -27,6 +29,14 @@ struct ChosenPages {
 /// Chooses among the pages 1 to `count`. With 0, which is as long as nobody knows, only the form is checked.
 /// Also fit for a text that is still being typed: "1-3," is right. Any thread.
 ChosenPages choosePages(const PageChoice& choice, size_t count);
+
+struct PageRange {
+    int first = 1;           ///< from 1
+    std::optional<int> last; ///< nothing: to the end
+};
+
+/// What a text of ranges says, as it is written; empty where choosePages() has a problem with it. Any thread.
+std::vector<PageRange> rangesIn(const QString& ranges);
 
 /// The ranges that name these pages: 0, 1, 2, 6 -> "1-3, 7".
 QString rangesOf(std::vector<size_t> pages);

@@ -3,6 +3,7 @@
 
 #include "dialog/page/page_renderer.h"
 #include "dialog/preview/sharp_photo_reader.h"
+#include "dialog/preview/sheet_paint.h"
 #include "dialog/preview/small_copies.h"
 #include "platform/foundation/units.h"
 #include "platform/toolkit/plain_text.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr double kMargin = 28.0;
 constexpr int kCaptionRoom = 10; // above and below the captions
-constexpr double kShadow = 7.0;
 
 // A photo's colours are judged on a neutral gray, light or dark with the rest of the dialog.
 QColor ground(const QPalette& palette)
@@ -32,17 +32,6 @@ QColor ground(const QPalette& palette)
 QColor inkOn(const QColor& background)
 {
     return background.lightness() < 128 ? QColor(200, 200, 200) : QColor(60, 60, 60);
-}
-
-void paintShadow(QPainter& painter, const QRectF& sheet)
-{
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    for (double spread = kShadow; spread > 0.0; spread -= 1.0) {
-        painter.setBrush(QColor(0, 0, 0, 9));
-        painter.drawRoundedRect(sheet.adjusted(-spread, -spread + 2.0, spread, spread + 2.0), spread, spread);
-    }
-    painter.restore();
 }
 
 } // namespace
@@ -112,6 +101,7 @@ QSize PreviewWidget::sizeHint() const
 void PreviewWidget::showPage(const PreviewPage& page)
 {
     page_ = page;
+    blank_.reset();
     screen_.setPreview(copies_->find(page.photo));
     screen_.setLook(page.look);
     text_.clear();
@@ -123,10 +113,27 @@ void PreviewWidget::showPage(const PreviewPage& page)
     showState();
 }
 
+void PreviewWidget::showSheet(const BlankSheet& sheet)
+{
+    page_ = {};
+    page_.layout = sheet.layout;
+    blank_ = sheet;
+    text_.clear();
+    hasPage_ = true;
+    isZoomed_ = false;
+    showState();
+}
+
+QStringList PreviewWidget::described() const
+{
+    return blank_ ? QStringList(displayText(blank_->heading)) + blank_->lines + captions() : captions();
+}
+
 void PreviewWidget::showText(const QString& text)
 {
     text_ = displayText(text);
     hasPage_ = false;
+    blank_.reset();
     setZoomed(false);
 }
 
@@ -135,8 +142,8 @@ void PreviewWidget::showState()
     const bool canMove = hasPage_ && page_.layout.isCut && !isZoomed_;
     setCursor(canMove || isZoomed_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
     setToolTip(canMove ? tr("Drag the photo to choose what is cut away") : QString());
-    setPlainDescription(this, hasPage_ ? captions().join(QStringLiteral(". ")) : text_);
-    zoomButton_->setVisible(hasPage_);
+    setPlainDescription(this, hasPage_ ? described().join(QStringLiteral(". ")) : text_);
+    zoomButton_->setVisible(hasPage_ && !blank_);
     update();
 }
 
@@ -195,6 +202,8 @@ QString PreviewWidget::colorCaption() const
 QStringList PreviewWidget::captions() const
 {
     QStringList lines{sizeCaption(), colorCaption()};
+    if (blank_)
+        lines = {pageSizeText(page_.layout.page)};
     lines.removeAll(QString());
     return lines;
 }
@@ -210,14 +219,7 @@ void PreviewWidget::paintSheet(QPainter& painter)
     painter.scale(scale, scale);
     const QSizeF pixels = layout.photo.size() * (scale * devicePixelRatioF());
     paintPage(painter, layout, screen_.whole({qCeil(pixels.width()), qCeil(pixels.height())}));
-    const QRectF whole(QPointF(), layout.page);
-    const bool isBorderless = layout.imageable.adjusted(-0.5, -0.5, 0.5, 0.5).contains(whole);
-    if (!isBorderless) {
-        QPen dashes(QColor(128, 128, 128, 150), 0.0, Qt::DashLine);
-        painter.setPen(dashes);
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(layout.imageable);
-    }
+    paintMargins(painter, layout);
     painter.restore();
 }
 
@@ -246,7 +248,9 @@ void PreviewWidget::paintEvent(QPaintEvent*)
         painter.drawText(rect().adjusted(40, 40, -40, -40), Qt::AlignCenter | Qt::TextWordWrap, text_);
         return;
     }
-    if (isZoomed_)
+    if (blank_)
+        paintBlank(painter);
+    else if (isZoomed_)
         paintDots(painter);
     else
         paintSheet(painter);

@@ -26,6 +26,14 @@ struct PreviewPage {
     Look look;
 };
 
+/// A sheet whose page nobody here knows.
+struct BlankSheet {
+    PageLayout layout;
+    QString heading;   ///< whose page it is
+    QStringList lines; ///< what is said of it, a paragraph each
+    bool hasBack = false;
+};
+
 /// Shows a page as it will come out, on a neutral ground, with its size beneath: whole, or at 1:1, where a
 /// screen pixel is a printer's dot and sharpening can be judged. The printer's adjustments are shown on the
 /// screen only. Main thread only.
@@ -36,6 +44,9 @@ public:
     explicit PreviewWidget(QWidget* parent);
 
     void showPage(const PreviewPage& page);
+
+    /// Shows a sheet with words in the place of a page.
+    void showSheet(const BlankSheet& sheet);
 
     /// Shows a sentence in place of a page.
     void showText(const QString& text);
@@ -78,9 +89,11 @@ protected:
 private:
     void paintSheet(QPainter& painter);
     void paintDots(QPainter& painter);
+    void paintBlank(QPainter& painter);
     void paintCaptions(QPainter& painter) const;
     QRect viewRect() const;
     int captionHeight() const;
+    QStringList described() const;
     QString sizeCaption() const;
     QString colorCaption() const;
     void movePhoto(const QPointF& by);
@@ -98,6 +111,7 @@ private:
     QToolButton* zoomButton_;
     QString text_;
     QString detailProblem_;
+    std::optional<BlankSheet> blank_; // with hasPage_
     bool hasPage_ = false;
     bool isZoomed_ = false;
     QPointF middle_; // of the view at 1:1, in points of the page

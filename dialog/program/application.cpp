@@ -4,6 +4,7 @@
 #include "dialog/job/pdf_output.h"
 #include "dialog/job/print_run.h"
 #include "dialog/program/exit_status.h"
+#include "dialog/window/translations.h"
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/toolkit/accessible_controls.h"
@@ -11,8 +12,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QEventLoop>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QTimer>
 
 #include <atomic>
@@ -21,12 +20,6 @@
 
 #include <syslog.h>
 #include <unistd.h>
-
-// A resource in a static library has to be asked for, outside any namespace.
-static void initTranslations()
-{
-    Q_INIT_RESOURCE(dialog_translations);
-}
 
 namespace halvern {
 
@@ -62,18 +55,6 @@ void routeLog()
 
 bool displayIsMissing = false;
 
-// The program's words before there is an application object to translate them.
-QString earlyWords(const char* text)
-{
-    initTranslations();
-    QTranslator translator;
-    QString found;
-    if (translator.load(QLocale(), QStringLiteral("dialog"), QStringLiteral("_"),
-                        QStringLiteral(":/halvern/translations")))
-        found = translator.translate("Application", text);
-    return found.isEmpty() ? QString::fromUtf8(text) : found;
-}
-
 QtMessageHandler handlerBeforeApplication = nullptr;
 QString displayComplaint;
 
@@ -81,11 +62,13 @@ QString displayComplaint;
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtFatalMsg) {
-        writeLine(stderr, earlyWords(QT_TRANSLATE_NOOP(
-                                         "Application",
-                                         "The display cannot be used: %1. Print with --no-dialog, or set "
-                                         "DISPLAY to one that works."))
-                              .arg(displayComplaint));
+        writeLine(stderr,
+                  translatedEarly(
+                      "Application",
+                      QT_TRANSLATE_NOOP("Application",
+                                        "The display cannot be used: %1. Print with --no-dialog, or set "
+                                        "DISPLAY to one that works."))
+                      .arg(displayComplaint));
         _exit(kExitFailed);
     }
     const bool isAboutDisplay = context.category && std::strncmp(context.category, "qt.qpa", 6) == 0;
@@ -132,21 +115,11 @@ QList<std::shared_ptr<QTranslator>> prepareApplication()
 {
     if (handlerBeforeApplication)
         qInstallMessageHandler(std::exchange(handlerBeforeApplication, nullptr));
-    initTranslations();
     installAccessibleControls();
     QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());
-    QList<std::shared_ptr<QTranslator>> translators;
-    const auto add = [&](const QString& name, const QString& folder) {
-        auto translator = std::make_shared<QTranslator>();
-        if (translator->load(QLocale(), name, QStringLiteral("_"), folder) &&
-            QCoreApplication::installTranslator(translator.get()))
-            translators.append(translator);
-    };
-    add(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    add(QStringLiteral("dialog"), QStringLiteral(":/halvern/translations"));
-    return translators;
+    return installTranslations();
 }
 
 bool waitForUnfinishedRun(PrintRun* run)

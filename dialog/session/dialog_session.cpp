@@ -35,6 +35,8 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
       recentPrinters_(QStringLiteral("RecentPrinters"), kRecentNames),
       recentPapers_(QStringLiteral("RecentPaperSizes"), kRecentNames)
 {
+    // What another program has said of the page is not what was printed with last.
+    pageIsUsers_ = request_.document.has_value() || request_.scaling.has_value();
     connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
     connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
     connect(&photos_, &PhotoLoader::damaged, this, &DialogSession::photoDamaged);
@@ -405,9 +407,9 @@ QString DialogSession::whyNotPrintable() const
     if (!model_)
         return tr("Nothing is known of the printer \"%1\" yet. Wait for it, or choose another one.")
             .arg(displayText(printerName()));
-    if (!photos_.isDone())
+    if (!document() && !photos_.isDone())
         return tr("The photos are still being read. Wait a moment.");
-    if (photos().empty())
+    if (!document() && photos().empty())
         return tr("There is no photo to print. Open the dialog with one.");
     return chosenPages().problem;
 }

@@ -62,6 +62,9 @@ public:
     /// Null while no printer's PPD is there.
     PpdModel* model() { return model_.get(); }
 
+    /// Whether the sheet is printed on both sides.
+    bool isTwoSided() const;
+
     const PanelList& panels() const { return panels_.list(); }
 
     bool hasCustomPanels() const { return !panels_.list().empty(); }
@@ -91,6 +94,12 @@ public:
 
     /// The places in photos() that are printed, in the order of printing, or why there are none.
     ChosenPages chosenPages() const { return choosePages(page().pages, photos().size()); }
+
+    /// The document that is printed in place of photos; null if photos are.
+    const BlindDocument* document() const { return request_.document ? &*request_.document : nullptr; }
+
+    /// The sheet that it is printed on.
+    PageLayout sheet() const { return page_.sheet(model_.get()); }
 
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model_.get()); }
@@ -170,6 +179,13 @@ public:
     /// Makes the run for the chosen pages; the caller starts it. Owned by the session. Call canPrint()
     /// first.
     PrintRun* makeRun();
+
+    /// The job for the document that is printed in place of photos: whoever has it sends it. Call canPrint()
+    /// first.
+    JobRequest makeOrder();
+
+    /// What is set now, as it is remembered as used last.
+    Preset usedNow() const;
 
     /// Makes what writes the current pages into a file; the caller starts it. Owned by the session. Call
     /// canPrint() first.

@@ -19,10 +19,13 @@ std::optional<PresetEntry> DialogSession::startingPreset()
     }
     const bool asksForInstance = !printer_.instance().isEmpty() && request_.printer == printer_.instance();
     const PresetEntry* last = presets_.find(lastUsedName());
-    if (!request_.remembers || asksForInstance || !last)
-        return std::nullopt;
-    PresetEntry entry = *last;
-    entry.preset = withoutSaved(last->preset, understoodSaved());
+    std::optional<PresetEntry> entry;
+    if (request_.remembers && !asksForInstance && last) {
+        entry = *last;
+        entry->preset = withoutSaved(last->preset, understoodSaved());
+    }
+    if (request_.handed)
+        return withHanded(model_->file(), printerName(), *request_.handed, entry ? &*entry : nullptr);
     return entry;
 }
 
@@ -150,7 +153,7 @@ bool DialogSession::isAsChosen() const
     return !model_ || isAsPreset(*model_, page(), presets_.chosen().preset, filledIn_);
 }
 
-void DialogSession::rememberWhenSent(PrintRun* run)
+Preset DialogSession::usedNow() const
 {
     QMap<QString, QString> unchosen = printerDefaults_;
     for (const GivenOption& option : understoodSaved())
@@ -165,8 +168,13 @@ void DialogSession::rememberWhenSent(PrintRun* run)
     }
     if (presets_.chosen().kind == PresetKind::named && isAsChosen())
         last.basedOn = presets_.chosen().preset.name;
+    return last;
+}
+
+void DialogSession::rememberWhenSent(PrintRun* run)
+{
     connect(run, &PrintRun::submitted, this,
-            [this, queue = printerName(), last] { presets_.remember(queue, last); });
+            [this, queue = printerName(), last = usedNow()] { presets_.remember(queue, last); });
 }
 
 } // namespace halvern

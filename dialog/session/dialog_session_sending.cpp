@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace halvern {
 
@@ -91,6 +92,16 @@ QStringList positionsOf(const std::vector<ReadPage>& pages)
     return isCentred ? QStringList() : positions;
 }
 
+QString asServerWrites(const std::vector<PageRange>& ranges)
+{
+    QStringList texts;
+    for (const PageRange& range : ranges)
+        texts.append(QStringLiteral("%1-%2")
+                         .arg(range.first)
+                         .arg(range.last.value_or(std::numeric_limits<int>::max())));
+    return texts.join(QLatin1Char(','));
+}
+
 } // namespace
 
 JobValues DialogSession::valuesToSend() const
@@ -114,6 +125,34 @@ JobInWords DialogSession::jobInWords() const
     if (words.problem.isEmpty() && hasPhotos())
         words.problem = chosen.problem;
     return words;
+}
+
+bool DialogSession::isTwoSided() const
+{
+    const QString key = model_ ? duplexOption(model_->file()) : QString();
+    return !key.isEmpty() && sidesWord(model_->value(key)) != QLatin1StringView("one-sided");
+}
+
+JobRequest DialogSession::makeOrder()
+{
+    JobRequest job{printerName(), jobTitle(), collectOptions(), model_->secrets()};
+    const PageChoice& pages = page().pages;
+    const auto set = [&job](const char* name, const QString& value) {
+        const QString key = QLatin1StringView(name);
+        job.options.removeIf([&](const OptionValue& option) { return option.key == key; });
+        job.options.append({key, value});
+    };
+    // Nobody has put the pages in their order. Which of them are printed is settled by whoever makes the
+    // document, but nobody makes one that is here.
+    if (pages.isReversed)
+        set("outputorder", QStringLiteral("reverse"));
+    if (document()->isHere && !pages.ranges.isEmpty())
+        set("page-ranges", asServerWrites(rangesIn(pages.ranges)));
+    if (document()->isHere && pages.parity != PageParity::all)
+        set("page-set", pages.parity == PageParity::odd ? QStringLiteral("odd") : QStringLiteral("even"));
+    if (request_.remembers)
+        presets_.remember(job.queue, usedNow());
+    return job;
 }
 
 PdfOutput* DialogSession::makePdf(const QString& path)

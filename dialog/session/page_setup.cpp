@@ -12,6 +12,8 @@ namespace halvern {
 
 namespace {
 
+constexpr QSizeF kUsualSheet(595.28, 841.89);
+
 PageRect toPageRect(const QRectF& rect)
 {
     return {rect.top(), rect.left(), rect.bottom(), rect.right()};
@@ -25,6 +27,9 @@ PageSetup::PageSetup(const SessionRequest& request)
     settings_.pages = request.pages;
     settings_.turn = request.turn;
     settings_.title = request.title;
+    settings_.scaling = request.scaling.value_or(settings_.scaling);
+    settings_.isCollated = request.isCollated;
+    settings_.scalePercent = request.scalePercent;
 }
 
 QString scalingWord(Scaling scaling)
@@ -78,11 +83,19 @@ void PageSetup::keepChoice(const std::vector<size_t>& left, size_t count)
 
 PageLayout PageSetup::layout(const Photo& photo, const PpdModel* model) const
 {
-    SheetGeometry sheet{QSizeF(595.28, 841.89), QRectF(0.0, 0.0, 595.28, 841.89)};
+    SheetGeometry sheet{kUsualSheet, QRectF(QPointF(), kUsualSheet)};
     if (model)
         sheet = model->sheet();
     return layOut(
         {sheet.paper, sheet.imageable, photo.ownSize, settings_.scaling, settings_.turn, photo.position});
+}
+
+PageLayout PageSetup::sheet(const PpdModel* model) const
+{
+    // What is as large as the sheet turns it only where the user says so.
+    Photo whole;
+    whole.ownSize = model ? model->sheet().paper : kUsualSheet;
+    return layout(whole, model);
 }
 
 std::shared_ptr<PageFormat> PageSetup::format(const PpdModel& model, const Photo* first) const

@@ -23,7 +23,8 @@ struct PageSettings {
     int copies = 1;
     bool isCollated = true;
     PageChoice pages = {};
-    QString title = {}; ///< of the job; empty: the first photo's name
+    QString title = {};     ///< of the job; empty: the first photo's name
+    int scalePercent = 100; ///< by which another program enlarges its pages
 
     bool operator==(const PageSettings&) const = default;
 };
@@ -49,6 +50,9 @@ public:
 
     /// The layout of a photo on the model's current sheet, without a model on A4 to its edges.
     PageLayout layout(const Photo& photo, const PpdModel* model) const;
+
+    /// The sheet alone, as whoever is going to fill it looks at it, without a model A4 to its edges.
+    PageLayout sheet(const PpdModel* model) const;
 
     /// The sheet as panels ask for it, turned as it is for `first`; null: by what the user set alone.
     std::shared_ptr<PageFormat> format(const PpdModel& model, const Photo* first) const;

@@ -47,7 +47,8 @@ QString PrinterChoice::instance() const
 
 void PrinterChoice::takePrinters()
 {
-    const bool isLost = request_.printer.isEmpty() && request_.isAttended && !isThere_ &&
+    // What another program remembers is nobody's word for a printer that is gone.
+    const bool isLost = (request_.printer.isEmpty() || request_.handed) && request_.isAttended && !isThere_ &&
                         printerName_ == queueOf(startedWith_) && !printers_->find(printerName_);
     if ((!printerName_.isEmpty() && !isLost) || printers_->printers().empty())
         return;
@@ -57,7 +58,11 @@ void PrinterChoice::takePrinters()
     if (usual.isEmpty() && !request_.isAttended)
         return;
     select(usual.isEmpty() ? printers_->printers().front().name : usual);
-    if (!lost.isEmpty())
+    if (!lost.isEmpty() && request_.handed)
+        Q_EMIT notice(tr("The application remembers a printer \"%1\" that is none of the print server's. "
+                         "\"%2\" was chosen instead.")
+                          .arg(lost, printerName_));
+    else if (!lost.isEmpty())
         Q_EMIT notice(
             tr("Your default printer \"%1\" is none of the print server's. \"%2\" was chosen instead.")
                 .arg(lost, printerName_));

@@ -4,12 +4,24 @@
 #include "dialog/options/option_value.h"
 #include "dialog/page/page_choice.h"
 #include "dialog/page/page_layout.h"
+#include "dialog/session/handed_options.h"
 
 #include <QStringList>
 
 namespace halvern {
 
 inline constexpr int kMostCopies = 999;
+
+/// What is known of a document that another program prints, and that the dialog shows no page of.
+struct BlindDocument {
+    /// Whether it is there already; if not, the program makes it when the dialog has been accepted, and lays
+    /// it out as the dialog says.
+    bool isHere = false;
+    QString application = {}; ///< what the user calls the program; empty if nobody knows
+    QString acceptText = {};  ///< what the program wants on the button, "&" before the key; empty: "Print"
+    bool hasCurrentPage = false;
+    bool hasSelection = false;
+};
 
 /// What a session starts with.
 struct SessionRequest {
@@ -36,8 +48,13 @@ struct SessionRequest {
     QString preset = {};
     /// Whether it starts with what the user printed with last, and remembers what is printed.
     bool remembers = true;
-    int photosPerJob = 0;     ///< at most so many; 0: all in one job
-    bool namesCopies = false; ///< somebody said how many, so no preset decides it
+    int photosPerJob = 0;                       ///< at most so many; 0: all in one job
+    bool namesCopies = false;                   ///< somebody said how many, so no preset decides it
+    std::optional<BlindDocument> document = {}; ///< printed in place of files
+    std::optional<HandedOptions> handed = {};   ///< another program's, over what was printed with last
+    std::optional<Scaling> scaling = {};        ///< no preset decides it then
+    bool isCollated = true;
+    int scalePercent = 100; ///< of a document to come
 };
 
 } // namespace halvern

@@ -53,6 +53,15 @@ PageRangeRow::PageRangeRow(QWidget* parent)
     connect(reversed_, &QCheckBox::clicked, this, &PageRangeRow::choose);
 }
 
+void PageRangeRow::setUncounted(bool hasCurrentPage, bool hasSelection)
+{
+    if (hasCurrentPage)
+        parity_->addItem(tr("Current page"), int(PageParity::current));
+    if (hasSelection)
+        parity_->addItem(tr("Selection"), int(PageParity::selection));
+    setPlainName(parity_, tr("Which pages"));
+}
+
 QWidget* PageRangeRow::field() const
 {
     return ranges_;
@@ -63,7 +72,10 @@ void PageRangeRow::refresh(const PageChoice& choice, size_t count, const QString
     const QSignalBlocker quiet(ranges_);
     if (ranges_->text() != choice.ranges)
         ranges_->setText(choice.ranges); // plain: a field holds a value
-    ranges_->setPlaceholderText(tr("All %1, or for example 1-3, 5-").arg(count));
+    ranges_->setPlaceholderText(count > 0 ? tr("All %1, or for example 1-3, 5-").arg(count)
+                                          : tr("All, or for example 1-3, 5-"));
+    // What another program has chosen is not written in ranges.
+    ranges_->setEnabled(choice.parity != PageParity::current && choice.parity != PageParity::selection);
     parity_->setCurrentIndex(parity_->findData(int(choice.parity)));
     reversed_->setChecked(choice.isReversed);
     const bool isDark = palette().color(QPalette::Window).lightness() < 128;

@@ -23,6 +23,10 @@ public:
     /// Takes the choice into the controls; `problem` is a sentence, or empty.
     void refresh(const PageChoice& choice, size_t count, const QString& problem);
 
+    /// Another program counts the pages, and may know which it shows or which are selected. Once, before
+    /// refresh().
+    void setUncounted(bool hasCurrentPage, bool hasSelection);
+
     QWidget* field() const;
 
 Q_SIGNALS:

@@ -16,6 +16,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,6 +26,8 @@ namespace halvern {
 
 namespace {
 
+constexpr int kLeastScale = 10; // percent
+constexpr int kMostScale = 1000;
 const QString kPageSizeKey = QStringLiteral("PageSize");
 
 bool isSameRoom(const PaperRoom& a, const PaperRoom& b)
@@ -77,7 +81,28 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     addRow(tr("&Two-sided:"), twoSided_, twoSided_);
     addRow(tr("Pa&ges:"), pages_, pages_->field());
     connectControls();
+    if (session_.document())
+        arrangeForDocument(*session_.document(), scalings);
     refresh();
+}
+
+// Whoever makes the pages lays them out: what says how a photo lies on its page has no place here.
+void PaperPage::arrangeForDocument(const BlindDocument& document, QWidget* scalings)
+{
+    turn_->button(int(PageTurn::automatic))->hide();
+    form_->setRowVisible(scalings, false);
+    if (document.isHere) {
+        form_->setRowVisible(turn_->button(int(PageTurn::portrait))->parentWidget(), false);
+    } else {
+        scale_ = new QSpinBox(this);
+        scale_->setObjectName(QStringLiteral("scale"));
+        scale_->setRange(kLeastScale, kMostScale);
+        scale_->setSuffix(tr(" %"));
+        scale_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        addRow(tr("&Scale:"), scale_, scale_);
+        connect(scale_, &QSpinBox::valueChanged, this, &PaperPage::choosePage);
+    }
+    pages_->setUncounted(document.hasCurrentPage, document.hasSelection);
 }
 
 QWidget* PaperPage::makePaperRow()
@@ -157,10 +182,16 @@ void PaperPage::refresh()
     refreshCustom();
     refreshTwoSided();
     const PageSettings& page = session_.page();
-    turn_->button(int(page.turn))->setChecked(true);
+    // Without a photo nothing is turned by it.
+    const bool isUpright = page.turn == PageTurn::automatic && session_.document();
+    turn_->button(int(isUpright ? PageTurn::portrait : page.turn))->setChecked(true);
     scaling_->button(int(page.scaling))->setChecked(true);
     const size_t count = session_.photos().size();
-    form_->setRowVisible(pages_, count > 1 || !page.pages.ranges.isEmpty());
+    form_->setRowVisible(pages_, count > 1 || !page.pages.ranges.isEmpty() || session_.document());
+    if (scale_) {
+        const QSignalBlocker quiet(scale_);
+        scale_->setValue(page.scalePercent);
+    }
     pages_->refresh(page.pages, count, session_.hasPhotos() ? session_.chosenPages().problem : QString());
 }
 
@@ -294,6 +325,8 @@ void PaperPage::choosePage()
     PageSettings page = session_.page();
     page.turn = PageTurn(turn_->checkedId());
     page.scaling = Scaling(scaling_->checkedId());
+    if (scale_)
+        page.scalePercent = scale_->value();
     session_.setPage(page);
 }
 

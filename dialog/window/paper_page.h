@@ -11,6 +11,7 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLabel;
+class QSpinBox;
 
 namespace halvern {
 
@@ -35,6 +36,7 @@ private:
     QWidget* makeChoices(QButtonGroup* group, const QString& name,
                          const QList<std::pair<int, QString>>& choices);
     void addRow(const QString& text, QWidget* field, QWidget* buddy);
+    void arrangeForDocument(const BlindDocument& document, QWidget* scalings);
     void connectControls();
     void listPapers();
     void refreshPaper();
@@ -64,6 +66,7 @@ private:
     ChoiceList* sides_;
     QString twoSidedKey_;
     std::weak_ptr<ppd_file_t> sidesFor_; ///< whose choices are listed
+    QSpinBox* scale_ = nullptr;          // null where nobody scales by it
     PageRangeRow* pages_;
 };
 

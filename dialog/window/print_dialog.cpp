@@ -219,7 +219,7 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     cancel_ = new QPushButton(tr("Cancel"), parent);
     cancel_->setObjectName(QStringLiteral("cancelButton"));
     cancel_->setAutoDefault(false);
-    print_ = new QPushButton(tr("&Print"), parent);
+    print_ = new QPushButton(printText(), parent);
     print_->setObjectName(QStringLiteral("printButton"));
     print_->setDefault(true);
     for (QPushButton* button : {cancelJob_, cancel_, print_})
@@ -231,6 +231,8 @@ QLayout* PrintDialog::makeButtonRow(QWidget* parent)
     row->addWidget(makeCollateBox(parent));
     row->addStretch();
     row->addWidget(makeOutputMenu(parent));
+    if (review_)
+        row->addWidget(review_);
     row->addWidget(cancelJob_);
     row->addWidget(cancel_);
     row->addWidget(print_);
@@ -386,6 +388,10 @@ void PrintDialog::showPrinterState()
 
 void PrintDialog::showPhotos()
 {
+    if (session_.document()) {
+        showDocument();
+        return;
+    }
     const std::vector<Photo>& photos = session_.photos();
     const std::vector<size_t> pages = session_.chosenPages().pages;
     pager_->setVisible(pages.size() > 1);

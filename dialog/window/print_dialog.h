@@ -47,6 +47,10 @@ public:
     /// How the last run ended.
     const PrintOutcome& outcome() const { return outcome_; }
 
+    /// What was accepted for a document that is printed in place of photos: the dialog is closed, and the
+    /// caller sends it. Nothing before.
+    const std::optional<JobRequest>& order() const { return order_; }
+
     /// Leaves at once, whatever is under way: a job that the server has stays on its queue, and one that is
     /// still being sent goes on as long as the session lives.
     void done(int result) override;
@@ -58,6 +62,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 Q_SIGNALS:
+    /// A run is about to start.
+    void started();
     /// A run has ended, and the dialog says so.
     void printed(const halvern::PrintOutcome& outcome);
 
@@ -88,6 +94,8 @@ private:
     void updateButtons();
     void showHelp();
     void print();
+    void showDocument();
+    QString printText() const;
     void followRun();
     void takeOutcome(const PrintOutcome& outcome);
     void cancelJob();
@@ -118,6 +126,8 @@ private:
     QLabel* pageNumber_ = nullptr;
     QToolButton* back_ = nullptr;
     QToolButton* forward_ = nullptr;
+    QCheckBox* review_ = nullptr; // null where there is nothing to be reviewed
+    std::optional<JobRequest> order_;
     QPointer<PrintRun> run_;
     PrintOutcome outcome_;
     QString toldMisfit_;

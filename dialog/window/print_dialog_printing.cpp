@@ -8,6 +8,7 @@
 #include "dialog/window/output_menu.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/review_switch.h"
 #include "dialog/window/run_bar.h"
 #include "dialog/window/search_box.h"
 #include "platform/toolkit/plain_text.h"
@@ -35,11 +36,13 @@ void PrintDialog::updateButtons()
     setPlainDescription(print_, isBusy ? QString() : session_.whyNotPrintable());
     printer_->setEnabled(!isBusy);
     presets_->setEnabled(!isBusy && session_.model());
+    output_->setVisible(!session_.document());
     deck_->setEnabled(!isBusy);
     message_->setCanAct(!isBusy);
     copies_->setEnabled(!isBusy);
     collate_->setEnabled(!isBusy);
-    collate_->setVisible(copies_->value() > 1 && session_.chosenPages().pages.size() > 1);
+    collate_->setVisible(copies_->value() > 1 &&
+                         (session_.document() || session_.chosenPages().pages.size() > 1));
     cancelJob_->setVisible(isBusy);
     cancelJob_->setEnabled(isBusy && !run_->isCancelled());
     cancel_->setText(isBusy || hasPrinted_ ? tr("Close") : tr("Cancel"));
@@ -47,6 +50,8 @@ void PrintDialog::updateButtons()
 
 QWidget* PrintDialog::makeOutputMenu(QWidget* parent)
 {
+    if (const BlindDocument* document = session_.document(); document && !document->isHere)
+        review_ = makeReviewSwitch(parent);
     output_ = new OutputMenu(session_, parent);
     connect(output_, &OutputMenu::progressed, this, [this](double share) {
         if (!isRunning())
@@ -79,6 +84,12 @@ void PrintDialog::print()
     // A field is saved as its editing leaves it, and the keyboard's ways to print move no focus.
     if (QWidget* editor = focusWidget(); editor && deck_->isAncestorOf(editor))
         print_->setFocus(Qt::OtherFocusReason);
+    if (session_.document()) {
+        order_ = session_.makeOrder();
+        session_.noteUse();
+        accept();
+        return;
+    }
     delete run_;
     message_->withdraw(kRunMessage);
     session_.noteUse();
@@ -87,6 +98,7 @@ void PrintDialog::print()
     deck_->pausePanels();
     followRun();
     runBar_->showProgress(0, tr("Preparing the pages..."));
+    Q_EMIT started();
     run_->start();
     updateButtons();
     // Print is off now, and focus would go to whatever comes next.
@@ -169,7 +181,7 @@ void PrintDialog::showHelp()
 void PrintDialog::done(int result)
 {
     rememberSize();
-    deck_->tellClosing(hasPrinted_ || isRunning());
+    deck_->tellClosing(hasPrinted_ || isRunning() || order_);
     deck_->releasePanels();
     QDialog::done(result);
 }

@@ -120,7 +120,8 @@ QList<SummaryPage::Line> SummaryPage::jobLines() const
         return lines;
     lines.append(
         line(kPageSize, tr("Paper size"), inUsersNumbers(model->choiceText(kPageSize, valueOf(kPageSize)))));
-    lines.append({tr("Photo size"), scalingText(session_.page().scaling)});
+    if (!session_.document())
+        lines.append({tr("Photo size"), scalingText(session_.page().scaling)});
     if (!session_.photos().empty()) {
         const PageLayout layout = session_.layoutFor(session_.photos().front());
         lines.append({tr("Printed area"), pageSizeText(layout.visible().size())});

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/preview/sheet_paint.h"
+
+#include "dialog/preview/preview_widget.h"
+#include "platform/foundation/display_text.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+constexpr double kShadow = 7.0;
+constexpr double kBackOffset = 0.07; // of the sheet's shorter edge
+const QColor kInk(70, 70, 70);
+const QColor kPaleInk(120, 120, 120);
+
+} // namespace
+
+void paintShadow(QPainter& painter, const QRectF& sheet)
+{
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    for (double spread = kShadow; spread > 0.0; spread -= 1.0) {
+        painter.setBrush(QColor(0, 0, 0, 9));
+        painter.drawRoundedRect(sheet.adjusted(-spread, -spread + 2.0, spread, spread + 2.0), spread, spread);
+    }
+    painter.restore();
+}
+
+void paintMargins(QPainter& painter, const PageLayout& layout)
+{
+    const QRectF whole(QPointF(), layout.page);
+    const bool isBorderless = layout.imageable.adjusted(-0.5, -0.5, 0.5, 0.5).contains(whole);
+    if (!isBorderless) {
+        QPen dashes(QColor(128, 128, 128, 150), 0.0, Qt::DashLine);
+        painter.setPen(dashes);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(layout.imageable);
+    }
+}
+
+// On white, whatever the dialog's colours: it is paper.
+void PreviewWidget::paintBlank(QPainter& painter)
+{
+    const PageLayout& layout = blank_->layout;
+    QRectF sheet = sheetRect();
+    if (blank_->hasBack) {
+        const double offset = kBackOffset * std::min(sheet.width(), sheet.height());
+        sheet.setSize(sheet.size() * (1.0 - offset / std::max(sheet.width(), 1.0)));
+        const QRectF back = sheet.translated(offset, offset * sheet.height() / std::max(sheet.width(), 1.0));
+        paintShadow(painter, back);
+        painter.fillRect(back, QColor(236, 236, 236));
+        painter.setPen(kPaleInk);
+        painter.drawText(back.adjusted(0, 0, -6, -4), Qt::AlignRight | Qt::AlignBottom, tr("Back"));
+    }
+    paintShadow(painter, sheet);
+    painter.fillRect(sheet, Qt::white);
+    painter.save();
+    painter.translate(sheet.topLeft());
+    painter.scale(sheet.width() / layout.page.width(), sheet.height() / layout.page.height());
+    paintMargins(painter, layout);
+    painter.restore();
+    const double edge = std::min(sheet.width(), sheet.height()) / 8.0;
+    QRectF room = sheet.adjusted(edge, edge, -edge, -edge);
+    const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+    QFont usual = font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 1.6);
+    const QString heading = displayText(blank_->heading);
+    const QString lines = blank_->lines.join(QStringLiteral("\n\n"));
+    const double high = QFontMetricsF(large).boundingRect(room, flags, heading).height();
+    const double low = QFontMetricsF(usual).boundingRect(room, flags, lines).height();
+    room.setTop(std::max(room.top(), room.center().y() - (high * 1.5 + low) / 2.0));
+    painter.setPen(kInk);
+    painter.setFont(large);
+    painter.drawText(room, flags, heading);
+    painter.setPen(kPaleInk);
+    painter.setFont(usual);
+    painter.drawText(room.adjusted(0, high * 1.5, 0, 0), flags, lines);
+}
+
+} // namespace halvern

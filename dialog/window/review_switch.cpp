@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/window/review_switch.h"
+
+#include "platform/foundation/user_defaults.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+
+namespace halvern {
+
+namespace {
+
+const QString kReviewKey = QStringLiteral("ReviewBeforePrinting");
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ReviewSwitch)
+};
+
+} // namespace
+
+bool reviewsDocuments()
+{
+    return UserDefaults::standardUserDefaults().objectForKey(kReviewKey).toBool();
+}
+
+QCheckBox* makeReviewSwitch(QWidget* parent)
+{
+    auto* box = new QCheckBox(Words::tr("Re&view before printing"), parent);
+    box->setObjectName(QStringLiteral("review"));
+    box->setToolTip(
+        Words::tr("Shows the pages as the application has made them, before they go to the printer"));
+    box->setChecked(reviewsDocuments());
+    QObject::connect(box, &QCheckBox::toggled, box, [](bool isOn) {
+        UserDefaults& defaults = UserDefaults::standardUserDefaults();
+        QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
+        values.insert(kReviewKey, isOn);
+        defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+    });
+    return box;
+}
+
+} // namespace halvern
