@@ -100,6 +100,13 @@ public:
         tr("With --list-printers, --list-options or --list-presets: write JSON, with more details.")};
     QCommandLineOption listPapers{QStringLiteral("list-papers"),
                                   tr("Write what the printer has loaded, and how old that knowledge is.")};
+    QCommandLineOption parent{QStringLiteral("parent"),
+                              tr("Show the dialog above another program's window: x11: and the window's "
+                                 "number in hexadecimal digits."),
+                              QStringLiteral("WINDOW")};
+    QCommandLineOption resultJson{QStringLiteral("result-json"),
+                                  tr("When the dialog has closed, write what was chosen and what became of "
+                                     "it to standard output, as JSON.")};
     QCommandLineOption refresh{QStringLiteral("refresh"), tr("With --list-papers: ask the printer first.")};
 
     static QString seeHelp() { return tr("See \"halvern-print --help\"."); }
@@ -141,6 +148,13 @@ public:
     {
         return tr("\"%1\" is no place: write two numbers from 0 to 1, for example 0.5,0.5.").arg(text);
     }
+
+    static QString badParent(const QString& text)
+    {
+        return tr("\"%1\" names no window: write x11: and its number, for example x11:3c00007.").arg(text);
+    }
+
+    static QString dialogOnly() { return tr("--parent and --result-json go with the dialog."); }
 
     static QString emptyOutput() { return tr("The name of the file to write is empty."); }
 
@@ -364,6 +378,10 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
 QString contradiction(const QCommandLineParser& parser, const Switches& switches, const CommandLine& line)
 {
     const bool writes = parser.isSet(switches.output);
+    if (parser.isSet(switches.parent) && !line.parent)
+        return Switches::badParent(parser.value(switches.parent));
+    if (!line.showDialog && (line.parent || line.resultJson))
+        return Switches::dialogOnly();
     if (line.verify && (line.showDialog || line.dryRun || writes))
         return Switches::verifyAlone();
     if (writes && line.output.isEmpty())
@@ -391,7 +409,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
          switches.backprint,    switches.preset,     switches.printDamaged, switches.noDialog,
          switches.wait,         switches.dryRun,     switches.output,       switches.verify,
          switches.listPrinters, switches.listPapers, switches.refresh,      switches.listOptions,
-         switches.listPresets,  switches.savePreset, switches.json,         switches.photosPerJob});
+         switches.listPresets,  switches.savePreset, switches.json,         switches.photosPerJob,
+         switches.parent,       switches.resultJson});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -410,6 +429,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     line.dryRun = parser.isSet(switches.dryRun);
     line.verify = parser.isSet(switches.verify);
     line.output = parser.value(switches.output);
+    line.parent = readWindowName(parser.value(switches.parent));
+    line.resultJson = parser.isSet(switches.resultJson);
     line.showDialog = line.showDialog && !parser.isSet(switches.output);
     QStringList remarks;
     line.request.files = parser.positionalArguments();
@@ -445,7 +466,7 @@ bool asksForWindow(const QStringList& arguments)
     parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages,
                        switches.orientation, switches.position, switches.title, switches.backprint,
                        switches.wait, switches.noDialog, switches.dryRun, switches.output, switches.preset,
-                       switches.photosPerJob});
+                       switches.photosPerJob, switches.parent, switches.resultJson});
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

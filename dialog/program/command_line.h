@@ -5,6 +5,7 @@
 #include "dialog/program/list_papers.h"
 #include "dialog/program/listings.h"
 #include "dialog/session/session_request.h"
+#include "dialog/window/parent_window.h"
 
 #include <chrono>
 #include <optional>
@@ -17,6 +18,8 @@ struct CommandLine {
     bool showDialog = true;
     bool dryRun = false;                              ///< say what would be sent, and send nothing
     QString output = {};                              ///< a PDF file to write instead of printing
+    std::optional<ForeignWindow> parent = {};         ///< the dialog belongs to that window
+    bool resultJson = false;                          ///< write what became of the dialog as JSON
     bool verify = false;                              ///< compare what the server holds with what was sent
     ListingRequest listing = {};                      ///< write that and do nothing else
     std::optional<ListPapersRequest> listPapers = {}; ///< of Listing::papers

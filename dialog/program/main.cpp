@@ -2,6 +2,7 @@
 #include "dialog/job/pdf_output.h"
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
+#include "dialog/program/dialog_result.h"
 #include "dialog/program/quit_signals.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/print_dialog.h"
@@ -40,6 +41,7 @@ int runDialog(const CommandLine& line)
     PluginLoader panels;
     DialogSession session(line.request, panels);
     PrintDialog dialog(session);
+    const std::shared_ptr<QWindow> parent = line.parent ? putOver(&dialog, *line.parent, true) : nullptr;
     dialog.show();
     session.start();
     onQuitSignal(&dialog, [&dialog] {
@@ -58,6 +60,8 @@ int runDialog(const CommandLine& line)
     if (!fileProblem.isEmpty())
         tellAfterwards(fileProblem);
     const int status = fileProblem.isEmpty() ? statusOf(dialog) : kExitFailed;
+    if (line.resultJson)
+        writeLine(stdout, QString::fromUtf8(dialogResult(session, dialog, status)));
     if (wasClosedEarly && status == kExitFailed)
         tellAfterwards(dialog.outcome().sentence);
     if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {

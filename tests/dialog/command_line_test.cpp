@@ -37,6 +37,8 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
     } cases[] = {
         {{}, 2, "at least one photo"},
         {{q("--nonsense"), photo()}, 2, "nonsense"},
+        {{q("--parent"), q("x11:none"), photo()}, 2, "names no window"},
+        {{q("--result-json"), q("--no-dialog"), photo()}, 2, "go with the dialog"},
         {{q("--copies"), q("0"), photo()}, 2, "1 to 999"},
         {{q("--wait"), q("soon"), photo()}, 2, "seconds from 1"},
         {{q("--option"), q("PageSize"), photo()}, 2, "KEY=VALUE"},
