@@ -8,10 +8,8 @@
 
 namespace halvern {
 
-static const char kBusVariable[] = "DBUS_SYSTEM_BUS_ADDRESS";
-
-PrivateBus::PrivateBus()
-    : addressBefore_(qgetenv(kBusVariable)), hadAddress_(qEnvironmentVariableIsSet(kBusVariable))
+PrivateBus::PrivateBus(const char* variable)
+    : variable_(variable), addressBefore_(qgetenv(variable)), hadAddress_(qEnvironmentVariableIsSet(variable))
 {
     const QString address = q("unix:path=%1/bus").arg(folder_.path());
     QFile config(folder_.filePath(q("bus.conf")));
@@ -23,7 +21,7 @@ PrivateBus::PrivateBus()
     if (!config.open(QIODevice::WriteOnly) || config.write(text.toUtf8()) < 0)
         qFatal("the private bus's configuration could not be written");
     config.close();
-    qputenv(kBusVariable, address.toUtf8());
+    qputenv(variable_, address.toUtf8());
     start();
 }
 
@@ -31,9 +29,9 @@ PrivateBus::~PrivateBus()
 {
     kill();
     if (hadAddress_)
-        qputenv(kBusVariable, addressBefore_);
+        qputenv(variable_, addressBefore_);
     else
-        qunsetenv(kBusVariable);
+        qunsetenv(variable_);
 }
 
 void PrivateBus::start()

@@ -7,10 +7,11 @@
 
 namespace halvern {
 
-/// A D-Bus daemon of the test's own in the place of the system bus, while it exists.
+/// A D-Bus daemon of the test's own in the place of the system bus, or of the session's, while it exists.
 class PrivateBus {
 public:
-    PrivateBus();
+    /// `variable` names the bus.
+    explicit PrivateBus(const char* variable = "DBUS_SYSTEM_BUS_ADDRESS");
     ~PrivateBus();
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
@@ -21,6 +22,7 @@ public:
     void kill();
 
 private:
+    const char* variable_;
     QTemporaryDir folder_;
     QByteArray addressBefore_;
     bool hadAddress_ = false;

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "portal/document_spool.h"
+
+#include "platform/foundation/display_text.h"
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPointer>
+#include <QStandardPaths>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace halvern {
+
+namespace {
+
+constexpr qint64 kPiece = 1024 * 1024;
+constexpr int kLookUp = 200; // milliseconds until the flag is looked at again
+constexpr int kLongestName = 60;
+
+// In the order in which they are tried: the first is in memory, and small.
+QStringList spoolFolders()
+{
+    const QString user = QString::number(getuid());
+    QStringList folders;
+    if (const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+        !runtime.isEmpty())
+        folders.append(runtime + QStringLiteral("/halvern-print-portal"));
+    folders.append(QStringLiteral("/var/tmp/halvern-print-portal-") + user);
+    return folders;
+}
+
+// Only this user's own: in a folder that everybody may write to somebody may have been there before.
+bool isOurs(const QString& folder)
+{
+    struct stat found = {};
+    return lstat(QFile::encodeName(folder).constData(), &found) == 0 && S_ISDIR(found.st_mode) &&
+           found.st_uid == getuid() && (found.st_mode & 077) == 0;
+}
+
+QString fileName(const QString& title)
+{
+    QString name = displayText(title, kLongestName);
+    for (QChar& c : name) {
+        if (c == QLatin1Char('/') || c == QLatin1Char('\\'))
+            c = QLatin1Char('-');
+    }
+    while (name.startsWith(QLatin1Char('.')))
+        name.remove(0, 1);
+    return name.trimmed().isEmpty() ? QStringLiteral("document") : name.trimmed();
+}
+
+/// A folder of its own with one file, which go together.
+class Room {
+public:
+    explicit Room(const QString& folder)
+    {
+        const QByteArray path = QFile::encodeName(folder);
+        if (mkdir(path.constData(), 0700) != 0 && errno != EEXIST)
+            return;
+        QByteArray own = path + "/XXXXXX";
+        if (isOurs(folder) && mkdtemp(own.data()))
+            folder_ = QFile::decodeName(own);
+    }
+
+    ~Room()
+    {
+        if (!folder_.isEmpty())
+            QDir(folder_).removeRecursively();
+    }
+
+    Room(const Room&) = delete;
+    Room& operator=(const Room&) = delete;
+
+    const QString& folder() const { return folder_; }
+
+private:
+    QString folder_;
+};
+
+struct Filling {
+    std::shared_ptr<Room> room;
+    QFile file;
+
+    bool open(const QString& folder)
+    {
+        room = std::make_shared<Room>(folder);
+        if (room->folder().isEmpty())
+            return false;
+        file.setFileName(room->folder() + QStringLiteral("/incoming"));
+        return file.open(QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered,
+                         QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    }
+};
+
+// The whole piece, going over to the next folder where there is no room.
+bool write(std::unique_ptr<Filling>& filling, QStringList& folders, const QByteArray& piece)
+{
+    const qint64 before = filling->file.pos();
+    while (filling->file.write(piece) != piece.size()) {
+        auto next = std::make_unique<Filling>();
+        while (!folders.isEmpty() && !next->open(folders.takeFirst())) {
+        }
+        if (!next->file.isOpen() || !filling->file.seek(0))
+            return false;
+        for (qint64 left = before; left > 0;) {
+            const QByteArray old = filling->file.read(std::min(left, kPiece));
+            if (old.isEmpty() || next->file.write(old) != old.size())
+                return false;
+            left -= old.size();
+        }
+        filling = std::move(next);
+    }
+    return true;
+}
+
+// Whether it is at its end; false with a sentence if something failed, or without one if nobody waits.
+bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList folders,
+             const cups::CancelFlag& stop, QString& problem)
+{
+    QByteArray piece(kPiece, Qt::Uninitialized);
+    while (!stop->load()) {
+        pollfd wait{descriptor, POLLIN, 0};
+        if (poll(&wait, 1, kLookUp) == 0)
+            continue;
+        const ssize_t count = read(descriptor, piece.data(), size_t(piece.size()));
+        if (count == 0)
+            return true;
+        if (count < 0 && (errno == EINTR || errno == EAGAIN))
+            continue;
+        if (count < 0) {
+            problem =
+                DocumentSpool::tr("The document cannot be read: %1. Print it once more from its application.")
+                    .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            return false;
+        }
+        if (!write(filling, folders, QByteArray::fromRawData(piece.constData(), count))) {
+            problem = DocumentSpool::tr(
+                          "There is no room for the document: %1. Make room on the disk, and print it "
+                          "once more.")
+                          .arg(filling->file.errorString());
+            return false;
+        }
+    }
+    return false;
+}
+
+SpooledDocument spool(int descriptor, const QString& title, const cups::CancelFlag& stop)
+{
+    SpooledDocument document;
+    QStringList folders = spoolFolders();
+    auto filling = std::make_unique<Filling>();
+    while (!folders.isEmpty() && !filling->open(folders.takeFirst())) {
+    }
+    if (!filling->file.isOpen()) {
+        document.problem =
+            DocumentSpool::tr("No file can be made for the document in \"%1\". Make sure that you may "
+                              "write there, and print it once more.")
+                .arg(spoolFolders().back());
+        return document;
+    }
+    if (!readAll(descriptor, filling, folders, stop, document.problem))
+        return document;
+    QFile& file = filling->file;
+    const qint64 size = file.size();
+    file.seek(0);
+    document.kind = kindOf(file.read(kKindBytes));
+    file.seek(std::max(size - kKindBytes, qint64(0)));
+    document.problem = documentProblem(document.kind, size, file.read(kKindBytes));
+    if (!document.problem.isEmpty())
+        return document;
+    const QString path =
+        filling->room->folder() + QLatin1Char('/') + fileName(title) + endingOf(document.kind);
+    file.close();
+    if (file.rename(path))
+        document.path = std::shared_ptr<const QString>(
+            new QString(path), [room = filling->room](const QString* name) { delete name; });
+    else
+        document.problem = file.errorString();
+    return document;
+}
+
+} // namespace
+
+DocumentSpool::~DocumentSpool()
+{
+    stop_->store(true);
+}
+
+void DocumentSpool::start(int descriptor, const QString& title)
+{
+    QPointer<DocumentSpool> self(this);
+    const int own = fcntl(descriptor, F_DUPFD_CLOEXEC, 3);
+    WorkQueue().async([self, own, title, stop = stop_] {
+        SpooledDocument document = spool(own, title, stop);
+        if (own >= 0)
+            close(own);
+        mainQueue().async([self, document = std::move(document), stop] {
+            if (self && !stop->load())
+                Q_EMIT self->finished(document);
+        });
+    });
+}
+
+void removeOldSpools()
+{
+    for (const QString& folder : spoolFolders()) {
+        if (isOurs(folder))
+            QDir(folder).removeRecursively();
+    }
+}
+
+} // namespace halvern

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/printing/cups_connection.h"
+#include "portal/document_kind.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace halvern {
+
+/// A document in a file that only this user may read. The file goes with the last copy. A value.
+struct SpooledDocument {
+    std::shared_ptr<const QString> path; ///< null if there is a problem
+    DocumentKind kind = DocumentKind::unknown;
+    QString problem; ///< a sentence for the user
+};
+
+/// Reads a document from a descriptor, wherever it stands, to its end: of a file, a pipe or a socket. A
+/// worker does it, into the user's run-time folder, or, where that is full, into the one for large temporary
+/// files. Main thread only.
+class DocumentSpool : public QObject {
+    Q_OBJECT
+
+public:
+    /// Deleting it stops the reading.
+    ~DocumentSpool() override;
+
+    /// Once. `descriptor` is copied; `title` is what the file is called.
+    void start(int descriptor, const QString& title);
+
+Q_SIGNALS:
+    void finished(const halvern::SpooledDocument& document);
+
+private:
+    cups::CancelFlag stop_ = cups::makeCancelFlag();
+};
+
+/// Removes what a program that was ended has left in the folders.
+void removeOldSpools();
+
+} // namespace halvern

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "portal/notices.h"
+
+#include "platform/foundation/display_text.h"
+#include "platform/toolkit/plain_text.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QMessageBox>
+
+namespace halvern {
+
+namespace {
+
+const QString kService = QStringLiteral("org.freedesktop.Notifications");
+const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
+constexpr int kPatience = 3000; // milliseconds
+
+} // namespace
+
+Notices::Notices()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect(kService, kPath, kService, QStringLiteral("ActionInvoked"), this, SLOT(act(uint, QString)));
+    bus.connect(kService, kPath, kService, QStringLiteral("NotificationClosed"), this, SLOT(forget(uint)));
+}
+
+void Notices::tell(const QString& application, const QString& sentence, const std::shared_ptr<void>& keeps)
+{
+    const Notice notice{application.isEmpty() ? tr("Printing")
+                                              : tr("Printing from %1").arg(isolated(application)),
+                        sentence, keeps};
+    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Notify"));
+    const QStringList actions{QStringLiteral("default"), tr("Show"), QStringLiteral("show"), tr("Show")};
+    // The body is markup.
+    call.setArguments({QStringLiteral("halvern-print"), 0U, QStringLiteral("printer"), notice.title,
+                       displayText(sentence).toHtmlEscaped(), actions,
+                       QVariantMap{{QStringLiteral("urgency"), QVariant::fromValue(uchar(2))}}, -1});
+    auto* answer =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, kPatience), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, notice] {
+        answer->deleteLater();
+        const QDBusPendingReply<uint> number = *answer;
+        if (number.isError())
+            show(notice);
+        else
+            shown_.insert(number.value(), notice);
+    });
+}
+
+void Notices::act(uint number, const QString&)
+{
+    if (shown_.contains(number))
+        show(shown_.take(number));
+}
+
+void Notices::forget(uint number)
+{
+    shown_.remove(number);
+}
+
+void Notices::show(const Notice& notice)
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, QString(), QString(), QMessageBox::Close);
+    box->setObjectName(QStringLiteral("failure"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    setPlainTitle(box, notice.title);
+    box->setText(displayText(notice.sentence)); // plain: its format says so
+    box->setProperty("keeps", QVariant::fromValue(notice.keeps));
+    box->setWindowModality(Qt::NonModal);
+    box->show();
+}
+
+} // namespace halvern

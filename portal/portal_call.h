@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/window/parent_window.h"
+#include "portal/application_settings.h"
+#include "portal/notices.h"
+#include "portal/token_store.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusMessage>
+
+namespace halvern {
+
+class Life;
+class PanelSource;
+class PrintDialog;
+
+/// What the calls of one program share. It outlives them.
+struct PortalRoom {
+    PanelSource& panels;
+    TokenStore& tokens;
+    Notices& notices;
+    Life& life;
+};
+
+/// The answers of the portal.
+enum class PortalResponse : uint { done = 0, cancelled = 1, failed = 2 };
+
+/// What every call says.
+struct CallDetails {
+    QString handle; ///< the path of the object that ends the call
+    QString application;
+    QString parentWindow;
+    QString title;
+    QVariantMap options;
+};
+
+/// A call that is answered when its dialog has been, and the object by which whoever called takes it back.
+/// Main thread only.
+class PortalCall : public QObject {
+    Q_OBJECT
+
+public:
+    /// Makes the answer to `message` a late one.
+    PortalCall(PortalRoom room, CallDetails details, const QDBusMessage& message);
+    /// Answers, if nobody has.
+    ~PortalCall() override;
+
+    virtual void start() = 0;
+
+    /// Closes what is open, and answers that the call has failed.
+    void close();
+
+    const QString& caller() const { return caller_; }
+
+Q_SIGNALS:
+    /// Answered, and nothing is left to do.
+    void over();
+
+protected:
+    /// The answer; later ones are not sent.
+    void answer(PortalResponse response, const QVariantMap& results = {});
+
+    bool isAnswered() const { return isAnswered_; }
+
+    /// Shows a dialog above the application's window.
+    void showDialog(PrintDialog& dialog);
+
+    QString text(const char* option) const;
+
+    bool isSet(const char* option, bool otherwise = false) const;
+
+    /// What the user calls the application; empty if nobody knows.
+    const QString& applicationsName() const { return applicationsName_; }
+
+    PortalRoom room_;
+    CallDetails details_;
+    std::shared_ptr<void> keepsAlive_;
+
+private:
+    QDBusMessage message_;
+    QString caller_;
+    QString applicationsName_;
+    std::shared_ptr<QWindow> parent_;
+    bool isAnswered_ = false;
+};
+
+/// The object at a call's handle.
+class RequestAdaptor : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
+
+public:
+    explicit RequestAdaptor(PortalCall* call) : QDBusAbstractAdaptor(call), call_(call) {}
+
+public Q_SLOTS:
+    void Close(const QDBusMessage& message);
+
+private:
+    PortalCall* call_;
+};
+
+} // namespace halvern

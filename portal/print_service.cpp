@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "portal/print_service.h"
+
+#include "portal/prepare_call.h"
+#include "portal/print_call.h"
+#include "portal/sent_job.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+
+namespace halvern {
+
+namespace {
+
+const QString kName = QStringLiteral("org.freedesktop.impl.portal.desktop.tessarin");
+const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+
+} // namespace
+
+PrintService::PrintService(PortalTimes times) : tokens_(times.token), life_(times.idle)
+{
+    new PrintAdaptor(this);
+    callers_.setConnection(QDBusConnection::sessionBus());
+    callers_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&callers_, &QDBusServiceWatcher::serviceUnregistered, this, [this](const QString& caller) {
+        callers_.removeWatchedService(caller);
+        for (PortalCall* call : findChildren<PortalCall*>()) {
+            if (call->caller() == caller)
+                call->close();
+        }
+    });
+    connect(&tokens_, &TokenStore::emptied, this, [this] { heldForTokens_.reset(); });
+    connect(&life_, &Life::over, this, &PrintService::leave);
+}
+
+PrintService::~PrintService()
+{
+    // They use what goes next.
+    qDeleteAll(findChildren<PortalCall*>());
+    qDeleteAll(findChildren<SentJob*>());
+}
+
+QString PrintService::enter()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return tr("There is no session bus: %1.").arg(bus.lastError().message());
+    if (!bus.registerObject(kPath, this) || !bus.registerService(kName))
+        return tr("Another halvern-print-portal runs in this session already.");
+    return {};
+}
+
+// Whoever calls from now on starts a new program; what came before is still served.
+void PrintService::leave()
+{
+    QDBusConnection::sessionBus().unregisterService(kName);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!findChild<PortalCall*>())
+                Q_EMIT over();
+            else
+                QDBusConnection::sessionBus().registerService(kName);
+        },
+        Qt::QueuedConnection);
+}
+
+void PrintService::begin(PortalCall* call)
+{
+    call->setParent(this);
+    callers_.addWatchedService(call->caller());
+    connect(call, &PortalCall::over, call, [this, call] {
+        if (!tokens_.isEmpty())
+            heldForTokens_ = life_.hold();
+        call->deleteLater();
+    });
+    call->start();
+}
+
+void PrintService::prepare(CallDetails details, const QVariantMap& settings, const QVariantMap& pageSetup,
+                           const QDBusMessage& message)
+{
+    const ApplicationSettings read(settings, pageSetup);
+    for (const QString& key : read.refused())
+        qInfo("\"%s\" of the application's settings is left out.", qUtf8Printable(key));
+    begin(new PrepareCall({panels_, tokens_, notices_, life_}, std::move(details), read, message));
+}
+
+void PrintService::print(CallDetails details, const QDBusUnixFileDescriptor& document,
+                         const QDBusMessage& message)
+{
+    auto* call = new PrintCall({panels_, tokens_, notices_, life_}, std::move(details), document, message);
+    connect(call, &PrintCall::sent, this, [this](SentJob* job) {
+        job->setParent(this);
+        connect(job, &SentJob::over, job, &QObject::deleteLater);
+    });
+    begin(call);
+}
+
+uint PrintAdaptor::PreparePrint(const QDBusObjectPath& handle, const QString& application,
+                                const QString& parentWindow, const QString& title,
+                                const QVariantMap& settings, const QVariantMap& pageSetup,
+                                const QVariantMap& options, const QDBusMessage& message, QVariantMap&)
+{
+    service_->prepare({handle.path(), application, parentWindow, title, options}, settings, pageSetup,
+                      message);
+    return 0;
+}
+
+uint PrintAdaptor::Print(const QDBusObjectPath& handle, const QString& application,
+                         const QString& parentWindow, const QString& title,
+                         const QDBusUnixFileDescriptor& document, const QVariantMap& options,
+                         const QDBusMessage& message, QVariantMap&)
+{
+    service_->print({handle.path(), application, parentWindow, title, options}, document, message);
+    return 0;
+}
+
+} // namespace halvern

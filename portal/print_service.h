@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/session/plugin_loader.h"
+#include "portal/life.h"
+#include "portal/portal_call.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
+#include <QDBusUnixFileDescriptor>
+
+namespace halvern {
+
+/// How long things are kept.
+struct PortalTimes {
+    std::chrono::milliseconds idle = std::chrono::seconds(60);
+    std::chrono::milliseconds token = std::chrono::minutes(10);
+};
+
+/// The desktop's print portal, as far as it shows dialogs and prints: what the portal's front end calls. Main
+/// thread only.
+class PrintService : public QObject {
+    Q_OBJECT
+
+public:
+    explicit PrintService(PortalTimes times = {});
+    ~PrintService() override;
+
+    /// Puts the service on the session bus. The sentence why it cannot be; empty if it is there.
+    QString enter();
+
+    void prepare(CallDetails details, const QVariantMap& settings, const QVariantMap& pageSetup,
+                 const QDBusMessage& message);
+    void print(CallDetails details, const QDBusUnixFileDescriptor& document, const QDBusMessage& message);
+
+Q_SIGNALS:
+    /// Nothing has been going on for a while, and nobody reaches the service any more.
+    void over();
+
+private:
+    void begin(PortalCall* call);
+    void leave();
+
+    PluginLoader panels_;
+    TokenStore tokens_;
+    Notices notices_;
+    Life life_;
+    std::shared_ptr<void> heldForTokens_;
+    QDBusServiceWatcher callers_;
+};
+
+/// The service's object on the bus.
+class PrintAdaptor : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Print")
+
+public:
+    explicit PrintAdaptor(PrintService* service) : QDBusAbstractAdaptor(service), service_(service) {}
+
+public Q_SLOTS:
+    uint PreparePrint(const QDBusObjectPath& handle, const QString& application, const QString& parentWindow,
+                      const QString& title, const QVariantMap& settings, const QVariantMap& pageSetup,
+                      const QVariantMap& options, const QDBusMessage& message, QVariantMap& results);
+    uint Print(const QDBusObjectPath& handle, const QString& application, const QString& parentWindow,
+               const QString& title, const QDBusUnixFileDescriptor& document, const QVariantMap& options,
+               const QDBusMessage& message, QVariantMap& results);
+
+private:
+    PrintService* service_;
+};
+
+} // namespace halvern

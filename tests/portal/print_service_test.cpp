@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/window/print_dialog.h"
+#include "dialog/window/review_switch.h"
+#include "portal/print_service.h"
+#include "portal/sent_job.h"
+#include "tests/support/files.h"
+#include "tests/support/private_bus.h"
+#include "tests/support/real_dialog.h"
+#include "tests/support/server_test.h"
+
+#include <QBuffer>
+#include <QDBusConnection>
+#include <QDBusPendingReply>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSpinBox>
+
+#include <unistd.h>
+
+namespace halvern {
+namespace {
+
+using Answer = QDBusPendingReply<uint, QVariantMap>;
+
+const QString kName = q("org.freedesktop.impl.portal.desktop.tessarin");
+const QString kPath = q("/org/freedesktop/portal/desktop");
+
+QByteArray twoPages()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    QPainter painter(&writer);
+    painter.drawText(1000, 1000, q("one"));
+    writer.newPage();
+    painter.drawText(1000, 1000, q("two"));
+    painter.end();
+    return buffer.data();
+}
+
+template <class Window> Window* shown()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* window = qobject_cast<Window*>(widget); window && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+/// The service on a session bus of its own, and a front end that calls it.
+class Portal : public ServerTest {
+protected:
+    static void SetUpTestSuite()
+    {
+        bus = std::make_unique<PrivateBus>("DBUS_SESSION_BUS_ADDRESS");
+        ServerTest::SetUpTestSuite();
+        ASSERT_TRUE(server->addQueue(q("Tessarin"), {}, {}, {q("--default")})) << qPrintable(server->error());
+    }
+
+    static void TearDownTestSuite()
+    {
+        QDBusConnection::disconnectFromBus(q("qt_default_session_bus"));
+        ServerTest::TearDownTestSuite();
+        bus.reset();
+    }
+
+    Portal() { EXPECT_EQ(service.enter(), QString()); }
+
+    ~Portal() override
+    {
+        QDBusConnection::disconnectFromBus(q("front end"));
+        QDBusConnection::sessionBus().unregisterService(kName);
+        QDBusConnection::sessionBus().unregisterObject(kPath);
+    }
+
+    Answer call(const char* method, const QVariantList& arguments)
+    {
+        QDBusMessage message =
+            QDBusMessage::createMethodCall(kName, kPath, q("org.freedesktop.impl.portal.Print"), q(method));
+        message.setArguments(arguments);
+        return frontEnd.asyncCall(message);
+    }
+
+    Answer prepare(const QVariantMap& settings = {}, const QString& handle = q("/request/prepare"))
+    {
+        return call("PreparePrint", {QVariant::fromValue(QDBusObjectPath(handle)), q("org.example.Editor"),
+                                     QString(), q("Print"), settings, QVariantMap(), QVariantMap()});
+    }
+
+    Answer print(const QByteArray& document, const QVariantMap& options)
+    {
+        int ends[2];
+        EXPECT_EQ(pipe(ends), 0);
+        QDBusUnixFileDescriptor descriptor;
+        descriptor.giveFileDescriptor(ends[0]);
+        const Answer answer =
+            call("Print", {QVariant::fromValue(QDBusObjectPath(q("/request/print"))), q("org.example.Editor"),
+                           QString(), q("Letter"), QVariant::fromValue(descriptor), options});
+        EXPECT_EQ(write(ends[1], document.constData(), size_t(document.size())), document.size());
+        close(ends[1]);
+        return answer;
+    }
+
+    static bool isAnswered(const Answer& answer)
+    {
+        return waitUntil([&] { return answer.isFinished(); }) && answer.isValid();
+    }
+
+    static int lastJob()
+    {
+        int last = 0;
+        for (const QString& name : QDir(server->jobsDir()).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            last = std::max(last, name.toInt());
+        return last;
+    }
+
+    static PrintDialog* readyDialog()
+    {
+        PrintDialog* dialog = nullptr;
+        waitUntil([&] { return (dialog = shown<PrintDialog>()); });
+        auto* print = dialog->findChild<QPushButton*>(q("printButton"));
+        return waitUntil([&] { return print->isEnabled(); }) ? dialog : nullptr;
+    }
+
+    QVariantMap accept(int copies)
+    {
+        const Answer answer = prepare({{q("n-copies"), QString::number(copies)}});
+        readyDialog()->findChild<QPushButton*>(q("printButton"))->click();
+        EXPECT_TRUE(isAnswered(answer));
+        EXPECT_EQ(answer.argumentAt<0>(), 0U);
+        return answer.argumentAt<1>();
+    }
+
+    static inline std::unique_ptr<PrivateBus> bus;
+    PrintService service;
+    QDBusConnection frontEnd =
+        QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), q("front end"));
+};
+
+TEST_F(Portal, PrintsEachCopyOnceAndATokenOnce)
+{
+    const QVariantMap results = accept(3);
+    const auto settings = qdbus_cast<QVariantMap>(results.value(q("settings")));
+    EXPECT_EQ(settings.value(q("n-copies")), q("1"));
+    EXPECT_TRUE(settings.contains(q("cups-PaperTone")));
+    EXPECT_TRUE(qdbus_cast<QVariantMap>(results.value(q("page-setup"))).contains(q("MarginTop")));
+    const QVariantMap token{{q("token"), results.value(q("token"))}};
+    const Answer printed = print(twoPages(), token);
+    ASSERT_TRUE(isAnswered(printed));
+    EXPECT_EQ(printed.argumentAt<0>(), 0U);
+    EXPECT_FALSE(shown<PrintDialog>());
+    EXPECT_TRUE(waitUntil([this] { return !service.findChild<SentJob*>(); }));
+    EXPECT_EQ(sheetsOf(*server, lastJob()), 6);
+
+    const Answer stale = print(twoPages(), token);
+    PrintDialog* const dialog = readyDialog();
+    ASSERT_TRUE(dialog) << "with a number that was used, the dialog";
+    dialog->reject();
+    ASSERT_TRUE(isAnswered(stale));
+    EXPECT_EQ(stale.argumentAt<0>(), 1U);
+}
+
+TEST_F(Portal, ShowsTheDocumentFirstIfTheUserWantsTo)
+{
+    const Answer answer = prepare();
+    PrintDialog* dialog = readyDialog();
+    auto* const review = dialog->findChild<QCheckBox*>(q("review"));
+    review->setChecked(true);
+    dialog->findChild<QSpinBox*>(q("copies"))->setValue(2);
+    dialog->findChild<QPushButton*>(q("printButton"))->click();
+    ASSERT_TRUE(isAnswered(answer));
+    const Answer printed = print(twoPages(), {{q("token"), answer.argumentAt<1>().value(q("token"))}});
+    dialog = readyDialog();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->findChild<QSpinBox*>(q("copies"))->value(), 2);
+    dialog->findChild<QPushButton*>(q("printButton"))->click();
+    ASSERT_TRUE(isAnswered(printed));
+    EXPECT_EQ(printed.argumentAt<0>(), 0U);
+    EXPECT_TRUE(waitUntil([&] { return !dialog->isRunning(); }));
+    EXPECT_EQ(sheetsOf(*server, lastJob()), 4);
+    dialog->reject();
+    std::unique_ptr<QCheckBox>(makeReviewSwitch(nullptr))->setChecked(false);
+}
+
+TEST_F(Portal, TellsTheUserWhatCannotBePrinted)
+{
+    const Answer garbage = print("no document", {{q("token"), q("of a wrong type")}});
+    ASSERT_TRUE(isAnswered(garbage));
+    EXPECT_EQ(garbage.argumentAt<0>(), 2U);
+    QMessageBox* box = nullptr;
+    ASSERT_TRUE(waitUntil([&] { return (box = shown<QMessageBox>()); })) << "nobody shows notifications here";
+    EXPECT_TRUE(box->text().contains(q("PDF")));
+    box->close();
+    drainMainQueue();
+}
+
+TEST_F(Portal, ClosesWhatNobodyWaitsForAndLeavesNothing)
+{
+    const Answer closed = prepare();
+    ASSERT_TRUE(readyDialog());
+    QDBusMessage close = QDBusMessage::createMethodCall(kName, q("/request/prepare"),
+                                                        q("org.freedesktop.impl.portal.Request"), q("Close"));
+    QDBusConnection::sessionBus().call(close, QDBus::NoBlock);
+    frontEnd.asyncCall(close);
+    ASSERT_TRUE(isAnswered(closed));
+    EXPECT_EQ(closed.argumentAt<0>(), 2U);
+    drainMainQueue();
+    EXPECT_FALSE(shown<PrintDialog>());
+
+    constexpr int kAtOnce = 20;
+    for (int i = 0; i < kAtOnce; ++i)
+        prepare({}, q("/request/n%1").arg(i));
+    EXPECT_TRUE(waitUntil([this] { return service.findChildren<PortalCall*>().size() == kAtOnce; }));
+    QDBusConnection::disconnectFromBus(q("front end"));
+    frontEnd = QDBusConnection(QString());
+    EXPECT_TRUE(waitUntil([this] { return !service.findChild<PortalCall*>(); }));
+    EXPECT_FALSE(shown<PrintDialog>());
+    EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR") + q("/halvern-print-portal")).isEmpty());
+}
+
+TEST_F(Portal, EndsWhenNothingGoesOn)
+{
+    PrintService idle({std::chrono::milliseconds(0)});
+    bool isOver = false;
+    QObject::connect(&idle, &PrintService::over, [&] { isOver = true; });
+    EXPECT_TRUE(waitUntil([&] { return isOver; }));
+}
+
+} // namespace
+} // namespace halvern
