@@ -2,6 +2,7 @@
 // How long a user waits for the dialog: prints microseconds from the start of the process, as its caller took
 // it (HALVERN_BENCH_START, microseconds since the epoch), until the window is painted and takes input, and
 // until printer, options and photo are there too. "bare" shows an empty window instead, for comparison.
+#include "dialog/photo/decoder_process.h"
 #include "dialog/program/application.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/window/print_dialog.h"
@@ -88,6 +89,9 @@ int runDialog(QTextStream& out, const QString& photo)
 int main(int argc, char** argv)
 {
     prepareProcess();
+    std::optional<DecoderLease> decoders;
+    if (argc == 2 && qstrcmp(argv[1], "bare") != 0)
+        decoders.emplace();
     QApplication app(argc, argv);
     QTextStream out(stdout);
     const QStringList arguments = QCoreApplication::arguments();

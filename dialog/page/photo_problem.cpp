@@ -20,6 +20,8 @@ struct Words {
 QString pattern(PhotoFault fault)
 {
     switch (fault) {
+    case PhotoFault::none:
+        break;
     case PhotoFault::missing:
         return Words::tr("There is no file \"%1\". Check its name.");
     case PhotoFault::isFolder:
@@ -29,7 +31,15 @@ QString pattern(PhotoFault fault)
     case PhotoFault::empty:
         return Words::tr("\"%1\" is empty. Copy it from the camera again.");
     case PhotoFault::noPicture:
-        return Words::tr("\"%1\" is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.");
+        return Words::tr("\"%1\" is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, "
+                         "AVIF or PDF file.");
+    case PhotoFault::cameraRaw:
+        return Words::tr(
+            "\"%1\" is camera RAW, which has to be developed before it can be printed. Export it "
+            "as JPEG or TIFF from your photo program and print that.");
+    case PhotoFault::unsupported:
+        return Words::tr("\"%1\" is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 "
+                         "or 16 bits, from your photo program and print that.");
     case PhotoFault::damaged:
         return Words::tr("\"%1\" is damaged and cannot be read. Export it from your photo program again.");
     case PhotoFault::partMissing:
@@ -41,6 +51,15 @@ QString pattern(PhotoFault fault)
         return Words::tr("\"%1\" is locked with a password. Save a copy without one and print that.");
     case PhotoFault::changed:
         return Words::tr("\"%1\" has changed meanwhile. Open it again.");
+    case PhotoFault::crashed:
+        return Words::tr("\"%1\" made the program that reads photos fail: it is damaged, or made to do harm. "
+                         "Export it from your photo program again.");
+    case PhotoFault::stuck:
+        return Words::tr("\"%1\" takes too long to read: it is damaged, or made to do harm. Export it from "
+                         "your photo program again.");
+    case PhotoFault::noReader:
+        return Words::tr("\"%1\" cannot be read: the program that reads photos, halvern-decode, is not "
+                         "installed beside this one or cannot be started. Install the dialog again.");
     }
     return {};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/preview/sharp_photo_reader.h"
 
+#include "dialog/page/picture.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/foundation/units.h"
 
@@ -20,7 +21,14 @@ int resolutionFor(const Photo& photo, const QSize& dots)
 
 QImage readInDots(const Photo& photo, const QSize& dots, QString* problem)
 {
-    QImage image = readPixels(photo, resolutionFor(photo, dots), problem);
+    const int leastEdge = std::max(dots.width(), dots.height());
+    const std::unique_ptr<PictureRows> rows =
+        openPixels(photo, resolutionFor(photo, dots), leastEdge, problem);
+    if (!rows)
+        return {};
+    const Picture picture = readPicture(*rows);
+    *problem = picture.problem;
+    QImage image = picture.image;
     if (image.width() > dots.width() && image.height() > dots.height())
         image = image.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied

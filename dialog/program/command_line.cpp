@@ -4,6 +4,7 @@
 #include "dialog/options/back_lines.h"
 #include "dialog/options/preset.h"
 #include "dialog/page/photo_problem.h"
+#include "dialog/photo/decoder_process.h"
 #include "platform/foundation/display_text.h"
 
 #include <QCommandLineParser>
@@ -421,7 +422,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     if (parser.isSet(version))
         return {std::nullopt,
                 QCoreApplication::applicationName() + QLatin1Char(' ') +
-                    QCoreApplication::applicationVersion(),
+                    QCoreApplication::applicationVersion() + QLatin1Char('\n') + readableFormats(),
                 kExitPrinted};
     CommandLine line;
     line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);

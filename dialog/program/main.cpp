@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/pdf_output.h"
+#include "dialog/photo/decoder_process.h"
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/program/dialog_result.h"
@@ -125,7 +126,12 @@ int main(int argc, char** argv)
     QStringList given;
     for (int i = 0; i < argc; ++i)
         given.append(QString::fromLocal8Bit(argv[i]));
-    prepareProcess(asksForWindow(given));
+    const bool showsWindow = asksForWindow(given);
+    prepareProcess(showsWindow);
+    // It gets ready while the window does.
+    std::optional<DecoderLease> decoders;
+    if (showsWindow)
+        decoders.emplace();
     QApplication app(argc, argv);
     const QList<std::shared_ptr<QTranslator>> translators = prepareApplication();
     const ParsedCommandLine parsed = parseCommandLine(QCoreApplication::arguments());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/page/photo.h"
+#include "dialog/photo/decoder_process.h"
 #include "platform/printing/cups_connection.h"
 
 #include <QObject>
@@ -64,6 +65,7 @@ private:
     void take(const PhotoFile& file);
     void tellDamage(const QString& sentence);
 
+    DecoderLease decoders_; // warm while photos may be read
     QStringList files_;
     bool printDamaged_;
     QList<QPointF> positions_;

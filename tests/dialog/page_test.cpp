@@ -5,6 +5,7 @@
 #include "dialog/page/page_renderer.h"
 #include "dialog/page/photo.h"
 #include "dialog/page/photo_opening.h"
+#include "dialog/photo/decoder_process.h"
 #include "dialog/preview/preview_widget.h"
 #include "tests/support/test.h"
 
@@ -145,6 +146,7 @@ protected:
         return Poppler::Document::loadFromData(pdf);
     }
 
+    DecoderLease decoders;
     QTemporaryDir folder;
     QByteArray pdf;
 };
@@ -418,7 +420,7 @@ TEST_F(PageTest, FilesThatCannotBePrintedSayWhyAndWhatToDo)
         {folder.filePath(q("none.jpg")), "no file"},
         {folder.path(), "folder"},
         {put("empty.jpg", {}), "empty"},
-        {put("text.jpg", "hello, I am a text\n"), "JPEG, PNG, TIFF or PDF"},
+        {put("text.jpg", "hello, I am a text\n"), "not a picture that can be printed"},
         {put("half.jpg", half), "damaged"},
         {put("broken.pdf", "%PDF-1.5\nnothing"), "damaged"},
     };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dialog/page/jpeg_decoder.h"
+#include "dialog/decode/jpeg_decoder.h"
 
 #include <algorithm>
 #include <csetjmp>
@@ -95,7 +95,7 @@ struct JpegDecoder::State {
     }
 };
 
-JpegDecoder::JpegDecoder(const QByteArray& bytes) : bytes_(bytes), state_(std::make_unique<State>())
+JpegDecoder::JpegDecoder(FileBytes bytes) : bytes_(bytes), state_(std::make_unique<State>())
 {
     jpeg_decompress_struct& info = state_->info;
     info.err = jpeg_std_error(&state_->errors);
@@ -107,8 +107,7 @@ JpegDecoder::JpegDecoder(const QByteArray& bytes) : bytes_(bytes), state_(std::m
     const bool isRead = state_->guarded([&info, this] {
         jpeg_create_decompress(&info);
         info.progress = &state_->progress;
-        jpeg_mem_src(&info, reinterpret_cast<const unsigned char*>(bytes_.constData()),
-                     static_cast<unsigned long>(bytes_.size()));
+        jpeg_mem_src(&info, bytes_.data(), bytes_.size());
         jpeg_save_markers(&info, kProfileMarker, 0xFFFF);
         jpeg_read_header(&info, TRUE);
     });
@@ -139,26 +138,27 @@ JpegHeader JpegDecoder::describe()
     return header;
 }
 
-void JpegDecoder::scaleDown(int leastEdge)
+QSize JpegDecoder::sizeFor(int leastEdge)
 {
+    jpeg_decompress_struct& info = state_->info;
     const int edge = std::max(header_->size.width(), header_->size.height());
     int eighths = kEighths;
     while (leastEdge > 0 && eighths > 1 && edge * (eighths / 2) / kEighths >= leastEdge)
         eighths /= 2;
-    state_->info.scale_num = static_cast<unsigned int>(eighths);
-    state_->info.scale_denom = kEighths;
+    info.scale_num = static_cast<unsigned int>(eighths);
+    info.scale_denom = kEighths;
+    if (!state_->guarded([&info] { jpeg_calc_output_dimensions(&info); }))
+        return {};
+    return {int(info.output_width), int(info.output_height)};
 }
 
-QSize JpegDecoder::start(int leastEdge)
+bool JpegDecoder::start()
 {
     jpeg_decompress_struct& info = state_->info;
-    scaleDown(leastEdge);
     info.out_color_space = info.num_components == 4   ? JCS_CMYK
                            : info.num_components == 1 ? JCS_GRAYSCALE
                                                       : JCS_RGB;
-    if (!state_->guarded([&info] { jpeg_start_decompress(&info); }))
-        return {};
-    return {int(info.output_width), int(info.output_height)};
+    return state_->guarded([&info] { jpeg_start_decompress(&info); });
 }
 
 bool JpegDecoder::readRow(uchar* row)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/decode/picture_source.h"
+
 #include <QByteArray>
 #include <QSize>
 
@@ -23,16 +25,19 @@ struct JpegHeader {
 /// Decodes a JPEG file that is in memory. Any thread, one at a time.
 class JpegDecoder {
 public:
-    explicit JpegDecoder(const QByteArray& bytes);
+    explicit JpegDecoder(FileBytes bytes);
     ~JpegDecoder();
 
     /// Nothing if it is no JPEG file, or one that cannot be read.
     const std::optional<JpegHeader>& header() const { return header_; }
 
-    /// Starts to decode: gray, RGB or four inks with 0 for none, 8 bits each, as they are stored. The picture
-    /// may be scaled down as long as its longer edge has `leastEdge` pixels; 0: never. Answers its size;
-    /// empty if it cannot be decoded. Call it once, and with a header only.
-    QSize start(int leastEdge);
+    /// Chooses the size to decode in: scaled down as long as the longer edge has `leastEdge` pixels; 0:
+    /// never. With a header only.
+    QSize sizeFor(int leastEdge);
+
+    /// Starts to decode: gray, RGB or four inks with 0 for none, 8 bits each, as they are stored. False if it
+    /// cannot. Call it once, and with a header only.
+    bool start();
 
     /// The next row, into room for it. False if it cannot be decoded.
     bool readRow(uchar* row);
@@ -44,9 +49,8 @@ private:
     struct State;
 
     JpegHeader describe();
-    void scaleDown(int leastEdge);
 
-    QByteArray bytes_;
+    FileBytes bytes_;
     std::unique_ptr<State> state_;
     std::optional<JpegHeader> header_;
 };

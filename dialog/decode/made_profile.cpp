@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/decode/made_profile.h"
+
+#include <lcms2.h>
+
+namespace halvern {
+
+QByteArray profileFor(const Primaries& primaries, double gamma)
+{
+    const double srgb[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
+    cmsToneCurve* curve =
+        gamma > 0.0 ? cmsBuildGamma(nullptr, gamma) : cmsBuildParametricToneCurve(nullptr, 4, srgb);
+    const auto color = [](const Chromaticity& c) { return cmsCIExyY{c.x, c.y, 1.0}; };
+    const cmsCIExyY white = color(primaries.white);
+    const cmsCIExyYTRIPLE triple{color(primaries.red), color(primaries.green), color(primaries.blue)};
+    cmsToneCurve* curves[] = {curve, curve, curve};
+    cmsHPROFILE profile = curve ? cmsCreateRGBProfile(&white, &triple, curves) : nullptr;
+    cmsFreeToneCurve(curve);
+    QByteArray bytes;
+    cmsUInt32Number size = 0;
+    if (profile && cmsSaveProfileToMem(profile, nullptr, &size)) {
+        bytes.resize(size);
+        if (!cmsSaveProfileToMem(profile, bytes.data(), &size))
+            bytes.clear();
+    }
+    if (profile)
+        cmsCloseProfile(profile);
+    return bytes;
+}
+
+} // namespace halvern

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/decode/image_source.h"
+#include "dialog/decode/readers.h"
+
+#include <poppler-qt6.h>
+
+#include <algorithm>
+#include <numeric>
+
+namespace halvern {
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+constexpr double kMostPreviewResolution = 300.0;
+constexpr qsizetype kEndRange = 1024;
+
+class PdfReader : public PhotoReader {
+public:
+    explicit PdfReader(FileBytes bytes)
+        : bytes_(
+              QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()), qsizetype(bytes.size())))
+    {
+        Poppler::setDebugErrorFunction([](const QString&, const QVariant&) {}, {});
+        document_ = Poppler::Document::loadFromData(bytes_);
+        if (!document_)
+            throw Unreadable{PhotoFault::damaged};
+        if (document_->isLocked())
+            throw Unreadable{PhotoFault::locked};
+        if (document_->numPages() < 1)
+            throw Unreadable{PhotoFault::damaged};
+        document_->setRenderHint(Poppler::Document::Antialiasing);
+        document_->setRenderHint(Poppler::Document::TextAntialiasing);
+    }
+
+    QString kind() const override { return QStringLiteral("PDF"); }
+
+    QList<qint32> pages() const override
+    {
+        QList<qint32> pages(document_->numPages());
+        std::iota(pages.begin(), pages.end(), 0);
+        return pages;
+    }
+
+    bool isPdf() const override { return true; }
+
+    // What is missing at the end is invisible in the pages that are left.
+    bool isCutOff() const override
+    {
+        return !bytes_.last(std::min(bytes_.size(), kEndRange)).contains("%%EOF");
+    }
+
+    std::unique_ptr<PictureSource> open(const ReadRequest& request) override
+    {
+        const std::unique_ptr<Poppler::Page> page = document_->page(request.page);
+        if (!page)
+            throw Unreadable{PhotoFault::damaged};
+        const QSizeF size = page->pageSizeF();
+        const double longer = std::max(size.width(), size.height());
+        if (!(size.width() > 0.0 && size.height() > 0.0 && longer < 1e6))
+            throw Unreadable{PhotoFault::damaged};
+        const double fitting = request.leastEdge * kPointsPerInch / longer;
+        const double resolution =
+            request.resolution > 0 ? request.resolution : std::clamp(fitting, 1.0, kMostPreviewResolution);
+        const double scale = resolution / kPointsPerInch;
+        checkSize(qint64(size.width() * scale) + 1, qint64(size.height() * scale) + 1);
+        const QImage image = page->renderToImage(resolution, resolution);
+        if (image.isNull())
+            throw Unreadable{PhotoFault::damaged};
+        return std::make_unique<ImageSource>(image, isCutOff(), size);
+    }
+
+private:
+    QByteArray bytes_;
+    std::unique_ptr<Poppler::Document> document_;
+};
+
+} // namespace
+
+std::unique_ptr<PhotoReader> makePdfReader(FileBytes bytes)
+{
+    return std::make_unique<PdfReader>(bytes);
+}
+
+} // namespace halvern
