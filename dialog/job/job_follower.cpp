@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/job_follower.h"
 
-#include "platform/foundation/threads/work_queue.h"
-
 #include <QPointer>
 
 namespace halvern {
@@ -14,7 +12,11 @@ constexpr int kAskEveryMilliseconds = 300;
 } // namespace
 
 JobFollower::JobFollower(QString queue, int jobId, Patience patience, QObject* parent)
-    : QObject(parent), queue_(std::move(queue)), jobId_(jobId), stop_(cups::makeCancelFlag())
+    : QObject(parent),
+      queue_(std::move(queue)),
+      jobId_(jobId),
+      line_(std::make_shared<Line>()),
+      stop_(cups::makeCancelFlag())
 {
     for (QTimer* timer : {&timer_, &silence_, &patienceEnd_})
         timer->setSingleShot(true);
@@ -38,9 +40,12 @@ JobFollower::~JobFollower()
 void JobFollower::ask()
 {
     QPointer<JobFollower> self(this);
-    WorkQueue().async([self, queue = queue_, jobId = jobId_, sent = sent_, stop = stop_] {
-        const JobReadBack job = sent ? readBackJob(queue, jobId, *sent, stop) : JobReadBack();
-        const JobStatus status = askJobStatus(queue, jobId, stop);
+    questions_.async([self, line = line_, queue = queue_, jobId = jobId_, sent = sent_, stop = stop_] {
+        if (!line->server || !line->server->isConnected())
+            line->server = std::make_unique<cups::Connection>(stop, kJobQuestionLimits);
+        cups::Connection& server = *line->server;
+        const JobReadBack job = sent ? readBackJob(server, queue, jobId, *sent) : JobReadBack();
+        const JobStatus status = askJobStatus(server, queue, jobId);
         mainQueue().async([self, job, status, stop] {
             if (!self || stop->load())
                 return;

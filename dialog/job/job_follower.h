@@ -3,6 +3,7 @@
 
 #include "dialog/job/job_actions.h"
 #include "dialog/job/job_read_back.h"
+#include "platform/foundation/threads/work_queue.h"
 
 #include <QObject>
 #include <QTimer>
@@ -58,6 +59,11 @@ private:
     void tellSilence();
     void end(const JobStatus& status);
 
+    /// The connection that all questions share; touched by their queue only.
+    struct Line {
+        std::unique_ptr<cups::Connection> server;
+    };
+
     QString queue_;
     int jobId_;
     JobStatus status_;
@@ -65,6 +71,8 @@ private:
     QTimer timer_;
     QTimer silence_;
     QTimer patienceEnd_;
+    WorkQueue questions_;
+    std::shared_ptr<Line> line_;
     cups::CancelFlag stop_;
     bool wantsCancel_ = false;
     bool isCancelling_ = false;

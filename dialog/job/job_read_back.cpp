@@ -14,7 +14,6 @@ namespace halvern {
 
 namespace {
 
-constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
 constexpr qsizetype kMostTold = 8;
 
 struct Words {
@@ -125,10 +124,8 @@ void JobReadBack::conceal(const QSet<QString>& secrets)
     }
 }
 
-JobReadBack readBackJob(const QString& queue, int jobId, const OptionValues& sent,
-                        const cups::CancelFlag& cancelled)
+JobReadBack readBackJob(cups::Connection& server, const QString& queue, int jobId, const OptionValues& sent)
 {
-    cups::Connection server(cancelled, kLimits);
     if (!server.isConnected())
         return {};
     cups::Ipp request = cups::newRequest(IPP_OP_GET_JOB_ATTRIBUTES, queue);

@@ -34,8 +34,7 @@ struct JobReadBack {
 JobReadBack compareJob(const OptionValues& sent, _ipp_s* answer);
 
 /// Asks the server for the job and compares, on the calling worker.
-JobReadBack readBackJob(const QString& queue, int jobId, const OptionValues& sent,
-                        const cups::CancelFlag& cancelled);
+JobReadBack readBackJob(cups::Connection& server, const QString& queue, int jobId, const OptionValues& sent);
 
 /// What came of it as a sentence: short if all is as it was sent, else with what was added and changed.
 QString readBackSentence(const JobReadBack& job, int jobId);

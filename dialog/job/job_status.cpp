@@ -11,7 +11,6 @@ namespace halvern {
 namespace {
 
 // The next question follows soon.
-constexpr cups::Limits kLimits{std::chrono::seconds(3), std::chrono::seconds(3)};
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(JobStatus)
@@ -132,10 +131,15 @@ bool mayBeTheReason(const JobStatus& status)
 
 JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& cancelled)
 {
+    cups::Connection server(cancelled, kJobQuestionLimits);
+    return askJobStatus(server, queue, jobId);
+}
+
+JobStatus askJobStatus(cups::Connection& server, const QString& queue, int jobId)
+{
     static const char* const kAttributes[] = {"job-state", "job-state-reasons", "job-printer-state-message",
                                               "job-printer-state-reasons", "job-media-sheets-completed"};
     JobStatus status;
-    cups::Connection server(cancelled, kLimits);
     if (!server.isConnected()) {
         status.problem = server.error();
         return status;

@@ -40,6 +40,12 @@ struct JobStatus {
 /// more, it is asked once whether it knows the queue.
 JobStatus askJobStatus(const QString& queue, int jobId, const cups::CancelFlag& cancelled);
 
+/// The same over a connection that is there for many such questions.
+JobStatus askJobStatus(cups::Connection& server, const QString& queue, int jobId);
+
+/// What a server may take for a question about a job: the next one follows soon.
+inline constexpr cups::Limits kJobQuestionLimits{std::chrono::seconds(3), std::chrono::seconds(3)};
+
 /// Whether the job has ended for good.
 bool hasEnded(JobStage stage);
 
