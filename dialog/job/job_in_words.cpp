@@ -25,9 +25,6 @@ namespace {
 
 const QString kPageSize = QStringLiteral("PageSize");
 
-// The keywords with which printers print on both sides, and their words for one side.
-constexpr std::array kTwoSided{"TwoSided", "Duplex", "JCLDuplex", "EFDuplex", "EFDuplexing", "KD03Duplex"};
-constexpr std::array kOff{"none", "simplex", "false", "off"};
 constexpr double kSamePoints = 1.5;
 // PPDs count in whole points.
 constexpr double kSameMillimetres = 0.2;
@@ -68,11 +65,9 @@ bool isSoldInCentimetres(double points)
            (std::abs(std::round(halves) - halves) * kPointsPerInch / 2.0 < kSamePoints && off < 0.03);
 }
 
-bool isOff(const QString& choice)
+bool isOneSided(const QString& choice)
 {
-    return std::ranges::any_of(kOff, [&](const char* off) {
-        return choice.compare(QLatin1StringView(off), Qt::CaseInsensitive) == 0;
-    });
+    return isOffChoice(choice) || choice.compare(QLatin1StringView("simplex"), Qt::CaseInsensitive) == 0;
 }
 
 bool hasTwinWithMargins(const PpdModel& model, const ppd_size_t& size)
@@ -175,10 +170,15 @@ private:
             add(Words::tr("%1: %2").arg(job_.model.optionText(QStringLiteral("Resolution")), resolution));
         if (!isDefault("ColorModel"))
             add(takeText("ColorModel"));
-        for (const char* key : kTwoSided) {
-            if (const QString sides = take(key); !sides.isEmpty() && !isOff(sides))
-                add(Words::tr("two-sided: %1").arg(takeText(key)));
-        }
+        tellSides("TwoSided");
+        for (const char* key : kDuplexKeywords)
+            tellSides(key);
+    }
+
+    void tellSides(const char* key)
+    {
+        if (!isOneSided(take(key)))
+            add(Words::tr("two-sided: %1").arg(takeText(key)));
     }
 
     void tellPages()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/job_options.h"
 
+#include "dialog/options/given_options.h"
 #include "dialog/options/ppd_model.h"
 
 #include <algorithm>
@@ -30,9 +31,6 @@ constexpr std::array kNeutral{
     Neutral{"mirror", "false"}, Neutral{"print-scaling", "none"},      Neutral{"page-set", "all"},
     Neutral{"booklet", "off"},  Neutral{"outputorder", "normal"},      Neutral{"page-label", ""},
 };
-
-// The keywords with which PPDs print on both sides.
-constexpr std::array kDuplexKeywords{"Duplex", "JCLDuplex", "EFDuplex", "EFDuplexing", "KD03Duplex"};
 
 // The platform's own settings have reverse-domain names; they are not options of a printer.
 bool isPlatformSetting(const QString& key)

@@ -79,21 +79,24 @@ std::optional<QSizeF> customMeasures(const QString& keyword)
     return QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble()) * pointsIn(match.captured(3));
 }
 
-QString customText(const QString& keyword)
+QString measuresText(const QSizeF& points, bool isMetric, int decimals)
 {
-    const std::optional<QSizeF> points = customMeasures(keyword);
-    if (!points)
-        return keyword;
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    const bool isMetric = locale.measurementSystem() == QLocale::MetricSystem;
     const double unit = isMetric ? kPointsPerMillimetre : kPointsPerInch;
-    const double steps = isMetric ? 10.0 : 100.0;
+    const double steps = std::pow(10.0, isMetric ? decimals : 2);
     const auto number = [&](double length) {
         return locale.toString(std::round(length / unit * steps) / steps, 'g', 7);
     };
     return (isMetric ? Words::tr("%1 \u00d7 %2 mm") : Words::tr("%1 \u00d7 %2 in"))
-        .arg(number(points->width()), number(points->height()));
+        .arg(number(points.width()), number(points.height()));
+}
+
+QString customText(const QString& keyword)
+{
+    const std::optional<QSizeF> points = customMeasures(keyword);
+    return points ? measuresText(*points, QLocale().measurementSystem() == QLocale::MetricSystem, 1)
+                  : keyword;
 }
 
 double heightForPhoto(double width, const QSizeF& photo, const QMarginsF& margins)

@@ -28,6 +28,10 @@ std::optional<PaperLimits> paperLimits(ppd_file_t* file);
 QString customKeyword(const QSizeF& points);
 std::optional<QSizeF> customMeasures(const QString& keyword);
 
+/// Measures in the user's unit of length, "102 × 152 mm" or "4 × 6 in". Millimetres with this many decimals
+/// at most, inches with two.
+QString measuresText(const QSizeF& points, bool isMetric, int decimals = 0);
+
 /// A size of the user's own in words, "101.6 × 250 mm"; the keyword itself if it is none.
 QString customText(const QString& keyword);
 

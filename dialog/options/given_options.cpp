@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/given_options.h"
 
+#include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_lookup.h"
 #include "platform/foundation/near_names.h"
 #include "platform/foundation/units.h"
@@ -56,8 +57,6 @@ constexpr std::array kJobAttributes{
     "job-recipient-name",     "job-retain-until",       "finishings",       "output-bin",
     "print-content-optimize", "print-rendering-intent",
 };
-
-constexpr std::array kDuplexKeywords{"Duplex", "JCLDuplex", "EFDuplex", "EFDuplexing", "KD03Duplex"};
 
 struct Sides {
     const char* sides;
@@ -116,9 +115,8 @@ QString sizeWithMeasures(ppd_file_t* file, const pwg_media_t& media)
     }
     if (best)
         return QString::fromUtf8(best->name);
-    return file->variable_sizes
-               ? QStringLiteral("Custom.%1x%2mm").arg(media.width / 100.0).arg(media.length / 100.0)
-               : QString();
+    return file->variable_sizes ? customKeyword(QSizeF(media.width, media.length) * kPointsPerPwgUnit)
+                                : QString();
 }
 
 QString pageSizeFor(ppd_file_t* file, const QString& name)

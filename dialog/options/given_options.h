@@ -3,6 +3,8 @@
 
 #include "dialog/options/option_value.h"
 
+#include <array>
+
 struct ppd_file_s;
 using ppd_file_t = ppd_file_s;
 
@@ -48,6 +50,9 @@ struct UnderstoodOptions {
 /// the duplex option, "fit-to-page" a wish for the page. What would lay the page out a second time is left
 /// out with a sentence. Options that the PPD may know stay as they are. On the thread that owns `file`.
 UnderstoodOptions understand(ppd_file_t* file, const GivenOptions& given);
+
+/// The keywords with which PPDs print on both sides.
+inline constexpr std::array kDuplexKeywords{"Duplex", "JCLDuplex", "EFDuplex", "EFDuplexing", "KD03Duplex"};
 
 /// The option with which the printer prints on both sides; empty if it has none.
 QString duplexOption(ppd_file_t* file);

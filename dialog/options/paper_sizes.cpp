@@ -194,19 +194,6 @@ QString groupText(PaperGroup group)
     return Words::tr("Other sizes");
 }
 
-QString measuresText(const QSizeF& points, bool isMetric)
-{
-    const double unit = isMetric ? kPointsPerMillimetre : kPointsPerInch;
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    const double steps = isMetric ? 1.0 : 100.0;
-    const auto number = [&](double length) {
-        return locale.toString(std::round(length / unit * steps) / steps, 'g', 6);
-    };
-    const QString text = isMetric ? Words::tr("%1 \u00d7 %2 mm") : Words::tr("%1 \u00d7 %2 in");
-    return text.arg(number(points.width()), number(points.height()));
-}
-
 QString searchForm(const QString& typed)
 {
     QString form = typed.toLower();

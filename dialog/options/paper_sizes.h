@@ -28,9 +28,6 @@ struct PaperSize {
 /// A group's heading.
 QString groupText(PaperGroup group);
 
-/// The measures in the user's unit of length, "102 × 152 mm" or "4 × 6 in".
-QString measuresText(const QSizeF& points, bool isMetric);
-
 /// What a search among sizes finds this one by: its words and measures in millimetres, centimetres and
 /// inches, without blanks around the "x".
 QString searchText(const PaperSize& size);

@@ -93,8 +93,6 @@ bool hasSecret(ppd_file_t* file, const QString& key)
 QString customValueProblem(ppd_file_t* file, const ppd_cparam_t& parameter, const QString& key,
                            const QString& optionText, const QString& value, NumberReading reading)
 {
-    const auto& low = parameter.minimum;
-    const auto& high = parameter.maximum;
     switch (parameter.type) {
     case PPD_CUSTOM_INT:
     case PPD_CUSTOM_REAL:
@@ -107,10 +105,11 @@ QString customValueProblem(ppd_file_t* file, const ppd_cparam_t& parameter, cons
         return range ? numberProblem(optionText, number(value, isInteger, reading), *range) : QString();
     }
     case PPD_CUSTOM_STRING:
-        return lengthProblem(optionText, value, low.custom_string, high.custom_string);
     case PPD_CUSTOM_PASSCODE:
-    case PPD_CUSTOM_PASSWORD:
-        return lengthProblem(optionText, value, low.custom_password, high.custom_password);
+    case PPD_CUSTOM_PASSWORD: {
+        const ppd::Range lengths = ppd::parameterLimits(parameter);
+        return lengthProblem(optionText, value, int(lengths.minimum), int(lengths.maximum));
+    }
     default:
         return {};
     }

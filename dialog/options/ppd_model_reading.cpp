@@ -203,13 +203,11 @@ CustomValue PpdModel::customValue(const QString& key) const
     case PPD_CUSTOM_INVCURVE:
         return {Kind::number, ppd::customRange(file_.get(), key)};
     case PPD_CUSTOM_STRING:
-        return {Kind::text, ppd::Range{double(parameter->minimum.custom_string),
-                                       double(parameter->maximum.custom_string), true}};
+        return {Kind::text, ppd::parameterLimits(*parameter)};
     case PPD_CUSTOM_PASSCODE:
     case PPD_CUSTOM_PASSWORD:
         return {parameter->type == PPD_CUSTOM_PASSCODE ? Kind::digits : Kind::secret,
-                ppd::Range{double(parameter->minimum.custom_password),
-                           double(parameter->maximum.custom_password), true}};
+                ppd::parameterLimits(*parameter)};
     default:
         return {};
     }

@@ -2,11 +2,10 @@
 #include "dialog/program/option_listing.h"
 
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/ppd.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>
-
-#include <array>
 
 namespace halvern {
 
@@ -45,31 +44,6 @@ CustomKind kindOf(const ppd_cparam_t& parameter)
     }
 }
 
-// The members of the limits depend on the type.
-std::array<double, 2> limitsOf(const ppd_cparam_t& parameter)
-{
-    switch (parameter.type) {
-    case PPD_CUSTOM_INT:
-        return {double(parameter.minimum.custom_int), double(parameter.maximum.custom_int)};
-    case PPD_CUSTOM_CURVE:
-        return {double(parameter.minimum.custom_curve), double(parameter.maximum.custom_curve)};
-    case PPD_CUSTOM_INVCURVE:
-        return {double(parameter.minimum.custom_invcurve), double(parameter.maximum.custom_invcurve)};
-    case PPD_CUSTOM_REAL:
-        return {double(parameter.minimum.custom_real), double(parameter.maximum.custom_real)};
-    case PPD_CUSTOM_POINTS:
-        return {double(parameter.minimum.custom_points), double(parameter.maximum.custom_points)};
-    case PPD_CUSTOM_STRING:
-        return {double(parameter.minimum.custom_string), double(parameter.maximum.custom_string)};
-    case PPD_CUSTOM_PASSWORD:
-        return {double(parameter.minimum.custom_password), double(parameter.maximum.custom_password)};
-    case PPD_CUSTOM_PASSCODE:
-        return {double(parameter.minimum.custom_passcode), double(parameter.maximum.custom_passcode)};
-    default:
-        return {0.0, 0.0};
-    }
-}
-
 QList<const ppd_cparam_t*> customParameters(const PpdModel& model, const QString& key)
 {
     QList<const ppd_cparam_t*> parameters;
@@ -102,12 +76,12 @@ QJsonArray customAsJson(const PpdModel& model, const QString& key)
     QJsonArray array;
     for (const ppd_cparam_t* parameter : customParameters(model, key)) {
         const CustomKind kind = kindOf(*parameter);
-        const std::array<double, 2> limits = limitsOf(*parameter);
+        const ppd::Range limits = ppd::parameterLimits(*parameter);
         array.append(QJsonObject{
             {QStringLiteral("parameter"), QString::fromUtf8(parameter->name)},
             {QStringLiteral("type"), QLatin1StringView(kind.word)},
-            {kind.isNumber ? QStringLiteral("minimum") : QStringLiteral("minimumLength"), limits[0]},
-            {kind.isNumber ? QStringLiteral("maximum") : QStringLiteral("maximumLength"), limits[1]}});
+            {kind.isNumber ? QStringLiteral("minimum") : QStringLiteral("minimumLength"), limits.minimum},
+            {kind.isNumber ? QStringLiteral("maximum") : QStringLiteral("maximumLength"), limits.maximum}});
     }
     return array;
 }

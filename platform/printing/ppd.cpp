@@ -37,20 +37,10 @@ double asWritten(float limit)
     return end.ec == std::errc() ? QByteArray(text, end.ptr - text).toDouble() : double(limit);
 }
 
-std::optional<Range> limits(const ppd_cparam_t& parameter)
+bool isNumber(const ppd_cparam_t& parameter)
 {
-    switch (parameter.type) {
-    case PPD_CUSTOM_INT:
-        return Range{double(parameter.minimum.custom_int), double(parameter.maximum.custom_int), true};
-    case PPD_CUSTOM_REAL:
-    case PPD_CUSTOM_POINTS:
-    case PPD_CUSTOM_CURVE:
-    case PPD_CUSTOM_INVCURVE:
-        // One member of the union or another: all of these are floats.
-        return Range{asWritten(parameter.minimum.custom_real), asWritten(parameter.maximum.custom_real)};
-    default:
-        return std::nullopt;
-    }
+    return parameter.type != PPD_CUSTOM_STRING && parameter.type != PPD_CUSTOM_PASSCODE &&
+           parameter.type != PPD_CUSTOM_PASSWORD && parameter.type != PPD_CUSTOM_UNKNOWN;
 }
 
 } // namespace
@@ -157,16 +147,33 @@ std::optional<QList<Choice>> choices(ppd_file_t* file, const QString& option)
     return result;
 }
 
+Range parameterLimits(const ppd_cparam_t& parameter)
+{
+    switch (parameter.type) {
+    case PPD_CUSTOM_REAL:
+    case PPD_CUSTOM_POINTS:
+    case PPD_CUSTOM_CURVE:
+    case PPD_CUSTOM_INVCURVE:
+        // One member of the union or another: all of these are floats.
+        return {asWritten(parameter.minimum.custom_real), asWritten(parameter.maximum.custom_real)};
+    default:
+        // And all of the others whole numbers.
+        return {double(parameter.minimum.custom_int), double(parameter.maximum.custom_int), true};
+    }
+}
+
 std::optional<Range> customRange(ppd_file_t* file, const QString& option)
 {
     const ppd_coption_t* custom = file ? ppdFindCustomOption(file, option.toUtf8().constData()) : nullptr;
     if (!custom || cupsArrayCount(custom->params) != 1)
         return std::nullopt;
     const auto* parameter = static_cast<const ppd_cparam_t*>(cupsArrayIndex(custom->params, 0));
-    const std::optional<Range> range = limits(*parameter);
-    const bool usable = range && std::isfinite(range->minimum) && std::isfinite(range->maximum) &&
-                        range->minimum < range->maximum;
-    return usable ? range : std::nullopt;
+    if (!isNumber(*parameter))
+        return std::nullopt;
+    const Range range = parameterLimits(*parameter);
+    const bool usable =
+        std::isfinite(range.minimum) && std::isfinite(range.maximum) && range.minimum < range.maximum;
+    return usable ? std::optional(range) : std::nullopt;
 }
 
 void markDefaults(ppd_file_t* file)

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+struct ppd_cparam_s;
 struct ppd_file_s;
 using ppd_file_t = ppd_file_s;
 
@@ -68,6 +69,10 @@ struct Range {
     double maximum;
     bool isWhole = false; ///< whether the PPD asks for a whole number
 };
+
+/// The limits of a custom value's parameter, themselves included: of numbers as the PPD writes them, of texts
+/// their lengths.
+Range parameterLimits(const ppd_cparam_s& parameter);
 
 /// The limits of the option's custom value; nothing if the PPD gives the option none, one that is not a
 /// single number, or limits that leave no choice. `file` may be null.
