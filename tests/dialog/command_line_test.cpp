@@ -107,7 +107,7 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
     const ProgramResult text =
         runPrint({q("--no-dialog"), writeFile(folder.filePath(q("text.jpg")), "no picture")});
     EXPECT_EQ(text.status, 1);
-    EXPECT_TRUE(text.error.contains(q("JPEG, PNG, TIFF or PDF"))) << qPrintable(text.error);
+    EXPECT_TRUE(text.error.contains(q("JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF"))) << qPrintable(text.error);
 
     QImage(photo()).save(folder.filePath(q("whole.jpg")));
     const QByteArray whole = readFile(folder.filePath(q("whole.jpg")));
