@@ -67,6 +67,7 @@ void JobValues::layOut(const JobInputs& inputs)
         over_.insert(QLatin1StringView(name), std::nullopt);
     for (const Neutral& neutral : kNeutral)
         over_.insert(QLatin1StringView(neutral.name), QString::fromLatin1(neutral.value));
+    leaveToThePrinter();
     const bool hasDuplex = std::ranges::any_of(
         kDuplexKeywords, [this](const char* keyword) { return contains(QLatin1StringView(keyword)); });
     if (!hasDuplex)
@@ -74,6 +75,20 @@ void JobValues::layOut(const JobInputs& inputs)
     // The document has the chosen pages and no others.
     over_.insert(QStringLiteral("page-ranges"),
                  inputs.pages > 0 ? std::optional(QStringLiteral("1-%1").arg(inputs.pages)) : std::nullopt);
+}
+
+// Filters do not look at a name's case: "outputorder" would overrule a printer's own "OutputOrder".
+void JobValues::leaveToThePrinter()
+{
+    for (auto it = base_.keyBegin(); it != base_.keyEnd(); ++it) {
+        const auto isSame = [&](const Neutral& neutral) {
+            const QLatin1StringView name(neutral.name);
+            return *it != name && it->compare(name, Qt::CaseInsensitive) == 0;
+        };
+        const auto* same = std::ranges::find_if(kNeutral, isSame);
+        if (same != kNeutral.end())
+            over_.remove(QLatin1StringView(same->name));
+    }
 }
 
 // The server looks at the one, filters at the other.

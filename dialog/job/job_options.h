@@ -44,6 +44,7 @@ public:
     OptionValues list() const;
 
 private:
+    void leaveToThePrinter();
     void layOut(const JobInputs& inputs);
     void collate(bool isCollated);
 

@@ -63,6 +63,9 @@ TEST(JobOptions, WhatWouldContradictThePageIsLeftOut)
     for (const auto& [key, value] : neutral)
         EXPECT_EQ(valueOf(merged, key), q(value)) << "else the queue's default would turn or scale the page";
     EXPECT_EQ(valueOf(merged, "job-sheets"), q("none")) << "the server refuses every other spelling";
+    inputs.values.insert(q("OutputOrder"), q("Reverse"));
+    EXPECT_EQ(valueOf(mergeJobOptions(inputs), "OutputOrder"), q("Reverse")) << "the printer's own";
+    EXPECT_FALSE(valueOf(mergeJobOptions(inputs), "outputorder")) << "filters take the one for the other";
 }
 
 TEST(JobOptions, TextGoesIntoTheRequestByteForByteWhateverItLooksLike)
