@@ -199,6 +199,50 @@
   5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist nicht bekannt.
   6  Mit --verify: gedruckt, aber beim Druckserver lag der Auftrag nicht so vor, wie er gesendet wurde.</translation>
     </message>
+    <message>
+        <source>Turn the page: portrait or landscape; without it, as the photo.</source>
+        <translation>Die Ausrichtung der Seite: portrait oder landscape; sonst wie das Foto.</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
+        <translation>Die Lage des Fotos, wo Platz frei bleibt oder abgeschnitten wird: 0,0 ist links oben, 1,1 rechts unten. Mehrfach möglich, für ein Foto nach dem anderen.</translation>
+    </message>
+    <message>
+        <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
+        <translation>Mehrere Aufträge der Reihe nach senden, mit höchstens so vielen Fotos je Auftrag; sonst einen Auftrag.</translation>
+    </message>
+    <message>
+        <source>Show the dialog above another program&apos;s window: x11: and the window&apos;s number in hexadecimal digits.</source>
+        <translation>Den Dialog über dem Fenster eines anderen Programms zeigen: x11: und die Nummer des Fensters in hexadezimalen Ziffern.</translation>
+    </message>
+    <message>
+        <source>When the dialog has closed, write what was chosen and what became of it to standard output, as JSON.</source>
+        <translation>Wenn der Dialog geschlossen ist, als JSON auf die Standardausgabe schreiben, was gewählt wurde und was daraus geworden ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of photos: write 1 or more.</source>
+        <translation>„%1“ ist keine Anzahl von Fotos: Schreiben Sie 1 oder mehr.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no orientation: write portrait or landscape.</source>
+        <translation>„%1“ ist keine Ausrichtung: Schreiben Sie portrait oder landscape.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place: write two numbers from 0 to 1, for example 0.5,0.5.</source>
+        <translation>„%1“ ist keine Lage: Schreiben Sie zwei Zahlen von 0 bis 1, zum Beispiel 0.5,0.5.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no window: write x11: and its number, for example x11:3c00007.</source>
+        <translation>„%1“ nennt kein Fenster: Schreiben Sie x11: und seine Nummer, zum Beispiel x11:3c00007.</translation>
+    </message>
+    <message>
+        <source>--parent and --result-json go with the dialog.</source>
+        <translation>--parent und --result-json gehören zum Dialog.</translation>
+    </message>
+    <message>
+        <source>%1 is one of the files to print. Write to another file with --output.</source>
+        <translation>%1 ist eine der zu druckenden Dateien. Schreiben Sie mit --output in eine andere Datei.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -270,6 +314,76 @@
     </message>
 </context>
 <context>
+    <name>DocumentKind</name>
+    <message>
+        <source>The application has sent an empty document. Print it once more from there.</source>
+        <translation>Die Anwendung hat ein leeres Dokument gesendet. Drucken Sie es dort noch einmal.</translation>
+    </message>
+    <message>
+        <source>What the application has sent is no PDF, PostScript or picture. Export the document as a PDF file there, and print that.</source>
+        <translation>Was die Anwendung gesendet hat, ist weder PDF noch PostScript noch ein Bild. Exportieren Sie das Dokument dort als PDF-Datei und drucken Sie diese.</translation>
+    </message>
+    <message>
+        <source>The document ends in the middle: the application has not sent all of it. Print it once more from there.</source>
+        <translation>Das Dokument endet mittendrin: Die Anwendung hat nicht alles gesendet. Drucken Sie es dort noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>FrontEnd</name>
+    <message>
+        <source>&quot;halvern-print-portal --enable&quot; changes that for you.</source>
+        <translation>„halvern-print-portal --enable“ ändert das für Sie.</translation>
+    </message>
+    <message>
+        <source>It takes the first by file name. An administrator can put this one before &quot;%1&quot;: ln -s tessarin.portal %2/00-tessarin.portal</source>
+        <translation>Es nimmt das erste nach Dateinamen. Wer den Rechner verwaltet, kann dieses vor „%1“ setzen: ln -s tessarin.portal %2/00-tessarin.portal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The portal reads that when it starts: log in again, or run &quot;systemctl --user restart xdg-desktop-portal&quot;.</source>
+        <translation>Das Portal liest das beim Start: Melden Sie sich neu an oder führen Sie „systemctl --user restart xdg-desktop-portal“ aus.</translation>
+    </message>
+    <message>
+        <source>There is no portal on this computer: install xdg-desktop-portal.</source>
+        <translation>Auf diesem Rechner gibt es kein Portal: Installieren Sie xdg-desktop-portal.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) does not know this program: there is no tessarin.portal in %2. Install it there.</source>
+        <translation>Das Portal (%1) kennt dieses Programm nicht: In %2 gibt es kein tessarin.portal. Installieren Sie es dort.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses this program for printing.</source>
+        <translation>Das Portal (%1) wählt dieses Programm zum Drucken.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) prints with nothing, as &quot;%2&quot; says. %3</source>
+        <translation>Das Portal (%1) druckt mit keinem Programm; so steht es in „%2“. %3</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses &quot;%2&quot; for printing. %3</source>
+        <translation>Das Portal (%1) wählt „%2“ zum Drucken. %3</translation>
+    </message>
+    <message>
+        <source>Written into &quot;%1&quot;.</source>
+        <translation>In „%1“ eingetragen.</translation>
+    </message>
+    <message>
+        <source>There is no line of this program&apos;s in &quot;%1&quot;.</source>
+        <translation>In „%1“ steht keine Zeile dieses Programms.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be removed.</source>
+        <translation>„%1“ kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Taken out of &quot;%1&quot;.</source>
+        <translation>Aus „%1“ entfernt.</translation>
+    </message>
+</context>
+<context>
     <name>GivenOptions</name>
     <message>
         <source>The printer has no paper &quot;%1&quot;.</source>
@@ -314,6 +428,17 @@
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
         <translation>„%1“ ist keine Reihenfolge der Seiten. Schreiben Sie outputorder=normal oder reverse.</translation>
+    </message>
+</context>
+<context>
+    <name>HandedOptions</name>
+    <message>
+        <source>The application&apos;s settings</source>
+        <translation>Einstellungen der Anwendung</translation>
+    </message>
+    <message>
+        <source>Settings of %1</source>
+        <translation>Einstellungen von %1</translation>
     </message>
 </context>
 <context>
@@ -684,8 +809,15 @@
 <context>
     <name>PageRenderer</name>
     <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>Der Druckauftrag konnte nicht in eine temporäre Datei geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
+        <source>The pages could not be written. Make room on the disk and try again.</source>
+        <translation>Die Seiten konnten nicht geschrieben werden. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>PageStream</name>
+    <message>
+        <source>The computer is too busy to prepare the pages. Close something and try again.</source>
+        <translation>Der Rechner ist zu beschäftigt, um die Seiten vorzubereiten. Schließen Sie etwas und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -721,14 +853,6 @@
     <message>
         <source>Other sizes</source>
         <translation>Andere Formate</translation>
-    </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation>%1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 in</source>
-        <translation>%1 × %2 Zoll</translation>
     </message>
 </context>
 <context>
@@ -793,10 +917,6 @@
         <translation>„%1“ ist zu groß zum Drucken. Drucken Sie eine Kopie mit weniger Pixeln.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF- oder PDF-Datei.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
         <translation>„%1“ ist mit einem Passwort geschützt. Drucken Sie eine Kopie ohne Passwort.</translation>
     </message>
@@ -819,6 +939,30 @@
     <message>
         <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
         <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Kamera.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF file.</source>
+        <translation>„%1“ ist kein druckbares Bild. Verwenden Sie eine JPEG-, PNG-, TIFF-, WebP-, HEIF-, AVIF- oder PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is camera RAW, which has to be developed before it can be printed. Export it as JPEG or TIFF from your photo program and print that.</source>
+        <translation>„%1“ ist eine RAW-Datei einer Kamera und muss vor dem Drucken entwickelt werden. Exportieren Sie sie aus Ihrem Fotoprogramm als JPEG oder TIFF und drucken Sie diese Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 or 16 bits, from your photo program and print that.</source>
+        <translation>„%1“ ist von einer Art, die hier nicht lesbar ist. Exportieren Sie die Datei aus Ihrem Fotoprogramm als JPEG oder als TIFF mit 8 oder 16 Bit und drucken Sie diese.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; made the program that reads photos fail: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>„%1“ hat das Programm, das Fotos liest, zum Absturz gebracht: Die Datei ist beschädigt oder soll Schaden anrichten. Exportieren Sie sie erneut aus Ihrem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too long to read: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>Das Lesen von „%1“ dauert zu lange: Die Datei ist beschädigt oder soll Schaden anrichten. Exportieren Sie sie erneut aus Ihrem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
+        <translation>„%1“ ist nicht lesbar: Das Programm halvern-decode, das Fotos liest, ist nicht neben diesem installiert oder lässt sich nicht starten. Installieren Sie den Dialog neu.</translation>
     </message>
 </context>
 <context>
@@ -850,6 +994,33 @@
     <message>
         <source>they belong to something else</source>
         <translation>sie gehören zu etwas anderem</translation>
+    </message>
+</context>
+<context>
+    <name>PortalProgram</name>
+    <message>
+        <source>Say whether the desktop&apos;s portal would choose this program for printing, and if not, why.</source>
+        <translation>Sagen, ob das Portal des Desktops dieses Programm zum Drucken wählen würde, und wenn nicht, warum.</translation>
+    </message>
+    <message>
+        <source>Have the desktop&apos;s portal choose this program for printing, by a line in your portals.conf.</source>
+        <translation>Das Portal des Desktops dieses Programm zum Drucken wählen lassen, durch eine Zeile in Ihrer portals.conf.</translation>
+    </message>
+    <message>
+        <source>Take that line away again.</source>
+        <translation>Diese Zeile wieder entfernen.</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for applications that print by the desktop&apos;s portal. The desktop starts it by itself.</source>
+        <translation>Zeigt den Druckdialog für Anwendungen, die über das Portal des Desktops drucken. Der Desktop startet dieses Programm von selbst.</translation>
+    </message>
+    <message>
+        <source>Wrong usage. See &quot;halvern-print-portal --help&quot;.</source>
+        <translation>Falscher Aufruf. Siehe „halvern-print-portal --help“.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Start this program in a desktop&apos;s session, or set DISPLAY.</source>
+        <translation>Es gibt keinen Bildschirm für den Dialog. Starten Sie dieses Programm in der Sitzung eines Desktops oder setzen Sie DISPLAY.</translation>
     </message>
 </context>
 <context>
@@ -924,6 +1095,10 @@
     <message>
         <source>%1 in</source>
         <translation>%1 Zoll</translation>
+    </message>
+    <message>
+        <source>A job carries one choice of &quot;%1&quot;, and not &quot;%2&quot; together. Take one away before you choose another.</source>
+        <translation>Ein Auftrag nimmt von „%1“ nur eine Auswahl mit, und nicht „%2“ zusammen. Nehmen Sie eine weg, bevor Sie eine andere wählen.</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1201,33 @@
     </message>
 </context>
 <context>
+    <name>PrintRun</name>
+    <message>
+        <source>less than a minute left</source>
+        <translation>noch weniger als eine Minute</translation>
+    </message>
+    <message>
+        <source>about %1 minutes left</source>
+        <translation>noch etwa %1 Minuten</translation>
+    </message>
+    <message>
+        <source>about %1 hours left</source>
+        <translation>noch etwa %1 Stunden</translation>
+    </message>
+    <message>
+        <source>Sending the photo...</source>
+        <translation>Foto wird gesendet ...</translation>
+    </message>
+    <message>
+        <source>Paused: %1 of %2 photos are sent.</source>
+        <translation>Angehalten: %1 von %2 Fotos sind gesendet.</translation>
+    </message>
+    <message>
+        <source>Sending photo %1 of %2</source>
+        <translation>Foto %1 von %2 wird gesendet</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1077,6 +1279,17 @@
     <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewSwitch</name>
+    <message>
+        <source>Re&amp;view before printing</source>
+        <translation>Vor dem Drucken prü&amp;fen</translation>
+    </message>
+    <message>
+        <source>Shows the pages as the application has made them, before they go to the printer</source>
+        <translation>Zeigt die Seiten, wie die Anwendung sie erstellt hat, bevor sie zum Drucker gehen</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1515,37 @@
         <source>A saved setting was left out. %1</source>
         <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
     </message>
+    <message>
+        <source>No printer is chosen. Choose one from the list.</source>
+        <translation>Es ist kein Drucker gewählt. Wählen Sie einen aus der Liste.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the printer &quot;%1&quot; yet. Wait for it, or choose another one.</source>
+        <translation>Vom Drucker „%1“ ist noch nichts bekannt. Warten Sie auf ihn oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The photos are still being read. Wait a moment.</source>
+        <translation>Die Fotos werden noch gelesen. Warten Sie einen Moment.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print. Open the dialog with one.</source>
+        <translation>Es gibt kein Foto zum Drucken. Öffnen Sie den Dialog mit einem.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DocumentSpool</name>
+    <message>
+        <source>The document cannot be read: %1. Print it once more from its application.</source>
+        <translation>Das Dokument ist nicht lesbar: %1. Drucken Sie es noch einmal aus seiner Anwendung.</translation>
+    </message>
+    <message>
+        <source>There is no room for the document: %1. Make room on the disk, and print it once more.</source>
+        <translation>Für das Dokument ist kein Platz: %1. Schaffen Sie Platz auf der Festplatte und drucken Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
+        <translation>In „%1“ kann keine Datei für das Dokument angelegt werden. Prüfen Sie, ob Sie dort schreiben dürfen, und drucken Sie es noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::HitList</name>
@@ -1434,6 +1678,21 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Notices</name>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Printing from %1</source>
+        <translation>Drucken aus %1</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1574,6 +1833,14 @@
         <source>The command that prints this again is on the clipboard.</source>
         <translation>Der Befehl, der dies wieder druckt, ist in der Zwischenablage.</translation>
     </message>
+    <message>
+        <source>A file is being written still. Write the next one when it is there.</source>
+        <translation>Es wird noch eine Datei geschrieben. Schreiben Sie die nächste, wenn diese fertig ist.</translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
+        <translation>Der Befehl, der dies wieder druckt, ist in der Zwischenablage, ohne Ihre PIN oder Ihr Passwort.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -1604,6 +1871,22 @@
     <message>
         <source>All %1, or for example 1-3, 5-</source>
         <translation>Alle %1, oder zum Beispiel 1-3, 5-</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Which pages</source>
+        <translation>Welche Seiten</translation>
+    </message>
+    <message>
+        <source>All, or for example 1-3, 5-</source>
+        <translation>Alle, oder zum Beispiel 1-3, 5-</translation>
     </message>
 </context>
 <context>
@@ -1698,6 +1981,14 @@
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
         <translation>Der Drucker hat dieses Papierformat nicht sowohl mit als auch ohne Rand.</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>&amp;Skalierung:</translation>
     </message>
 </context>
 <context>
@@ -1953,6 +2244,10 @@
         <source>Reading the photo...</source>
         <translation>Foto wird gelesen ...</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Rückseite</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -2089,10 +2384,6 @@
         <translation>Drucker</translation>
     </message>
     <message>
-        <source>Pre&amp;set:</source>
-        <translation>Vorein&amp;stellung:</translation>
-    </message>
-    <message>
         <source>1 option was put back to the printer&apos;s default.</source>
         <translation>1 Option wurde auf die Vorgabe des Druckers zurückgesetzt.</translation>
     </message>
@@ -2112,21 +2403,29 @@
         <source>Writing the file...</source>
         <translation>Datei wird geschrieben ...</translation>
     </message>
+    <message>
+        <source>Preset:</source>
+        <translation>Voreinstellung:</translation>
+    </message>
+    <message>
+        <source>An application</source>
+        <translation>Eine Anwendung</translation>
+    </message>
+    <message>
+        <source>The document is printed as it came. Its pages cannot be shown here.</source>
+        <translation>Das Dokument wird gedruckt, wie es gekommen ist. Seine Seiten können hier nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The application makes its pages when you have pressed Print.</source>
+        <translation>Die Anwendung erstellt ihre Seiten, wenn Sie „Drucken“ gedrückt haben.</translation>
+    </message>
+    <message>
+        <source>Print - %1</source>
+        <translation>Drucken - %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
-    <message>
-        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
-        <translation>Es kann keine temporäre Datei angelegt werden: %1. Schaffen Sie Platz auf der Festplatte und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>Sending the job...</source>
-        <translation>Auftrag wird gesendet ...</translation>
-    </message>
-    <message>
-        <source>Preparing the pages...</source>
-        <translation>Seiten werden vorbereitet ...</translation>
-    </message>
     <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>Abgebrochen: Es wurde nichts gedruckt.</translation>
@@ -2143,12 +2442,39 @@
         <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>Auftrag %1 wurde an „%2“ gesendet, aber der Druckserver hat seit %3 Sekunden nicht geantwortet: Ob er gedruckt wurde, ist nicht bekannt. Sehen Sie am Drucker nach, bevor Sie erneut drucken.</translation>
     </message>
+    <message>
+        <source>The document cannot be read any more: %1. Print it once more.</source>
+        <translation>Das Dokument ist nicht mehr lesbar: %1. Drucken Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 photos went out in %2 jobs; the others were not sent. %3</source>
+        <translation>%1 Fotos sind in %2 Aufträgen gesendet; die anderen wurden nicht gesendet. %3</translation>
+    </message>
+    <message>
+        <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
+        <translation>%1 Fotos wurden in %2 Aufträgen gedruckt, %3 bis %4.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintService</name>
+    <message>
+        <source>There is no session bus: %1.</source>
+        <translation>Es gibt keinen Sitzungsbus: %1.</translation>
+    </message>
+    <message>
+        <source>Another halvern-print-portal runs in this session already.</source>
+        <translation>In dieser Sitzung läuft schon ein anderes halvern-print-portal.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrinterChoice</name>
     <message>
         <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>Ihr Standarddrucker „%1“ ist keiner des Druckservers. Stattdessen wurde „%2“ gewählt.</translation>
+    </message>
+    <message>
+        <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>Die Anwendung erinnert sich an einen Drucker „%1“, den der Druckserver nicht hat. Stattdessen wurde „%2“ gewählt.</translation>
     </message>
 </context>
 <context>
@@ -2187,6 +2513,14 @@
     <message>
         <source>✓ as shown</source>
         <translation>✓ wie angezeigt</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
     </message>
 </context>
 <context>

@@ -199,6 +199,50 @@
   5  El trabajo se envió, pero el servidor de impresión no responde: no se conoce el resultado.
   6  Con --verify: impreso, pero el servidor de impresión no lo tiene tal como se envió.</translation>
     </message>
+    <message>
+        <source>Turn the page: portrait or landscape; without it, as the photo.</source>
+        <translation>Orientación de la página: portrait o landscape; si no se indica, como la foto.</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
+        <translation>Posición de la foto donde sobra sitio o se recorta: 0,0 es arriba a la izquierda, 1,1 abajo a la derecha. Puede repetirse, para una foto tras otra.</translation>
+    </message>
+    <message>
+        <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
+        <translation>Enviar varios trabajos en orden, con esta cantidad de fotos como máximo en cada uno; si no se indica, un solo trabajo.</translation>
+    </message>
+    <message>
+        <source>Show the dialog above another program&apos;s window: x11: and the window&apos;s number in hexadecimal digits.</source>
+        <translation>Mostrar el diálogo sobre la ventana de otro programa: x11: y el número de la ventana en cifras hexadecimales.</translation>
+    </message>
+    <message>
+        <source>When the dialog has closed, write what was chosen and what became of it to standard output, as JSON.</source>
+        <translation>Cuando se haya cerrado el diálogo, escribir en la salida estándar, como JSON, qué se eligió y qué resultó.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of photos: write 1 or more.</source>
+        <translation>«%1» no es un número de fotos: escriba 1 o más.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no orientation: write portrait or landscape.</source>
+        <translation>«%1» no es una orientación: escriba portrait o landscape.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place: write two numbers from 0 to 1, for example 0.5,0.5.</source>
+        <translation>«%1» no es una posición: escriba dos números de 0 a 1, por ejemplo 0.5,0.5.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no window: write x11: and its number, for example x11:3c00007.</source>
+        <translation>«%1» no indica ninguna ventana: escriba x11: y su número, por ejemplo x11:3c00007.</translation>
+    </message>
+    <message>
+        <source>--parent and --result-json go with the dialog.</source>
+        <translation>--parent y --result-json se usan con el diálogo.</translation>
+    </message>
+    <message>
+        <source>%1 is one of the files to print. Write to another file with --output.</source>
+        <translation>%1 es uno de los archivos que imprimir. Escriba en otro archivo con --output.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -270,6 +314,76 @@
     </message>
 </context>
 <context>
+    <name>DocumentKind</name>
+    <message>
+        <source>The application has sent an empty document. Print it once more from there.</source>
+        <translation>La aplicación ha enviado un documento vacío. Imprímalo desde ella otra vez.</translation>
+    </message>
+    <message>
+        <source>What the application has sent is no PDF, PostScript or picture. Export the document as a PDF file there, and print that.</source>
+        <translation>Lo que ha enviado la aplicación no es PDF, PostScript ni una imagen. Exporte allí el documento como archivo PDF e imprímalo.</translation>
+    </message>
+    <message>
+        <source>The document ends in the middle: the application has not sent all of it. Print it once more from there.</source>
+        <translation>El documento está incompleto: la aplicación no lo ha enviado entero. Imprímalo desde ella otra vez.</translation>
+    </message>
+</context>
+<context>
+    <name>FrontEnd</name>
+    <message>
+        <source>&quot;halvern-print-portal --enable&quot; changes that for you.</source>
+        <translation>«halvern-print-portal --enable» lo cambia por usted.</translation>
+    </message>
+    <message>
+        <source>It takes the first by file name. An administrator can put this one before &quot;%1&quot;: ln -s tessarin.portal %2/00-tessarin.portal</source>
+        <translation>Toma el primero por nombre de archivo. Un administrador puede poner este antes de «%1»: ln -s tessarin.portal %2/00-tessarin.portal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>«%1» no se puede escribir: %2.</translation>
+    </message>
+    <message>
+        <source>The portal reads that when it starts: log in again, or run &quot;systemctl --user restart xdg-desktop-portal&quot;.</source>
+        <translation>El portal lo lee al iniciarse: vuelva a iniciar la sesión o ejecute «systemctl --user restart xdg-desktop-portal».</translation>
+    </message>
+    <message>
+        <source>There is no portal on this computer: install xdg-desktop-portal.</source>
+        <translation>No hay ningún portal en este equipo: instale xdg-desktop-portal.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) does not know this program: there is no tessarin.portal in %2. Install it there.</source>
+        <translation>El portal (%1) no conoce este programa: no hay ningún tessarin.portal en %2. Instálelo allí.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses this program for printing.</source>
+        <translation>El portal (%1) elige este programa para imprimir.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) prints with nothing, as &quot;%2&quot; says. %3</source>
+        <translation>El portal (%1) no imprime con ningún programa, como indica «%2». %3</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses &quot;%2&quot; for printing. %3</source>
+        <translation>El portal (%1) elige «%2» para imprimir. %3</translation>
+    </message>
+    <message>
+        <source>Written into &quot;%1&quot;.</source>
+        <translation>Escrito en «%1».</translation>
+    </message>
+    <message>
+        <source>There is no line of this program&apos;s in &quot;%1&quot;.</source>
+        <translation>En «%1» no hay ninguna línea de este programa.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be removed.</source>
+        <translation>«%1» no se puede eliminar.</translation>
+    </message>
+    <message>
+        <source>Taken out of &quot;%1&quot;.</source>
+        <translation>Quitado de «%1».</translation>
+    </message>
+</context>
+<context>
     <name>GivenOptions</name>
     <message>
         <source>The printer has no paper &quot;%1&quot;.</source>
@@ -314,6 +428,17 @@
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
         <translation>«%1» no es un orden de páginas. Escriba outputorder=normal o reverse.</translation>
+    </message>
+</context>
+<context>
+    <name>HandedOptions</name>
+    <message>
+        <source>The application&apos;s settings</source>
+        <translation>Ajustes de la aplicación</translation>
+    </message>
+    <message>
+        <source>Settings of %1</source>
+        <translation>Ajustes de %1</translation>
     </message>
 </context>
 <context>
@@ -684,8 +809,15 @@
 <context>
     <name>PageRenderer</name>
     <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>El trabajo no se pudo escribir en un archivo temporal. Libere espacio en el disco e inténtelo de nuevo.</translation>
+        <source>The pages could not be written. Make room on the disk and try again.</source>
+        <translation>Las páginas no se pudieron escribir. Libere espacio en el disco e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>PageStream</name>
+    <message>
+        <source>The computer is too busy to prepare the pages. Close something and try again.</source>
+        <translation>El equipo está demasiado ocupado para preparar las páginas. Cierre algo e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -721,14 +853,6 @@
     <message>
         <source>Other sizes</source>
         <translation>Otros tamaños</translation>
-    </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation>%1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 in</source>
-        <translation>%1 × %2 pulg.</translation>
     </message>
 </context>
 <context>
@@ -793,10 +917,6 @@
         <translation>«%1» es demasiado grande para imprimirla. Imprima una copia con menos píxeles.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>«%1» no es una imagen imprimible. Use un archivo JPEG, PNG, TIFF o PDF.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
         <translation>«%1» está protegido con contraseña. Imprima una copia sin contraseña.</translation>
     </message>
@@ -819,6 +939,30 @@
     <message>
         <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
         <translation>«%1» está vacío. Cópielo de nuevo desde la cámara.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF file.</source>
+        <translation>«%1» no es una imagen imprimible. Use un archivo JPEG, PNG, TIFF, WebP, HEIF, AVIF o PDF.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is camera RAW, which has to be developed before it can be printed. Export it as JPEG or TIFF from your photo program and print that.</source>
+        <translation>«%1» es un archivo RAW de cámara, que hay que revelar antes de imprimirlo. Expórtelo como JPEG o TIFF desde su programa de fotos e imprima ese archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 or 16 bits, from your photo program and print that.</source>
+        <translation>«%1» es de un tipo que aquí no se puede leer. Expórtelo como JPEG, o como TIFF de 8 o 16 bits, desde su programa de fotos e imprima ese archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; made the program that reads photos fail: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>«%1» hizo fallar el programa que lee las fotos: está dañado o hecho para causar daño. Expórtelo de nuevo desde su programa de fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too long to read: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>«%1» tarda demasiado en leerse: está dañado o hecho para causar daño. Expórtelo de nuevo desde su programa de fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
+        <translation>«%1» no se puede leer: el programa que lee las fotos, halvern-decode, no está instalado junto a este o no se puede iniciar. Reinstale el diálogo.</translation>
     </message>
 </context>
 <context>
@@ -850,6 +994,33 @@
     <message>
         <source>they belong to something else</source>
         <translation>pertenecen a otra cosa</translation>
+    </message>
+</context>
+<context>
+    <name>PortalProgram</name>
+    <message>
+        <source>Say whether the desktop&apos;s portal would choose this program for printing, and if not, why.</source>
+        <translation>Indicar si el portal del escritorio elegiría este programa para imprimir y, si no, por qué.</translation>
+    </message>
+    <message>
+        <source>Have the desktop&apos;s portal choose this program for printing, by a line in your portals.conf.</source>
+        <translation>Hacer que el portal del escritorio elija este programa para imprimir, con una línea en su portals.conf.</translation>
+    </message>
+    <message>
+        <source>Take that line away again.</source>
+        <translation>Quitar de nuevo esa línea.</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for applications that print by the desktop&apos;s portal. The desktop starts it by itself.</source>
+        <translation>Muestra el diálogo de impresión para las aplicaciones que imprimen a través del portal del escritorio. El escritorio lo inicia por sí mismo.</translation>
+    </message>
+    <message>
+        <source>Wrong usage. See &quot;halvern-print-portal --help&quot;.</source>
+        <translation>Uso incorrecto. Véase «halvern-print-portal --help».</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Start this program in a desktop&apos;s session, or set DISPLAY.</source>
+        <translation>No hay pantalla para mostrar el diálogo. Inicie este programa en una sesión de escritorio o defina DISPLAY.</translation>
     </message>
 </context>
 <context>
@@ -924,6 +1095,10 @@
     <message>
         <source>%1 in</source>
         <translation>%1 pulg.</translation>
+    </message>
+    <message>
+        <source>A job carries one choice of &quot;%1&quot;, and not &quot;%2&quot; together. Take one away before you choose another.</source>
+        <translation>Un trabajo lleva un solo valor de «%1», y no «%2» juntos. Quite uno antes de elegir otro.</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1201,33 @@
     </message>
 </context>
 <context>
+    <name>PrintRun</name>
+    <message>
+        <source>less than a minute left</source>
+        <translation>queda menos de un minuto</translation>
+    </message>
+    <message>
+        <source>about %1 minutes left</source>
+        <translation>quedan unos %1 minutos</translation>
+    </message>
+    <message>
+        <source>about %1 hours left</source>
+        <translation>quedan unas %1 horas</translation>
+    </message>
+    <message>
+        <source>Sending the photo...</source>
+        <translation>Enviando la foto...</translation>
+    </message>
+    <message>
+        <source>Paused: %1 of %2 photos are sent.</source>
+        <translation>En pausa: se han enviado %1 de %2 fotos.</translation>
+    </message>
+    <message>
+        <source>Sending photo %1 of %2</source>
+        <translation>Enviando la foto %1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1077,6 +1279,17 @@
     <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>La descripción de la impresora «%1» está dañada: %2. Reinstale su controlador o elija otra impresora.</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewSwitch</name>
+    <message>
+        <source>Re&amp;view before printing</source>
+        <translation>Revi&amp;sar antes de imprimir</translation>
+    </message>
+    <message>
+        <source>Shows the pages as the application has made them, before they go to the printer</source>
+        <translation>Muestra las páginas tal como las hizo la aplicación, antes de que vayan a la impresora</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1515,37 @@
         <source>A saved setting was left out. %1</source>
         <translation>Se omitió un ajuste guardado. %1</translation>
     </message>
+    <message>
+        <source>No printer is chosen. Choose one from the list.</source>
+        <translation>No hay ninguna impresora elegida. Elija una de la lista.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the printer &quot;%1&quot; yet. Wait for it, or choose another one.</source>
+        <translation>Aún no se sabe nada de la impresora «%1». Espérela o elija otra.</translation>
+    </message>
+    <message>
+        <source>The photos are still being read. Wait a moment.</source>
+        <translation>Aún se están leyendo las fotos. Espere un momento.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print. Open the dialog with one.</source>
+        <translation>No hay ninguna foto que imprimir. Abra el diálogo con una.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DocumentSpool</name>
+    <message>
+        <source>The document cannot be read: %1. Print it once more from its application.</source>
+        <translation>El documento no se puede leer: %1. Imprímalo otra vez desde su aplicación.</translation>
+    </message>
+    <message>
+        <source>There is no room for the document: %1. Make room on the disk, and print it once more.</source>
+        <translation>No hay espacio para el documento: %1. Libere espacio en el disco e imprímalo otra vez.</translation>
+    </message>
+    <message>
+        <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
+        <translation>No se puede crear un archivo para el documento en «%1». Compruebe que tiene permiso de escritura allí e imprímalo otra vez.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::HitList</name>
@@ -1434,6 +1678,21 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Notices</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Printing from %1</source>
+        <translation>Impresión desde %1</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
     </message>
 </context>
 <context>
@@ -1574,6 +1833,14 @@
         <source>The command that prints this again is on the clipboard.</source>
         <translation>El comando que imprime esto de nuevo está en el portapapeles.</translation>
     </message>
+    <message>
+        <source>A file is being written still. Write the next one when it is there.</source>
+        <translation>Aún se está escribiendo un archivo. Escriba el siguiente cuando este esté listo.</translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
+        <translation>El comando que imprime esto de nuevo está en el portapapeles, sin su PIN ni su contraseña.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -1604,6 +1871,22 @@
     <message>
         <source>All %1, or for example 1-3, 5-</source>
         <translation>Todas (%1) o, por ejemplo, 1-3, 5-</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>Which pages</source>
+        <translation>Qué páginas</translation>
+    </message>
+    <message>
+        <source>All, or for example 1-3, 5-</source>
+        <translation>Todas o, por ejemplo, 1-3, 5-</translation>
     </message>
 </context>
 <context>
@@ -1698,6 +1981,14 @@
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
         <translation>La impresora no tiene este tamaño de papel en las dos formas, con margen y sin él.</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>&amp;Escala:</translation>
     </message>
 </context>
 <context>
@@ -1953,6 +2244,10 @@
         <source>Reading the photo...</source>
         <translation>Leyendo la foto...</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Dorso</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -2089,10 +2384,6 @@
         <translation>Impresora</translation>
     </message>
     <message>
-        <source>Pre&amp;set:</source>
-        <translation>Prea&amp;juste:</translation>
-    </message>
-    <message>
         <source>1 option was put back to the printer&apos;s default.</source>
         <translation>Se restableció 1 opción al valor de la impresora.</translation>
     </message>
@@ -2112,21 +2403,29 @@
         <source>Writing the file...</source>
         <translation>Escribiendo el archivo...</translation>
     </message>
+    <message>
+        <source>Preset:</source>
+        <translation>Preajuste:</translation>
+    </message>
+    <message>
+        <source>An application</source>
+        <translation>Una aplicación</translation>
+    </message>
+    <message>
+        <source>The document is printed as it came. Its pages cannot be shown here.</source>
+        <translation>El documento se imprime tal como llegó. Sus páginas no se pueden mostrar aquí.</translation>
+    </message>
+    <message>
+        <source>The application makes its pages when you have pressed Print.</source>
+        <translation>La aplicación hace sus páginas cuando usted ha pulsado Imprimir.</translation>
+    </message>
+    <message>
+        <source>Print - %1</source>
+        <translation>Imprimir - %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
-    <message>
-        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
-        <translation>No se puede crear un archivo temporal: %1. Libere espacio en el disco e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>Sending the job...</source>
-        <translation>Enviando el trabajo...</translation>
-    </message>
-    <message>
-        <source>Preparing the pages...</source>
-        <translation>Preparando las páginas...</translation>
-    </message>
     <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>Cancelado: no se imprimió nada.</translation>
@@ -2143,12 +2442,39 @@
         <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>El trabajo %1 se envió a «%2», pero el servidor de impresión no responde desde hace %3 segundos: no se sabe si se imprimió. Mire la impresora antes de volver a imprimir.</translation>
     </message>
+    <message>
+        <source>The document cannot be read any more: %1. Print it once more.</source>
+        <translation>El documento ya no se puede leer: %1. Imprímalo otra vez.</translation>
+    </message>
+    <message>
+        <source>%1 photos went out in %2 jobs; the others were not sent. %3</source>
+        <translation>Se enviaron %1 fotos en %2 trabajos; las demás no se enviaron. %3</translation>
+    </message>
+    <message>
+        <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
+        <translation>Se imprimieron %1 fotos en %2 trabajos, del %3 al %4.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintService</name>
+    <message>
+        <source>There is no session bus: %1.</source>
+        <translation>No hay bus de sesión: %1.</translation>
+    </message>
+    <message>
+        <source>Another halvern-print-portal runs in this session already.</source>
+        <translation>Ya hay otro halvern-print-portal en marcha en esta sesión.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrinterChoice</name>
     <message>
         <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>Su impresora predeterminada «%1» no está en el servidor de impresión. Se eligió «%2» en su lugar.</translation>
+    </message>
+    <message>
+        <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>La aplicación recuerda una impresora «%1» que el servidor de impresión no tiene. En su lugar se eligió «%2».</translation>
     </message>
 </context>
 <context>
@@ -2187,6 +2513,14 @@
     <message>
         <source>✓ as shown</source>
         <translation>✓ como se muestra</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausar</translation>
     </message>
 </context>
 <context>

@@ -91,15 +91,15 @@
     </message>
     <message>
         <source>Write what the printer has loaded, and how old that knowledge is.</source>
-        <translation>Afficher ce qui est chargé dans l&apos;imprimante et l&apos;âge de cette information.</translation>
+        <translation>Afficher ce qui est chargé dans l’imprimante et l’âge de cette information.</translation>
     </message>
     <message>
         <source>With --list-papers: ask the printer first.</source>
-        <translation>Avec --list-papers : interroger d&apos;abord l&apos;imprimante.</translation>
+        <translation>Avec --list-papers : interroger d’abord l’imprimante.</translation>
     </message>
     <message>
         <source>--refresh goes with --list-papers.</source>
-        <translation>--refresh s&apos;emploie avec --list-papers.</translation>
+        <translation>--refresh s’emploie avec --list-papers.</translation>
     </message>
     <message>
         <source>With --no-dialog: give a print server that goes silent after the job was sent this long; 60 seconds without it.</source>
@@ -199,6 +199,50 @@
   5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue n’est pas connue.
   6  Avec --verify : imprimé, mais le serveur d’impression ne détient pas la tâche telle qu’elle a été envoyée.</translation>
     </message>
+    <message>
+        <source>Turn the page: portrait or landscape; without it, as the photo.</source>
+        <translation>Orientation de la page : portrait ou landscape ; sinon, comme la photo.</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
+        <translation>Position de la photo là où il reste de la place ou là où l’on coupe : 0,0 est en haut à gauche, 1,1 en bas à droite. Peut être répété, pour une photo après l’autre.</translation>
+    </message>
+    <message>
+        <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
+        <translation>Envoyer plusieurs tâches dans l’ordre, avec au plus ce nombre de photos chacune ; sinon, une seule tâche.</translation>
+    </message>
+    <message>
+        <source>Show the dialog above another program&apos;s window: x11: and the window&apos;s number in hexadecimal digits.</source>
+        <translation>Afficher le dialogue au-dessus de la fenêtre d’un autre programme : x11: et le numéro de la fenêtre en chiffres hexadécimaux.</translation>
+    </message>
+    <message>
+        <source>When the dialog has closed, write what was chosen and what became of it to standard output, as JSON.</source>
+        <translation>Une fois le dialogue fermé, écrire sur la sortie standard, en JSON, ce qui a été choisi et ce qu’il en est advenu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of photos: write 1 or more.</source>
+        <translation>« %1 » n’est pas un nombre de photos : écrivez 1 ou plus.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no orientation: write portrait or landscape.</source>
+        <translation>« %1 » n’est pas une orientation : écrivez portrait ou landscape.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place: write two numbers from 0 to 1, for example 0.5,0.5.</source>
+        <translation>« %1 » n’est pas une position : écrivez deux nombres de 0 à 1, par exemple 0.5,0.5.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no window: write x11: and its number, for example x11:3c00007.</source>
+        <translation>« %1 » ne désigne aucune fenêtre : écrivez x11: et son numéro, par exemple x11:3c00007.</translation>
+    </message>
+    <message>
+        <source>--parent and --result-json go with the dialog.</source>
+        <translation>--parent et --result-json s’emploient avec le dialogue.</translation>
+    </message>
+    <message>
+        <source>%1 is one of the files to print. Write to another file with --output.</source>
+        <translation>%1 est l’un des fichiers à imprimer. Écrivez dans un autre fichier avec --output.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -270,6 +314,76 @@
     </message>
 </context>
 <context>
+    <name>DocumentKind</name>
+    <message>
+        <source>The application has sent an empty document. Print it once more from there.</source>
+        <translation>L’application a envoyé un document vide. Imprimez-le encore une fois depuis celle-ci.</translation>
+    </message>
+    <message>
+        <source>What the application has sent is no PDF, PostScript or picture. Export the document as a PDF file there, and print that.</source>
+        <translation>Ce que l’application a envoyé n’est ni un PDF, ni du PostScript, ni une image. Exportez-y le document en fichier PDF et imprimez celui-ci.</translation>
+    </message>
+    <message>
+        <source>The document ends in the middle: the application has not sent all of it. Print it once more from there.</source>
+        <translation>Le document est incomplet : l’application n’a pas tout envoyé. Imprimez-le encore une fois depuis celle-ci.</translation>
+    </message>
+</context>
+<context>
+    <name>FrontEnd</name>
+    <message>
+        <source>&quot;halvern-print-portal --enable&quot; changes that for you.</source>
+        <translation>« halvern-print-portal --enable » change cela pour vous.</translation>
+    </message>
+    <message>
+        <source>It takes the first by file name. An administrator can put this one before &quot;%1&quot;: ln -s tessarin.portal %2/00-tessarin.portal</source>
+        <translation>Il prend le premier par nom de fichier. Un administrateur peut placer celui-ci avant « %1 » : ln -s tessarin.portal %2/00-tessarin.portal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>The portal reads that when it starts: log in again, or run &quot;systemctl --user restart xdg-desktop-portal&quot;.</source>
+        <translation>Le portail lit cela à son démarrage : reconnectez-vous ou lancez « systemctl --user restart xdg-desktop-portal ».</translation>
+    </message>
+    <message>
+        <source>There is no portal on this computer: install xdg-desktop-portal.</source>
+        <translation>Il n’y a pas de portail sur cet ordinateur : installez xdg-desktop-portal.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) does not know this program: there is no tessarin.portal in %2. Install it there.</source>
+        <translation>Le portail (%1) ne connaît pas ce programme : il n’y a pas de tessarin.portal dans %2. Installez-le à cet endroit.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses this program for printing.</source>
+        <translation>Le portail (%1) choisit ce programme pour l’impression.</translation>
+    </message>
+    <message>
+        <source>The portal (%1) prints with nothing, as &quot;%2&quot; says. %3</source>
+        <translation>Le portail (%1) n’imprime avec aucun programme, comme l’indique « %2 ». %3</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses &quot;%2&quot; for printing. %3</source>
+        <translation>Le portail (%1) choisit « %2 » pour l’impression. %3</translation>
+    </message>
+    <message>
+        <source>Written into &quot;%1&quot;.</source>
+        <translation>Inscrit dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no line of this program&apos;s in &quot;%1&quot;.</source>
+        <translation>Il n’y a aucune ligne de ce programme dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be removed.</source>
+        <translation>Impossible de supprimer « %1 ».</translation>
+    </message>
+    <message>
+        <source>Taken out of &quot;%1&quot;.</source>
+        <translation>Retiré de « %1 ».</translation>
+    </message>
+</context>
+<context>
     <name>GivenOptions</name>
     <message>
         <source>The printer has no paper &quot;%1&quot;.</source>
@@ -314,6 +428,17 @@
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
         <translation>« %1 » n’est pas un ordre de pages. Écrivez outputorder=normal ou reverse.</translation>
+    </message>
+</context>
+<context>
+    <name>HandedOptions</name>
+    <message>
+        <source>The application&apos;s settings</source>
+        <translation>Réglages de l’application</translation>
+    </message>
+    <message>
+        <source>Settings of %1</source>
+        <translation>Réglages de %1</translation>
     </message>
 </context>
 <context>
@@ -530,11 +655,11 @@
     <name>ListPapers</name>
     <message>
         <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
-        <translation>L&apos;imprimante « %1 » a été interrogée, mais n&apos;a pas communiqué ses papiers. Consultez le journal d&apos;erreurs du serveur d&apos;impression.</translation>
+        <translation>L’imprimante « %1 » a été interrogée, mais n’a pas communiqué ses papiers. Consultez le journal d’erreurs du serveur d’impression.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; does not report its papers: it has no Halvern driver.</source>
-        <translation>L&apos;imprimante « %1 » ne communique pas ses papiers : elle n&apos;a pas de pilote Halvern.</translation>
+        <translation>L’imprimante « %1 » ne communique pas ses papiers : elle n’a pas de pilote Halvern.</translation>
     </message>
     <message>
         <source>Asking &quot;%1&quot; ...</source>
@@ -546,23 +671,23 @@
     </message>
     <message>
         <source>The printer &quot;%1&quot; is busy with another job. Ask again when that has ended.</source>
-        <translation>L&apos;imprimante « %1 » traite une autre tâche. Interrogez-la à nouveau quand celle-ci sera terminée.</translation>
+        <translation>L’imprimante « %1 » traite une autre tâche. Interrogez-la à nouveau quand celle-ci sera terminée.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; does not work at the moment%2, and the question was taken back. Resume the printer (cupsenable) and ask again.</source>
-        <translation>L&apos;imprimante « %1 » ne fonctionne pas pour le moment%2 et la demande a été retirée. Relancez l&apos;imprimante (cupsenable) et recommencez.</translation>
+        <translation>L’imprimante « %1 » ne fonctionne pas pour le moment%2 et la demande a été retirée. Relancez l’imprimante (cupsenable) et recommencez.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; could not answer%2. See to the printer and ask again.</source>
-        <translation>L&apos;imprimante « %1 » n&apos;a pas pu répondre%2. Vérifiez l&apos;imprimante et recommencez.</translation>
+        <translation>L’imprimante « %1 » n’a pas pu répondre%2. Vérifiez l’imprimante et recommencez.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; does not accept jobs and cannot be asked. Let it accept them (cupsaccept) and ask again.</source>
-        <translation>L&apos;imprimante « %1 » n&apos;accepte pas de tâches et ne peut pas être interrogée. Faites-la en accepter (cupsaccept) et recommencez.</translation>
+        <translation>L’imprimante « %1 » n’accepte pas de tâches et ne peut pas être interrogée. Faites-la en accepter (cupsaccept) et recommencez.</translation>
     </message>
     <message>
         <source>The print server refused the question to &quot;%1&quot;. Look into its error log.</source>
-        <translation>Le serveur d&apos;impression a refusé la demande à « %1 ». Consultez son journal d&apos;erreurs.</translation>
+        <translation>Le serveur d’impression a refusé la demande à « %1 ». Consultez son journal d’erreurs.</translation>
     </message>
     <message>
         <source>The list of papers that &quot;%1&quot; reported cannot be read (%2).</source>
@@ -570,11 +695,11 @@
     </message>
     <message>
         <source>No papers are loaded.</source>
-        <translation>Aucun papier n&apos;est chargé.</translation>
+        <translation>Aucun papier n’est chargé.</translation>
     </message>
     <message>
         <source>The printer has not said yet what is loaded.</source>
-        <translation>L&apos;imprimante n&apos;a pas encore dit ce qui est chargé.</translation>
+        <translation>L’imprimante n’a pas encore dit ce qui est chargé.</translation>
     </message>
     <message>
         <source>Ask it with --refresh.</source>
@@ -582,11 +707,11 @@
     </message>
     <message>
         <source>The question to &quot;%1&quot; could not be processed%2 and was taken back. See to the printer, look into the print server&apos;s error log, and ask again.</source>
-        <translation>La demande à « %1 » n&apos;a pas pu être traitée%2 et a été retirée. Vérifiez l&apos;imprimante, consultez le journal d&apos;erreurs du serveur d&apos;impression et recommencez.</translation>
+        <translation>La demande à « %1 » n’a pas pu être traitée%2 et a été retirée. Vérifiez l’imprimante, consultez le journal d’erreurs du serveur d’impression et recommencez.</translation>
     </message>
     <message>
         <source>The question to &quot;%1&quot; was held%2 and has been cancelled. See to the printer and ask again.</source>
-        <translation>La demande à « %1 » a été retenue%2 et annulée. Vérifiez l&apos;imprimante et recommencez.</translation>
+        <translation>La demande à « %1 » a été retenue%2 et annulée. Vérifiez l’imprimante et recommencez.</translation>
     </message>
     <message>
         <source>The question to &quot;%1&quot; was cancelled. Ask again.</source>
@@ -594,11 +719,11 @@
     </message>
     <message>
         <source>The print server does not answer; job %1 may still be on the queue (cancel %2-%1).</source>
-        <translation>Le serveur d&apos;impression ne répond pas ; la tâche %1 est peut-être encore dans la file (cancel %2-%1).</translation>
+        <translation>Le serveur d’impression ne répond pas ; la tâche %1 est peut-être encore dans la file (cancel %2-%1).</translation>
     </message>
     <message>
         <source>Look into the print server&apos;s error log, and ask again.</source>
-        <translation>Consultez le journal d&apos;erreurs du serveur d&apos;impression et recommencez.</translation>
+        <translation>Consultez le journal d’erreurs du serveur d’impression et recommencez.</translation>
     </message>
 </context>
 <context>
@@ -636,7 +761,7 @@
     <name>Main</name>
     <message>
         <source>The output could not be written: %1.</source>
-        <translation>La sortie n&apos;a pas pu être écrite : %1.</translation>
+        <translation>La sortie n’a pas pu être écrite : %1.</translation>
     </message>
 </context>
 <context>
@@ -684,8 +809,15 @@
 <context>
     <name>PageRenderer</name>
     <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>La tâche n’a pas pu être écrite dans un fichier temporaire. Libérez de la place sur le disque et réessayez.</translation>
+        <source>The pages could not be written. Make room on the disk and try again.</source>
+        <translation>Les pages n’ont pas pu être écrites. Libérez de la place sur le disque et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>PageStream</name>
+    <message>
+        <source>The computer is too busy to prepare the pages. Close something and try again.</source>
+        <translation>L’ordinateur est trop occupé pour préparer les pages. Fermez quelque chose et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -722,20 +854,12 @@
         <source>Other sizes</source>
         <translation>Autres formats</translation>
     </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation>%1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 in</source>
-        <translation>%1 × %2 po</translation>
-    </message>
 </context>
 <context>
     <name>PaperTable</name>
     <message>
         <source>just now</source>
-        <translation>à l&apos;instant</translation>
+        <translation>à l’instant</translation>
     </message>
     <message>
         <source>%1 min ago</source>
@@ -793,10 +917,6 @@
         <translation>« %1 » est trop grande pour être imprimée. Imprimez une copie avec moins de pixels.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF ou PDF.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
         <translation>« %1 » est protégé par un mot de passe. Imprimez une copie sans mot de passe.</translation>
     </message>
@@ -819,6 +939,30 @@
     <message>
         <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
         <translation>« %1 » est vide. Copiez-le à nouveau depuis l’appareil photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF file.</source>
+        <translation>« %1 » n’est pas une image imprimable. Utilisez un fichier JPEG, PNG, TIFF, WebP, HEIF, AVIF ou PDF.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is camera RAW, which has to be developed before it can be printed. Export it as JPEG or TIFF from your photo program and print that.</source>
+        <translation>« %1 » est un fichier RAW d’appareil photo, à développer avant l’impression. Exportez-le en JPEG ou en TIFF depuis votre logiciel de photo et imprimez ce fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 or 16 bits, from your photo program and print that.</source>
+        <translation>« %1 » est d’un type illisible ici. Exportez-le en JPEG, ou en TIFF à 8 ou 16 bits, depuis votre logiciel de photo et imprimez ce fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; made the program that reads photos fail: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>« %1 » a fait échouer le programme qui lit les photos : le fichier est endommagé ou conçu pour nuire. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too long to read: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>« %1 » est trop long à lire : le fichier est endommagé ou conçu pour nuire. Exportez-le à nouveau depuis votre logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
+        <translation>« %1 » est illisible : le programme qui lit les photos, halvern-decode, n’est pas installé à côté de celui-ci ou ne peut pas être lancé. Réinstallez le dialogue.</translation>
     </message>
 </context>
 <context>
@@ -850,6 +994,33 @@
     <message>
         <source>they belong to something else</source>
         <translation>elles appartiennent à autre chose</translation>
+    </message>
+</context>
+<context>
+    <name>PortalProgram</name>
+    <message>
+        <source>Say whether the desktop&apos;s portal would choose this program for printing, and if not, why.</source>
+        <translation>Dire si le portail du bureau choisirait ce programme pour l’impression et, sinon, pourquoi.</translation>
+    </message>
+    <message>
+        <source>Have the desktop&apos;s portal choose this program for printing, by a line in your portals.conf.</source>
+        <translation>Faire choisir ce programme par le portail du bureau pour l’impression, par une ligne dans votre portals.conf.</translation>
+    </message>
+    <message>
+        <source>Take that line away again.</source>
+        <translation>Retirer cette ligne.</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for applications that print by the desktop&apos;s portal. The desktop starts it by itself.</source>
+        <translation>Affiche le dialogue d’impression pour les applications qui impriment par le portail du bureau. Le bureau le lance de lui-même.</translation>
+    </message>
+    <message>
+        <source>Wrong usage. See &quot;halvern-print-portal --help&quot;.</source>
+        <translation>Mauvais usage. Voir « halvern-print-portal --help ».</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Start this program in a desktop&apos;s session, or set DISPLAY.</source>
+        <translation>Aucun écran pour afficher le dialogue. Lancez ce programme dans une session de bureau ou définissez DISPLAY.</translation>
     </message>
 </context>
 <context>
@@ -924,6 +1095,10 @@
     <message>
         <source>%1 in</source>
         <translation>%1 po</translation>
+    </message>
+    <message>
+        <source>A job carries one choice of &quot;%1&quot;, and not &quot;%2&quot; together. Take one away before you choose another.</source>
+        <translation>Une tâche ne porte qu’un choix de « %1 », et non « %2 » ensemble. Retirez-en un avant d’en choisir un autre.</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1201,33 @@
     </message>
 </context>
 <context>
+    <name>PrintRun</name>
+    <message>
+        <source>less than a minute left</source>
+        <translation>reste moins d’une minute</translation>
+    </message>
+    <message>
+        <source>about %1 minutes left</source>
+        <translation>reste environ %1 minutes</translation>
+    </message>
+    <message>
+        <source>about %1 hours left</source>
+        <translation>reste environ %1 heures</translation>
+    </message>
+    <message>
+        <source>Sending the photo...</source>
+        <translation>Envoi de la photo…</translation>
+    </message>
+    <message>
+        <source>Paused: %1 of %2 photos are sent.</source>
+        <translation>En pause : %1 photos sur %2 sont envoyées.</translation>
+    </message>
+    <message>
+        <source>Sending photo %1 of %2</source>
+        <translation>Envoi de la photo %1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1077,6 +1279,17 @@
     <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewSwitch</name>
+    <message>
+        <source>Re&amp;view before printing</source>
+        <translation>Véri&amp;fier avant l’impression</translation>
+    </message>
+    <message>
+        <source>Shows the pages as the application has made them, before they go to the printer</source>
+        <translation>Affiche les pages telles que l’application les a faites, avant leur envoi à l’imprimante</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1515,37 @@
         <source>A saved setting was left out. %1</source>
         <translation>Un réglage enregistré a été ignoré. %1</translation>
     </message>
+    <message>
+        <source>No printer is chosen. Choose one from the list.</source>
+        <translation>Aucune imprimante n’est choisie. Choisissez-en une dans la liste.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the printer &quot;%1&quot; yet. Wait for it, or choose another one.</source>
+        <translation>On ne sait encore rien de l’imprimante « %1 ». Attendez-la ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The photos are still being read. Wait a moment.</source>
+        <translation>La lecture des photos n’est pas terminée. Attendez un moment.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print. Open the dialog with one.</source>
+        <translation>Il n’y a aucune photo à imprimer. Ouvrez le dialogue avec une photo.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DocumentSpool</name>
+    <message>
+        <source>The document cannot be read: %1. Print it once more from its application.</source>
+        <translation>Le document est illisible : %1. Imprimez-le encore une fois depuis son application.</translation>
+    </message>
+    <message>
+        <source>There is no room for the document: %1. Make room on the disk, and print it once more.</source>
+        <translation>Il n’y a pas de place pour le document : %1. Libérez de la place sur le disque et imprimez-le encore une fois.</translation>
+    </message>
+    <message>
+        <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
+        <translation>Impossible de créer un fichier pour le document dans « %1 ». Vérifiez que vous pouvez y écrire et imprimez-le encore une fois.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::HitList</name>
@@ -1434,6 +1678,21 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Notices</name>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Printing from %1</source>
+        <translation>Impression depuis %1</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
     </message>
 </context>
 <context>
@@ -1574,6 +1833,14 @@
         <source>The command that prints this again is on the clipboard.</source>
         <translation>La commande qui imprime cela à nouveau est dans le presse-papiers.</translation>
     </message>
+    <message>
+        <source>A file is being written still. Write the next one when it is there.</source>
+        <translation>Un fichier est encore en cours d’écriture. Écrivez le suivant quand celui-ci sera prêt.</translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
+        <translation>La commande qui imprime cela à nouveau est dans le presse-papiers, sans votre PIN ni votre mot de passe.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -1604,6 +1871,22 @@
     <message>
         <source>All %1, or for example 1-3, 5-</source>
         <translation>Toutes (%1), ou par exemple 1-3, 5-</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Page actuelle</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Which pages</source>
+        <translation>Quelles pages</translation>
+    </message>
+    <message>
+        <source>All, or for example 1-3, 5-</source>
+        <translation>Toutes, ou par exemple 1-3, 5-</translation>
     </message>
 </context>
 <context>
@@ -1698,6 +1981,14 @@
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
         <translation>L’imprimante n’a pas ce format de papier à la fois avec et sans marge.</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>Échell&amp;e :</translation>
     </message>
 </context>
 <context>
@@ -1953,6 +2244,10 @@
         <source>Reading the photo...</source>
         <translation>Lecture de la photo…</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Dos</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -2026,7 +2321,7 @@
     </message>
     <message>
         <source>To go with what the printer has, this was changed: %1</source>
-        <translation>Pour convenir à ce que contient l&apos;imprimante, ceci a été modifié : %1</translation>
+        <translation>Pour convenir à ce que contient l’imprimante, ceci a été modifié : %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -2089,10 +2384,6 @@
         <translation>Imprimante</translation>
     </message>
     <message>
-        <source>Pre&amp;set:</source>
-        <translation>Prérégla&amp;ge :</translation>
-    </message>
-    <message>
         <source>1 option was put back to the printer&apos;s default.</source>
         <translation>1 option a été rétablie à la valeur par défaut de l’imprimante.</translation>
     </message>
@@ -2112,21 +2403,29 @@
         <source>Writing the file...</source>
         <translation>Écriture du fichier…</translation>
     </message>
+    <message>
+        <source>Preset:</source>
+        <translation>Préréglage :</translation>
+    </message>
+    <message>
+        <source>An application</source>
+        <translation>Une application</translation>
+    </message>
+    <message>
+        <source>The document is printed as it came. Its pages cannot be shown here.</source>
+        <translation>Le document est imprimé tel qu’il est arrivé. Ses pages ne peuvent pas être affichées ici.</translation>
+    </message>
+    <message>
+        <source>The application makes its pages when you have pressed Print.</source>
+        <translation>L’application fait ses pages une fois que vous avez cliqué sur Imprimer.</translation>
+    </message>
+    <message>
+        <source>Print - %1</source>
+        <translation>Imprimer - %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
-    <message>
-        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
-        <translation>Impossible de créer un fichier temporaire : %1. Libérez de la place sur le disque et réessayez.</translation>
-    </message>
-    <message>
-        <source>Sending the job...</source>
-        <translation>Envoi de la tâche…</translation>
-    </message>
-    <message>
-        <source>Preparing the pages...</source>
-        <translation>Préparation des pages…</translation>
-    </message>
     <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>Annulé : rien n’a été imprimé.</translation>
@@ -2143,12 +2442,39 @@
         <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>La tâche %1 a été envoyée à « %2 », mais le serveur d’impression ne répond plus depuis %3 secondes : on ne sait pas si elle a été imprimée. Regardez l’imprimante avant de réimprimer.</translation>
     </message>
+    <message>
+        <source>The document cannot be read any more: %1. Print it once more.</source>
+        <translation>Le document n’est plus lisible : %1. Imprimez-le encore une fois.</translation>
+    </message>
+    <message>
+        <source>%1 photos went out in %2 jobs; the others were not sent. %3</source>
+        <translation>%1 photos sont parties en %2 tâches ; les autres n’ont pas été envoyées. %3</translation>
+    </message>
+    <message>
+        <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
+        <translation>%1 photos ont été imprimées en %2 tâches, de %3 à %4.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintService</name>
+    <message>
+        <source>There is no session bus: %1.</source>
+        <translation>Il n’y a pas de bus de session : %1.</translation>
+    </message>
+    <message>
+        <source>Another halvern-print-portal runs in this session already.</source>
+        <translation>Un autre halvern-print-portal tourne déjà dans cette session.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrinterChoice</name>
     <message>
         <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>Votre imprimante par défaut « %1 » n’est pas sur le serveur d’impression. « %2 » a été choisie à la place.</translation>
+    </message>
+    <message>
+        <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>L’application se souvient d’une imprimante « %1 » que le serveur d’impression n’a pas. « %2 » a été choisie à la place.</translation>
     </message>
 </context>
 <context>
@@ -2187,6 +2513,14 @@
     <message>
         <source>✓ as shown</source>
         <translation>✓ comme affiché</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>

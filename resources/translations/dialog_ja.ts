@@ -199,6 +199,50 @@
   5  ジョブは送信しましたが、プリントサーバーが応答しません。結果は不明です。
   6  --verify と併用: 印刷しましたが、プリントサーバーにあるジョブは送信したものと違います。</translation>
     </message>
+    <message>
+        <source>Turn the page: portrait or landscape; without it, as the photo.</source>
+        <translation>ページの向き: portrait または landscape。省略時は写真に合わせます。</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
+        <translation>余白や切る部分がある場合の写真の位置: 0,0 は左上、1,1 は右下。複数指定でき、写真の順に使います。</translation>
+    </message>
+    <message>
+        <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
+        <translation>1 件あたり最大この枚数の写真で、複数のジョブを順に送信します。省略時は 1 件のジョブになります。</translation>
+    </message>
+    <message>
+        <source>Show the dialog above another program&apos;s window: x11: and the window&apos;s number in hexadecimal digits.</source>
+        <translation>別のプログラムのウィンドウの上にダイアログを表示します: x11: に続けて 16 進数のウィンドウ番号。</translation>
+    </message>
+    <message>
+        <source>When the dialog has closed, write what was chosen and what became of it to standard output, as JSON.</source>
+        <translation>ダイアログが閉じたら、選んだ内容とその結果を JSON で標準出力に書き出します。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of photos: write 1 or more.</source>
+        <translation>「%1」は写真の枚数ではありません。1 以上を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no orientation: write portrait or landscape.</source>
+        <translation>「%1」は向きではありません。portrait か landscape を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no place: write two numbers from 0 to 1, for example 0.5,0.5.</source>
+        <translation>「%1」は位置ではありません。0.5,0.5 のように 0 から 1 までの数を 2 つ指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; names no window: write x11: and its number, for example x11:3c00007.</source>
+        <translation>「%1」はウィンドウを示していません。x11:3c00007 のように x11: とその番号を指定してください。</translation>
+    </message>
+    <message>
+        <source>--parent and --result-json go with the dialog.</source>
+        <translation>--parent と --result-json はダイアログと一緒に使います。</translation>
+    </message>
+    <message>
+        <source>%1 is one of the files to print. Write to another file with --output.</source>
+        <translation>%1 は印刷するファイルの 1 つです。--output で別のファイルを指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -270,6 +314,76 @@
     </message>
 </context>
 <context>
+    <name>DocumentKind</name>
+    <message>
+        <source>The application has sent an empty document. Print it once more from there.</source>
+        <translation>アプリケーションから空の文書が送られました。アプリケーションからもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>What the application has sent is no PDF, PostScript or picture. Export the document as a PDF file there, and print that.</source>
+        <translation>アプリケーションから送られたものは PDF、PostScript、画像のいずれでもありません。アプリケーションで文書を PDF ファイルに書き出し、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>The document ends in the middle: the application has not sent all of it. Print it once more from there.</source>
+        <translation>文書が途中で終わっています。アプリケーションから全体が送られていません。アプリケーションからもう一度印刷してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FrontEnd</name>
+    <message>
+        <source>&quot;halvern-print-portal --enable&quot; changes that for you.</source>
+        <translation>「halvern-print-portal --enable」で変更できます。</translation>
+    </message>
+    <message>
+        <source>It takes the first by file name. An administrator can put this one before &quot;%1&quot;: ln -s tessarin.portal %2/00-tessarin.portal</source>
+        <translation>ポータルはファイル名の順で最初のものを使います。管理者はこれを「%1」より前に置けます: ln -s tessarin.portal %2/00-tessarin.portal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>The portal reads that when it starts: log in again, or run &quot;systemctl --user restart xdg-desktop-portal&quot;.</source>
+        <translation>ポータルは起動時にこれを読み込みます。ログインし直すか、「systemctl --user restart xdg-desktop-portal」を実行してください。</translation>
+    </message>
+    <message>
+        <source>There is no portal on this computer: install xdg-desktop-portal.</source>
+        <translation>このコンピューターにはポータルがありません。xdg-desktop-portal をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The portal (%1) does not know this program: there is no tessarin.portal in %2. Install it there.</source>
+        <translation>ポータル (%1) はこのプログラムを認識していません。%2 に tessarin.portal がありません。そこにインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses this program for printing.</source>
+        <translation>ポータル (%1) は印刷にこのプログラムを使います。</translation>
+    </message>
+    <message>
+        <source>The portal (%1) prints with nothing, as &quot;%2&quot; says. %3</source>
+        <translation>「%2」の指定により、ポータル (%1) は印刷にどのプログラムも使いません。%3</translation>
+    </message>
+    <message>
+        <source>The portal (%1) chooses &quot;%2&quot; for printing. %3</source>
+        <translation>ポータル (%1) は印刷に「%2」を使います。%3</translation>
+    </message>
+    <message>
+        <source>Written into &quot;%1&quot;.</source>
+        <translation>「%1」に書き込みました。</translation>
+    </message>
+    <message>
+        <source>There is no line of this program&apos;s in &quot;%1&quot;.</source>
+        <translation>「%1」にこのプログラムの行はありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be removed.</source>
+        <translation>「%1」を削除できません。</translation>
+    </message>
+    <message>
+        <source>Taken out of &quot;%1&quot;.</source>
+        <translation>「%1」から取り除きました。</translation>
+    </message>
+</context>
+<context>
     <name>GivenOptions</name>
     <message>
         <source>The printer has no paper &quot;%1&quot;.</source>
@@ -314,6 +428,17 @@
     <message>
         <source>&quot;%1&quot; is no order of pages. Write outputorder=normal or reverse.</source>
         <translation>「%1」というページの順序はありません。outputorder=normal か reverse を書いてください。</translation>
+    </message>
+</context>
+<context>
+    <name>HandedOptions</name>
+    <message>
+        <source>The application&apos;s settings</source>
+        <translation>アプリケーションの設定</translation>
+    </message>
+    <message>
+        <source>Settings of %1</source>
+        <translation>%1 の設定</translation>
     </message>
 </context>
 <context>
@@ -684,8 +809,15 @@
 <context>
     <name>PageRenderer</name>
     <message>
-        <source>The print job could not be written to a temporary file. Make room on the disk and try again.</source>
-        <translation>印刷ジョブを一時ファイルに書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
+        <source>The pages could not be written. Make room on the disk and try again.</source>
+        <translation>ページを書き込めませんでした。ディスクの空きを増やして、もう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>PageStream</name>
+    <message>
+        <source>The computer is too busy to prepare the pages. Close something and try again.</source>
+        <translation>コンピューターの負荷が高く、ページを準備できません。何かを閉じて、もう一度お試しください。</translation>
     </message>
 </context>
 <context>
@@ -721,14 +853,6 @@
     <message>
         <source>Other sizes</source>
         <translation>その他のサイズ</translation>
-    </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation>%1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>%1 × %2 in</source>
-        <translation>%1 × %2 インチ</translation>
     </message>
 </context>
 <context>
@@ -793,10 +917,6 @@
         <translation>「%1」は大きすぎて印刷できません。画素数を減らしたコピーを印刷してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF or PDF file.</source>
-        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、PDF のファイルをお使いください。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is locked with a password. Save a copy without one and print that.</source>
         <translation>「%1」はパスワードで保護されています。パスワードなしのコピーを印刷してください。</translation>
     </message>
@@ -819,6 +939,30 @@
     <message>
         <source>&quot;%1&quot; is empty. Copy it from the camera again.</source>
         <translation>「%1」は空です。カメラからもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF file.</source>
+        <translation>「%1」は印刷できる画像ではありません。JPEG、PNG、TIFF、WebP、HEIF、AVIF、PDF のファイルをお使いください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is camera RAW, which has to be developed before it can be printed. Export it as JPEG or TIFF from your photo program and print that.</source>
+        <translation>「%1」はカメラの RAW ファイルで、印刷する前に現像が必要です。写真ソフトから JPEG か TIFF で書き出し、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 or 16 bits, from your photo program and print that.</source>
+        <translation>「%1」はここでは読めない種類のファイルです。写真ソフトから JPEG、または 8 ビットか 16 ビットの TIFF で書き出し、それを印刷してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; made the program that reads photos fail: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>「%1」のために写真を読み込むプログラムが異常終了しました。ファイルが壊れているか、害を与えるように作られています。写真ソフトからもう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too long to read: it is damaged, or made to do harm. Export it from your photo program again.</source>
+        <translation>「%1」の読み込みに時間がかかりすぎます。ファイルが壊れているか、害を与えるように作られています。写真ソフトからもう一度書き出してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
+        <translation>「%1」を読めません。写真を読み込むプログラム halvern-decode がこのプログラムと同じ場所にないか、起動できません。ダイアログを再インストールしてください。</translation>
     </message>
 </context>
 <context>
@@ -850,6 +994,33 @@
     <message>
         <source>they belong to something else</source>
         <translation>別のもの用です</translation>
+    </message>
+</context>
+<context>
+    <name>PortalProgram</name>
+    <message>
+        <source>Say whether the desktop&apos;s portal would choose this program for printing, and if not, why.</source>
+        <translation>デスクトップのポータルが印刷にこのプログラムを使うかどうか、使わない場合はその理由を示します。</translation>
+    </message>
+    <message>
+        <source>Have the desktop&apos;s portal choose this program for printing, by a line in your portals.conf.</source>
+        <translation>portals.conf に 1 行加えて、デスクトップのポータルが印刷にこのプログラムを使うようにします。</translation>
+    </message>
+    <message>
+        <source>Take that line away again.</source>
+        <translation>その行を取り除きます。</translation>
+    </message>
+    <message>
+        <source>Shows the print dialog for applications that print by the desktop&apos;s portal. The desktop starts it by itself.</source>
+        <translation>デスクトップのポータルで印刷するアプリケーションのために印刷ダイアログを表示します。デスクトップが自動的に起動します。</translation>
+    </message>
+    <message>
+        <source>Wrong usage. See &quot;halvern-print-portal --help&quot;.</source>
+        <translation>使い方の誤りです。「halvern-print-portal --help」をご覧ください。</translation>
+    </message>
+    <message>
+        <source>There is no display to show the dialog on. Start this program in a desktop&apos;s session, or set DISPLAY.</source>
+        <translation>ダイアログを表示する画面がありません。このプログラムをデスクトップのセッションで起動するか、DISPLAY を設定してください。</translation>
     </message>
 </context>
 <context>
@@ -924,6 +1095,10 @@
     <message>
         <source>%1 in</source>
         <translation>%1 インチ</translation>
+    </message>
+    <message>
+        <source>A job carries one choice of &quot;%1&quot;, and not &quot;%2&quot; together. Take one away before you choose another.</source>
+        <translation>1 つのジョブで指定できる「%1」の選択肢は 1 つだけで、「%2」を一緒には指定できません。別のものを選ぶ前に 1 つ外してください。</translation>
     </message>
 </context>
 <context>
@@ -1026,6 +1201,33 @@
     </message>
 </context>
 <context>
+    <name>PrintRun</name>
+    <message>
+        <source>less than a minute left</source>
+        <translation>残り 1 分未満</translation>
+    </message>
+    <message>
+        <source>about %1 minutes left</source>
+        <translation>残り約 %1 分</translation>
+    </message>
+    <message>
+        <source>about %1 hours left</source>
+        <translation>残り約 %1 時間</translation>
+    </message>
+    <message>
+        <source>Sending the photo...</source>
+        <translation>写真を送っています...</translation>
+    </message>
+    <message>
+        <source>Paused: %1 of %2 photos are sent.</source>
+        <translation>一時停止中: %2 枚中 %1 枚の写真を送りました。</translation>
+    </message>
+    <message>
+        <source>Sending photo %1 of %2</source>
+        <translation>写真を送っています (%1/%2)</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1077,6 +1279,17 @@
     <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewSwitch</name>
+    <message>
+        <source>Re&amp;view before printing</source>
+        <translation>印刷前に確認(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Shows the pages as the application has made them, before they go to the printer</source>
+        <translation>アプリケーションが作成したページを、プリンターに送る前に表示します</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1515,37 @@
         <source>A saved setting was left out. %1</source>
         <translation>保存された設定を 1 つ使いませんでした。%1</translation>
     </message>
+    <message>
+        <source>No printer is chosen. Choose one from the list.</source>
+        <translation>プリンターが選ばれていません。一覧から選んでください。</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the printer &quot;%1&quot; yet. Wait for it, or choose another one.</source>
+        <translation>プリンター「%1」の情報がまだありません。待つか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The photos are still being read. Wait a moment.</source>
+        <translation>写真をまだ読み込んでいます。少しお待ちください。</translation>
+    </message>
+    <message>
+        <source>There is no photo to print. Open the dialog with one.</source>
+        <translation>印刷する写真がありません。写真を指定してダイアログを開いてください。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::DocumentSpool</name>
+    <message>
+        <source>The document cannot be read: %1. Print it once more from its application.</source>
+        <translation>文書を読めません: %1。元のアプリケーションからもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>There is no room for the document: %1. Make room on the disk, and print it once more.</source>
+        <translation>文書を保存する空きがありません: %1。ディスクの空きを増やして、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
+        <translation>「%1」に文書のファイルを作れません。書き込みの権限を確認して、もう一度印刷してください。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::HitList</name>
@@ -1434,6 +1678,21 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::Notices</name>
+    <message>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Printing from %1</source>
+        <translation>%1 からの印刷</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
     </message>
 </context>
 <context>
@@ -1574,6 +1833,14 @@
         <source>The command that prints this again is on the clipboard.</source>
         <translation>同じ印刷をもう一度行うコマンドをクリップボードにコピーしました。</translation>
     </message>
+    <message>
+        <source>A file is being written still. Write the next one when it is there.</source>
+        <translation>まだファイルを書き込んでいます。終わってから次のファイルを書き込んでください。</translation>
+    </message>
+    <message>
+        <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
+        <translation>同じ印刷をもう一度行うコマンドを、PIN やパスワードを除いてクリップボードにコピーしました。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -1604,6 +1871,22 @@
     <message>
         <source>All %1, or for example 1-3, 5-</source>
         <translation>全 %1 ページ、または 1-3, 5- など</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>現在のページ</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>選択範囲</translation>
+    </message>
+    <message>
+        <source>Which pages</source>
+        <translation>どのページを印刷するか</translation>
+    </message>
+    <message>
+        <source>All, or for example 1-3, 5-</source>
+        <translation>すべて、または 1-3, 5- など</translation>
     </message>
 </context>
 <context>
@@ -1698,6 +1981,14 @@
     <message>
         <source>The printer does not have this paper size both with and without a margin.</source>
         <translation>プリンターのこの用紙サイズには、余白ありと余白なしの両方はありません。</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>拡大縮小(&amp;S):</translation>
     </message>
 </context>
 <context>
@@ -1953,6 +2244,10 @@
         <source>Reading the photo...</source>
         <translation>写真を読み込んでいます...</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>裏面</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -2089,10 +2384,6 @@
         <translation>プリンター</translation>
     </message>
     <message>
-        <source>Pre&amp;set:</source>
-        <translation>プリセット(&amp;S):</translation>
-    </message>
-    <message>
         <source>1 option was put back to the printer&apos;s default.</source>
         <translation>1 件のオプションをプリンターの既定値に戻しました。</translation>
     </message>
@@ -2112,21 +2403,29 @@
         <source>Writing the file...</source>
         <translation>ファイルを書き込んでいます...</translation>
     </message>
+    <message>
+        <source>Preset:</source>
+        <translation>プリセット:</translation>
+    </message>
+    <message>
+        <source>An application</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>The document is printed as it came. Its pages cannot be shown here.</source>
+        <translation>文書は届いたまま印刷されます。ページをここに表示することはできません。</translation>
+    </message>
+    <message>
+        <source>The application makes its pages when you have pressed Print.</source>
+        <translation>「印刷」を押すと、アプリケーションがページを作成します。</translation>
+    </message>
+    <message>
+        <source>Print - %1</source>
+        <translation>印刷 - %1</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
-    <message>
-        <source>No temporary file can be made: %1. Make room on the disk and try again.</source>
-        <translation>一時ファイルを作れません: %1。ディスクの空きを増やして、もう一度お試しください。</translation>
-    </message>
-    <message>
-        <source>Sending the job...</source>
-        <translation>ジョブを送っています...</translation>
-    </message>
-    <message>
-        <source>Preparing the pages...</source>
-        <translation>ページを準備しています...</translation>
-    </message>
     <message>
         <source>Cancelled: nothing was printed.</source>
         <translation>キャンセルしました。何も印刷していません。</translation>
@@ -2143,12 +2442,39 @@
         <source>Job %1 was sent to &quot;%2&quot;, but the print server has not answered for %3 seconds: whether it was printed is not known. Look at the printer before you print again.</source>
         <translation>ジョブ %1 は「%2」に送信しましたが、プリントサーバーが %3 秒間応答していません。印刷されたかどうかは不明です。もう一度印刷する前にプリンターをご確認ください。</translation>
     </message>
+    <message>
+        <source>The document cannot be read any more: %1. Print it once more.</source>
+        <translation>文書を読めなくなりました: %1。もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 photos went out in %2 jobs; the others were not sent. %3</source>
+        <translation>%1 枚の写真を %2 件のジョブで送りました。残りは送っていません。%3</translation>
+    </message>
+    <message>
+        <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
+        <translation>%1 枚の写真を %2 件のジョブ (%3 から %4) で印刷しました。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrintService</name>
+    <message>
+        <source>There is no session bus: %1.</source>
+        <translation>セッションバスがありません: %1。</translation>
+    </message>
+    <message>
+        <source>Another halvern-print-portal runs in this session already.</source>
+        <translation>このセッションでは別の halvern-print-portal がすでに動作しています。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrinterChoice</name>
     <message>
         <source>Your default printer &quot;%1&quot; is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>既定のプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
+    </message>
+    <message>
+        <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
+        <translation>アプリケーションが覚えているプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
     </message>
 </context>
 <context>
@@ -2187,6 +2513,14 @@
     <message>
         <source>✓ as shown</source>
         <translation>✓ 表示どおり</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
     </message>
 </context>
 <context>
