@@ -101,10 +101,15 @@ void PhotoLoader::settleDamaged(bool print)
 {
     damagedFiles_.clear();
     if (!print) {
+        const std::vector<LeftOutPhoto> before = leftOut_;
         for (size_t i = 0; i < photos_.size(); ++i) {
+            size_t place = i;
+            for (const LeftOutPhoto& gone : before)
+                place += gone.place <= place ? 1 : 0;
             if (photos_[i].isDamaged)
-                leftOut_.push_back({i, photos_[i]});
+                leftOut_.push_back({place, photos_[i]});
         }
+        std::ranges::sort(leftOut_, {}, &LeftOutPhoto::place);
         std::erase_if(photos_, [](const Photo& photo) { return photo.isDamaged; });
         Q_EMIT changed();
     }

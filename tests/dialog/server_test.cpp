@@ -9,6 +9,7 @@
 #include "platform/printing/printer.h"
 #include "platform/toolkit/user_action.h"
 #include "tests/dialog/dialog_support.h"
+#include "tests/dialog/tiff_file.h"
 #include "tests/support/scripted_server.h"
 
 #include <QAbstractItemView>
@@ -89,6 +90,28 @@ TEST_F(DialogServerTest, ListsQueuesWithTheirStatesAndSelectsTheDefault)
     EXPECT_EQ(list.find(q("Tessarin"))->info, q("Photo printer"));
     EXPECT_TRUE(containsText(stateText(*list.find(q("Paused"))), "Paused"));
     EXPECT_TRUE(containsText(stateText(*list.find(q("Rejecting"))), "not accept"));
+}
+
+TEST_F(DialogServerTest, ACopiedCommandLeavesOutThePagesThatTheUserDid)
+{
+    SessionRequest two = request(q("Tessarin"));
+    two.files = {writeFile(folder.filePath(q("three.tif")), tiffOf({0, 0, 0})), photoPath()};
+    DialogSession session(two, panels);
+    ASSERT_TRUE(isReady(session));
+    ASSERT_EQ(session.photos().size(), 4u);
+    EXPECT_FALSE(session.command().contains(q("--pages")));
+    // As the preview finds it out, one after the other.
+    for (const auto& [place, pages] : {std::pair(1, " --pages 1,3-4 "), std::pair(0, " --pages 3-4 ")}) {
+        const Photo photo = session.photos()[size_t(place)];
+        session.noteDamage(photo.path, photo.page);
+        session.settleDamaged(false);
+        const QString command = session.command();
+        EXPECT_TRUE(command.contains(q(pages)) && command.contains(q(" --print-damaged ")))
+            << qPrintable(command);
+    }
+    session.noteDamage(photoPath(), 0);
+    session.settleDamaged(false);
+    EXPECT_FALSE(session.command().contains(photoPath())) << "nothing of it is printed";
 }
 
 TEST_F(DialogServerTest, AServerThatFailsForAMomentDoesNotEmptyTheListAndNoPrinterIsListedTwice)
