@@ -18,8 +18,6 @@ PortalCall::PortalCall(PortalRoom room, CallDetails details, const QDBusMessage&
       applicationsName_(applicationName(details_.application))
 {
     message.setDelayedReply(true);
-    new RequestAdaptor(this);
-    QDBusConnection::sessionBus().registerObject(details_.handle, this);
 }
 
 PortalCall::~PortalCall()
@@ -31,9 +29,7 @@ void PortalCall::answer(PortalResponse response, const QVariantMap& results)
 {
     if (std::exchange(isAnswered_, true))
         return;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.unregisterObject(details_.handle);
-    bus.send(message_.createReply({uint(response), results}));
+    QDBusConnection::sessionBus().send(message_.createReply({uint(response), results}));
 }
 
 void PortalCall::close()
@@ -61,13 +57,6 @@ void PortalCall::showDialog(PrintDialog& dialog)
     dialog.show();
     dialog.raise();
     dialog.activateWindow();
-}
-
-void RequestAdaptor::Close(const QDBusMessage& message)
-{
-    // Everybody on the bus may ask; only whoever opened it closes it.
-    if (message.service() == call_->caller())
-        call_->close();
 }
 
 } // namespace halvern

@@ -6,7 +6,6 @@
 #include "portal/notices.h"
 #include "portal/token_store.h"
 
-#include <QDBusAbstractAdaptor>
 #include <QDBusMessage>
 
 namespace halvern {
@@ -35,8 +34,7 @@ struct CallDetails {
     QVariantMap options;
 };
 
-/// A call that is answered when its dialog has been, and the object by which whoever called takes it back.
-/// Main thread only.
+/// A call that is answered when its dialog has been. Main thread only.
 class PortalCall : public QObject {
     Q_OBJECT
 
@@ -52,6 +50,8 @@ public:
     void close();
 
     const QString& caller() const { return caller_; }
+
+    const QString& handle() const { return details_.handle; }
 
 Q_SIGNALS:
     /// Answered, and nothing is left to do.
@@ -83,21 +83,6 @@ private:
     QString applicationsName_;
     std::shared_ptr<QWindow> parent_;
     bool isAnswered_ = false;
-};
-
-/// The object at a call's handle.
-class RequestAdaptor : public QDBusAbstractAdaptor {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
-
-public:
-    explicit RequestAdaptor(PortalCall* call) : QDBusAbstractAdaptor(call), call_(call) {}
-
-public Q_SLOTS:
-    void Close(const QDBusMessage& message);
-
-private:
-    PortalCall* call_;
 };
 
 } // namespace halvern

@@ -13,6 +13,7 @@ namespace halvern {
 namespace {
 
 const QString kName = QStringLiteral("org.freedesktop.impl.portal.desktop.tessarin");
+const QString kRequest = QStringLiteral("org.freedesktop.impl.portal.Request");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 
 } // namespace
@@ -45,7 +46,10 @@ QString PrintService::enter()
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return tr("There is no session bus: %1.").arg(bus.lastError().message());
-    if (!bus.registerObject(kPath, this) || !bus.registerService(kName))
+    const bool isThere =
+        bus.registerObject(kPath, this) &&
+        bus.registerVirtualObject(kPath + QStringLiteral("/request"), &requests_, QDBusConnection::SubPath);
+    if (!isThere || !bus.registerService(kName))
         return tr("Another halvern-print-portal runs in this session already.");
     return {};
 }
@@ -95,6 +99,33 @@ void PrintService::print(CallDetails details, const QDBusUnixFileDescriptor& doc
         connect(job, &SentJob::over, job, &QObject::deleteLater);
     });
     begin(call);
+}
+
+bool PrintService::close(const QString& handle, const QString& caller)
+{
+    for (PortalCall* call : findChildren<PortalCall*>()) {
+        if (call->handle() != handle || call->caller() != caller)
+            continue;
+        call->close();
+        return true;
+    }
+    return false;
+}
+
+QString RequestTree::introspect(const QString&) const
+{
+    return QStringLiteral("<interface name=\"%1\"><method name=\"Close\"/></interface>").arg(kRequest);
+}
+
+bool RequestTree::handleMessage(const QDBusMessage& message, const QDBusConnection& connection)
+{
+    const bool isForRequest = message.interface().isEmpty() || message.interface() == kRequest;
+    // Everybody on the bus may ask; only whoever opened it closes it.
+    if (!isForRequest || message.member() != QLatin1StringView("Close") ||
+        !service_.close(message.path(), message.service()))
+        return false;
+    connection.send(message.createReply());
+    return true;
 }
 
 uint PrintAdaptor::PreparePrint(const QDBusObjectPath& handle, const QString& application,

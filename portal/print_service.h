@@ -9,6 +9,7 @@
 #include <QDBusObjectPath>
 #include <QDBusServiceWatcher>
 #include <QDBusUnixFileDescriptor>
+#include <QDBusVirtualObject>
 
 namespace halvern {
 
@@ -16,6 +17,21 @@ namespace halvern {
 struct PortalTimes {
     std::chrono::milliseconds idle = std::chrono::seconds(60);
     std::chrono::milliseconds token = std::chrono::minutes(10);
+};
+
+class PrintService;
+
+/// The objects at the handles of calls. All of them are there before their calls are: a call that is taken
+/// back at once must not be missed.
+class RequestTree : public QDBusVirtualObject {
+public:
+    explicit RequestTree(PrintService& service) : service_(service) {}
+
+    QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+private:
+    PrintService& service_;
 };
 
 /// The desktop's print portal, as far as it shows dialogs and prints: what the portal's front end calls. Main
@@ -34,6 +50,9 @@ public:
                  const QDBusMessage& message);
     void print(CallDetails details, const QDBusUnixFileDescriptor& document, const QDBusMessage& message);
 
+    /// Takes a call back. False if `caller` has made none with that handle.
+    bool close(const QString& handle, const QString& caller);
+
 Q_SIGNALS:
     /// Nothing has been going on for a while, and nobody reaches the service any more.
     void over();
@@ -48,6 +67,7 @@ private:
     Life life_;
     std::shared_ptr<void> heldForTokens_;
     QDBusServiceWatcher callers_;
+    RequestTree requests_{*this};
 };
 
 /// The service's object on the bus.

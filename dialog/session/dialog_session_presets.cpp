@@ -150,7 +150,10 @@ void DialogSession::savePreset(const QString& name, const PresetContents& conten
 
 bool DialogSession::isAsChosen() const
 {
-    return !model_ || isAsPreset(*model_, page(), presets_.chosen().preset, filledIn_);
+    const Preset& chosen = presets_.chosen().preset;
+    // How another program's pages are laid out is no setting of the printer's.
+    const PageSettings compared = document() ? withPreset(page(), chosen) : page();
+    return !model_ || isAsPreset(*model_, compared, chosen, filledIn_);
 }
 
 Preset DialogSession::usedNow() const

@@ -38,7 +38,7 @@ void PrintDialog::showDocument()
         sheet.lines.append(title);
     sheet.lines.append(document.isHere
                            ? tr("The document is printed as it came. Its pages cannot be shown here.")
-                           : tr("The application makes its pages when you have pressed Print."));
+                           : tr("The application makes its pages afterwards, for this sheet."));
     const QStringList paper = session_.jobInWords().parts.mid(0, kPaperParts);
     if (!paper.isEmpty())
         sheet.lines.append(displayText(paper.join(QStringLiteral(", "))));
