@@ -3,6 +3,7 @@
 
 #include "dialog/job/pdf_output.h"
 #include "dialog/window/damage_question.h"
+#include "platform/foundation/display_text.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -11,11 +12,21 @@
 #include <QGuiApplication>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
 
 const QString kEnding = QStringLiteral("pdf");
+
+bool isOneOf(const std::vector<Photo>& photos, const QString& path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return !file.isEmpty() && std::ranges::any_of(photos, [&](const Photo& photo) {
+        return QFileInfo(photo.path).canonicalFilePath() == file;
+    });
+}
 
 } // namespace
 
@@ -72,6 +83,11 @@ void OutputMenu::write(const QString& path)
 {
     if (path.isEmpty() || !session_.canPrint())
         return;
+    if (isOneOf(session_.photos(), path)) {
+        Q_EMIT failed(tr("%1 is one of the files to print. Choose another name.")
+                          .arg(isolated(QFileInfo(path).fileName())));
+        return;
+    }
     if (unfinished()) {
         Q_EMIT failed(tr("A file is being written still. Write the next one when it is there."));
         return;
