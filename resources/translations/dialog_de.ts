@@ -1841,6 +1841,10 @@
         <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
         <translation>Der Befehl, der dies wieder druckt, ist in der Zwischenablage, ohne Ihre PIN oder Ihr Passwort.</translation>
     </message>
+    <message>
+        <source>%1 is one of the files to print. Choose another name.</source>
+        <translation>%1 ist eine der zu druckenden Dateien. Wählen Sie einen anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2416,12 +2420,12 @@
         <translation>Das Dokument wird gedruckt, wie es gekommen ist. Seine Seiten können hier nicht gezeigt werden.</translation>
     </message>
     <message>
-        <source>The application makes its pages when you have pressed Print.</source>
-        <translation>Die Anwendung erstellt ihre Seiten, wenn Sie „Drucken“ gedrückt haben.</translation>
-    </message>
-    <message>
         <source>Print - %1</source>
         <translation>Drucken - %1</translation>
+    </message>
+    <message>
+        <source>The application makes its pages afterwards, for this sheet.</source>
+        <translation>Die Anwendung erstellt ihre Seiten danach, für dieses Blatt.</translation>
     </message>
 </context>
 <context>

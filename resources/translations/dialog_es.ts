@@ -1841,6 +1841,10 @@
         <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
         <translation>El comando que imprime esto de nuevo está en el portapapeles, sin su PIN ni su contraseña.</translation>
     </message>
+    <message>
+        <source>%1 is one of the files to print. Choose another name.</source>
+        <translation>%1 es uno de los archivos que imprimir. Elija otro nombre.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2416,12 +2420,12 @@
         <translation>El documento se imprime tal como llegó. Sus páginas no se pueden mostrar aquí.</translation>
     </message>
     <message>
-        <source>The application makes its pages when you have pressed Print.</source>
-        <translation>La aplicación hace sus páginas cuando usted ha pulsado Imprimir.</translation>
-    </message>
-    <message>
         <source>Print - %1</source>
         <translation>Imprimir - %1</translation>
+    </message>
+    <message>
+        <source>The application makes its pages afterwards, for this sheet.</source>
+        <translation>La aplicación hace sus páginas después, para esta hoja.</translation>
     </message>
 </context>
 <context>

@@ -1841,6 +1841,10 @@
         <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
         <translation>La commande qui imprime cela à nouveau est dans le presse-papiers, sans votre PIN ni votre mot de passe.</translation>
     </message>
+    <message>
+        <source>%1 is one of the files to print. Choose another name.</source>
+        <translation>%1 est l’un des fichiers à imprimer. Choisissez un autre nom.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2416,12 +2420,12 @@
         <translation>Le document est imprimé tel qu’il est arrivé. Ses pages ne peuvent pas être affichées ici.</translation>
     </message>
     <message>
-        <source>The application makes its pages when you have pressed Print.</source>
-        <translation>L’application fait ses pages une fois que vous avez cliqué sur Imprimer.</translation>
-    </message>
-    <message>
         <source>Print - %1</source>
         <translation>Imprimer - %1</translation>
+    </message>
+    <message>
+        <source>The application makes its pages afterwards, for this sheet.</source>
+        <translation>L’application fait ses pages ensuite, pour cette feuille.</translation>
     </message>
 </context>
 <context>

@@ -1841,6 +1841,10 @@
         <source>The command that prints this again is on the clipboard, without your PIN or password.</source>
         <translation>同じ印刷をもう一度行うコマンドを、PIN やパスワードを除いてクリップボードにコピーしました。</translation>
     </message>
+    <message>
+        <source>%1 is one of the files to print. Choose another name.</source>
+        <translation>%1 は印刷するファイルの 1 つです。別の名前を選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2416,12 +2420,12 @@
         <translation>文書は届いたまま印刷されます。ページをここに表示することはできません。</translation>
     </message>
     <message>
-        <source>The application makes its pages when you have pressed Print.</source>
-        <translation>「印刷」を押すと、アプリケーションがページを作成します。</translation>
-    </message>
-    <message>
         <source>Print - %1</source>
         <translation>印刷 - %1</translation>
+    </message>
+    <message>
+        <source>The application makes its pages afterwards, for this sheet.</source>
+        <translation>アプリケーションはこのあと、この用紙に合わせてページを作成します。</translation>
     </message>
 </context>
 <context>
