@@ -5,6 +5,21 @@
 
 namespace halvern {
 
+namespace {
+
+constexpr double kTolerance = 0.001;
+
+} // namespace
+
+bool isNear(const Primaries& one, const Primaries& other)
+{
+    const auto same = [](const Chromaticity& a, const Chromaticity& b) {
+        return qAbs(a.x - b.x) < kTolerance && qAbs(a.y - b.y) < kTolerance;
+    };
+    return same(one.white, other.white) && same(one.red, other.red) && same(one.green, other.green) &&
+           same(one.blue, other.blue);
+}
+
 QByteArray profileFor(const Primaries& primaries, double gamma)
 {
     const double srgb[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};

@@ -23,6 +23,9 @@ inline constexpr Primaries kSrgbPrimaries{kD65, {0.64, 0.33}, {0.30, 0.60}, {0.1
 inline constexpr Primaries kDisplayP3Primaries{kD65, {0.680, 0.320}, {0.265, 0.690}, {0.150, 0.060}};
 inline constexpr Primaries kWidePrimaries{kD65, {0.708, 0.292}, {0.170, 0.797}, {0.131, 0.046}};
 
+/// Whether they are the same to what a file can say of them.
+bool isNear(const Primaries& one, const Primaries& other);
+
 /// An ICC profile for what a file says in numbers only; gamma 0 is sRGB's curve. Empty if there is none.
 QByteArray profileFor(const Primaries& primaries, double gamma);
 

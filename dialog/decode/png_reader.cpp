@@ -140,11 +140,14 @@ private:
         } else if (png_get_sRGB(png_, info_, &number)) {
             picture_.colorTag = ColorTag::sRgb;
         } else if (png_get_gAMA(png_, info_, &gamma) && gamma > 0.0) {
-            Primaries p{};
-            const bool hasPrimaries = png_get_cHRM(png_, info_, &p.white.x, &p.white.y, &p.red.x, &p.red.y,
-                                                   &p.green.x, &p.green.y, &p.blue.x, &p.blue.y);
-            if (channelsOf(picture_.format) == 3 && (hasPrimaries || qAbs(gamma - kUsualGamma) > 0.01))
-                picture_.profile = profileFor(hasPrimaries ? p : kSrgbPrimaries, 1.0 / gamma);
+            Primaries p = kSrgbPrimaries;
+            png_get_cHRM(png_, info_, &p.white.x, &p.white.y, &p.red.x, &p.red.y, &p.green.x, &p.green.y,
+                         &p.blue.x, &p.blue.y);
+            // sRGB's primaries and a gamma of 2.2 is how programs say sRGB.
+            if (isNear(p, kSrgbPrimaries) && qAbs(gamma - kUsualGamma) < 0.01)
+                picture_.colorTag = ColorTag::sRgb;
+            else if (channelsOf(picture_.format) == 3)
+                picture_.profile = profileFor(p, 1.0 / gamma);
         } else {
             picture_.colorTag = notes_.colorTag;
         }
