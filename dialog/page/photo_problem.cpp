@@ -25,7 +25,7 @@ QString pattern(PhotoFault fault)
     case PhotoFault::missing:
         return Words::tr("There is no file \"%1\". Check its name.");
     case PhotoFault::isFolder:
-        return Words::tr("\"%1\" is a folder. Name the photos in it, for example *.jpg.");
+        return Words::tr("\"%1\" is a folder without photos. Name one that holds photos, or photos.");
     case PhotoFault::unreadable:
         return Words::tr("\"%1\" cannot be opened. Check that you may read it.");
     case PhotoFault::empty:

@@ -26,7 +26,7 @@ constexpr double kMostPoints = 1e6;
 QDataStream& operator<<(QDataStream& out, const PhotoDetails& d)
 {
     return out << d.kind << d.taken << d.camera << d.lens << d.exposure << d.aperture << d.focalLength
-               << qint32(d.sensitivity) << d.title << d.description << d.colorSpace << qint32(d.rating);
+               << qint32(d.sensitivity) << d.title << d.description << qint32(d.rating);
 }
 
 QDataStream& operator>>(QDataStream& in, PhotoDetails& d)
@@ -34,8 +34,8 @@ QDataStream& operator>>(QDataStream& in, PhotoDetails& d)
     qint32 sensitivity = 0;
     qint32 rating = 0;
     in >> d.kind >> d.taken >> d.camera >> d.lens >> d.exposure >> d.aperture >> d.focalLength >>
-        sensitivity >> d.title >> d.description >> d.colorSpace >> rating;
-    for (QString* text : {&d.kind, &d.taken, &d.camera, &d.lens, &d.title, &d.description, &d.colorSpace})
+        sensitivity >> d.title >> d.description >> rating;
+    for (QString* text : {&d.kind, &d.taken, &d.camera, &d.lens, &d.title, &d.description})
         text->truncate(kLongestDetail);
     d.sensitivity = sensitivity;
     d.rating = rating;

@@ -18,8 +18,7 @@ struct PhotoDetails {
     int sensitivity = 0;      ///< ISO
     QString title;
     QString description;
-    QString colorSpace; ///< the embedded profile's name, or what the camera notes
-    int rating = 0;     ///< stars, 1 to 5
+    int rating = 0; ///< stars, 1 to 5
 
     bool operator==(const PhotoDetails&) const = default;
 };

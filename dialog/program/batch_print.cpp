@@ -29,8 +29,12 @@ BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream
 {
     connect(&session_.printerList(), &PrinterList::changed, this, &BatchPrint::takePrinters);
     connect(&session_, &DialogSession::photosChanged, this, &BatchPrint::proceed);
-    connect(&session_, &DialogSession::photoFailed, this,
-            [this](const QString& sentence) { photoProblems_.append(sentence); });
+    connect(&session_, &DialogSession::photoFailed, this, [this](const QString& sentence) {
+        if (line_.request.skipBroken)
+            writeLine(err_, sentence);
+        else
+            photoProblems_.append(sentence);
+    });
     connect(&session_, &DialogSession::photoDamaged, this, &BatchPrint::takeDamage);
     connect(&session_, &DialogSession::printerReady, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::printerFailed, this, &BatchPrint::takePrinterFailure);
@@ -71,7 +75,7 @@ void BatchPrint::takePrinterFailure(const QString& sentence)
 
 void BatchPrint::takeDamage(const QString& sentence)
 {
-    if (line_.request.printDamaged)
+    if (line_.request.printDamaged || line_.request.skipBroken)
         writeLine(err_, sentence);
     else
         photoProblems_.append(sentence + QLatin1Char(' ') +
@@ -82,7 +86,14 @@ void BatchPrint::proceed()
 {
     // All of them, so that nobody has to try again for each.
     if (session_.hasPhotos() && !photoProblems_.isEmpty())
-        fail(photoProblems_.join(QLatin1Char('\n')));
+        fail(photoProblems_.join(QLatin1Char('\n')) +
+             (session_.photos().empty()
+                  ? QString()
+                  : QLatin1Char('\n') + tr("With --skip-broken the others are printed.")));
+    if (session_.hasPhotos() && line_.request.skipBroken && !session_.damagedFiles().isEmpty())
+        session_.settleDamaged(false);
+    if (session_.hasPhotos() && session_.photos().empty() && !line_.request.document)
+        fail(tr("None of the files can be printed."));
     const bool isComplete = session_.hasPhotos() && session_.model() && session_.printerList().hasAnswer();
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;

@@ -5,6 +5,7 @@
 #include "dialog/options/preset.h"
 #include "dialog/page/photo_problem.h"
 #include "dialog/photo/decoder_process.h"
+#include "dialog/program/given_files.h"
 #include "platform/foundation/display_text.h"
 
 #include <QCommandLineParser>
@@ -58,6 +59,10 @@ public:
         QStringLiteral("photos-per-job"),
         tr("Send several jobs in order, with at most this many photos each; without it, one job."),
         QStringLiteral("N")};
+    QCommandLineOption skipBroken{
+        QStringLiteral("skip-broken"),
+        tr("With --no-dialog: leave out files that cannot be read, or of which a part is missing, say which, "
+           "and print the others.")};
     QCommandLineOption noDialog{QStringLiteral("no-dialog"),
                                 tr("Print at once, and wait until the job has ended.")};
     QCommandLineOption wait{
@@ -189,7 +194,11 @@ public:
         return tr("\"%1\" is a preset that is always there. Choose another name.").arg(name);
     }
 
-    static QString noFile() { return tr("Name at least one photo to print (JPEG, PNG, TIFF or PDF)."); }
+    static QString noFile()
+    {
+        return tr("Name at least one photo to print (JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF), or a folder "
+                  "of them.");
+    }
 
     static QString badPresetName(const QString& text)
     {
@@ -217,7 +226,11 @@ public:
                   "  6  With --verify: printed, but not held by the print server as it was sent.");
     }
 
-    static QString fileHelp() { return tr("JPEG, PNG, TIFF or PDF files; each photo becomes a page."); }
+    static QString fileHelp()
+    {
+        return tr("JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF files, or folders of them; each photo becomes a "
+                  "page. \"-\" is standard input, \"@NAME\" a text file with a file's name on each line.");
+    }
 };
 
 // The application object takes these out of the arguments; so does whoever looks at them before it.
@@ -405,13 +418,13 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions(
-        {switches.printer,      switches.option,     switches.copies,       switches.pages,
-         switches.orientation,  switches.position,   switches.reverse,      switches.title,
-         switches.backprint,    switches.preset,     switches.printDamaged, switches.noDialog,
-         switches.wait,         switches.dryRun,     switches.output,       switches.verify,
-         switches.listPrinters, switches.listPapers, switches.refresh,      switches.listOptions,
-         switches.listPresets,  switches.savePreset, switches.json,         switches.photosPerJob,
-         switches.parent,       switches.resultJson});
+        {switches.printer,      switches.option,       switches.copies,       switches.pages,
+         switches.orientation,  switches.position,     switches.reverse,      switches.title,
+         switches.backprint,    switches.preset,       switches.printDamaged, switches.skipBroken,
+         switches.noDialog,     switches.wait,         switches.dryRun,       switches.output,
+         switches.verify,       switches.listPrinters, switches.listPapers,   switches.refresh,
+         switches.listOptions,  switches.listPresets,  switches.savePreset,   switches.json,
+         switches.photosPerJob, switches.parent,       switches.resultJson});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -427,6 +440,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     CommandLine line;
     line.showDialog = !parser.isSet(switches.noDialog) && !parser.isSet(switches.dryRun);
     line.request.printDamaged = parser.isSet(switches.printDamaged);
+    line.request.skipBroken = parser.isSet(switches.skipBroken);
     line.dryRun = parser.isSet(switches.dryRun);
     line.verify = parser.isSet(switches.verify);
     line.output = parser.value(switches.output);
@@ -434,7 +448,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     line.resultJson = parser.isSet(switches.resultJson);
     line.showDialog = line.showDialog && !parser.isSet(switches.output);
     QStringList remarks;
-    line.request.files = parser.positionalArguments();
+    QStringList unusable;
+    line.request.files = givenFiles(parser.positionalArguments(), &unusable);
     QString problem = readValues(parser, switches, line);
     if (problem.isEmpty())
         problem = readLayout(parser, switches, line);
@@ -448,15 +463,19 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
         return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
     if (line.listing.what != Listing::none)
         return {line, {}, kExitPrinted, remarks};
-    if (line.request.files.isEmpty())
+    if (line.request.files.isEmpty() && unusable.isEmpty())
         return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
-    QStringList unusable;
+    QStringList usable;
     for (const QString& path : line.request.files) {
         if (const QString sentence = fileProblem(path); !sentence.isEmpty())
             unusable.append(sentence);
+        else
+            usable.append(path);
     }
-    if (!unusable.isEmpty())
+    if (!unusable.isEmpty() && (usable.isEmpty() || !line.request.skipBroken))
         return wrong(unusable.join(QLatin1Char('\n')), kExitFailed);
+    line.request.files = usable;
+    remarks.append(unusable);
     return {line, {}, kExitPrinted, remarks};
 }
 

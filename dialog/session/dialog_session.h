@@ -53,6 +53,12 @@ public:
     /// makeRun(), and settle it.
     const QStringList& damagedFiles() const { return photos_.damagedFiles(); }
 
+    /// A sentence for each file that cannot be read and is left out, until that is settled.
+    const QStringList& unreadableFiles() const { return photos_.unreadableFiles(); }
+
+    /// Reads these files too; their photos come behind the others.
+    void addPhotos(const QStringList& files) { photos_.add(files); }
+
     /// What the user says: the damaged photos print as they are, or are left out.
     void settleDamaged(bool print);
 

@@ -33,10 +33,21 @@ PhotoLoader::~PhotoLoader()
 
 void PhotoLoader::start()
 {
+    read(files_);
+}
+
+void PhotoLoader::add(const QStringList& files)
+{
+    filesLeft_ += int(files.size());
+    read(files);
+    Q_EMIT changed();
+}
+
+void PhotoLoader::read(const QStringList& files)
+{
     QPointer<PhotoLoader> self(this);
-    const WorkQueue queue;
-    for (const QString& path : files_) {
-        queue.async([self, path, stop = stop_] {
+    for (const QString& path : files) {
+        queue_.async([self, path, stop = stop_] {
             if (stop->load())
                 return;
             PhotoFile file = openPhotoFile(path);
@@ -60,6 +71,7 @@ void PhotoLoader::take(const PhotoFile& file)
             photos_.back().position = positions_[std::min(qsizetype(photos_.size()), positions_.size()) - 1];
     }
     if (!file.problem.isEmpty() && file.pages.empty()) {
+        unreadableFiles_.append(file.problem);
         Q_EMIT failed(file.problem);
     } else if (!file.problem.isEmpty()) {
         tellDamage(file.problem);
@@ -99,6 +111,7 @@ void PhotoLoader::centre()
 
 void PhotoLoader::settleDamaged(bool print)
 {
+    unreadableFiles_.clear();
     damagedFiles_.clear();
     if (!print) {
         const std::vector<LeftOutPhoto> before = leftOut_;

@@ -3,6 +3,7 @@
 
 #include "dialog/page/photo.h"
 #include "dialog/photo/decoder_process.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/cups_connection.h"
 
 #include <QObject>
@@ -39,6 +40,12 @@ public:
     /// Somebody who decoded a photo has found that a part of it is missing.
     void noteDamage(const QString& path, int page);
 
+    /// Reads these files too, behind the others.
+    void add(const QStringList& files);
+
+    /// A sentence for each file that cannot be read, until that is settled.
+    const QStringList& unreadableFiles() const { return unreadableFiles_; }
+
     /// A sentence for each file of which a part is missing, until that is settled.
     const QStringList& damagedFiles() const { return damagedFiles_; }
 
@@ -51,7 +58,7 @@ public:
     /// In the order of their places.
     const std::vector<LeftOutPhoto>& leftOut() const { return leftOut_; }
 
-    /// The damaged photos print as they are, or are left out.
+    /// The damaged photos print as they are, or are left out; what cannot be read is left out.
     void settleDamaged(bool print);
 
 Q_SIGNALS:
@@ -62,6 +69,7 @@ Q_SIGNALS:
     void damaged(const QString& sentence);
 
 private:
+    void read(const QStringList& files);
     void take(const PhotoFile& file);
     void tellDamage(const QString& sentence);
 
@@ -71,9 +79,11 @@ private:
     QList<QPointF> positions_;
     std::vector<Photo> photos_;
     std::vector<LeftOutPhoto> leftOut_;
+    QStringList unreadableFiles_;
     QStringList damagedFiles_;
     int filesLeft_;
     cups::CancelFlag stop_;
+    WorkQueue queue_; // one file after the other, in their order
 };
 
 } // namespace halvern

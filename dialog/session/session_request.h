@@ -34,6 +34,7 @@ struct SessionRequest {
     QList<QPointF> positions = {}; ///< of the photos in their order, the last one also of those that follow
     QString title = {};            ///< of the job; empty: the first photo's name
     bool printDamaged = false;     ///< also photos of which a part is missing, without asking
+    bool skipBroken = false;       ///< leave out what cannot be read, or not whole, without asking
     /// Whether somebody sees which printer was taken: another one may be if the user's default is none of the
     /// server's, or if nobody has named one and the server has no default.
     bool isAttended = true;

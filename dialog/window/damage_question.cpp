@@ -25,19 +25,39 @@ QString namedFiles(const QStringList& sentences)
     return lines.join(QStringLiteral("\n\n"));
 }
 
+// The box, with its list of all files behind a button where there are many.
+QMessageBox* makeBox(const DialogSession& session, QWidget* parent)
+{
+    const bool hasDamaged = !session.damagedFiles().isEmpty();
+    const QStringList sentences = session.unreadableFiles() + session.damagedFiles();
+    auto* box = new QMessageBox(QMessageBox::Warning,
+                                hasDamaged ? Words::tr("Print damaged photos?")
+                                           : Words::tr("Print without these files?"),
+                                namedFiles(sentences), QMessageBox::Cancel, parent);
+    box->setObjectName(QStringLiteral("damageQuestion"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    if (sentences.size() > kMostNamed)
+        box->setDetailedText(sentences.join(QStringLiteral("\n"))); // plain: a field for plain text shows it
+    box->setInformativeText(hasDamaged
+                                ? Words::tr("What is missing comes out gray, or smeared. Files that cannot "
+                                            "be read are left out.")
+                                : Words::tr("Files that cannot be read are left out."));
+    box->setDefaultButton(QMessageBox::Cancel);
+    return box;
+}
+
 } // namespace
 
 void askAboutDamagedPhotos(QWidget* parent, DialogSession& session, const std::function<void()>& go)
 {
-    auto* box = new QMessageBox(QMessageBox::Warning, Words::tr("Print damaged photos?"),
-                                namedFiles(session.damagedFiles()), QMessageBox::Cancel, parent);
-    box->setObjectName(QStringLiteral("damageQuestion"));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(Words::tr("What is missing comes out gray, or smeared."));
-    const QPushButton* leaveOut = box->addButton(Words::tr("&Leave Them Out"), QMessageBox::DestructiveRole);
-    const QPushButton* print = box->addButton(Words::tr("&Print All the Same"), QMessageBox::AcceptRole);
-    box->setDefaultButton(QMessageBox::Cancel);
+    const bool hasDamaged = !session.damagedFiles().isEmpty();
+    QMessageBox* box = makeBox(session, parent);
+    const QPushButton* leaveOut =
+        hasDamaged ? box->addButton(Words::tr("&Leave Them Out"), QMessageBox::DestructiveRole)
+                   : box->addButton(Words::tr("&Print the Others"), QMessageBox::AcceptRole);
+    const QPushButton* print =
+        hasDamaged ? box->addButton(Words::tr("&Print All the Same"), QMessageBox::AcceptRole) : nullptr;
     QObject::connect(box, &QMessageBox::buttonClicked, parent,
                      [leaveOut, print, &session, go](const QAbstractButton* button) {
                          if (button != leaveOut && button != print)

@@ -9,7 +9,8 @@ namespace halvern {
 
 class DialogSession;
 
-/// Asks whether the session's damaged photos print as they are or are left out, settles that with the
+/// Names the files that cannot be read, which are left out, and asks whether the damaged ones print as they
+/// are or are left out too; settles that with the
 /// session, and then calls `go`, unless the user stays in the dialog, or nothing is left to print. Returns at
 /// once. Main thread only.
 void askAboutDamagedPhotos(QWidget* parent, DialogSession& session, const std::function<void()>& go);

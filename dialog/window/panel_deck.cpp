@@ -5,6 +5,7 @@
 #include "dialog/window/option_finder.h"
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
+#include "dialog/window/photo_page.h"
 #include "dialog/window/summary_page.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -26,6 +27,7 @@ namespace {
 const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
 const QString kJob = QStringLiteral("job");
+const QString kPhoto = QStringLiteral("photo");
 const QString kSummary = QStringLiteral("summary");
 const QString kPreview = QStringLiteral("preview");
 
@@ -88,6 +90,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
       page_(new PaperPage(session, this)),
       options_(new OptionsPage(session, this)),
       job_(new JobPage(session, this)),
+      photo_(new PhotoPage(this)),
       summary_(new SummaryPage(session, this))
 {
     list_->setObjectName(QStringLiteral("pageList"));
@@ -99,8 +102,9 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     area_->setWidgetResizable(true);
     area_->setFrameShape(QFrame::NoFrame);
     area_->viewport()->setAutoFillBackground(false);
-    for (QWidget* page : {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_),
-                          static_cast<QWidget*>(job_), static_cast<QWidget*>(summary_), empty_})
+    for (QWidget* page :
+         {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_), static_cast<QWidget*>(job_),
+          static_cast<QWidget*>(photo_), static_cast<QWidget*>(summary_), empty_})
         page->hide();
     layOut();
     setFocusProxy(list_);
@@ -127,6 +131,11 @@ void PanelDeck::layOut()
     stack_->addWidget(pages);
     stack_->addWidget(finder_->results());
     column->addLayout(stack_, 1);
+}
+
+void PanelDeck::setPhoto(const Photo& photo)
+{
+    photo_->setPhoto(photo);
 }
 
 void PanelDeck::startSearch()
@@ -212,6 +221,8 @@ void PanelDeck::rebuild()
             addPage(kOptions, session_.hasCustomPanels() ? tr("More Options") : tr("Options"));
         job_->refresh();
         addPage(kJob, tr("Job"));
+        if (!session_.document())
+            addPage(kPhoto, tr("About the Photo"));
         addPage(kSummary, tr("Summary"));
         if (previewPage_)
             addPage(kPreview, tr("Preview"));
@@ -257,6 +268,8 @@ QWidget* PanelDeck::viewFor(const QString& identifier)
         return options_;
     if (identifier == kJob)
         return job_;
+    if (identifier == kPhoto)
+        return photo_;
     if (identifier == kSummary)
         return summary_;
     if (identifier == kPreview)
@@ -297,7 +310,7 @@ void PanelDeck::showRow(int row)
 void PanelDeck::nameArea(int row, const QString& identifier)
 {
     setPlainName(area_, list_->item(row)->text());
-    area_->setFocusPolicy(identifier == kSummary ? Qt::StrongFocus : Qt::NoFocus);
+    area_->setFocusPolicy(identifier == kSummary || identifier == kPhoto ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 void PanelDeck::setPreviewPage(QWidget* preview)
@@ -346,8 +359,8 @@ void PanelDeck::takeShownView()
     if (!before)
         return;
     before->hide();
-    if (before == page_ || before == options_ || before == job_ || before == summary_ || before == empty_ ||
-        before == previewPage_)
+    if (before == page_ || before == options_ || before == job_ || before == photo_ || before == summary_ ||
+        before == empty_ || before == previewPage_)
         before->setParent(this);
 }
 

@@ -12,6 +12,7 @@ class QStackedLayout;
 namespace halvern {
 
 class JobPage;
+class PhotoPage;
 class OptionFinder;
 class OptionsPage;
 class SummaryPage;
@@ -55,6 +56,9 @@ public:
 
     QStringList identifiers() const;
 
+    /// The page about the photo tells of this one from now on.
+    void setPhoto(const Photo& photo);
+
     /// Takes the focus to the field that searches all pages.
     void startSearch();
 
@@ -95,6 +99,7 @@ private:
     PaperPage* page_;
     OptionsPage* options_;
     JobPage* job_;
+    PhotoPage* photo_;
     SummaryPage* summary_;
     Panel* shown_ = nullptr;
     int shownRow_ = -1;

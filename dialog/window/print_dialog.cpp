@@ -6,6 +6,7 @@
 #include "dialog/window/job_line.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
+#include "dialog/window/photo_adding.h"
 #include "dialog/window/preset_bar.h"
 #include "dialog/window/printer_rows.h"
 #include "dialog/window/run_bar.h"
@@ -130,7 +131,17 @@ QWidget* PrintDialog::makePreviewSide()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(preview_, 1);
-    column->addWidget(pager_);
+    auto* below = new QHBoxLayout;
+    below->addWidget(pager_, 1);
+    if (!session_.document()) {
+        adding_ = new PhotoAdding(this, session_);
+        add_ = adding_->makeButton(side);
+        below->addStretch();
+        below->addWidget(add_);
+        connect(adding_, &PhotoAdding::failed, this,
+                [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
+    }
+    column->addLayout(below);
     connect(preview_, &PreviewWidget::positionChosen, this, [this](const QPointF& position) {
         const std::vector<size_t> pages = session_.chosenPages().pages;
         if (size_t(current_) < pages.size())
@@ -405,6 +416,7 @@ void PrintDialog::showPhotos()
     current_ = std::clamp(current_, 0, int(pages.size()) - 1);
     const Photo& photo = photos[pages[size_t(current_)]];
     preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
+    deck_->setPhoto(photo);
     const QString name = QFileInfo(photo.path).fileName();
     const QString shown = isolated(name, kLongestName);
     setPlainTitle(this, tr("Print %1").arg(shown));

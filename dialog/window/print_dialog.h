@@ -20,6 +20,7 @@ class MessageBar;
 class OutputMenu;
 enum class MessageKind;
 class PanelDeck;
+class PhotoAdding;
 class PresetBar;
 class PreviewWidget;
 class PrinterRows;
@@ -124,6 +125,8 @@ private:
     JobLine* jobLine_ = nullptr;
     QWidget* pager_ = nullptr;
     QLabel* pageNumber_ = nullptr;
+    PhotoAdding* adding_ = nullptr; // null: a document is printed
+    QToolButton* add_ = nullptr;
     QToolButton* back_ = nullptr;
     QToolButton* forward_ = nullptr;
     QCheckBox* review_ = nullptr; // null where there is nothing to be reviewed

@@ -124,6 +124,8 @@ QList<QWidget*> PrintDialog::tabOrder() const
     order += {runBar_->button(), copies_, collate_, output_, cancelJob_, cancel_, print_};
     if (previewIsBeside_)
         order += {preview_, preview_->zoomButton(), back_, forward_};
+    if (previewIsBeside_ && add_)
+        order += add_;
     order += message_->tabOrder();
     order.removeIf([this](const QWidget* stop) {
         const bool isStop = stop->isVisible() && stop->isEnabled() && (stop->focusPolicy() & Qt::TabFocus);

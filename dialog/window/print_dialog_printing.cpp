@@ -77,7 +77,7 @@ void PrintDialog::print()
 {
     if (isRunning() || !session_.canPrint())
         return;
-    if (!session_.damagedFiles().isEmpty()) {
+    if (!session_.damagedFiles().isEmpty() || !session_.unreadableFiles().isEmpty()) {
         askAboutDamagedPhotos(this, session_, [this] { print(); });
         return;
     }

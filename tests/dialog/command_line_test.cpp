@@ -117,6 +117,13 @@ TEST_F(CommandLineTest, PrintsDryRunsAndRefusesOnAServer)
     EXPECT_TRUE(damaged.error.contains(q("cut.jpg")) && damaged.error.contains(q("--print-damaged")))
         << qPrintable(damaged.error);
     EXPECT_EQ(runPrint({q("--dry-run"), q("--print-damaged"), cut}).status, 0);
+    const QString list = writeFile(folder.filePath(q("list.txt")), cut.toUtf8() + '\n' + photo().toUtf8());
+    const ProgramResult skipped =
+        runPrint({q("--dry-run"), q("--skip-broken"), q("@") + list, q("/none.jpg")});
+    EXPECT_EQ(skipped.status, 0) << qPrintable(skipped.error);
+    EXPECT_TRUE(skipped.error.contains(q("cut.jpg")) && skipped.error.contains(q("none.jpg")))
+        << qPrintable(skipped.error);
+    EXPECT_EQ(runPrint({q("--dry-run"), q("--skip-broken"), cut}).status, 1) << "nothing is left";
 
     EXPECT_FALSE(server.receivedOptions(1)) << "none of these has made a job";
     const ProgramResult printed = runPrint(options + QStringList{q("--no-dialog"), photo()});

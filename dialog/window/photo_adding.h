@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class QMimeData;
+class QToolButton;
+class QWidget;
+
+namespace halvern {
+
+class DialogSession;
+
+/// The ways to add photos to an open dialog: dropped on its window, chosen, or pasted, as files or as a
+/// picture. Main thread only.
+class PhotoAdding : public QObject {
+    Q_OBJECT
+
+public:
+    /// Watches the window, whose child it becomes.
+    PhotoAdding(QWidget* window, DialogSession& session);
+
+    /// A button that offers the ways, for the window to place.
+    QToolButton* makeButton(QWidget* parent);
+
+    void choose();
+    void paste();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    /// Nothing could be added; a sentence.
+    void failed(const QString& sentence);
+
+private:
+    static bool holdsPhotos(const QMimeData& data);
+    void add(const QMimeData& data);
+    void addNamed(const QStringList& names);
+
+    QWidget* window_;
+    DialogSession& session_;
+};
+
+} // namespace halvern
