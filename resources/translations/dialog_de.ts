@@ -66,20 +66,12 @@
         <translation>„%1“ ist keine Anzahl: Schreiben Sie eine Zahl von 1 bis %2.</translation>
     </message>
     <message>
-        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
-        <translation>Nennen Sie mindestens ein Foto (JPEG, PNG, TIFF oder PDF).</translation>
-    </message>
-    <message>
         <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>Der Name der Warteschlange ist leer. „lpstat -e“ zeigt die Warteschlangen.</translation>
     </message>
     <message>
         <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>Druckt Fotos, mit Vorschau und den eigenen Optionsseiten des Druckers.</translation>
-    </message>
-    <message>
-        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
-        <translation>JPEG-, PNG-, TIFF- oder PDF-Dateien; jedes Foto wird eine Seite.</translation>
     </message>
     <message>
         <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
@@ -243,6 +235,22 @@
         <source>%1 is one of the files to print. Write to another file with --output.</source>
         <translation>%1 ist eine der zu druckenden Dateien. Schreiben Sie mit --output in eine andere Datei.</translation>
     </message>
+    <message>
+        <source>With --no-dialog: leave out files that cannot be read, or of which a part is missing, say which, and print the others.</source>
+        <translation>Mit --no-dialog: Dateien weglassen, die nicht lesbar sind oder von denen ein Teil fehlt, sagen, welche, und die anderen drucken.</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF), or a folder of them.</source>
+        <translation>Nennen Sie mindestens ein Foto (JPEG, PNG, TIFF, WebP, HEIF, AVIF oder PDF) oder einen Ordner mit Fotos.</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF files, or folders of them; each photo becomes a page. &quot;-&quot; is standard input, &quot;@NAME&quot; a text file with a file&apos;s name on each line.</source>
+        <translation>JPEG-, PNG-, TIFF-, WebP-, HEIF-, AVIF- oder PDF-Dateien oder Ordner mit solchen; jedes Foto wird eine Seite. „-“ ist die Standardeingabe, „@NAME“ eine Textdatei mit einem Dateinamen je Zeile.</translation>
+    </message>
+    <message>
+        <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>Die Standardeingabe kann nicht in einer temporären Datei abgelegt werden. Schaffen Sie Platz auf der Festplatte.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -301,16 +309,28 @@
         <translation>Und %1 weitere.</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>Was fehlt, wird grau oder verschmiert gedruckt.</translation>
-    </message>
-    <message>
         <source>&amp;Leave Them Out</source>
         <translation>&amp;Weglassen</translation>
     </message>
     <message>
         <source>&amp;Print All the Same</source>
         <translation>&amp;Trotzdem drucken</translation>
+    </message>
+    <message>
+        <source>Print without these files?</source>
+        <translation>Ohne diese Dateien drucken?</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared. Files that cannot be read are left out.</source>
+        <translation>Was fehlt, wird grau oder verschmiert gedruckt. Dateien, die nicht lesbar sind, werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Files that cannot be read are left out.</source>
+        <translation>Dateien, die nicht lesbar sind, werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Others</source>
+        <translation>&amp;Andere drucken</translation>
     </message>
 </context>
 <context>
@@ -929,10 +949,6 @@
         <translation>Es gibt keine Datei „%1“. Prüfen Sie den Namen.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>„%1“ ist ein Ordner. Nennen Sie die Fotos darin, zum Beispiel *.jpg.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
         <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie, ob Sie die Datei lesen dürfen.</translation>
     </message>
@@ -963,6 +979,10 @@
     <message>
         <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
         <translation>„%1“ ist nicht lesbar: Das Programm halvern-decode, das Fotos liest, ist nicht neben diesem installiert oder lässt sich nicht starten. Installieren Sie den Dialog neu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
+        <translation>„%1“ ist ein Ordner ohne Fotos. Nennen Sie einen mit Fotos oder einzelne Fotos.</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1442,14 @@
     <message>
         <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>Mit „-o PageSize=%1“ passt es.</translation>
+    </message>
+    <message>
+        <source>With --skip-broken the others are printed.</source>
+        <translation>Mit --skip-broken werden die anderen gedruckt.</translation>
+    </message>
+    <message>
+        <source>None of the files can be printed.</source>
+        <translation>Keine der Dateien kann gedruckt werden.</translation>
     </message>
 </context>
 <context>
@@ -1923,6 +1951,10 @@
         <source>Job</source>
         <translation>Auftrag</translation>
     </message>
+    <message>
+        <source>About the Photo</source>
+        <translation>Über das Foto</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2027,6 +2059,124 @@
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>%1 Seiten wurden in „%2“ geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoAdding</name>
+    <message>
+        <source>Add...</source>
+        <translation>Hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>Add photos; they can be dropped on the window and pasted, too</source>
+        <translation>Fotos hinzufügen; sie lassen sich auch ins Fenster ziehen und einfügen</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Fotos hinzufügen</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>
+        <translation>In der Zwischenablage ist kein Foto. Kopieren Sie zuerst ein Bild oder Fotodateien.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>Das Bild kann nicht in einer temporären Datei abgelegt werden. Schaffen Sie Platz auf der Festplatte.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPage</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>1/%1 s</source>
+        <translation>1/%1 s</translation>
+    </message>
+    <message>
+        <source>f/%1</source>
+        <translation>f/%1</translation>
+    </message>
+    <message>
+        <source>ISO %1</source>
+        <translation>ISO %1</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Adobe RGB, as the camera notes</source>
+        <translation>Adobe RGB, laut Kamera</translation>
+    </message>
+    <message>
+        <source>sRGB, as the file notes</source>
+        <translation>sRGB, laut Datei</translation>
+    </message>
+    <message>
+        <source>Not said; taken as sRGB</source>
+        <translation>Keine Angabe; gilt als sRGB</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels (%3 megapixels)</source>
+        <translation>%1 x %2 Pixel (%3 Megapixel)</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Datei:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Art:</translation>
+    </message>
+    <message>
+        <source>Problem:</source>
+        <translation>Problem:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Colors:</source>
+        <translation>Farben:</translation>
+    </message>
+    <message>
+        <source>Taken:</source>
+        <translation>Aufgenommen:</translation>
+    </message>
+    <message>
+        <source>Camera:</source>
+        <translation>Kamera:</translation>
+    </message>
+    <message>
+        <source>Lens:</source>
+        <translation>Objektiv:</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Belichtung:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Rating:</source>
+        <translation>Bewertung:</translation>
     </message>
 </context>
 <context>

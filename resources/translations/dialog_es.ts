@@ -66,20 +66,12 @@
         <translation>«%1» no es un número de copias: escriba un número de 1 a %2.</translation>
     </message>
     <message>
-        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
-        <translation>Indique al menos una foto para imprimir (JPEG, PNG, TIFF o PDF).</translation>
-    </message>
-    <message>
         <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>El nombre de la cola está vacío. «lpstat -e» muestra las colas.</translation>
     </message>
     <message>
         <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>Imprime fotos, con vista previa y las páginas de opciones propias de la impresora.</translation>
-    </message>
-    <message>
-        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
-        <translation>Archivos JPEG, PNG, TIFF o PDF; cada foto es una página.</translation>
     </message>
     <message>
         <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
@@ -243,6 +235,22 @@
         <source>%1 is one of the files to print. Write to another file with --output.</source>
         <translation>%1 es uno de los archivos que imprimir. Escriba en otro archivo con --output.</translation>
     </message>
+    <message>
+        <source>With --no-dialog: leave out files that cannot be read, or of which a part is missing, say which, and print the others.</source>
+        <translation>Con --no-dialog: omitir los archivos que no se pueden leer o a los que les falta una parte, indicar cuáles e imprimir los demás.</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF), or a folder of them.</source>
+        <translation>Indique al menos una foto para imprimir (JPEG, PNG, TIFF, WebP, HEIF, AVIF o PDF) o una carpeta de fotos.</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF files, or folders of them; each photo becomes a page. &quot;-&quot; is standard input, &quot;@NAME&quot; a text file with a file&apos;s name on each line.</source>
+        <translation>Archivos JPEG, PNG, TIFF, WebP, HEIF, AVIF o PDF, o carpetas de ellos; cada foto es una página. «-» es la entrada estándar; «@NAME», un archivo de texto con un nombre de archivo por línea.</translation>
+    </message>
+    <message>
+        <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>La entrada estándar no se puede guardar en un archivo temporal. Libere espacio en el disco.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -301,16 +309,28 @@
         <translation>Y %1 más.</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>Lo que falta sale gris o emborronado.</translation>
-    </message>
-    <message>
         <source>&amp;Leave Them Out</source>
         <translation>&amp;Omitirlas</translation>
     </message>
     <message>
         <source>&amp;Print All the Same</source>
         <translation>&amp;Imprimir de todos modos</translation>
+    </message>
+    <message>
+        <source>Print without these files?</source>
+        <translation>¿Imprimir sin estos archivos?</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared. Files that cannot be read are left out.</source>
+        <translation>Lo que falta sale gris o emborronado. Los archivos que no se pueden leer se omiten.</translation>
+    </message>
+    <message>
+        <source>Files that cannot be read are left out.</source>
+        <translation>Los archivos que no se pueden leer se omiten.</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Others</source>
+        <translation>&amp;Imprimir los demás</translation>
     </message>
 </context>
 <context>
@@ -929,10 +949,6 @@
         <translation>No existe el archivo «%1». Compruebe el nombre.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>«%1» es una carpeta. Indique las fotos que contiene, por ejemplo *.jpg.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
         <translation>«%1» no se puede abrir. Compruebe que tiene permiso de lectura.</translation>
     </message>
@@ -963,6 +979,10 @@
     <message>
         <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
         <translation>«%1» no se puede leer: el programa que lee las fotos, halvern-decode, no está instalado junto a este o no se puede iniciar. Reinstale el diálogo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
+        <translation>«%1» es una carpeta sin fotos. Indique una que contenga fotos, o fotos.</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1442,14 @@
     <message>
         <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>Con «-o PageSize=%1» cabe.</translation>
+    </message>
+    <message>
+        <source>With --skip-broken the others are printed.</source>
+        <translation>Con --skip-broken se imprimen los demás.</translation>
+    </message>
+    <message>
+        <source>None of the files can be printed.</source>
+        <translation>No se puede imprimir ninguno de los archivos.</translation>
     </message>
 </context>
 <context>
@@ -1923,6 +1951,10 @@
         <source>Job</source>
         <translation>Trabajo</translation>
     </message>
+    <message>
+        <source>About the Photo</source>
+        <translation>Sobre la foto</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2027,6 +2059,124 @@
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>Se escribieron %1 páginas en «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoAdding</name>
+    <message>
+        <source>Add...</source>
+        <translation>Añadir...</translation>
+    </message>
+    <message>
+        <source>Add photos; they can be dropped on the window and pasted, too</source>
+        <translation>Añadir fotos; también se pueden arrastrar a la ventana y pegar</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>
+        <translation>El portapapeles no contiene ninguna foto. Copie antes una imagen o archivos de fotos.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>La imagen no se puede guardar en un archivo temporal. Libere espacio en el disco.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPage</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>1/%1 s</source>
+        <translation>1/%1 s</translation>
+    </message>
+    <message>
+        <source>f/%1</source>
+        <translation>f/%1</translation>
+    </message>
+    <message>
+        <source>ISO %1</source>
+        <translation>ISO %1</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Adobe RGB, as the camera notes</source>
+        <translation>Adobe RGB, según la cámara</translation>
+    </message>
+    <message>
+        <source>sRGB, as the file notes</source>
+        <translation>sRGB, según el archivo</translation>
+    </message>
+    <message>
+        <source>Not said; taken as sRGB</source>
+        <translation>No se indica; se toma como sRGB</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels (%3 megapixels)</source>
+        <translation>%1 x %2 píxeles (%3 megapíxeles)</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Archivo:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Carpeta:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>Problem:</source>
+        <translation>Problema:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Colors:</source>
+        <translation>Colores:</translation>
+    </message>
+    <message>
+        <source>Taken:</source>
+        <translation>Fecha de captura:</translation>
+    </message>
+    <message>
+        <source>Camera:</source>
+        <translation>Cámara:</translation>
+    </message>
+    <message>
+        <source>Lens:</source>
+        <translation>Objetivo:</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Exposición:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Descripción:</translation>
+    </message>
+    <message>
+        <source>Rating:</source>
+        <translation>Valoración:</translation>
     </message>
 </context>
 <context>

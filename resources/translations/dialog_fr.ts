@@ -66,20 +66,12 @@
         <translation>« %1 » n’est pas un nombre de copies : écrivez un nombre de 1 à %2.</translation>
     </message>
     <message>
-        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
-        <translation>Nommez au moins une photo à imprimer (JPEG, PNG, TIFF ou PDF).</translation>
-    </message>
-    <message>
         <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>Le nom de la file est vide. « lpstat -e » affiche les files.</translation>
     </message>
     <message>
         <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>Imprime des photos, avec un aperçu et les pages d’options propres à l’imprimante.</translation>
-    </message>
-    <message>
-        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
-        <translation>Fichiers JPEG, PNG, TIFF ou PDF ; chaque photo devient une page.</translation>
     </message>
     <message>
         <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
@@ -243,6 +235,22 @@
         <source>%1 is one of the files to print. Write to another file with --output.</source>
         <translation>%1 est l’un des fichiers à imprimer. Écrivez dans un autre fichier avec --output.</translation>
     </message>
+    <message>
+        <source>With --no-dialog: leave out files that cannot be read, or of which a part is missing, say which, and print the others.</source>
+        <translation>Avec --no-dialog : omettre les fichiers illisibles ou dont une partie manque, dire lesquels, et imprimer les autres.</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF), or a folder of them.</source>
+        <translation>Nommez au moins une photo à imprimer (JPEG, PNG, TIFF, WebP, HEIF, AVIF ou PDF), ou un dossier de photos.</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF files, or folders of them; each photo becomes a page. &quot;-&quot; is standard input, &quot;@NAME&quot; a text file with a file&apos;s name on each line.</source>
+        <translation>Fichiers JPEG, PNG, TIFF, WebP, HEIF, AVIF ou PDF, ou dossiers de ceux-ci ; chaque photo devient une page. « - » est l’entrée standard, « @NAME » un fichier texte avec un nom de fichier par ligne.</translation>
+    </message>
+    <message>
+        <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>L’entrée standard ne peut pas être conservée dans un fichier temporaire. Libérez de la place sur le disque.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -301,16 +309,28 @@
         <translation>Et %1 de plus.</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>Ce qui manque sort gris ou brouillé.</translation>
-    </message>
-    <message>
         <source>&amp;Leave Them Out</source>
         <translation>&amp;Les omettre</translation>
     </message>
     <message>
         <source>&amp;Print All the Same</source>
         <translation>&amp;Imprimer quand même</translation>
+    </message>
+    <message>
+        <source>Print without these files?</source>
+        <translation>Imprimer sans ces fichiers ?</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared. Files that cannot be read are left out.</source>
+        <translation>Ce qui manque sort gris ou brouillé. Les fichiers illisibles sont omis.</translation>
+    </message>
+    <message>
+        <source>Files that cannot be read are left out.</source>
+        <translation>Les fichiers illisibles sont omis.</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Others</source>
+        <translation>&amp;Imprimer les autres</translation>
     </message>
 </context>
 <context>
@@ -929,10 +949,6 @@
         <translation>Il n’y a pas de fichier « %1 ». Vérifiez son nom.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>« %1 » est un dossier. Nommez les photos qu’il contient, par exemple *.jpg.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
         <translation>« %1 » ne peut pas être ouvert. Vérifiez que vous avez le droit de le lire.</translation>
     </message>
@@ -963,6 +979,10 @@
     <message>
         <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
         <translation>« %1 » est illisible : le programme qui lit les photos, halvern-decode, n’est pas installé à côté de celui-ci ou ne peut pas être lancé. Réinstallez le dialogue.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
+        <translation>« %1 » est un dossier sans photos. Nommez-en un qui contient des photos, ou des photos.</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1442,14 @@
     <message>
         <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>Avec « -o PageSize=%1 », cela convient.</translation>
+    </message>
+    <message>
+        <source>With --skip-broken the others are printed.</source>
+        <translation>Avec --skip-broken, les autres sont imprimés.</translation>
+    </message>
+    <message>
+        <source>None of the files can be printed.</source>
+        <translation>Aucun des fichiers ne peut être imprimé.</translation>
     </message>
 </context>
 <context>
@@ -1923,6 +1951,10 @@
         <source>Job</source>
         <translation>Tâche</translation>
     </message>
+    <message>
+        <source>About the Photo</source>
+        <translation>À propos de la photo</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2027,6 +2059,124 @@
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>%1 pages ont été écrites dans « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoAdding</name>
+    <message>
+        <source>Add...</source>
+        <translation>Ajouter…</translation>
+    </message>
+    <message>
+        <source>Add photos; they can be dropped on the window and pasted, too</source>
+        <translation>Ajouter des photos ; on peut aussi les déposer dans la fenêtre ou les coller</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Ajouter des photos</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>
+        <translation>Le presse-papiers ne contient pas de photo. Copiez d’abord une image ou des fichiers de photos.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>L’image ne peut pas être conservée dans un fichier temporaire. Libérez de la place sur le disque.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPage</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>1/%1 s</source>
+        <translation>1/%1 s</translation>
+    </message>
+    <message>
+        <source>f/%1</source>
+        <translation>f/%1</translation>
+    </message>
+    <message>
+        <source>ISO %1</source>
+        <translation>ISO %1</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Adobe RGB, as the camera notes</source>
+        <translation>Adobe RGB, d’après l’appareil photo</translation>
+    </message>
+    <message>
+        <source>sRGB, as the file notes</source>
+        <translation>sRGB, d’après le fichier</translation>
+    </message>
+    <message>
+        <source>Not said; taken as sRGB</source>
+        <translation>Non précisé ; pris comme sRGB</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels (%3 megapixels)</source>
+        <translation>%1 x %2 pixels (%3 mégapixels)</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fichier :</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>Dossier :</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Type :</translation>
+    </message>
+    <message>
+        <source>Problem:</source>
+        <translation>Problème :</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Colors:</source>
+        <translation>Couleurs :</translation>
+    </message>
+    <message>
+        <source>Taken:</source>
+        <translation>Prise de vue :</translation>
+    </message>
+    <message>
+        <source>Camera:</source>
+        <translation>Appareil photo :</translation>
+    </message>
+    <message>
+        <source>Lens:</source>
+        <translation>Objectif :</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Exposition :</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Description :</translation>
+    </message>
+    <message>
+        <source>Rating:</source>
+        <translation>Note :</translation>
     </message>
 </context>
 <context>

@@ -66,20 +66,12 @@
         <translation>「%1」は部数ではありません。1 から %2 までの数を指定してください。</translation>
     </message>
     <message>
-        <source>Name at least one photo to print (JPEG, PNG, TIFF or PDF).</source>
-        <translation>印刷する写真を 1 枚以上指定してください (JPEG、PNG、TIFF、PDF)。</translation>
-    </message>
-    <message>
         <source>The queue&apos;s name is empty. &quot;lpstat -e&quot; lists the queues.</source>
         <translation>キューの名前が空です。「lpstat -e」でキューの一覧が見られます。</translation>
     </message>
     <message>
         <source>Prints photos, with a preview and the printer&apos;s own pages of options.</source>
         <translation>プレビューとプリンター固有の設定ページを使って写真を印刷します。</translation>
-    </message>
-    <message>
-        <source>JPEG, PNG, TIFF or PDF files; each photo becomes a page.</source>
-        <translation>JPEG、PNG、TIFF、PDF ファイル。写真 1 枚が 1 ページになります。</translation>
     </message>
     <message>
         <source>Print this text on the back of each picture. Can be given twice, for a first and a second line. A line holds 120 characters and placeholders such as [YYYY], which the printer replaces.</source>
@@ -243,6 +235,22 @@
         <source>%1 is one of the files to print. Write to another file with --output.</source>
         <translation>%1 は印刷するファイルの 1 つです。--output で別のファイルを指定してください。</translation>
     </message>
+    <message>
+        <source>With --no-dialog: leave out files that cannot be read, or of which a part is missing, say which, and print the others.</source>
+        <translation>--no-dialog と併用: 読めないファイルや一部が欠けているファイルを省いて知らせ、残りを印刷します。</translation>
+    </message>
+    <message>
+        <source>Name at least one photo to print (JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF), or a folder of them.</source>
+        <translation>印刷する写真を 1 枚以上、または写真のフォルダーを指定してください (JPEG、PNG、TIFF、WebP、HEIF、AVIF、PDF)。</translation>
+    </message>
+    <message>
+        <source>JPEG, PNG, TIFF, WebP, HEIF, AVIF or PDF files, or folders of them; each photo becomes a page. &quot;-&quot; is standard input, &quot;@NAME&quot; a text file with a file&apos;s name on each line.</source>
+        <translation>JPEG、PNG、TIFF、WebP、HEIF、AVIF、PDF ファイル、またはそのフォルダー。写真 1 枚が 1 ページになります。「-」は標準入力、「@NAME」は 1 行に 1 つファイル名を書いたテキストファイルです。</translation>
+    </message>
+    <message>
+        <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>標準入力を一時ファイルに保存できません。ディスクの空きを増やしてください。</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -301,16 +309,28 @@
         <translation>ほか %1 件。</translation>
     </message>
     <message>
-        <source>What is missing comes out gray, or smeared.</source>
-        <translation>欠けている部分は灰色または乱れて印刷されます。</translation>
-    </message>
-    <message>
         <source>&amp;Leave Them Out</source>
         <translation>除外する(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Print All the Same</source>
         <translation>そのまま印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Print without these files?</source>
+        <translation>これらのファイルを除いて印刷しますか?</translation>
+    </message>
+    <message>
+        <source>What is missing comes out gray, or smeared. Files that cannot be read are left out.</source>
+        <translation>欠けている部分は灰色または乱れて印刷されます。読めないファイルは省きます。</translation>
+    </message>
+    <message>
+        <source>Files that cannot be read are left out.</source>
+        <translation>読めないファイルは省きます。</translation>
+    </message>
+    <message>
+        <source>&amp;Print the Others</source>
+        <translation>残りを印刷(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -929,10 +949,6 @@
         <translation>「%1」というファイルはありません。名前を確認してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is a folder. Name the photos in it, for example *.jpg.</source>
-        <translation>「%1」はフォルダーです。*.jpg のように中の写真を指定してください。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be opened. Check that you may read it.</source>
         <translation>「%1」を開けません。読み取りの権限を確認してください。</translation>
     </message>
@@ -963,6 +979,10 @@
     <message>
         <source>&quot;%1&quot; cannot be read: the program that reads photos, halvern-decode, is not installed beside this one or cannot be started. Install the dialog again.</source>
         <translation>「%1」を読めません。写真を読み込むプログラム halvern-decode がこのプログラムと同じ場所にないか、起動できません。ダイアログを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
+        <translation>「%1」は写真のないフォルダーです。写真の入ったフォルダーか、写真を指定してください。</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1442,14 @@
     <message>
         <source>With &quot;-o PageSize=%1&quot; it fits.</source>
         <translation>「-o PageSize=%1」なら収まります。</translation>
+    </message>
+    <message>
+        <source>With --skip-broken the others are printed.</source>
+        <translation>--skip-broken を付けると残りを印刷します。</translation>
+    </message>
+    <message>
+        <source>None of the files can be printed.</source>
+        <translation>印刷できるファイルがありません。</translation>
     </message>
 </context>
 <context>
@@ -1923,6 +1951,10 @@
         <source>Job</source>
         <translation>ジョブ</translation>
     </message>
+    <message>
+        <source>About the Photo</source>
+        <translation>写真の情報</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2027,6 +2059,124 @@
     <message>
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>%1 ページを「%2」に書き込みました。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoAdding</name>
+    <message>
+        <source>Add...</source>
+        <translation>追加...</translation>
+    </message>
+    <message>
+        <source>Add photos; they can be dropped on the window and pasted, too</source>
+        <translation>写真を追加します。ウィンドウへのドロップや貼り付けもできます</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>写真の追加</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>
+        <translation>クリップボードに写真がありません。先に画像か写真のファイルをコピーしてください。</translation>
+    </message>
+    <message>
+        <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
+        <translation>画像を一時ファイルに保存できません。ディスクの空きを増やしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPage</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>1/%1 s</source>
+        <translation>1/%1 秒</translation>
+    </message>
+    <message>
+        <source>f/%1</source>
+        <translation>f/%1</translation>
+    </message>
+    <message>
+        <source>ISO %1</source>
+        <translation>ISO %1</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Adobe RGB, as the camera notes</source>
+        <translation>Adobe RGB (カメラの記録による)</translation>
+    </message>
+    <message>
+        <source>sRGB, as the file notes</source>
+        <translation>sRGB (ファイルの記録による)</translation>
+    </message>
+    <message>
+        <source>Not said; taken as sRGB</source>
+        <translation>指定なし (sRGB とみなします)</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels (%3 megapixels)</source>
+        <translation>%1 x %2 ピクセル (%3 メガピクセル)</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>ファイル:</translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation>フォルダー:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>種類:</translation>
+    </message>
+    <message>
+        <source>Problem:</source>
+        <translation>問題:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>サイズ:</translation>
+    </message>
+    <message>
+        <source>Colors:</source>
+        <translation>色:</translation>
+    </message>
+    <message>
+        <source>Taken:</source>
+        <translation>撮影日時:</translation>
+    </message>
+    <message>
+        <source>Camera:</source>
+        <translation>カメラ:</translation>
+    </message>
+    <message>
+        <source>Lens:</source>
+        <translation>レンズ:</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>露出:</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>タイトル:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>説明:</translation>
+    </message>
+    <message>
+        <source>Rating:</source>
+        <translation>評価:</translation>
     </message>
 </context>
 <context>
