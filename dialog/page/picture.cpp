@@ -59,6 +59,7 @@ QImage imageInSrgb(PictureRows& rows)
 {
     const StoredPicture& picture = rows.picture();
     const ColourTransform colours(picture, {});
+    const bool isPlain = colours.changesNothing();
     QImage image(picture.size, colours.channels() == 1 ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
     QByteArray strip(kStripRows * picture.rowBytes(), Qt::Uninitialized);
     auto* numbers = reinterpret_cast<uchar*>(strip.data());
@@ -66,8 +67,13 @@ QImage imageInSrgb(PictureRows& rows)
         const int count = rows.read(numbers, std::min(kStripRows, image.height() - y));
         if (count == 0)
             return {};
-        for (int i = 0; i < count; ++i, ++y)
-            colours.convert(numbers + i * picture.rowBytes(), image.scanLine(y), image.width());
+        for (int i = 0; i < count; ++i, ++y) {
+            const uchar* row = numbers + i * picture.rowBytes();
+            if (isPlain)
+                std::copy_n(row, picture.rowBytes(), image.scanLine(y));
+            else
+                colours.convert(row, image.scanLine(y), image.width());
+        }
     }
     return image;
 }
