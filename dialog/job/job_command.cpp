@@ -76,6 +76,7 @@ QString commandFor(const JobToRepeat& job)
         words << QStringLiteral("--orientation") << job.orientation;
     for (const QString& position : job.positions)
         words << QStringLiteral("--position") << position;
+    words << job.colours;
     if (!job.title.isEmpty())
         words << QStringLiteral("--job-title=") + job.title;
     for (const OptionValue& option : job.options) {

@@ -15,6 +15,7 @@ struct JobToRepeat {
     QStringList page;      ///< what the dialog itself decides, as KEY=VALUE
     QString orientation;   ///< "portrait" or "landscape"; empty: as the photo
     QStringList positions; ///< "0.5,0.5", a photo each; empty: all in the middle
+    QStringList colours;   ///< who converts them, as words of the command line
     QString ranges;        ///< "1-3, 7"; empty: all pages
     QString title;         ///< empty: as without one
     int copies = 1;

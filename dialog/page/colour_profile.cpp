@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include <lcms2.h>
+
 namespace halvern {
 
 namespace {
@@ -90,6 +92,15 @@ int channelsOf(const OpenProfile& profile)
     }
 }
 
+bool canConvertTo(const OpenProfile& profile)
+{
+    cmsHTRANSFORM transform = cmsCreateTransform(srgbProfile().get(), TYPE_RGB_8, profile.get(),
+                                                 plainType(channelsOf(profile)), INTENT_PERCEPTUAL, 0);
+    if (transform)
+        cmsDeleteTransform(transform);
+    return transform != nullptr;
+}
+
 QString profileName(const OpenProfile& profile)
 {
     std::array<wchar_t, kLongestName> name = {};
@@ -99,7 +110,7 @@ QString profileName(const OpenProfile& profile)
     return QString::fromWCharArray(name.data()).simplified();
 }
 
-cmsUInt32Number pixelType(PixelFormat format)
+quint32 pixelType(PixelFormat format)
 {
     switch (format) {
     case PixelFormat::gray8:
@@ -116,7 +127,7 @@ cmsUInt32Number pixelType(PixelFormat format)
     return TYPE_CMYK_8;
 }
 
-cmsUInt32Number plainType(int channels)
+quint32 plainType(int channels)
 {
     return channels == 1 ? TYPE_GRAY_8 : channels == 4 ? TYPE_CMYK_8 : TYPE_RGB_8;
 }

@@ -7,8 +7,6 @@
 
 #include <memory>
 
-#include <lcms2.h>
-
 namespace halvern {
 
 /// A profile that is open in Little CMS; null: none. Read by several threads at once.
@@ -26,13 +24,16 @@ OpenProfile sourceProfile(const StoredPicture& picture);
 
 int channelsOf(const OpenProfile& profile);
 
+/// Whether colours can be converted to it.
+bool canConvertTo(const OpenProfile& profile);
+
 /// A profile's own name, on one line: a stranger's text.
 QString profileName(const OpenProfile& profile);
 
 /// How Little CMS is handed the pixels of a picture.
-cmsUInt32Number pixelType(PixelFormat format);
+quint32 pixelType(PixelFormat format);
 
 /// How it hands out 1, 3 or 4 channels of 8 bits.
-cmsUInt32Number plainType(int channels);
+quint32 plainType(int channels);
 
 } // namespace halvern

@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <vector>
 
+#include <lcms2.h>
+
 namespace halvern {
 
 namespace {
@@ -36,7 +38,9 @@ cmsUInt32Number intentOf(const ColourPlan& plan)
 std::shared_ptr<void> makeTransform(const OpenProfile& source, cmsUInt32Number from,
                                     const OpenProfile& target, cmsUInt32Number to, const ColourPlan& plan)
 {
-    const cmsUInt32Number flags = plan.compensatesBlack ? cmsFLAGS_BLACKPOINTCOMPENSATION : 0;
+    // A grid between four inks and light is off by up to 20 of 255: they are worked out one by one.
+    const cmsUInt32Number exactness = T_CHANNELS(from) == 4 ? cmsFLAGS_NOOPTIMIZE : cmsFLAGS_HIGHRESPRECALC;
+    const cmsUInt32Number flags = exactness | (plan.compensatesBlack ? cmsFLAGS_BLACKPOINTCOMPENSATION : 0);
     return {cmsCreateTransform(source.get(), from, target.get(), to, intentOf(plan), flags), [](void* t) {
                 if (t)
                     cmsDeleteTransform(t);
@@ -133,22 +137,6 @@ void ColourTransform::convertOnAllCores(const uchar* from, uchar* to, qsizetype 
     onAllCores(pixels, kLeastPixels, [&](qsizetype first, qsizetype count) {
         convert(from + first * bytesPerPixel(format_), to + first * channels_, count);
     });
-}
-
-QImage imageInSrgb(const StoredPicture& picture, const uchar* rows, int count)
-{
-    const ColourTransform colours(picture, {});
-    const bool isGray = colours.channels() == 1;
-    QImage image(picture.size.width(), count, isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
-    if (image.isNull())
-        return image;
-    onAllCores(count, std::max<qsizetype>(kLeastPixels / image.width(), 1),
-               [&](qsizetype first, qsizetype n) {
-                   for (qsizetype y = first; y < first + n; ++y)
-                       colours.convert(rows + y * picture.rowBytes(), image.bits() + y * image.bytesPerLine(),
-                                       image.width());
-               });
-    return image;
 }
 
 } // namespace halvern

@@ -4,8 +4,6 @@
 #include "dialog/page/colour_plan.h"
 #include "dialog/photo/stored_picture.h"
 
-#include <QImage>
-
 #include <memory>
 
 namespace halvern {
@@ -34,9 +32,5 @@ private:
     bool hasIdealInks_ = false;       // no profile tells what the inks are
     std::shared_ptr<void> transform_; // null: none is needed
 };
-
-/// What a picture's rows, which follow each other without gaps, look like in sRGB: gray or RGB, not yet
-/// turned. Any thread.
-QImage imageInSrgb(const StoredPicture& picture, const uchar* rows, int count);
 
 } // namespace halvern

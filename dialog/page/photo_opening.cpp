@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/photo_opening.h"
 
-#include "dialog/page/colour_transform.h"
 #include "dialog/page/jpeg_data.h"
 #include "dialog/page/photo_problem.h"
+#include "dialog/page/picture.h"
 #include "dialog/page/scaled_rows.h"
 #include "platform/foundation/units.h"
 
-#include <QTransform>
-
 #include <algorithm>
-#include <vector>
 
 namespace halvern {
 
 namespace {
 
 constexpr qint64 kMostPixels = 400'000'000;
-constexpr int kStripRows = 32;
 
 std::unique_ptr<PictureRows> scaledToPreview(std::unique_ptr<PictureRows> rows)
 {
@@ -26,29 +22,6 @@ std::unique_ptr<PictureRows> scaledToPreview(std::unique_ptr<PictureRows> rows)
     if (small.width() >= size.width())
         return rows;
     return std::make_unique<ScaledRows>(std::move(rows), small);
-}
-
-QImage turned(const QImage& stored, const Orientation& how)
-{
-    const QImage image = how.isMirrored ? stored.mirrored(true, false) : stored;
-    return how.quarterTurns == 0 ? image : image.transformed(QTransform().rotate(90.0 * how.quarterTurns));
-}
-
-// All rows in sRGB, not yet turned; fewer, if they cannot be read.
-QImage readImage(PictureRows& rows)
-{
-    const StoredPicture& picture = rows.picture();
-    const ColourTransform colours(picture, {});
-    QImage image(picture.size, colours.channels() == 1 ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
-    std::vector<uchar> strip(size_t(kStripRows * picture.rowBytes()));
-    for (int y = 0; y < image.height();) {
-        const int count = rows.read(strip.data(), std::min(kStripRows, image.height() - y));
-        if (count == 0)
-            return {};
-        for (int i = 0; i < count; ++i, ++y)
-            colours.convert(strip.data() + i * picture.rowBytes(), image.scanLine(y), image.width());
-    }
-    return image;
 }
 
 std::optional<Photo> openJpeg(const QString& path)
@@ -85,11 +58,11 @@ SmallCopy readSmallCopy(const Photo& photo)
     if (!rows)
         return copy;
     rows = scaledToPreview(std::move(rows));
-    const QImage image = readImage(*rows);
-    copy.problem = rows->problem();
-    copy.isDamaged = rows->isDamaged();
-    if (!image.isNull())
-        copy.image = turned(image, rows->picture().orientation).convertToFormat(QImage::Format_RGB32);
+    const Picture picture = readPicture(*rows);
+    copy.problem = picture.problem;
+    copy.isDamaged = picture.isDamaged;
+    if (!picture.image.isNull())
+        copy.image = picture.image.convertToFormat(QImage::Format_RGB32);
     return copy;
 }
 

@@ -37,6 +37,7 @@ BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream
     });
     connect(&session_, &DialogSession::photoDamaged, this, &BatchPrint::takeDamage);
     connect(&session_, &DialogSession::printerReady, this, &BatchPrint::proceed);
+    connect(&session_, &DialogSession::coloursKnown, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::printerFailed, this, &BatchPrint::takePrinterFailure);
     connect(&session_, &DialogSession::refused, this, [this](const QString& sentence) { fail(sentence); });
     connect(&session_, &DialogSession::notice, this,
@@ -99,6 +100,12 @@ void BatchPrint::proceed()
         return;
     if (const QString problem = session_.chosenPages().problem; !problem.isEmpty()) {
         fail(problem);
+        return;
+    }
+    if (const QString problem = session_.colourProblem(); !problem.isEmpty()) {
+        // The colour service may know the printer's profile.
+        if (!session_.colours().isAsking())
+            fail(problem);
         return;
     }
     hasStarted_ = true;

@@ -6,6 +6,7 @@
 #include "dialog/page/photo_problem.h"
 #include "dialog/photo/decoder_process.h"
 #include "dialog/program/given_files.h"
+#include "dialog/session/colour_management.h"
 #include "platform/foundation/display_text.h"
 
 #include <QCommandLineParser>
@@ -55,6 +56,23 @@ public:
         QStringLiteral("TEXT")};
     QCommandLineOption printDamaged{QStringLiteral("print-damaged"),
                                     tr("Print photos of which a part is missing, too, without asking.")};
+    QCommandLineOption colourBy{
+        QStringLiteral("colour-by"),
+        tr("Who converts the photos' colours: printer, which is given sRGB, or dialog, for a colour profile "
+           "of the printer."),
+        QStringLiteral("WORD")};
+    QCommandLineOption profile{QStringLiteral("profile"),
+                               tr("Convert the colours for this ICC profile of the printer; without it, for "
+                                  "the one that the printer "
+                                  "comes with."),
+                               QStringLiteral("FILE")};
+    QCommandLineOption intent{
+        QStringLiteral("intent"),
+        tr("What becomes of colours that the printer cannot show: perceptual, relative, saturation or "
+           "absolute; without it, perceptual."),
+        QStringLiteral("WORD")};
+    QCommandLineOption noBlackPoint{QStringLiteral("no-black-point"),
+                                    tr("Convert the colours without black point compensation.")};
     QCommandLineOption photosPerJob{
         QStringLiteral("photos-per-job"),
         tr("Send several jobs in order, with at most this many photos each; without it, one job."),
@@ -126,6 +144,22 @@ public:
     {
         return tr("\"%1\" is no number of copies: write a number from 1 to %2.")
             .arg(text, QString::number(kMostCopies));
+    }
+
+    static QString badColourBy(const QString& text)
+    {
+        return tr("\"%1\" converts no colours: write printer or dialog.").arg(text);
+    }
+
+    static QString badIntent(const QString& text)
+    {
+        return tr("\"%1\" is no rendering intent: write perceptual, relative, saturation or absolute.")
+            .arg(text);
+    }
+
+    static QString forDialogOnly()
+    {
+        return tr("--profile, --intent and --no-black-point go with --colour-by dialog.");
     }
 
     static QString badPhotosPerJob(const QString& text)
@@ -348,6 +382,27 @@ QString readLayout(const QCommandLineParser& parser, const Switches& switches, C
     return {};
 }
 
+QString readColours(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
+{
+    ColourSettings& colours = line.request.colours;
+    const QString by = parser.value(switches.colourBy);
+    line.request.namesColours = parser.isSet(switches.colourBy) || parser.isSet(switches.profile);
+    colours.isByDialog = by.isEmpty() ? parser.isSet(switches.profile) : by == QLatin1StringView("dialog");
+    const bool hasDetails = parser.isSet(switches.profile) || parser.isSet(switches.intent) ||
+                            parser.isSet(switches.noBlackPoint);
+    if (parser.isSet(switches.colourBy) && !colours.isByDialog && by != QLatin1StringView("printer"))
+        return Switches::badColourBy(by);
+    if (hasDetails && !colours.isByDialog)
+        return Switches::forDialogOnly();
+    if (parser.isSet(switches.intent) && !readIntent(parser.value(switches.intent), colours.intent))
+        return Switches::badIntent(parser.value(switches.intent));
+    colours.compensatesBlack = !parser.isSet(switches.noBlackPoint);
+    if (!parser.isSet(switches.profile))
+        return {};
+    colours.profile = QFileInfo(parser.value(switches.profile)).absoluteFilePath();
+    return readPrinterProfile(colours.profile).problem;
+}
+
 QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
 {
     for (const QString& text : parser.values(switches.option)) {
@@ -424,7 +479,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
          switches.noDialog,     switches.wait,         switches.dryRun,       switches.output,
          switches.verify,       switches.listPrinters, switches.listPapers,   switches.refresh,
          switches.listOptions,  switches.listPresets,  switches.savePreset,   switches.json,
-         switches.photosPerJob, switches.parent,       switches.resultJson});
+         switches.photosPerJob, switches.parent,       switches.resultJson,   switches.colourBy,
+         switches.profile,      switches.intent,       switches.noBlackPoint});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -453,6 +509,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QString problem = readValues(parser, switches, line);
     if (problem.isEmpty())
         problem = readLayout(parser, switches, line);
+    if (problem.isEmpty())
+        problem = readColours(parser, switches, line);
     if (problem.isEmpty())
         problem = readBackLines(parser.values(switches.backprint), line, remarks);
     if (problem.isEmpty())
@@ -483,10 +541,11 @@ bool asksForWindow(const QStringList& arguments)
 {
     const Switches switches;
     QCommandLineParser parser;
-    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages,
-                       switches.orientation, switches.position, switches.title, switches.backprint,
-                       switches.wait, switches.noDialog, switches.dryRun, switches.output, switches.preset,
-                       switches.photosPerJob, switches.parent, switches.resultJson});
+    parser.addOptions({switches.printer,     switches.option,       switches.copies, switches.pages,
+                       switches.orientation, switches.position,     switches.title,  switches.backprint,
+                       switches.wait,        switches.noDialog,     switches.dryRun, switches.output,
+                       switches.preset,      switches.photosPerJob, switches.parent, switches.resultJson,
+                       switches.colourBy,    switches.profile,      switches.intent, switches.noBlackPoint});
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

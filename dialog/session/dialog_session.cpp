@@ -40,6 +40,8 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
     connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
     connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
     connect(&photos_, &PhotoLoader::damaged, this, &DialogSession::photoDamaged);
+    connect(&colours_, &ColourManagement::changed, this, &DialogSession::optionsChanged);
+    connect(&colours_, &ColourManagement::changed, this, &DialogSession::coloursKnown);
     connect(&presets_, &Presets::failed, this, &DialogSession::notice);
     connect(&printer_, &PrinterChoice::leaving, this, &DialogSession::leavePrinter);
     connect(&printer_, &PrinterChoice::selected, this, &DialogSession::printerSelected);
@@ -111,6 +113,7 @@ void DialogSession::takePrinter(const FetchedPrinter& printer)
     presets_.take(printerName(), model_->file(), printer.presets, printer_.saved());
     presets_.lookForOthers();
     jobOffer_ = ppd.jobs;
+    colours_.setQueue(printerName());
     applyOptions(printer);
     model_->setOffer(printer.offer);
     keeper_ = std::make_unique<PaperKeeper>(*model_, *settings_, printer.offer);
@@ -411,7 +414,19 @@ QString DialogSession::whyNotPrintable() const
         return tr("The photos are still being read. Wait a moment.");
     if (!document() && photos().empty())
         return tr("There is no photo to print. Open the dialog with one.");
-    return chosenPages().problem;
+    const QString problem = chosenPages().problem;
+    return problem.isEmpty() ? colourProblem() : problem;
+}
+
+QString DialogSession::colourProblem() const
+{
+    // Another program's document has its colours already.
+    return document() ? QString() : colours_.profileFor(page().colours, model_.get()).problem;
+}
+
+PdfQuality DialogSession::quality() const
+{
+    return {resolution(), colours_.planFor(page().colours, model_.get())};
 }
 
 JobInputs DialogSession::jobInputs() const
@@ -426,6 +441,10 @@ JobInputs DialogSession::jobInputs() const
         // What a panel has saved instead is spelled by the panel.
         if (valueText(inputs.settings.value(it.key(), *it)) == *it)
             inputs.settings.insert(it.key(), model_->jobValue(it.key()));
+    }
+    if (page().colours.isByDialog && !document()) {
+        for (const OptionValue& off : withoutDriverColours(*model_))
+            inputs.settings.insert(off.key, off.value);
     }
     return inputs;
 }
@@ -465,7 +484,7 @@ PrintRun* DialogSession::makeRun()
 {
     std::vector<PageToPrint> pages = pagesToPrint();
     JobRequest job{printerName(), jobTitle(), collectOptions(), model_->secrets()};
-    auto* run = new PrintRun(std::move(job), std::move(pages), PdfQuality{model_->resolution()}, this);
+    auto* run = new PrintRun(std::move(job), std::move(pages), quality(), this);
     run->setPhotosPerJob(request_.photosPerJob);
     if (request_.remembers)
         rememberWhenSent(run);

@@ -8,6 +8,7 @@
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
 #include "dialog/session/change_history.h"
+#include "dialog/session/colour_management.h"
 #include "dialog/session/page_setup.h"
 #include "dialog/session/paper_keeper.h"
 #include "dialog/session/photo_loader.h"
@@ -94,6 +95,11 @@ public:
     void noteUse();
 
     const PageSettings& page() const { return page_.settings(); }
+
+    const ColourManagement& colours() const { return colours_; }
+
+    /// Why the colours cannot be converted as it is set; empty if they can.
+    QString colourProblem() const;
 
     /// Another scaling puts all photos back in the middle.
     void setPage(const PageSettings& page);
@@ -236,6 +242,8 @@ Q_SIGNALS:
     void presetApplied(const QString& title);
     /// There is news of what the printer has loaded.
     void offerChanged();
+    /// The system's colour service has said what it knows of the printer.
+    void coloursKnown();
     /// Option values or the page have changed.
     void optionsChanged();
 
@@ -264,6 +272,7 @@ private:
     void tellChanges();
     void dropClashingUndo(const SideChange& change, const QList<SideChange>& others);
     JobInputs jobInputs() const;
+    PdfQuality quality() const;
     std::vector<PageToPrint> pagesToPrint() const;
     void storeInSettings(const QString& key);
     bool takeProposal(const QString& key, const QVariant& choice);
@@ -276,6 +285,7 @@ private:
     std::shared_ptr<PpdModel> model_;
     std::shared_ptr<PrintSettings> settings_;
     PageSetup page_;
+    ColourManagement colours_;
     std::unique_ptr<PaperKeeper> keeper_;
     ChangeHistory history_;
     QString backLinesProblem_;

@@ -102,6 +102,21 @@ QString asServerWrites(const std::vector<PageRange>& ranges)
     return texts.join(QLatin1Char(','));
 }
 
+// As the command line has them.
+QStringList colourWords(const ColourSettings& colours)
+{
+    if (!colours.isByDialog)
+        return {};
+    QStringList words{QStringLiteral("--colour-by"), QStringLiteral("dialog")};
+    if (!colours.profile.isEmpty())
+        words << QStringLiteral("--profile") << colours.profile;
+    if (colours.intent != ColourIntent::perceptual)
+        words << QStringLiteral("--intent") << intentWord(colours.intent);
+    if (!colours.compensatesBlack)
+        words << QStringLiteral("--no-black-point");
+    return words;
+}
+
 } // namespace
 
 JobValues DialogSession::valuesToSend() const
@@ -124,6 +139,10 @@ JobInWords DialogSession::jobInWords() const
                                             chosen.pages, page().pages.isReversed, isPageOnPaper()});
     if (words.problem.isEmpty() && hasPhotos())
         words.problem = chosen.problem;
+    if (words.problem.isEmpty())
+        words.problem = colourProblem();
+    if (words.problem.isEmpty() && page().colours.isByDialog && !document())
+        words.parts.append(colours_.shortly(page().colours, model_.get()));
     return words;
 }
 
@@ -157,7 +176,7 @@ JobRequest DialogSession::makeOrder()
 
 PdfOutput* DialogSession::makePdf(const QString& path)
 {
-    return new PdfOutput(path, pagesToPrint(), PdfQuality{resolution()}, this);
+    return new PdfOutput(path, pagesToPrint(), quality(), this);
 }
 
 QString DialogSession::command() const
@@ -195,6 +214,7 @@ QString DialogSession::command() const
         job.orientation =
             page().turn == PageTurn::portrait ? QStringLiteral("portrait") : QStringLiteral("landscape");
     job.positions = positionsOf(pages);
+    job.colours = colourWords(page().colours);
     job.title = page().title.trimmed();
     job.copies = page().copies;
     // One that is not among the chosen pages is read all the same.

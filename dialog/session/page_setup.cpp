@@ -30,6 +30,7 @@ PageSetup::PageSetup(const SessionRequest& request)
     settings_.scaling = request.scaling.value_or(settings_.scaling);
     settings_.isCollated = request.isCollated;
     settings_.scalePercent = request.scalePercent;
+    settings_.colours = request.colours;
 }
 
 QString scalingWord(Scaling scaling)

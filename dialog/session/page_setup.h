@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/page/colour_plan.h"
 #include "dialog/page/page_choice.h"
 #include "dialog/page/page_layout.h"
 
@@ -25,6 +26,8 @@ struct PageSettings {
     PageChoice pages = {};
     QString title = {};     ///< of the job; empty: the first photo's name
     int scalePercent = 100; ///< by which another program enlarges its pages
+
+    ColourSettings colours = {};
 
     bool operator==(const PageSettings&) const = default;
 };

@@ -2,6 +2,7 @@
 #include "dialog/session/preset_use.h"
 
 #include "dialog/options/back_lines.h"
+#include "dialog/session/colour_management.h"
 #include "dialog/session/session_request.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -26,6 +27,10 @@ const QString kReversed = QStringLiteral("reversed");
 const QString kCopies = QStringLiteral("copies");
 const QString kRanges = QStringLiteral("ranges");
 const QString kParity = QStringLiteral("parity");
+const QString kColours = QStringLiteral("colours");
+const QString kProfile = QStringLiteral("profile");
+const QString kIntent = QStringLiteral("intent");
+const QString kBlackPoint = QStringLiteral("blackPoint");
 
 template <typename Value> struct Word {
     Value value;
@@ -66,10 +71,27 @@ QString trueOrFalse(bool value)
 
 QMap<QString, QString> pageTexts(const PageSettings& page)
 {
+    const ColourSettings& colours = page.colours;
     return {{kScaling, wordOf(kScalings, page.scaling)},
             {kTurn, wordOf(kTurns, page.turn)},
             {kCollate, trueOrFalse(page.isCollated)},
-            {kReversed, trueOrFalse(page.pages.isReversed)}};
+            {kReversed, trueOrFalse(page.pages.isReversed)},
+            {kColours, colours.isByDialog ? QStringLiteral("dialog") : QStringLiteral("printer")},
+            {kProfile, colours.profile},
+            {kIntent, intentWord(colours.intent)},
+            {kBlackPoint, trueOrFalse(colours.compensatesBlack)}};
+}
+
+ColourSettings coloursOf(const Preset& preset, const ColourSettings& before)
+{
+    if (!preset.page.contains(kColours))
+        return before;
+    ColourSettings colours;
+    colours.isByDialog = preset.page.value(kColours) == QLatin1StringView("dialog");
+    colours.profile = preset.page.value(kProfile);
+    readIntent(preset.page.value(kIntent), colours.intent);
+    colours.compensatesBlack = preset.page.value(kBlackPoint) != QLatin1StringView("false");
+    return colours;
 }
 
 bool isBackText(const QString& key)
@@ -257,6 +279,7 @@ PageSettings withPreset(const PageSettings& before, const Preset& preset)
     readWord(kParities, preset.page.value(kParity), pages.parity);
     if (choosePages(pages, 0).problem.isEmpty())
         page.pages = pages;
+    page.colours = coloursOf(preset, page.colours);
     return page;
 }
 
@@ -266,6 +289,8 @@ PageSettings startingPage(const PageSettings& before, const Preset& preset, cons
     PageSettings page = withPreset(before, preset);
     if (request.namesCopies)
         page.copies = request.copies;
+    if (request.namesColours)
+        page.colours = request.colours;
     if (request.turn != PageTurn::automatic)
         page.turn = request.turn;
     const bool isReversed = page.pages.isReversed || request.pages.isReversed;
@@ -298,6 +323,7 @@ PageSettings withoutPreset(const PageSettings& now, const PageSettings& asPreset
     putBack(page.copies, asPreset.copies, before.copies);
     putBack(page.isCollated, asPreset.isCollated, before.isCollated);
     putBack(page.pages, asPreset.pages, before.pages);
+    putBack(page.colours, asPreset.colours, before.colours);
     return page;
 }
 

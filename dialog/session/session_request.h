@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/options/option_value.h"
+#include "dialog/page/colour_plan.h"
 #include "dialog/page/page_choice.h"
 #include "dialog/page/page_layout.h"
 #include "dialog/session/handed_options.h"
@@ -56,6 +57,8 @@ struct SessionRequest {
     std::optional<Scaling> scaling = {};        ///< no preset decides it then
     bool isCollated = true;
     int scalePercent = 100; ///< of a document to come
+    ColourSettings colours = {};
+    bool namesColours = false; ///< somebody said who converts them, so no preset decides it
 };
 
 } // namespace halvern

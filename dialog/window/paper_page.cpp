@@ -2,6 +2,7 @@
 #include "dialog/window/paper_page.h"
 
 #include "dialog/window/choice_list.h"
+#include "dialog/window/colour_row.h"
 #include "dialog/window/custom_paper_row.h"
 #include "dialog/window/page_range_row.h"
 #include "dialog/window/paper_size_list.h"
@@ -56,7 +57,8 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
       scaling_(new QButtonGroup(this)),
       twoSided_(new QComboBox(this)),
       sides_(new ChoiceList(twoSided_)),
-      pages_(new PageRangeRow(this))
+      pages_(new PageRangeRow(this)),
+      colours_(new ColourRow(session, this))
 {
     setObjectName(QStringLiteral("pagePage"));
     form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -80,6 +82,7 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     twoSided_->setMinimumContentsLength(18);
     addRow(tr("&Two-sided:"), twoSided_, twoSided_);
     addRow(tr("Pa&ges:"), pages_, pages_->field());
+    addRow(tr("Co&lours:"), colours_, colours_->field());
     connectControls();
     if (session_.document())
         arrangeForDocument(*session_.document(), scalings);
@@ -192,6 +195,8 @@ void PaperPage::refresh()
         const QSignalBlocker quiet(scale_);
         scale_->setValue(page.scalePercent);
     }
+    form_->setRowVisible(colours_, !session_.document());
+    colours_->refresh();
     pages_->refresh(page.pages, count, session_.hasPhotos() ? session_.chosenPages().problem : QString());
 }
 

@@ -16,6 +16,7 @@ class QSpinBox;
 namespace halvern {
 
 class ChoiceList;
+class ColourRow;
 class CustomPaperRow;
 class PageRangeRow;
 class PaperSizeList;
@@ -68,6 +69,7 @@ private:
     std::weak_ptr<ppd_file_t> sidesFor_; ///< whose choices are listed
     QSpinBox* scale_ = nullptr;          // null where nobody scales by it
     PageRangeRow* pages_;
+    ColourRow* colours_;
 };
 
 } // namespace halvern

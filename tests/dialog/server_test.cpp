@@ -432,9 +432,10 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     } while (dialog.focusWidget() != first && visited.size() < 30);
     visited.removeIf(
         [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
-    EXPECT_EQ(visited.join(u' '), q("printer preset presetMenu search pageList paperSize borderless twoSided "
-                                    "qt_tabwidget_tabbar upper lower copies outputButton cancelButton "
-                                    "printButton preview zoomButton addPhotos"))
+    EXPECT_EQ(visited.join(u' '),
+              q("printer preset presetMenu search pageList paperSize borderless twoSided colourBy "
+                "qt_tabwidget_tabbar upper lower copies outputButton cancelButton "
+                "printButton preview zoomButton addPhotos"))
         << qPrintable(visited.join(u' '));
     QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
     field.show();

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/session/dialog_session.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+
+namespace halvern {
+
+/// Who converts the photos' colours, for which profile and how; beneath it, the same in a sentence. Main
+/// thread only.
+class ColourRow : public QWidget {
+    Q_OBJECT
+
+public:
+    ColourRow(DialogSession& session, QWidget* parent);
+
+    /// Takes the session's current values into the controls; asks nothing of it.
+    void refresh();
+
+    /// For a label's key.
+    QWidget* field() const;
+
+private:
+    QWidget* makeDetails();
+    void listProfiles();
+    void choose();
+    void chooseProfile();
+
+    DialogSession& session_;
+    QComboBox* who_;
+    QWidget* details_;
+    QComboBox* profile_;
+    QComboBox* intent_;
+    QCheckBox* blackPoint_;
+    QLabel* words_;
+};
+
+} // namespace halvern
