@@ -28,6 +28,61 @@
     </message>
 </context>
 <context>
+    <name>ColourManagement</name>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perzeptiv</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Relativ farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Absolut farbmetrisch</translation>
+    </message>
+    <message>
+        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
+        <translation>Das Farbprofil „%1“ lässt sich nicht lesen. Wählen Sie ein anderes oder lassen Sie den Drucker die Farben verwalten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
+        <translation>„%1“ ist kein Farbprofil eines Druckers. Wählen Sie ein anderes oder lassen Sie den Drucker die Farben verwalten.</translation>
+    </message>
+    <message>
+        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
+        <translation>Für diesen Drucker ist kein Farbprofil bekannt. Wählen Sie eines oder lassen Sie den Drucker die Farben verwalten.</translation>
+    </message>
+    <message>
+        <source>colours for &quot;%1&quot;</source>
+        <translation>Farben für „%1“</translation>
+    </message>
+    <message>
+        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
+        <translation>Der Drucker wandelt die Farben um: Jedes Foto geht in sRGB an ihn.</translation>
+    </message>
+    <message>
+        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>Dieses Programm wandelt die Farben um, aus den eigenen jedes Fotos in „%1“.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own colour correction is off.</source>
+        <translation>Achten Sie darauf, dass die eigene Farbkorrektur des Druckers aus ist.</translation>
+    </message>
+    <message>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>Dem Drucker wird gesagt, dass er sie nicht noch einmal umwandeln soll (%1).</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Print photos of which a part is missing, too, without asking.</source>
@@ -250,6 +305,34 @@
     <message>
         <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>Die Standardeingabe kann nicht in einer temporären Datei abgelegt werden. Schaffen Sie Platz auf der Festplatte.</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
+        <translation>Wer die Farben der Fotos umwandelt: printer (der Drucker, der sRGB bekommt) oder dialog (der Dialog, für ein Farbprofil des Druckers).</translation>
+    </message>
+    <message>
+        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>Die Farben für dieses ICC-Profil des Druckers umwandeln; sonst für das, das der Drucker mitbringt.</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>Was aus Farben wird, die der Drucker nicht wiedergeben kann: perceptual, relative, saturation oder absolute; sonst perceptual.</translation>
+    </message>
+    <message>
+        <source>Convert the colours without black point compensation.</source>
+        <translation>Die Farben ohne Schwarzpunktkompensation umwandeln.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
+        <translation>„%1“ wandelt keine Farben um: Schreiben Sie printer oder dialog.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
+        <translation>„%1“ ist keine Renderpriorität: Schreiben Sie perceptual, relative, saturation oder absolute.</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
+        <translation>--profile, --intent und --no-black-point gehören zu --colour-by dialog.</translation>
     </message>
 </context>
 <context>
@@ -1460,6 +1543,61 @@
     </message>
 </context>
 <context>
+    <name>halvern::ColourRow</name>
+    <message>
+        <source>Compensate the black point</source>
+        <translation>Schwarzpunkt kompensieren</translation>
+    </message>
+    <message>
+        <source>The printer manages colours</source>
+        <translation>Der Drucker verwaltet die Farben</translation>
+    </message>
+    <message>
+        <source>This program manages colours</source>
+        <translation>Dieses Programm verwaltet die Farben</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Renderpriorität</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show</source>
+        <translation>Was aus Farben wird, die der Drucker nicht wiedergeben kann</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
+        <translation>Der dunkelste Ton des Fotos wird zum dunkelsten des Papiers</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: none is known</source>
+        <translation>Profil des Druckers: keines bekannt</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: %1</source>
+        <translation>Profil des Druckers: %1</translation>
+    </message>
+    <message>
+        <source>Another file...</source>
+        <translation>Andere Datei ...</translation>
+    </message>
+    <message>
+        <source>Choose a Colour Profile</source>
+        <translation>Farbprofil wählen</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <translation>Farbprofile (*.icc *.icm *.ICC *.ICM);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -2025,6 +2163,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>&amp;Skalierung:</translation>
+    </message>
+    <message>
+        <source>Co&amp;lours:</source>
+        <translation>&amp;Farben:</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,61 @@
     </message>
 </context>
 <context>
+    <name>ColourManagement</name>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptual</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Colorimétrico relativo</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Colorimétrico absoluto</translation>
+    </message>
+    <message>
+        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
+        <translation>El perfil de color «%1» no se puede leer. Elija otro o deje que la impresora gestione los colores.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
+        <translation>«%1» no es un perfil de color de impresora. Elija otro o deje que la impresora gestione los colores.</translation>
+    </message>
+    <message>
+        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
+        <translation>No se conoce ningún perfil de color de esta impresora. Elija uno o deje que la impresora gestione los colores.</translation>
+    </message>
+    <message>
+        <source>colours for &quot;%1&quot;</source>
+        <translation>colores para «%1»</translation>
+    </message>
+    <message>
+        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
+        <translation>La impresora convierte los colores: cada foto se le envía en sRGB.</translation>
+    </message>
+    <message>
+        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>Este programa convierte los colores, de los propios de cada foto a «%1».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own colour correction is off.</source>
+        <translation>Compruebe que la corrección de color propia de la impresora esté desactivada.</translation>
+    </message>
+    <message>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>Se indica a la impresora que no vuelva a convertirlos (%1).</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Print photos of which a part is missing, too, without asking.</source>
@@ -250,6 +305,34 @@
     <message>
         <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>La entrada estándar no se puede guardar en un archivo temporal. Libere espacio en el disco.</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
+        <translation>Quién convierte los colores de las fotos: printer (la impresora, que recibe sRGB) o dialog (el diálogo, para un perfil de color de la impresora).</translation>
+    </message>
+    <message>
+        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>Convertir los colores para este perfil ICC de la impresora; si no se indica, para el que trae la impresora.</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>Qué se hace con los colores que la impresora no puede reproducir: perceptual, relative, saturation o absolute; si no se indica, perceptual.</translation>
+    </message>
+    <message>
+        <source>Convert the colours without black point compensation.</source>
+        <translation>Convertir los colores sin compensación del punto negro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
+        <translation>«%1» no convierte colores: escriba printer o dialog.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
+        <translation>«%1» no es un propósito de representación: escriba perceptual, relative, saturation o absolute.</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
+        <translation>--profile, --intent y --no-black-point se usan con --colour-by dialog.</translation>
     </message>
 </context>
 <context>
@@ -1460,6 +1543,61 @@
     </message>
 </context>
 <context>
+    <name>halvern::ColourRow</name>
+    <message>
+        <source>Compensate the black point</source>
+        <translation>Compensar el punto negro</translation>
+    </message>
+    <message>
+        <source>The printer manages colours</source>
+        <translation>La impresora gestiona los colores</translation>
+    </message>
+    <message>
+        <source>This program manages colours</source>
+        <translation>Este programa gestiona los colores</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Perfil de color</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Propósito de representación</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show</source>
+        <translation>Qué se hace con los colores que la impresora no puede reproducir</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
+        <translation>El tono más oscuro de la foto pasa a ser el más oscuro del papel</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: none is known</source>
+        <translation>Perfil de la impresora: no se conoce ninguno</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: %1</source>
+        <translation>Perfil de la impresora: %1</translation>
+    </message>
+    <message>
+        <source>Another file...</source>
+        <translation>Otro archivo...</translation>
+    </message>
+    <message>
+        <source>Choose a Colour Profile</source>
+        <translation>Elegir un perfil de color</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <translation>Perfiles de color (*.icc *.icm *.ICC *.ICM);;Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -2025,6 +2163,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>&amp;Escala:</translation>
+    </message>
+    <message>
+        <source>Co&amp;lours:</source>
+        <translation>Colore&amp;s:</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,61 @@
     </message>
 </context>
 <context>
+    <name>ColourManagement</name>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptif</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Colorimétrique relatif</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Colorimétrique absolu</translation>
+    </message>
+    <message>
+        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
+        <translation>Le profil de couleurs « %1 » ne peut pas être lu. Choisissez-en un autre ou laissez l’imprimante gérer les couleurs.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
+        <translation>« %1 » n’est pas un profil de couleurs d’imprimante. Choisissez-en un autre ou laissez l’imprimante gérer les couleurs.</translation>
+    </message>
+    <message>
+        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
+        <translation>Aucun profil de couleurs n’est connu pour cette imprimante. Choisissez-en un ou laissez l’imprimante gérer les couleurs.</translation>
+    </message>
+    <message>
+        <source>colours for &quot;%1&quot;</source>
+        <translation>couleurs pour « %1 »</translation>
+    </message>
+    <message>
+        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
+        <translation>L’imprimante convertit les couleurs : chaque photo lui est envoyée en sRGB.</translation>
+    </message>
+    <message>
+        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>Ce programme convertit les couleurs, de celles de chaque photo vers « %1 ».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own colour correction is off.</source>
+        <translation>Vérifiez que la correction des couleurs propre à l’imprimante est désactivée.</translation>
+    </message>
+    <message>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>L’imprimante reçoit l’ordre de ne pas les convertir à nouveau (%1).</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Print photos of which a part is missing, too, without asking.</source>
@@ -250,6 +305,34 @@
     <message>
         <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>L’entrée standard ne peut pas être conservée dans un fichier temporaire. Libérez de la place sur le disque.</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
+        <translation>Qui convertit les couleurs des photos : printer (l’imprimante, qui reçoit du sRGB) ou dialog (le dialogue, pour un profil de couleurs de l’imprimante).</translation>
+    </message>
+    <message>
+        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>Convertir les couleurs pour ce profil ICC de l’imprimante ; sinon, pour celui qui est fourni avec l’imprimante.</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas rendre : perceptual, relative, saturation ou absolute ; sinon, perceptual.</translation>
+    </message>
+    <message>
+        <source>Convert the colours without black point compensation.</source>
+        <translation>Convertir les couleurs sans compensation du point noir.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
+        <translation>« %1 » ne convertit pas les couleurs : écrivez printer ou dialog.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
+        <translation>« %1 » n’est pas un mode de rendu : écrivez perceptual, relative, saturation ou absolute.</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
+        <translation>--profile, --intent et --no-black-point s’emploient avec --colour-by dialog.</translation>
     </message>
 </context>
 <context>
@@ -1460,6 +1543,61 @@
     </message>
 </context>
 <context>
+    <name>halvern::ColourRow</name>
+    <message>
+        <source>Compensate the black point</source>
+        <translation>Compenser le point noir</translation>
+    </message>
+    <message>
+        <source>The printer manages colours</source>
+        <translation>L’imprimante gère les couleurs</translation>
+    </message>
+    <message>
+        <source>This program manages colours</source>
+        <translation>Ce programme gère les couleurs</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>Profil de couleurs</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Mode de rendu</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show</source>
+        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas rendre</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
+        <translation>Le ton le plus sombre de la photo devient le plus sombre du papier</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: none is known</source>
+        <translation>Profil de l’imprimante : aucun n’est connu</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: %1</source>
+        <translation>Profil de l’imprimante : %1</translation>
+    </message>
+    <message>
+        <source>Another file...</source>
+        <translation>Autre fichier…</translation>
+    </message>
+    <message>
+        <source>Choose a Colour Profile</source>
+        <translation>Choisir un profil de couleurs</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <translation>Profils de couleurs (*.icc *.icm *.ICC *.ICM);;Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -2025,6 +2163,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>Échell&amp;e :</translation>
+    </message>
+    <message>
+        <source>Co&amp;lours:</source>
+        <translation>Cou&amp;leurs :</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,61 @@
     </message>
 </context>
 <context>
+    <name>ColourManagement</name>
+    <message>
+        <source>Perceptual</source>
+        <translation>知覚的</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>相対的な色域を維持</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>絶対的な色域を維持</translation>
+    </message>
+    <message>
+        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
+        <translation>カラープロファイル「%1」を読み込めません。別のプロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
+        <translation>「%1」はプリンターのカラープロファイルではありません。別のプロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
+    </message>
+    <message>
+        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
+        <translation>このプリンターのカラープロファイルが見つかりません。プロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
+    </message>
+    <message>
+        <source>colours for &quot;%1&quot;</source>
+        <translation>「%1」用の色</translation>
+    </message>
+    <message>
+        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
+        <translation>プリンターが色を変換します。どの写真も sRGB で送られます。</translation>
+    </message>
+    <message>
+        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>このプログラムが、各写真の色を「%1」に変換します。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own colour correction is off.</source>
+        <translation>プリンター自身の色補正がオフになっていることを確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>プリンターには、もう一度変換しないように指示します (%1)。</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Print photos of which a part is missing, too, without asking.</source>
@@ -250,6 +305,34 @@
     <message>
         <source>Standard input cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>標準入力を一時ファイルに保存できません。ディスクの空きを増やしてください。</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
+        <translation>写真の色を変換する側: printer (プリンター。sRGB で受け取ります) または dialog (ダイアログ。プリンターのカラープロファイルに変換します)。</translation>
+    </message>
+    <message>
+        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>色をプリンターのこの ICC プロファイルに変換します。省略時はプリンターに付属のプロファイルに変換します。</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>プリンターで再現できない色の扱い: perceptual、relative、saturation、absolute のいずれか。省略時は perceptual。</translation>
+    </message>
+    <message>
+        <source>Convert the colours without black point compensation.</source>
+        <translation>黒点の補正なしで色を変換します。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
+        <translation>「%1」は色を変換しません。printer か dialog を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
+        <translation>「%1」はレンダリングインテントではありません。perceptual、relative、saturation、absolute のいずれかを指定してください。</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
+        <translation>--profile、--intent、--no-black-point は --colour-by dialog と一緒に使います。</translation>
     </message>
 </context>
 <context>
@@ -1460,6 +1543,61 @@
     </message>
 </context>
 <context>
+    <name>halvern::ColourRow</name>
+    <message>
+        <source>Compensate the black point</source>
+        <translation>黒点を補正</translation>
+    </message>
+    <message>
+        <source>The printer manages colours</source>
+        <translation>プリンターが色を管理</translation>
+    </message>
+    <message>
+        <source>This program manages colours</source>
+        <translation>このプログラムが色を管理</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Colour profile</source>
+        <translation>カラープロファイル</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>レンダリングインテント</translation>
+    </message>
+    <message>
+        <source>What becomes of colours that the printer cannot show</source>
+        <translation>プリンターで再現できない色の扱い</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
+        <translation>写真の最も暗い色を、用紙で最も暗い色に合わせます</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: none is known</source>
+        <translation>プリンターのプロファイル: 見つかりません</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own: %1</source>
+        <translation>プリンターのプロファイル: %1</translation>
+    </message>
+    <message>
+        <source>Another file...</source>
+        <translation>別のファイル...</translation>
+    </message>
+    <message>
+        <source>Choose a Colour Profile</source>
+        <translation>カラープロファイルを選択</translation>
+    </message>
+    <message>
+        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <translation>カラープロファイル (*.icc *.icm *.ICC *.ICM);;すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -2025,6 +2163,10 @@
     <message>
         <source>&amp;Scale:</source>
         <translation>拡大縮小(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Co&amp;lours:</source>
+        <translation>色(&amp;C):</translation>
     </message>
 </context>
 <context>
