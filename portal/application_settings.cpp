@@ -209,7 +209,8 @@ void ApplicationSettings::applyTo(SessionRequest& request, const QString& giver)
     if (text("print-pages") == QLatin1StringView("ranges"))
         request.pages.ranges = peoplesRanges(text("page-ranges")).value_or(QString());
     for (const ParityWord& row : kParities) {
-        if (text("page-set") == QLatin1StringView(row.pageSet) && row.parity != PageParity::all)
+        const bool isHalf = row.parity == PageParity::odd || row.parity == PageParity::even;
+        if (isHalf && text("page-set") == QLatin1StringView(row.pageSet))
             request.pages.parity = row.parity;
         if (text("print-pages") == QLatin1StringView(row.printPages) && row.parity > PageParity::even)
             request.pages.parity = row.parity;

@@ -122,10 +122,20 @@ bool write(std::unique_ptr<Filling>& filling, QStringList& folders, const QByteA
     return true;
 }
 
+QString unreadable(int error)
+{
+    return DocumentSpool::tr("The document cannot be read: %1. Print it once more from its application.")
+        .arg(QString::fromLocal8Bit(std::strerror(error)));
+}
+
 // Whether it is at its end; false with a sentence if something failed, or without one if nobody waits.
 bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList folders,
              const cups::CancelFlag& stop, QString& problem)
 {
+    if (descriptor < 0) {
+        problem = unreadable(EMFILE);
+        return false;
+    }
     QByteArray piece(kPiece, Qt::Uninitialized);
     while (!stop->load()) {
         pollfd wait{descriptor, POLLIN, 0};
@@ -137,9 +147,7 @@ bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList fold
         if (count < 0 && (errno == EINTR || errno == EAGAIN))
             continue;
         if (count < 0) {
-            problem =
-                DocumentSpool::tr("The document cannot be read: %1. Print it once more from its application.")
-                    .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            problem = unreadable(errno);
             return false;
         }
         if (!write(filling, folders, QByteArray::fromRawData(piece.constData(), count))) {

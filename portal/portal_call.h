@@ -47,7 +47,7 @@ public:
     virtual void start() = 0;
 
     /// Closes what is open, and answers that the call has failed.
-    void close();
+    virtual void close();
 
     const QString& caller() const { return caller_; }
 

@@ -56,6 +56,11 @@ void PrepareCall::start()
     settings_.applyTo(request, applicationsName());
     request.document = BlindDocument{false, applicationsName(), withKey(text("accept_label")),
                                      isSet("has_current_page"), isSet("has_selected_pages")};
+    // Remembered from a document that had them.
+    PageParity& parity = request.pages.parity;
+    if ((parity == PageParity::current && !isSet("has_current_page")) ||
+        (parity == PageParity::selection && !isSet("has_selected_pages")))
+        parity = PageParity::all;
     session_ = std::make_unique<DialogSession>(request, room_.panels);
     dialog_ = std::make_unique<PrintDialog>(*session_);
     connect(dialog_.get(), &QDialog::finished, this, &PrepareCall::takeEnd);

@@ -51,6 +51,19 @@ void PrintCall::takeDocument(const SpooledDocument& document)
     show(request);
 }
 
+// What was accepted goes to the printer, also if the application has gone.
+void PrintCall::close()
+{
+    answer(PortalResponse::failed);
+    if (prepared_ && !dialog_ && !reviewsDocuments())
+        return;
+    if (dialog_ && dialog_->isRunning()) {
+        dialog_->done(QDialog::Rejected);
+        return;
+    }
+    Q_EMIT over();
+}
+
 void PrintCall::fail(const QString& sentence)
 {
     room_.notices.tell(applicationsName(), sentence, keepsAlive_);
@@ -108,12 +121,22 @@ void PrintCall::takeEnd()
         // Still on its way: whoever closes the window leaves it alone.
         connect(run, &PrintRun::submitted, this, &PrintCall::over);
         connect(run, &PrintRun::finished, this,
-                [this](const PrintOutcome& outcome) { fail(outcome.sentence); });
+                [this](const PrintOutcome& outcome) { takeOutcome(outcome); });
         return;
     }
     // What failed was told in the dialog.
     const bool hasFailed = run && !run->isCancelled() && !dialog_->outcome().printed && !dialog_->isRunning();
     answer(hasFailed ? PortalResponse::failed : PortalResponse::cancelled);
+    Q_EMIT over();
+}
+
+void PrintCall::takeOutcome(const PrintOutcome& outcome)
+{
+    if (outcome.stage != JobStage::cancelled) {
+        fail(outcome.sentence);
+        return;
+    }
+    answer(PortalResponse::cancelled);
     Q_EMIT over();
 }
 

@@ -8,6 +8,8 @@
 
 namespace halvern {
 
+struct PrintOutcome;
+
 class DialogSession;
 class SentJob;
 
@@ -23,6 +25,9 @@ public:
 
     void start() override;
 
+    /// A job that was accepted still goes to the printer.
+    void close() override;
+
 Q_SIGNALS:
     /// Sent without a window; the job outlives the call.
     void sent(halvern::SentJob* job);
@@ -33,6 +38,7 @@ private:
     void send(JobRequest order);
     void show(SessionRequest request);
     void takeEnd();
+    void takeOutcome(const PrintOutcome& outcome);
     void followRun();
 
     QDBusUnixFileDescriptor descriptor_;

@@ -27,7 +27,7 @@ QString statusWord(int exitStatus)
 
 } // namespace
 
-QByteArray dialogResult(const DialogSession& session, PrintDialog& dialog, int exitStatus)
+QByteArray dialogResult(DialogSession& session, PrintDialog& dialog, int exitStatus)
 {
     QJsonObject result{{QStringLiteral("status"), statusWord(exitStatus)},
                        {QStringLiteral("exitStatus"), exitStatus}};
@@ -43,8 +43,12 @@ QByteArray dialogResult(const DialogSession& session, PrintDialog& dialog, int e
     insert("pages", rangesOf(session.chosenPages().pages));
     QJsonObject options;
     if (exitStatus != kExitCancelled) {
-        for (const OptionValue& option : session.valuesToSend().list())
-            options.insert(option.key, option.value);
+        // Whoever reads this may keep it: no PIN and no password.
+        const QSet<QString> secrets = session.model() ? session.model()->secrets() : QSet<QString>();
+        for (const OptionValue& option : session.valuesToSend().list()) {
+            if (!secrets.contains(option.key))
+                options.insert(option.key, option.value);
+        }
     }
     insert("options", options);
     return QJsonDocument(result).toJson(QJsonDocument::Compact);

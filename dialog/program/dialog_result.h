@@ -10,6 +10,6 @@ class PrintDialog;
 
 /// What was chosen in a closed dialog and what became of it, as a JSON object in a line; docs/portal.md
 /// describes it. Main thread only.
-QByteArray dialogResult(const DialogSession& session, PrintDialog& dialog, int exitStatus);
+QByteArray dialogResult(DialogSession& session, PrintDialog& dialog, int exitStatus);
 
 } // namespace halvern

@@ -169,6 +169,11 @@ Preset DialogSession::usedNow() const
             last.changed.remove(it.key());
         }
     }
+    // An application's page is not what the user's next photo is to have.
+    if (document() || request_.scaling) {
+        const PresetEntry* before = presets_.find(lastUsedName());
+        last.page = before ? before->preset.page : QMap<QString, QString>();
+    }
     if (presets_.chosen().kind == PresetKind::named && isAsChosen())
         last.basedOn = presets_.chosen().preset.name;
     return last;

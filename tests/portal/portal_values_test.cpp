@@ -110,6 +110,13 @@ TEST(ApplicationSettings, GoBackWithoutWhatTheServerDoes)
     job.pages = {q("2"), PageParity::current, false};
     EXPECT_EQ(settings.settingsFor(job).value(q("print-pages")), q("current"));
     EXPECT_FALSE(settings.settingsFor(job).contains(q("page-ranges")));
+    for (const PageParity parity :
+         {PageParity::all, PageParity::odd, PageParity::even, PageParity::current, PageParity::selection}) {
+        job.pages = {{}, parity, false};
+        SessionRequest next;
+        ApplicationSettings(settings.settingsFor(job), {}).applyTo(next, q("App"));
+        EXPECT_EQ(next.pages.parity, parity) << "as the application hands it in the next time";
+    }
 }
 
 TEST(ApplicationSettings, GoBackWithTheWholePage)
