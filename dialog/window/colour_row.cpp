@@ -140,20 +140,34 @@ void ColourRow::choose()
 
 void ColourRow::chooseProfile()
 {
+    const QString path = profile_->currentData().toString();
+    if (path == kOther)
+        askForFile();
+    else
+        useProfile(path);
+}
+
+void ColourRow::useProfile(const QString& path)
+{
     PageSettings page = session_.page();
-    QString path = profile_->currentData().toString();
-    if (path == kOther) {
-        const QString folder = page.colours.profile.isEmpty() ? QStringLiteral("/usr/share/color/icc")
-                                                              : QFileInfo(page.colours.profile).path();
-        path = QFileDialog::getOpenFileName(this, tr("Choose a Colour Profile"), folder,
-                                            tr("Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)"));
-        if (path.isEmpty()) {
-            refresh();
-            return;
-        }
-    }
     page.colours.profile = path;
     session_.setPage(page);
+}
+
+// Nothing waits for the answer: the window may go before there is one.
+void ColourRow::askForFile()
+{
+    const QString chosen = session_.page().colours.profile;
+    const QString folder =
+        chosen.isEmpty() ? QStringLiteral("/usr/share/color/icc") : QFileInfo(chosen).path();
+    auto* question = new QFileDialog(window(), tr("Choose a Colour Profile"), folder,
+                                     tr("Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)"));
+    question->setObjectName(QStringLiteral("profileFile"));
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setFileMode(QFileDialog::ExistingFile);
+    connect(question, &QFileDialog::fileSelected, this, &ColourRow::useProfile);
+    connect(question, &QFileDialog::rejected, this, &ColourRow::refresh);
+    question->open();
 }
 
 } // namespace halvern

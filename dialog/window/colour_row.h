@@ -30,6 +30,8 @@ private:
     void listProfiles();
     void choose();
     void chooseProfile();
+    void useProfile(const QString& path);
+    void askForFile();
 
     DialogSession& session_;
     QComboBox* who_;
