@@ -7,16 +7,14 @@
 #include "dialog/options/page_fit.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
-#include "dialog/session/change_history.h"
 #include "dialog/session/colour_management.h"
+#include "dialog/session/option_changes.h"
 #include "dialog/session/page_setup.h"
-#include "dialog/session/paper_keeper.h"
 #include "dialog/session/photo_loader.h"
-#include "dialog/session/preset_use.h"
-#include "dialog/session/presets.h"
 #include "dialog/session/printer_choice.h"
 #include "dialog/session/printer_panels.h"
 #include "dialog/session/recent_names.h"
+#include "dialog/session/session_presets.h"
 
 #include <QObject>
 
@@ -67,7 +65,7 @@ public:
     bool hasPhotos() const { return photos_.isDone(); }
 
     /// Null while no printer's PPD is there.
-    PpdModel* model() { return model_.get(); }
+    PpdModel* model() const { return options_.model(); }
 
     /// Whether the sheet is printed on both sides.
     bool isTwoSided() const;
@@ -111,10 +109,10 @@ public:
     const BlindDocument* document() const { return request_.document ? &*request_.document : nullptr; }
 
     /// The sheet that it is printed on.
-    PageLayout sheet() const { return page_.sheet(model_.get()); }
+    PageLayout sheet() const { return page_.sheet(model()); }
 
     /// The layout of a photo on the current sheet.
-    PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model_.get()); }
+    PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model()); }
 
     /// What the printer's adjustments do to the photos, from the options' current values.
     Look look() const;
@@ -124,14 +122,17 @@ public:
 
     /// A choice that the user made in the dialog's own controls. False if it was refused; refused() then says
     /// why.
-    bool changeOption(const QString& key, const QVariant& value);
+    bool changeOption(const QString& key, const QVariant& value) { return options_.choose(key, value); }
 
     /// What changeOption() would change beside the listed choice.
-    QList<SideChange> alsoChanges(const QString& key, const QString& choice) const;
+    QList<SideChange> alsoChanges(const QString& key, const QString& choice) const
+    {
+        return options_.alsoChanges(key, choice);
+    }
 
     /// Puts the options back to what the printer has by default, as one change that can be undone;
     /// optionsPutBack() follows. False if it was refused; refused() then says why.
-    bool putBack(const QStringList& keys);
+    bool putBack(const QStringList& keys) { return options_.putBack(keys); }
 
     /// What is known of the paper that is chosen.
     PaperRoom chosenPaper() const;
@@ -141,23 +142,23 @@ public:
 
     /// Takes the last change that changed other options too back, with those. Nothing happens once one of
     /// them has been changed again.
-    void undoLastChange();
+    void undoLastChange() { options_.undo(); }
 
     /// The presets of the selected printer. What is chosen comes from chosen(), as far as isAsChosen() says.
-    Presets& presets() { return presets_; }
+    Presets& presets() { return presets_.offered(); }
 
     /// Sets everything as a preset has it, in one step that undoLastChange() takes back. presetApplied()
     /// follows, and a notice() of what cannot be had.
-    void applyPreset(const PresetEntry& entry);
+    void applyPreset(const PresetEntry& entry) { presets_.apply(entry); }
 
     /// Keeps what is set now under a name, in the place of what has it.
-    void savePreset(const QString& name, const PresetContents& contents);
+    void savePreset(const QString& name, const PresetContents& contents) { presets_.save(name, contents); }
 
     /// What would be kept.
-    Preset capture(const PresetContents& contents);
+    Preset capture(const PresetContents& contents) const { return presets_.capture(contents); }
 
     /// Whether everything is set as the chosen preset has it.
-    bool isAsChosen() const;
+    bool isAsChosen() const { return presets_.isAsChosen(); }
 
     /// Whether print() would do something.
     bool canPrint() const { return whyNotPrintable().isEmpty(); }
@@ -180,7 +181,7 @@ public:
     JobInWords jobInWords() const;
 
     /// What the printer does by itself: the PPD's choices and the queue's; empty without a printer.
-    const QMap<QString, QString>& printerDefaults() const { return printerDefaults_; }
+    const QMap<QString, QString>& printerDefaults() const { return presets_.printerDefaults(); }
 
     /// Whether the chosen page size can be on the chosen paper, or nobody knows.
     bool isPageOnPaper() const;
@@ -197,7 +198,7 @@ public:
     JobRequest makeOrder();
 
     /// What is set now, as it is remembered as used last.
-    Preset usedNow() const;
+    Preset usedNow() const { return presets_.usedNow(); }
 
     /// Makes what writes the current pages into a file; the caller starts it. Owned by the session. Call
     /// canPrint() first.
@@ -210,7 +211,7 @@ public:
     ppd_file_t* hostPpdFile() override;
     bool hostWillChange(const QString& key, const QVariant& choice) override;
 
-    std::shared_ptr<PrintSettings> hostPrintSettings() override { return settings_; }
+    std::shared_ptr<PrintSettings> hostPrintSettings() override { return options_.settings(); }
 
     std::shared_ptr<PageFormat> hostPageFormat() override;
 
@@ -248,63 +249,28 @@ Q_SIGNALS:
     void optionsChanged();
 
 private:
+    void tellOptions();
     void takePrinter(const FetchedPrinter& printer);
     void takeOffer(const PrinterOffer& offer);
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
-    std::optional<PresetEntry> startingPreset();
-    GivenOptions understoodSaved() const;
     void takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset);
-    void tellLeftOut(const QList<LeftOut>& leftOut, const QString& presetTitle);
-    void chooseStartingPreset(const std::optional<PresetEntry>& used);
-    PresetOptions resetTo(const PresetEntry& entry);
-    void rememberWhenSent(PrintRun* run);
     void keepJobAttributes();
-    void takeLoadedSheet(const PrinterOffer& offer);
-    void rememberStart(const SettledOption& settled);
     void loadPanels();
-    ChangeResult change(const QString& key, const QVariant& value, ppd_lookup::NumberReading reading,
-                        ChangeOrigin origin);
-    ChangeResult accept(const QString& key, const QString& before, ChangeOrigin origin,
-                        const ChangeResult& result);
-    void remember(const QString& key, const QString& before, ChangeOrigin origin,
-                  const QList<SideChange>& others);
-    void tellChanges();
-    void dropClashingUndo(const SideChange& change, const QList<SideChange>& others);
     JobInputs jobInputs() const;
     PdfQuality quality() const;
     std::vector<PageToPrint> pagesToPrint() const;
-    void storeInSettings(const QString& key);
-    bool takeProposal(const QString& key, const QVariant& choice);
-    void handBack(const QString& key);
 
     SessionRequest request_;
     PhotoLoader photos_;
     PrinterChoice printer_;
     PrinterPanels panels_;
-    std::shared_ptr<PpdModel> model_;
-    std::shared_ptr<PrintSettings> settings_;
     PageSetup page_;
+    OptionChanges options_;
+    SessionPresets presets_;
     ColourManagement colours_;
-    std::unique_ptr<PaperKeeper> keeper_;
-    ChangeHistory history_;
     QString backLinesProblem_;
-    Presets presets_;
-    QMap<QString, QString> printerDefaults_;
-    QMap<QString, QString> filledIn_; // by panels or by what is loaded, where nobody had chosen anything
-    bool hasTakenPreset_ = false;
     bool pageIsUsers_ = false; // no other printer's preset changes it
-
-    // What the last preset replaced beside options, and what it set.
-    struct PresetStep {
-        PageSettings before;
-        PageSettings after;
-        PresetEntry chosenBefore;
-        PresetEntry chosenAfter;
-    };
-
-    std::optional<PresetStep> presetStep_;
-
     JobOffer jobOffer_;
     QMap<QString, QString> jobAttributes_; ///< what the user has set
     RecentNames recentPrinters_;

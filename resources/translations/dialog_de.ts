@@ -1678,10 +1678,6 @@
 <context>
     <name>halvern::DialogSession</name>
     <message>
-        <source>A saved setting was left out. %1</source>
-        <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
-    </message>
-    <message>
         <source>No printer is chosen. Choose one from the list.</source>
         <translation>Es ist kein Drucker gewählt. Wählen Sie einen aus der Liste.</translation>
     </message>
@@ -2824,6 +2820,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>Nichts hier heißt „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SessionPresets</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>Eine gespeicherte Einstellung wurde ausgelassen. %1</translation>
     </message>
 </context>
 <context>

@@ -1678,10 +1678,6 @@
 <context>
     <name>halvern::DialogSession</name>
     <message>
-        <source>A saved setting was left out. %1</source>
-        <translation>Se omitió un ajuste guardado. %1</translation>
-    </message>
-    <message>
         <source>No printer is chosen. Choose one from the list.</source>
         <translation>No hay ninguna impresora elegida. Elija una de la lista.</translation>
     </message>
@@ -2824,6 +2820,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>Aquí nada se llama «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SessionPresets</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>Se omitió un ajuste guardado. %1</translation>
     </message>
 </context>
 <context>

@@ -1678,10 +1678,6 @@
 <context>
     <name>halvern::DialogSession</name>
     <message>
-        <source>A saved setting was left out. %1</source>
-        <translation>Un réglage enregistré a été ignoré. %1</translation>
-    </message>
-    <message>
         <source>No printer is chosen. Choose one from the list.</source>
         <translation>Aucune imprimante n’est choisie. Choisissez-en une dans la liste.</translation>
     </message>
@@ -2824,6 +2820,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>Rien ici ne s’appelle « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SessionPresets</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>Un réglage enregistré a été ignoré. %1</translation>
     </message>
 </context>
 <context>

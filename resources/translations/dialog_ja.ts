@@ -1678,10 +1678,6 @@
 <context>
     <name>halvern::DialogSession</name>
     <message>
-        <source>A saved setting was left out. %1</source>
-        <translation>保存された設定を 1 つ使いませんでした。%1</translation>
-    </message>
-    <message>
         <source>No printer is chosen. Choose one from the list.</source>
         <translation>プリンターが選ばれていません。一覧から選んでください。</translation>
     </message>
@@ -2824,6 +2820,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>「%1」という名前のものはここにありません。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SessionPresets</name>
+    <message>
+        <source>A saved setting was left out. %1</source>
+        <translation>保存された設定を 1 つ使いませんでした。%1</translation>
     </message>
 </context>
 <context>

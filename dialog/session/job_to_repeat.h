@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/job/job_options.h"
+#include "dialog/session/page_setup.h"
+#include "dialog/session/photo_loader.h"
+
+namespace halvern {
+
+/// What the command line that prints the same again is made of. Holds references: for the call only.
+struct SessionToRepeat {
+    QString printer;
+    const std::vector<Photo>& photos;
+    const std::vector<PhotoLoader::LeftOutPhoto>& leftOut;
+    const std::vector<size_t>& chosen; ///< places in photos, in the order of printing
+    const PpdModel& model;
+    const QMap<QString, QString>& printerDefaults;
+    OptionValues saved; ///< by the user for this printer
+    JobInputs inputs;
+    const PageSettings& page;
+};
+
+/// The command line, quoted for a shell. On the model's thread.
+QString commandToRepeat(const SessionToRepeat& session);
+
+} // namespace halvern
