@@ -169,7 +169,7 @@ Data dataOf(FileBytes bytes)
 {
     if (isHeif(bytes))
         return dataOfHeif(bytes);
-    const Exiv2::Image::AutoPtr image = Exiv2::ImageFactory::open(bytes.data(), long(bytes.size()));
+    const auto image = Exiv2::ImageFactory::open(bytes.data(), long(bytes.size()));
     image->readMetadata();
     return {image->exifData(), image->iptcData(), image->xmpData()};
 }
