@@ -9,18 +9,9 @@ namespace halvern {
 
 namespace {
 
-constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
-
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(JobActions)
 };
-
-bool isForbidden(const cups::Connection& server, const cups::Ipp& answer)
-{
-    const int status = answer ? ippGetStatusCode(answer.get()) : IPP_STATUS_OK;
-    return server.wasForbidden() || status == IPP_STATUS_ERROR_FORBIDDEN ||
-           status == IPP_STATUS_ERROR_NOT_AUTHENTICATED || status == IPP_STATUS_ERROR_NOT_AUTHORIZED;
-}
 
 cups::Ipp send(cups::Connection& server, int operation, const QString& queue, int jobId)
 {
@@ -33,7 +24,7 @@ cups::Ipp send(cups::Connection& server, int operation, const QString& queue, in
 // With a job number it is about the job, without one about the queue.
 ActionResult act(int operation, const QString& queue, int jobId, const char* forbidden)
 {
-    cups::Connection server(nullptr, kLimits);
+    cups::Connection server(nullptr, kActionLimits);
     const cups::Ipp answer = send(server, operation, queue, jobId);
     if (!server.failed(answer))
         return {};
@@ -46,6 +37,13 @@ ActionResult act(int operation, const QString& queue, int jobId, const char* for
 }
 
 } // namespace
+
+bool isForbidden(const cups::Connection& server, const cups::Ipp& answer)
+{
+    const int status = answer ? ippGetStatusCode(answer.get()) : IPP_STATUS_OK;
+    return server.wasForbidden() || status == IPP_STATUS_ERROR_FORBIDDEN ||
+           status == IPP_STATUS_ERROR_NOT_AUTHENTICATED || status == IPP_STATUS_ERROR_NOT_AUTHORIZED;
+}
 
 ActionResult cancelJob(const QString& queue, int jobId)
 {

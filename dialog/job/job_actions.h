@@ -11,6 +11,12 @@ struct ActionResult {
     QString problem;        ///< a sentence; empty if it was done, or nothing was left to do
 };
 
+/// What a server may take to do something.
+inline constexpr cups::Limits kActionLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
+
+/// Whether the answer, or the refusal to give one, says that the user may not do it.
+bool isForbidden(const cups::Connection& server, const cups::Ipp& answer);
+
 /// Cancels a job, on the calling worker. A job that has already ended is no problem.
 ActionResult cancelJob(const QString& queue, int jobId);
 

@@ -64,28 +64,6 @@ bool isPaused(const JobStatus& status)
            status.reasons.contains(QStringLiteral("printer-stopped"));
 }
 
-JobStage stageOf(int state, const JobStatus& status)
-{
-    switch (state) {
-    case IPP_JSTATE_PENDING:
-        return isPaused(status) ? JobStage::blocked : JobStage::waiting;
-    case IPP_JSTATE_HELD:
-        return JobStage::held;
-    case IPP_JSTATE_PROCESSING:
-        return JobStage::printing;
-    case IPP_JSTATE_STOPPED:
-        return JobStage::stopped;
-    case IPP_JSTATE_CANCELED:
-        return JobStage::cancelled;
-    case IPP_JSTATE_ABORTED:
-        return JobStage::aborted;
-    case IPP_JSTATE_COMPLETED:
-        return JobStage::completed;
-    default:
-        return JobStage::unknown;
-    }
-}
-
 QString pattern(const JobStatus& status)
 {
     switch (status.stage) {
@@ -168,6 +146,28 @@ JobStatus askJobStatus(cups::Connection& server, const QString& queue, int jobId
     }
     status.stage = stageOf(state, status);
     return status;
+}
+
+JobStage stageOf(int ippState, const JobStatus& status)
+{
+    switch (ippState) {
+    case IPP_JSTATE_PENDING:
+        return isPaused(status) ? JobStage::blocked : JobStage::waiting;
+    case IPP_JSTATE_HELD:
+        return JobStage::held;
+    case IPP_JSTATE_PROCESSING:
+        return JobStage::printing;
+    case IPP_JSTATE_STOPPED:
+        return JobStage::stopped;
+    case IPP_JSTATE_CANCELED:
+        return JobStage::cancelled;
+    case IPP_JSTATE_ABORTED:
+        return JobStage::aborted;
+    case IPP_JSTATE_COMPLETED:
+        return JobStage::completed;
+    default:
+        return JobStage::unknown;
+    }
 }
 
 bool hasEnded(JobStage stage)

@@ -46,6 +46,9 @@ JobStatus askJobStatus(cups::Connection& server, const QString& queue, int jobId
 /// What a server may take for a question about a job: the next one follows soon.
 inline constexpr cups::Limits kJobQuestionLimits{std::chrono::seconds(3), std::chrono::seconds(3)};
 
+/// The stage of a job in this IPP state, whose reasons and whose printer's reasons `status` has.
+JobStage stageOf(int ippState, const JobStatus& status);
+
 /// Whether the job has ended for good.
 bool hasEnded(JobStage stage);
 

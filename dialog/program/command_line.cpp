@@ -121,9 +121,28 @@ public:
                                    tr("Write the names of the printer's presets, a line each.")};
     QCommandLineOption json{
         QStringLiteral("json"),
-        tr("With --list-printers, --list-options or --list-presets: write JSON, with more details.")};
+        tr("With --list-printers, --list-options, --list-presets or --jobs: write JSON, with more details.")};
     QCommandLineOption listPapers{QStringLiteral("list-papers"),
                                   tr("Write what the printer has loaded, and how old that knowledge is.")};
+    QCommandLineOption jobs{
+        QStringLiteral("jobs"),
+        tr("Write your jobs that have not ended, on the queue of --printer or on all, a line each.")};
+    QCommandLineOption ended{QStringLiteral("ended"), tr("With --jobs: those that have ended, too.")};
+    QCommandLineOption cancelJob{QStringLiteral("cancel"), tr("With --jobs: cancel this job."),
+                                 QStringLiteral("N")};
+    QCommandLineOption holdJob{QStringLiteral("hold"), tr("With --jobs: hold this job."),
+                               QStringLiteral("N")};
+    QCommandLineOption releaseJob{QStringLiteral("release"), tr("With --jobs: let this held job go on."),
+                                  QStringLiteral("N")};
+    QCommandLineOption repeatJob{
+        QStringLiteral("again"),
+        tr("With --jobs: print this job again, if the print server has kept its pages."),
+        QStringLiteral("N")};
+    QCommandLineOption moveJob{QStringLiteral("move"),
+                               tr("With --jobs: move this job to another queue; --to says which."),
+                               QStringLiteral("N")};
+    QCommandLineOption moveTo{QStringLiteral("to"), tr("With --jobs --move: the queue to move the job to."),
+                              QStringLiteral("QUEUE")};
     QCommandLineOption parent{QStringLiteral("parent"),
                               tr("Show the dialog above another program's window: x11: and the window's "
                                  "number in hexadecimal digits."),
@@ -213,9 +232,26 @@ public:
 
     static QString refreshAlone() { return tr("--refresh goes with --list-papers."); }
 
+    static QString jobsAlone()
+    {
+        return tr("--ended, --cancel, --hold, --release, --again, --move and --to go with --jobs.");
+    }
+
+    static QString oneDeed()
+    {
+        return tr(
+            "Do one thing at a time: give one of --cancel, --hold, --release and --again, or --move and "
+            "--to together.");
+    }
+
+    static QString badJob(const QString& text)
+    {
+        return tr("\"%1\" is no job: write its number, as --jobs lists it.").arg(displayText(text, 40));
+    }
+
     static QString jsonAlone()
     {
-        return tr("--json goes with --list-printers, --list-options or --list-presets.");
+        return tr("--json goes with --list-printers, --list-options, --list-presets or --jobs.");
     }
 
     static QString listAndPrint(const QString& option)
@@ -321,6 +357,10 @@ QList<ListingSwitch> listingSwitches(const Switches& switches)
 {
     return {{switches.listPapers, Listing::papers, {switches.printer, switches.refresh, switches.wait}},
             {switches.listPrinters, Listing::printers, {switches.json}},
+            {switches.jobs,
+             Listing::jobs,
+             {switches.printer, switches.json, switches.ended, switches.cancelJob, switches.holdJob,
+              switches.releaseJob, switches.repeatJob, switches.moveJob, switches.moveTo}},
             {switches.listOptions,
              Listing::options,
              {switches.printer, switches.option, switches.preset, switches.json}},
@@ -329,6 +369,43 @@ QList<ListingSwitch> listingSwitches(const Switches& switches)
              Listing::savePreset,
              {switches.printer, switches.option, switches.preset, switches.copies, switches.pages,
               switches.reverse, switches.orientation, switches.backprint}}};
+}
+
+// What to do about the user's jobs. The sentence about what is wrong; empty if all is right.
+QString readJobs(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
+{
+    const struct {
+        const QCommandLineOption& option;
+        JobDeed deed;
+    } deeds[] = {{switches.cancelJob, JobDeed::cancel},
+                 {switches.holdJob, JobDeed::hold},
+                 {switches.releaseJob, JobDeed::release},
+                 {switches.repeatJob, JobDeed::printAgain},
+                 {switches.moveJob, JobDeed::move}};
+
+    ListJobsRequest request{line.request.printer, parser.isSet(switches.json), parser.isSet(switches.ended)};
+    request.target = parser.value(switches.moveTo);
+    for (const auto& row : deeds) {
+        if (!parser.isSet(row.option))
+            continue;
+        if (request.deed)
+            return Switches::oneDeed();
+        request.deed = row.deed;
+        request.jobId = parser.value(row.option).toInt();
+        if (request.jobId <= 0)
+            return Switches::badJob(parser.value(row.option));
+    }
+    if ((request.deed == JobDeed::move) == request.target.isEmpty())
+        return Switches::oneDeed();
+    line.listJobs = request;
+    return {};
+}
+
+bool belongsToJobs(const QCommandLineParser& parser, const Switches& switches)
+{
+    const auto all = {&switches.ended,     &switches.cancelJob, &switches.holdJob, &switches.releaseJob,
+                      &switches.repeatJob, &switches.moveJob,   &switches.moveTo};
+    return std::ranges::any_of(all, [&](const QCommandLineOption* option) { return parser.isSet(*option); });
 }
 
 // What to write instead of printing, if anything. The sentence about what does not go with it; empty if all
@@ -349,6 +426,8 @@ QString readListing(const QCommandLineParser& parser, const Switches& switches, 
         line.listing = {listing.what, parser.isSet(switches.json), parser.value(switches.savePreset)};
         if (listing.what == Listing::papers)
             line.listPapers = ListPapersRequest{line.request.printer, parser.isSet(switches.refresh)};
+        if (listing.what == Listing::jobs)
+            return readJobs(parser, switches, line);
         const QString& name = line.listing.name;
         if (listing.what == Listing::savePreset && presetName(name).isEmpty())
             return Switches::badPresetName(name);
@@ -358,6 +437,8 @@ QString readListing(const QCommandLineParser& parser, const Switches& switches, 
     }
     if (parser.isSet(switches.refresh))
         return Switches::refreshAlone();
+    if (belongsToJobs(parser, switches))
+        return Switches::jobsAlone();
     return parser.isSet(switches.json) ? Switches::jsonAlone() : QString();
 }
 
@@ -480,7 +561,9 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
          switches.verify,       switches.listPrinters, switches.listPapers,   switches.refresh,
          switches.listOptions,  switches.listPresets,  switches.savePreset,   switches.json,
          switches.photosPerJob, switches.parent,       switches.resultJson,   switches.colourBy,
-         switches.profile,      switches.intent,       switches.noBlackPoint});
+         switches.profile,      switches.intent,       switches.noBlackPoint, switches.jobs,
+         switches.ended,        switches.cancelJob,    switches.holdJob,      switches.releaseJob,
+         switches.repeatJob,    switches.moveJob,      switches.moveTo});
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));

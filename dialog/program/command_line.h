@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/program/exit_status.h"
+#include "dialog/program/list_jobs.h"
 #include "dialog/program/list_papers.h"
 #include "dialog/program/listings.h"
 #include "dialog/session/session_request.h"
@@ -23,6 +24,7 @@ struct CommandLine {
     bool verify = false;                              ///< compare what the server holds with what was sent
     ListingRequest listing = {};                      ///< write that and do nothing else
     std::optional<ListPapersRequest> listPapers = {}; ///< of Listing::papers
+    std::optional<ListJobsRequest> listJobs = {};     ///< of Listing::jobs
     std::chrono::seconds wait{
         60}; ///< how long a server that goes silent after the job was sent is borne with
 };

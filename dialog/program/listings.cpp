@@ -51,19 +51,6 @@ const char* wordOf(PresetKind kind)
     return "named";
 }
 
-// Outside ASCII, as JSON may be written: exact, and nothing in it for a terminal to act on.
-void writeJson(QTextStream& out, const QJsonDocument& document)
-{
-    QString text;
-    for (const QChar character : QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed()) {
-        if (character.unicode() < 0x7f)
-            text += character;
-        else
-            text += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QLatin1Char('0'));
-    }
-    writeLines(out, text);
-}
-
 class ListingWriter {
 public:
     ListingWriter(const ListingRequest& listing, const SessionRequest& request, QTextStream& out,
@@ -191,6 +178,18 @@ private:
 };
 
 } // namespace
+
+void writeJson(QTextStream& out, const QJsonDocument& document)
+{
+    QString text;
+    for (const QChar character : QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed()) {
+        if (character.unicode() < 0x7f)
+            text += character;
+        else
+            text += QStringLiteral("\\u%1").arg(uint(character.unicode()), 4, 16, QLatin1Char('0'));
+    }
+    writeLines(out, text);
+}
 
 int writeListing(const ListingRequest& listing, const SessionRequest& request, QTextStream& out,
                  QTextStream& err)

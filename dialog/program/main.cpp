@@ -96,6 +96,8 @@ int runListing(const CommandLine& line)
     sendTraceToSystemLog();
     QTextStream out(stdout);
     QTextStream err(stderr);
+    if (line.listJobs)
+        return listJobs(*line.listJobs, out, err);
     if (!line.listPapers)
         return writeListing(line.listing, line.request, out, err);
     const PluginLoader panels;

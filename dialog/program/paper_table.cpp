@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/paper_table.h"
 
+#include "dialog/program/terminal_table.h"
 #include "platform/foundation/display_text.h"
 #include "platform/printing/ppd.h"
 
 #include <QCoreApplication>
-
-#include <array>
-
-#include <unicode/uchar.h>
 
 namespace halvern {
 
@@ -21,8 +18,6 @@ constexpr qint64 kDay = 24 * kHour;
 struct TableWords {
     Q_DECLARE_TR_FUNCTIONS(PaperTable)
 };
-
-using Row = std::array<QString, 4>;
 
 QString ageText(qint64 seconds)
 {
@@ -71,39 +66,6 @@ QString resolutionsText(QList<int> dotsPerInch)
     return texts.join(QStringLiteral(", ")) + QStringLiteral(" dpi");
 }
 
-// Columns of a terminal: Chinese and Japanese characters take two, combining ones none.
-qsizetype columnsOf(const QString& text)
-{
-    qsizetype columns = 0;
-    for (const uint character : text.toUcs4()) {
-        const int width = u_getIntPropertyValue(UChar32(character), UCHAR_EAST_ASIAN_WIDTH);
-        if (width == U_EA_WIDE || width == U_EA_FULLWIDTH)
-            columns += 2;
-        else if (!QChar::isMark(character))
-            ++columns;
-    }
-    return columns;
-}
-
-QString aligned(const QList<Row>& rows)
-{
-    std::array<qsizetype, 4> widths{};
-    for (const Row& row : rows) {
-        for (size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], columnsOf(row[i]));
-    }
-    QString table;
-    for (const Row& row : rows) {
-        QString line;
-        for (size_t i = 0; i < row.size(); ++i)
-            line += row[i] + QString(widths[i] + 2 - columnsOf(row[i]), QLatin1Char(' '));
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
-        table += line + QLatin1Char('\n');
-    }
-    return table;
-}
-
 } // namespace
 
 QString paperHeading(const QString& queue, const LoadedPapers& loaded, const QDateTime& now)
@@ -120,7 +82,7 @@ QString paperTable(const LoadedPapers& loaded, ppd_file_t* file,
 {
     const ChoiceTexts surfaces(file, QStringLiteral("PaperSurface"), words);
     const ChoiceTexts tones(file, QStringLiteral("PaperTone"), words);
-    QList<Row> rows;
+    QList<QStringList> rows;
     for (const bool rolls : {false, true}) {
         bool isFirst = true;
         for (const LoadedPaper& paper : loaded.papers) {
@@ -141,7 +103,7 @@ QString paperTable(const LoadedPapers& loaded, ppd_file_t* file,
                          resolutionsText(paper.dotsPerInch), toneTexts.join(QStringLiteral(", "))});
         }
     }
-    return aligned(rows);
+    return alignedColumns(rows);
 }
 
 } // namespace halvern

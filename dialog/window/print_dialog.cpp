@@ -4,6 +4,7 @@
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/disabled_reasons.h"
 #include "dialog/window/job_line.h"
+#include "dialog/window/jobs_window.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/photo_adding.h"
@@ -203,7 +204,11 @@ QLayout* PrintDialog::makePrinterRows(QWidget* parent)
     form->setHorizontalSpacing(14);
     form->setVerticalSpacing(6);
     form->addRow(label, printer_);
-    form->addRow(QString(), printerState_);
+    jobs_ = new JobsButton(session_, parent);
+    auto* state = new QHBoxLayout;
+    state->addWidget(printerState_, 1);
+    state->addWidget(jobs_, 0, Qt::AlignTop);
+    form->addRow(QString(), state);
     presets_ = new PresetBar(session_, parent);
     auto* presetLabel = new QLabel(tr("Preset:"), parent);
     presetLabel->setBuddy(presets_->box());

@@ -16,6 +16,7 @@ class QToolButton;
 namespace halvern {
 
 class JobLine;
+class JobsButton;
 class MessageBar;
 class OutputMenu;
 enum class MessageKind;
@@ -113,6 +114,7 @@ private:
     SearchBox* printer_ = nullptr;
     PrinterRows* printers_ = nullptr;
     QLabel* printerState_ = nullptr;
+    JobsButton* jobs_ = nullptr;
     PresetBar* presets_ = nullptr;
     PanelDeck* deck_ = nullptr;
     QSpinBox* copies_ = nullptr;

@@ -3,6 +3,7 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/preview/preview_widget.h"
+#include "dialog/window/jobs_window.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/output_menu.h"
 #include "dialog/window/panel_deck.h"
@@ -118,7 +119,7 @@ void PrintDialog::resizeEvent(QResizeEvent* event)
 // The controls come first, from the top to the bottom, although the preview stands first.
 QList<QWidget*> PrintDialog::tabOrder() const
 {
-    QList<QWidget*> order{printer_};
+    QList<QWidget*> order{printer_, jobs_};
     order += presets_->tabOrder();
     order += deck_->tabOrder();
     order += {runBar_->button(), copies_, collate_, output_, cancelJob_, cancel_, print_};
