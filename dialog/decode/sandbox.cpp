@@ -98,6 +98,12 @@ constexpr std::array kAllowed{SCMP_SYS(read),
 
 std::vector<sock_filter> program;
 
+// The library's macros for a condition are C's.
+bool allowIf(scmp_filter_ctx filter, int call, const scmp_arg_cmp& condition)
+{
+    return seccomp_rule_add_array(filter, SCMP_ACT_ALLOW, call, 1, &condition) == 0;
+}
+
 bool addRules(scmp_filter_ctx filter)
 {
     for (const int call : kAllowed) {
@@ -105,12 +111,10 @@ bool addRules(scmp_filter_ctx filter)
             return false;
     }
     constexpr scmp_datum_t kWriting = O_ACCMODE | O_CREAT | O_TRUNC;
-    const bool mayRead = seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(openat), 1,
-                                          SCMP_A2(SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY)) == 0 &&
-                         seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(open), 1,
-                                          SCMP_A1(SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY)) == 0;
-    const bool mayThread = seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), 1,
-                                            SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD)) == 0;
+    const bool mayRead = allowIf(filter, SCMP_SYS(openat), {2, SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY}) &&
+                         allowIf(filter, SCMP_SYS(open), {1, SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY});
+    const bool mayThread =
+        allowIf(filter, SCMP_SYS(clone), {0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD});
     // Its flags lie in memory, where no filter sees them; the C library falls back to the other one.
     const bool fallsBack = seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
 #ifdef HALVERN_SANITIZED
@@ -119,10 +123,8 @@ bool addRules(scmp_filter_ctx filter)
         return false;
 #endif
     // Where a crash is reported; standard error goes nowhere otherwise.
-    const bool mayComplain = seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(write), 1,
-                                              SCMP_A0(SCMP_CMP_EQ, STDERR_FILENO)) == 0;
-    const bool mayAsk =
-        seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(prlimit64), 1, SCMP_A2(SCMP_CMP_EQ, 0)) == 0;
+    const bool mayComplain = allowIf(filter, SCMP_SYS(write), {0, SCMP_CMP_EQ, STDERR_FILENO, 0});
+    const bool mayAsk = allowIf(filter, SCMP_SYS(prlimit64), {2, SCMP_CMP_EQ, 0, 0});
     return mayRead && mayThread && fallsBack && mayComplain && mayAsk;
 }
 
