@@ -74,9 +74,7 @@ QString commandFor(const JobToRepeat& job)
         words << QStringLiteral("--reverse-order");
     if (!job.orientation.isEmpty())
         words << QStringLiteral("--orientation") << job.orientation;
-    for (const QString& position : job.positions)
-        words << QStringLiteral("--position") << position;
-    words << job.colours;
+    words << job.photos << job.sheets << job.colours;
     if (!job.title.isEmpty())
         words << QStringLiteral("--job-title=") + job.title;
     for (const OptionValue& option : job.options) {

@@ -11,13 +11,14 @@ namespace halvern {
 struct JobToRepeat {
     QString printer;
     QStringList files;
-    OptionValues options;  ///< those that nobody would send without having chosen them
-    QStringList page;      ///< what the dialog itself decides, as KEY=VALUE
-    QString orientation;   ///< "portrait" or "landscape"; empty: as the photo
-    QStringList positions; ///< "0.5,0.5", a photo each; empty: all in the middle
-    QStringList colours;   ///< who converts them, as words of the command line
-    QString ranges;        ///< "1-3, 7"; empty: all pages
-    QString title;         ///< empty: as without one
+    OptionValues options; ///< those that nobody would send without having chosen them
+    QStringList page;     ///< what the dialog itself decides, as KEY=VALUE
+    QString orientation;  ///< "portrait" or "landscape"; empty: as the photo
+    QStringList photos;   ///< what is wanted of each, as words of the command line
+    QStringList sheets;   ///< how they are put on sheets, too
+    QStringList colours;  ///< who converts them, as words of the command line
+    QString ranges;       ///< "1-3, 7"; empty: all pages
+    QString title;        ///< empty: as without one
     int copies = 1;
     bool isReversed = false;
     bool printsDamaged = false;

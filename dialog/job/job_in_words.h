@@ -21,6 +21,7 @@ struct JobToTell {
     std::vector<size_t> chosen = {};         ///< those that are printed, from 0
     bool isReversed = false;                 ///< the last one first
     bool isOnPaper = true;                   ///< whether the page can be on the paper
+    QString layout = {};                     ///< how photos are put on sheets; empty: one on each
 };
 
 /// A job in words: "10 × 15 cm", "Gloss roll 152 mm", "300 dpi", "2 copies", "text on the back".

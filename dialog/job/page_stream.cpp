@@ -90,11 +90,11 @@ private:
     QByteArray piece_;
 };
 
-PageStream::PageStream(std::vector<PageToPrint> pages, PdfQuality quality, PdfControl control)
+PageStream::PageStream(std::vector<SheetToPrint> sheets, PdfQuality quality, PdfControl control)
     : state_(std::make_shared<State>())
 {
     const bool isStarted = WorkQueue().async(
-        [state = state_, pages = std::move(pages), quality, control = std::move(control)]() mutable {
+        [state = state_, sheets = std::move(sheets), quality, control = std::move(control)]() mutable {
             bool wasStopped = false;
             const auto keepGoing = [&](double share) {
                 wasStopped = wasStopped || !control.keepGoing(share);
@@ -103,7 +103,7 @@ PageStream::PageStream(std::vector<PageToPrint> pages, PdfQuality quality, PdfCo
             Inlet inlet(*state);
             // What is written during a pause is a sign of life, which waits for nothing.
             const auto isPaused = [&] { return control.isPaused && control.isPaused() && inlet.flush(); };
-            const QString problem = writePdf(inlet, pages, quality, {keepGoing, isPaused});
+            const QString problem = writePdf(inlet, sheets, quality, {keepGoing, isPaused});
             state->end(problem.isEmpty() && !wasStopped && inlet.flush(), problem);
         });
     if (!isStarted)

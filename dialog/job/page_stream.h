@@ -15,7 +15,7 @@ namespace halvern {
 class PageStream {
 public:
     /// Starts to write. The calls of `control` come from the worker.
-    PageStream(std::vector<PageToPrint> pages, PdfQuality quality, PdfControl control);
+    PageStream(std::vector<SheetToPrint> sheets, PdfQuality quality, PdfControl control);
     ~PageStream();
     PageStream(const PageStream&) = delete;
     PageStream& operator=(const PageStream&) = delete;

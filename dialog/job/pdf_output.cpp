@@ -16,7 +16,7 @@ QString fileProblem(const QString& path, const QString& reason)
     return PdfOutput::tr("The file \"%1\" could not be written: %2.").arg(path, reason);
 }
 
-PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages, const PdfQuality& quality,
+PdfOutcome writeFile(const QString& path, const std::vector<SheetToPrint>& sheets, const PdfQuality& quality,
                      const cups::CancelFlag& cancelled, const std::function<void(double)>& report)
 {
     // A device would be replaced by a file.
@@ -29,7 +29,7 @@ PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages,
         report(share);
         return !cancelled->load();
     };
-    const QString problem = writePdf(file, pages, quality, {keepGoing});
+    const QString problem = writePdf(file, sheets, quality, {keepGoing});
     if (cancelled->load())
         return {false, true, PdfOutput::tr("Cancelled: no file was written.")};
     if (!file.flush() || file.error() != QFileDevice::NoError)
@@ -38,7 +38,7 @@ PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages,
         return {false, false, PdfOutput::tr("No file was written. %1").arg(problem)};
     if (!file.commit())
         return {false, false, fileProblem(path, file.errorString())};
-    const size_t count = pages.size();
+    const size_t count = sheets.size();
     return {true, false,
             count == 1 ? PdfOutput::tr("1 page was written to \"%1\".").arg(path)
                        : PdfOutput::tr("%1 pages were written to \"%2\".").arg(QString::number(count), path)};
@@ -46,10 +46,10 @@ PdfOutcome writeFile(const QString& path, const std::vector<PageToPrint>& pages,
 
 } // namespace
 
-PdfOutput::PdfOutput(QString path, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent)
+PdfOutput::PdfOutput(QString path, std::vector<SheetToPrint> sheets, PdfQuality quality, QObject* parent)
     : QObject(parent),
       path_(std::move(path)),
-      pages_(std::move(pages)),
+      sheets_(std::move(sheets)),
       quality_(std::move(quality)),
       cancelled_(cups::makeCancelFlag())
 {
@@ -69,16 +69,16 @@ void PdfOutput::start()
                 Q_EMIT self->progressed(share);
         });
     };
-    WorkQueue().async(
-        [self, report, path = path_, pages = std::move(pages_), quality = quality_, cancelled = cancelled_] {
-            const PdfOutcome outcome = writeFile(path, pages, quality, cancelled, report);
-            mainQueue().async([self, outcome] {
-                if (!self)
-                    return;
-                self->isOver_ = true;
-                Q_EMIT self->finished(outcome);
-            });
+    WorkQueue().async([self, report, path = path_, sheets = std::move(sheets_), quality = quality_,
+                       cancelled = cancelled_] {
+        const PdfOutcome outcome = writeFile(path, sheets, quality, cancelled, report);
+        mainQueue().async([self, outcome] {
+            if (!self)
+                return;
+            self->isOver_ = true;
+            Q_EMIT self->finished(outcome);
         });
+    });
 }
 
 } // namespace halvern

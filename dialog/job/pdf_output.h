@@ -22,7 +22,7 @@ class PdfOutput : public QObject {
     Q_OBJECT
 
 public:
-    PdfOutput(QString path, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent);
+    PdfOutput(QString path, std::vector<SheetToPrint> sheets, PdfQuality quality, QObject* parent);
     ~PdfOutput() override;
 
     void start();
@@ -40,7 +40,7 @@ Q_SIGNALS:
 
 private:
     QString path_;
-    std::vector<PageToPrint> pages_;
+    std::vector<SheetToPrint> sheets_;
     PdfQuality quality_;
     cups::CancelFlag cancelled_;
     bool isOver_ = false;

@@ -16,7 +16,7 @@ namespace {
 // What the worker that sends is told and asked.
 struct Sending {
     JobRequest job;
-    std::vector<PageToPrint> pages;
+    std::vector<SheetToPrint> sheets;
     size_t photosPerJob = 0; // 0: all in one
     PdfQuality quality;
     QString document; // in place of pages
@@ -32,13 +32,13 @@ QString numbered(const QString& title, size_t job, size_t jobs)
 
 SubmitResult sendPages(const Sending& sending, const JobRequest& job, size_t first, size_t count)
 {
-    const double share = double(count) / double(sending.pages.size());
-    const double before = double(first) / double(sending.pages.size());
+    const double share = double(count) / double(sending.sheets.size());
+    const double before = double(first) / double(sending.sheets.size());
     const auto keepGoing = [=, report = sending.report, cancelled = sending.cancelled](double done) {
         report(before + done * share);
         return !cancelled->load();
     };
-    const auto from = sending.pages.begin() + std::ptrdiff_t(first);
+    const auto from = sending.sheets.begin() + std::ptrdiff_t(first);
     PageStream stream({from, from + std::ptrdiff_t(count)}, sending.quality,
                       {keepGoing, [paused = sending.paused] { return paused->load(); }});
     SubmitResult result = submitJob(
@@ -76,40 +76,66 @@ SentJobs sendFile(const Sending& sending)
     return sent;
 }
 
+// The sheets of one job.
+struct Share {
+    size_t first;
+    size_t sheets;
+    size_t photos;
+};
+
+// A sheet is not divided, so that a job may have more photos where one sheet has.
+std::vector<Share> sharesOf(const std::vector<SheetToPrint>& sheets, size_t photosPerJob)
+{
+    std::vector<Share> shares;
+    for (size_t i = 0; i < sheets.size(); ++i) {
+        const size_t photos = sheets[i].photos.size();
+        if (shares.empty() || (photosPerJob > 0 && shares.back().photos + photos > photosPerJob))
+            shares.push_back({i, 0, 0});
+        ++shares.back().sheets;
+        shares.back().photos += photos;
+    }
+    return shares;
+}
+
+int photosOn(const std::vector<SheetToPrint>& sheets)
+{
+    size_t count = 0;
+    for (const SheetToPrint& sheet : sheets)
+        count += sheet.photos.size();
+    return int(count);
+}
+
 SentJobs send(const Sending& sending)
 {
     if (!sending.document.isEmpty())
         return sendFile(sending);
     SentJobs sent;
-    const size_t all = sending.pages.size();
-    const size_t each = sending.photosPerJob > 0 ? std::min(sending.photosPerJob, all) : all;
-    const size_t jobs = (all + each - 1) / each;
-    for (size_t i = 0; i < jobs; ++i) {
+    const std::vector<Share> shares = sharesOf(sending.sheets, sending.photosPerJob);
+    for (size_t i = 0; i < shares.size(); ++i) {
         JobRequest job = sending.job;
-        job.title = numbered(job.title, i, jobs);
-        const size_t count = std::min(each, all - i * each);
-        const SubmitResult result = sendPages(sending, job, i * each, count);
+        job.title = numbered(job.title, i, shares.size());
+        const SubmitResult result = sendPages(sending, job, shares[i].first, shares[i].sheets);
         sent.problem = result.problem;
         sent.wasCancelled = result.wasCancelled;
         if (result.jobId == 0)
             break;
         sent.ids.append(result.jobId);
-        sent.photos += int(count);
+        sent.photos += int(shares[i].photos);
     }
-    sent.isAll = size_t(sent.photos) == all;
+    sent.isAll = size_t(sent.ids.size()) == shares.size();
     return sent;
 }
 
 } // namespace
 
-PrintRun::PrintRun(JobRequest job, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent)
+PrintRun::PrintRun(JobRequest job, std::vector<SheetToPrint> sheets, PdfQuality quality, QObject* parent)
     : QObject(parent),
       job_(std::move(job)),
-      pages_(std::move(pages)),
+      sheets_(std::move(sheets)),
       quality_(std::move(quality)),
       cancelled_(cups::makeCancelFlag()),
       paused_(cups::makeCancelFlag()),
-      progress_(int(pages_.size()))
+      progress_(photosOn(sheets_))
 {
 }
 
@@ -138,7 +164,8 @@ void PrintRun::start()
                 self->takeProgress(share);
         });
     };
-    Sending sending{job_, std::move(pages_), photosPerJob_, quality_, document_, cancelled_, paused_, report};
+    Sending sending{job_,      std::move(sheets_), photosPerJob_, quality_,
+                    document_, cancelled_,         paused_,       report};
     WorkQueue().async([self, sending = std::move(sending)] {
         const SentJobs sent = send(sending);
         mainQueue().async([self, sent] {

@@ -34,7 +34,7 @@ class PrintRun : public QObject {
     Q_OBJECT
 
 public:
-    PrintRun(JobRequest job, std::vector<PageToPrint> pages, PdfQuality quality, QObject* parent);
+    PrintRun(JobRequest job, std::vector<SheetToPrint> sheets, PdfQuality quality, QObject* parent);
     /// Sends a file as it is.
     PrintRun(JobRequest job, const QString& document, QObject* parent);
     ~PrintRun() override;
@@ -94,7 +94,7 @@ private:
     void finish(PrintOutcome outcome);
 
     JobRequest job_;
-    std::vector<PageToPrint> pages_;
+    std::vector<SheetToPrint> sheets_;
     PdfQuality quality_;
     QString document_; // empty: the pages are made
     size_t photosPerJob_ = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/page_layout.h"
 
+#include "platform/foundation/units.h"
+
 #include <algorithm>
 
 namespace halvern {
@@ -25,16 +27,12 @@ bool turns(const LayoutRequest& request)
     case PageTurn::automatic:
         break;
     }
-    const bool wideSheet = request.paper.width() > request.paper.height();
-    const bool widePhoto = request.photo.width() > request.photo.height();
-    const bool square = qFuzzyCompare(request.photo.width(), request.photo.height()) ||
-                        qFuzzyCompare(request.paper.width(), request.paper.height());
-    return !square && wideSheet != widePhoto;
+    return areAcross(request.paper, turnedSize(request.photo, request.placement.quarterTurns));
 }
 
-QSizeF scaled(const QSizeF& photo, const QSizeF& room, Scaling scaling)
+QSizeF scaled(const QSizeF& photo, const QSizeF& room, const FramedPhoto& how)
 {
-    switch (scaling) {
+    switch (how.scaling) {
     case Scaling::fit:
         return photo.scaled(room, Qt::KeepAspectRatio);
     case Scaling::fill:
@@ -42,10 +40,22 @@ QSizeF scaled(const QSizeF& photo, const QSizeF& room, Scaling scaling)
     case Scaling::actualSize:
         break;
     }
-    return photo;
+    return photo * how.share;
 }
 
 } // namespace
+
+bool areAcross(const QSizeF& one, const QSizeF& other)
+{
+    const bool isSquare =
+        qFuzzyCompare(one.width(), one.height()) || qFuzzyCompare(other.width(), other.height());
+    return !isSquare && (one.width() > one.height()) != (other.width() > other.height());
+}
+
+QSizeF turnedSize(const QSizeF& size, int quarterTurns)
+{
+    return quarterTurns % 2 != 0 ? size.transposed() : size;
+}
 
 QTransform PageLayout::pageToSheet() const
 {
@@ -54,21 +64,55 @@ QTransform PageLayout::pageToSheet() const
     return {0.0, -1.0, 1.0, 0.0, 0.0, page.width()};
 }
 
+PageLayout emptyPage(const QSizeF& paper, const QRectF& imageable, bool turned)
+{
+    PageLayout layout;
+    layout.turned = turned;
+    layout.page = turned ? sane(paper).transposed() : sane(paper);
+    layout.imageable = layout.pageToSheet().inverted().mapRect(imageable);
+    layout.frame = layout.imageable;
+    return layout;
+}
+
+QPointF positionOnPage(const QPointF& position, int turns)
+{
+    return turns == 0 ? position : QPointF(1.0 - position.y(), position.x());
+}
+
+QPointF positionOfPhoto(const QPointF& onPage, int turns)
+{
+    return turns == 0 ? onPage : QPointF(onPage.y(), 1.0 - onPage.x());
+}
+
+void layInFrame(PageLayout& layout, const FramedPhoto& photo)
+{
+    const PhotoPlacement how = held(photo.placement);
+    layout.layoutsTurns = photo.layoutsTurns;
+    layout.quarterTurns = (how.quarterTurns + photo.layoutsTurns) % 4;
+    const QSizeF turned = turnedSize(sane(photo.size), layout.quarterTurns);
+    const QSizeF size = scaled(turned, layout.frame.size(), photo) * how.zoom;
+    const QSizeF room = layout.frame.size() - size;
+    const QPointF position = positionOnPage(how.position, layout.layoutsTurns);
+    const QPointF corner(layout.frame.left() + room.width() * position.x(),
+                         layout.frame.top() + room.height() * position.y());
+    layout.photo = QRectF(corner, size);
+    const double tolerance = kCutTolerance;
+    const QRectF held = layout.photo.intersected(layout.frame);
+    layout.isCut = room.width() < -tolerance || room.height() < -tolerance ||
+                   !layout.imageable.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(held);
+}
+
 PageLayout layOut(const LayoutRequest& request)
 {
-    const QSizeF paper = sane(request.paper);
-    const QSizeF photo = sane(request.photo);
-    PageLayout layout;
-    layout.turned = turns(request);
-    layout.page = layout.turned ? paper.transposed() : paper;
-    layout.imageable = layout.pageToSheet().inverted().mapRect(request.imageable);
-    const QSizeF size = scaled(photo, layout.imageable.size(), request.scaling);
-    const QSizeF room = layout.imageable.size() - size;
-    const QPointF corner(layout.imageable.left() + room.width() * std::clamp(request.position.x(), 0.0, 1.0),
-                         layout.imageable.top() + room.height() * std::clamp(request.position.y(), 0.0, 1.0));
-    layout.photo = QRectF(corner, size);
-    layout.isCut = room.width() < -kCutTolerance || room.height() < -kCutTolerance;
+    PageLayout layout = emptyPage(request.paper, request.imageable, turns(request));
+    layInFrame(layout, {request.photo, request.scaling, 1.0, 0, request.placement});
     return layout;
+}
+
+double pixelsPerInch(const PageLayout& layout, const QSize& pixels)
+{
+    const double wide = layout.quarterTurns % 2 != 0 ? pixels.height() : pixels.width();
+    return wide / std::max(layout.photo.width(), kLeastLength) * kPointsPerInch;
 }
 
 } // namespace halvern

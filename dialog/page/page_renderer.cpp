@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/page_renderer.h"
 
+#include "dialog/page/caption.h"
 #include "dialog/page/colour_transform.h"
 #include "dialog/page/jpeg_data.h"
 #include "dialog/page/packed_rows.h"
 #include "dialog/page/pdf_file.h"
+#include "dialog/page/photo_facts.h"
 #include "dialog/page/photo_problem.h"
 #include "dialog/page/scaled_rows.h"
 #include "platform/foundation/units.h"
@@ -15,6 +17,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <map>
 #include <vector>
 
 namespace halvern {
@@ -22,6 +25,7 @@ namespace halvern {
 namespace {
 
 constexpr int kMostTimesPrinterResolution = 2;
+constexpr double kThinLine = 0.25; // points
 constexpr qint64 kPiece = 64 * 1024;
 constexpr qsizetype kStripPixels = 1024 * 1024;
 constexpr int kPauseStep = 100;        // milliseconds
@@ -61,19 +65,6 @@ std::unique_ptr<PictureRows> withoutSparePixels(std::unique_ptr<PictureRows> row
     if (picture.size.width() <= limit.width() || picture.size.height() <= limit.height())
         return rows;
     return std::make_unique<ScaledRows>(std::move(rows), limit);
-}
-
-struct PlacedPage {
-    QSizeF paper;
-    QRectF clip;
-    QTransform placement;
-};
-
-PlacedPage placed(const PageLayout& layout)
-{
-    const QTransform toSheet = layout.pageToSheet();
-    return {toSheet.mapRect(QRectF(QPointF(), layout.page)).size(), toSheet.mapRect(layout.imageable),
-            photoToSheet(layout)};
 }
 
 // A few rows at a time: read, converted on all cores, packed.
@@ -117,42 +108,57 @@ QString addJpeg(PdfFile& pdf, const QString& path, const JpegInfo& jpeg)
     return {};
 }
 
+/// A picture in the file, and how it is stored.
+struct AddedPicture {
+    int object = 0;
+    Orientation stored;
+    QString problem;
+};
+
+/// What a photo is wanted for on its sheet: the largest of its places decides.
+struct Use {
+    const Photo& photo;
+    QSizeF onPaper; ///< points, upright
+    bool isAlone = true;
+};
+
 // The JPEG file whose data may go in as they are.
-std::optional<JpegInfo> untouched(const Photo& photo, const ColourPlan& plan)
+std::optional<JpegInfo> untouched(const Use& use, const ColourPlan& plan, const QSize& most)
 {
-    std::optional<JpegInfo> jpeg = untouchableJpeg(photo);
+    std::optional<JpegInfo> jpeg = untouchableJpeg(use.photo);
     if (jpeg && !ColourTransform(jpeg->asStored(), plan).changesNothing())
+        jpeg.reset();
+    const QSize upright = jpeg ? jpeg->orientation.upright(jpeg->size) : QSize();
+    // Of a hundred on a sheet none is sent as it came from the camera.
+    if (!use.isAlone && upright.width() > most.width() && upright.height() > most.height())
         jpeg.reset();
     return jpeg;
 }
 
-QString addPage(PdfFile& pdf, const PageToPrint& page, const PdfQuality& quality)
+AddedPicture addPicture(PdfFile& pdf, const Use& use, const PdfQuality& quality)
 {
-    const PageLayout& layout = page.layout;
-    PlacedPage place = placed(layout);
-    QString problem = fileProblem(page.photo.path);
-    if (!problem.isEmpty())
-        return problem;
-    Orientation stored;
-    if (const std::optional<JpegInfo> jpeg = untouched(page.photo, quality.colours)) {
-        problem = addJpeg(pdf, page.photo.path, *jpeg);
-        stored = jpeg->orientation;
+    AddedPicture added;
+    added.problem = fileProblem(use.photo.path);
+    if (!added.problem.isEmpty())
+        return added;
+    const QSize most = mostPixels(use.onPaper, quality.resolution);
+    if (const std::optional<JpegInfo> jpeg = untouched(use, quality.colours, most)) {
+        added.problem = addJpeg(pdf, use.photo.path, *jpeg);
+        added.stored = jpeg->orientation;
     } else {
-        const QSize most = mostPixels(layout.photo.size(), quality.resolution);
         // A PDF page that is enlarged needs more dots than its own size says.
-        const double enlarged = layout.photo.width() / std::max(page.photo.ownSize.width(), 1.0);
+        const double enlarged = use.onPaper.width() / std::max(use.photo.ownSize.width(), 1.0);
         const int dots = std::clamp(int(quality.resolution * enlarged), 72, 1200);
         std::unique_ptr<PictureRows> rows =
-            openPixels(page.photo, dots, std::max(most.width(), most.height()), &problem);
-        if (rows) {
-            rows = withoutSparePixels(std::move(rows), most);
-            stored = rows->picture().orientation;
-            problem = addRows(pdf, *rows, quality.colours);
-        }
+            openPixels(use.photo, dots, std::max(most.width(), most.height()), &added.problem);
+        if (!rows)
+            return added;
+        rows = withoutSparePixels(std::move(rows), most);
+        added.stored = rows->picture().orientation;
+        added.problem = addRows(pdf, *rows, quality.colours);
     }
-    if (problem.isEmpty())
-        pdf.endPage(place.paper, place.clip, uprightFromStored(stored) * place.placement);
-    return problem;
+    added.object = pdf.endPicture();
+    return added;
 }
 
 // False if the whole is to be stopped.
@@ -170,20 +176,133 @@ bool waitWhilePaused(PdfFile& pdf, const PdfControl& control, double done)
     return control.keepGoing(done);
 }
 
+// Where a photo is for the first time on its sheet; the others use its picture.
+std::vector<size_t> firstPlaces(const std::vector<Photo>& photos)
+{
+    std::map<std::pair<QString, int>, size_t> first;
+    std::vector<size_t> places;
+    for (size_t i = 0; i < photos.size(); ++i)
+        places.push_back(first.try_emplace({photos[i].path, photos[i].page}, i).first->second);
+    return places;
+}
+
+QSizeF uprightOnPaper(const PageLayout& layout)
+{
+    return turnedSize(layout.photo.size(), layout.quarterTurns);
+}
+
+/// Writes the sheets, one after the other.
+class SheetWriter {
+public:
+    SheetWriter(QIODevice& device, const PdfQuality& quality, const PdfControl& control)
+        : pdf_(device), quality_(quality), control_(control)
+    {
+    }
+
+    QString write(const std::vector<SheetToPrint>& sheets)
+    {
+        for (const SheetToPrint& sheet : sheets)
+            photos_ += sheet.photos.size();
+        for (const SheetToPrint& sheet : sheets) {
+            const QString problem = add(sheet);
+            if (!problem.isEmpty() || isStopped_)
+                return problem;
+        }
+        return pdf_.finish() ? QString() : writeProblem();
+    }
+
+private:
+    QString add(const SheetToPrint& printed)
+    {
+        const QTransform toSheet = printed.sheet.page.pageToSheet();
+        const QSizeF paper = toSheet.mapRect(QRectF(QPointF(), printed.sheet.page.page)).size();
+        const std::vector<size_t> first = firstPlaces(printed.photos);
+        std::vector<AddedPicture> added(printed.photos.size());
+        std::vector<int> objects;
+        PdfContent content(paper);
+        for (size_t i = 0; i < printed.photos.size(); ++i) {
+            if (!waitWhilePaused(pdf_, control_, double(done_++) / double(photos_))) {
+                isStopped_ = true;
+                return {};
+            }
+            const PageLayout& layout = printed.sheet.photos[i].layout;
+            if (first[i] == i) {
+                added[i] = addPicture(pdf_, useOf(printed, first, i), quality_);
+                if (!added[i].problem.isEmpty())
+                    return added[i].problem;
+                objects.push_back(added[i].object);
+            }
+            const auto number = std::ranges::find(objects, added[first[i]].object) - objects.begin();
+            content.addPicture(int(number), toSheet.mapRect(layout.frame.intersected(layout.imageable)),
+                               uprightFromStored(added[first[i]].stored) * photoToSheet(layout));
+        }
+        addMarks(content, printed, toSheet);
+        pdf_.addPage(paper, content, objects);
+        return {};
+    }
+
+    static Use useOf(const SheetToPrint& printed, const std::vector<size_t>& first, size_t place)
+    {
+        Use use{printed.photos[place], {}, printed.photos.size() == 1};
+        for (size_t i = 0; i < first.size(); ++i) {
+            if (first[i] == place)
+                use.onPaper = use.onPaper.expandedTo(uprightOnPaper(printed.sheet.photos[i].layout));
+        }
+        return use;
+    }
+
+    static void addMarks(PdfContent& content, const SheetToPrint& printed, const QTransform& toSheet)
+    {
+        for (const QLineF& mark : printed.sheet.cutMarks)
+            content.addLine(toSheet.map(mark), kThinLine);
+        std::map<std::pair<QString, int>, PhotoDetails> known;
+        for (size_t i = 0; i < printed.photos.size(); ++i) {
+            const PlacedPhoto& placed = printed.sheet.photos[i];
+            const Photo& photo = printed.photos[i];
+            if (printed.sheet.hasLine)
+                content.addFrame(toSheet.mapRect(placed.outline), kThinLine);
+            if (placed.caption.isEmpty())
+                continue;
+            const auto [details, isNew] = known.try_emplace({photo.path, photo.page});
+            if (isNew && needsDetails(printed.caption))
+                details->second = readPhotoFacts(photo).details;
+            const QString text = captionFor(printed.caption, photo.path, placed.number, details->second);
+            content.addShapes(toSheet.map(captionShapes(text, placed.caption, placed.layout.layoutsTurns)));
+        }
+    }
+
+    PdfFile pdf_;
+    const PdfQuality& quality_;
+    const PdfControl& control_;
+    size_t photos_ = 0;
+    size_t done_ = 0;
+    bool isStopped_ = false;
+};
+
 } // namespace
+
+SheetToPrint::SheetToPrint(const Photo& photo, const PageLayout& layout)
+{
+    sheet.page = layout;
+    PlacedPhoto placed;
+    placed.layout = layout;
+    placed.cell = layout.frame;
+    placed.outline = layout.visible();
+    sheet.photos.push_back(placed);
+    photos.push_back(photo);
+}
 
 QTransform photoToSheet(const PageLayout& layout)
 {
     const QTransform toPage(layout.photo.width(), 0.0, 0.0, layout.photo.height(), layout.photo.left(),
                             layout.photo.top());
-    return toPage * layout.pageToSheet();
+    return uprightFromStored({layout.quarterTurns, false}) * toPage * layout.pageToSheet();
 }
 
-void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo)
+void paintPhoto(QPainter& painter, const PageLayout& layout, const QImage& photo)
 {
     painter.save();
-    painter.fillRect(QRectF(QPointF(), layout.page), Qt::white);
-    painter.setClipRect(layout.imageable, Qt::IntersectClip);
+    painter.setClipRect(layout.frame.intersected(layout.imageable), Qt::IntersectClip);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     // The job's road: the photo to the sheet, and the sheet turned as the user looks at it.
     const QTransform unit(1.0 / std::max(photo.width(), 1), 0.0, 0.0, 1.0 / std::max(photo.height(), 1), 0.0,
@@ -193,20 +312,35 @@ void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo)
     painter.restore();
 }
 
-QString writePdf(QIODevice& device, const std::vector<PageToPrint>& pages, const PdfQuality& quality,
+void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo)
+{
+    painter.fillRect(QRectF(QPointF(), layout.page), Qt::white);
+    paintPhoto(painter, layout, photo);
+}
+
+void paintMarks(QPainter& painter, const Sheet& sheet, const QStringList& captions)
+{
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::black, kThinLine));
+    for (const QLineF& mark : sheet.cutMarks)
+        painter.drawLine(mark);
+    for (size_t i = 0; i < sheet.photos.size(); ++i) {
+        const PlacedPhoto& placed = sheet.photos[i];
+        if (sheet.hasLine)
+            painter.drawRect(placed.outline);
+        if (!placed.caption.isEmpty())
+            painter.fillPath(
+                captionShapes(captions.value(qsizetype(i)), placed.caption, placed.layout.layoutsTurns),
+                Qt::black);
+    }
+    painter.restore();
+}
+
+QString writePdf(QIODevice& device, const std::vector<SheetToPrint>& sheets, const PdfQuality& quality,
                  const PdfControl& control)
 {
-    PdfFile pdf(device);
-    double done = 0.0;
-    for (const PageToPrint& page : pages) {
-        if (!waitWhilePaused(pdf, control, done / double(pages.size())))
-            return {};
-        const QString problem = addPage(pdf, page, quality);
-        if (!problem.isEmpty())
-            return problem;
-        done += 1.0;
-    }
-    return pdf.finish() ? QString() : writeProblem();
+    return SheetWriter(device, quality, control).write(sheets);
 }
 
 } // namespace halvern

@@ -8,17 +8,6 @@ namespace {
 constexpr int kCatalog = 1;
 constexpr int kPageTree = 2;
 
-QByteArray number(double value)
-{
-    return QByteArray::number(value, 'f', 3);
-}
-
-QByteArray matrix(const QTransform& t)
-{
-    return number(t.m11()) + ' ' + number(t.m12()) + ' ' + number(t.m21()) + ' ' + number(t.m22()) + ' ' +
-           number(t.dx()) + ' ' + number(t.dy());
-}
-
 QByteArray reference(int object)
 {
     return QByteArray::number(object) + " 0 R";
@@ -74,23 +63,26 @@ bool PdfFile::addToPicture(const char* bytes, qsizetype count)
     return ok_;
 }
 
-void PdfFile::endPage(const QSizeF& paper, const QRectF& clip, const QTransform& placement)
+int PdfFile::endPicture()
 {
     const qint64 length = written_ - pictureStart_;
     write("\nendstream\nendobj\n");
     beginObject();
     write(QByteArray::number(length) + "\nendobj\n");
-    // PDF's picture square has its origin at the bottom left, and so has its page.
-    const QTransform flip(1.0, 0.0, 0.0, -1.0, 0.0, 1.0);
-    const QTransform pageFlip(1.0, 0.0, 0.0, -1.0, 0.0, paper.height());
-    const QRectF cut = pageFlip.mapRect(clip);
-    const int content = beginObject();
-    addContent("q " + number(cut.left()) + ' ' + number(cut.top()) + ' ' + number(cut.width()) + ' ' +
-               number(cut.height()) + " re W n " + matrix(flip * placement * pageFlip) + " cm /I Do Q");
+    return picture_;
+}
+
+void PdfFile::addPage(const QSizeF& paper, const PdfContent& content, const std::vector<int>& pictures)
+{
+    const int object = beginObject();
+    addContent(content.bytes());
+    QByteArray names;
+    for (size_t i = 0; i < pictures.size(); ++i)
+        names += "/I" + QByteArray::number(qint64(i)) + ' ' + reference(pictures[i]) + ' ';
     pages_.push_back(beginObject());
-    write("<< /Type /Page /Parent " + reference(kPageTree) + " /MediaBox [0 0 " + number(paper.width()) +
-          ' ' + number(paper.height()) + "] /Resources << /XObject << /I " + reference(picture_) +
-          " >> >> /Contents " + reference(content) + " >>\nendobj\n");
+    write("<< /Type /Page /Parent " + reference(kPageTree) + " /MediaBox [0 0 " + pdfNumber(paper.width()) +
+          ' ' + pdfNumber(paper.height()) + "] /Resources << /XObject << " + names + ">> >> /Contents " +
+          reference(object) + " >>\nendobj\n");
 }
 
 void PdfFile::sayStillHere()

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/page/pdf_content.h"
+
 #include <QByteArray>
 #include <QIODevice>
-#include <QRectF>
-#include <QTransform>
+#include <QSize>
 
 #include <vector>
 
@@ -17,25 +18,27 @@ struct PdfImage {
     QByteArray filter;  ///< "DCTDecode" or "FlateDecode"
 };
 
-/// Writes a PDF file with one picture on each page. What is written is out of memory at once, so that neither
-/// the number of pages nor the size of a picture counts. Lengths are points to a thousandth; y grows
-/// downwards. Any thread, one at a time.
+/// Writes a PDF file, the pictures of a page before the page. What is written is out of memory at once, so
+/// that neither the number of pages nor the size of a picture counts. Lengths are points to a thousandth; y
+/// grows downwards. Any thread, one at a time.
 class PdfFile {
 public:
     explicit PdfFile(QIODevice& device);
 
-    /// Begins a page: its picture comes first.
+    /// Begins a picture.
     void beginPicture(const PdfImage& image);
 
     /// The next of the picture's data, packed as its filter says. False if they could not be written.
     bool addToPicture(const char* bytes, qsizetype count);
 
-    /// Ends the picture and adds the page, of exactly `paper`. `placement` takes the picture's unit square,
-    /// top left origin, to the page; what lies outside `clip` is cut away.
-    void endPage(const QSizeF& paper, const QRectF& clip, const QTransform& placement);
+    /// Ends the picture, and answers how addPage() names it.
+    int endPicture();
 
-    /// Writes something that means nothing, for whoever would take a long silence for the end. Between pages
-    /// only.
+    /// Adds a page of exactly `paper`; the content's picture 0 is the first of `pictures`.
+    void addPage(const QSizeF& paper, const PdfContent& content, const std::vector<int>& pictures);
+
+    /// Writes something that means nothing, for whoever would take a long silence for the end. Not within
+    /// a picture.
     void sayStillHere();
 
     /// Writes the end of the file. False if any write failed.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/page/photo_placement.h"
 #include "dialog/photo/picture_rows.h"
 
 #include <QImage>
-#include <QPointF>
 #include <QSizeF>
 
 #include <memory>
@@ -23,9 +23,8 @@ struct Photo {
     QImage preview; ///< upright, sRGB, at most kPreviewEdge pixels on its longer edge
     /// A part of the file is missing or wrong; what is not there is gray, or smeared.
     bool isDamaged = false;
-    int pageNumber = 0; ///< what a reader counts, from 1; 0: the file has one page only
-    QPointF position{
-        0.5, 0.5}; ///< where the user wants the spare room or the cut: 0 left or top, 1 right or bottom
+    int pageNumber = 0;       ///< what a reader counts, from 1; 0: the file has one page only
+    PhotoPlacement placement; ///< what the user wants of it
 };
 
 inline constexpr int kPreviewEdge = 1600;

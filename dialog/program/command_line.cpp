@@ -6,6 +6,7 @@
 #include "dialog/page/photo_problem.h"
 #include "dialog/photo/decoder_process.h"
 #include "dialog/program/given_files.h"
+#include "dialog/program/photo_switches.h"
 #include "dialog/session/colour_management.h"
 #include "platform/foundation/display_text.h"
 
@@ -40,11 +41,7 @@ public:
     QCommandLineOption orientation{QStringLiteral("orientation"),
                                    tr("Turn the page: portrait or landscape; without it, as the photo."),
                                    QStringLiteral("WORD")};
-    QCommandLineOption position{
-        QStringLiteral("position"),
-        tr("Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given "
-           "several times, for one photo after the other."),
-        QStringLiteral("X,Y")};
+    PhotoSwitches photos;
     QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("job-title")},
                              tr("Call the job this; without it, it is called like the first file."),
                              QStringLiteral("TEXT")};
@@ -201,11 +198,6 @@ public:
     static QString badOrientation(const QString& text)
     {
         return tr("\"%1\" is no orientation: write portrait or landscape.").arg(text);
-    }
-
-    static QString badPosition(const QString& text)
-    {
-        return tr("\"%1\" is no place: write two numbers from 0 to 1, for example 0.5,0.5.").arg(text);
     }
 
     static QString badParent(const QString& text)
@@ -450,17 +442,7 @@ QString readLayout(const QCommandLineParser& parser, const Switches& switches, C
         line.request.turn = PageTurn::landscape;
     else if (parser.isSet(switches.orientation))
         return Switches::badOrientation(word);
-    const auto isShare = [](double number) { return number >= 0.0 && number <= 1.0; };
-    for (const QString& text : parser.values(switches.position)) {
-        bool hasX = false;
-        bool hasY = false;
-        const QPointF place(text.section(QLatin1Char(','), 0, 0).toDouble(&hasX),
-                            text.section(QLatin1Char(','), 1).toDouble(&hasY));
-        if (!hasX || !hasY || !isShare(place.x()) || !isShare(place.y()))
-            return Switches::badPosition(text);
-        line.request.positions.append(place);
-    }
-    return {};
+    return switches.photos.read(parser, line.request);
 }
 
 QString readColours(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
@@ -554,16 +536,17 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions(
-        {switches.printer,      switches.option,       switches.copies,       switches.pages,
-         switches.orientation,  switches.position,     switches.reverse,      switches.title,
-         switches.backprint,    switches.preset,       switches.printDamaged, switches.skipBroken,
-         switches.noDialog,     switches.wait,         switches.dryRun,       switches.output,
-         switches.verify,       switches.listPrinters, switches.listPapers,   switches.refresh,
-         switches.listOptions,  switches.listPresets,  switches.savePreset,   switches.json,
-         switches.photosPerJob, switches.parent,       switches.resultJson,   switches.colourBy,
-         switches.profile,      switches.intent,       switches.noBlackPoint, switches.jobs,
-         switches.ended,        switches.cancelJob,    switches.holdJob,      switches.releaseJob,
-         switches.repeatJob,    switches.moveJob,      switches.moveTo});
+        {switches.printer,      switches.option,       switches.copies,     switches.pages,
+         switches.orientation,  switches.reverse,      switches.title,      switches.backprint,
+         switches.preset,       switches.printDamaged, switches.skipBroken, switches.noDialog,
+         switches.wait,         switches.dryRun,       switches.output,     switches.verify,
+         switches.listPrinters, switches.listPapers,   switches.refresh,    switches.listOptions,
+         switches.listPresets,  switches.savePreset,   switches.json,       switches.photosPerJob,
+         switches.parent,       switches.resultJson,   switches.colourBy,   switches.profile,
+         switches.intent,       switches.noBlackPoint, switches.jobs,       switches.ended,
+         switches.cancelJob,    switches.holdJob,      switches.releaseJob, switches.repeatJob,
+         switches.moveJob,      switches.moveTo});
+    parser.addOptions(switches.photos.all());
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -624,11 +607,12 @@ bool asksForWindow(const QStringList& arguments)
 {
     const Switches switches;
     QCommandLineParser parser;
-    parser.addOptions({switches.printer,     switches.option,       switches.copies, switches.pages,
-                       switches.orientation, switches.position,     switches.title,  switches.backprint,
-                       switches.wait,        switches.noDialog,     switches.dryRun, switches.output,
-                       switches.preset,      switches.photosPerJob, switches.parent, switches.resultJson,
-                       switches.colourBy,    switches.profile,      switches.intent, switches.noBlackPoint});
+    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages,
+                       switches.orientation, switches.title, switches.backprint, switches.wait,
+                       switches.noDialog, switches.dryRun, switches.output, switches.preset,
+                       switches.photosPerJob, switches.parent, switches.resultJson, switches.colourBy,
+                       switches.profile, switches.intent, switches.noBlackPoint});
+    parser.addOptions(switches.photos.all());
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

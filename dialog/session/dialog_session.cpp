@@ -22,7 +22,7 @@ const QString kPaperFeed = QStringLiteral("PaperFeed");
 DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObject* parent)
     : QObject(parent),
       request_(std::move(request)),
-      photos_(request_.files, request_.printDamaged, request_.positions),
+      photos_(request_.files, request_.printDamaged, request_.placements),
       printer_(request_),
       panels_(panels),
       page_(request_),
@@ -70,12 +70,6 @@ void DialogSession::start()
 {
     printer_.start();
     photos_.start();
-}
-
-void DialogSession::setPosition(size_t photo, const QPointF& position)
-{
-    photos_.setPosition(photo, position);
-    Q_EMIT optionsChanged();
 }
 
 void DialogSession::settleDamaged(bool print)
@@ -185,7 +179,8 @@ void DialogSession::loadPanels()
 
 void DialogSession::setPage(const PageSettings& page)
 {
-    if (page.scaling != page_.settings().scaling)
+    const bool isSameLayout = page.sheets.layout == page_.settings().sheets.layout;
+    if (page.scaling != page_.settings().scaling && isSameLayout)
         photos_.centre();
     page_.set(page);
     pageIsUsers_ = true;
@@ -248,8 +243,8 @@ bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
 {
-    const std::vector<size_t> pages = chosenPages().pages;
-    return model() ? page_.format(*model(), pages.empty() ? nullptr : &photos()[pages.front()]) : nullptr;
+    const SheetPlan plan = sheetPlan();
+    return model() ? page_.format(*model(), plan.sheets.empty() ? nullptr : &plan.sheets.front()) : nullptr;
 }
 
 void DialogSession::takeOffer(const PrinterOffer& offer)

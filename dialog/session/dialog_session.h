@@ -42,8 +42,11 @@ public:
 
     const std::vector<Photo>& photos() const { return photos_.photos(); }
 
-    /// Moves the cut or the place of one photo: 0 to 1 each way.
-    void setPosition(size_t photo, const QPointF& position);
+    /// What the user wants of one photo: its crop, its turn, how often it is printed.
+    void setPlacement(size_t photo, const PhotoPlacement& placement);
+
+    /// Gives all photos the crop and the turn of this one.
+    void cropAllAs(size_t photo);
 
     /// Somebody who decoded a photo has found that a part of it is missing.
     void noteDamage(const QString& path, int page) { photos_.noteDamage(path, page); }
@@ -103,7 +106,16 @@ public:
     void setPage(const PageSettings& page);
 
     /// The places in photos() that are printed, in the order of printing, or why there are none.
-    ChosenPages chosenPages() const { return choosePages(page().pages, photos().size()); }
+    ChosenPages chosenPages() const;
+
+    /// The photos on their sheets, in the order of printing, or why there are none.
+    SheetPlan sheetPlan() const { return page_.plan(photos(), chosenPages().pages, model()); }
+
+    /// The layouts that can be chosen.
+    LayoutLibrary& layouts() { return page_.layouts(); }
+
+    /// Chooses a layout by its id, with what that sets; an unknown one is left alone.
+    void chooseLayout(const QString& id);
 
     /// The document that is printed in place of photos; null if photos are.
     const BlindDocument* document() const { return request_.document ? &*request_.document : nullptr; }
@@ -259,7 +271,7 @@ private:
     void loadPanels();
     JobInputs jobInputs() const;
     PdfQuality quality() const;
-    std::vector<PageToPrint> pagesToPrint() const;
+    std::vector<SheetToPrint> sheetsToPrint() const;
 
     SessionRequest request_;
     PhotoLoader photos_;

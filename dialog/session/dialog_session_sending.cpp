@@ -5,6 +5,7 @@
 #include "dialog/job/job_in_words.h"
 #include "dialog/job/pdf_output.h"
 #include "dialog/session/job_to_repeat.h"
+#include "dialog/session/sheet_words.h"
 #include "platform/foundation/display_text.h"
 #include "platform/printing/print_settings.h"
 
@@ -39,7 +40,9 @@ QString DialogSession::whyNotPrintable() const
         return tr("The photos are still being read. Wait a moment.");
     if (!document() && photos().empty())
         return tr("There is no photo to print. Open the dialog with one.");
-    const QString problem = chosenPages().problem;
+    if (const QString problem = chosenPages().problem; !problem.isEmpty() || document())
+        return problem;
+    const QString problem = sheetPlan().problem;
     return problem.isEmpty() ? colourProblem() : problem;
 }
 
@@ -57,7 +60,7 @@ PdfQuality DialogSession::quality() const
 JobInputs DialogSession::jobInputs() const
 {
     JobInputs inputs{
-        {}, options_.settings()->values(), page().copies, int(chosenPages().pages.size()), page().isCollated};
+        {}, options_.settings()->values(), page().copies, int(sheetPlan().sheets.size()), page().isCollated};
     if (!model())
         return inputs;
     inputs.values = model()->values();
@@ -98,10 +101,12 @@ JobInWords DialogSession::jobInWords() const
         return {};
     const ChosenPages chosen = chosenPages();
     const JobValues values = valuesToSend();
+    const SheetPlan plan = document() ? SheetPlan() : sheetPlan();
+    const QString layout = document() ? QString() : layoutInWords(page().sheets, page_.layouts(), plan);
     JobInWords words = halvern::jobInWords({*model(), values, printerDefaults(), int(photos().size()),
-                                            chosen.pages, page().pages.isReversed, isPageOnPaper()});
+                                            chosen.pages, page().pages.isReversed, isPageOnPaper(), layout});
     if (words.problem.isEmpty() && hasPhotos())
-        words.problem = chosen.problem;
+        words.problem = chosen.problem.isEmpty() ? plan.problem : chosen.problem;
     if (words.problem.isEmpty())
         words.problem = colourProblem();
     if (words.problem.isEmpty() && page().colours.isByDialog && !document())
@@ -123,19 +128,11 @@ QString DialogSession::jobTitle() const
     return QFileInfo(photos()[chosen.pages.front()].path).fileName();
 }
 
-std::vector<PageToPrint> DialogSession::pagesToPrint() const
-{
-    std::vector<PageToPrint> pages;
-    for (const size_t place : chosenPages().pages)
-        pages.push_back({photos()[place], layoutFor(photos()[place])});
-    return pages;
-}
-
 PrintRun* DialogSession::makeRun()
 {
-    std::vector<PageToPrint> pages = pagesToPrint();
+    std::vector<SheetToPrint> sheets = sheetsToPrint();
     JobRequest job{printerName(), jobTitle(), collectOptions(), model()->secrets()};
-    auto* run = new PrintRun(std::move(job), std::move(pages), quality(), this);
+    auto* run = new PrintRun(std::move(job), std::move(sheets), quality(), this);
     run->setPhotosPerJob(request_.photosPerJob);
     if (request_.remembers)
         connect(run, &PrintRun::submitted, this, [this, queue = printerName(), last = presets_.usedNow()] {
@@ -168,14 +165,14 @@ JobRequest DialogSession::makeOrder()
 
 PdfOutput* DialogSession::makePdf(const QString& path)
 {
-    return new PdfOutput(path, pagesToPrint(), quality(), this);
+    return new PdfOutput(path, sheetsToPrint(), quality(), this);
 }
 
 QString DialogSession::command() const
 {
     const std::vector<size_t> chosen = chosenPages().pages;
     return commandToRepeat({printerName(), photos(), photos_.leftOut(), chosen, *model(), printerDefaults(),
-                            printer_.savedOptions(), jobInputs(), page()});
+                            printer_.savedOptions(), jobInputs(), page(), page_.layouts()});
 }
 
 } // namespace halvern

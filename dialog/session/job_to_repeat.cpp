@@ -3,12 +3,15 @@
 
 #include "dialog/job/job_command.h"
 #include "dialog/session/colour_management.h"
+#include "dialog/session/sheet_words.h"
 #include "dialog/session/starting_options.h"
 #include "platform/foundation/numbers.h"
 
 #include <QSet>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace halvern {
 
@@ -76,17 +79,37 @@ QString rangesIn(const std::vector<ReadPage>& pages, const std::vector<size_t>& 
     return places.size() < pages.size() ? rangesOf(places) : QString();
 }
 
-// A photo each, up to the last that is not where the one before it is.
-QStringList positionsOf(const std::vector<ReadPage>& pages)
+// A value for each photo, up to the last that is not as the one before it; none if all are as nobody said.
+QStringList placementWords(const std::vector<ReadPage>& pages, const QString& word,
+                           const std::function<QString(const PhotoPlacement&)>& valueOf)
 {
-    QStringList positions;
+    QStringList values;
     for (const ReadPage& page : pages)
-        positions.append(shortestDouble(page.photo.position.x()) + QLatin1Char(',') +
-                         shortestDouble(page.photo.position.y()));
-    while (positions.size() > 1 && positions.back() == positions[positions.size() - 2])
-        positions.removeLast();
-    const bool isCentred = positions.size() == 1 && pages.front().photo.position == Photo().position;
-    return isCentred ? QStringList() : positions;
+        values.append(valueOf(page.photo.placement));
+    while (values.size() > 1 && values.back() == values[values.size() - 2])
+        values.removeLast();
+    if (values.isEmpty() || (values.size() == 1 && values.front() == valueOf({})))
+        return {};
+    QStringList words;
+    for (const QString& value : std::as_const(values))
+        words << word << value;
+    return words;
+}
+
+QStringList placementWords(const std::vector<ReadPage>& pages)
+{
+    return placementWords(pages, QStringLiteral("--position"),
+                          [](const PhotoPlacement& placement) {
+                              return shortestDouble(placement.position.x()) + QLatin1Char(',') +
+                                     shortestDouble(placement.position.y());
+                          }) +
+           placementWords(pages, QStringLiteral("--zoom"),
+                          [](const PhotoPlacement& placement) { return shortestDouble(placement.zoom); }) +
+           placementWords(
+               pages, QStringLiteral("--turn"),
+               [](const PhotoPlacement& placement) { return QString::number(placement.quarterTurns * 90); }) +
+           placementWords(pages, QStringLiteral("--photo-copies"),
+                          [](const PhotoPlacement& placement) { return QString::number(placement.copies); });
 }
 
 // As the command line has them.
@@ -141,14 +164,15 @@ QString commandToRepeat(const SessionToRepeat& session)
     job.options = optionsToName(session, saved.options);
     if (!page.isCollated || saved.page.isCollated)
         job.page.append(page.isCollated ? QStringLiteral("Collate=True") : QStringLiteral("Collate=False"));
-    if (page.scaling != Scaling::fit || !saved.page.scaling.isEmpty())
+    if (page.scaling != Scaling::fit || !saved.page.scaling.isEmpty() || !page.sheets.layout.isEmpty())
         job.page.append(QStringLiteral("print-scaling=") + scalingWord(page.scaling));
     job.ranges = rangesIn(pages, session.chosen);
     job.isReversed = page.pages.isReversed;
     if (page.turn != PageTurn::automatic)
         job.orientation =
             page.turn == PageTurn::portrait ? QStringLiteral("portrait") : QStringLiteral("landscape");
-    job.positions = positionsOf(pages);
+    job.photos = placementWords(pages);
+    job.sheets = sheetWords(page.sheets, session.layouts);
     job.colours = colourWords(page.colours);
     job.title = page.title.trimmed();
     job.copies = page.copies;

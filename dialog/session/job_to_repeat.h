@@ -18,6 +18,7 @@ struct SessionToRepeat {
     OptionValues saved; ///< by the user for this printer
     JobInputs inputs;
     const PageSettings& page;
+    const LayoutLibrary& layouts;
 };
 
 /// The command line, quoted for a shell. On the model's thread.

@@ -2,7 +2,6 @@
 #include "dialog/session/page_setup.h"
 
 #include "dialog/options/ppd_model.h"
-#include "dialog/page/photo.h"
 #include "dialog/session/session_request.h"
 #include "platform/printing/page_format.h"
 
@@ -31,6 +30,10 @@ PageSetup::PageSetup(const SessionRequest& request)
     settings_.isCollated = request.isCollated;
     settings_.scalePercent = request.scalePercent;
     settings_.colours = request.colours;
+    settings_.sheets = request.sheets;
+    const std::optional<Layout> layout = layouts_.find(request.sheets.layout);
+    if (!request.scaling && layout && layout->scaling)
+        settings_.scaling = *layout->scaling;
 }
 
 QString scalingWord(Scaling scaling)
@@ -82,27 +85,39 @@ void PageSetup::keepChoice(const std::vector<size_t>& left, size_t count)
     choice.parity = PageParity::all;
 }
 
-PageLayout PageSetup::layout(const Photo& photo, const PpdModel* model) const
+SheetPlan PageSetup::plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
+                          const PpdModel* model) const
 {
+    const std::optional<Layout> layout = layouts_.find(settings_.sheets.layout);
+    if (!layout)
+        return {{}, layouts_.unknownText(settings_.sheets.layout)};
     SheetGeometry sheet{kUsualSheet, QRectF(QPointF(), kUsualSheet)};
     if (model)
         sheet = model->sheet();
-    return layOut(
-        {sheet.paper, sheet.imageable, photo.ownSize, settings_.scaling, settings_.turn, photo.position});
+    return planSheets({sheet.paper, sheet.imageable, settings_.turn, settings_.scaling, *layout,
+                       settings_.sheets, model ? model->resolution() : kUsualResolution},
+                      photos, chosen);
+}
+
+PageLayout PageSetup::layout(const Photo& photo, const PpdModel* model) const
+{
+    const SheetPlan alone = plan({photo}, {0}, model);
+    return alone.sheets.empty() ? PageLayout() : alone.sheets.front().photos.front().layout;
 }
 
 PageLayout PageSetup::sheet(const PpdModel* model) const
 {
+    SheetGeometry sheet{kUsualSheet, QRectF(QPointF(), kUsualSheet)};
+    if (model)
+        sheet = model->sheet();
     // What is as large as the sheet turns it only where the user says so.
-    Photo whole;
-    whole.ownSize = model ? model->sheet().paper : kUsualSheet;
-    return layout(whole, model);
+    return layOut({sheet.paper, sheet.imageable, sheet.paper, settings_.scaling, settings_.turn});
 }
 
-std::shared_ptr<PageFormat> PageSetup::format(const PpdModel& model, const Photo* first) const
+std::shared_ptr<PageFormat> PageSetup::format(const PpdModel& model, const Sheet* first) const
 {
     const SheetGeometry sheet = model.sheet();
-    const bool turned = first ? layout(*first, &model).turned : settings_.turn == PageTurn::landscape;
+    const bool turned = first ? first->page.turned : settings_.turn == PageTurn::landscape;
     return std::make_shared<PageFormat>(toPageRect(QRectF(QPointF(), sheet.paper)),
                                         toPageRect(sheet.imageable),
                                         turned ? PageOrientation::landscape : PageOrientation::portrait);

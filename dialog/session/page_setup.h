@@ -2,8 +2,9 @@
 #pragma once
 
 #include "dialog/page/colour_plan.h"
+#include "dialog/page/layout_library.h"
 #include "dialog/page/page_choice.h"
-#include "dialog/page/page_layout.h"
+#include "dialog/page/sheet_plan.h"
 
 #include <QString>
 
@@ -14,7 +15,6 @@ namespace halvern {
 class PageFormat;
 class PpdModel;
 struct PageWishes;
-struct Photo;
 struct SessionRequest;
 
 /// What the user sets beside the printer's options.
@@ -27,6 +27,7 @@ struct PageSettings {
     QString title = {};     ///< of the job; empty: the first photo's name
     int scalePercent = 100; ///< by which another program enlarges its pages
 
+    SheetSettings sheets = {};
     ColourSettings colours = {};
 
     bool operator==(const PageSettings&) const = default;
@@ -51,16 +52,26 @@ public:
     /// Chooses the same pages once only those at the places `left` of `count` are there.
     void keepChoice(const std::vector<size_t>& left, size_t count);
 
-    /// The layout of a photo on the model's current sheet, without a model on A4 to its edges.
+    /// The photos on sheets of the model's current size, without a model on A4 to its edges.
+    SheetPlan plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
+                   const PpdModel* model) const;
+
+    /// A photo alone on such a sheet.
     PageLayout layout(const Photo& photo, const PpdModel* model) const;
+
+    /// The layouts that can be chosen.
+    LayoutLibrary& layouts() { return layouts_; }
+
+    const LayoutLibrary& layouts() const { return layouts_; }
 
     /// The sheet alone, as whoever is going to fill it looks at it, without a model A4 to its edges.
     PageLayout sheet(const PpdModel* model) const;
 
-    /// The sheet as panels ask for it, turned as it is for `first`; null: by what the user set alone.
-    std::shared_ptr<PageFormat> format(const PpdModel& model, const Photo* first) const;
+    /// The sheet as panels ask for it, turned as `first` is; null: by what the user set alone.
+    std::shared_ptr<PageFormat> format(const PpdModel& model, const Sheet* first) const;
 
 private:
+    LayoutLibrary layouts_;
     PageSettings settings_;
     bool hasTakenWishes_ = false;
 };

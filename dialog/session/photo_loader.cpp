@@ -17,10 +17,10 @@ constexpr size_t kKeptPreviews = 8;
 
 } // namespace
 
-PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<QPointF> positions)
+PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<PhotoPlacement> placements)
     : files_(std::move(files)),
       printDamaged_(printDamaged),
-      positions_(std::move(positions)),
+      placements_(std::move(placements)),
       filesLeft_(int(files_.size())),
       stop_(cups::makeCancelFlag())
 {
@@ -67,8 +67,9 @@ void PhotoLoader::take(const PhotoFile& file)
         // The others are read again when they are looked at.
         if (photos_.size() > kKeptPreviews)
             photos_.back().preview = QImage();
-        if (!positions_.isEmpty())
-            photos_.back().position = positions_[std::min(qsizetype(photos_.size()), positions_.size()) - 1];
+        if (!placements_.isEmpty())
+            photos_.back().placement =
+                placements_[std::min(qsizetype(photos_.size()), placements_.size()) - 1];
     }
     if (!file.problem.isEmpty() && file.pages.empty()) {
         unreadableFiles_.append(file.problem);
@@ -97,16 +98,18 @@ void PhotoLoader::tellDamage(const QString& sentence)
     Q_EMIT damaged(sentence);
 }
 
-void PhotoLoader::setPosition(size_t photo, const QPointF& position)
+void PhotoLoader::setPlacement(size_t photo, const PhotoPlacement& placement)
 {
     if (photo < photos_.size())
-        photos_[photo].position = position;
+        photos_[photo].placement = held(placement);
 }
 
 void PhotoLoader::centre()
 {
-    for (Photo& photo : photos_)
-        photo.position = Photo().position;
+    for (Photo& photo : photos_) {
+        if (photo.placement.zoom == 1.0)
+            photo.placement.position = PhotoPlacement().position;
+    }
 }
 
 void PhotoLoader::settleDamaged(bool print)

@@ -18,9 +18,9 @@ class PhotoLoader : public QObject {
     Q_OBJECT
 
 public:
-    /// If not `printDamaged`, damaged files wait to be settled. The photos start at `positions`, the last of
-    /// which is also that of all that follow; without any, in the middle.
-    PhotoLoader(QStringList files, bool printDamaged, QList<QPointF> positions = {});
+    /// If not `printDamaged`, damaged files wait to be settled. The photos start as `placements` say, the
+    /// last of which is also that of all that follow.
+    PhotoLoader(QStringList files, bool printDamaged, QList<PhotoPlacement> placements = {});
     ~PhotoLoader() override;
 
     /// Starts to read. Once.
@@ -31,10 +31,10 @@ public:
 
     const std::vector<Photo>& photos() const { return photos_; }
 
-    /// Moves the cut or the place of one photo: 0 to 1 each way.
-    void setPosition(size_t photo, const QPointF& position);
+    /// What the user wants of one photo.
+    void setPlacement(size_t photo, const PhotoPlacement& placement);
 
-    /// Puts all photos back in the middle.
+    /// Puts all photos that show as much as they can back in the middle.
     void centre();
 
     /// Somebody who decoded a photo has found that a part of it is missing.
@@ -76,7 +76,7 @@ private:
     DecoderLease decoders_; // warm while photos may be read
     QStringList files_;
     bool printDamaged_;
-    QList<QPointF> positions_;
+    QList<PhotoPlacement> placements_;
     std::vector<Photo> photos_;
     std::vector<LeftOutPhoto> leftOut_;
     QStringList unreadableFiles_;

@@ -4,6 +4,7 @@
 #include "dialog/options/back_lines.h"
 #include "dialog/session/colour_management.h"
 #include "dialog/session/session_request.h"
+#include "dialog/session/sheet_words.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
@@ -72,14 +73,17 @@ QString trueOrFalse(bool value)
 QMap<QString, QString> pageTexts(const PageSettings& page)
 {
     const ColourSettings& colours = page.colours;
-    return {{kScaling, wordOf(kScalings, page.scaling)},
-            {kTurn, wordOf(kTurns, page.turn)},
-            {kCollate, trueOrFalse(page.isCollated)},
-            {kReversed, trueOrFalse(page.pages.isReversed)},
-            {kColours, colours.isByDialog ? QStringLiteral("dialog") : QStringLiteral("printer")},
-            {kProfile, colours.profile},
-            {kIntent, intentWord(colours.intent)},
-            {kBlackPoint, trueOrFalse(colours.compensatesBlack)}};
+    QMap<QString, QString> texts = {
+        {kScaling, wordOf(kScalings, page.scaling)},
+        {kTurn, wordOf(kTurns, page.turn)},
+        {kCollate, trueOrFalse(page.isCollated)},
+        {kReversed, trueOrFalse(page.pages.isReversed)},
+        {kColours, colours.isByDialog ? QStringLiteral("dialog") : QStringLiteral("printer")},
+        {kProfile, colours.profile},
+        {kIntent, intentWord(colours.intent)},
+        {kBlackPoint, trueOrFalse(colours.compensatesBlack)}};
+    texts.insert(sheetTexts(page.sheets));
+    return texts;
 }
 
 ColourSettings coloursOf(const Preset& preset, const ColourSettings& before)
@@ -280,6 +284,7 @@ PageSettings withPreset(const PageSettings& before, const Preset& preset)
     if (choosePages(pages, 0).problem.isEmpty())
         page.pages = pages;
     page.colours = coloursOf(preset, page.colours);
+    page.sheets = sheetsOf(preset.page, page.sheets);
     return page;
 }
 
@@ -291,6 +296,10 @@ PageSettings startingPage(const PageSettings& before, const Preset& preset, cons
         page.copies = request.copies;
     if (request.namesColours)
         page.colours = request.colours;
+    if (request.namesSheets) {
+        page.sheets = request.sheets;
+        page.scaling = before.scaling;
+    }
     if (request.turn != PageTurn::automatic)
         page.turn = request.turn;
     const bool isReversed = page.pages.isReversed || request.pages.isReversed;
@@ -324,6 +333,7 @@ PageSettings withoutPreset(const PageSettings& now, const PageSettings& asPreset
     putBack(page.isCollated, asPreset.isCollated, before.isCollated);
     putBack(page.pages, asPreset.pages, before.pages);
     putBack(page.colours, asPreset.colours, before.colours);
+    putBack(page.sheets, asPreset.sheets, before.sheets);
     return page;
 }
 

@@ -3,8 +3,8 @@
 
 #include "dialog/options/option_value.h"
 #include "dialog/page/colour_plan.h"
+#include "dialog/page/layout.h"
 #include "dialog/page/page_choice.h"
-#include "dialog/page/page_layout.h"
 #include "dialog/session/handed_options.h"
 
 #include <QStringList>
@@ -32,10 +32,11 @@ struct SessionRequest {
     int copies = 1;
     PageChoice pages = {};
     PageTurn turn = PageTurn::automatic;
-    QList<QPointF> positions = {}; ///< of the photos in their order, the last one also of those that follow
-    QString title = {};            ///< of the job; empty: the first photo's name
-    bool printDamaged = false;     ///< also photos of which a part is missing, without asking
-    bool skipBroken = false;       ///< leave out what cannot be read, or not whole, without asking
+    QList<PhotoPlacement> placements =
+        {};                    ///< of the photos in their order, the last one also of those that follow
+    QString title = {};        ///< of the job; empty: the first photo's name
+    bool printDamaged = false; ///< also photos of which a part is missing, without asking
+    bool skipBroken = false;   ///< leave out what cannot be read, or not whole, without asking
     /// Whether somebody sees which printer was taken: another one may be if the user's default is none of the
     /// server's, or if nobody has named one and the server has no default.
     bool isAttended = true;
@@ -57,6 +58,8 @@ struct SessionRequest {
     std::optional<Scaling> scaling = {};        ///< no preset decides it then
     bool isCollated = true;
     int scalePercent = 100; ///< of a document to come
+    SheetSettings sheets = {};
+    bool namesSheets = false; ///< somebody said how photos are put on sheets, so no preset decides it
     ColourSettings colours = {};
     bool namesColours = false; ///< somebody said who converts them, so no preset decides it
 };

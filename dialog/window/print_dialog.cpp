@@ -145,8 +145,11 @@ QWidget* PrintDialog::makePreviewSide()
     column->addLayout(below);
     connect(preview_, &PreviewWidget::positionChosen, this, [this](const QPointF& position) {
         const std::vector<size_t> pages = session_.chosenPages().pages;
-        if (size_t(current_) < pages.size())
-            session_.setPosition(pages[size_t(current_)], position);
+        if (size_t(current_) < pages.size()) {
+            PhotoPlacement placement = session_.photos()[pages[size_t(current_)]].placement;
+            placement.position = position;
+            session_.setPlacement(pages[size_t(current_)], placement);
+        }
     });
     connect(preview_, &PreviewWidget::damageFound, this,
             [this](const QString& path, int page) { session_.noteDamage(path, page); });

@@ -148,7 +148,7 @@ TEST_F(PageTest, LiesWhereTheTableSays)
     };
 
     for (const auto& c : cases) {
-        const PageLayout layout = layOut({k4x6, k4x6Area, c.photo, c.scaling, c.turn, {0.5, 0.5}});
+        const PageLayout layout = layOut({k4x6, k4x6Area, c.photo, c.scaling, c.turn});
         EXPECT_EQ(layout.turned, c.wanted.width() == 405) << c.name;
         expectNear(layout.photo, c.wanted, c.name);
         EXPECT_EQ(layout.isCut, !layout.imageable.contains(c.wanted)) << c.name;
@@ -164,16 +164,17 @@ TEST_F(PageTest, ASquarePhotoLeavesAWideSheetAsItIs)
 TEST_F(PageTest, PositionMovesTheCutAndUnevenMarginsTurnWithTheSheet)
 {
     LayoutRequest request{k4x6,          {10, 20, 260, 380}, {200, 400},
-                          Scaling::fill, PageTurn::portrait, {0.5, 0.0}};
+                          Scaling::fill, PageTurn::portrait, {{0.5, 0.0}}};
     EXPECT_NEAR(layOut(request).photo.top(), 20.0, 0.01);
-    request.position = {0.5, 1.0};
+    request.placement.position = {0.5, 1.0};
     EXPECT_NEAR(layOut(request).photo.bottom(), 400.0, 0.01);
     request.turn = PageTurn::landscape;
     const PageLayout turned = layOut(request);
     // The sheet's left margin of 10 is the page's top one, its bottom margin of 32 the page's left one.
     expectNear(turned.imageable, {32, 10, 380, 260}, "turned");
     expectNear(turned.pageToSheet().mapRect(turned.imageable), {10, 20, 260, 380}, "back on the sheet");
-    const PageLayout absurd = layOut({{0, 0}, {}, {0, 0}, Scaling::fill, PageTurn::automatic, {7, -7}});
+    const PageLayout absurd =
+        layOut({{0, 0}, {}, {0, 0}, Scaling::fill, PageTurn::automatic, {{7, -7}, 1e9, -5}});
     EXPECT_TRUE(qIsFinite(absurd.photo.left()) && qIsFinite(absurd.photo.width()));
 }
 

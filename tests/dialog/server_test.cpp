@@ -345,8 +345,8 @@ TEST_F(DialogServerTest, ADamagedPhotoPrintsOnlyIfTheUserSaysSo)
     PrintDialog dialog(session);
     dialog.show();
     ASSERT_TRUE(isReady(session));
-    session.setPosition(1, {0.5, 1.0});
-    EXPECT_EQ(session.photos()[0].position, QPointF(0.5, 0.5)) << "each photo has a place of its own";
+    session.setPlacement(1, {{0.5, 1.0}, 2.0});
+    EXPECT_EQ(session.photos()[0].placement, PhotoPlacement()) << "each photo has a place of its own";
     const auto answer = [&](QMessageBox::ButtonRole role) {
         QTest::mouseClick(dialog.findChild<QPushButton*>(q("printButton")), Qt::LeftButton);
         auto* box = dialog.findChild<QMessageBox*>();

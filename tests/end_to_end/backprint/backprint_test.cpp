@@ -79,7 +79,7 @@ TEST_F(BackprintInDialog, TheCopiedCommandSendsWhatIsShown)
     page.turn = PageTurn::landscape;
     page.scaling = Scaling::fill;
     real->session.setPage(page);
-    real->session.setPosition(0, {0.25, 1.0});
+    real->session.setPlacement(0, {{0.25, 1.0}, 1.5, 1, 2});
     drainMainQueue(); // the panels are told
     const QByteArray path = QFileInfo(q(HALVERN_PRINT_PROGRAM)).path().toUtf8() + ':' + qgetenv("PATH");
     const QString command = real->session.command();
@@ -91,7 +91,9 @@ TEST_F(BackprintInDialog, TheCopiedCommandSendsWhatIsShown)
         sent.append(option.key + u'=' + option.value);
     EXPECT_EQ(again.output.trimmed().split(u'\n').join(u'|').toStdString(), sent.join(u'|').toStdString())
         << qPrintable(command);
-    EXPECT_TRUE(command.contains(q(" --orientation landscape --position 0.25,1 "))) << qPrintable(command);
+    EXPECT_TRUE(command.contains(
+        q(" --orientation landscape --position 0.25,1 --zoom 1.5 --turn 90 --photo-copies 2 ")))
+        << qPrintable(command);
     for (const char* word : {"a\x1b%'\\\nb", "--job-title=a\tb", "two feeds\n\n", "\n"}) {
         const ProgramResult said =
             runProgram(q("/bin/sh"), {q("-c"), q("printf %s ") + shellQuoted(q(word))});

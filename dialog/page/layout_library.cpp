@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/page/layout_library.h"
+
+#include "platform/foundation/display_text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+// A resource in a static library has to be asked for, outside any namespace.
+static void initLayouts()
+{
+    Q_INIT_RESOURCE(layouts);
+}
+
+namespace halvern {
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Layouts)
+};
+
+constexpr qint64 kLargestFile = 256 * 1024;
+constexpr qsizetype kMostFiles = 200;
+constexpr int kLongestName = 80;
+const QString kSuffix = QStringLiteral(".json");
+const QString kProgramsFolder = QStringLiteral(":/halvern/layouts");
+
+ReadLayout readFile(const QString& path)
+{
+    const QString id = QFileInfo(path).completeBaseName();
+    // A pipe would never end.
+    if (!QFileInfo(path).isFile())
+        return {{}, Words::tr("It is no file.")};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {{}, file.errorString()};
+    const QByteArray text = file.read(kLargestFile + 1);
+    if (text.size() > kLargestFile)
+        return {{}, Words::tr("It is too large.")};
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    if (!document.isObject())
+        return {{}, Words::tr("It is no JSON object: %1.").arg(error.errorString())};
+    return layoutFromJson(document.object(), id);
+}
+
+// What a file's name and a command line take without quotes.
+QString idOf(const QString& name)
+{
+    static const QRegularExpression other(QStringLiteral("[^\\p{L}\\p{N}]+"));
+    QString id = name.toLower().replace(other, QStringLiteral("-"));
+    while (id.startsWith(QLatin1Char('-')))
+        id.remove(0, 1);
+    while (id.endsWith(QLatin1Char('-')))
+        id.chop(1);
+    return id.left(kLongestName);
+}
+
+} // namespace
+
+LayoutLibrary::LayoutLibrary()
+{
+    initLayouts();
+    readAgain();
+}
+
+QString LayoutLibrary::ownFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/halvern/layouts");
+}
+
+void LayoutLibrary::readAgain()
+{
+    layouts_.clear();
+    problems_.clear();
+    for (const QString& folder : {kProgramsFolder, ownFolder()}) {
+        const QStringList names =
+            QDir(folder).entryList({QLatin1Char('*') + kSuffix}, QDir::Files | QDir::System, QDir::Name);
+        for (const QString& name : names.mid(0, kMostFiles)) {
+            const QString path = folder + QLatin1Char('/') + name;
+            ReadLayout read = readFile(path);
+            if (read.problem.isEmpty() && find(read.layout.id))
+                read.problem = Words::tr("There is another layout \"%1\".").arg(read.layout.id);
+            read.layout.isOwn = folder != kProgramsFolder;
+            if (read.problem.isEmpty())
+                layouts_.append(read.layout);
+            else
+                problems_.append(
+                    Words::tr("The layout %1 was left out. %2").arg(displayText(path), read.problem));
+        }
+    }
+}
+
+std::optional<Layout> LayoutLibrary::find(const QString& id) const
+{
+    if (id.isEmpty())
+        return Layout();
+    for (const Layout& layout : layouts_) {
+        if (layout.id == id)
+            return layout;
+    }
+    return layoutOfMeasures(id);
+}
+
+QString LayoutLibrary::unknownText(const QString& id) const
+{
+    QStringList ids;
+    for (const Layout& layout : layouts_)
+        ids.append(layout.id);
+    return Words::tr("There is no layout \"%1\". There are: %2; and rows x columns, such as 3x4, and sizes, "
+                     "such as 90x130mm.")
+        .arg(displayText(id, kLongestName), ids.join(QStringLiteral(", ")));
+}
+
+QString LayoutLibrary::save(Layout layout, const QString& name, QString* id)
+{
+    layout.name = displayText(name, kLongestName).trimmed();
+    layout.id = idOf(layout.name);
+    const std::optional<Layout> there = find(layout.id);
+    if (layout.id.isEmpty() || layout.kind == LayoutKind::single)
+        return Words::tr("Write a name with letters or numbers.");
+    if (there && !there->isOwn)
+        return Words::tr("\"%1\" is a layout that is always there. Choose another name.").arg(layout.name);
+    if (!QDir().mkpath(ownFolder()))
+        return Words::tr("The folder %1 cannot be made.").arg(displayText(ownFolder()));
+    QSaveFile file(ownFolder() + QLatin1Char('/') + layout.id + kSuffix);
+    const QByteArray text = QJsonDocument(toJson(layout)).toJson();
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        return Words::tr("The layout could not be kept in %1. %2")
+            .arg(displayText(file.fileName()), file.errorString());
+    *id = layout.id;
+    readAgain();
+    return {};
+}
+
+QString LayoutLibrary::remove(const QString& id)
+{
+    const std::optional<Layout> layout = find(id);
+    QFile file(ownFolder() + QLatin1Char('/') + id + kSuffix);
+    if (!layout || !layout->isOwn)
+        return Words::tr("Only layouts of your own can be deleted.");
+    if (!file.remove())
+        return Words::tr("%1 could not be deleted. %2").arg(displayText(file.fileName()), file.errorString());
+    readAgain();
+    return {};
+}
+
+} // namespace halvern
