@@ -178,10 +178,8 @@ void KSTRVLBasePDEHalvern::setGlobalDefaultsObject_forKey(const QVariant& object
 {
     if (!object.isValid() || !key)
         return;
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
-    values.insert(*key, object);
-    defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+    UserDefaults::standardUserDefaults().changeGlobal(
+        [&](QVariantMap& values) { values.insert(*key, object); });
 }
 
 } // namespace halvern

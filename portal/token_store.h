@@ -5,12 +5,11 @@
 #include "dialog/session/session_request.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <chrono>
 #include <map>
 #include <optional>
-
-class QTimer;
 
 namespace halvern {
 

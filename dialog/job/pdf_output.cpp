@@ -69,16 +69,20 @@ void PdfOutput::start()
                 Q_EMIT self->progressed(share);
         });
     };
-    WorkQueue().async([self, report, path = path_, sheets = std::move(sheets_), quality = quality_,
-                       cancelled = cancelled_] {
-        const PdfOutcome outcome = writeFile(path, sheets, quality, cancelled, report);
+    const auto end = [self](const PdfOutcome& outcome) {
         mainQueue().async([self, outcome] {
             if (!self)
                 return;
             self->isOver_ = true;
             Q_EMIT self->finished(outcome);
         });
-    });
+    };
+    const bool isStarted = WorkQueue().async(
+        [end, report, path = path_, sheets = std::move(sheets_), quality = quality_, cancelled = cancelled_] {
+            end(writeFile(path, sheets, quality, cancelled, report));
+        });
+    if (!isStarted)
+        end({false, false, tr("The computer is too busy to write the file. Close something and try again.")});
 }
 
 } // namespace halvern

@@ -166,13 +166,21 @@ void PrintRun::start()
     };
     Sending sending{job_,      std::move(sheets_), photosPerJob_, quality_,
                     document_, cancelled_,         paused_,       report};
-    WorkQueue().async([self, sending = std::move(sending)] {
+    const bool isStarted = WorkQueue().async([self, sending = std::move(sending)] {
         const SentJobs sent = send(sending);
         mainQueue().async([self, sent] {
             if (self)
                 self->takeSubmission(sent);
         });
     });
+    if (!isStarted) {
+        SentJobs none;
+        none.problem = tr("The computer is too busy to send it. Close something and try again.");
+        mainQueue().async([self, none] {
+            if (self)
+                self->takeSubmission(none);
+        });
+    }
 }
 
 void PrintRun::takeProgress(double share)

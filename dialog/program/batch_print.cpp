@@ -221,7 +221,13 @@ void BatchPrint::leave()
     }
     run_->cancel();
     // A silent server does not let the run end.
-    QTimer::singleShot(kTakeBackMilliseconds, this, [this] { end(kExitCancelled); });
+    QTimer::singleShot(kTakeBackMilliseconds, this, [this] {
+        writeLine(err_,
+                  tr("Cancelled, but the print server does not answer: a part of the job may still be on "
+                     "the queue \"%1\". Look at it before you print again.")
+                      .arg(session_.printerName()));
+        end(kExitUnknown);
+    });
 }
 
 void BatchPrint::fail(const QString& sentence, int status)

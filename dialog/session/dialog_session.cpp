@@ -72,11 +72,19 @@ void DialogSession::start()
     photos_.start();
 }
 
+bool DialogSession::hasBrokenFiles()
+{
+    const bool isThere = !damagedFiles().isEmpty() || !unreadableFiles().isEmpty();
+    if (isThere && request_.skipBroken)
+        settleDamaged(false);
+    return isThere && !request_.skipBroken;
+}
+
 void DialogSession::settleDamaged(bool print)
 {
     std::vector<size_t> whole;
     for (size_t i = 0; i < photos().size(); ++i) {
-        if (!photos()[i].isDamaged)
+        if (!photos_.isOpen(photos()[i]))
             whole.push_back(i);
     }
     if (!print)

@@ -61,6 +61,10 @@ public:
     /// Reads these files too; their photos come behind the others.
     void addPhotos(const QStringList& files) { photos_.add(files); }
 
+    /// Whether somebody has to be asked about them before anything is made of the photos. Settles them
+    /// without a question where that was asked for.
+    bool hasBrokenFiles();
+
     /// What the user says: the damaged photos print as they are, or are left out.
     void settleDamaged(bool print);
 

@@ -34,18 +34,16 @@ QList<OwnPaper> readPapers(const QVariantMap& values)
     return papers;
 }
 
-// From the file as it is now: another dialog may have kept one since.
 template <typename Change> void changePapers(Change change)
 {
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
-    QList<OwnPaper> papers = readPapers(values);
-    change(papers);
-    QStringList lines;
-    for (const OwnPaper& paper : papers)
-        lines.append(customKeyword(paper.points) + QLatin1Char(' ') + paper.name);
-    values.insert(kKey, lines);
-    defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+    UserDefaults::standardUserDefaults().changeGlobal([&](QVariantMap& values) {
+        QList<OwnPaper> papers = readPapers(values);
+        change(papers);
+        QStringList lines;
+        for (const OwnPaper& paper : papers)
+            lines.append(customKeyword(paper.points) + QLatin1Char(' ') + paper.name);
+        values.insert(kKey, lines);
+    });
 }
 
 bool isCalled(const OwnPaper& paper, const QString& name)

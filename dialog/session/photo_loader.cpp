@@ -5,6 +5,7 @@
 #include "dialog/page/photo_problem.h"
 #include "platform/foundation/threads/work_queue.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -47,7 +48,7 @@ void PhotoLoader::read(const QStringList& files)
 {
     QPointer<PhotoLoader> self(this);
     for (const QString& path : files) {
-        queue_.async([self, path, stop = stop_] {
+        const bool isQueued = queue_.async([self, path, stop = stop_] {
             if (stop->load())
                 return;
             PhotoFile file = openPhotoFile(path);
@@ -56,6 +57,14 @@ void PhotoLoader::read(const QStringList& files)
                     self->take(file);
             });
         });
+        if (!isQueued)
+            mainQueue().async([self, path] {
+                if (self)
+                    self->take({{},
+                                tr("\"%1\" cannot be read now: the computer is too busy. Close something and "
+                                   "open it again.")
+                                    .arg(QFileInfo(path).fileName())});
+            });
     }
 }
 
@@ -75,7 +84,7 @@ void PhotoLoader::take(const PhotoFile& file)
         unreadableFiles_.append(file.problem);
         Q_EMIT failed(file.problem);
     } else if (!file.problem.isEmpty()) {
-        tellDamage(file.problem);
+        tellDamage(file.pages.front().path, file.problem);
     }
     Q_EMIT changed();
 }
@@ -88,13 +97,15 @@ void PhotoLoader::noteDamage(const QString& path, int page)
         return;
     for (Photo& photo : photos_)
         photo.isDamaged = photo.isDamaged || isIt(photo);
-    tellDamage(photoProblem(PhotoFault::partMissing, path));
+    tellDamage(path, photoProblem(PhotoFault::partMissing, path));
 }
 
-void PhotoLoader::tellDamage(const QString& sentence)
+void PhotoLoader::tellDamage(const QString& path, const QString& sentence)
 {
-    if (!printDamaged_)
+    if (!printDamaged_) {
         damagedFiles_.append(sentence);
+        openDamage_.insert(path);
+    }
     Q_EMIT damaged(sentence);
 }
 
@@ -122,13 +133,15 @@ void PhotoLoader::settleDamaged(bool print)
             size_t place = i;
             for (const LeftOutPhoto& gone : before)
                 place += gone.place <= place ? 1 : 0;
-            if (photos_[i].isDamaged)
+            if (isOpen(photos_[i]))
                 leftOut_.push_back({place, photos_[i]});
         }
         std::ranges::sort(leftOut_, {}, &LeftOutPhoto::place);
-        std::erase_if(photos_, [](const Photo& photo) { return photo.isDamaged; });
-        Q_EMIT changed();
+        std::erase_if(photos_, [this](const Photo& photo) { return isOpen(photo); });
     }
+    openDamage_.clear();
+    if (!print)
+        Q_EMIT changed();
 }
 
 } // namespace halvern

@@ -7,6 +7,7 @@
 #include "platform/printing/cups_connection.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <vector>
 
@@ -58,7 +59,10 @@ public:
     /// In the order of their places.
     const std::vector<LeftOutPhoto>& leftOut() const { return leftOut_; }
 
-    /// The damaged photos print as they are, or are left out; what cannot be read is left out.
+    /// Whether the photo is damaged, and nobody has said yet that it prints all the same.
+    bool isOpen(const Photo& photo) const { return photo.isDamaged && openDamage_.contains(photo.path); }
+
+    /// The photos that are open print as they are, or are left out; what cannot be read is left out.
     void settleDamaged(bool print);
 
 Q_SIGNALS:
@@ -71,7 +75,7 @@ Q_SIGNALS:
 private:
     void read(const QStringList& files);
     void take(const PhotoFile& file);
-    void tellDamage(const QString& sentence);
+    void tellDamage(const QString& path, const QString& sentence);
 
     DecoderLease decoders_; // warm while photos may be read
     QStringList files_;
@@ -81,6 +85,7 @@ private:
     std::vector<LeftOutPhoto> leftOut_;
     QStringList unreadableFiles_;
     QStringList damagedFiles_;
+    QSet<QString> openDamage_; // their paths
     int filesLeft_;
     cups::CancelFlag stop_;
     WorkQueue queue_; // one file after the other, in their order

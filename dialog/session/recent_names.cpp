@@ -16,15 +16,14 @@ void RecentNames::use(const QString& name)
 {
     if (name.isEmpty() || (!names_.isEmpty() && names_.front() == name))
         return;
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
-    // Another dialog may have used others since.
-    names_ = values.value(key_).toStringList();
-    names_.removeAll(name);
-    names_.prepend(name);
-    names_ = names_.mid(0, most_);
-    values.insert(key_, names_);
-    defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+    UserDefaults::standardUserDefaults().changeGlobal([&](QVariantMap& values) {
+        // Another dialog may have used others since.
+        names_ = values.value(key_).toStringList();
+        names_.removeAll(name);
+        names_.prepend(name);
+        names_ = names_.mid(0, most_);
+        values.insert(key_, names_);
+    });
 }
 
 } // namespace halvern

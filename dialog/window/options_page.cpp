@@ -166,10 +166,9 @@ void OptionsPage::rememberFold(const QModelIndex& group, bool isFolded)
     folded.removeAll(group.data().toString());
     if (isFolded)
         folded.append(group.data().toString());
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
-    values.insert(kFoldedKey, folded.mid(std::max(qsizetype(0), folded.size() - kMostFolded)));
-    defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+    UserDefaults::standardUserDefaults().changeGlobal([&](QVariantMap& values) {
+        values.insert(kFoldedKey, folded.mid(std::max(qsizetype(0), folded.size() - kMostFolded)));
+    });
 }
 
 void OptionsPage::choose(const QString& key, const QString& value)

@@ -54,7 +54,7 @@ void OutputMenu::chooseFile()
     if (!session_.canPrint())
         return;
     endEditing();
-    if (!session_.damagedFiles().isEmpty()) {
+    if (session_.hasBrokenFiles()) {
         askAboutDamagedPhotos(window(), session_, [this] { chooseFile(); });
         return;
     }

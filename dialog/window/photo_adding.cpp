@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QPointer>
 #include <QShortcut>
 #include <QTemporaryFile>
 #include <QToolButton>
@@ -79,23 +80,45 @@ void PhotoAdding::add(const QMimeData& data)
         addNamed(names);
         return;
     }
-    // A picture without a file gets one for as long as the dialog is there.
-    auto* file = new QTemporaryFile(QDir::tempPath() + QStringLiteral("/pasted-XXXXXX.png"), this);
-    const auto image = data.imageData().value<QImage>();
-    if (!image.isNull() && file->open() && image.save(file, "PNG") && file->flush())
-        session_.addPhotos({file->fileName()});
-    else
-        Q_EMIT failed(tr("The picture cannot be kept in a temporary file. Make room on the disk."));
+    if (const auto image = data.imageData().value<QImage>(); !image.isNull())
+        addPicture(image);
+}
+
+// A picture without a file gets one for as long as the dialog is there.
+void PhotoAdding::addPicture(const QImage& image)
+{
+    const auto kept =
+        std::make_shared<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/pasted-XXXXXX.png"));
+    const QPointer<PhotoAdding> self(this);
+    disk_.async([self, kept, image] {
+        const bool isKept = kept->open() && image.save(kept.get(), "PNG") && kept->flush();
+        mainQueue().async([self, kept, isKept] {
+            if (!self)
+                return;
+            if (!isKept) {
+                Q_EMIT self->failed(
+                    tr("The picture cannot be kept in a temporary file. Make room on the disk."));
+                return;
+            }
+            self->pasted_.push_back(kept);
+            self->session_.addPhotos({kept->fileName()});
+        });
+    });
 }
 
 void PhotoAdding::addNamed(const QStringList& names)
 {
-    QStringList problems;
-    const QStringList files = withFoldersOpened(names, &problems);
-    for (const QString& problem : problems)
-        Q_EMIT failed(problem);
-    if (!files.isEmpty())
-        session_.addPhotos(files);
+    const QPointer<PhotoAdding> self(this);
+    disk_.async([self, names] {
+        QStringList problems;
+        const QStringList files = withFoldersOpened(names, &problems);
+        mainQueue().async([self, problems, files] {
+            for (qsizetype i = 0; self && i < problems.size(); ++i)
+                Q_EMIT self->failed(problems[i]);
+            if (self && !files.isEmpty())
+                self->session_.addPhotos(files);
+        });
+    });
 }
 
 bool PhotoAdding::eventFilter(QObject* watched, QEvent* event)
@@ -105,7 +128,9 @@ bool PhotoAdding::eventFilter(QObject* watched, QEvent* event)
     auto* drop = static_cast<QDropEvent*>(event);
     if (!holdsPhotos(*drop->mimeData()))
         return QObject::eventFilter(watched, event);
-    drop->acceptProposedAction();
+    // Whoever gives photos keeps them, also if a move was meant.
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
     if (event->type() == QEvent::Drop)
         add(*drop->mimeData());
     return true;

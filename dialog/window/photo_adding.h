@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/threads/work_queue.h"
+
 #include <QObject>
 
+#include <memory>
+#include <vector>
+
+class QImage;
 class QMimeData;
+class QTemporaryFile;
 class QToolButton;
 class QWidget;
 
@@ -36,9 +43,12 @@ private:
     static bool holdsPhotos(const QMimeData& data);
     void add(const QMimeData& data);
     void addNamed(const QStringList& names);
+    void addPicture(const QImage& image);
 
     QWidget* window_;
     DialogSession& session_;
+    std::vector<std::shared_ptr<QTemporaryFile>> pasted_;
+    WorkQueue disk_; // in the order in which they were added
 };
 
 } // namespace halvern

@@ -66,8 +66,6 @@ protected:
 Q_SIGNALS:
     /// A run is about to start.
     void started();
-    /// A run has ended, and the dialog says so.
-    void printed(const halvern::PrintOutcome& outcome);
 
 private:
     QWidget* makePreviewSide();

@@ -50,8 +50,6 @@ void PrintDialog::takeOpeningSize()
 
 void PrintDialog::rememberSize() const
 {
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
     // Of a maximized window, what it comes back to.
     QSize size = isMaximized() ? normalGeometry().size() : this->size();
     // What a small screen has cut is nobody's wish for the next one.
@@ -59,10 +57,9 @@ void PrintDialog::rememberSize() const
         size.setWidth(wantedSize_.width());
     if (size.height() == openingSize_.height())
         size.setHeight(wantedSize_.height());
-    if (size.isEmpty() || values.value(kSizeKey).toSize() == size)
-        return;
-    values.insert(kSizeKey, size);
-    defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+    if (!size.isEmpty())
+        UserDefaults::standardUserDefaults().changeGlobal(
+            [size](QVariantMap& values) { values.insert(kSizeKey, size); });
 }
 
 // The preview gives way first: beside the controls it takes what they leave, and where that is too little it

@@ -77,7 +77,7 @@ void PrintDialog::print()
 {
     if (isRunning() || !session_.canPrint())
         return;
-    if (!session_.damagedFiles().isEmpty() || !session_.unreadableFiles().isEmpty()) {
+    if (session_.hasBrokenFiles()) {
         askAboutDamagedPhotos(this, session_, [this] { print(); });
         return;
     }
@@ -158,7 +158,6 @@ void PrintDialog::takeOutcome(const PrintOutcome& outcome)
     if (isVisible())
         deck_->resumePanel();
     updateButtons();
-    Q_EMIT printed(outcome);
 }
 
 void PrintDialog::clearOldOutcome()
@@ -183,6 +182,9 @@ void PrintDialog::done(int result)
     rememberSize();
     deck_->tellClosing(hasPrinted_ || isRunning() || order_);
     deck_->releasePanels();
+    // Nobody is left to go on with it.
+    if (run_)
+        run_->setPaused(false);
     QDialog::done(result);
 }
 

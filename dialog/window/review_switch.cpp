@@ -31,10 +31,8 @@ QCheckBox* makeReviewSwitch(QWidget* parent)
         Words::tr("Shows the pages as the application has made them, before they go to the printer"));
     box->setChecked(reviewsDocuments());
     QObject::connect(box, &QCheckBox::toggled, box, [](bool isOn) {
-        UserDefaults& defaults = UserDefaults::standardUserDefaults();
-        QVariantMap values = defaults.persistentDomain(UserDefaults::globalDomain());
-        values.insert(kReviewKey, isOn);
-        defaults.setPersistentDomain(values, UserDefaults::globalDomain());
+        UserDefaults::standardUserDefaults().changeGlobal(
+            [isOn](QVariantMap& values) { values.insert(kReviewKey, isOn); });
     });
     return box;
 }

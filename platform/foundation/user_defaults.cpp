@@ -15,7 +15,7 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLockMilliseconds = 1000;
+constexpr int kLockMilliseconds = 200; // whoever holds it writes one small file
 
 QString settingsPath()
 {
@@ -44,6 +44,17 @@ bool isSame(const QVariantMap& read, const QVariantMap& wanted)
             return false;
     }
     return true;
+}
+
+QVariantMap valuesOf(const QString& domain, const QVariantMap& all)
+{
+    const QString prefix = domain + QLatin1Char('/');
+    QVariantMap values;
+    for (auto it = all.cbegin(); it != all.cend(); ++it) {
+        if (it.key().startsWith(prefix))
+            values.insert(it.key().mid(prefix.size()), it.value());
+    }
+    return values;
 }
 
 bool moveFile(const QString& from, const QString& to)
@@ -93,17 +104,10 @@ QString UserDefaults::globalDomain()
 
 QVariantMap UserDefaults::persistentDomain(const QString& domain) const
 {
-    const QString prefix = domain + QLatin1Char('/');
-    const QVariantMap all = readAll(settingsPath());
-    QVariantMap values;
-    for (auto it = all.cbegin(); it != all.cend(); ++it) {
-        if (it.key().startsWith(prefix))
-            values.insert(it.key().mid(prefix.size()), it.value());
-    }
-    return values;
+    return valuesOf(domain, readAll(settingsPath()));
 }
 
-void UserDefaults::setPersistentDomain(const QVariantMap& values, const QString& domain)
+void UserDefaults::changeDomain(const QString& domain, const std::function<void(QVariantMap& values)>& change)
 {
     const QString path = settingsPath();
     const QString prefix = domain + QLatin1Char('/');
@@ -112,6 +116,11 @@ void UserDefaults::setPersistentDomain(const QVariantMap& values, const QString&
     bool isWritten = lock.tryLock(kLockMilliseconds);
     if (isWritten) {
         QVariantMap all = readAll(path);
+        const QVariantMap before = valuesOf(domain, all);
+        QVariantMap values = before;
+        change(values);
+        if (values == before)
+            return;
         all.removeIf(
             [&](std::pair<const QString&, QVariant&> entry) { return entry.first.startsWith(prefix); });
         for (auto it = values.cbegin(); it != values.cend(); ++it)
@@ -120,6 +129,16 @@ void UserDefaults::setPersistentDomain(const QVariantMap& values, const QString&
     }
     if (!isWritten)
         logLine(QStringLiteral("could not write the user's defaults to %1").arg(path));
+}
+
+void UserDefaults::changeGlobal(const std::function<void(QVariantMap& values)>& change)
+{
+    changeDomain(globalDomain(), change);
+}
+
+void UserDefaults::setPersistentDomain(const QVariantMap& values, const QString& domain)
+{
+    changeDomain(domain, [&](QVariantMap& kept) { kept = values; });
 }
 
 QVariant UserDefaults::objectForKey(const QString& key) const

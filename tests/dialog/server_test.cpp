@@ -433,7 +433,7 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     visited.removeIf(
         [](const QString& name) { return name.startsWith(q("turn")) || name.startsWith(q("scaling")); });
     EXPECT_EQ(visited.join(u' '),
-              q("printer preset presetMenu search pageList paperSize borderless twoSided colourBy "
+              q("printer jobsButton preset presetMenu search pageList paperSize borderless twoSided colourBy "
                 "qt_tabwidget_tabbar upper lower copies outputButton cancelButton "
                 "printButton preview zoomButton addPhotos"))
         << qPrintable(visited.join(u' '));
