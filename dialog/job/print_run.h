@@ -51,6 +51,9 @@ public:
     /// Holds up the sending before the next photo, or goes on with it. The connection to the server stays.
     void setPaused(bool paused);
 
+    /// What is sent, but for the document.
+    const JobRequest& job() const { return job_; }
+
     int photoCount() const { return progress_.photos(); }
 
     bool isPaused() const { return progress_.isPaused(); }

@@ -5,7 +5,6 @@
 #include "dialog/window/print_dialog.h"
 
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace halvern {
 
@@ -27,30 +26,46 @@ QString statusWord(int exitStatus)
 
 } // namespace
 
-QByteArray dialogResult(DialogSession& session, PrintDialog& dialog, int exitStatus)
+DialogResult::DialogResult(DialogSession& session, PrintDialog& dialog) : session_(session), dialog_(dialog)
 {
-    QJsonObject result{{QStringLiteral("status"), statusWord(exitStatus)},
-                       {QStringLiteral("exitStatus"), exitStatus}};
-    const auto insert = [&result](const char* key, const QJsonValue& value) {
-        result.insert(QLatin1StringView(key), value);
-    };
-    const PrintRun* run = dialog.run();
-    insert("printer", session.printerName());
-    insert("job", run ? run->jobId() : 0);
-    insert("message", dialog.outcome().sentence);
-    insert("title", session.jobTitle());
-    insert("copies", session.page().copies);
-    insert("pages", rangesOf(session.chosenPages().pages));
+    // What is chosen afterwards is not what was sent.
+    connect(&dialog, &PrintDialog::started, this, [this] {
+        job_ = chosen();
+        job_.insert(QStringLiteral("options"), sentOptions());
+    });
+}
+
+QJsonObject DialogResult::chosen() const
+{
+    return {{QStringLiteral("printer"), session_.printerName()},
+            {QStringLiteral("title"), session_.jobTitle()},
+            {QStringLiteral("copies"), session_.page().copies},
+            {QStringLiteral("pages"), rangesOf(session_.chosenPages().pages)}};
+}
+
+QJsonObject DialogResult::sentOptions() const
+{
+    const JobRequest& job = dialog_.run()->job();
     QJsonObject options;
-    if (exitStatus != kExitCancelled) {
+    for (const OptionValue& option : job.options) {
         // Whoever reads this may keep it: no PIN and no password.
-        const QSet<QString> secrets = session.model() ? session.model()->secrets() : QSet<QString>();
-        for (const OptionValue& option : session.valuesToSend().list()) {
-            if (!secrets.contains(option.key))
-                options.insert(option.key, option.value);
-        }
+        if (!job.secrets.contains(option.key))
+            options.insert(option.key, option.value);
     }
-    insert("options", options);
+    return options;
+}
+
+QByteArray DialogResult::json(int exitStatus)
+{
+    QJsonObject result = job_;
+    if (result.isEmpty()) {
+        result = chosen();
+        result.insert(QStringLiteral("options"), QJsonObject());
+    }
+    result.insert(QStringLiteral("status"), statusWord(exitStatus));
+    result.insert(QStringLiteral("exitStatus"), exitStatus);
+    result.insert(QStringLiteral("job"), dialog_.run() ? dialog_.run()->jobId() : 0);
+    result.insert(QStringLiteral("message"), dialog_.outcome().sentence);
     return QJsonDocument(result).toJson(QJsonDocument::Compact);
 }
 

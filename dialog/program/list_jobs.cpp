@@ -4,8 +4,8 @@
 #include "dialog/program/exit_status.h"
 #include "dialog/program/listings.h"
 #include "dialog/program/queue_state.h"
-#include "dialog/program/quit_signals.h"
 #include "dialog/program/terminal_table.h"
+#include "dialog/session/quit_signals.h"
 #include "platform/foundation/display_text.h"
 
 #include <QCoreApplication>

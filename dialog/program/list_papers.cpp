@@ -6,10 +6,10 @@
 #include "dialog/program/paper_table.h"
 #include "dialog/program/printer_inquiry.h"
 #include "dialog/program/queue_state.h"
-#include "dialog/program/quit_signals.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
 #include "dialog/session/plugin_loader.h"
+#include "dialog/session/quit_signals.h"
 #include "platform/foundation/bundle.h"
 #include "platform/foundation/display_text.h"
 

@@ -4,9 +4,9 @@
 #include "dialog/program/exit_status.h"
 #include "dialog/program/option_listing.h"
 #include "dialog/program/queue_state.h"
-#include "dialog/program/quit_signals.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/session/preset_use.h"
+#include "dialog/session/quit_signals.h"
 #include "platform/foundation/display_text.h"
 
 #include <QCoreApplication>

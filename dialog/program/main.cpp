@@ -4,8 +4,8 @@
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/program/dialog_result.h"
-#include "dialog/program/quit_signals.h"
 #include "dialog/session/plugin_loader.h"
+#include "dialog/session/quit_signals.h"
 #include "dialog/window/print_dialog.h"
 #include "platform/foundation/display_text.h"
 
@@ -43,6 +43,7 @@ int runDialog(const CommandLine& line)
     DialogSession session(line.request, panels);
     PrintDialog dialog(session);
     const std::shared_ptr<QWindow> parent = line.parent ? putOver(&dialog, *line.parent, true) : nullptr;
+    DialogResult result(session, dialog);
     dialog.show();
     session.start();
     onQuitSignal(&dialog, [&dialog] {
@@ -62,7 +63,7 @@ int runDialog(const CommandLine& line)
         tellAfterwards(fileProblem);
     const int status = fileProblem.isEmpty() ? statusOf(dialog) : kExitFailed;
     if (line.resultJson)
-        writeLine(stdout, QString::fromUtf8(dialogResult(session, dialog, status)));
+        writeLine(stdout, QString::fromUtf8(result.json(status)));
     if (wasClosedEarly && status == kExitFailed)
         tellAfterwards(dialog.outcome().sentence);
     if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {

@@ -91,6 +91,7 @@ void PrintDialog::print()
         return;
     }
     delete run_;
+    outcome_ = {};
     message_->withdraw(kRunMessage);
     session_.noteUse();
     run_ = session_.makeRun();

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "dialog/program/dialog_result.h"
 #include "dialog/session/plugin_loader.h"
 #include "tests/support/real_dialog.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QPainter>
+#include <QSpinBox>
 
 namespace halvern {
 namespace {
@@ -47,7 +51,13 @@ TEST(PrintPhoto, TheSharpnessAndThePageArriveAsChosen)
     user.setOn(0x200, true);
     user.type(0x141, q("7"));
     user.type(0x142, q("1.237"));
+    DialogResult result(user.session, user.dialog);
     const int job = user.print();
+    user.dialog.findChild<QSpinBox*>(q("copies"))->setValue(9);
+    const QJsonObject told = QJsonDocument::fromJson(result.json(0)).object();
+    EXPECT_EQ(told.value(q("job")), job);
+    EXPECT_EQ(told.value(q("copies")), 1) << "what was sent, not what is chosen since";
+    EXPECT_EQ(told.value(q("options")).toObject().value(q("SharpnessEnabled")), q("True"));
     const auto options = server.receivedOptions(job);
     ASSERT_TRUE(options.has_value());
     EXPECT_EQ(options->at(q("SharpnessEnabled")), q("True"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dialog/program/quit_signals.h"
+#include "dialog/session/quit_signals.h"
 
 #include <QSocketNotifier>
 
