@@ -127,6 +127,10 @@ public:
     /// The sheet that it is printed on.
     PageLayout sheet() const { return page_.sheet(model()); }
 
+    /// What the document leaves free at the sheet's edges, in points; nothing if it has not said so, or if
+    /// the paper is another one.
+    std::optional<QMarginsF> documentMargins() const;
+
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model()); }
 
@@ -213,8 +217,8 @@ public:
     /// first.
     JobRequest makeOrder();
 
-    /// What is set now, as it is remembered as used last.
-    Preset usedNow() const { return presets_.usedNow(); }
+    /// What is set now, as it is remembered as used last; with `contents` also what such a preset leaves out.
+    Preset usedNow(const PresetContents& contents = {}) const { return presets_.usedNow(contents); }
 
     /// Makes what writes the current pages into a file; the caller starts it. Owned by the session. Call
     /// canPrint() first.

@@ -11,6 +11,7 @@
 
 #include <QFileInfo>
 
+#include <cmath>
 #include <limits>
 
 namespace halvern {
@@ -139,6 +140,18 @@ PrintRun* DialogSession::makeRun()
             presets_.offered().remember(queue, last);
         });
     return run;
+}
+
+std::optional<QMarginsF> DialogSession::documentMargins() const
+{
+    constexpr double kSamePoints = 1.5;
+    if (!document() || !document()->margins)
+        return std::nullopt;
+    const PageLayout now = sheet();
+    const QSizeF difference = (now.turned ? now.page.transposed() : now.page) - document()->paper;
+    const bool isSame =
+        std::abs(difference.width()) < kSamePoints && std::abs(difference.height()) < kSamePoints;
+    return isSame ? document()->margins : std::nullopt;
 }
 
 JobRequest DialogSession::makeOrder()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/handed_options.h"
 
+#include "dialog/options/common_words.h"
 #include "dialog/options/ppd_lookup.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/session/preset_use.h"
@@ -48,14 +49,37 @@ std::optional<QString> pageSizeOf(ppd_file_t* file, const HandedOptions& handed)
     return std::nullopt;
 }
 
+// What every printer does, whether it has an option for it or not.
+bool isUsual(const OptionValue& option)
+{
+    return option.value == QLatin1StringView("color") || option.value == QLatin1StringView("normal") ||
+           option.value == QLatin1StringView("auto");
+}
+
+// In the printer's own words where it has any. What it has no option for is left to be refused.
+QMap<QString, QString> inPrintersWords(ppd_file_t* file, const OptionValues& options, const PresetEntry* last)
+{
+    QMap<QString, QString> own;
+    for (const OptionValue& option : options) {
+        const QString key = optionForWords(file, option.key);
+        const QMap<QString, QString> now{{key, last && last->preset.options.contains(key)
+                                                   ? last->preset.options.value(key)
+                                                   : ppd::defaultChoice(file, key).value_or(QString())}};
+        if (const std::optional<OptionValue> choice = choiceForWord(file, option, now))
+            own.insert(choice->key, choice->value);
+        else if (!isUsual(option))
+            own.insert(key.isEmpty() ? option.key : key, option.value);
+    }
+    return own;
+}
+
 } // namespace
 
 std::optional<PresetEntry> withHanded(ppd_file_t* file, const QString& printer, const HandedOptions& handed,
                                       const PresetEntry* last)
 {
     Preset own;
-    for (const OptionValue& option : handed.options)
-        own.options.insert(option.key, option.value);
+    own.options = inPrintersWords(file, handed.options, last);
     if (handed.isFor(printer)) {
         for (const OptionValue& option : handed.printersOptions)
             own.options.insert(option.key, option.value);

@@ -172,14 +172,16 @@ bool SessionPresets::isAsChosen() const
     return !model || isAsPreset(*model, compared, chosen, session_.options.filledIn());
 }
 
-Preset SessionPresets::usedNow() const
+Preset SessionPresets::usedNow(const PresetContents& contents) const
 {
     const OptionChanges& options = session_.options;
     QMap<QString, QString> unchosen = printerDefaults_;
     for (const GivenOption& option : understoodSaved())
         unchosen.insert(option.key, option.value);
-    Preset last =
-        captureLastUsed(*options.model(), options.settings()->values(), session_.page.settings(), unchosen);
+    const QVariantMap saved = options.settings()->values();
+    const PageSettings& page = session_.page.settings();
+    Preset last = contents.backText ? capturePreset(*options.model(), saved, page, unchosen, contents)
+                                    : captureLastUsed(*options.model(), saved, page, unchosen);
     // The next time it is filled in again, by what is loaded then.
     const QMap<QString, QString>& filledIn = options.filledIn();
     for (auto it = filledIn.cbegin(); it != filledIn.cend(); ++it) {

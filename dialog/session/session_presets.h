@@ -67,8 +67,8 @@ public:
     /// Whether everything is set as the chosen preset has it.
     bool isAsChosen() const;
 
-    /// What is set now, as it is remembered as used last.
-    Preset usedNow() const;
+    /// What is set now, as it is remembered as used last; with `contents` also what such a preset leaves out.
+    Preset usedNow(const PresetContents& contents = {}) const;
 
 Q_SIGNALS:
     void notice(const QString& sentence);

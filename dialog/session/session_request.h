@@ -7,6 +7,7 @@
 #include "dialog/page/page_choice.h"
 #include "dialog/session/handed_options.h"
 
+#include <QMarginsF>
 #include <QStringList>
 
 namespace halvern {
@@ -22,6 +23,8 @@ struct BlindDocument {
     QString acceptText = {};  ///< what the program wants on the button, "&" before the key; empty: "Print"
     bool hasCurrentPage = false;
     bool hasSelection = false;
+    QSizeF paper = {};                     ///< that the margins are for: the upright sheet in points
+    std::optional<QMarginsF> margins = {}; ///< in points, of the page as its reader looks at it
 };
 
 /// What a session starts with.

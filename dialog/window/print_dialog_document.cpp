@@ -34,6 +34,8 @@ void PrintDialog::showDocument()
                      application.isEmpty() ? tr("An application") : application,
                      {},
                      session_.isTwoSided()};
+    if (const std::optional<QMarginsF> margins = session_.documentMargins())
+        sheet.layout.imageable &= QRectF(QPointF(), sheet.layout.page).marginsRemoved(*margins);
     if (!title.isEmpty() && title != application)
         sheet.lines.append(title);
     sheet.lines.append(document.isHere

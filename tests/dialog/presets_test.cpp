@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What is kept of a printer's settings: the files, and what of a preset reaches a printer.
+#include "dialog/options/common_words.h"
 #include "dialog/options/preset_file.h"
+#include "dialog/session/handed_options.h"
 #include "dialog/session/preset_use.h"
+#include "dialog/session/presets.h"
 #include "dialog/session/session_request.h"
 #include "dialog/session/starting_options.h"
 #include "tests/dialog/model_support.h"
@@ -204,6 +207,52 @@ TEST(PresetUse, WhatIsTypedForThePageWinsOverAPresetAndThatOverWhatIsSaved)
     Preset upright = presetWith("P", {});
     upright.page = {{q("turn"), q("portrait")}};
     EXPECT_EQ(startingPage({}, upright, request, {}).turn, PageTurn::landscape);
+}
+
+std::optional<PresetEntry> entryFor(const PpdModel& model, const char* word)
+{
+    HandedOptions handed;
+    handed.options = {*parseOption(q(word))};
+    return withHanded(model.file(), q("Q"), handed, nullptr);
+}
+
+TEST(PresetUse, AnotherProgramsWordsBecomeThePrintersOptions)
+{
+    const struct {
+        const char* word; ///< KEY=VALUE, in the words of IPP
+        const char* option;
+        const char* back; ///< the word for it; null: as it was
+    } cases[] = {
+        {"print-color-mode=monochrome", "ColorModel=Gray", nullptr},
+        {"print-color-mode=color", "ColorModel=CMYK", nullptr},
+        {"print-quality=draft", "StpQuality=Economy", nullptr},
+        {"media-type=photographic-glossy", "MediaType=GlossyPaper", nullptr},
+        {"media-type=Rough", "MediaType=Rough", nullptr},
+        {"media-type=parchment", "MediaType=parchment", "stationery"},
+        {"media-source=tray-2", "InputSlot=2Tray", nullptr},
+    };
+
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.word);
+        const auto model = modelOf(ppdHeader() + ppdOption("ColorModel", {"CMYK", "RGB", "Gray"}) +
+                                   ppdOption("StpQuality", {"Standard", "Economy"}) +
+                                   ppdOption("MediaType", {"Plain", "Rough", "GlossyPaper"}) +
+                                   ppdOption("InputSlot", {"Auto", "1Tray", "2Tray"}));
+        const OptionValue word = *parseOption(q(c.word));
+        const std::optional<PresetEntry> entry = entryFor(*model, c.word);
+        const OptionValue wanted = *parseOption(q(c.option));
+        ASSERT_TRUE(entry);
+        EXPECT_EQ(entry->preset.options, (QMap<QString, QString>{{wanted.key, wanted.value}}));
+        const StartingOptions start = applyGiven(*model, {}, &entry->preset, {});
+        EXPECT_EQ(start.leftOut.size(), c.back ? 1 : 0);
+        const QString back = wordForChoice(model->file(), word.key, model->values());
+        EXPECT_EQ(back, c.back ? q(c.back) : word.value);
+    }
+    const auto plain = modelOf(ppdHeader());
+    EXPECT_FALSE(entryFor(*plain, "print-color-mode=color")) << "it needs no option for that";
+    const std::optional<PresetEntry> gray = entryFor(*plain, "print-color-mode=monochrome");
+    ASSERT_TRUE(gray);
+    EXPECT_EQ(applyGiven(*plain, {}, &gray->preset, {}).leftOut.size(), 1);
 }
 
 TEST(PresetUse, AnOptionWithoutADefaultIsPartOfWhatDiffers)
