@@ -12,6 +12,7 @@ namespace {
 constexpr qsizetype kMostTexts = 20000;
 constexpr qsizetype kLongestText = 16384;
 constexpr qsizetype kLongestRanges = 2000;
+constexpr qsizetype kLongestWord = 255;
 constexpr double kLeastPaper = 10.0; // millimetres
 constexpr double kMostPaper = 20000.0;
 const QString kOptionPrefix = QStringLiteral("cups-");
@@ -88,6 +89,25 @@ constexpr std::array kParities{
     ParityWord{PageParity::even, "all", "even"}, ParityWord{PageParity::current, "current", "all"},
     ParityWord{PageParity::selection, "selection", "all"}};
 
+// The toolkits' words beside those of IPP's that mean the same.
+struct TwinWord {
+    const char* key;
+    const char* toolkits;
+    const char* attribute;
+    const char* word;
+};
+
+// Of several for the same the first goes back.
+constexpr std::array kTwins{
+    TwinWord{"use-color", "true", "print-color-mode", "color"},
+    TwinWord{"use-color", "false", "print-color-mode", "monochrome"},
+    TwinWord{"quality", "draft", "print-quality", "draft"},
+    TwinWord{"quality", "low", "print-quality", "draft"},
+    TwinWord{"quality", "normal", "print-quality", "normal"},
+    TwinWord{"quality", "high", "print-quality", "high"},
+    TwinWord{"default-source", "default", "media-source", "auto"},
+};
+
 struct DuplexWord {
     const char* duplex;
     const char* sides;
@@ -103,6 +123,21 @@ QString turnWord(const QString& before, bool isTurned)
     if (!before.isEmpty() && isLandscape(before) == isTurned)
         return before;
     return isTurned ? QStringLiteral("landscape") : QStringLiteral("portrait");
+}
+
+// The word that goes back; the one that came in, as long as it still says the same.
+QString toolkitsWord(const QString& before, const char* key, const QString& word)
+{
+    QString first;
+    for (const TwinWord& row : kTwins) {
+        if (QByteArrayView(row.key) != key || word != QLatin1StringView(row.word))
+            continue;
+        if (before == QLatin1StringView(row.toolkits))
+            return before;
+        if (first.isEmpty())
+            first = QLatin1StringView(row.toolkits);
+    }
+    return first.isEmpty() ? word : first;
 }
 
 double millimetres(double points)
@@ -159,6 +194,8 @@ void ApplicationSettings::checkTexts()
         return isOneOf(text, {"all", "current", "ranges", "selection"});
     });
     check("page-set", [](const QString& text) { return isOneOf(text, {"all", "odd", "even"}); });
+    for (const char* key : {"media-type", "default-source"})
+        check(key, [](const QString& text) { return text.size() <= kLongestWord; });
     check("page-ranges", [](const QString& text) { return peoplesRanges(text).has_value(); });
 }
 
@@ -185,6 +222,35 @@ void ApplicationSettings::takePageSetup(const QVariantMap& pageSetup)
     const QString name = word("Name", isName);
     paperName_ = ppdName.isEmpty() ? name : ppdName;
     pageTurn_ = word("Orientation", isTurn);
+    takeMargins(pageSetup);
+}
+
+// All four of them, or none: half of a page's margins are nobody's.
+void ApplicationSettings::takeMargins(const QVariantMap& pageSetup)
+{
+    const bool isTurned = isLandscape(pageTurn_);
+    const QSizeF page = isTurned ? paper_.transposed() : paper_;
+    bool isWhole = !paper_.isEmpty();
+    const auto margin = [&](const char* key, double longest) {
+        const QVariant value = pageSetup.value(QLatin1StringView(key));
+        const double length = value.typeId() == QMetaType::Double ? value.toDouble() : -1.0;
+        const bool isRight = length >= 0.0 && length < longest;
+        if (value.isValid() && !isRight && !paper_.isEmpty())
+            refused_.append(QLatin1StringView(key));
+        isWhole = isWhole && isRight;
+        return length * kPointsPerMillimetre;
+    };
+    const QMarginsF margins(
+        margin("MarginLeft", page.width() / 2.0), margin("MarginTop", page.height() / 2.0),
+        margin("MarginRight", page.width() / 2.0), margin("MarginBottom", page.height() / 2.0));
+    if (isWhole)
+        margins_ = margins;
+}
+
+void ApplicationSettings::applyMargins(BlindDocument& document) const
+{
+    document.paper = paper();
+    document.margins = margins_;
 }
 
 // Upright, in points; empty if nobody says.
@@ -224,6 +290,16 @@ void ApplicationSettings::applyTo(SessionRequest& request, const QString& giver)
         if (text("duplex") == QLatin1StringView(row.duplex))
             handed.options.append({QStringLiteral("sides"), QLatin1StringView(row.sides)});
     }
+    for (const TwinWord& row : kTwins) {
+        if (text(row.key) == QLatin1StringView(row.toolkits))
+            handed.options.append({QLatin1StringView(row.attribute), QLatin1StringView(row.word)});
+    }
+    // These are words of IPP's, or the printer's own.
+    if (const QString type = text("media-type"); !type.isEmpty())
+        handed.options.append({QStringLiteral("media-type"), type});
+    if (const QString source = text("default-source");
+        !source.isEmpty() && source != QLatin1StringView("default"))
+        handed.options.append({QStringLiteral("media-source"), source});
     request.handed = handed;
 }
 
@@ -245,10 +321,17 @@ QVariantMap ApplicationSettings::settingsFor(const AcceptedJob& job) const
     set("reverse", QStringLiteral("false"));
     set("number-up", QStringLiteral("1"));
     result.remove(QStringLiteral("number-up-layout"));
-    if (!result.contains(QStringLiteral("use-color")))
-        set("use-color", QStringLiteral("true"));
-    if (!result.contains(QStringLiteral("quality")))
-        set("quality", QStringLiteral("normal"));
+    for (const auto& [key, word, otherwise] : {std::tuple{"use-color", job.colourMode, "color"},
+                                               {"quality", job.quality, "normal"},
+                                               {"media-type", job.mediaType, ""},
+                                               {"default-source", job.mediaSource, ""}}) {
+        const QString now =
+            toolkitsWord(text(key), key, word.isEmpty() ? QString(QLatin1StringView(otherwise)) : word);
+        if (now.isEmpty())
+            result.remove(QLatin1StringView(key));
+        else
+            set(key, now);
+    }
     set("resolution", QString::number(job.resolution));
     set("scale", QString::number(job.scalePercent));
     set("orientation", turnWord(text("orientation"), job.sheet.turned));
@@ -282,6 +365,10 @@ QVariantMap ApplicationSettings::pageSetupFor(const AcceptedJob& job) const
 {
     const PageLayout& sheet = job.sheet;
     const QSizeF upright = sheet.turned ? sheet.page.transposed() : sheet.page;
+    const QRectF& printable = sheet.imageable;
+    const QMarginsF margins = job.margins.value_or(QMarginsF(printable.left(), printable.top(),
+                                                             sheet.page.width() - printable.right(),
+                                                             sheet.page.height() - printable.bottom()));
     const SheetName name = sheetName(job.pageSize);
     const QString measures = QStringLiteral("%1x%2mm")
                                  .arg(millimetres(upright.width()), 0, 'f', 0)
@@ -291,10 +378,10 @@ QVariantMap ApplicationSettings::pageSetupFor(const AcceptedJob& job) const
         {QStringLiteral("DisplayName"), job.pageText.isEmpty() ? measures : job.pageText},
         {QStringLiteral("Width"), millimetres(upright.width())},
         {QStringLiteral("Height"), millimetres(upright.height())},
-        {QStringLiteral("MarginTop"), millimetres(sheet.imageable.top())},
-        {QStringLiteral("MarginLeft"), millimetres(sheet.imageable.left())},
-        {QStringLiteral("MarginRight"), millimetres(sheet.page.width() - sheet.imageable.right())},
-        {QStringLiteral("MarginBottom"), millimetres(sheet.page.height() - sheet.imageable.bottom())},
+        {QStringLiteral("MarginTop"), millimetres(margins.top())},
+        {QStringLiteral("MarginLeft"), millimetres(margins.left())},
+        {QStringLiteral("MarginRight"), millimetres(margins.right())},
+        {QStringLiteral("MarginBottom"), millimetres(margins.bottom())},
         {QStringLiteral("Orientation"), turnWord(pageTurn_, sheet.turned)}};
     if (!name.keyword.isEmpty())
         page.insert(QStringLiteral("PPDName"), name.keyword);

@@ -21,6 +21,11 @@ struct AcceptedJob {
     QString sides = {};    ///< IPP's word
     int resolution = 0;    ///< dots per inch
     QString fileFormat = {};
+    QString colourMode = {}; ///< IPP's words; empty if nobody knows
+    QString quality = {};
+    QString mediaType = {};
+    QString mediaSource = {};
+    std::optional<QMarginsF> margins = {}; ///< the application's own, if they still go with the paper; points
 };
 
 /// The settings and the page set-up that an application hands in with a call of the portal, and what goes
@@ -37,6 +42,9 @@ public:
     /// Lets a session start with it; `giver` is what the user calls the application.
     void applyTo(SessionRequest& request, const QString& giver) const;
 
+    /// The margins that the application has set, and the paper that they are for.
+    void applyMargins(BlindDocument& document) const;
+
     /// What goes back: all that came in and was not changed, with what was accepted over it.
     QVariantMap settingsFor(const AcceptedJob& job) const;
 
@@ -48,6 +56,7 @@ private:
     void check(const char* key, const std::function<bool(const QString&)>& isRight);
     void checkTexts();
     void takePageSetup(const QVariantMap& pageSetup);
+    void takeMargins(const QVariantMap& pageSetup);
 
     QString text(const char* key) const { return texts_.value(QLatin1StringView(key)); }
 
@@ -56,7 +65,8 @@ private:
     QMap<QString, QString> texts_;
     QSizeF paper_; ///< millimetres, upright
     QString paperName_;
-    QString pageTurn_; ///< the word of the page set-up
+    std::optional<QMarginsF> margins_; ///< points
+    QString pageTurn_;                 ///< the word of the page set-up
     QStringList refused_;
 };
 

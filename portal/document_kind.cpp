@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace halvern {
@@ -15,24 +16,49 @@ struct Words {
 
 struct Row {
     DocumentKind kind;
-    QByteArrayView start;
-    const char* mimeType;
+    qsizetype at;
+    QByteArrayView bytes;
     const char* ending;
 };
 
+// Those that halvern-decode reads, and what goes out as it is.
 constexpr std::array kRows{
-    Row{DocumentKind::pdf, "%PDF-", "application/pdf", ".pdf"},
-    Row{DocumentKind::postScript, "%!", "application/postscript", ".ps"},
-    Row{DocumentKind::jpeg, "\xFF\xD8\xFF", "image/jpeg", ".jpg"},
-    Row{DocumentKind::png, "\x89PNG\r\n\x1A\n", "image/png", ".png"},
-    Row{DocumentKind::tiff, QByteArrayView("II*\0", 4), "image/tiff", ".tif"},
-    Row{DocumentKind::tiff, QByteArrayView("MM\0*", 4), "image/tiff", ".tif"},
+    Row{DocumentKind::pdf, 0, "%PDF-", ".pdf"},
+    Row{DocumentKind::postScript, 0, "%!", ".ps"},
+    Row{DocumentKind::picture, 0, "\xFF\xD8\xFF", ".jpg"},
+    Row{DocumentKind::picture, 0, "\x89PNG\r\n\x1A\n", ".png"},
+    Row{DocumentKind::picture, 0, QByteArrayView("II*\0", 4), ".tif"},
+    Row{DocumentKind::picture, 0, QByteArrayView("MM\0*", 4), ".tif"},
+    Row{DocumentKind::picture, 0, QByteArrayView("II+\0", 4), ".tif"},
+    Row{DocumentKind::picture, 0, QByteArrayView("MM\0+", 4), ".tif"},
+    Row{DocumentKind::picture, 8, "WEBP", ".webp"},
+    Row{DocumentKind::picture, 4, "ftypavi", ".avif"},
+    Row{DocumentKind::picture, 4, "ftyphe", ".heic"},
+    Row{DocumentKind::picture, 4, "ftypmi", ".heif"},
+    Row{DocumentKind::picture, 4, "ftypmsf1", ".heif"},
+    Row{DocumentKind::picture, 0, "GIF8", ".gif"},
+    Row{DocumentKind::picture, 0, "BM", ".bmp"},
 };
 
-const Row* rowOf(DocumentKind kind)
+// Both may stand behind a few lines for the printer.
+const char* endingBehindLines(const QByteArray& start)
+{
+    const QByteArray head = start.left(kKindBytes);
+    if (head.contains("%PDF-"))
+        return ".pdf";
+    const bool isForPrinter = head.startsWith("\x1B%-12345X") || head.startsWith('\x04');
+    return isForPrinter && head.contains("%!") ? ".ps" : nullptr;
+}
+
+const Row* rowOf(const QByteArray& start)
 {
     for (const Row& row : kRows) {
-        if (row.kind == kind)
+        if (QByteArrayView(start).sliced(std::min(row.at, start.size())).startsWith(row.bytes))
+            return &row;
+    }
+    const char* ending = endingBehindLines(start);
+    for (const Row& row : kRows) {
+        if (ending && QByteArrayView(ending) == row.ending)
             return &row;
     }
     return nullptr;
@@ -42,28 +68,20 @@ const Row* rowOf(DocumentKind kind)
 
 DocumentKind kindOf(const QByteArray& start)
 {
-    for (const Row& row : kRows) {
-        if (start.startsWith(row.start))
-            return row.kind;
-    }
-    // Both may stand behind a few lines for the printer.
-    const QByteArray head = start.left(kKindBytes);
-    if (head.contains("%PDF-"))
-        return DocumentKind::pdf;
-    const bool isForPrinter = head.startsWith("\x1B%-12345X") || head.startsWith('\x04');
-    return isForPrinter && head.contains("%!") ? DocumentKind::postScript : DocumentKind::unknown;
+    const Row* row = rowOf(start);
+    return row ? row->kind : DocumentKind::unknown;
+}
+
+QString endingOf(const QByteArray& start)
+{
+    const Row* row = rowOf(start);
+    return row ? QString::fromLatin1(row->ending) : QString();
 }
 
 QString mimeTypeOf(DocumentKind kind)
 {
-    const Row* row = rowOf(kind);
-    return row ? QString::fromLatin1(row->mimeType) : QString();
-}
-
-QString endingOf(DocumentKind kind)
-{
-    const Row* row = rowOf(kind);
-    return row ? QString::fromLatin1(row->ending) : QString();
+    return kind == DocumentKind::postScript ? QStringLiteral("application/postscript")
+                                            : QStringLiteral("application/pdf");
 }
 
 QString documentProblem(DocumentKind kind, qint64 size, const QByteArray& end)

@@ -15,7 +15,9 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace halvern {
@@ -25,6 +27,8 @@ namespace {
 constexpr qint64 kPiece = 1024 * 1024;
 constexpr int kLookUp = 200; // milliseconds until the flag is looked at again
 constexpr int kLongestName = 60;
+// What is left to others; of a small folder, which may be in memory, a quarter of it.
+constexpr qint64 kReserve = qint64(256) * 1024 * 1024;
 
 // In the order in which they are tried: the first is in memory, and small.
 QStringList spoolFolders()
@@ -58,6 +62,17 @@ QString fileName(const QString& title)
     return name.trimmed().isEmpty() ? QStringLiteral("document") : name.trimmed();
 }
 
+// Whoever holds it uses the folder. It goes with the process, however that ends.
+int lockFolder(const QString& folder)
+{
+    const int lock = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (lock >= 0 && flock(lock, LOCK_EX | LOCK_NB) == 0)
+        return lock;
+    if (lock >= 0)
+        close(lock);
+    return -1;
+}
+
 /// A folder of its own with one file, which go together.
 class Room {
 public:
@@ -67,14 +82,18 @@ public:
         if (mkdir(path.constData(), 0700) != 0 && errno != EEXIST)
             return;
         QByteArray own = path + "/XXXXXX";
-        if (isOurs(folder) && mkdtemp(own.data()))
-            folder_ = QFile::decodeName(own);
+        if (!isOurs(folder) || !mkdtemp(own.data()))
+            return;
+        folder_ = QFile::decodeName(own);
+        lock_ = lockFolder(folder_);
     }
 
     ~Room()
     {
         if (!folder_.isEmpty())
             QDir(folder_).removeRecursively();
+        if (lock_ >= 0)
+            close(lock_);
     }
 
     Room(const Room&) = delete;
@@ -84,6 +103,7 @@ public:
 
 private:
     QString folder_;
+    int lock_ = -1;
 };
 
 struct Filling {
@@ -101,11 +121,20 @@ struct Filling {
     }
 };
 
+bool hasRoom(const QFile& file, qint64 more)
+{
+    struct statvfs system = {};
+    if (fstatvfs(file.handle(), &system) != 0 || system.f_blocks == 0)
+        return true;
+    const auto bytes = [&](fsblkcnt_t blocks) { return qint64(blocks) * qint64(system.f_frsize); };
+    return bytes(system.f_bavail) - more >= std::min(kReserve, bytes(system.f_blocks) / 4);
+}
+
 // The whole piece, going over to the next folder where there is no room.
 bool write(std::unique_ptr<Filling>& filling, QStringList& folders, const QByteArray& piece)
 {
     const qint64 before = filling->file.pos();
-    while (filling->file.write(piece) != piece.size()) {
+    while (!hasRoom(filling->file, piece.size()) || filling->file.write(piece) != piece.size()) {
         auto next = std::make_unique<Filling>();
         while (!folders.isEmpty() && !next->open(folders.takeFirst())) {
         }
@@ -113,7 +142,7 @@ bool write(std::unique_ptr<Filling>& filling, QStringList& folders, const QByteA
             return false;
         for (qint64 left = before; left > 0;) {
             const QByteArray old = filling->file.read(std::min(left, kPiece));
-            if (old.isEmpty() || next->file.write(old) != old.size())
+            if (old.isEmpty() || !hasRoom(next->file, old.size()) || next->file.write(old) != old.size())
                 return false;
             left -= old.size();
         }
@@ -154,7 +183,9 @@ bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList fold
             problem = DocumentSpool::tr(
                           "There is no room for the document: %1. Make room on the disk, and print it "
                           "once more.")
-                          .arg(filling->file.errorString());
+                          .arg(filling->file.error() == QFile::NoError
+                                   ? QString::fromLocal8Bit(std::strerror(ENOSPC))
+                                   : filling->file.errorString());
             return false;
         }
     }
@@ -180,13 +211,13 @@ SpooledDocument spool(int descriptor, const QString& title, const cups::CancelFl
     QFile& file = filling->file;
     const qint64 size = file.size();
     file.seek(0);
-    document.kind = kindOf(file.read(kKindBytes));
+    const QByteArray start = file.read(kKindBytes);
+    document.kind = kindOf(start);
     file.seek(std::max(size - kKindBytes, qint64(0)));
     document.problem = documentProblem(document.kind, size, file.read(kKindBytes));
     if (!document.problem.isEmpty())
         return document;
-    const QString path =
-        filling->room->folder() + QLatin1Char('/') + fileName(title) + endingOf(document.kind);
+    const QString path = filling->room->folder() + QLatin1Char('/') + fileName(title) + endingOf(start);
     file.close();
     if (file.rename(path))
         document.path = std::shared_ptr<const QString>(
@@ -221,8 +252,16 @@ void DocumentSpool::start(int descriptor, const QString& title)
 void removeOldSpools()
 {
     for (const QString& folder : spoolFolders()) {
-        if (isOurs(folder))
-            QDir(folder).removeRecursively();
+        if (!isOurs(folder))
+            continue;
+        for (const QFileInfo& room : QDir(folder).entryInfoList(QDir::Dirs | QDir::Hidden |
+                                                                QDir::NoDotAndDotDot | QDir::NoSymLinks)) {
+            const int lock = lockFolder(room.filePath());
+            if (lock < 0)
+                continue;
+            QDir(room.filePath()).removeRecursively();
+            close(lock);
+        }
     }
 }
 

@@ -18,8 +18,8 @@ struct SpooledDocument {
 };
 
 /// Reads a document from a descriptor, wherever it stands, to its end: of a file, a pipe or a socket. A
-/// worker does it, into the user's run-time folder, or, where that is full, into the one for large temporary
-/// files. Main thread only.
+/// worker does it, into the user's run-time folder, or, where little room is left in that, into the one for
+/// large temporary files. Main thread only.
 class DocumentSpool : public QObject {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ private:
     cups::CancelFlag stop_ = cups::makeCancelFlag();
 };
 
-/// Removes what a program that was ended has left in the folders.
+/// Removes what programs that were ended have left in the folders.
 void removeOldSpools();
 
 } // namespace halvern

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "dialog/session/quit_signals.h"
 #include "dialog/window/translations.h"
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/threads/work_queue.h"
@@ -65,6 +66,7 @@ int serve(std::chrono::milliseconds idle)
     }
     removeOldSpools();
     QObject::connect(&service, &PrintService::over, qApp, &QCoreApplication::quit);
+    onQuitSignal(&service, [&service] { service.end(); });
     return QCoreApplication::exec();
 }
 
@@ -126,7 +128,9 @@ int main(int argc, char** argv)
         return kFailed;
     }
     const int status = serve(std::chrono::milliseconds(parser.value(idle).toInt()));
+    // Documents whose last word is still to be delivered have files.
     waitForWorkQueues(kLongestTidying);
+    QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return status;
 }

@@ -9,6 +9,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QMessageBox>
+#include <QTimer>
 
 namespace halvern {
 
@@ -17,6 +18,7 @@ namespace {
 const QString kService = QStringLiteral("org.freedesktop.Notifications");
 const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
 constexpr int kPatience = 3000; // milliseconds
+constexpr auto kLongestShown = std::chrono::minutes(10);
 
 } // namespace
 
@@ -25,6 +27,11 @@ Notices::Notices()
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.connect(kService, kPath, kService, QStringLiteral("ActionInvoked"), this, SLOT(act(uint, QString)));
     bus.connect(kService, kPath, kService, QStringLiteral("NotificationClosed"), this, SLOT(forget(uint)));
+    services_.setConnection(bus);
+    services_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    services_.addWatchedService(kService);
+    // Its buttons have gone with it.
+    connect(&services_, &QDBusServiceWatcher::serviceUnregistered, this, [this] { shown_.clear(); });
 }
 
 void Notices::tell(const QString& application, const QString& sentence, const std::shared_ptr<void>& keeps)
@@ -33,21 +40,41 @@ void Notices::tell(const QString& application, const QString& sentence, const st
                                               : tr("Printing from %1").arg(isolated(application)),
                         sentence, keeps};
     QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Notify"));
-    const QStringList actions{QStringLiteral("default"), tr("Show"), QStringLiteral("show"), tr("Show")};
+    const QStringList actions =
+        isLeaving_ ? QStringList()
+                   : QStringList{QStringLiteral("default"), tr("Show"), QStringLiteral("show"), tr("Show")};
     // The body is markup.
     call.setArguments({QStringLiteral("halvern-print"), 0U, QStringLiteral("printer"), notice.title,
                        displayText(sentence).toHtmlEscaped(), actions,
                        QVariantMap{{QStringLiteral("urgency"), QVariant::fromValue(uchar(2))}}, -1});
+    ++telling_;
     auto* answer =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, kPatience), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, notice] {
         answer->deleteLater();
+        --telling_;
         const QDBusPendingReply<uint> number = *answer;
-        if (number.isError())
-            show(notice);
+        if (!number.isError())
+            take(number.value(), notice);
+        else if (isLeaving_)
+            qWarning("%s", qUtf8Printable(notice.sentence));
         else
-            shown_.insert(number.value(), notice);
+            show(notice);
     });
+}
+
+void Notices::take(uint number, const Notice& notice)
+{
+    if (isLeaving_)
+        return;
+    shown_.insert(number, notice);
+    QTimer::singleShot(kLongestShown, this, [this, number] { forget(number); });
+}
+
+void Notices::leave()
+{
+    isLeaving_ = true;
+    shown_.clear();
 }
 
 void Notices::act(uint number, const QString&)
@@ -71,6 +98,7 @@ void Notices::show(const Notice& notice)
     box->setText(displayText(notice.sentence)); // plain: its format says so
     box->setProperty("keeps", QVariant::fromValue(notice.keeps));
     box->setWindowModality(Qt::NonModal);
+    connect(this, &QObject::destroyed, box, &QObject::deleteLater);
     box->show();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDBusServiceWatcher>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
@@ -12,8 +13,8 @@ class QMessageBox;
 namespace halvern {
 
 /// Tells the user what went wrong, since applications do not: in a notification of the desktop that opens a
-/// window with the whole of it, or, where nobody shows notifications, in that window at once. Main thread
-/// only, never waits.
+/// window with the whole of it, or, where nobody shows notifications, in that window at once. A button is
+/// answered for ten minutes, and as long as whoever shows it is there. Main thread only, never waits.
 class Notices : public QObject {
     Q_OBJECT
 
@@ -22,6 +23,13 @@ public:
 
     /// `keeps` is held until the user has been told, or does not want to be.
     void tell(const QString& application, const QString& sentence, const std::shared_ptr<void>& keeps);
+
+    /// From now on nobody is there whom a button would reach: what is shown is let go, and what is still told
+    /// is in a notification without one, or in the log.
+    void leave();
+
+    /// Whether somebody is being told right now.
+    bool isTelling() const { return telling_ > 0; }
 
 private Q_SLOTS:
     void act(uint number, const QString& action);
@@ -35,8 +43,12 @@ private:
     };
 
     void show(const Notice& notice);
+    void take(uint number, const Notice& notice);
 
     QHash<uint, Notice> shown_;
+    QDBusServiceWatcher services_;
+    int telling_ = 0;
+    bool isLeaving_ = false;
 };
 
 } // namespace halvern

@@ -46,8 +46,12 @@ public:
 
     virtual void start() = 0;
 
-    /// Closes what is open, and answers that the call has failed.
+    /// Closes what is open, and answers that the call has failed. What was accepted still goes to the
+    /// printer.
     virtual void close();
+
+    /// After close(): ends what has still not come to its end, and tells the user of it.
+    virtual void giveUp() { close(); }
 
     const QString& caller() const { return caller_; }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "portal/prepare_call.h"
 
+#include "dialog/options/common_words.h"
 #include "dialog/window/print_dialog.h"
 
 namespace halvern {
@@ -56,6 +57,7 @@ void PrepareCall::start()
     settings_.applyTo(request, applicationsName());
     request.document = BlindDocument{false, applicationsName(), withKey(text("accept_label")),
                                      isSet("has_current_page"), isSet("has_selected_pages")};
+    settings_.applyMargins(*request.document);
     // Remembered from a document that had them.
     PageParity& parity = request.pages.parity;
     if ((parity == PageParity::current && !isSet("has_current_page")) ||
@@ -77,7 +79,8 @@ void PrepareCall::takeEnd()
         return;
     }
     const AcceptedJob job = accepted();
-    PreparedJob prepared{details_.application, *order, reviewOf(*session_, *order, applicationsName())};
+    PreparedJob prepared{details_.application, *order, reviewOf(*session_, *order, applicationsName()),
+                         session_->model()->sheet(), session_->resolution()};
     answer(PortalResponse::done, {{QStringLiteral("settings"), settings_.settingsFor(job)},
                                   {QStringLiteral("page-setup"), settings_.pageSetupFor(job)},
                                   {QStringLiteral("token"), room_.tokens.keep(std::move(prepared))}});
@@ -88,19 +91,25 @@ AcceptedJob PrepareCall::accepted() const
 {
     const PageSettings& page = session_->page();
     PpdModel& model = *session_->model();
-    const QString pageSize = model.value(QStringLiteral("PageSize"));
-    return {session_->printerName(),
-            session_->usedNow().options,
-            page.copies,
-            page.pages,
-            page.scalePercent,
-            session_->sheet(),
-            pageSize,
-            model.choiceText(QStringLiteral("PageSize"), pageSize),
-            session_->isTwoSided() ? sidesWord(model.value(duplexOption(model.file())))
-                                   : QStringLiteral("one-sided"),
-            session_->resolution(),
-            fileFormat()};
+    AcceptedJob job{session_->printerName(), session_->usedNow({.backText = true}).options, page.copies,
+                    page.pages, page.scalePercent};
+    job.sheet = session_->sheet();
+    job.margins = session_->documentMargins();
+    job.pageSize = model.value(QStringLiteral("PageSize"));
+    job.pageText = model.choiceText(QStringLiteral("PageSize"), job.pageSize);
+    job.sides = session_->isTwoSided() ? sidesWord(model.value(duplexOption(model.file())))
+                                       : QStringLiteral("one-sided");
+    job.resolution = session_->resolution();
+    job.fileFormat = fileFormat();
+    const QMap<QString, QString> values = model.values();
+    const auto word = [&](const char* attribute) {
+        return wordForChoice(model.file(), QLatin1StringView(attribute), values);
+    };
+    job.colourMode = word("print-color-mode");
+    job.quality = word("print-quality");
+    job.mediaType = word("media-type");
+    job.mediaSource = word("media-source");
+    return job;
 }
 
 // Only where the application asks; nothing if it can make none that we can print.

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "portal/print_call.h"
 
+#include "dialog/page/photo_opening.h"
 #include "dialog/window/print_dialog.h"
 #include "dialog/window/review_switch.h"
+#include "platform/foundation/threads/work_queue.h"
 #include "portal/sent_job.h"
 
 namespace halvern {
@@ -37,31 +39,85 @@ void PrintCall::takeDocument(const SpooledDocument& document)
         fail(document.problem);
         return;
     }
-    if (prepared_ && !reviewsDocuments()) {
-        send(prepared_->order);
-        return;
-    }
+    if (prepared_ && !reviewsDocuments())
+        sendPrepared();
+    else
+        showDocument();
+}
+
+void PrintCall::showDocument()
+{
     SessionRequest request = prepared_ ? prepared_->review : SessionRequest();
     if (request.title.isEmpty())
         request.title = details_.title;
-    if (document.kind == DocumentKind::postScript)
+    // A picture has no page of its own.
+    if (document_.kind == DocumentKind::picture && request.scaling)
+        request.scaling = Scaling::fit;
+    if (document_.kind == DocumentKind::postScript)
         request.document = BlindDocument{true, applicationsName()};
     else
-        request.files = QStringList(*document.path);
+        request.files = QStringList(*document_.path);
     show(request);
+}
+
+void PrintCall::sendPrepared()
+{
+    if (document_.kind != DocumentKind::picture) {
+        send(prepared_->order);
+        return;
+    }
+    QPointer<PrintCall> self(this);
+    WorkQueue().async([self, path = document_.path] {
+        const PhotoFile file = openPhotoFile(*path);
+        mainQueue().async([self, file] {
+            if (self)
+                self->sendPictures(file);
+        });
+    });
+}
+
+// As the dialog prints a picture, in the place of the page that the application would have made.
+void PrintCall::sendPictures(const PhotoFile& file)
+{
+    if (file.pages.empty()) {
+        fail(file.problem);
+        return;
+    }
+    // Whether one is to be printed that is not whole is asked there.
+    if (!file.problem.isEmpty()) {
+        showDocument();
+        return;
+    }
+    const auto [paper, imageable] = prepared_->sheet;
+    std::vector<PageToPrint> pages;
+    for (const Photo& photo : file.pages)
+        pages.push_back({photo, layOut({paper, imageable, photo.ownSize})});
+    send(std::make_unique<PrintRun>(named(prepared_->order), std::move(pages),
+                                    PdfQuality{prepared_->resolution}, nullptr));
 }
 
 // What was accepted goes to the printer, also if the application has gone.
 void PrintCall::close()
 {
-    answer(PortalResponse::failed);
-    if (prepared_ && !dialog_ && !reviewsDocuments())
+    const bool isOnItsWay = isSent_ || (prepared_ && !dialog_ && !reviewsDocuments());
+    if (isOnItsWay)
         return;
     if (dialog_ && dialog_->isRunning()) {
-        dialog_->done(QDialog::Rejected);
+        if (dialog_->isVisible())
+            dialog_->done(QDialog::Rejected);
         return;
     }
+    answer(PortalResponse::failed);
     Q_EMIT over();
+}
+
+void PrintCall::giveUp()
+{
+    hasGivenUp_ = true;
+    if (dialog_ && dialog_->isRunning())
+        dialog_->run()->cancel();
+    else if (!isSent_)
+        fail(SentJob::givenUpSentence());
 }
 
 void PrintCall::fail(const QString& sentence)
@@ -71,18 +127,22 @@ void PrintCall::fail(const QString& sentence)
     Q_EMIT over();
 }
 
-void PrintCall::send(JobRequest order)
+JobRequest PrintCall::named(JobRequest order) const
 {
     if (order.title.isEmpty())
         order.title = details_.title.isEmpty() ? applicationsName() : details_.title;
+    return order;
+}
+
+void PrintCall::send(JobRequest order)
+{
     order.format = mimeTypeOf(document_.kind);
-    // A picture has no page of its own.
-    const bool isPicture = document_.kind != DocumentKind::pdf && document_.kind != DocumentKind::postScript;
-    for (OptionValue& option : order.options) {
-        if (isPicture && option.key == QLatin1StringView("print-scaling"))
-            option.value = QStringLiteral("fit");
-    }
-    auto* job = new SentJob(room_, applicationsName(), std::move(order), std::exchange(document_, {}));
+    send(std::make_unique<PrintRun>(named(std::move(order)), *document_.path, nullptr));
+}
+
+void PrintCall::send(std::unique_ptr<PrintRun> run)
+{
+    auto* job = new SentJob(room_, applicationsName(), std::move(run), std::exchange(document_, {}));
     connect(job, &SentJob::submitted, this, [this] {
         answer(PortalResponse::done);
         Q_EMIT over();
@@ -91,6 +151,7 @@ void PrintCall::send(JobRequest order)
         answer(PortalResponse::failed);
         Q_EMIT over();
     });
+    isSent_ = true;
     Q_EMIT sent(job);
     job->start();
 }
@@ -132,8 +193,8 @@ void PrintCall::takeEnd()
 
 void PrintCall::takeOutcome(const PrintOutcome& outcome)
 {
-    if (outcome.stage != JobStage::cancelled) {
-        fail(outcome.sentence);
+    if (outcome.stage != JobStage::cancelled || hasGivenUp_) {
+        fail(hasGivenUp_ ? SentJob::givenUpSentence() : outcome.sentence);
         return;
     }
     answer(PortalResponse::cancelled);

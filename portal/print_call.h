@@ -8,9 +8,11 @@
 
 namespace halvern {
 
+struct PhotoFile;
 struct PrintOutcome;
 
 class DialogSession;
+class PrintRun;
 class SentJob;
 
 /// A document that an application hands over: printed at once with what was accepted for it before, or shown
@@ -25,8 +27,8 @@ public:
 
     void start() override;
 
-    /// A job that was accepted still goes to the printer.
     void close() override;
+    void giveUp() override;
 
 Q_SIGNALS:
     /// Sent without a window; the job outlives the call.
@@ -35,7 +37,12 @@ Q_SIGNALS:
 private:
     void takeDocument(const SpooledDocument& document);
     void fail(const QString& sentence);
+    void sendPrepared();
+    void sendPictures(const PhotoFile& file);
     void send(JobRequest order);
+    void send(std::unique_ptr<PrintRun> run);
+    void showDocument();
+    JobRequest named(JobRequest order) const;
     void show(SessionRequest request);
     void takeEnd();
     void takeOutcome(const PrintOutcome& outcome);
@@ -45,6 +52,8 @@ private:
     DocumentSpool spool_;
     SpooledDocument document_;
     std::optional<PreparedJob> prepared_;
+    bool isSent_ = false;
+    bool hasGivenUp_ = false;
     std::unique_ptr<DialogSession> session_;
     std::unique_ptr<PrintDialog> dialog_;
 };

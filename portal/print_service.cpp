@@ -8,6 +8,8 @@
 #include <QDBusConnection>
 #include <QDBusError>
 
+#include <algorithm>
+
 namespace halvern {
 
 namespace {
@@ -15,10 +17,12 @@ namespace {
 const QString kName = QStringLiteral("org.freedesktop.impl.portal.desktop.tessarin");
 const QString kRequest = QStringLiteral("org.freedesktop.impl.portal.Request");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+constexpr auto kLookUp = std::chrono::milliseconds(20);
+constexpr auto kLongestTakingBack = std::chrono::seconds(5);
 
 } // namespace
 
-PrintService::PrintService(PortalTimes times) : tokens_(times.token), life_(times.idle)
+PrintService::PrintService(PortalTimes times) : times_(times), tokens_(times.token), life_(times.idle)
 {
     new PrintAdaptor(this);
     callers_.setConnection(QDBusConnection::sessionBus());
@@ -57,6 +61,8 @@ QString PrintService::enter()
 // Whoever calls from now on starts a new program; what came before is still served.
 void PrintService::leave()
 {
+    if (isEnding_)
+        return;
     QDBusConnection::sessionBus().unregisterService(kName);
     QMetaObject::invokeMethod(
         this,
@@ -69,8 +75,51 @@ void PrintService::leave()
         Qt::QueuedConnection);
 }
 
+void PrintService::end()
+{
+    if (std::exchange(isEnding_, true))
+        return;
+    QDBusConnection::sessionBus().unregisterService(kName);
+    notices_.leave();
+    for (PortalCall* call : findChildren<PortalCall*>())
+        call->close();
+    QTimer::singleShot(times_.sending, this, &PrintService::giveUp);
+    auto* look = new QTimer(this);
+    connect(look, &QTimer::timeout, this, [this, look] {
+        if (isOnItsWay())
+            return;
+        look->stop();
+        Q_EMIT over();
+    });
+    look->start(kLookUp);
+}
+
+void PrintService::giveUp()
+{
+    for (PortalCall* call : findChildren<PortalCall*>())
+        call->giveUp();
+    for (SentJob* job : findChildren<SentJob*>()) {
+        if (job->isOnItsWay())
+            job->giveUp();
+    }
+    QTimer::singleShot(kLongestTakingBack, this, &PrintService::over);
+}
+
+// What the print server has whole needs nobody here any more.
+bool PrintService::isOnItsWay() const
+{
+    const QList<SentJob*> jobs = findChildren<SentJob*>();
+    return findChild<PortalCall*>() || notices_.isTelling() ||
+           std::ranges::any_of(jobs, [](const SentJob* job) { return job->isOnItsWay(); });
+}
+
 void PrintService::begin(PortalCall* call)
 {
+    if (isEnding_) {
+        const std::unique_ptr<PortalCall> late(call);
+        late->giveUp();
+        return;
+    }
     call->setParent(this);
     callers_.addWatchedService(call->caller());
     connect(call, &PortalCall::over, call, [this, call] {

@@ -17,6 +17,7 @@ namespace halvern {
 struct PortalTimes {
     std::chrono::milliseconds idle = std::chrono::seconds(60);
     std::chrono::milliseconds token = std::chrono::minutes(10);
+    std::chrono::milliseconds sending = std::chrono::seconds(5); ///< at the program's end
 };
 
 class PrintService;
@@ -53,14 +54,22 @@ public:
     /// Takes a call back. False if `caller` has made none with that handle.
     bool close(const QString& handle, const QString& caller);
 
+    /// Ends the service, whatever is going on: nobody reaches it any more, and dialogs are answered as
+    /// failed. What was accepted has the time for sending to get to the print server; then it is taken back,
+    /// and the user told. over() follows in any case, some seconds after that at most.
+    void end();
+
 Q_SIGNALS:
-    /// Nothing has been going on for a while, and nobody reaches the service any more.
+    /// Nothing has been going on for a while, or end() was called, and nobody reaches the service any more.
     void over();
 
 private:
     void begin(PortalCall* call);
     void leave();
+    void giveUp();
+    bool isOnItsWay() const;
 
+    PortalTimes times_;
     PluginLoader panels_;
     TokenStore tokens_;
     Notices notices_;
@@ -68,6 +77,7 @@ private:
     std::shared_ptr<void> heldForTokens_;
     QDBusServiceWatcher callers_;
     RequestTree requests_{*this};
+    bool isEnding_ = false;
 };
 
 /// The service's object on the bus.

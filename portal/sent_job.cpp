@@ -5,19 +5,27 @@
 
 namespace halvern {
 
-SentJob::SentJob(PortalRoom room, const QString& application, JobRequest job, SpooledDocument document)
+namespace {
+
+constexpr Patience kPatience{.untilGivenUp = std::chrono::minutes(2)};
+
+} // namespace
+
+SentJob::SentJob(PortalRoom room, const QString& application, std::unique_ptr<PrintRun> run,
+                 SpooledDocument document)
     : room_(room),
       application_(application),
       document_(std::move(document)),
       keepsAlive_(room.life.hold()),
-      run_(std::move(job), *document_.path, nullptr)
+      run_(std::move(run))
 {
-    connect(&run_, &PrintRun::submitted, this, [this] {
+    run_->setPatience(kPatience);
+    connect(run_.get(), &PrintRun::submitted, this, [this] {
         document_.path.reset(); // the server has it
         Q_EMIT submitted();
     });
-    connect(&run_, &PrintRun::followed, this, &SentJob::takeStatus);
-    connect(&run_, &PrintRun::finished, this, &SentJob::takeOutcome);
+    connect(run_.get(), &PrintRun::followed, this, &SentJob::takeStatus);
+    connect(run_.get(), &PrintRun::finished, this, &SentJob::takeOutcome);
 }
 
 // Nobody looks on, and what keeps a job from being printed is told once.
@@ -31,9 +39,23 @@ void SentJob::takeStatus(const JobStatus& status, const QString& sentence)
     room_.notices.tell(application_, sentence, keepsAlive_);
 }
 
+void SentJob::giveUp()
+{
+    hasGivenUp_ = true;
+    run_->cancel();
+}
+
+QString SentJob::givenUpSentence()
+{
+    return tr("The document was not printed: the session ended before the print server had all of it. "
+              "Print it once more.");
+}
+
 void SentJob::takeOutcome(const PrintOutcome& outcome)
 {
-    if (!outcome.printed && outcome.stage != JobStage::cancelled)
+    if (hasGivenUp_ && outcome.stage == JobStage::cancelled)
+        room_.notices.tell(application_, givenUpSentence(), keepsAlive_);
+    else if (!outcome.printed && outcome.stage != JobStage::cancelled)
         room_.notices.tell(application_, outcome.sentence, keepsAlive_);
     if (outcome.jobId == 0)
         Q_EMIT failed();

@@ -15,9 +15,20 @@ class SentJob : public QObject {
     Q_OBJECT
 
 public:
-    SentJob(PortalRoom room, const QString& application, JobRequest job, SpooledDocument document);
+    /// `run` sends what `document` holds.
+    SentJob(PortalRoom room, const QString& application, std::unique_ptr<PrintRun> run,
+            SpooledDocument document);
 
-    void start() { run_.start(); }
+    void start() { run_->start(); }
+
+    /// Whether there is something that whoever ends the program waits for.
+    bool isOnItsWay() const { return hasGivenUp_ ? !run_->isOver() : run_->jobId() == 0; }
+
+    /// Takes back what the server does not have whole, and tells the user.
+    void giveUp();
+
+    /// The sentence for a document that was accepted and did not get to the server in time.
+    static QString givenUpSentence();
 
 Q_SIGNALS:
     /// The server has the whole job.
@@ -35,8 +46,9 @@ private:
     QString application_;
     SpooledDocument document_;
     std::shared_ptr<void> keepsAlive_;
-    PrintRun run_;
+    std::unique_ptr<PrintRun> run_;
     QSet<QString> told_;
+    bool hasGivenUp_ = false;
 };
 
 } // namespace halvern

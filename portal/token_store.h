@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/job/job_submitter.h"
+#include "dialog/options/ppd_model.h"
 #include "dialog/session/session_request.h"
 
 #include <QObject>
@@ -18,6 +19,8 @@ struct PreparedJob {
     QString application; ///< its identifier: nobody else's document is printed so
     JobRequest order;
     SessionRequest review; ///< the dialog that shows the document with the same settings
+    SheetGeometry sheet = {};
+    int resolution = 300; ///< dots per inch
 };
 
 /// Prepared jobs by numbers that nobody can guess. Each is handed out once, and forgotten after a while. Main

@@ -38,6 +38,9 @@ TEST(ApplicationSettings, TellTheDialogWhatTheApplicationWants)
                                         {q("page-set"), q("even")},
                                         {q("scale"), q("90")},
                                         {q("duplex"), q("vertical")},
+                                        {q("use-color"), q("false")},
+                                        {q("quality"), q("low")},
+                                        {q("default-source"), q("rear")},
                                         {q("printer"), q("Q")},
                                         {q("cups-PaperTone"), q("Warm")}},
                                        {{q("PPDName"), q("A4")},
@@ -51,7 +54,10 @@ TEST(ApplicationSettings, TellTheDialogWhatTheApplicationWants)
     EXPECT_EQ(request.pages, (PageChoice{q("1-3, 7"), PageParity::even, true}));
     EXPECT_EQ(request.scalePercent, 90);
     EXPECT_EQ(request.turn, PageTurn::landscape);
-    EXPECT_EQ(request.handed->options, (OptionValues{{q("sides"), q("two-sided-short-edge")}}));
+    EXPECT_EQ(request.handed->options, (OptionValues{{q("sides"), q("two-sided-short-edge")},
+                                                     {q("print-color-mode"), q("monochrome")},
+                                                     {q("print-quality"), q("draft")},
+                                                     {q("media-source"), q("rear")}}));
     EXPECT_EQ(request.handed->printersOptions, (OptionValues{{q("PaperTone"), q("Warm")}}));
     EXPECT_TRUE(request.handed->isFor(q("Q")));
     EXPECT_FALSE(request.handed->isFor(q("Other")));
@@ -85,10 +91,15 @@ TEST(ApplicationSettings, GoBackWithoutWhatTheServerDoes)
                                         {q("own-word"), q("kept")},
                                         {q("page-ranges"), q("1-1")},
                                         {q("cups-Gone"), q("1")},
+                                        {q("quality"), q("low")},
+                                        {q("use-color"), q("false")},
+                                        {q("media-type"), q("parchment")},
                                         {q("orientation"), q("reverse_portrait")}},
                                        {{q("Orientation"), q("reverse-portrait")}});
     AcceptedJob job = acceptedA4(false);
     job.pages = {q("2-4, 9-"), PageParity::odd, true};
+    job.quality = q("draft");
+    job.mediaSource = q("tray-2");
     const QVariantMap back = settings.settingsFor(job);
     const QVariantMap expected{{q("n-copies"), q("1")},
                                {q("collate"), q("false")},
@@ -98,6 +109,10 @@ TEST(ApplicationSettings, GoBackWithoutWhatTheServerDoes)
                                {q("print-pages"), q("ranges")},
                                {q("page-ranges"), q("1-3,8-99999")},
                                {q("page-set"), q("odd")},
+                               {q("quality"), q("low")},
+                               {q("use-color"), q("true")},
+                               {q("media-type"), QVariant()},
+                               {q("default-source"), q("tray-2")},
                                {q("duplex"), q("vertical")},
                                {q("printer"), q("Q")},
                                {q("cups-PaperTone"), q("Standard")},
@@ -130,10 +145,13 @@ TEST(ApplicationSettings, GoBackWithTheWholePage)
     for (const auto& [key, points] : lengths)
         EXPECT_NEAR(page.value(q(key)).toDouble(), points * 25.4 / 72.0, 0.01) << key;
     AcceptedJob custom = acceptedA4(false);
+    custom.margins = QMarginsF(0, 36, 0, 0);
     custom.pageSize = q("Custom.595x842");
     const QVariantMap own = ApplicationSettings({}, {}).pageSetupFor(custom);
     EXPECT_FALSE(own.contains(q("PPDName")));
     EXPECT_EQ(own.value(q("Name")), q("custom_210x297mm"));
+    EXPECT_NEAR(own.value(q("MarginTop")).toDouble(), 12.7, 0.01);
+    EXPECT_EQ(own.value(q("MarginLeft")), 0.0);
 }
 
 TEST(TokenStore, HandsEachJobOutOnceAndToItsApplication)
@@ -167,11 +185,15 @@ TEST(DocumentKind, IsReadFromTheContent)
     EXPECT_EQ(kindOf("junk\n%PDF-1.4\n"), DocumentKind::pdf);
     EXPECT_EQ(kindOf("%!PS-Adobe-3.0\n"), DocumentKind::postScript);
     EXPECT_EQ(kindOf("\x1B%-12345X@PJL\n%!PS\n"), DocumentKind::postScript);
-    EXPECT_EQ(kindOf(QByteArray("MM\0*", 4)), DocumentKind::tiff);
+    EXPECT_EQ(kindOf(QByteArray("MM\0*", 4)), DocumentKind::picture);
+    EXPECT_EQ(endingOf(QByteArray("\0\0\0 ftypavif", 12)), q(".avif"));
+    EXPECT_EQ(endingOf("RIFF....WEBPVP8 "), q(".webp"));
+    EXPECT_EQ(endingOf("\x1B%-12345X@PJL\n%!PS\n"), q(".ps"));
     EXPECT_EQ(kindOf("He wrote %! in a letter"), DocumentKind::unknown);
+    EXPECT_EQ(kindOf("Hm"), DocumentKind::unknown);
     EXPECT_FALSE(documentProblem(DocumentKind::pdf, 9, "%PDF-1.4\n").isEmpty()) << "cut off";
     EXPECT_TRUE(documentProblem(DocumentKind::pdf, 9, "\n%%EOF\n").isEmpty());
-    EXPECT_FALSE(documentProblem(DocumentKind::jpeg, 0, {}).isEmpty());
+    EXPECT_FALSE(documentProblem(DocumentKind::picture, 0, {}).isEmpty());
 }
 
 class FrontEnds : public testing::Test {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/print_dialog.h"
 #include "dialog/window/review_switch.h"
+#include "portal/print_call.h"
 #include "portal/print_service.h"
 #include "portal/sent_job.h"
 #include "tests/support/files.h"
@@ -9,6 +10,7 @@
 #include "tests/support/server_test.h"
 
 #include <QBuffer>
+#include <QComboBox>
 #include <QDBusConnection>
 #include <QDBusPendingReply>
 #include <QMessageBox>
@@ -59,6 +61,12 @@ protected:
     static void SetUpTestSuite()
     {
         bus = std::make_unique<PrivateBus>("DBUS_SESSION_BUS_ADDRESS");
+        startServer();
+    }
+
+    static void startServer()
+    {
+        server.reset();
         ServerTest::SetUpTestSuite();
         ASSERT_TRUE(server->addQueue(q("Tessarin"), {}, {}, {q("--default")})) << qPrintable(server->error());
     }
@@ -87,13 +95,15 @@ protected:
         return frontEnd.asyncCall(message);
     }
 
-    Answer prepare(const QVariantMap& settings = {}, const QString& handle = handleOf("prepare"))
+    Answer prepare(const QVariantMap& settings = {}, const QString& handle = handleOf("prepare"),
+                   const QVariantMap& options = {})
     {
         return call("PreparePrint", {QVariant::fromValue(QDBusObjectPath(handle)), q("org.example.Editor"),
-                                     QString(), q("Print"), settings, QVariantMap(), QVariantMap()});
+                                     QString(), q("Print"), settings, QVariantMap(), options});
     }
 
-    Answer print(const QByteArray& document, const QVariantMap& options)
+    /// `rest` is what the document is written to afterwards, if somebody wants to: the caller's to close.
+    Answer print(const QByteArray& document, const QVariantMap& options, int* rest = nullptr)
     {
         int ends[2];
         EXPECT_EQ(pipe(ends), 0);
@@ -103,13 +113,22 @@ protected:
             call("Print", {QVariant::fromValue(QDBusObjectPath(handleOf("print"))), q("org.example.Editor"),
                            QString(), q("Letter"), QVariant::fromValue(descriptor), options});
         EXPECT_EQ(write(ends[1], document.constData(), size_t(document.size())), document.size());
-        close(ends[1]);
+        if (rest)
+            *rest = ends[1];
+        else
+            close(ends[1]);
         return answer;
     }
 
     static bool isAnswered(const Answer& answer)
     {
         return waitUntil([&] { return answer.isFinished(); }) && answer.isValid();
+    }
+
+    static void finish(int rest, const QByteArray& document)
+    {
+        EXPECT_EQ(write(rest, document.constData(), size_t(document.size())), document.size());
+        close(rest);
     }
 
     static int lastJob()
@@ -137,8 +156,10 @@ protected:
         return answer.argumentAt<1>();
     }
 
+    QVariantMap acceptedToken() { return {{q("token"), accept(1).value(q("token"))}}; }
+
     static inline std::unique_ptr<PrivateBus> bus;
-    PrintService service;
+    PrintService service{{.sending = std::chrono::minutes(1)}};
     QDBusConnection frontEnd =
         QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), q("front end"));
 };
@@ -223,6 +244,95 @@ TEST_F(Portal, ClosesWhatNobodyWaitsForAndLeavesNothing)
     EXPECT_TRUE(waitUntil([this] { return !service.findChild<PortalCall*>(); }));
     EXPECT_FALSE(shown<PrintDialog>());
     EXPECT_TRUE(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR") + q("/halvern-print-portal")).isEmpty());
+}
+
+TEST_F(Portal, AsksAndAnswersInTheApplicationsWords)
+{
+    const Answer answer = prepare({{q("use-color"), q("false")},
+                                   {q("cups-EnableCVP1"), q("True")},
+                                   {q("cups-CVP1"), q("Lake")},
+                                   {q("printer"), q("Tessarin")}},
+                                  handleOf("prepare"),
+                                  {{q("accept_label"), q("_Make & print")},
+                                   {q("has_current_page"), true},
+                                   {q("has_selected_pages"), q("yes")},
+                                   {q("supported_output_file_formats"), QStringList{q("svg"), q("ps")}}});
+    PrintDialog* const dialog = readyDialog();
+    auto* const button = dialog->findChild<QPushButton*>(q("printButton"));
+    EXPECT_EQ(button->text(), q("&Make && print"));
+    const auto* const pages = dialog->findChild<QComboBox*>(q("pageParity"));
+    EXPECT_GE(pages->findData(int(PageParity::current)), 0);
+    EXPECT_LT(pages->findData(int(PageParity::selection)), 0) << "of a wrong type";
+    button->click();
+    ASSERT_TRUE(isAnswered(answer));
+    const auto settings = qdbus_cast<QVariantMap>(answer.argumentAt<1>().value(q("settings")));
+    for (const auto& [key, value] : {std::pair("output-file-format", "ps"),
+                                     {"use-color", "false"},
+                                     {"cups-ColorModel", "Gray"},
+                                     {"cups-CVP1", "Lake"}})
+        EXPECT_EQ(settings.value(q(key)), q(value)) << key;
+}
+
+TEST_F(Portal, PrintsAPictureAsTheDialogDoes)
+{
+    QBuffer png;
+    QImage image(60, 40, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    image.save(&png, "PNG");
+    const Answer printed = print(png.data(), acceptedToken());
+    ASSERT_TRUE(isAnswered(printed));
+    EXPECT_EQ(printed.argumentAt<0>(), 0U);
+    EXPECT_TRUE(waitUntil([this] { return !service.findChild<SentJob*>(); }));
+    EXPECT_EQ(jobAttribute(lastJob(), "document-format"), QStringList{q("application/pdf")});
+    EXPECT_EQ(sheetsOf(*server, lastJob()), 1);
+}
+
+TEST_F(Portal, PrintsWhatWasAcceptedAlsoForAnApplicationThatHasGone)
+{
+    const QByteArray document = twoPages();
+    int rest = -1;
+    print(document.first(100), acceptedToken(), &rest);
+    ASSERT_TRUE(waitUntil([this] { return service.findChild<PrintCall*>(); }));
+    QDBusConnection::disconnectFromBus(q("front end"));
+    frontEnd = QDBusConnection(QString());
+    const int before = lastJob();
+    finish(rest, document.sliced(100));
+    EXPECT_TRUE(waitUntil([&] { return lastJob() > before && !service.findChild<SentJob*>(); }));
+    EXPECT_EQ(sheetsOf(*server, lastJob()), 2);
+}
+
+TEST_F(Portal, EndsWithoutLosingWhatWasAccepted)
+{
+    const QByteArray document = twoPages();
+    int rest = -1;
+    const Answer sent = print(document.first(100), acceptedToken(), &rest);
+    const Answer open = prepare();
+    ASSERT_TRUE(readyDialog());
+    bool isOver = false;
+    QObject::connect(&service, &PrintService::over, [&] { isOver = true; });
+    service.end();
+    ASSERT_TRUE(isAnswered(open));
+    EXPECT_EQ(open.argumentAt<0>(), 2U);
+    EXPECT_TRUE(!isOver && !sent.isFinished());
+    finish(rest, document.sliced(100));
+    ASSERT_TRUE(isAnswered(sent));
+    EXPECT_EQ(sent.argumentAt<0>(), 0U);
+    EXPECT_TRUE(waitUntil([&] { return isOver; }));
+}
+
+TEST_F(Portal, TellsThatTheServerWentAfterTheDialog)
+{
+    const QVariantMap token = acceptedToken();
+    ASSERT_TRUE(server->stop());
+    const Answer lost = print(twoPages(), token);
+    ASSERT_TRUE(isAnswered(lost));
+    EXPECT_EQ(lost.argumentAt<0>(), 2U);
+    QMessageBox* box = nullptr;
+    ASSERT_TRUE(waitUntil([&] { return (box = shown<QMessageBox>()); }));
+    EXPECT_FALSE(box->text().isEmpty());
+    box->close();
+    drainMainQueue();
+    startServer();
 }
 
 TEST_F(Portal, EndsWhenNothingGoesOn)
