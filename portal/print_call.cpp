@@ -89,10 +89,10 @@ void PrintCall::sendPictures(const PhotoFile& file)
         return;
     }
     const auto [paper, imageable] = prepared_->sheet;
-    std::vector<PageToPrint> pages;
+    std::vector<SheetToPrint> sheets;
     for (const Photo& photo : file.pages)
-        pages.push_back({photo, layOut({paper, imageable, photo.ownSize})});
-    send(std::make_unique<PrintRun>(named(prepared_->order), std::move(pages),
+        sheets.emplace_back(photo, layOut({paper, imageable, photo.ownSize}));
+    send(std::make_unique<PrintRun>(named(prepared_->order), std::move(sheets),
                                     PdfQuality{prepared_->resolution}, nullptr));
 }
 
