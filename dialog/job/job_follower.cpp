@@ -8,6 +8,8 @@ namespace halvern {
 namespace {
 
 constexpr int kAskEveryMilliseconds = 300;
+// Well beyond the limits of a question: whoever looks up a host's name is out of their reach.
+constexpr std::chrono::seconds kStuck(15);
 
 } // namespace
 
@@ -39,6 +41,7 @@ JobFollower::~JobFollower()
 
 void JobFollower::ask()
 {
+    askedAt_.start();
     QPointer<JobFollower> self(this);
     questions_.async([self, line = line_, queue = queue_, jobId = jobId_, sent = sent_, stop = stop_] {
         if (!line->server || !line->server->isConnected())
@@ -70,6 +73,7 @@ void JobFollower::take(const JobStatus& status)
     if (status.stage == JobStage::unknown)
         return;
     silence_.start();
+    isSilent_ = false;
     if (patienceEnd_.isActive())
         patienceEnd_.start();
     if (hasEnded(status.stage)) {
@@ -86,8 +90,22 @@ void JobFollower::take(const JobStatus& status)
 
 void JobFollower::tellSilence()
 {
+    replaceStuckWorker();
+    silence_.start();
+    if (std::exchange(isSilent_, true))
+        return;
     status_ = {};
     Q_EMIT changed(status_);
+}
+
+// The old one is left to itself.
+void JobFollower::replaceStuckWorker()
+{
+    if (timer_.isActive() || !askedAt_.hasExpired(std::chrono::milliseconds(kStuck).count()))
+        return;
+    questions_ = WorkQueue();
+    line_ = std::make_shared<Line>();
+    ask();
 }
 
 void JobFollower::end(const JobStatus& status)

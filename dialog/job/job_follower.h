@@ -5,6 +5,7 @@
 #include "dialog/job/job_read_back.h"
 #include "platform/foundation/threads/work_queue.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -57,6 +58,7 @@ private:
     void takeComparison(const JobReadBack& job, JobStage stage);
     void sendCancel();
     void tellSilence();
+    void replaceStuckWorker();
     void end(const JobStatus& status);
 
     /// The connection that all questions share; touched by their queue only.
@@ -71,9 +73,11 @@ private:
     QTimer timer_;
     QTimer silence_;
     QTimer patienceEnd_;
+    QElapsedTimer askedAt_;
     WorkQueue questions_;
     std::shared_ptr<Line> line_;
     cups::CancelFlag stop_;
+    bool isSilent_ = false;
     bool wantsCancel_ = false;
     bool isCancelling_ = false;
 };

@@ -135,50 +135,74 @@ const MainQueue& mainQueue()
 
 struct WorkQueue::State {
     std::mutex mutex;
+    std::condition_variable hasNews;
     std::deque<std::function<void()>> work;
-    bool running = false;
+    bool hasThread = false;
+    bool isBusy = false;
+    bool isLetGo = false;
 
-    static void run(const std::shared_ptr<State>& state);
+    void run();
 };
 
-void WorkQueue::State::run(const std::shared_ptr<State>& state)
+void WorkQueue::State::run()
 {
+    std::unique_lock lock(mutex);
     for (;;) {
-        std::function<void()> next;
-        {
-            const std::scoped_lock lock(state->mutex);
-            if (state->work.empty()) {
-                state->running = false;
-                return;
-            }
-            next = std::move(state->work.front());
-            state->work.pop_front();
+        while (!work.empty()) {
+            std::function<void()> next = std::move(work.front());
+            work.pop_front();
+            lock.unlock();
+            next();
+            // It may hold a last reference, which goes here and without the lock.
+            next = nullptr;
+            lock.lock();
         }
-        next();
+        if (std::exchange(isBusy, false))
+            busyThreads().add(-1);
+        if (isLetGo) {
+            hasThread = false;
+            return;
+        }
+        hasNews.wait(lock);
     }
 }
 
-WorkQueue::WorkQueue() : state_(std::make_shared<State>()) {}
+struct WorkQueue::Handle {
+    const std::shared_ptr<State> state = std::make_shared<State>();
+
+    Handle() = default;
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+
+    ~Handle()
+    {
+        const std::scoped_lock lock(state->mutex);
+        state->isLetGo = true;
+        state->hasNews.notify_all();
+    }
+};
+
+WorkQueue::WorkQueue() : handle_(std::make_shared<Handle>()) {}
 
 bool WorkQueue::async(std::function<void()> work) const
 {
+    State& state = *handle_->state;
     std::deque<std::function<void()>> lost; // let go of after the lock: it may hold a last reference
-    const std::scoped_lock lock(state_->mutex);
-    state_->work.push_back(std::move(work));
-    if (std::exchange(state_->running, true))
+    const std::scoped_lock lock(state.mutex);
+    state.work.push_back(std::move(work));
+    if (!std::exchange(state.isBusy, true))
+        busyThreads().add(1);
+    if (std::exchange(state.hasThread, true)) {
+        state.hasNews.notify_all();
         return true;
-    busyThreads().add(1);
+    }
     try {
-        std::thread([state = state_]() mutable {
-            State::run(state);
-            state.reset();
-            busyThreads().add(-1);
-        }).detach();
+        std::thread([kept = handle_->state] { kept->run(); }).detach();
         return true;
     } catch (const std::system_error& error) {
         busyThreads().add(-1);
-        state_->running = false;
-        lost.swap(state_->work);
+        state.hasThread = state.isBusy = false;
+        lost.swap(state.work);
         logLine(
             QStringLiteral("no thread for background work: %1").arg(QString::fromLocal8Bit(error.what())));
         return false;

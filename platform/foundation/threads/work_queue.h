@@ -21,10 +21,11 @@ public:
 
 const MainQueue& mainQueue();
 
-/// An unlabelled serial queue: its work runs in order, on a thread of its own that exists while there is
-/// work. Letting go of the queue does not lose what was submitted; only when the system has no thread left is
-/// it lost, with a log line. The thread is never joined, so one that is stuck in a system call holds up
-/// nobody's exit. Any thread.
+/// An unlabelled serial queue: its work runs in order, on a thread of its own that is there from the first
+/// work until the queue is let go of and its work is done. So a queue that is kept is a worker, and what only
+/// its work touches, a connection for example, stays on one thread. Letting go of the queue does not lose
+/// what was submitted; only when the system has no thread left is it lost, with a log line. The thread is
+/// never joined, so one that is stuck in a system call holds up nobody's exit. Any thread.
 class WorkQueue {
 public:
     WorkQueue();
@@ -34,7 +35,8 @@ public:
 
 private:
     struct State;
-    std::shared_ptr<State> state_;
+    struct Handle;
+    std::shared_ptr<Handle> handle_;
 };
 
 /// Waits until no queue has work, `milliseconds` at most; false if one still has. For the end of a program
