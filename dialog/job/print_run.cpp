@@ -23,6 +23,7 @@ struct Sending {
     cups::CancelFlag cancelled;
     std::shared_ptr<std::atomic<bool>> paused;
     std::function<void(double)> report;
+    std::function<void(int)> reportJob; // one that the server has whole
 };
 
 QString numbered(const QString& title, size_t job, size_t jobs)
@@ -120,6 +121,7 @@ SentJobs send(const Sending& sending)
         if (result.jobId == 0)
             break;
         sent.ids.append(result.jobId);
+        sending.reportJob(result.jobId);
         sent.photos += int(shares[i].photos);
     }
     sent.isAll = size_t(sent.ids.size()) == shares.size();
@@ -164,8 +166,14 @@ void PrintRun::start()
                 self->takeProgress(share);
         });
     };
-    Sending sending{job_,      std::move(sheets_), photosPerJob_, quality_,
-                    document_, cancelled_,         paused_,       report};
+    const auto reportJob = [self](int id) {
+        mainQueue().async([self, id] {
+            if (self)
+                self->sent_.ids.append(id);
+        });
+    };
+    Sending sending{job_,   std::move(sheets_), photosPerJob_, quality_, document_, cancelled_, paused_,
+                    report, reportJob};
     const bool isStarted = WorkQueue().async([self, sending = std::move(sending)] {
         const SentJobs sent = send(sending);
         mainQueue().async([self, sent] {
@@ -204,6 +212,10 @@ void PrintRun::takeSubmission(const SentJobs& sent)
         const QString words = sent.wasCancelled ? tr("Cancelled: nothing was printed.") + sent.problem
                                                 : tr("Nothing was printed. %1").arg(sent.problem);
         finish({false, 0, stage, words});
+        return;
+    }
+    if (isStopped_) {
+        finishLeft();
         return;
     }
     followNext();
@@ -253,26 +265,42 @@ void PrintRun::takeEnd(const JobStatus& status)
 
 void PrintRun::takeJobEnd(const PrintOutcome& outcome)
 {
-    // Of several jobs the first that was not printed is what is to be told.
     if (followed_ == 1 || outcome_.printed)
         outcome_ = outcome;
+    printedJobs_ += outcome.printed ? 1 : 0;
     if (followed_ < sent_.ids.size() && outcome.stage != JobStage::unknown) {
         followNext();
         if (cancelled_->load())
             follower_->cancel();
         return;
     }
-    if (!sent_.isAll) {
-        outcome_ = {false, 0, sent_.wasCancelled ? JobStage::cancelled : JobStage::aborted,
-                    tr("%1 photos went out in %2 jobs; the others were not sent. %3")
-                        .arg(QString::number(sent_.photos), QString::number(sent_.ids.size()), sent_.problem)
-                        .trimmed()};
-    } else if (outcome_.printed && sent_.ids.size() > 1) {
-        outcome_.sentence = tr("%1 photos were printed in %2 jobs, %3 to %4.")
-                                .arg(QString::number(sent_.photos), QString::number(sent_.ids.size()),
-                                     QString::number(sent_.ids.first()), QString::number(sent_.ids.last()));
+    finish(outcomeOfAll());
+}
+
+PrintOutcome PrintRun::outcomeOfAll() const
+{
+    const qsizetype jobs = sent_.ids.size();
+    if (sent_.isAll && jobs == 1)
+        return outcome_;
+    PrintOutcome result = outcome_;
+    if (cancelled_->load() && outcome_.stage != JobStage::unknown && !(sent_.isAll && outcome_.printed)) {
+        // It is not true of all of them that nothing was printed.
+        if (printedJobs_ > 0)
+            result = {false, 0, JobStage::aborted,
+                      tr("Cancelled when %n job(s) had been printed already.", nullptr, printedJobs_)};
+        else
+            result = {false, 0, JobStage::cancelled, tr("Cancelled: nothing was printed.")};
+    } else if (!sent_.isAll) {
+        result = {false, 0, JobStage::aborted,
+                  tr("%1 photos went out in %2 jobs; the others were not sent. %3")
+                      .arg(QString::number(sent_.photos), QString::number(jobs), sent_.problem)
+                      .trimmed()};
+    } else if (outcome_.printed) {
+        result.sentence = tr("%1 photos were printed in %2 jobs, %3 to %4.")
+                              .arg(QString::number(sent_.photos), QString::number(jobs),
+                                   QString::number(sent_.ids.first()), QString::number(sent_.ids.last()));
     }
-    finish(outcome_);
+    return result;
 }
 
 void PrintRun::cancel()
@@ -281,6 +309,26 @@ void PrintRun::cancel()
     Q_EMIT cancelling();
     if (follower_)
         follower_->cancel();
+}
+
+void PrintRun::stop()
+{
+    isStopped_ = true;
+    cancelled_->store(true);
+    Q_EMIT cancelling();
+    if (follower_)
+        finishLeft();
+}
+
+void PrintRun::finishLeft()
+{
+    QStringList ids;
+    for (const int id : sent_.ids)
+        ids.append(QString::number(id));
+    finish({false, sent_.ids.last(), JobStage::waiting,
+            tr("Stopped. These jobs are on the queue \"%1\" and stay there: %2.")
+                .arg(job_.queue, ids.join(QStringLiteral(", "))),
+            true});
 }
 
 void PrintRun::apply(Remedy remedy)

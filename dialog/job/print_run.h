@@ -16,6 +16,7 @@ struct PrintOutcome {
     int jobId = 0;                      ///< 0: no job was made
     JobStage stage = JobStage::unknown; ///< with a job: the server has gone silent
     QString sentence;                   ///< for the user
+    bool isLeft = false;                ///< nothing failed: jobs that the server has whole were left on it
 };
 
 /// The jobs that the server has whole, and why there are no more.
@@ -58,8 +59,14 @@ public:
 
     bool isPaused() const { return progress_.isPaused(); }
 
-    /// Stops sending, or asks the server to cancel the jobs.
+    /// Stops sending, and asks the server to cancel the jobs.
     void cancel();
+
+    /// Stops sending. What the server has whole is left on it, and nobody follows that any more.
+    void stop();
+
+    /// The jobs that the server has whole by now.
+    const QList<int>& wholeJobs() const { return sent_.ids; }
 
     /// Gets the resting job on its way again.
     void apply(Remedy remedy);
@@ -74,7 +81,7 @@ public:
 Q_SIGNALS:
     /// The share of the photos that is sent, 0 to 1, with the words for it.
     void progressed(double share, const QString& words);
-    /// cancel() was called.
+    /// cancel() or stop() was called.
     void cancelling();
     /// The server has all of it; of several jobs the first.
     void submitted(int jobId);
@@ -94,6 +101,8 @@ private:
     void takeJobEnd(const PrintOutcome& outcome);
     void takeStatus(const JobStatus& status);
     void takeEnd(const JobStatus& status);
+    PrintOutcome outcomeOfAll() const;
+    void finishLeft();
     void finish(PrintOutcome outcome);
 
     JobRequest job_;
@@ -108,7 +117,9 @@ private:
     double share_ = 0.0;
     SentJobs sent_;
     qsizetype followed_ = 0; ///< of the jobs, with the one that is followed now
-    PrintOutcome outcome_;
+    PrintOutcome outcome_;   ///< of several jobs the first that was not printed
+    int printedJobs_ = 0;
+    bool isStopped_ = false;
     JobFollower* follower_ = nullptr;
     bool isOver_ = false;
 };

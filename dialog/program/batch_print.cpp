@@ -187,7 +187,9 @@ void BatchPrint::takeOutcome(const PrintOutcome& outcome)
 {
     writeLine(outcome.printed ? out_ : err_, outcome.sentence);
     tellReadBack();
-    if (outcome.printed)
+    if (outcome.isLeft)
+        end(kExitUnfinished);
+    else if (outcome.printed)
         end(!line_.verify || readBack_.isEqual() ? kExitPrinted : kExitDiffers);
     else if (outcome.stage == JobStage::cancelled)
         end(kExitCancelled);
@@ -219,12 +221,12 @@ void BatchPrint::leave()
         fail(tr("Cancelled: nothing was printed."), kExitCancelled);
         return;
     }
-    run_->cancel();
+    run_->stop();
     // A silent server does not let the run end.
     QTimer::singleShot(kTakeBackMilliseconds, this, [this] {
         writeLine(err_,
-                  tr("Cancelled, but the print server does not answer: a part of the job may still be on "
-                     "the queue \"%1\". Look at it before you print again.")
+                  tr("Stopped, but the print server does not answer: a part of the job may still be on the "
+                     "queue \"%1\". Look at it before you print again.")
                       .arg(session_.printerName()));
         end(kExitUnknown);
     });

@@ -17,6 +17,8 @@ QString statusWord(int exitStatus)
         return QStringLiteral("printed");
     case kExitUnfinished:
         return QStringLiteral("sent");
+    case kExitUnknown:
+        return QStringLiteral("unknown");
     case kExitCancelled:
         return QStringLiteral("cancelled");
     default:

@@ -20,15 +20,19 @@ namespace {
 
 using namespace halvern;
 
-int statusOf(const PrintDialog& dialog)
+int statusOf(PrintDialog& dialog)
 {
+    // Of a run that was stopped, and whose server kept silent, nobody knows.
     if (dialog.isRunning())
-        return kExitUnfinished;
+        return dialog.run()->isCancelled() && dialog.run()->jobId() == 0 ? kExitUnknown : kExitUnfinished;
     const PrintOutcome& outcome = dialog.outcome();
-    if (outcome.printed)
+    if (outcome.isLeft)
+        return kExitUnfinished;
+    const bool isCancelled = outcome.sentence.isEmpty() || outcome.stage == JobStage::cancelled;
+    // Whoever cancels a second run has printed the first.
+    if (outcome.printed || (isCancelled && dialog.hasPrinted()))
         return kExitPrinted;
-    const bool nobodyPrinted = outcome.sentence.isEmpty();
-    return nobodyPrinted || outcome.stage == JobStage::cancelled ? kExitCancelled : kExitFailed;
+    return isCancelled ? kExitCancelled : kExitFailed;
 }
 
 int runDialog(const CommandLine& line)
@@ -49,7 +53,7 @@ int runDialog(const CommandLine& line)
     onQuitSignal(&dialog, [&dialog] {
         // Whoever ends the program wants no half of a job; what the server has, it prints.
         if (dialog.isRunning() && dialog.run()->jobId() == 0)
-            dialog.run()->cancel();
+            dialog.run()->stop();
         if (dialog.unfinishedFile())
             dialog.unfinishedFile()->cancel();
         if (dialog.isVisible())
@@ -61,15 +65,16 @@ int runDialog(const CommandLine& line)
     const QString fileProblem = waitForUnfinishedFile(dialog.unfinishedFile());
     if (!fileProblem.isEmpty())
         tellAfterwards(fileProblem);
-    const int status = fileProblem.isEmpty() ? statusOf(dialog) : kExitFailed;
+    const QString backProblem = session.backLinesProblem();
+    if (!backProblem.isEmpty())
+        writeLine(stderr, backProblem);
+    int status = statusOf(dialog);
+    if (!fileProblem.isEmpty() || (status == kExitCancelled && !backProblem.isEmpty()))
+        status = kExitFailed;
     if (line.resultJson)
         writeLine(stdout, QString::fromUtf8(result.json(status)));
     if (wasClosedEarly && status == kExitFailed)
         tellAfterwards(dialog.outcome().sentence);
-    if (const QString problem = session.backLinesProblem(); !problem.isEmpty()) {
-        writeLine(stderr, problem);
-        return kExitFailed;
-    }
     return status;
 }
 

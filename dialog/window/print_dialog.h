@@ -49,6 +49,9 @@ public:
     /// How the last run ended.
     const PrintOutcome& outcome() const { return outcome_; }
 
+    /// Whether any run was printed.
+    bool hasPrinted() const { return hasPrinted_; }
+
     /// What was accepted for a document that is printed in place of photos: the dialog is closed, and the
     /// caller sends it. Nothing before.
     const std::optional<JobRequest>& order() const { return order_; }

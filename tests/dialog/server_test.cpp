@@ -166,6 +166,39 @@ TEST_F(DialogServerTest, SaysWhyAJobDoesNotPrintAndCancelsIt)
     }
 }
 
+TEST_F(DialogServerTest, OfSeveralJobsAllAreFollowedCancelledOrLeft)
+{
+    SessionRequest three = request(q("Tessarin"));
+    three.files = {writeFile(folder.filePath(q("several.tif")), tiffOf({0, 0, 0}))};
+    three.photosPerJob = 1;
+    QString sentence;
+    {
+        DialogSession session(three, panels);
+        ASSERT_TRUE(isReady(session));
+        EXPECT_EQ(runJob(*session.makeRun(), &sentence), JobStage::completed);
+        EXPECT_TRUE(containsText(sentence, "3 photos were printed in 3 jobs")) << qPrintable(sentence);
+    }
+    three.printer = q("Paused");
+    for (const bool isLeft : {false, true}) {
+        DialogSession session(three, panels);
+        ASSERT_TRUE(isReady(session));
+        PrintRun* run = session.makeRun();
+        PrintOutcome outcome;
+        QObject::connect(run, &PrintRun::finished, run, [&](const PrintOutcome& end) { outcome = end; });
+        run->start();
+        ASSERT_TRUE(waitUntil([&] { return !run->wholeJobs().isEmpty(); }));
+        if (isLeft)
+            run->stop();
+        else
+            run->cancel();
+        ASSERT_TRUE(waitUntil([&] { return run->isOver(); }));
+        EXPECT_EQ(outcome.isLeft, isLeft);
+        const QString named = QString::number(run->wholeJobs().last());
+        EXPECT_TRUE(outcome.sentence.contains(isLeft ? named : q("nothing was printed")))
+            << qPrintable(outcome.sentence);
+    }
+}
+
 TEST_F(DialogServerTest, ARefusedJobLeavesNothingOnTheServer)
 {
     DialogSession session(request(q("Rejecting")), panels);
