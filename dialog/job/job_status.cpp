@@ -10,8 +10,6 @@ namespace halvern {
 
 namespace {
 
-// The next question follows soon.
-
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(JobStatus)
 };

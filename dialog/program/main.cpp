@@ -96,9 +96,8 @@ int runBatch(const CommandLine& line)
     return status;
 }
 
-int runListing(const CommandLine& line)
+int list(const CommandLine& line)
 {
-    watchQuitSignals();
     sendTraceToSystemLog();
     QTextStream out(stdout);
     QTextStream err(stderr);
@@ -108,6 +107,13 @@ int runListing(const CommandLine& line)
         return writeListing(line.listing, line.request, out, err);
     const PluginLoader panels;
     return listPapers(*line.listPapers, panels, out, err);
+}
+
+int runListing(const CommandLine& line)
+{
+    watchQuitSignals();
+    const int status = list(line);
+    return status == kExitFailed && quitWasSignalled() ? kExitCancelled : status;
 }
 
 int run(const CommandLine& line)

@@ -123,7 +123,7 @@ TEST_F(ListPapers, ASignalEndsItAtOnceAndTakesTheJobBackAndLostOutputIsNoSuccess
     start(program, {q("--refresh")});
     ASSERT_TRUE(waitUntil([] { return activeJobs("Slow").size() == 1; }));
     program.signal(SIGTERM);
-    EXPECT_EQ(finish(program), 1);
+    EXPECT_EQ(finish(program), 4);
     EXPECT_EQ(out, QString());
     EXPECT_TRUE(waitUntil([] { return activeJobs("Slow").isEmpty(); }));
 
