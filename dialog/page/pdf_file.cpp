@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/pdf_file.h"
 
+#include <QtEndian>
+
 namespace halvern {
 
 namespace {
 
 constexpr int kCatalog = 1;
 constexpr int kPageTree = 2;
+constexpr qint64 kMostInLine = 9'999'999'999;
 
 QByteArray reference(int object)
 {
@@ -102,12 +105,39 @@ bool PdfFile::finish()
     write(QByteArray::number(kCatalog) + " 0 obj\n<< /Type /Catalog /Pages " + reference(kPageTree) +
           " /ViewerPreferences << /PrintScaling /None >> >>\nendobj\n");
     const qint64 table = written_;
-    write("xref\n0 " + QByteArray::number(qint64(offsets_.size())) + "\n0000000000 65535 f \n");
+    // Every reader knows the table of lines, which has ten digits for a place.
+    if (table > kMostInLine)
+        writeTableStream();
+    else
+        writeTable();
+    write("startxref\n" + QByteArray::number(table) + "\n%%EOF\n");
+    return ok_;
+}
+
+void PdfFile::writeTable()
+{
+    const QByteArray count = QByteArray::number(qint64(offsets_.size()));
+    write("xref\n0 " + count + "\n0000000000 65535 f \n");
     for (size_t i = 1; i < offsets_.size(); ++i)
         write(QByteArray::number(offsets_[i]).rightJustified(10, '0') + " 00000 n \n");
-    write("trailer\n<< /Size " + QByteArray::number(qint64(offsets_.size())) + " /Root " +
-          reference(kCatalog) + " >>\nstartxref\n" + QByteArray::number(table) + "\n%%EOF\n");
-    return ok_;
+    write("trailer\n<< /Size " + count + " /Root " + reference(kCatalog) + " >>\n");
+}
+
+// An object that has the table in binary, and is in it.
+void PdfFile::writeTableStream()
+{
+    const qint64 own = written_;
+    offsets_.push_back(own);
+    QByteArray entries(1 + qsizetype(sizeof own), '\0'); // the first one is free
+    for (size_t i = 1; i < offsets_.size(); ++i) {
+        char place[sizeof own];
+        qToBigEndian(offsets_[i], place);
+        entries.append('\1').append(place, sizeof place);
+    }
+    const qint64 count = qint64(offsets_.size());
+    write(QByteArray::number(count - 1) + " 0 obj\n<< /Type /XRef /W [1 8 0] /Size " +
+          QByteArray::number(count) + " /Root " + reference(kCatalog) + " /Length " +
+          QByteArray::number(entries.size()) + " >>\nstream\n" + entries + "\nendstream\nendobj\n");
 }
 
 } // namespace halvern

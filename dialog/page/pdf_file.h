@@ -48,6 +48,8 @@ private:
     int beginObject();
     void addContent(const QByteArray& content);
     void write(const QByteArray& bytes);
+    void writeTable();
+    void writeTableStream();
 
     QIODevice& device_;
     std::vector<qint64> offsets_;
