@@ -17,7 +17,10 @@ PhotoFacts readPhotoFacts(const Photo& photo)
         const PictureAnswer& answer = decoder.begin({photo.page, 0, 0});
         fault = answer.fault;
         facts.colorTag = answer.picture.colorTag;
-        if (const OpenProfile profile = openProfile(answer.picture.profile))
+        facts.channels = channelsOf(answer.picture.format);
+        // One for another kind of pixels is of no use to whoever converts them.
+        const OpenProfile profile = openProfile(answer.picture.profile);
+        if (profile && channelsOf(profile) == facts.channels)
             facts.colours = profileName(profile);
     }
     if (fault != PhotoFault::none)

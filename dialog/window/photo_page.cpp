@@ -56,6 +56,10 @@ QString colourText(const PhotoFacts& facts)
 {
     if (!facts.colours.isEmpty())
         return facts.colours;
+    if (facts.channels == 4)
+        return PhotoPage::tr("CMYK without a profile; taken as ideal inks");
+    if (facts.channels == 1)
+        return PhotoPage::tr("Gray without a profile; taken as sRGB");
     switch (facts.colorTag) {
     case ColorTag::adobeRgb:
         return PhotoPage::tr("Adobe RGB, as the camera notes");
