@@ -88,9 +88,9 @@ QString dateOf(QString text)
     return text.startsWith(QLatin1StringView("0000")) ? QString() : text.left(19);
 }
 
-CameraNotes notesOf(const Exiv2::ExifData& exif)
+ExifNotes notesOf(const Exiv2::ExifData& exif)
 {
-    CameraNotes notes;
+    ExifNotes notes;
     notes.orientation = orientationOfTag(integerOf(exif, "Exif.Image.Orientation"));
     const int space = integerOf(exif, "Exif.Photo.ColorSpace");
     // Cameras call Adobe RGB uncalibrated, and say more in the index of interoperability.
@@ -187,7 +187,7 @@ Metadata metadataOf(FileBytes bytes)
     }
 }
 
-CameraNotes notesOfExif(FileBytes exif)
+ExifNotes notesOfExif(FileBytes exif)
 {
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
     try {

@@ -7,13 +7,13 @@ namespace halvern {
 
 /// What a file's metadata say; nothing where there are none, or they cannot be read.
 struct Metadata {
-    CameraNotes notes;
+    ExifNotes notes;
     PhotoDetails details;
 };
 
 Metadata metadataOf(FileBytes bytes);
 
 /// The same of a block of Exif data alone.
-CameraNotes notesOfExif(FileBytes exif);
+ExifNotes notesOfExif(FileBytes exif);
 
 } // namespace halvern

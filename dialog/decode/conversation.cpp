@@ -8,6 +8,7 @@
 #include <exception>
 #include <functional>
 #include <new>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -23,7 +24,7 @@ constexpr int kHalves = 2;
 constexpr size_t kMostCopied = size_t(512) * 1024 * 1024;
 
 /// The file's bytes: mapped, or copied from a file system that cannot do that. A file that shrinks while it
-/// is mapped ends this process, and its photo is told to be unreadable.
+/// is mapped ends this process, and its photo is told to have made it fail.
 class PhotoBytes {
 public:
     explicit PhotoBytes(const Descriptor& file)
@@ -101,12 +102,13 @@ public:
     /// Answers about one picture. False once nobody asks any more.
     bool show()
     {
-        QByteArray message;
-        ReadRequest request;
-        do {
+        // Empty ones are the last picture's halves that were free.
+        QByteArray message = std::exchange(pending_, {});
+        while (message.isEmpty()) {
             if (receiveMessage(socket_, &message, nullptr, -1) != Received::message)
                 return false;
-        } while (message.isEmpty()); // the last picture's halves that were free
+        }
+        ReadRequest request;
         if (!decode(message, request))
             return false;
         std::unique_ptr<PictureSource> source;
@@ -115,7 +117,6 @@ public:
             source = scaledDown(withGrayForMissing(reader_->open(request)), request.leastEdge);
             answer.picture = source->picture();
             answer.ownSize = source->ownSize();
-            answer.suitsPdf = source->suitsPdf();
             makeWindow(&answer);
         });
         const Descriptor window = std::move(window_);
@@ -145,9 +146,10 @@ private:
         const qsizetype rowBytes = source.picture().rowBytes();
         int left = source.picture().size.height();
         for (int half = 0; left > 0; half = (half + 1) % kHalves) {
-            QByteArray message;
-            if (receiveMessage(socket_, &message, nullptr, -1) != Received::message || !message.isEmpty())
+            if (receiveMessage(socket_, &pending_, nullptr, -1) != Received::message)
                 return false;
+            if (!pending_.isEmpty())
+                return true;
             BandAnswer band;
             band.fault = faultOf([&] {
                 uchar* row = pixels_.data() + qsizetype(half) * bandRows * rowBytes;
@@ -171,6 +173,7 @@ private:
     std::unique_ptr<PhotoReader> reader_;
     Descriptor window_;
     Mapping pixels_;
+    QByteArray pending_; // a question that came before the last one's answer was taken
 };
 
 } // namespace

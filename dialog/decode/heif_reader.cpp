@@ -47,6 +47,39 @@ void check(const heif_error& error)
     }
 }
 
+// Null where the file says nothing that helps.
+const Primaries* primariesOf(heif_color_primaries primaries)
+{
+    switch (primaries) {
+    case heif_color_primaries_ITU_R_BT_709_5:
+        return &kSrgbPrimaries;
+    case heif_color_primaries_SMPTE_EG_432_1:
+        return &kDisplayP3Primaries;
+    case heif_color_primaries_ITU_R_BT_2020_2_and_2100_0:
+        return &kWidePrimaries;
+    default:
+        return nullptr;
+    }
+}
+
+// 0 is sRGB's curve, by which screens show what was meant for television, too.
+double gammaOf(heif_transfer_characteristics curve)
+{
+    switch (curve) {
+    case heif_transfer_characteristic_ITU_R_BT_2100_0_PQ:
+    case heif_transfer_characteristic_ITU_R_BT_2100_0_HLG:
+        throw Unreadable{PhotoFault::highRange};
+    case heif_transfer_characteristic_ITU_R_BT_470_6_System_M:
+        return 2.2;
+    case heif_transfer_characteristic_ITU_R_BT_470_6_System_B_G:
+        return 2.8;
+    case heif_transfer_characteristic_linear:
+        return 1.0;
+    default:
+        return 0.0;
+    }
+}
+
 /// A picture, turned as the file says: this format's own turn is the only one that counts.
 class HeifSource : public PictureSource {
 public:
@@ -105,12 +138,12 @@ private:
         const Held<heif_color_profile_nclx> held(nclx);
         if (!picture_.profile.isEmpty() || error.code != heif_error_Ok || !nclx)
             return;
-        if (nclx->color_primaries == heif_color_primaries_SMPTE_EG_432_1)
-            picture_.profile = profileFor(kDisplayP3Primaries, 0.0);
-        else if (nclx->color_primaries == heif_color_primaries_ITU_R_BT_2020_2_and_2100_0)
-            picture_.profile = profileFor(kWidePrimaries, 0.0);
-        else
+        const double gamma = gammaOf(nclx->transfer_characteristics);
+        const Primaries* primaries = primariesOf(nclx->color_primaries);
+        if (primaries == &kSrgbPrimaries && gamma == 0.0)
             picture_.colorTag = ColorTag::sRgb;
+        else if (primaries)
+            picture_.profile = profileFor(*primaries, gamma);
     }
 
     bool decode()
@@ -183,7 +216,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<PhotoReader> makeHeifReader(FileBytes bytes, const CameraNotes&)
+std::unique_ptr<PhotoReader> makeHeifReader(FileBytes bytes, const ExifNotes&)
 {
     return std::make_unique<HeifReader>(bytes);
 }

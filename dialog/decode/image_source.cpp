@@ -27,6 +27,15 @@ QImage::Format keptFormat(PixelFormat format, bool hasAlpha)
     }
 }
 
+void takeColors(const QRgb* pixel, uchar* row, int width)
+{
+    for (int x = 0; x < width; ++x, ++pixel, row += 3) {
+        row[0] = uchar(qRed(*pixel));
+        row[1] = uchar(qGreen(*pixel));
+        row[2] = uchar(qBlue(*pixel));
+    }
+}
+
 PixelFormat formatFor(const QImage& image)
 {
     if (image.format() == QImage::Format_Grayscale16)
@@ -47,7 +56,9 @@ ImageSource::ImageSource(QImage image, bool isDamaged, const QSizeF& ownSize)
     picture_.profile = image_.colorSpace().iccProfile();
     picture_.dotsPerInch = image_.dotsPerMeterX() * kMetresPerInch;
     picture_.format = formatFor(image_);
-    image_.convertTo(keptFormat(picture_.format, image_.hasAlphaChannel()));
+    // A page of a document is as it is: there may be no room for another one beside it.
+    if (image_.format() != QImage::Format_RGB32)
+        image_.convertTo(keptFormat(picture_.format, image_.hasAlphaChannel()));
     if (image_.isNull())
         throw Unreadable{PhotoFault::tooLarge};
 }
@@ -58,6 +69,9 @@ bool ImageSource::readRow(uchar* row)
     const auto* numbers = reinterpret_cast<const quint16*>(line);
     auto* target = reinterpret_cast<quint16*>(row);
     switch (image_.format()) {
+    case QImage::Format_RGB32:
+        takeColors(reinterpret_cast<const QRgb*>(line), row, image_.width());
+        break;
     case QImage::Format_RGBA8888:
         layOnWhite(line, row, image_.width(), 3);
         break;

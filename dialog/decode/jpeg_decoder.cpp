@@ -15,11 +15,11 @@ namespace halvern {
 
 namespace {
 
+constexpr int kExifMarker = JPEG_APP0 + 1;
 constexpr int kProfileMarker = JPEG_APP0 + 2;
 constexpr int kMostScans = 500;    // a progressive file of a camera has about ten
 constexpr int kHarmlessStray = 64; // bytes between two markers; some cameras pad
 constexpr int kEighths = 8;
-constexpr double kCentimetresPerInch = 2.54;
 
 double dotsPerInch(const jpeg_decompress_struct& info)
 {
@@ -28,13 +28,26 @@ double dotsPerInch(const jpeg_decompress_struct& info)
     return info.density_unit == 1 ? info.X_density : 0.0;
 }
 
-bool suitsPdf(const jpeg_decompress_struct& info)
+// What a call that was given up says of the file.
+PhotoFault faultOf(int error)
 {
-    if (info.arith_code || info.data_precision != 8)
-        return false;
-    const bool isYcc = info.num_components == 3 && info.jpeg_color_space == JCS_YCbCr &&
-                       (!info.saw_Adobe_marker || info.Adobe_transform == 1);
-    return info.num_components == 1 || isYcc;
+    switch (error) {
+    case JERR_OUT_OF_MEMORY:
+    case JERR_IMAGE_TOO_BIG:
+    case JERR_WIDTH_OVERFLOW:
+        return PhotoFault::tooLarge;
+    case JERR_BAD_PRECISION:
+    case JERR_SOF_UNSUPPORTED:
+    case JERR_ARITH_NOTIMPL:
+    case JERR_CONVERSION_NOTIMPL:
+    case JERR_COMPONENT_COUNT:
+    case JERR_CCIR601_NOTIMPL:
+    case JERR_FRACT_SAMPLE_NOTIMPL:
+    case JERR_NOT_COMPILED:
+        return PhotoFault::unsupported;
+    default:
+        return PhotoFault::damaged;
+    }
 }
 
 } // namespace
@@ -108,6 +121,7 @@ JpegDecoder::JpegDecoder(FileBytes bytes) : bytes_(bytes), state_(std::make_uniq
         jpeg_create_decompress(&info);
         info.progress = &state_->progress;
         jpeg_mem_src(&info, bytes_.data(), bytes_.size());
+        jpeg_save_markers(&info, kExifMarker, 0xFFFF);
         jpeg_save_markers(&info, kProfileMarker, 0xFFFF);
         jpeg_read_header(&info, TRUE);
     });
@@ -128,7 +142,15 @@ JpegHeader JpegDecoder::describe()
     header.components = info.num_components;
     header.dotsPerInch = dotsPerInch(info);
     header.isInverted = info.saw_Adobe_marker;
-    header.suitsPdf = suitsPdf(info);
+    for (const jpeg_marker_struct* marker = info.marker_list; marker; marker = marker->next) {
+        const auto body = QByteArray::fromRawData(reinterpret_cast<const char*>(marker->data),
+                                                  qsizetype(marker->data_length));
+        const QByteArray exif("Exif\0\0", 6);
+        if (marker->marker == kExifMarker && body.startsWith(exif)) {
+            header.notes = readExifNotes(body.mid(exif.size()));
+            break;
+        }
+    }
     JOCTET* profile = nullptr;
     unsigned int length = 0;
     const bool isRead = state_->guarded([&] { jpeg_read_icc_profile(&info, &profile, &length); });
@@ -172,6 +194,11 @@ bool JpegDecoder::readRow(uchar* row)
     if (info.output_scanline == info.output_height)
         state_->guarded([&info] { jpeg_finish_decompress(&info); });
     return true;
+}
+
+PhotoFault JpegDecoder::fault() const
+{
+    return faultOf(state_->errors.msg_code);
 }
 
 bool JpegDecoder::isDamaged() const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/decode/picture_source.h"
+#include "dialog/photo/exif_notes.h"
 
 #include <QByteArray>
 #include <QSize>
@@ -18,8 +19,7 @@ struct JpegHeader {
     QByteArray profile;       ///< ICC; empty: none
     double dotsPerInch = 0.0; ///< 0: not said
     bool isInverted = false;  ///< four inks with 255 for none, as Adobe's programs write them
-    /// Whether each reader of PDF files decodes it to the pixels that we see: Huffman-coded, gray or YCbCr.
-    bool suitsPdf = false;
+    ExifNotes notes;          ///< as whoever prints the file as it stands reads them
 };
 
 /// Decodes a JPEG file that is in memory. Any thread, one at a time.
@@ -41,6 +41,9 @@ public:
 
     /// The next row, into room for it. False if it cannot be decoded.
     bool readRow(uchar* row);
+
+    /// Why there is no header, it cannot start, or has no next row.
+    PhotoFault fault() const;
 
     /// Once all rows are read: whether pixels had to be made up, because data were missing or wrong.
     bool isDamaged() const;

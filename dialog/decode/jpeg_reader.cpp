@@ -8,10 +8,10 @@ namespace {
 
 class JpegSource : public PictureSource {
 public:
-    JpegSource(FileBytes bytes, const CameraNotes& notes, int leastEdge) : decoder_(bytes)
+    JpegSource(FileBytes bytes, int leastEdge) : decoder_(bytes)
     {
         if (!decoder_.header())
-            throw Unreadable{PhotoFault::damaged};
+            throw Unreadable{decoder_.fault()};
         const JpegHeader& header = *decoder_.header();
         checkSize(header.size.width(), header.size.height());
         picture_.size = decoder_.sizeFor(leastEdge);
@@ -21,15 +21,14 @@ public:
                                                    : PixelFormat::rgb8;
         picture_.profile = header.profile;
         picture_.dotsPerInch = header.dotsPerInch;
-        picture_.orientation = notes.orientation;
-        picture_.colorTag = notes.colorTag;
-        suitsPdf_ = header.suitsPdf;
+        picture_.orientation = header.notes.orientation;
+        picture_.colorTag = header.notes.colorTag;
     }
 
     bool readRow(uchar* row) override
     {
         if (!isStarted_ && !decoder_.start())
-            return false;
+            throw Unreadable{decoder_.fault()};
         isStarted_ = true;
         return decoder_.readRow(row);
     }
@@ -43,25 +42,24 @@ private:
 
 class JpegReader : public PhotoReader {
 public:
-    JpegReader(FileBytes bytes, const CameraNotes& notes) : bytes_(bytes), notes_(notes) {}
+    explicit JpegReader(FileBytes bytes) : bytes_(bytes) {}
 
     QString kind() const override { return QStringLiteral("JPEG"); }
 
     std::unique_ptr<PictureSource> open(const ReadRequest& request) override
     {
-        return std::make_unique<JpegSource>(bytes_, notes_, request.leastEdge);
+        return std::make_unique<JpegSource>(bytes_, request.leastEdge);
     }
 
 private:
     FileBytes bytes_;
-    CameraNotes notes_;
 };
 
 } // namespace
 
-std::unique_ptr<PhotoReader> makeJpegReader(FileBytes bytes, const CameraNotes& notes)
+std::unique_ptr<PhotoReader> makeJpegReader(FileBytes bytes)
 {
-    return std::make_unique<JpegReader>(bytes, notes);
+    return std::make_unique<JpegReader>(bytes);
 }
 
 } // namespace halvern

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/decode/made_profile.h"
 
+#include "dialog/photo/srgb_curve.h"
+
 #include <lcms2.h>
 
 namespace halvern {
@@ -8,6 +10,24 @@ namespace halvern {
 namespace {
 
 constexpr double kTolerance = 0.001;
+
+// The names by which the spaces are known; "sRGB" only with its own curve.
+QByteArray nameFor(const Primaries& primaries, double gamma)
+{
+    const char* name = isNear(primaries, kSrgbPrimaries)        ? "sRGB primaries"
+                       : isNear(primaries, kDisplayP3Primaries) ? "Display P3"
+                       : isNear(primaries, kWidePrimaries)      ? "Rec. 2020"
+                                                                : "RGB as the file notes";
+    return gamma > 0.0 ? QByteArray(name) + ", gamma " + QByteArray::number(gamma, 'g', 3) : QByteArray(name);
+}
+
+void setName(cmsHPROFILE profile, const QByteArray& name)
+{
+    cmsMLU* text = cmsMLUalloc(nullptr, 1);
+    if (text && cmsMLUsetASCII(text, "en", "US", name.constData()))
+        cmsWriteTag(profile, cmsSigProfileDescriptionTag, text);
+    cmsMLUfree(text);
+}
 
 } // namespace
 
@@ -22,15 +42,16 @@ bool isNear(const Primaries& one, const Primaries& other)
 
 QByteArray profileFor(const Primaries& primaries, double gamma)
 {
-    const double srgb[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
-    cmsToneCurve* curve =
-        gamma > 0.0 ? cmsBuildGamma(nullptr, gamma) : cmsBuildParametricToneCurve(nullptr, 4, srgb);
+    cmsToneCurve* curve = gamma > 0.0 ? cmsBuildGamma(nullptr, gamma)
+                                      : cmsBuildParametricToneCurve(nullptr, 4, kSrgbCurve.data());
     const auto color = [](const Chromaticity& c) { return cmsCIExyY{c.x, c.y, 1.0}; };
     const cmsCIExyY white = color(primaries.white);
     const cmsCIExyYTRIPLE triple{color(primaries.red), color(primaries.green), color(primaries.blue)};
     cmsToneCurve* curves[] = {curve, curve, curve};
     cmsHPROFILE profile = curve ? cmsCreateRGBProfile(&white, &triple, curves) : nullptr;
     cmsFreeToneCurve(curve);
+    if (profile)
+        setName(profile, nameFor(primaries, gamma));
     QByteArray bytes;
     cmsUInt32Number size = 0;
     if (profile && cmsSaveProfileToMem(profile, nullptr, &size)) {

@@ -41,7 +41,7 @@ public:
             throw Unreadable{PhotoFault::damaged};
         buffer_.seek(0);
         reader_.setDevice(&buffer_);
-        return std::make_unique<ImageSource>(image, isCutShort(image));
+        return std::make_unique<ImageSource>(image, isCutShort(image) || isGifCutShort());
     }
 
 private:
@@ -59,6 +59,29 @@ private:
         const quint64 rowBits = quint64(image.width()) * number(28, 2);
         const quint64 wanted = number(10, 4) + (rowBits + 31) / 32 * 4 * quint64(image.height());
         return quint64(bytes_.size()) < wanted;
+    }
+
+    // The same of the first picture of a GIF file: it lies in blocks that say how long they are.
+    bool isGifCutShort() const
+    {
+        constexpr qsizetype kHeader = 13;
+        if (!bytes_.startsWith("GIF") || bytes_.size() < kHeader)
+            return false;
+        const auto byte = [this](qsizetype at) { return at < bytes_.size() ? int(uchar(bytes_[at])) : -1; };
+        const auto palette = [&](qsizetype flags) {
+            return byte(flags) & 0x80 ? qsizetype(3) << ((byte(flags) & 7) + 1) : 0;
+        };
+        const auto behindBlocks = [&](qsizetype at) {
+            while (byte(at) > 0)
+                at += 1 + byte(at);
+            return at + 1;
+        };
+        qsizetype at = kHeader + palette(10);
+        while (byte(at) == '!')
+            at = behindBlocks(at + 2);
+        if (byte(at) != ',')
+            return true;
+        return behindBlocks(at + 11 + palette(at + 9)) > bytes_.size();
     }
 
     QByteArray bytes_;

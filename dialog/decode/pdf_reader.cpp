@@ -5,6 +5,7 @@
 #include <poppler-qt6.h>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace halvern {
@@ -14,6 +15,7 @@ namespace {
 constexpr double kPointsPerInch = 72.0;
 constexpr double kMostPreviewResolution = 300.0;
 constexpr qsizetype kEndRange = 1024;
+constexpr double kMostDrawn = 200e6; // pixels of a page, which stand in memory as a whole
 
 class PdfReader : public PhotoReader {
 public:
@@ -60,13 +62,14 @@ public:
         if (!(size.width() > 0.0 && size.height() > 0.0 && longer < 1e6))
             throw Unreadable{PhotoFault::damaged};
         const double fitting = request.leastEdge * kPointsPerInch / longer;
-        const double resolution =
+        const double wanted =
             request.resolution > 0 ? request.resolution : std::clamp(fitting, 1.0, kMostPreviewResolution);
-        const double scale = resolution / kPointsPerInch;
-        checkSize(qint64(size.width() * scale) + 1, qint64(size.height() * scale) + 1);
+        // A sheet that hangs on a wall is not looked at from as near as a photo in the hand.
+        const double most = kPointsPerInch * std::sqrt(kMostDrawn / (size.width() * size.height()));
+        const double resolution = std::min(wanted, most);
         const QImage image = page->renderToImage(resolution, resolution);
         if (image.isNull())
-            throw Unreadable{PhotoFault::damaged};
+            throw Unreadable{PhotoFault::tooLarge};
         return std::make_unique<ImageSource>(image, isCutOff(), size);
     }
 

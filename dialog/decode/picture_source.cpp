@@ -15,7 +15,6 @@ public:
     {
         picture_ = source_->picture();
         ownSize_ = source_->ownSize();
-        suitsPdf_ = source_->suitsPdf();
     }
 
     bool readRow(uchar* row) override
@@ -45,7 +44,6 @@ public:
         picture_.size =
             QSize(std::max(1, picture_.size.width() / times), std::max(1, picture_.size.height() / times));
         ownSize_ = source_->ownSize();
-        suitsPdf_ = source_->suitsPdf();
         row_.resize(size_t(source_->picture().rowBytes()) / sizeof(quint16) + 1);
         sums_.resize(size_t(picture_.size.width()) * size_t(channelsOf(picture_.format)));
     }

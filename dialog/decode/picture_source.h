@@ -32,13 +32,9 @@ public:
     /// Of a document's page, in points.
     QSizeF ownSize() const { return ownSize_; }
 
-    /// Whether the file's data can go into a PDF file as they are.
-    bool suitsPdf() const { return suitsPdf_; }
-
 protected:
     StoredPicture picture_;
     QSizeF ownSize_{0.0, 0.0};
-    bool suitsPdf_ = false;
 };
 
 /// A file of one format.
@@ -53,6 +49,7 @@ public:
 
     virtual bool isPdf() const { return false; }
 
+    /// Once pages() was called: whether the file goes on where it ends.
     virtual bool isCutOff() const { return false; }
 
     virtual std::unique_ptr<PictureSource> open(const ReadRequest& request) = 0;
@@ -68,16 +65,19 @@ std::unique_ptr<PictureSource> withGrayForMissing(std::unique_ptr<PictureSource>
 std::unique_ptr<PictureSource> scaledDown(std::unique_ptr<PictureSource> source, int leastEdge);
 
 /// Puts pixels that let the paper through on white: `channels` numbers each and one that says how much of it
-/// is there, with what is not there already taken out or not. Writes `channels` numbers for each pixel.
+/// is there, with what is not there already taken out or not. White is the highest number, or 0 `ofInk`.
+/// Writes `channels` numbers for each pixel.
 template <typename Number>
-void layOnWhite(const Number* from, Number* to, int pixels, int channels, bool isPremultiplied = false)
+void layOnWhite(const Number* from, Number* to, int pixels, int channels, bool isPremultiplied = false,
+                bool ofInk = false)
 {
     constexpr quint32 kFull = Number(~Number(0));
+    const quint64 white = ofInk ? 0 : kFull;
     for (; pixels > 0; --pixels, from += channels + 1, to += channels) {
         const quint32 there = from[channels];
         for (int i = 0; i < channels; ++i) {
             const quint64 ink = isPremultiplied ? quint64(from[i]) * kFull : quint64(from[i]) * there;
-            const quint64 sum = (ink + quint64(kFull) * (kFull - there) + kFull / 2) / kFull;
+            const quint64 sum = (ink + white * (kFull - there) + kFull / 2) / kFull;
             to[i] = Number(sum < kFull ? sum : kFull);
         }
     }

@@ -21,7 +21,7 @@ constexpr double kUsualGamma = 1.0 / 2.2;
 
 class PngSource : public PictureSource {
 public:
-    PngSource(FileBytes bytes, const CameraNotes& notes) : PngSource()
+    PngSource(FileBytes bytes, const ExifNotes& notes) : PngSource()
     {
         bytes_ = bytes;
         notes_ = notes;
@@ -184,7 +184,7 @@ private:
     }
 
     FileBytes bytes_;
-    CameraNotes notes_;
+    ExifNotes notes_;
     size_t place_ = 0;
     png_structp png_ = nullptr;
     png_infop info_ = nullptr;
@@ -200,7 +200,7 @@ private:
 
 class PngReader : public PhotoReader {
 public:
-    PngReader(FileBytes bytes, const CameraNotes& notes) : bytes_(bytes), notes_(notes) {}
+    PngReader(FileBytes bytes, const ExifNotes& notes) : bytes_(bytes), notes_(notes) {}
 
     QString kind() const override { return QStringLiteral("PNG"); }
 
@@ -211,12 +211,12 @@ public:
 
 private:
     FileBytes bytes_;
-    CameraNotes notes_;
+    ExifNotes notes_;
 };
 
 } // namespace
 
-std::unique_ptr<PhotoReader> makePngReader(FileBytes bytes, const CameraNotes& notes)
+std::unique_ptr<PhotoReader> makePngReader(FileBytes bytes, const ExifNotes& notes)
 {
     return std::make_unique<PngReader>(bytes, notes);
 }

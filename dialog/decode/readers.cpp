@@ -60,12 +60,12 @@ bool isHeif(FileBytes bytes)
                                                   "msf1"sv, "avif"sv, "avis"sv, "mif2"sv, "miaf"sv});
 }
 
-std::unique_ptr<PhotoReader> readerFor(FileBytes bytes, const QString& suffix, const CameraNotes& notes)
+std::unique_ptr<PhotoReader> readerFor(FileBytes bytes, const QString& suffix, const ExifNotes& notes)
 {
     if (isCameraRaw(bytes, suffix))
         throw Unreadable{PhotoFault::cameraRaw};
     if (hasAt(bytes, 0, "\xFF\xD8\xFF"sv))
-        return makeJpegReader(bytes, notes);
+        return makeJpegReader(bytes);
     if (hasAt(bytes, 0, "\x89PNG\r\n\x1A\n"sv))
         return makePngReader(bytes, notes);
     if (isTiff(bytes))

@@ -24,6 +24,9 @@ namespace halvern {
 namespace {
 
 constexpr rlim_t kMemory = rlim_t(2) * 1024 * 1024 * 1024;
+// Shared memory is no data of a process: what is mapped counts with the file, and each piece is limited.
+constexpr rlim_t kAddresses = rlim_t(8) * 1024 * 1024 * 1024;
+constexpr rlim_t kSharedPiece = rlim_t(256) * 1024 * 1024;
 constexpr rlim_t kSeconds = 120; // of the processor, for a file
 constexpr rlim_t kDescriptors = 64;
 
@@ -47,7 +50,6 @@ constexpr std::array kAllowed{SCMP_SYS(read),
                               SCMP_SYS(readlinkat),
                               SCMP_SYS(getdents64),
                               SCMP_SYS(getcwd),
-                              SCMP_SYS(fcntl),
                               SCMP_SYS(fadvise64),
                               SCMP_SYS(mmap),
                               SCMP_SYS(munmap),
@@ -90,11 +92,14 @@ constexpr std::array kAllowed{SCMP_SYS(read),
                               SCMP_SYS(rt_sigprocmask),
                               SCMP_SYS(rt_sigreturn),
                               SCMP_SYS(sigaltstack),
-                              SCMP_SYS(tgkill),
                               SCMP_SYS(exit),
                               SCMP_SYS(exit_group),
                               SCMP_SYS(restart_syscall),
                               SCMP_SYS(membarrier)};
+
+// Of what can be done with a descriptor; others have signals sent, to any process.
+constexpr std::array kAllowedOfDescriptors{F_GETFD, F_SETFD,         F_GETFL,     F_SETFL,
+                                           F_DUPFD, F_DUPFD_CLOEXEC, F_ADD_SEALS, F_GET_SEALS};
 
 std::vector<sock_filter> program;
 
@@ -110,6 +115,10 @@ bool addRules(scmp_filter_ctx filter)
         if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) != 0)
             return false;
     }
+    for (const int command : kAllowedOfDescriptors) {
+        if (!allowIf(filter, SCMP_SYS(fcntl), {1, SCMP_CMP_EQ, scmp_datum_t(command), 0}))
+            return false;
+    }
     constexpr scmp_datum_t kWriting = O_ACCMODE | O_CREAT | O_TRUNC;
     const bool mayRead = allowIf(filter, SCMP_SYS(openat), {2, SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY}) &&
                          allowIf(filter, SCMP_SYS(open), {1, SCMP_CMP_MASKED_EQ, kWriting, O_RDONLY});
@@ -119,8 +128,10 @@ bool addRules(scmp_filter_ctx filter)
     const bool fallsBack = seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
 #ifdef HALVERN_SANITIZED
     // A sanitizer tries memory by writing it into a pipe.
-    if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(write), 0) != 0)
-        return false;
+    for (const int call : {SCMP_SYS(write), SCMP_SYS(tgkill)}) {
+        if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) != 0)
+            return false;
+    }
 #endif
     // Where a crash is reported; standard error goes nowhere otherwise.
     const bool mayComplain = allowIf(filter, SCMP_SYS(write), {0, SCMP_CMP_EQ, STDERR_FILENO, 0});
@@ -160,10 +171,12 @@ bool enterSandbox()
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_CPU, kSeconds);
-    limit(RLIMIT_FSIZE, kMemory);
+    limit(RLIMIT_FSIZE, kSharedPiece);
+    signal(SIGXFSZ, SIG_IGN);
     limit(RLIMIT_NOFILE, kDescriptors);
 #ifndef HALVERN_SANITIZED
     limit(RLIMIT_DATA, kMemory);
+    limit(RLIMIT_AS, kAddresses);
 #endif
     const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
     return !program.empty() && prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&

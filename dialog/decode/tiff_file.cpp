@@ -86,7 +86,11 @@ QList<qint32> TiffFile::pictures()
         if (!(kind & (FILETYPE_REDUCEDIMAGE | FILETYPE_MASK)))
             pictures.append(directory);
         ++directory;
-    } while (directory < kMostDirectories && TIFFReadDirectory(get()));
+        const bool isLast = TIFFLastDirectory(get());
+        if (isLast || directory == kMostDirectories)
+            break;
+        isCutOff_ = !TIFFReadDirectory(get());
+    } while (!isCutOff_);
     return pictures.isEmpty() ? QList<qint32>{0} : pictures;
 }
 

@@ -23,6 +23,9 @@ public:
     /// programs keep beside them. Only the first one if there is nothing else.
     QList<qint32> pictures();
 
+    /// Once pictures() was called: whether it names a directory after the last one that can be read.
+    bool isCutOff() const { return isCutOff_; }
+
     /// Goes to a directory. Throws Unreadable.
     void show(int directory);
 
@@ -46,6 +49,7 @@ private:
     FileBytes bytes_;
     uint64_t place_ = 0;
     bool hasComplained_ = false;
+    bool isCutOff_ = false;
     std::unique_ptr<TIFF, Close> tiff_;
 
     friend struct TiffBytes;

@@ -10,7 +10,6 @@ namespace halvern {
 
 namespace {
 
-constexpr double kCentimetresPerInch = 2.54;
 constexpr quint64 kMostBuffer =
     quint64(1536) * 1024 * 1024; // for the tiles or strips that stand side by side
 
@@ -78,7 +77,7 @@ private:
         const quint64 wanted = quint64(pieceWidth_) * pieceHeight_ * pixelBytes_;
         if (wanted == 0 || pieceBytes < wanted || pieceBytes > kMostBuffer ||
             wanted * across_ * quint64(planes_) > kMostBuffer)
-            throw Unreadable{pieceBytes > kMostBuffer ? PhotoFault::tooLarge : PhotoFault::damaged};
+            throw Unreadable{wanted == 0 || pieceBytes < wanted ? PhotoFault::damaged : PhotoFault::tooLarge};
         piece_.resize(pieceBytes);
         planeBytes_ = wanted * across_;
         pieces_.resize(planeBytes_ * size_t(planes_));
@@ -145,7 +144,8 @@ template <typename Number> void takeColors(const Layout& layout, const Number* f
 {
     const int pixels = int(layout.width);
     if (layout.hasAlpha && layout.samples == layout.channels + 1) {
-        layOnWhite(from, to, pixels, layout.channels, layout.isPremultiplied);
+        layOnWhite(from, to, pixels, layout.channels, layout.isPremultiplied,
+                   layout.isWhiteZero || layout.channels == 4);
     } else {
         Number* target = to;
         for (int x = 0; x < pixels; ++x, from += layout.samples, target += layout.channels)
@@ -243,7 +243,7 @@ private:
 
 class TiffReader : public PhotoReader {
 public:
-    TiffReader(FileBytes bytes, const CameraNotes& notes) : file_(bytes), notes_(notes)
+    TiffReader(FileBytes bytes, const ExifNotes& notes) : file_(bytes), notes_(notes)
     {
         pages_ = file_.pictures();
     }
@@ -251,6 +251,8 @@ public:
     QString kind() const override { return QStringLiteral("TIFF"); }
 
     QList<qint32> pages() const override { return pages_; }
+
+    bool isCutOff() const override { return file_.isCutOff(); }
 
     std::unique_ptr<PictureSource> open(const ReadRequest& request) override
     {
@@ -326,13 +328,13 @@ private:
     }
 
     TiffFile file_;
-    CameraNotes notes_;
+    ExifNotes notes_;
     QList<qint32> pages_;
 };
 
 } // namespace
 
-std::unique_ptr<PhotoReader> makeTiffReader(FileBytes bytes, const CameraNotes& notes)
+std::unique_ptr<PhotoReader> makeTiffReader(FileBytes bytes, const ExifNotes& notes)
 {
     return std::make_unique<TiffReader>(bytes, notes);
 }

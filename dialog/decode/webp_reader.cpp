@@ -20,7 +20,7 @@ struct DeleteDemuxer {
 /// The picture, or the first one of a moving one.
 class WebpSource : public PictureSource {
 public:
-    WebpSource(FileBytes bytes, const CameraNotes& notes, int leastEdge)
+    WebpSource(FileBytes bytes, const ExifNotes& notes, int leastEdge)
     {
         const WebPData data{bytes.data(), bytes.size()};
         WebPDemuxState state = WEBP_DEMUX_PARSE_ERROR;
@@ -112,7 +112,7 @@ private:
 
 class WebpReader : public PhotoReader {
 public:
-    WebpReader(FileBytes bytes, const CameraNotes& notes) : bytes_(bytes), notes_(notes) {}
+    WebpReader(FileBytes bytes, const ExifNotes& notes) : bytes_(bytes), notes_(notes) {}
 
     QString kind() const override { return QStringLiteral("WebP"); }
 
@@ -123,12 +123,12 @@ public:
 
 private:
     FileBytes bytes_;
-    CameraNotes notes_;
+    ExifNotes notes_;
 };
 
 } // namespace
 
-std::unique_ptr<PhotoReader> makeWebpReader(FileBytes bytes, const CameraNotes& notes)
+std::unique_ptr<PhotoReader> makeWebpReader(FileBytes bytes, const ExifNotes& notes)
 {
     return std::make_unique<WebpReader>(bytes, notes);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/colour_profile.h"
 
+#include "dialog/photo/srgb_curve.h"
+
 #include <array>
 
 #include <lcms2.h>
@@ -22,8 +24,7 @@ OpenProfile held(cmsHPROFILE profile)
 OpenProfile makeGray()
 {
     // Little CMS has sRGB for three channels; one channel takes the same curve.
-    const double curve[] = {2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
-    cmsToneCurve* tone = cmsBuildParametricToneCurve(nullptr, 4, curve);
+    cmsToneCurve* tone = cmsBuildParametricToneCurve(nullptr, 4, kSrgbCurve.data());
     OpenProfile profile = held(cmsCreateGrayProfile(cmsD50_xyY(), tone));
     cmsFreeToneCurve(tone);
     return profile;

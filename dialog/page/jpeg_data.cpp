@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_data.h"
 
-#include "dialog/page/exif_notes.h"
 #include "dialog/page/jpeg_scan.h"
+#include "dialog/photo/exif_notes.h"
 
 #include <QFile>
 #include <QMap>
@@ -24,7 +24,6 @@ constexpr int kJfif = 0xE0;
 constexpr int kExif = 0xE1;
 constexpr int kProfile = 0xE2;
 constexpr int kAdobe = 0xEE;
-constexpr double kCentimetresPerInch = 2.54;
 
 bool isFrame(int marker)
 {
@@ -39,6 +38,7 @@ struct Findings {
     int precision = 0;
     QByteArray componentNames;
     bool hasJfif = false;
+    bool hasExif = false;
     int adobeTransform = -1;
     QMap<int, QByteArray> profilePieces;
     int profileCount = 0;
@@ -86,7 +86,8 @@ struct Findings {
             takeProfile(body);
         else if (marker == kAdobe && body.size() >= 12 && body.startsWith("Adobe"))
             adobeTransform = uchar(body[11]);
-        else if (marker == kExif && body.startsWith(exif)) {
+        else if (marker == kExif && !hasExif && body.startsWith(exif)) {
+            hasExif = true;
             const ExifNotes notes = readExifNotes(body.mid(exif.size()));
             info.orientation = notes.orientation;
             info.colorTag = notes.colorTag;
@@ -155,7 +156,7 @@ std::optional<JpegInfo> readJpegInfo(const QString& path, bool through)
 std::optional<JpegInfo> untouchableJpeg(const Photo& photo)
 {
     // Made-up pixels differ from decoder to decoder: a damaged photo prints as it was shown.
-    if (photo.isPdf || photo.isDamaged)
+    if (photo.isPdf || photo.isDamaged || hasChanged(photo))
         return std::nullopt;
     std::optional<JpegInfo> info = readJpegInfo(photo.path, false);
     const bool isAsOpened = info && info->suitsPdf && info->orientation.upright(info->size) == photo.pixels;

@@ -5,6 +5,9 @@
 #include "dialog/page/picture.h"
 #include "platform/foundation/units.h"
 
+#include <QDateTime>
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace halvern {
@@ -13,6 +16,7 @@ namespace {
 
 constexpr double kAssumedResolution = 300.0;
 constexpr double kLeastBelievedResolution = 100.0;
+constexpr int kPagesOfADecoder = 8; // its time is limited, and a long document is not made to do harm
 
 QImage smallCopy(const QImage& image)
 {
@@ -38,27 +42,45 @@ Photo photoOf(const QString& path, qint32 page, const PhotoDecoder& file, const 
     return photo;
 }
 
-PhotoFile readPages(const QString& path)
+/// The pages of a file, and what is wrong with the first one that cannot be read.
+struct ReadPages {
+    std::vector<Photo> pages;
+    PhotoFault fault = PhotoFault::none;
+};
+
+ReadPages readPages(const QString& path)
 {
-    PhotoFile result;
-    const auto file = std::make_shared<PhotoDecoder>(path);
-    if (file->file().fault != PhotoFault::none)
-        result.problem = photoProblem(file->file().fault, path);
-    for (const qint32 page : file->file().pages) {
-        const std::unique_ptr<PictureRows> rows =
-            openPicture(file, path, {page, kPreviewEdge, 0}, false, &result.problem);
-        if (!rows) {
-            if (file->isOver())
-                break;
-            continue;
-        }
-        const Picture picture = readPicture(*rows);
-        if (picture.image.isNull())
-            result.problem = picture.problem;
-        else
+    ReadPages result;
+    auto file = std::make_shared<PhotoDecoder>(path);
+    const OpenAnswer opened = file->file();
+    result.fault = opened.fault;
+    for (qsizetype i = 0; i < opened.pages.size(); ++i) {
+        if (i > 0 && i % kPagesOfADecoder == 0)
+            file = std::make_shared<PhotoDecoder>(path);
+        const qint32 page = opened.pages[i];
+        QString problem;
+        const auto rows = openPicture(file, path, {page, kPreviewEdge, 0}, PhotoFault::none, &problem);
+        const Picture picture = rows ? readPicture(*rows) : Picture();
+        if (!picture.image.isNull())
             result.pages.push_back(photoOf(path, page, *file, file->picture(), picture));
+        else if (result.fault == PhotoFault::none)
+            result.fault = file->fault() != PhotoFault::none ? file->fault() : PhotoFault::tooLarge;
+        if (file->isOver())
+            break;
     }
+    if (result.fault == PhotoFault::none && opened.isCutOff)
+        result.fault = PhotoFault::partMissing;
     return result;
+}
+
+// What to say of a file some of whose pages are there.
+PhotoFault faultOfSome(const ReadPages& read)
+{
+    if (read.fault == PhotoFault::damaged)
+        return PhotoFault::partMissing;
+    const bool isDamaged =
+        std::any_of(read.pages.begin(), read.pages.end(), [](const Photo& photo) { return photo.isDamaged; });
+    return read.fault == PhotoFault::none && isDamaged ? PhotoFault::partMissing : read.fault;
 }
 
 } // namespace
@@ -70,20 +92,33 @@ QSizeF ownSizeInPoints(const QSize& pixels, double dotsPerInch)
     return QSizeF(pixels) * (kPointsPerInch / dpi);
 }
 
+FileStamp stampOf(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.exists() ? FileStamp{file.size(), file.lastModified().toMSecsSinceEpoch()} : FileStamp();
+}
+
+bool hasChanged(const Photo& photo)
+{
+    return photo.stamp != FileStamp() && photo.stamp != stampOf(photo.path);
+}
+
 PhotoFile readPhotoFile(const QString& path)
 {
     PhotoFile file;
     file.problem = fileProblem(path);
     if (!file.problem.isEmpty())
         return file;
-    file = readPages(path);
-    for (size_t i = 0; file.pages.size() > 1 && i < file.pages.size(); ++i)
-        file.pages[i].pageNumber = int(i) + 1;
-    const bool isDamaged =
-        std::any_of(file.pages.begin(), file.pages.end(), [](const Photo& photo) { return photo.isDamaged; });
-    // One page of several that cannot be read at all is a part that is missing, too.
-    if (isDamaged || (!file.pages.empty() && !file.problem.isEmpty()))
-        file.problem = photoProblem(PhotoFault::partMissing, path);
+    const FileStamp stamp = stampOf(path);
+    const ReadPages read = readPages(path);
+    file.pages = read.pages;
+    for (size_t i = 0; i < file.pages.size(); ++i) {
+        file.pages[i].stamp = stamp;
+        file.pages[i].pageNumber = file.pages.size() > 1 ? int(i) + 1 : 0;
+    }
+    const PhotoFault fault = file.pages.empty() ? read.fault : faultOfSome(read);
+    if (fault != PhotoFault::none)
+        file.problem = photoProblem(fault, path);
     return file;
 }
 
@@ -94,7 +129,11 @@ std::unique_ptr<PictureRows> openPixels(const Photo& photo, int resolution, int 
         return nullptr;
     const auto file = std::make_shared<PhotoDecoder>(photo.path);
     const ReadRequest request{photo.page, photo.isPdf ? 0 : leastEdge, photo.isPdf ? resolution : 0};
-    return openPicture(file, photo.path, request, !photo.isDamaged, problem);
+    const bool isAgreed = photo.isDamaged || photo.printsDamaged;
+    const PhotoFault whenDamaged = isAgreed            ? PhotoFault::none
+                                   : hasChanged(photo) ? PhotoFault::changed
+                                                       : PhotoFault::partMissing;
+    return openPicture(file, photo.path, request, whenDamaged, problem);
 }
 
 QImage readPixels(const Photo& photo, int resolution, QString* problem)

@@ -12,6 +12,14 @@
 
 namespace halvern {
 
+/// What tells a file from another one that takes its place.
+struct FileStamp {
+    qint64 bytes = 0;
+    qint64 changed = 0; ///< milliseconds since 1970
+
+    bool operator==(const FileStamp&) const = default;
+};
+
 /// One page to print: a photo file, or one page of a PDF or TIFF file. A value; the pixels are read again
 /// when they are needed, except the small copy for the preview.
 struct Photo {
@@ -23,8 +31,10 @@ struct Photo {
     QImage preview; ///< upright, sRGB, at most kPreviewEdge pixels on its longer edge
     /// A part of the file is missing or wrong; what is not there is gray, or smeared.
     bool isDamaged = false;
-    int pageNumber = 0;       ///< what a reader counts, from 1; 0: the file has one page only
-    PhotoPlacement placement; ///< what the user wants of it
+    bool printsDamaged = false; ///< the user wants it printed whatever is found to be missing
+    FileStamp stamp;            ///< of the file when it was opened; empty: not known
+    int pageNumber = 0;         ///< what a reader counts, from 1; 0: the file has one page only
+    PhotoPlacement placement;   ///< what the user wants of it
 };
 
 inline constexpr int kPreviewEdge = 1600;
@@ -40,13 +50,20 @@ struct PhotoFile {
 /// be believed.
 QSizeF ownSizeInPoints(const QSize& pixels, double dotsPerInch);
 
-/// Reads a JPEG, PNG, TIFF or PDF file. Takes as long as decoding takes: call it on a worker. Any thread.
+/// Of a file as it is now; empty if there is none. Any thread.
+FileStamp stampOf(const QString& path);
+
+/// Whether the file is another one than when it was opened. Any thread.
+bool hasChanged(const Photo& photo);
+
+/// Reads a file of any format that there is a reader for. Takes as long as decoding takes: call it on a
+/// worker. Any thread.
 PhotoFile readPhotoFile(const QString& path);
 
 /// The photo's pixels row by row, as its file has them: what a job is made from. They may be scaled down as
 /// long as the longer edge has `leastEdge` pixels, 0: never; a PDF page is drawn at `resolution` dots per
-/// inch instead, in sRGB. Null, with a sentence in `problem`, if the file is gone or cannot be read. Any
-/// thread.
+/// inch instead, in sRGB. Null, with a sentence in `problem`, if the file is gone or cannot be read. Damage
+/// that was not known before is a problem once all rows are read. Any thread.
 std::unique_ptr<PictureRows> openPixels(const Photo& photo, int resolution, int leastEdge, QString* problem);
 
 /// The whole picture, upright and in sRGB; a PDF page is drawn at `resolution` dots per inch. Null, with a

@@ -13,7 +13,8 @@ QStringList photoSuffixes()
 {
     return {QStringLiteral("jpg"),  QStringLiteral("jpeg"), QStringLiteral("png"),  QStringLiteral("tif"),
             QStringLiteral("tiff"), QStringLiteral("webp"), QStringLiteral("heic"), QStringLiteral("heif"),
-            QStringLiteral("avif"), QStringLiteral("pdf"),  QStringLiteral("bmp"),  QStringLiteral("gif")};
+            QStringLiteral("hif"),  QStringLiteral("avif"), QStringLiteral("pdf"),  QStringLiteral("bmp"),
+            QStringLiteral("gif")};
 }
 
 QStringList photosInFolder(const QString& folder)

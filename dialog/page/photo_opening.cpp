@@ -5,6 +5,7 @@
 #include "dialog/page/photo_problem.h"
 #include "dialog/page/picture.h"
 #include "dialog/page/scaled_rows.h"
+#include "dialog/photo/decoder_wire.h"
 #include "platform/foundation/units.h"
 
 #include <algorithm>
@@ -12,8 +13,6 @@
 namespace halvern {
 
 namespace {
-
-constexpr qint64 kMostPixels = 400'000'000;
 
 std::unique_ptr<PictureRows> scaledToPreview(std::unique_ptr<PictureRows> rows)
 {
@@ -26,11 +25,13 @@ std::unique_ptr<PictureRows> scaledToPreview(std::unique_ptr<PictureRows> rows)
 
 std::optional<Photo> openJpeg(const QString& path)
 {
+    const FileStamp stamp = stampOf(path);
     const std::optional<JpegInfo> jpeg = readJpegInfo(path, true);
     if (!jpeg || !jpeg->isWhole || qint64(jpeg->size.width()) * jpeg->size.height() > kMostPixels)
         return std::nullopt;
     Photo photo;
     photo.path = path;
+    photo.stamp = stamp;
     photo.pixels = jpeg->orientation.upright(jpeg->size);
     photo.ownSize = ownSizeInPoints(photo.pixels, jpeg->dotsPerInch);
     return photo;
@@ -53,7 +54,7 @@ SmallCopy readSmallCopy(const Photo& photo)
     const int resolution = int(std::clamp(kPreviewEdge * kPointsPerInch / std::max(longer, 1.0), 1.0, 300.0));
     // Damage is to be told of as such, and not as a change of the file.
     Photo asItIs = photo;
-    asItIs.isDamaged = true;
+    asItIs.printsDamaged = true;
     std::unique_ptr<PictureRows> rows = openPixels(asItIs, resolution, kPreviewEdge, &copy.problem);
     if (!rows)
         return copy;

@@ -6,8 +6,7 @@
 namespace halvern {
 
 /// Like readPhotoFile(), but no JPEG file is decoded that is seen to be whole without it: its page has no
-/// preview. What is wrong inside of its packed data shows when the preview is read. Call it on a worker. Any
-/// thread.
+/// preview. Call it on a worker. Any thread.
 PhotoFile openPhotoFile(const QString& path);
 
 /// A photo's preview, read now.

@@ -40,6 +40,9 @@ QString pattern(PhotoFault fault)
     case PhotoFault::unsupported:
         return Words::tr("\"%1\" is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 "
                          "or 16 bits, from your photo program and print that.");
+    case PhotoFault::highRange:
+        return Words::tr("\"%1\" is an HDR picture, which is brighter than paper can be. Export it as JPEG "
+                         "without HDR from your photo program and print that.");
     case PhotoFault::damaged:
         return Words::tr("\"%1\" is damaged and cannot be read. Export it from your photo program again.");
     case PhotoFault::partMissing:

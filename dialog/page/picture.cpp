@@ -16,8 +16,11 @@ constexpr int kStripRows = 32;
 
 class FileRows : public PictureRows {
 public:
-    FileRows(std::shared_ptr<PhotoDecoder> file, QString path, StoredPicture picture, bool wasWhole)
-        : file_(std::move(file)), path_(std::move(path)), picture_(std::move(picture)), wasWhole_(wasWhole)
+    FileRows(std::shared_ptr<PhotoDecoder> file, QString path, StoredPicture picture, PhotoFault whenDamaged)
+        : file_(std::move(file)),
+          path_(std::move(path)),
+          picture_(std::move(picture)),
+          whenDamaged_(whenDamaged)
     {
     }
 
@@ -34,8 +37,8 @@ public:
     {
         if (file_->fault() != PhotoFault::none)
             return photoProblem(file_->fault(), path_);
-        const bool hasChanged = rowsLeft_ == 0 && wasWhole_ && file_->isDamaged();
-        return hasChanged ? photoProblem(PhotoFault::changed, path_) : QString();
+        const bool isNews = rowsLeft_ == 0 && whenDamaged_ != PhotoFault::none && file_->isDamaged();
+        return isNews ? photoProblem(whenDamaged_, path_) : QString();
     }
 
     bool isDamaged() const override { return file_->isDamaged(); }
@@ -44,7 +47,7 @@ private:
     std::shared_ptr<PhotoDecoder> file_;
     QString path_;
     StoredPicture picture_;
-    bool wasWhole_;
+    PhotoFault whenDamaged_;
     int rowsLeft_ = picture_.size.height();
 };
 
@@ -81,14 +84,14 @@ QImage imageInSrgb(PictureRows& rows)
 } // namespace
 
 std::unique_ptr<PictureRows> openPicture(const std::shared_ptr<PhotoDecoder>& file, const QString& path,
-                                         const ReadRequest& request, bool wasWhole, QString* problem)
+                                         const ReadRequest& request, PhotoFault whenDamaged, QString* problem)
 {
     const PictureAnswer& answer = file->begin(request);
     if (answer.fault != PhotoFault::none) {
         *problem = photoProblem(answer.fault, path);
         return nullptr;
     }
-    return std::make_unique<FileRows>(file, path, answer.picture, wasWhole);
+    return std::make_unique<FileRows>(file, path, answer.picture, whenDamaged);
 }
 
 Picture readPicture(PictureRows& rows)

@@ -19,10 +19,11 @@ struct Picture {
     QString problem;
 };
 
-/// Begins with a picture of an open file: its rows, or null, with a sentence in `problem`. Damage that was
-/// not there before is a change of the file, if `wasWhole`. Any thread, like all here.
+/// Begins with a picture of an open file: its rows, or null, with a sentence in `problem`. Damage is told as
+/// the problem `whenDamaged`, none: as isDamaged() only. Any thread, like all here.
 std::unique_ptr<PictureRows> openPicture(const std::shared_ptr<PhotoDecoder>& file, const QString& path,
-                                         const ReadRequest& request, bool wasWhole, QString* problem);
+                                         const ReadRequest& request, PhotoFault whenDamaged,
+                                         QString* problem);
 
 /// Reads all rows.
 Picture readPicture(PictureRows& rows);

@@ -19,9 +19,10 @@ namespace halvern {
 namespace {
 
 constexpr quint32 kLongestMessage = 64 * 1024 * 1024; // profiles of printing presses have megabytes
-constexpr int kMostPages = 100'000;
+constexpr quint32 kMostPages = 100'000;
 constexpr int kMostResolution = 100'000;
 constexpr double kMostPoints = 1e6;
+constexpr int kMostStars = 5;
 
 QDataStream& operator<<(QDataStream& out, const PhotoDetails& d)
 {
@@ -37,8 +38,10 @@ QDataStream& operator>>(QDataStream& in, PhotoDetails& d)
         sensitivity >> d.title >> d.description >> rating;
     for (QString* text : {&d.kind, &d.taken, &d.camera, &d.lens, &d.title, &d.description})
         text->truncate(kLongestDetail);
-    d.sensitivity = sensitivity;
-    d.rating = rating;
+    for (double* number : {&d.exposure, &d.aperture, &d.focalLength})
+        *number = qIsFinite(*number) ? std::max(*number, 0.0) : 0.0;
+    d.sensitivity = std::max(sensitivity, 0);
+    d.rating = std::clamp(rating, 0, kMostStars);
     return in;
 }
 
@@ -80,6 +83,26 @@ QDataStream& operator>>(QDataStream& in, PhotoFault& fault)
     return in;
 }
 
+/// A file's pages; the toolkit's own reading of a list makes room for as many as are announced.
+struct Pages {
+    QList<qint32>& list;
+};
+
+QDataStream& operator>>(QDataStream& in, Pages pages)
+{
+    quint32 count = 0;
+    in >> count;
+    if (count > kMostPages)
+        in.setStatus(QDataStream::ReadCorruptData);
+    pages.list.clear();
+    for (quint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        qint32 page = 0;
+        in >> page;
+        pages.list.append(page);
+    }
+    return in;
+}
+
 template <typename... Fields> QByteArray bytesOf(const Fields&... fields)
 {
     QByteArray bytes;
@@ -88,7 +111,7 @@ template <typename... Fields> QByteArray bytesOf(const Fields&... fields)
     return bytes;
 }
 
-template <typename... Fields> bool readFrom(const QByteArray& bytes, Fields&... fields)
+template <typename... Fields> bool readFrom(const QByteArray& bytes, Fields&&... fields)
 {
     QDataStream in(bytes);
     (in >> ... >> fields);
@@ -112,11 +135,15 @@ void takeDescriptor(const msghdr& header, Descriptor* descriptor)
          part = CMSG_NXTHDR(const_cast<msghdr*>(&header), part)) {
         if (part->cmsg_level != SOL_SOCKET || part->cmsg_type != SCM_RIGHTS)
             continue;
-        int number = -1;
-        std::memcpy(&number, CMSG_DATA(part), sizeof number);
-        Descriptor taken(number);
-        if (descriptor)
-            *descriptor = std::move(taken);
+        // There is room for two, for alignment; who sends more than one is not to fill our table of them.
+        const size_t count = (part->cmsg_len - CMSG_LEN(0)) / sizeof(int);
+        for (size_t i = 0; i < count; ++i) {
+            int number = -1;
+            std::memcpy(&number, CMSG_DATA(part) + i * sizeof number, sizeof number);
+            Descriptor taken(number);
+            if (descriptor)
+                *descriptor = std::move(taken);
+        }
     }
 }
 
@@ -163,7 +190,7 @@ QByteArray encoded(const OpenAnswer& m)
 
 bool decode(const QByteArray& bytes, OpenAnswer& m)
 {
-    return readFrom(bytes, m.fault, m.isPdf, m.isCutOff, m.pages, m.details) && m.pages.size() <= kMostPages;
+    return readFrom(bytes, m.fault, m.isPdf, m.isCutOff, Pages{m.pages}, m.details);
 }
 
 QByteArray encoded(const ReadRequest& m)
@@ -179,17 +206,18 @@ bool decode(const QByteArray& bytes, ReadRequest& m)
 
 QByteArray encoded(const PictureAnswer& m)
 {
-    return bytesOf(quint8(m.fault), m.picture, m.ownSize, m.suitsPdf, m.bandRows);
+    return bytesOf(quint8(m.fault), m.picture, m.ownSize, m.bandRows);
 }
 
 bool decode(const QByteArray& bytes, PictureAnswer& m)
 {
-    if (!readFrom(bytes, m.fault, m.picture, m.ownSize, m.suitsPdf, m.bandRows))
+    if (!readFrom(bytes, m.fault, m.picture, m.ownSize, m.bandRows))
         return false;
     const bool isSizePossible = m.ownSize.width() >= 0.0 && m.ownSize.width() < kMostPoints &&
                                 m.ownSize.height() >= 0.0 && m.ownSize.height() < kMostPoints;
     return m.fault != PhotoFault::none ||
-           (isPossible(m.picture.size) && isPossible(m.picture.fullSize) && m.bandRows > 0 && isSizePossible);
+           (isPossible(m.picture.size) && isPossible(m.picture.fullSize) && m.bandRows > 0 &&
+            m.bandRows <= m.picture.size.height() && isSizePossible);
 }
 
 QByteArray encoded(const BandAnswer& m)

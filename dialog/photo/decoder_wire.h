@@ -14,7 +14,8 @@
 /// What the dialog and halvern-decode say to each other about one file. The dialog opens a conversation with
 /// OpenRequest and the file's descriptor, and gets an OpenAnswer. Then, any number of times: ReadRequest,
 /// PictureAnswer with the descriptor of a window of shared memory, and, for each of the dialog's empty
-/// messages, a BandAnswer: rows in one half of the window, the first half first.
+/// messages, a BandAnswer: rows in one half of the window, the first half first. The next ReadRequest may
+/// come before all rows have.
 namespace halvern {
 
 /// The most pixels that a picture may have.
@@ -27,7 +28,7 @@ struct OpenRequest {
 struct OpenAnswer {
     PhotoFault fault = PhotoFault::none;
     bool isPdf = false;
-    bool isCutOff = false; ///< a document without its end
+    bool isCutOff = false; ///< pages, or the file's end, are missing
     QList<qint32> pages;   ///< as ReadRequest names them
     PhotoDetails details;
 };
@@ -42,7 +43,6 @@ struct PictureAnswer {
     PhotoFault fault = PhotoFault::none;
     StoredPicture picture;
     QSizeF ownSize{0.0, 0.0}; ///< of a document's page, points
-    bool suitsPdf = false;    ///< a JPEG file that each reader of PDF files decodes to the same pixels
     qint32 bandRows = 0;      ///< that half of the window holds
 };
 

@@ -15,8 +15,9 @@ namespace halvern {
 
 namespace {
 
-constexpr int kPatience = 60'000; // milliseconds without a sign of the decoder
-constexpr int kHalves = 2;        // of the window: one is filled while the other is read
+// Milliseconds without a sign of the decoder: more than its processor time takes on a busy computer.
+constexpr int kPatience = 300'000;
+constexpr int kHalves = 2; // of the window: one is filled while the other is read
 constexpr int kSeals = F_SEAL_SHRINK | F_SEAL_GROW;
 
 // What a descriptor says that a hostile decoder may have sent; it must not shrink while it is mapped.
@@ -60,13 +61,27 @@ PhotoDecoder::~PhotoDecoder()
     process_.kill();
 }
 
+// Bands that were on their way when nobody wanted them any more come first.
+Received PhotoDecoder::receiveAnswer(QByteArray* answer, Descriptor* descriptor)
+{
+    BandAnswer band;
+    Received state = Received::message;
+    for (int i = 0; i <= kHalves; ++i) {
+        state = receiveMessage(process_.socket.number(), answer, descriptor, kPatience);
+        const bool isBand = answer->size() == encoded(band).size() && decode(*answer, band);
+        if (state != Received::message || !isBand)
+            break;
+    }
+    return state;
+}
+
 PhotoFault PhotoDecoder::ask(const QByteArray& message, QByteArray* answer, Descriptor* descriptor)
 {
     const int socket = process_.socket.number();
     const int given = photo_.isOpen() ? photo_.number() : -1;
     const bool isSent = sendMessage(socket, message, given);
     photo_.reset();
-    switch (isSent ? receiveMessage(socket, answer, descriptor, kPatience) : Received::end) {
+    switch (isSent ? receiveAnswer(answer, descriptor) : Received::end) {
     case Received::message:
         return PhotoFault::none;
     case Received::tooLate:

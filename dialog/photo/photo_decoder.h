@@ -8,11 +8,11 @@
 namespace halvern {
 
 /// A photo file that is being read: by halvern-decode, in a process of its own that may fail, hang or run out
-/// of memory without harm to this one. Nothing of the file is looked at here. Any thread, one at a time; each
-/// call takes as long as reading takes.
+/// of memory without harm to this one, which only checks and copies what that one says. Any thread, one at a
+/// time; each call takes as long as reading takes, five minutes at most.
 class PhotoDecoder {
 public:
-    /// Opens the file, which may be of any kind.
+    /// Opens the file, of any format; what is no plain file is told to be unreadable.
     explicit PhotoDecoder(const QString& path);
     ~PhotoDecoder();
     PhotoDecoder(const PhotoDecoder&) = delete;
@@ -41,6 +41,7 @@ public:
 private:
     PhotoFault ask(const QByteArray& message, QByteArray* answer, Descriptor* descriptor);
     bool nextBand();
+    Received receiveAnswer(QByteArray* answer, Descriptor* descriptor);
 
     // Outlives the process, whose end it may be.
     DecoderLease lease_;

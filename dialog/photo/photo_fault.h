@@ -15,6 +15,7 @@ enum class PhotoFault : quint8 {
     noPicture,
     cameraRaw,   ///< for the program that develops it
     unsupported, ///< a picture of a kind that no reader here knows
+    highRange,   ///< its numbers mean more light than paper gives back
     damaged,     ///< nothing of it can be read
     partMissing, ///< a picture, but not all of it
     tooLarge,

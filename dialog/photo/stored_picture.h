@@ -6,6 +6,9 @@
 
 namespace halvern {
 
+/// Some formats count dots per centimetre.
+inline constexpr double kCentimetresPerInch = 2.54;
+
 /// How a stored picture becomes an upright one.
 struct Orientation {
     int quarterTurns = 0;    ///< clockwise

@@ -73,6 +73,7 @@ void PhotoLoader::take(const PhotoFile& file)
     --filesLeft_;
     for (const Photo& page : file.pages) {
         photos_.push_back(page);
+        photos_.back().printsDamaged = printDamaged_;
         // The others are read again when they are looked at.
         if (photos_.size() > kKeptPreviews)
             photos_.back().preview = QImage();

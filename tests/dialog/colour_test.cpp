@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Conversions against those of Little CMS's own tool, with the profiles of Debian's packages.
 #include "dialog/page/colour_transform.h"
-#include "dialog/page/exif_notes.h"
+#include "dialog/photo/exif_notes.h"
 #include "tests/support/test.h"
 
 #include <QProcess>

@@ -11,8 +11,8 @@ struct ExifNotes {
     ColorTag colorTag = ColorTag::none;
 };
 
-/// Reads the notes of a JPEG file's Exif segment, which are a TIFF file of their own. What is wrong in them
-/// is as if it were not there. Any thread.
+/// Reads the notes of a JPEG file's first Exif segment, which are a TIFF file of their own. What is wrong in
+/// them is as if it were not there. Any thread.
 ExifNotes readExifNotes(const QByteArray& tiff);
 
 } // namespace halvern

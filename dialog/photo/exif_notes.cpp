@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dialog/page/exif_notes.h"
+#include "dialog/photo/exif_notes.h"
 
 #include <QtEndian>
 
