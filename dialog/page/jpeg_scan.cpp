@@ -1,189 +1,197 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_scan.h"
 
-#include <algorithm>
-#include <cstring>
+#include "dialog/page/jpeg_packed.h"
+
+#include <QtEndian>
+
+#include <memory>
 
 namespace halvern {
 
 namespace {
 
-constexpr qint64 kPiece = 256 * 1024;
 constexpr qint64 kMostHead = 64 * 1024 * 1024; // previews and profiles stand there
-constexpr qint64 kHole = 512;                  // bytes: a sector of a disk or a card
-constexpr int kRestarts = 8;
+constexpr int kBlock = 8;                      // pixels
+constexpr int kMostComponents = 4;
+constexpr int kMostSampling = 4;
+constexpr int kMostBlocks = 10; // of a scan's repeated part
+constexpr int kTables = 4;
+constexpr int kCounts = 16;
 
-constexpr int kPadding = 0xFF;
-constexpr int kStuffing = 0x00;
+constexpr int kBaseline = 0xC0;
+constexpr int kExtended = 0xC1;
+constexpr int kHuffmanTables = 0xC4;
 constexpr int kFirstRestart = 0xD0;
 constexpr int kLastRestart = 0xD7;
 constexpr int kStartOfImage = 0xD8;
 constexpr int kEndOfImage = 0xD9;
 constexpr int kStartOfScan = 0xDA;
+constexpr int kRestartInterval = 0xDD;
 constexpr int kFirstSegment = 0xC0;
-constexpr int kNone = -1;
+constexpr int kLastFrame = 0xCF;
+constexpr int kReserved = 0xC8;
+constexpr int kArithmeticTables = 0xCC;
 
-bool isRestart(int marker)
+// Not where the end comes first, or no marker does.
+bool isSegment(int marker)
 {
-    return marker >= kFirstRestart && marker <= kLastRestart;
+    const bool isRestart = marker >= kFirstRestart && marker <= kLastRestart;
+    return marker >= kFirstSegment && !isRestart && marker != kStartOfImage && marker != kEndOfImage;
 }
 
-bool hasHole(const char* bytes, qint64 count)
+struct Component {
+    int name = 0;
+    int across = 0; // blocks in what is repeated
+    int down = 0;
+    bool isSeen = false;
+};
+
+int divided(int number, int by)
 {
-    // Each run of that length covers one of these places.
-    for (qint64 i = kHole / 2; i < count; i += kHole / 2) {
-        if (bytes[i] != 0)
-            continue;
-        qint64 first = i;
-        while (first > 0 && bytes[first - 1] == 0)
-            --first;
-        qint64 end = i;
-        while (end < count && bytes[end] == 0)
-            ++end;
-        if (end - first >= kHole)
-            return true;
-    }
-    return false;
+    return (number + by - 1) / by;
 }
 
-// Reads a file's bytes in order, and keeps those that it is told to keep.
-class Walker {
+/// Goes through a file whose pixels are packed in the way that cameras use.
+class PlainJpeg {
 public:
-    explicit Walker(QIODevice& file) : file_(file) { file_.seek(0); }
+    explicit PlainJpeg(QIODevice& file) : walker_(file) {}
 
-    // The next byte; kNone at the end.
-    int next()
+    bool isInOrder()
     {
-        if (at_ == piece_.size() && !refill())
-            return kNone;
-        return uchar(piece_[at_++]);
-    }
-
-    int nextPair()
-    {
-        const int high = next();
-        const int low = next();
-        return high == kNone || low == kNone ? kNone : high * 256 + low;
-    }
-
-    bool skip(qint64 count)
-    {
-        while (count > 0) {
-            if (at_ == piece_.size() && !refill())
+        if (walker_.marker() != kStartOfImage)
+            return false;
+        int marker = walker_.marker();
+        while (marker != kEndOfImage) {
+            const int length = isSegment(marker) ? walker_.nextPair() : 0;
+            if (length < 2)
                 return false;
-            const qint64 here = std::min(count, qint64(piece_.size()) - at_);
-            at_ += here;
-            count -= here;
+            const QByteArray body = walker_.read(length - 2);
+            if (body.size() != length - 2 || !take(marker, body))
+                return false;
+            marker = marker == kStartOfScan ? behind_ : walker_.marker();
+        }
+        return !components_.empty() && std::all_of(components_.begin(), components_.end(),
+                                                   [](const Component& c) { return c.isSeen; });
+    }
+
+private:
+    bool take(int marker, const QByteArray& body)
+    {
+        const bool isFrame = marker <= kLastFrame && marker != kHuffmanTables && marker != kReserved &&
+                             marker != kArithmeticTables;
+        if (isFrame)
+            return (marker == kBaseline || marker == kExtended) && takeFrame(body);
+        if (marker == kHuffmanTables)
+            return takeTables(body);
+        if (marker == kRestartInterval && body.size() >= 2)
+            interval_ = qFromBigEndian<quint16>(body.constData());
+        return marker != kStartOfScan || takeScan(body);
+    }
+
+    bool takeFrame(const QByteArray& body)
+    {
+        const int count = body.size() >= 6 ? uchar(body[5]) : 0;
+        if (!components_.empty() || count < 1 || count > kMostComponents || body.size() < 6 + 3 * count ||
+            body[0] != 8)
+            return false;
+        height_ = qFromBigEndian<quint16>(body.constData() + 1);
+        width_ = qFromBigEndian<quint16>(body.constData() + 3);
+        for (int i = 6; i < 6 + 3 * count; i += 3) {
+            const Component component{uchar(body[i]), uchar(body[i + 1]) >> 4, uchar(body[i + 1]) & 15};
+            if (component.across < 1 || component.across > kMostSampling || component.down < 1 ||
+                component.down > kMostSampling)
+                return false;
+            across_ = std::max(across_, component.across);
+            down_ = std::max(down_, component.down);
+            components_.push_back(component);
+        }
+        return width_ > 0 && height_ > 0;
+    }
+
+    bool takeTables(const QByteArray& body)
+    {
+        for (qsizetype at = 0; at < body.size();) {
+            const int name = uchar(body[at]);
+            const QByteArray counts = body.mid(at + 1, kCounts);
+            if ((name & 15) >= kTables || name >> 4 > 1 || counts.size() < kCounts)
+                return false;
+            qsizetype codes = 0;
+            for (const char count : counts)
+                codes += uchar(count);
+            const auto kind = name >> 4 == 0 ? JpegCodes::Kind::first : JpegCodes::Kind::others;
+            std::unique_ptr<JpegCodes>& table = tables_[size_t(name >> 4)][size_t(name & 15)];
+            table = std::make_unique<JpegCodes>();
+            if (!table->define(kind, counts, body.mid(at + 1 + kCounts, codes)))
+                return false;
+            at += 1 + kCounts + codes;
         }
         return true;
     }
 
-    // The marker that follows at once; kNone if something else does.
-    int marker()
+    bool takeScan(const QByteArray& body)
     {
-        if (next() != kPadding)
-            return kNone;
-        int marker = kPadding;
-        while (marker == kPadding)
-            marker = next();
-        return marker;
-    }
-
-    // Goes through a scan's packed data to the marker behind them; kNone if something is wrong with them.
-    int throughScan()
-    {
-        int restart = 0;
-        for (;;) {
-            if (!toPadding())
-                return kNone;
-            int marker = kPadding;
-            while (marker == kPadding)
-                marker = next();
-            if (marker == kStuffing)
-                continue;
-            if (!isRestart(marker))
-                return marker;
-            if (marker != kFirstRestart + restart)
-                return kNone;
-            restart = (restart + 1) % kRestarts;
-        }
-    }
-
-    qint64 position() const { return before_ + at_; }
-
-private:
-    bool refill()
-    {
-        before_ += piece_.size();
-        piece_ = file_.read(kPiece);
-        at_ = 0;
-        return !piece_.isEmpty();
-    }
-
-    // Behind the next byte of 255.
-    bool toPadding()
-    {
-        for (;;) {
-            const char* from = piece_.constData() + at_;
-            const qint64 left = piece_.size() - at_;
-            const void* found = left > 0 ? std::memchr(from, kPadding, size_t(left)) : nullptr;
-            const qint64 span = found ? static_cast<const char*>(found) - from : left;
-            if (hasHole(from, span))
+        const int count = body.isEmpty() ? 0 : uchar(body[0]);
+        if (count < 1 || count > kMostComponents || body.size() < 1 + 2 * count)
+            return false;
+        std::vector<JpegBlocks> blocks;
+        int all = 0;
+        qint64 times = qint64(divided(width_, kBlock * across_)) * divided(height_, kBlock * down_);
+        for (int i = 1; i < 1 + 2 * count; i += 2) {
+            const auto found = std::find_if(components_.begin(), components_.end(), [&](const Component& c) {
+                return c.name == uchar(body[i]) && !c.isSeen;
+            });
+            const size_t first = uchar(body[i + 1]) >> 4;
+            const size_t others = uchar(body[i + 1]) & 15;
+            if (found == components_.end() || first >= kTables || others >= kTables || !tables_[0][first] ||
+                !tables_[1][others])
                 return false;
-            at_ += found ? span + 1 : span;
-            if (found)
-                return true;
-            if (!refill())
-                return false;
+            found->isSeen = true;
+            int size = found->across * found->down;
+            if (count == 1) {
+                times = qint64(divided(divided(width_ * found->across, across_), kBlock)) *
+                        divided(divided(height_ * found->down, down_), kBlock);
+                size = 1;
+            }
+            all += size;
+            blocks.push_back({tables_[0][first].get(), tables_[1][others].get(), size});
         }
+        behind_ =
+            all <= kMostBlocks ? markerBehindScan(walker_, blocks, times, interval_) : JpegWalker::kNone;
+        return behind_ != JpegWalker::kNone;
     }
 
-    QIODevice& file_;
-    QByteArray piece_;
-    qint64 at_ = 0;
-    qint64 before_ = 0;
+    JpegWalker walker_;
+    std::vector<Component> components_;
+    std::array<std::array<std::unique_ptr<JpegCodes>, kTables>, 2> tables_;
+    int width_ = 0;
+    int height_ = 0;
+    int across_ = 1;
+    int down_ = 1;
+    int interval_ = 0;
+    int behind_ = JpegWalker::kNone;
 };
-
-// Goes on to the end of the next scan's header; false if there is none.
-bool toScan(Walker& walker, int marker)
-{
-    for (;; marker = walker.marker()) {
-        // Also where the end comes first, or no marker does.
-        if (marker < kFirstSegment || isRestart(marker) || marker == kStartOfImage || marker == kEndOfImage)
-            return false;
-        const int length = walker.nextPair();
-        if (length < 2 || !walker.skip(length - 2))
-            return false;
-        if (marker == kStartOfScan)
-            return true;
-    }
-}
 
 } // namespace
 
 QByteArray readJpegHead(QIODevice& file)
 {
-    Walker walker(file);
-    if (walker.marker() != kStartOfImage || !toScan(walker, walker.marker()))
+    JpegWalker walker(file);
+    if (walker.marker() != kStartOfImage)
         return {};
+    for (int marker = kStartOfImage; marker != kStartOfScan;) {
+        marker = walker.marker();
+        const int length = isSegment(marker) ? walker.nextPair() : 0;
+        if (length < 2 || !walker.skip(length - 2))
+            return {};
+    }
     const qint64 length = walker.position();
     return length <= kMostHead && file.seek(0) ? file.read(length) : QByteArray();
 }
 
 bool isJpegInOrder(QIODevice& file)
 {
-    Walker walker(file);
-    if (walker.marker() != kStartOfImage)
-        return false;
-    int marker = walker.marker();
-    bool hasScan = false;
-    while (marker != kEndOfImage) {
-        if (!toScan(walker, marker))
-            return false;
-        hasScan = true;
-        marker = walker.throughScan();
-    }
-    return hasScan;
+    return PlainJpeg(file).isInOrder();
 }
 
 } // namespace halvern

@@ -10,9 +10,10 @@ namespace halvern {
 /// or if that is absurdly much. Any thread.
 QByteArray readJpegHead(QIODevice& file);
 
-/// Reads a JPEG file from its beginning through to its end marker without unpacking it: whether nothing is
-/// missing that can be seen so. A file that was cut off, has a hole of zeros, or whose restart markers are
-/// out of order is none, and some that a decoder reads without trouble are none either. Any thread.
+/// Goes through a JPEG file from its beginning to its end marker, and through the packed numbers of its
+/// pixels without unpacking them: true if a decoder finds nothing wrong with them. False says nothing: a
+/// decoder has to tell, of files that are progressive or packed otherwise than by most cameras, too. Any
+/// thread.
 bool isJpegInOrder(QIODevice& file);
 
 } // namespace halvern

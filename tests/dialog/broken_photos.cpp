@@ -82,6 +82,31 @@ QByteArray heif(heif_compression_format format)
     return file;
 }
 
+// The toolkit writes no such files: each pixel as it is, and the codes forgotten before they grow.
+QByteArray gif()
+{
+    constexpr int kForget = 128;
+    constexpr int kEnd = 129;
+    constexpr int kBeforeTheyGrow = 100;
+    const QImage picture = motif(QImage::Format_Grayscale8);
+    QByteArray file("GIF89a\xF0\0\xA0\0\xF6\0\0", 13);
+    for (int i = 0; i < 128; ++i)
+        file.append(3, char(2 * i));
+    file.append("!\xF9\x04\0\0\0\0\0,\0\0\0\0\xF0\0\xA0\0\0\x07", 19);
+    QByteArray codes;
+    for (int i = 0; i < picture.width() * picture.height(); ++i) {
+        if (i % kBeforeTheyGrow == 0)
+            codes.append(char(kForget));
+        codes.append(char(qGray(picture.pixel(i % picture.width(), i / picture.width())) / 2));
+    }
+    codes.append(char(kEnd));
+    for (qsizetype at = 0; at < codes.size(); at += 255) {
+        const QByteArray block = codes.mid(at, 255);
+        file.append(char(block.size())).append(block);
+    }
+    return file.append("\0;", 2);
+}
+
 struct Format {
     const char* name;
     QByteArray bytes;
@@ -99,6 +124,7 @@ std::vector<Format> formats()
                             {"webp", written("webp")},
                             {"bmp", written("bmp")},
                             {"ppm", written("ppm")},
+                            {"gif", gif()},
                             {"pdf", pdf()},
                             {"heic", heif(heif_compression_HEVC)},
                             {"avif", heif(heif_compression_AV1)}};
@@ -127,7 +153,7 @@ BrokenPhoto broken(const Format& format, int number, std::minstd_rand& random)
     BrokenPhoto photo{QString(), format.bytes, false, false};
     const char* how = "";
     const auto size = quint32(format.bytes.size());
-    switch (number % 4) {
+    switch (number % 5) {
     case 0:
         how = "cut";
         photo.bytes.truncate(qsizetype(random() % size));
@@ -144,6 +170,14 @@ BrokenPhoto broken(const Format& format, int number, std::minstd_rand& random)
         how = "absurd";
         photo.bytes = withAbsurdSize(photo.bytes, random);
         break;
+    case 3: {
+        how = "lost";
+        const auto block = qsizetype(size / 4);
+        photo.bytes.remove(block + qsizetype(random() % (size / 4)), block);
+        // Whose readers make do with what is left, and say nothing.
+        photo.isCut = QByteArray("gif pdf").indexOf(format.name) < 0;
+        break;
+    }
     default:
         how = "hole";
         const auto from = qsizetype(random() % size);

@@ -13,7 +13,7 @@ struct BrokenPhoto {
     QString name;
     QByteArray bytes;
     bool isWhole = false;
-    bool isCut = false; ///< a good part of its pixels is gone: that must not go unsaid
+    bool isCut = false; ///< a good part of it is gone, at its end or within: that must not go unsaid
 };
 
 /// For each format a whole file and `ofEach` broken ones, the same ones for the same seed.

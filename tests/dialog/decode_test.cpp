@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/photo.h"
 #include "dialog/page/photo_facts.h"
+#include "dialog/page/photo_opening.h"
 #include "dialog/photo/photo_decoder.h"
 #include "tests/dialog/broken_photos.h"
 #include "tests/support/test.h"
@@ -36,7 +37,7 @@ void writeTiff(const QString& path, const Recipe& recipe)
     TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, recipe.photometric);
     TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_LZW);
     TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, recipe.isSeparate ? PLANARCONFIG_SEPARATE : PLANARCONFIG_CONTIG);
-    if (const uint16_t alpha = EXTRASAMPLE_UNASSALPHA; recipe.photometric == PHOTOMETRIC_RGB && count == 4)
+    if (const uint16_t alpha = EXTRASAMPLE_UNASSALPHA; recipe.wanted.size() < count)
         TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &alpha);
     if (recipe.isTiled) {
         TIFFSetField(tiff, TIFFTAG_TILEWIDTH, 32);
@@ -71,13 +72,18 @@ protected:
     void look(const BrokenPhoto& photo)
     {
         SCOPED_TRACE(qPrintable(photo.name));
-        const PhotoFile read = readPhotoFile(writeFile(folder.filePath(photo.name), photo.bytes));
+        const PhotoFile read = openPhotoFile(writeFile(folder.filePath(photo.name), photo.bytes));
         EXPECT_TRUE(!read.pages.empty() || !read.problem.isEmpty());
         EXPECT_TRUE(read.problem.isEmpty() || read.problem.contains(photo.name)) << qPrintable(read.problem);
         EXPECT_FALSE(read.problem.contains(q("takes too long")) ||
                      read.problem.contains(q("halvern-decode")));
         EXPECT_TRUE(!photo.isWhole || read.problem.isEmpty()) << qPrintable(read.problem);
         EXPECT_TRUE(!photo.isCut || !read.problem.isEmpty()) << photo.bytes.size();
+        // What is not told of goes to the printer: whoever decodes it must find nothing, either.
+        for (const Photo& page : read.problem.isEmpty() ? read.pages : std::vector<Photo>()) {
+            const SmallCopy copy = readSmallCopy(page);
+            EXPECT_FALSE(copy.isDamaged || copy.image.isNull()) << qPrintable(copy.problem);
+        }
         told += read.problem.isEmpty() ? 0 : 1;
     }
 
@@ -131,6 +137,22 @@ TEST_F(DecodeTest, TiffSamplesComeAsTheyAreStored)
          PixelFormat::cmyk8,
          {1, 2, 0, 255}},
         {"gray, white is 0", PHOTOMETRIC_MINISWHITE, 8, {5}, true, false, PixelFormat::gray8, {250}},
+        {"a fifth of four inks",
+         PHOTOMETRIC_SEPARATED,
+         8,
+         {10, 20, 30, 40, 51},
+         false,
+         false,
+         PixelFormat::cmyk8,
+         {2, 4, 6, 8}},
+        {"a fifth of gray, white is 0",
+         PHOTOMETRIC_MINISWHITE,
+         8,
+         {100, 51},
+         false,
+         false,
+         PixelFormat::gray8,
+         {235}},
     };
     for (const Recipe& recipe : recipes) {
         SCOPED_TRACE(recipe.name);
@@ -180,6 +202,58 @@ TEST_F(DecodeTest, AReaderThatDiesTakesNobodyAlong)
     EXPECT_TRUE(decoder.isOver());
     ASSERT_TRUE(QImage(30, 30, QImage::Format_Grayscale8).save(path));
     EXPECT_EQ(readPhotoFile(path).problem, QString()) << "the next file is read";
+}
+
+TEST_F(DecodeTest, DamageThatIsFoundOnTheWayIsToldAsWhatItIs)
+{
+    QImage image(600, 400, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    const QString path = folder.filePath(q("photo.jpg"));
+    ASSERT_TRUE(image.save(path));
+    const Photo whole = openPhotoFile(path).pages.at(0);
+    const QByteArray bytes = readFile(path);
+    writeFile(path, bytes.first(bytes.size() / 2));
+    Photo cut = whole;
+    cut.stamp = stampOf(path);
+    QString problem;
+    readPixels(cut, 300, &problem);
+    EXPECT_TRUE(problem.contains(q("missing"))) << qPrintable(problem);
+    readPixels(whole, 300, &problem);
+    EXPECT_TRUE(problem.contains(q("changed"))) << qPrintable(problem);
+    cut.printsDamaged = true;
+    EXPECT_FALSE(readPixels(cut, 300, &problem).isNull());
+    EXPECT_EQ(problem, QString());
+}
+
+TEST_F(DecodeTest, TheNextPictureMayBeAskedForBeforeTheLastRow)
+{
+    const QString path = folder.filePath(q("large.bmp"));
+    ASSERT_TRUE(QImage(3000, 3000, QImage::Format_RGB32).save(path));
+    PhotoDecoder decoder(path);
+    QByteArray rows(qsizetype(3000) * 3000 * 3, '\0');
+    auto* to = reinterpret_cast<uchar*>(rows.data());
+    for (const int some : {1, 700, 0, 3000}) {
+        ASSERT_EQ(decoder.begin({0, 0, 0}).fault, PhotoFault::none);
+        EXPECT_EQ(decoder.read(to, some), some);
+    }
+}
+
+TEST(DecoderWireTest, ADecoderThatLiesIsNotBelieved)
+{
+    OpenAnswer opened;
+    opened.details.rating = 1 << 30;
+    OpenAnswer taken;
+    ASSERT_TRUE(decode(encoded(opened), taken));
+    EXPECT_EQ(taken.details.rating, 5);
+    // 4 billion pages, of which none follows.
+    EXPECT_FALSE(decode(encoded(opened).replace(3, 4, QByteArray(4, '\xFF')), taken));
+    PictureAnswer picture;
+    picture.picture.size = picture.picture.fullSize = QSize(40, 30);
+    for (const int rows : {30, 31}) {
+        picture.bandRows = rows;
+        PictureAnswer answer;
+        EXPECT_EQ(decode(encoded(picture), answer), rows == 30);
+    }
 }
 
 TEST_F(DecodeTest, WhatAFileTellsIsReadAsPlainText)

@@ -3,6 +3,8 @@
 #include "dialog/page/jpeg_data.h"
 #include "dialog/page/page_layout.h"
 #include "dialog/page/page_renderer.h"
+#include "dialog/page/pdf_content.h"
+#include "dialog/page/pdf_file.h"
 #include "dialog/page/photo.h"
 #include "dialog/page/photo_opening.h"
 #include "dialog/photo/decoder_process.h"
@@ -14,6 +16,7 @@
 #include <QColorSpace>
 #include <QImageWriter>
 #include <QPainter>
+#include <QtEndian>
 
 #include <cstdio>
 #include <cstdlib>
@@ -305,6 +308,7 @@ TEST_F(PageTest, APartThatIsMissingIsTold)
 {
     const QByteArray jpeg = readFile(save(quarters({400, 300}), q("good.jpg")));
     const QByteArray tiff = tiffOf({0, 1, 0});
+    const QByteArray pages = tiffOf({0, 0, 0});
     printed(readPhotoFile(folder.filePath(q("good.jpg"))).pages.at(0), layOut({k4x6, k4x6Area, k4x6}));
 
     const struct {
@@ -314,6 +318,8 @@ TEST_F(PageTest, APartThatIsMissingIsTold)
     } cases[] = {
         {"cut.jpg", jpeg.first(jpeg.size() * 3 / 4), true},
         {"hole.jpg", QByteArray(jpeg).replace(jpeg.size() / 2, 600, QByteArray(600, '\0')), true},
+        {"lost_block.jpg", QByteArray(jpeg).remove(jpeg.size() / 2, 64), true},
+        {"lost_pages.tif", pages.chopped(3732), true},
         {"no_end_marker.jpg", jpeg.chopped(2), false},
         {"padded.jpg", jpeg + QByteArray(5000, '\0'), false},
         {"cut.tif", tiff.chopped(500), true},
@@ -383,6 +389,39 @@ TEST_F(PageTest, PdfFilesGiveAPageForEachOfTheirs)
     const PageLayout again = layOut({k4x6, {{0, 0}, k4x6}, read.pages[1].ownSize});
     const QImage sheet = printed(read.pages[1], again)->page(0)->renderToImage(72, 72);
     EXPECT_EQ(at(sheet, 50, 380), QColor(Qt::red)) << "the page's left end is the sheet's bottom";
+}
+
+TEST_F(PageTest, AnEnormousFileNamesItsPlacesInFull)
+{
+    // Swallows what would fill a disk.
+    class Swallowed : public QIODevice {
+    public:
+        QByteArray end;
+
+    protected:
+        qint64 readData(char*, qint64) override { return -1; }
+
+        qint64 writeData(const char* bytes, qint64 count) override
+        {
+            end = (end + QByteArray(bytes, std::min<qint64>(count, 1000))).right(1000);
+            return count;
+        }
+    } device;
+
+    ASSERT_TRUE(device.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    PdfFile file(device);
+    file.beginPicture({{100'000, 34'000}, 3, "FlateDecode"});
+    const QByteArray piece(64 * 1024 * 1024, '\0');
+    for (int i = 0; i < 150; ++i)
+        ASSERT_TRUE(file.addToPicture(piece.constData(), piece.size()));
+    file.addPage({100, 100}, PdfContent({100, 100}), {file.endPicture()});
+    ASSERT_TRUE(file.finish());
+    const qsizetype at = device.end.indexOf("startxref\n") + 10;
+    const qint64 table = device.end.mid(at, device.end.indexOf('\n', at) - at).toLongLong();
+    EXPECT_GT(table, 9'999'999'999);
+    const QByteArray entries =
+        device.end.left(device.end.indexOf("\nendstream", device.end.indexOf("/XRef")));
+    EXPECT_EQ(qFromBigEndian<qint64>(entries.constData() + entries.size() - 8), table) << "its own place";
 }
 
 TEST_F(PageTest, FilesThatCannotBePrintedSayWhyAndWhatToDo)
