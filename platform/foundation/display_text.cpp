@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/foundation/display_text.h"
 
+#include <QStringList>
 #include <QTextStream>
 
 namespace halvern {

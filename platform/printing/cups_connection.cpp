@@ -56,6 +56,13 @@ Connection::Connection(CancelFlag cancelled, const Limits& limits)
     connect(watch);
 }
 
+Connection::Connection(Host host, CancelFlag cancelled, const Limits& limits)
+    : host_(std::move(host)), cancelled_(std::move(cancelled)), limits_(limits)
+{
+    ExchangeWatch watch(fromNow(limits_.whole), cancelled_);
+    connect(watch);
+}
+
 Connection::~Connection() = default;
 
 bool Connection::isCancelled() const
@@ -86,6 +93,17 @@ int Connection::keepWaiting(http_t*, void* self)
     return !connection->isCancelled() && connection->waited_ < connection->limits_.silence;
 }
 
+Http Connection::makeHttp() const
+{
+    // The port is known once the server is. Not connected yet: the limits come first.
+    const char* server = host_ ? host_->name.constData() : cupsServer();
+    const int port = host_ ? host_->port : ippPort();
+    const http_encryption_t encryption = !host_               ? cupsEncryption()
+                                         : host_->isEncrypted ? HTTP_ENCRYPTION_ALWAYS
+                                                              : HTTP_ENCRYPTION_IF_REQUESTED;
+    return Http(httpConnect2(server, port, nullptr, AF_UNSPEC, encryption, 1, 0, nullptr));
+}
+
 bool Connection::connect(ExchangeWatch& watch)
 {
     cupsSetPasswordCB2(noPassword, nullptr);
@@ -96,10 +114,8 @@ bool Connection::connect(ExchangeWatch& watch)
     }
     const char* known = http_ ? httpGetAuthString(http_.get()) : nullptr;
     const QByteArray password(known);
-    // The port is known once the server is. Not connected yet: the limits come first. Never reused after a
-    // failure, because libcups would then connect once more by itself.
-    const char* server = cupsServer();
-    http_.reset(httpConnect2(server, ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0, nullptr));
+    // Never reused after a failure, because libcups would then connect once more by itself.
+    http_ = makeHttp();
     if (http_) {
         httpSetTimeout(http_.get(), std::chrono::duration<double>(kLookAtSilence).count(),
                        &Connection::keepWaiting, this);
@@ -181,7 +197,7 @@ int Connection::ask(const Question& question, ExchangeWatch& watch)
         mustReconnect_ = true;
         if (status == HTTP_STATUS_UPGRADE_REQUIRED)
             mustEncrypt_ = true;
-        else if (status != HTTP_STATUS_UNAUTHORIZED ||
+        else if (status != HTTP_STATUS_UNAUTHORIZED || host_ ||
                  cupsDoAuthentication(http_.get(), question.ipp ? "POST" : "GET", question.resource) != 0)
             return status;
     }

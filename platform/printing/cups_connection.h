@@ -38,6 +38,14 @@ struct Limits {
     qint64 bytes = 16 * 1024 * 1024; ///< of an answer, unpacked
 };
 
+/// Who is asked in place of the server that the environment names: a printer, which gets no password of
+/// anybody's.
+struct Host {
+    QByteArray name;
+    int port = 0;
+    bool isEncrypted = false;
+};
+
 /// The next piece of a document to be sent, empty at its end; nothing to give up.
 using NextPiece = std::function<std::optional<QByteArray>()>;
 
@@ -47,6 +55,7 @@ using NextPiece = std::function<std::optional<QByteArray>()>;
 class Connection {
 public:
     explicit Connection(CancelFlag cancelled, const Limits& limits = {});
+    Connection(Host host, CancelFlag cancelled, const Limits& limits);
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -69,6 +78,9 @@ public:
     /// Whether the last exchange ended because the server was silent or took too long.
     bool wasSilent() const { return failure_ == Failure::silent; }
 
+    /// Whether it ended because the answer went over the limit.
+    bool wasTooMuch() const { return failure_ == Failure::tooMuch; }
+
     /// Whether the server said in the last exchange that what was asked for is not there.
     bool wasNotFound() const;
 
@@ -82,6 +94,7 @@ private:
     enum class Failure { none, unreachable, silent, cancelled, tooMuch, brokenOff, refused };
     struct Question;
 
+    Http makeHttp() const;
     static int keepWaiting(_http_s* http, void* self);
     static ssize_t readPiece(void* self, unsigned char* buffer, size_t length);
     bool connect(ExchangeWatch& watch);
@@ -94,6 +107,7 @@ private:
     bool converse(const Question& question, const std::function<bool()>& readAnswer);
     QString sentence(int ippStatus, const QString& message) const;
 
+    std::optional<Host> host_;
     CancelFlag cancelled_;
     Limits limits_;
     std::chrono::milliseconds waited_{0};
