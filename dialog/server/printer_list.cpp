@@ -1,26 +1,55 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/server/printer_list.h"
 
+#include "dialog/server/printer_questions.h"
+#include "dialog/server/server_events.h"
 #include "platform/foundation/near_names.h"
 #include "platform/foundation/threads/work_queue.h"
+#include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
+#include <mutex>
 
 namespace halvern {
 
 namespace {
 
-constexpr int kRefreshMilliseconds = 4000;
+constexpr std::chrono::milliseconds kRest(2000);
+constexpr std::chrono::milliseconds kRestWithoutEvents(4000);
+// Events may be lost.
+constexpr std::chrono::seconds kOldest(60);
 constexpr int kDiscoveryMilliseconds = 3000;
 // More names than these nobody reads in a sentence.
 constexpr qsizetype kMostNamed = 8;
 
+constexpr int kLongestUri = 1024;
+
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(PrinterList)
 };
+
+// With or without encryption, and whatever the back end is told beside it, it is the same printer.
+QString samePlace(const QString& uri)
+{
+    QString place = uri.section(QLatin1Char('?'), 0, 0).toLower();
+    if (place.startsWith(QLatin1StringView("ipps:")))
+        place.remove(3, 1);
+    while (place.endsWith(QLatin1Char('/')))
+        place.chop(1);
+    return place;
+}
+
+// Which one it is, its level tells.
+bool isAboutSupplies(const QString& reason)
+{
+    return reason.startsWith(QLatin1StringView("marker-supply-low")) ||
+           reason.startsWith(QLatin1StringView("toner-low"));
+}
 
 } // namespace
 
@@ -31,6 +60,8 @@ QString stateText(const PrinterInfo& printer)
         state = Words::tr("Does not accept jobs");
     else if (printer.state == PrinterState::stopped)
         state = Words::tr("Paused");
+    else if (printer.isSilent)
+        state = Words::tr("The printer does not answer");
     else if (printer.state == PrinterState::processing)
         state = Words::tr("Printing");
     else if (printer.isDiscovered)
@@ -40,12 +71,16 @@ QString stateText(const PrinterInfo& printer)
     QStringList reasons;
     for (const QString& reason : printer.reasons) {
         const QString text = reasonText(reason);
-        if (!text.isEmpty() && reason != QLatin1StringView("paused") && !reasons.contains(text))
+        const bool isToldBelow = !printer.low.isEmpty() && isAboutSupplies(reason);
+        if (!text.isEmpty() && !isToldBelow && reason != QLatin1StringView("paused") &&
+            !reasons.contains(text))
             reasons.append(text);
     }
     if (const QString text = messageText(printer.message);
         !text.isEmpty() && !reasons.contains(text, Qt::CaseInsensitive))
         reasons.append(text);
+    if (!printer.low.isEmpty())
+        reasons.append(printer.low);
     return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
 }
 
@@ -58,7 +93,21 @@ Severity stateSeverity(const PrinterInfo& printer)
         if (!reasonText(reason).isEmpty())
             worst = std::max(worst, severityOf(reason));
     }
-    return worst;
+    return printer.isSilent || !printer.low.isEmpty() ? std::max(worst, Severity::warning) : worst;
+}
+
+PrinterInfo withReport(PrinterInfo printer, const PrinterReport& report)
+{
+    printer.isSilent = report.isSilent;
+    if (!report.isThere)
+        return printer;
+    printer.state = report.state;
+    for (const QString& reason : report.reasons) {
+        if (!printer.reasons.contains(reason))
+            printer.reasons.append(reason);
+    }
+    printer.low = lowSupplies(report.supplies, true);
+    return printer;
 }
 
 QString usualPrinter(const QString& serverDefault, const std::vector<PrinterInfo>& printers)
@@ -90,20 +139,80 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
         .arg(name, list, QString::number(count - names.size()));
 }
 
+QString uuidIn(const QString& text)
+{
+    static const QRegularExpression kUuid(
+        QStringLiteral("uuid[:=](?:urn:uuid:)?([0-9a-f]{8}(?:-[0-9a-f]{4}){3}-[0-9a-f]{12})"),
+        QRegularExpression::CaseInsensitiveOption);
+    return kUuid.match(text.left(kLongestUri)).captured(1).toLower();
+}
+
 std::vector<PrinterInfo> withDiscovered(std::vector<PrinterInfo> queues,
                                         const std::vector<PrinterInfo>& discovered)
 {
+    std::ranges::stable_partition(queues, [](const PrinterInfo& queue) { return !queue.isTemporary; });
+    QSet<QString> known;
+    const auto note = [&known](const PrinterInfo& printer) {
+        for (const QString& uuid : {printer.uuid, uuidIn(printer.deviceUri)}) {
+            if (!uuid.isEmpty())
+                known.insert(uuid);
+        }
+        if (!printer.deviceUri.isEmpty())
+            known.insert(samePlace(printer.deviceUri));
+        known.insert(printer.name);
+    };
+    std::ranges::for_each(queues, note);
     for (const PrinterInfo& printer : discovered) {
-        if (std::ranges::find(queues, printer.name, &PrinterInfo::name) == queues.end())
-            queues.push_back(printer);
+        if (known.contains(printer.name) || known.contains(samePlace(printer.deviceUri)) ||
+            known.contains(printer.uuid) || known.contains(uuidIn(printer.deviceUri)))
+            continue;
+        queues.push_back(printer);
+        note(printer);
     }
     return queues;
 }
 
-PrinterList::PrinterList(QObject* parent) : QObject(parent), stop_(cups::makeCancelFlag())
+/// The worker's side: what it asks over, and what it is to look out for.
+struct PrinterList::Line {
+    std::mutex mutex; ///< of the following two
+    QString watched;
+    bool isWanted = true; ///< an answer, whatever the server says of events
+
+    // The worker's only.
+    std::unique_ptr<cups::Connection> server;
+    QByteArray serverName;
+    ServerEvents events;
+    bool isFirst = true;
+    std::chrono::steady_clock::time_point asked;
+
+    std::pair<QString, bool> take()
+    {
+        const std::scoped_lock lock(mutex);
+        return {watched, std::exchange(isWanted, false)};
+    }
+
+    void connect(const cups::CancelFlag& stop)
+    {
+        // Else the library keeps to the server that it found first.
+        cupsSetServer(nullptr);
+        if (server && server->isConnected() && serverName == cupsServer())
+            return;
+        serverName = cupsServer();
+        server = std::make_unique<cups::Connection>(stop);
+    }
+
+    // One that lists its printers and leaves has no need of events.
+    ServerEvents::News look()
+    {
+        if (std::exchange(isFirst, false))
+            return ServerEvents::News::some;
+        return server->isConnected() ? events.look(*server) : ServerEvents::News::unknown;
+    }
+};
+
+PrinterList::PrinterList(QObject* parent)
+    : QObject(parent), stop_(cups::makeCancelFlag()), line_(std::make_shared<Line>())
 {
-    timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &PrinterList::refresh);
 }
 
 PrinterList::~PrinterList()
@@ -113,23 +222,52 @@ PrinterList::~PrinterList()
 
 void PrinterList::start()
 {
-    refresh();
+    const QPointer<PrinterList> self(this);
+    const auto round = [self, line = line_, stop = stop_] {
+        const auto [watched, isWanted] = line->take();
+        line->connect(stop);
+        const ServerEvents::News news = line->look();
+        const auto now = std::chrono::steady_clock::now();
+        const auto rest = news == ServerEvents::News::unknown ? kRestWithoutEvents : kRest;
+        if (news == ServerEvents::News::none && !isWanted && now - line->asked < kOldest)
+            return rest;
+        line->asked = now;
+        PrinterAnswer answer = askPrinters(*line->server);
+        PrinterReport report;
+        if (!watched.isEmpty() && answer.problem.isEmpty())
+            report = askQueue(*line->server, watched);
+        mainQueue().async([self, watched = watched, answer = std::move(answer), report] {
+            if (!self)
+                return;
+            self->take(answer);
+            if (self)
+                self->takeReport(watched, report);
+        });
+        return rest;
+    };
+    rounds_ = std::make_unique<Rounds>(round, [line = line_] { line->events.end(); });
     discover();
 }
 
 void PrinterList::refresh()
 {
-    if (isAsking_)
-        return;
-    isAsking_ = true;
-    QPointer<PrinterList> self(this);
-    WorkQueue().async([self, stop = stop_] {
-        PrinterAnswer answer = askPrinters(stop);
-        mainQueue().async([self, answer = std::move(answer)] {
-            if (self)
-                self->take(answer);
-        });
-    });
+    {
+        const std::scoped_lock lock(line_->mutex);
+        line_->isWanted = true;
+    }
+    if (rounds_)
+        rounds_->hurry();
+}
+
+void PrinterList::watch(const QString& queue)
+{
+    {
+        const std::scoped_lock lock(line_->mutex);
+        line_->watched = queue;
+    }
+    report_ = {};
+    if (!queue.isEmpty())
+        refresh();
 }
 
 void PrinterList::discover()
@@ -149,8 +287,6 @@ void PrinterList::discover()
 
 void PrinterList::take(PrinterAnswer answer)
 {
-    isAsking_ = false;
-    timer_.start(kRefreshMilliseconds);
     const bool isFirst = !hasAnswer_;
     hasAnswer_ = true;
     // A server that fails for a moment does not empty the list.
@@ -164,6 +300,20 @@ void PrinterList::take(PrinterAnswer answer)
     }
     if (isFirst || !isSame)
         Q_EMIT changed();
+}
+
+void PrinterList::takeReport(const QString& queue, const PrinterReport& report)
+{
+    {
+        const std::scoped_lock lock(line_->mutex);
+        if (queue != line_->watched)
+            return;
+    }
+    // As for the list: a server that fails for a moment takes nothing away.
+    if (!report.isThere || report == report_)
+        return;
+    report_ = report;
+    Q_EMIT reportChanged();
 }
 
 const PrinterInfo* PrinterList::find(const QString& name) const

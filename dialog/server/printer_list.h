@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/server/printer_report.h"
+#include "dialog/server/rounds.h"
 #include "dialog/server/state_reasons.h"
 #include "platform/printing/cups_connection.h"
 
 #include <QObject>
-#include <QTimer>
 
 #include <vector>
 
 namespace halvern {
-
-enum class PrinterState { idle, processing, stopped };
 
 /// A print queue as the list shows it.
 struct PrinterInfo {
@@ -25,12 +24,20 @@ struct PrinterInfo {
     QString location;          ///< where it stands, by its administrator's words; may be empty
     QString makeAndModel;      ///< may be empty
     bool isDiscovered = false; ///< seen on the network, without a queue of its own yet
+    bool isTemporary = false;  ///< a queue that the server has made for one that was found, and drops again
+    QString uuid;              ///< empty: not told
+    QStringList members;       ///< of a class: its queues
+    bool isSilent = false;     ///< the printer itself does not answer
+    QString low;               ///< which of its supplies are low, in words
 
     bool operator==(const PrinterInfo&) const = default;
 };
 
 /// "Ready", "Paused: out of paper" and so on, in the user's language.
 QString stateText(const PrinterInfo& printer);
+
+/// The same printer with what is known of its state by the report, which knows more of one than a list.
+PrinterInfo withReport(PrinterInfo printer, const PrinterReport& report);
 
 /// How bad that is: an error keeps the printer from printing.
 Severity stateSeverity(const PrinterInfo& printer);
@@ -52,16 +59,22 @@ struct PrinterAnswer {
 
 /// Asks for all queues, with a few attributes each, on the calling worker.
 PrinterAnswer askPrinters(const cups::CancelFlag& cancelled);
+PrinterAnswer askPrinters(cups::Connection& server);
 
 /// Printers on the network that have no queue yet, on the calling worker; takes up to `milliseconds`.
 std::vector<PrinterInfo> discoverPrinters(int milliseconds, const cups::CancelFlag& cancelled);
 
-/// The queues, and behind them the printers on the network that have none under their name.
+/// The UUID in a URN or in the options of a device URI, in small letters; empty if there is none.
+QString uuidIn(const QString& text);
+
+/// The queues, the lasting ones first, and behind them the printers on the network that have none: none with
+/// their UUID, with their URI, or under their name.
 std::vector<PrinterInfo> withDiscovered(std::vector<PrinterInfo> queues,
                                         const std::vector<PrinterInfo>& discovered);
 
-/// The queues of the server, kept up to date every few seconds by workers, never waiting on the main thread.
-/// Main thread only.
+/// The queues of the server, kept up to date by one worker with one connection, never waiting on the main
+/// thread. The server is asked for all of them only when it has told of an event, or, if it grants no
+/// subscription, every few seconds. Main thread only.
 class PrinterList : public QObject {
     Q_OBJECT
 
@@ -74,6 +87,12 @@ public:
 
     /// Asks again now.
     void refresh();
+
+    /// Has this queue's report asked for, too; empty: none.
+    void watch(const QString& queue);
+
+    /// Of the watched queue, in the server's words.
+    const PrinterReport& report() const { return report_; }
 
     const std::vector<PrinterInfo>& printers() const { return printers_; }
 
@@ -90,10 +109,15 @@ public:
 Q_SIGNALS:
     /// Queues, states or the problem have changed; the first answer always counts.
     void changed();
+    /// So has the watched queue's report.
+    void reportChanged();
 
 private:
+    struct Line;
+
     void discover();
     void take(PrinterAnswer answer);
+    void takeReport(const QString& queue, const PrinterReport& report);
 
     std::vector<PrinterInfo> queues_;
     std::vector<PrinterInfo> discovered_;
@@ -101,9 +125,10 @@ private:
     QString serverDefault_;
     QString problem_;
     bool hasAnswer_ = false;
-    bool isAsking_ = false;
-    QTimer timer_;
+    PrinterReport report_;
     cups::CancelFlag stop_;
+    std::shared_ptr<Line> line_;
+    std::unique_ptr<Rounds> rounds_;
 };
 
 } // namespace halvern

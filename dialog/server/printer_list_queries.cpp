@@ -11,6 +11,8 @@ namespace halvern {
 
 namespace {
 
+constexpr int kMostMembers = 100;
+
 void readAttribute(ipp_attribute_t* attribute, PrinterInfo& printer)
 {
     const QLatin1StringView name(ippGetName(attribute));
@@ -33,6 +35,13 @@ void readAttribute(ipp_attribute_t* attribute, PrinterInfo& printer)
         printer.makeAndModel = QString::fromUtf8(ippGetString(attribute, 0, nullptr)).simplified();
     } else if (name == QLatin1StringView("printer-state-message")) {
         printer.message = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    } else if (name == QLatin1StringView("printer-uuid")) {
+        printer.uuid = uuidIn(QString::fromUtf8(ippGetString(attribute, 0, nullptr)));
+    } else if (name == QLatin1StringView("printer-is-temporary")) {
+        printer.isTemporary = ippGetBoolean(attribute, 0) != 0;
+    } else if (name == QLatin1StringView("member-names")) {
+        for (int i = 0; i < std::min(ippGetCount(attribute), kMostMembers); ++i)
+            printer.members.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
     } else if (name == QLatin1StringView("printer-state-reasons")) {
         for (int i = 0; i < ippGetCount(attribute); ++i) {
             const QString reason = QString::fromUtf8(ippGetString(attribute, i, nullptr));
@@ -81,6 +90,8 @@ int addDiscovered(void* found, unsigned flags, cups_dest_t* dest)
         printer.info = info ? QString::fromUtf8(info) : printer.name;
         const char* uri = cupsGetOption("device-uri", dest->num_options, dest->options);
         printer.deviceUri = QString::fromUtf8(uri);
+        const char* uuid = cupsGetOption("printer-uuid", dest->num_options, dest->options);
+        printer.uuid = uuidIn(QString::fromUtf8(uuid));
         printer.location =
             QString::fromUtf8(cupsGetOption("printer-location", dest->num_options, dest->options));
         printer.makeAndModel =
@@ -95,6 +106,12 @@ int addDiscovered(void* found, unsigned flags, cups_dest_t* dest)
 
 PrinterAnswer askPrinters(const cups::CancelFlag& cancelled)
 {
+    cups::Connection server(cancelled);
+    return askPrinters(server);
+}
+
+PrinterAnswer askPrinters(cups::Connection& server)
+{
     static const char* const kAttributes[] = {"printer-name",
                                               "printer-info",
                                               "printer-state",
@@ -103,9 +120,11 @@ PrinterAnswer askPrinters(const cups::CancelFlag& cancelled)
                                               "printer-is-accepting-jobs",
                                               "device-uri",
                                               "printer-location",
-                                              "printer-make-and-model"};
+                                              "printer-make-and-model",
+                                              "printer-uuid",
+                                              "printer-is-temporary",
+                                              "member-names"};
     PrinterAnswer result;
-    cups::Connection server(cancelled);
     if (!server.isConnected()) {
         result.problem = server.error();
         return result;
