@@ -28,6 +28,7 @@ struct JobToTell {
 struct JobInWords {
     QStringList parts;
     QString problem; ///< what does not fit, in a few words; empty if all does
+    QString warning; ///< what may run out meanwhile; empty if nothing
 };
 
 /// The user's words for what is sent, in the order in which people ask for it: paper, quality, how many,

@@ -258,6 +258,29 @@ void lift(std::vector<PaperSize>& sizes, const PaperRoom& room, const QStringLis
     });
 }
 
+void liftTrays(std::vector<PaperSize>& sizes, const PpdModel& model, const QList<TrayPaper>& trays)
+{
+    std::vector<PaperSize> loaded;
+    for (int i = 0; i < trays.size(); ++i) {
+        const QString page = choiceFor(model, trays[i]).page;
+        const auto size = std::ranges::find_if(sizes, [&](const PaperSize& known) {
+            return !page.isEmpty() && (known.keyword == page || known.borderless == page);
+        });
+        if (size == sizes.end())
+            continue;
+        loaded.push_back(*size);
+        loaded.back().group = PaperGroup::loaded;
+        loaded.back().tray = i;
+        QStringList place{trayText(model, trays[i]), paperTypeText(model, trays[i])};
+        place.removeAll(QString());
+        loaded.back().place = place.join(QStringLiteral(", "));
+    }
+    std::erase_if(sizes, [&](const PaperSize& known) {
+        return std::ranges::find(loaded, known.keyword, &PaperSize::keyword) != loaded.end();
+    });
+    sizes.insert(sizes.begin(), loaded.begin(), loaded.end());
+}
+
 BorderlessSwitch borderlessSwitch(const PpdModel& model, const std::vector<PaperSize>& sizes)
 {
     for (const OwnSwitch& own : kOwnSwitches) {

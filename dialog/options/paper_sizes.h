@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/options/loaded_trays.h"
 #include "dialog/options/page_fit.h"
 
 #include <QSizeF>
@@ -23,6 +24,8 @@ struct PaperSize {
     PaperGroup group = PaperGroup::other;
     QString borderless; ///< the same size without margins, which has no entry of its own; empty if none
     QString obstacle;   ///< the sentence why the printer's equipment rules it out; empty if it does not
+    int tray = -1;      ///< which of the printer's trays it is loaded in; -1: none, or nobody knows
+    QString place = {}; ///< the same in words, with the kind of paper
 };
 
 /// A group's heading.
@@ -41,6 +44,9 @@ std::vector<PaperSize> paperSizes(const PpdModel& model);
 
 /// Puts what is on the loaded paper and what was used last before the others: each size is listed once.
 void lift(std::vector<PaperSize>& sizes, const PaperRoom& room, const QStringList& recent);
+
+/// Puts what is in the printer's trays before all others, once for each tray.
+void liftTrays(std::vector<PaperSize>& sizes, const PpdModel& model, const QList<TrayPaper>& trays);
 
 /// Whether the photos reach the paper's edges, and what turns that on and off.
 struct BorderlessSwitch {

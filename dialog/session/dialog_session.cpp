@@ -25,6 +25,7 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
       photos_(request_.files, request_.printDamaged, request_.placements),
       printer_(request_),
       panels_(panels),
+      watch_(printer_.list()),
       page_(request_),
       options_(panels_),
       presets_({request_, printer_, panels_, page_, options_}),
@@ -42,6 +43,7 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
     connect(&printer_, &PrinterChoice::selected, this, &DialogSession::printerSelected);
     connect(&printer_, &PrinterChoice::notice, this, &DialogSession::notice);
     connect(&printer_, &PrinterChoice::fetched, this, &DialogSession::takePrinter);
+    connect(&watch_, &PrinterWatch::changed, this, &DialogSession::takeReport);
     connect(&printer_, &PrinterChoice::offerRead, this, &DialogSession::takeOffer);
     connect(&presets_, &SessionPresets::notice, this, &DialogSession::notice);
     connect(&presets_, &SessionPresets::refused, this, &DialogSession::refused);
@@ -98,6 +100,9 @@ void DialogSession::leavePrinter()
         Q_EMIT printerLeaving();
     panels_.leave();
     options_.leave();
+    watch_.leave();
+    lastTrays_.clear();
+    inUse_.reset();
     jobOffer_ = {};
     backLinesProblem_.clear();
     presets_.leave();
@@ -106,6 +111,8 @@ void DialogSession::leavePrinter()
 void DialogSession::takePrinter(const FetchedPrinter& printer)
 {
     const QueuePpd& ppd = printer.ppd;
+    // The printer itself is asked for whoever looks on.
+    watch_.watch(printerName(), request_.isAttended ? ppd.deviceUri : QString());
     if (!printer.model) {
         Q_EMIT printerFailed(ppd.problem);
         return;

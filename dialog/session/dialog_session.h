@@ -4,9 +4,11 @@
 #include "dialog/adjust/look.h"
 #include "dialog/job/job_options.h"
 #include "dialog/job/print_run.h"
+#include "dialog/job/trays_in_words.h"
 #include "dialog/options/page_fit.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_renderer.h"
+#include "dialog/server/printer_watch.h"
 #include "dialog/session/colour_management.h"
 #include "dialog/session/option_changes.h"
 #include "dialog/session/page_setup.h"
@@ -160,6 +162,28 @@ public:
     /// Why the chosen page size cannot be on the chosen paper; nothing if it can, or if nobody knows.
     std::optional<PageMisfit> pageMisfit() const;
 
+    /// What the selected printer tells of itself.
+    const PrinterReport& report() const { return watch_.report(); }
+
+    /// Asks the printer again now.
+    void refreshReport() { watch_.refresh(); }
+
+    /// The papers that it says are in its trays; none where a maker's panel knows better.
+    QList<TrayPaper> trays() const;
+
+    /// Which of them the options are set for; -1 if none.
+    int trayInUse() const;
+
+    /// Sets the page, the tray and the kind of paper as they are in this one, in one step that
+    /// undoLastChange() takes back. Nothing happens if there is no such tray any more.
+    void useTray(int tray);
+
+    /// Why the chosen paper is not where it would be taken from; nothing if it is, or if nobody knows.
+    std::optional<NotLoaded> notLoaded() const;
+
+    /// What of its supplies is low and needed as it is set now, in words; empty if nothing is.
+    QString lowSupplies() const;
+
     /// Takes the last change that changed other options too back, with those. Nothing happens once one of
     /// them has been changed again.
     void undoLastChange() { options_.undo(); }
@@ -263,6 +287,11 @@ Q_SIGNALS:
     void presetApplied(const QString& title);
     /// There is news of what the printer has loaded.
     void offerChanged();
+    /// The printer tells something else of itself.
+    void reportChanged();
+    /// The tray that is printed from has other paper now, and the options were set for that, as one step that
+    /// undoLastChange() takes back; a sentence.
+    void trayRefilled(const QString& sentence);
     /// The system's colour service has said what it knows of the printer.
     void coloursKnown();
     /// Option values or the page have changed.
@@ -272,6 +301,8 @@ private:
     void tellOptions();
     void takePrinter(const FetchedPrinter& printer);
     void takeOffer(const PrinterOffer& offer);
+    void takeReport();
+    QList<SideChange> setAsTray(const TrayPaper& paper);
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
     void takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset);
@@ -285,6 +316,9 @@ private:
     PhotoLoader photos_;
     PrinterChoice printer_;
     PrinterPanels panels_;
+    PrinterWatch watch_;
+    QList<TrayPaper> lastTrays_;
+    std::optional<TrayPaper> inUse_; ///< by what was loaded last
     PageSetup page_;
     OptionChanges options_;
     SessionPresets presets_;

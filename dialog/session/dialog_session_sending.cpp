@@ -110,6 +110,9 @@ JobInWords DialogSession::jobInWords() const
         words.problem = chosen.problem.isEmpty() ? plan.problem : chosen.problem;
     if (words.problem.isEmpty())
         words.problem = colourProblem();
+    if (const std::optional<NotLoaded> missing = notLoaded(); words.problem.isEmpty() && missing)
+        words.problem = missing->shortly;
+    words.warning = lowSupplies();
     if (words.problem.isEmpty() && page().colours.isByDialog && !document())
         words.parts.append(colours_.shortly(page().colours, model()));
     return words;

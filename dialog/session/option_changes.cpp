@@ -95,6 +95,43 @@ bool OptionChanges::putBack(const QStringList& keys)
     return true;
 }
 
+QList<SideChange> OptionChanges::chooseTogether(const OptionValues& wanted)
+{
+    QList<SideChange> changes;
+    QSet<QString> chosen = history_.chosen();
+    history_.endGroup();
+    for (const OptionValue& option : wanted) {
+        const QString was = model_->value(option.key);
+        if (option.value.isEmpty() || option.value == was)
+            continue;
+        const ChangeResult result = model_->choose(option.key, option.value, chosen);
+        if (!result.accepted) {
+            Q_EMIT refused(result.refusal);
+            continue;
+        }
+        chosen.insert(option.key);
+        const QString now = model_->value(option.key);
+        changes.append(
+            {option.key, was, now, model_->optionText(option.key), model_->choiceText(option.key, now)});
+        changes.append(result.sideChanges);
+    }
+    if (changes.isEmpty())
+        return changes;
+    QMap<QString, QString> before;
+    for (const SideChange& change : std::as_const(changes)) {
+        storeInSettings(change.key);
+        panels_.tell(change.key, model_->value(change.key));
+        keeper_->forget(change.key);
+        if (!before.contains(change.key))
+            before.insert(change.key, change.before);
+    }
+    openStep(before, {});
+    for (const OptionValue& option : wanted)
+        history_.choose(option.key);
+    Q_EMIT changed();
+    return changes;
+}
+
 // Panels ask at every keystroke.
 bool OptionChanges::changeByPanel(const QString& key, const QVariant& choice, ChangeOrigin origin)
 {

@@ -61,6 +61,10 @@ public:
     /// putBackDone() follows. False if it was refused; refused() then says why.
     bool putBack(const QStringList& keys);
 
+    /// Chooses these as one change that can be undone; one that is refused stays out, and refused() says why.
+    /// Answers what was changed, and what had to change with it.
+    QList<SideChange> chooseTogether(const OptionValues& wanted);
+
     /// A choice of a user's in a panel's control, or of the panel's rules.
     bool changeByPanel(const QString& key, const QVariant& choice, ChangeOrigin origin);
 
