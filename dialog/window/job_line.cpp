@@ -11,6 +11,7 @@ namespace halvern {
 namespace {
 
 constexpr int kLongestPart = 60;
+constexpr int kLongestWarning = 120;
 
 QString warningColour(const QPalette& palette)
 {
@@ -32,6 +33,7 @@ JobLine::JobLine(DialogSession& session, QWidget* parent) : QLabel(parent), sess
     const auto follow = [this] { soon_.start(); };
     connect(&session, &DialogSession::optionsChanged, this, follow);
     connect(&session, &DialogSession::offerChanged, this, follow);
+    connect(&session, &DialogSession::reportChanged, this, follow);
     connect(&session, &DialogSession::photosChanged, this, follow);
     connect(&session, &DialogSession::printerSelected, this, follow);
     connect(&session, &DialogSession::printerFailed, this, follow);
@@ -46,9 +48,12 @@ void JobLine::refresh()
     for (const QString& part : job.parts)
         parts.append(isolated(part, kLongestPart));
     QString markup = markupText(parts.join(QStringLiteral(", ")));
-    if (!job.problem.isEmpty())
-        markup += QStringLiteral(", <b><font color=\"%1\">%2</font></b>")
-                      .arg(warningColour(palette()), markupText(isolated(job.problem, kLongestPart)));
+    for (const auto& [words, form] :
+         {std::pair(job.problem, QStringLiteral(", <b><font color=\"%1\">%2</font></b>")),
+          std::pair(job.warning, QStringLiteral(", <font color=\"%1\">%2</font>"))}) {
+        if (!words.isEmpty())
+            markup += form.arg(warningColour(palette()), markupText(isolated(words, kLongestWarning)));
+    }
     // Laying the same words out again costs more than working them out.
     if (markup == shown_)
         return;

@@ -6,6 +6,7 @@
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
 #include "dialog/window/photo_page.h"
+#include "dialog/window/printer_page.h"
 #include "dialog/window/summary_page.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -28,6 +29,7 @@ const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
 const QString kJob = QStringLiteral("job");
 const QString kPhoto = QStringLiteral("photo");
+const QString kPrinter = QStringLiteral("printer");
 const QString kSummary = QStringLiteral("summary");
 const QString kPreview = QStringLiteral("preview");
 
@@ -91,6 +93,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
       options_(new OptionsPage(session, this)),
       job_(new JobPage(session, this)),
       photo_(new PhotoPage(this)),
+      printer_(new PrinterPage(session, this)),
       summary_(new SummaryPage(session, this))
 {
     list_->setObjectName(QStringLiteral("pageList"));
@@ -102,9 +105,9 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
     area_->setWidgetResizable(true);
     area_->setFrameShape(QFrame::NoFrame);
     area_->viewport()->setAutoFillBackground(false);
-    for (QWidget* page :
-         {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_), static_cast<QWidget*>(job_),
-          static_cast<QWidget*>(photo_), static_cast<QWidget*>(summary_), empty_})
+    for (QWidget* page : {static_cast<QWidget*>(page_), static_cast<QWidget*>(options_),
+                          static_cast<QWidget*>(job_), static_cast<QWidget*>(photo_),
+                          static_cast<QWidget*>(printer_), static_cast<QWidget*>(summary_), empty_})
         page->hide();
     layOut();
     setFocusProxy(list_);
@@ -223,6 +226,7 @@ void PanelDeck::rebuild()
         addPage(kJob, tr("Job"));
         if (!session_.document())
             addPage(kPhoto, tr("About the Photo"));
+        addPage(kPrinter, tr("Printer"));
         addPage(kSummary, tr("Summary"));
         if (previewPage_)
             addPage(kPreview, tr("Preview"));
@@ -270,6 +274,8 @@ QWidget* PanelDeck::viewFor(const QString& identifier)
         return job_;
     if (identifier == kPhoto)
         return photo_;
+    if (identifier == kPrinter)
+        return printer_;
     if (identifier == kSummary)
         return summary_;
     if (identifier == kPreview)
@@ -310,7 +316,9 @@ void PanelDeck::showRow(int row)
 void PanelDeck::nameArea(int row, const QString& identifier)
 {
     setPlainName(area_, list_->item(row)->text());
-    area_->setFocusPolicy(identifier == kSummary || identifier == kPhoto ? Qt::StrongFocus : Qt::NoFocus);
+    area_->setFocusPolicy(identifier == kSummary || identifier == kPhoto || identifier == kPrinter
+                              ? Qt::StrongFocus
+                              : Qt::NoFocus);
 }
 
 void PanelDeck::setPreviewPage(QWidget* preview)

@@ -13,6 +13,7 @@ namespace halvern {
 
 class JobPage;
 class PhotoPage;
+class PrinterPage;
 class OptionFinder;
 class OptionsPage;
 class SummaryPage;
@@ -100,6 +101,7 @@ private:
     OptionsPage* options_;
     JobPage* job_;
     PhotoPage* photo_;
+    PrinterPage* printer_;
     SummaryPage* summary_;
     Panel* shown_ = nullptr;
     int shownRow_ = -1;

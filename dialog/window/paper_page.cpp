@@ -7,6 +7,7 @@
 #include "dialog/window/page_range_row.h"
 #include "dialog/window/paper_size_list.h"
 #include "dialog/window/search_box.h"
+#include "dialog/window/tray_rows.h"
 #include "platform/foundation/units.h"
 #include "platform/toolkit/choice_group.h"
 #include "platform/toolkit/plain_text.h"
@@ -57,6 +58,7 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
       scaling_(new QButtonGroup(this)),
       twoSided_(new QComboBox(this)),
       sides_(new ChoiceList(twoSided_)),
+      trays_(new TrayRows(session, this)),
       pages_(new PageRangeRow(this)),
       colours_(new ColourRow(session, this))
 {
@@ -67,6 +69,7 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     form_->setHorizontalSpacing(14);
     addRow(tr("P&aper size:"), makePaperRow(), paper_);
     form_->addRow(QString(), custom_);
+    addRow(tr("Loaded:"), trays_, trays_);
     QWidget* turns = makeChoices(turn_, QStringLiteral("turn"),
                                  {{int(PageTurn::automatic), tr("As the photo")},
                                   {int(PageTurn::portrait), tr("Portrait")},
@@ -176,6 +179,7 @@ void PaperPage::connectControls()
     // Another printer's paper may come, or a roll go.
     connect(&session_, &DialogSession::offerChanged, this, &PaperPage::refresh);
     connect(&session_, &DialogSession::photosChanged, this, &PaperPage::refresh);
+    connect(&session_, &DialogSession::reportChanged, this, &PaperPage::refresh);
 }
 
 void PaperPage::refresh()
@@ -184,6 +188,8 @@ void PaperPage::refresh()
     refreshBorderless();
     refreshCustom();
     refreshTwoSided();
+    trays_->refresh();
+    form_->setRowVisible(trays_, !trays_->isEmpty());
     const PageSettings& page = session_.page();
     // Without a photo nothing is turned by it.
     const bool isUpright = page.turn == PageTurn::automatic && session_.document();
@@ -205,6 +211,8 @@ void PaperPage::listPapers()
     const PpdModel* model = session_.model();
     std::vector<PaperSize> sizes = model ? paperSizes(*model) : std::vector<PaperSize>();
     lift(sizes, listedRoom_, listedRecent_);
+    if (model)
+        liftTrays(sizes, *model, listedTrays_);
     own_ = ownPapers();
     papers_->setSizes(std::move(sizes), own_, model ? paperLimits(model->file()) : std::nullopt);
 }
@@ -216,13 +224,15 @@ void PaperPage::refreshPaper()
     const std::shared_ptr<ppd_file_t> file = model ? model->sharedFile() : nullptr;
     const PaperRoom room = session_.chosenPaper();
     if (!file || listedFor_.lock() != file || !isSameRoom(room, listedRoom_) ||
-        listedRecent_ != session_.recentPapers()) {
+        listedRecent_ != session_.recentPapers() || listedTrays_ != session_.trays()) {
         listedFor_ = file;
         listedRoom_ = room;
         listedRecent_ = session_.recentPapers();
+        listedTrays_ = session_.trays();
         listPapers();
     }
-    paper_->setCurrentIndex(papers_->rowOf(model ? model->value(kPageSizeKey) : QString()));
+    paper_->setCurrentIndex(
+        papers_->rowOf(model ? model->value(kPageSizeKey) : QString(), session_.trayInUse()));
     setPlainToolTip(paper_, paper_->currentText());
 }
 
@@ -282,6 +292,11 @@ void PaperPage::choosePaper()
     if (!model || row < 0 || row >= papers_->rowCount())
         return;
     const PaperSize& size = papers_->sizes()[size_t(row)];
+    if (size.tray >= 0) {
+        session_.useTray(size.tray);
+        refresh();
+        return;
+    }
     QString wanted = size.keyword;
     if (wanted == QLatin1StringView(kCustomRow)) {
         const std::optional<PaperLimits> limits = paperLimits(model->file());

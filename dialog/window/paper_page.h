@@ -21,6 +21,7 @@ class CustomPaperRow;
 class PageRangeRow;
 class PaperSizeList;
 class SearchBox;
+class TrayRows;
 
 /// The dialog's own first page: paper size, turn, scaling, both sides, and which pages. Main thread only.
 class PaperPage : public QWidget {
@@ -58,6 +59,7 @@ private:
     std::weak_ptr<ppd_file_t> listedFor_; ///< whose sizes are listed
     PaperRoom listedRoom_;                ///< for which paper they are sorted
     QStringList listedRecent_;
+    QList<TrayPaper> listedTrays_;
     QList<OwnPaper> own_;
     QCheckBox* borderless_;
     CustomPaperRow* custom_;
@@ -68,6 +70,7 @@ private:
     QString twoSidedKey_;
     std::weak_ptr<ppd_file_t> sidesFor_; ///< whose choices are listed
     QSpinBox* scale_ = nullptr;          // null where nobody scales by it
+    TrayRows* trays_;
     PageRangeRow* pages_;
     ColourRow* colours_;
 };

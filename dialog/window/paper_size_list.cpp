@@ -29,18 +29,21 @@ void PaperSizeList::setSizes(std::vector<PaperSize> sizes, const QList<OwnPaper>
                       {QLatin1StringView(kCustomRow), tr("Custom size..."), {}, PaperGroup::own, {}, {}});
     searched_.clear();
     for (const PaperSize& size : sizes_)
-        searched_.append(searchText(size));
+        searched_.append(searchText(size) + QLatin1Char(' ') + searchForm(size.place));
     endResetModel();
 }
 
-int PaperSizeList::rowOf(const QString& pageSize)
+int PaperSizeList::rowOf(const QString& pageSize, int tray)
 {
     if (pageSize.isEmpty())
         return -1;
     const auto isIt = [&](const PaperSize& size) {
         return size.keyword == pageSize || size.borderless == pageSize;
     };
-    auto found = std::ranges::find_if(sizes_, isIt);
+    auto found = std::ranges::find_if(
+        sizes_, [&](const PaperSize& size) { return tray >= 0 && size.tray == tray && isIt(size); });
+    if (found == sizes_.end())
+        found = std::ranges::find_if(sizes_, isIt);
     if (found == sizes_.end() && customMeasures(pageSize))
         found = std::ranges::find(sizes_, QLatin1StringView(kCustomRow), &PaperSize::keyword);
     const int row = int(std::distance(sizes_.begin(), found));
@@ -80,9 +83,10 @@ QVariant PaperSizeList::data(const QModelIndex& index, int role) const
     case Qt::AccessibleDescriptionRole:
         return size.obstacle;
     case Qt::AccessibleTextRole:
-        return QStringList{size.text, measures(), groupText(size.group)}.join(QStringLiteral(", "));
+        return QStringList{size.text, size.place, measures(), groupText(size.group)}.join(
+            QStringLiteral(", "));
     case kDetailRole:
-        return measures();
+        return size.place.isEmpty() ? measures() : displayText(size.place);
     case kGroupRole:
         return groupText(size.group);
     case kSearchedRole:

@@ -24,8 +24,8 @@ public:
                   const std::optional<PaperLimits>& limits);
 
     /// The row of a page size, also of one without margins that belongs to another; one that is not listed
-    /// gets a row. -1 for none.
-    int rowOf(const QString& pageSize);
+    /// gets a row. Of several rows of a size the one of this tray goes first. -1 for none.
+    int rowOf(const QString& pageSize, int tray = -1);
 
     const std::vector<PaperSize>& sizes() const { return sizes_; }
 

@@ -9,6 +9,7 @@
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/photo_adding.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/printer_buttons.h"
 #include "dialog/window/printer_rows.h"
 #include "dialog/window/run_bar.h"
 #include "dialog/window/search_box.h"
@@ -212,6 +213,10 @@ QLayout* PrintDialog::makePrinterRows(QWidget* parent)
     state->addWidget(printerState_, 1);
     state->addWidget(jobs_, 0, Qt::AlignTop);
     form->addRow(QString(), state);
+    auto* buttons = new PrinterButtons(session_, parent);
+    connect(buttons, &PrinterButtons::failed, this,
+            [this](const QString& sentence) { tellOfPrinter(MessageKind::error, sentence); });
+    form->addRow(QString(), buttons);
     presets_ = new PresetBar(session_, parent);
     auto* presetLabel = new QLabel(tr("Preset:"), parent);
     presetLabel->setBuddy(presets_->box());
@@ -355,6 +360,11 @@ void PrintDialog::connectSession()
         offerUndo(tr("\"%1\" was applied.").arg(title));
     });
     connect(&session_, &DialogSession::offerChanged, this, &PrintDialog::showMisfit);
+    connect(&session_, &DialogSession::reportChanged, this, [this] {
+        showPrinterState();
+        showMisfit();
+    });
+    connect(&session_, &DialogSession::trayRefilled, this, &PrintDialog::offerUndo);
     connect(&session_, &DialogSession::undoExpired, this, [this] { message_->withdraw(kUndoMessage); });
 }
 
@@ -376,7 +386,9 @@ void PrintDialog::fillPrinters()
 void PrintDialog::showPrinterState()
 {
     const PrinterList& list = session_.printerList();
-    const PrinterInfo* printer = list.find(session_.printerName());
+    const PrinterInfo* known = list.find(session_.printerName());
+    const std::optional<PrinterInfo> printer =
+        known ? std::optional(withReport(*known, session_.report())) : std::nullopt;
     QString text = tr("Looking for printers...");
     // One failure of the server's is told once, wherever it was noticed first.
     if (!list.problem().isEmpty())
@@ -488,19 +500,24 @@ void PrintDialog::showPage()
 void PrintDialog::showMisfit()
 {
     const std::optional<PageMisfit> misfit = session_.pageMisfit();
-    const QString sentence = misfit ? misfit->sentence : QString();
+    const std::optional<NotLoaded> missing = misfit ? std::nullopt : session_.notLoaded();
+    const QString sentence = misfit ? misfit->sentence : missing ? missing->sentence : QString();
     if (sentence == toldMisfit_)
         return;
     toldMisfit_ = sentence;
-    if (!misfit) {
+    if (sentence.isEmpty()) {
         message_->withdraw(kMisfitMessage);
         return;
     }
-    MessageAction use;
-    if (!misfit->fitting.isEmpty())
-        use = {tr("Use %1").arg(QString(misfit->fittingText).replace(QLatin1Char('&'), QLatin1String("&&"))),
-               [this, page = misfit->fitting] { session_.changeOption(QStringLiteral("PageSize"), page); }};
-    message_->showMessage(MessageKind::warning, sentence, std::move(use), kMisfitMessage);
+    const auto use = [](const QString& text) { return tr("Use %1").arg(captionText(text)); };
+    MessageAction action;
+    if (missing)
+        action = {use(missing->otherText), [this, tray = missing->other] { session_.useTray(tray); }};
+    else if (!misfit->fitting.isEmpty())
+        action = {use(misfit->fittingText), [this, page = misfit->fitting] {
+                      session_.changeOption(QStringLiteral("PageSize"), page);
+                  }};
+    message_->showMessage(MessageKind::warning, sentence, std::move(action), kMisfitMessage);
 }
 
 void PrintDialog::keyPressEvent(QKeyEvent* event)
