@@ -4,8 +4,10 @@
 #include "dialog/page/colour_profile.h"
 #include "platform/foundation/threads/all_cores.h"
 
-#include <array>
+#include <algorithm>
 #include <cstdlib>
+#include <deque>
+#include <mutex>
 #include <vector>
 
 #include <lcms2.h>
@@ -19,21 +21,7 @@ constexpr int kStep = 255 / (kSteps - 1);
 constexpr qsizetype kLeastPixels = 32 * 1024; // that are worth another core
 constexpr qsizetype kMostPixels = 1 << 24;    // in one call of Little CMS
 constexpr qsizetype kInkPixels = 4096;
-
-cmsUInt32Number intentOf(const ColourPlan& plan)
-{
-    switch (plan.intent) {
-    case ColourIntent::perceptual:
-        return INTENT_PERCEPTUAL;
-    case ColourIntent::relative:
-        return INTENT_RELATIVE_COLORIMETRIC;
-    case ColourIntent::saturation:
-        return INTENT_SATURATION;
-    case ColourIntent::absolute:
-        break;
-    }
-    return INTENT_ABSOLUTE_COLORIMETRIC;
-}
+constexpr size_t kMostKept = 4;
 
 std::shared_ptr<void> makeTransform(const OpenProfile& source, cmsUInt32Number from,
                                     const OpenProfile& target, cmsUInt32Number to, const ColourPlan& plan)
@@ -41,7 +29,8 @@ std::shared_ptr<void> makeTransform(const OpenProfile& source, cmsUInt32Number f
     // A grid between four inks and light is off by up to 20 of 255: they are worked out one by one.
     const cmsUInt32Number exactness = T_CHANNELS(from) == 4 ? cmsFLAGS_NOOPTIMIZE : cmsFLAGS_HIGHRESPRECALC;
     const cmsUInt32Number flags = exactness | (plan.compensatesBlack ? cmsFLAGS_BLACKPOINTCOMPENSATION : 0);
-    return {cmsCreateTransform(source.get(), from, target.get(), to, intentOf(plan), flags), [](void* t) {
+    return {cmsCreateTransform(source.get(), from, target.get(), to, cmsIntent(plan.intent), flags),
+            [](void* t) {
                 if (t)
                     cmsDeleteTransform(t);
             }};
@@ -73,39 +62,90 @@ void convertIdealInks(const uchar* inks, uchar* rgb, qsizetype pixels)
 
 } // namespace
 
-ColourTransform::ColourTransform(const StoredPicture& picture, const ColourPlan& plan)
-    : format_(picture.format)
+struct ColourTransform::Made {
+    PixelFormat format = PixelFormat::rgb8;
+    QByteArray profile;
+    ColorTag colorTag = ColorTag::none;
+    ColourPlan plan;
+    int channels = 3;
+    bool hasIdealInks = false;       // no profile tells what the inks are
+    std::shared_ptr<void> transform; // null: none could be made
+
+    bool isFor(const StoredPicture& picture, const ColourPlan& wanted) const
+    {
+        return format == picture.format && colorTag == picture.colorTag && plan == wanted &&
+               profile == picture.profile;
+    }
+};
+
+std::shared_ptr<const ColourTransform::Made> ColourTransform::make(const StoredPicture& picture,
+                                                                   const ColourPlan& plan)
 {
-    const int given = channelsOf(format_);
-    OpenProfile source = sourceProfile(picture);
-    hasIdealInks_ = !source;
+    const auto made = std::make_shared<Made>();
+    made->format = picture.format;
+    made->profile = picture.profile;
+    made->colorTag = picture.colorTag;
+    made->plan = plan;
+    const int given = channelsOf(picture.format);
+    const OpenProfile source = sourceProfile(picture);
     OpenProfile target = openProfile(plan.target);
     if (!target)
         target = srgbProfile(given == 1);
-    channels_ = channelsOf(target);
-    if (hasIdealInks_) {
-        transform_ = makeTransform(srgbProfile(), TYPE_RGB_8, target, plainType(channels_), plan);
-        return;
-    }
-    transform_ = makeTransform(source, pixelType(format_), target, plainType(channels_), plan);
+    made->channels = channelsOf(target);
+    const auto from = [&](const OpenProfile& profile, quint32 type) {
+        return makeTransform(profile, type, target, plainType(made->channels), plan);
+    };
+    if (source)
+        made->transform = from(source, pixelType(picture.format));
     // A profile can be for the right pixels and still lack what a conversion takes.
-    if (!transform_ && given != 4)
-        transform_ =
-            makeTransform(srgbProfile(given == 1), pixelType(format_), target, plainType(channels_), plan);
-    if (!transform_ && given == 4) {
-        hasIdealInks_ = true;
-        transform_ = makeTransform(srgbProfile(), TYPE_RGB_8, target, plainType(channels_), plan);
+    if (!made->transform && given != 4)
+        made->transform = from(srgbProfile(given == 1), pixelType(picture.format));
+    made->hasIdealInks = !made->transform && given == 4;
+    if (made->hasIdealInks)
+        made->transform = from(srgbProfile(), TYPE_RGB_8);
+    return made;
+}
+
+std::shared_ptr<const ColourTransform::Made> ColourTransform::find(const StoredPicture& picture,
+                                                                   const ColourPlan& plan)
+{
+    static std::mutex mutex;
+    static std::deque<std::shared_ptr<const Made>> kept; // the last one first
+    {
+        const std::scoped_lock lock(mutex);
+        const auto found =
+            std::ranges::find_if(kept, [&](const auto& made) { return made->isFor(picture, plan); });
+        if (found != kept.end()) {
+            std::rotate(kept.begin(), found, found + 1);
+            return kept.front();
+        }
     }
+    std::shared_ptr<const Made> made = make(picture, plan);
+    const std::scoped_lock lock(mutex);
+    kept.push_front(made);
+    if (kept.size() > kMostKept)
+        kept.pop_back();
+    return made;
+}
+
+ColourTransform::ColourTransform(const StoredPicture& picture, const ColourPlan& plan)
+    : made_(find(picture, plan))
+{
+}
+
+int ColourTransform::channels() const
+{
+    return made_->channels;
 }
 
 bool ColourTransform::changesNothing() const
 {
-    const bool isPlain = format_ == PixelFormat::gray8 || format_ == PixelFormat::rgb8;
-    if (!isPlain || channelsOf(format_) != channels_)
+    const bool isPlain = made_->format == PixelFormat::gray8 || made_->format == PixelFormat::rgb8;
+    if (!isPlain || channelsOf(made_->format) != made_->channels)
         return false;
-    const std::vector<uchar> before = samples(channels_);
+    const std::vector<uchar> before = samples(made_->channels);
     std::vector<uchar> after(before.size());
-    convert(before.data(), after.data(), qsizetype(before.size()) / channels_);
+    convert(before.data(), after.data(), qsizetype(before.size()) / made_->channels);
     for (size_t i = 0; i < before.size(); ++i) {
         if (std::abs(int(before[i]) - int(after[i])) > 1)
             return false;
@@ -115,19 +155,20 @@ bool ColourTransform::changesNothing() const
 
 void ColourTransform::convert(const uchar* from, uchar* to, qsizetype pixels) const
 {
-    if (!transform_) {
-        std::fill_n(to, pixels * channels_, uchar(255));
+    if (!made_->transform) {
+        std::fill_n(to, pixels * made_->channels, uchar(255));
         return;
     }
-    const qsizetype most = hasIdealInks_ ? kInkPixels : kMostPixels;
-    std::vector<uchar> rgb(hasIdealInks_ ? size_t(3 * kInkPixels) : 0);
+    const qsizetype most = made_->hasIdealInks ? kInkPixels : kMostPixels;
+    std::vector<uchar> rgb(made_->hasIdealInks ? size_t(3 * kInkPixels) : 0);
     while (pixels > 0) {
         const qsizetype count = std::min(pixels, most);
-        if (hasIdealInks_)
+        if (made_->hasIdealInks)
             convertIdealInks(from, rgb.data(), count);
-        cmsDoTransform(transform_.get(), hasIdealInks_ ? rgb.data() : from, to, cmsUInt32Number(count));
-        from += count * bytesPerPixel(format_);
-        to += count * channels_;
+        cmsDoTransform(made_->transform.get(), made_->hasIdealInks ? rgb.data() : from, to,
+                       cmsUInt32Number(count));
+        from += count * bytesPerPixel(made_->format);
+        to += count * made_->channels;
         pixels -= count;
     }
 }
@@ -135,7 +176,7 @@ void ColourTransform::convert(const uchar* from, uchar* to, qsizetype pixels) co
 void ColourTransform::convertOnAllCores(const uchar* from, uchar* to, qsizetype pixels) const
 {
     onAllCores(pixels, kLeastPixels, [&](qsizetype first, qsizetype count) {
-        convert(from + first * bytesPerPixel(format_), to + first * channels_, count);
+        convert(from + first * bytesPerPixel(made_->format), to + first * made_->channels, count);
     });
 }
 

@@ -9,13 +9,14 @@
 namespace halvern {
 
 /// Converts a picture's pixels into a plan's colours, 8 bits a channel. Gray pixels stay gray where the plan
-/// is sRGB. Any thread, several at once.
+/// is sRGB. What the last ones were made of is kept, so that a thousand photos of one camera take one. Any
+/// thread, several at once.
 class ColourTransform {
 public:
     ColourTransform(const StoredPicture& picture, const ColourPlan& plan);
 
     /// Of what comes out: 1, 3 or 4.
-    int channels() const { return channels_; }
+    int channels() const;
 
     /// Whether the numbers may stay as they are: to the last bit but one they say the same in the plan.
     bool changesNothing() const;
@@ -27,10 +28,12 @@ public:
     void convertOnAllCores(const uchar* from, uchar* to, qsizetype pixels) const;
 
 private:
-    PixelFormat format_;
-    int channels_ = 3;
-    bool hasIdealInks_ = false;       // no profile tells what the inks are
-    std::shared_ptr<void> transform_; // null: none is needed
+    struct Made;
+
+    static std::shared_ptr<const Made> make(const StoredPicture& picture, const ColourPlan& plan);
+    static std::shared_ptr<const Made> find(const StoredPicture& picture, const ColourPlan& plan);
+
+    std::shared_ptr<const Made> made_;
 };
 
 } // namespace halvern
