@@ -41,6 +41,9 @@ Sharpening sharpening(const QMap<QString, QString>& choices);
 /// and transparency. Answers `srgb` itself if nothing changes, a null image for a null one.
 QImage adjusted(const QImage& srgb, const ColorAdjustments& adjustments);
 
+/// The picture in shades of gray that are as light as its colours. As above.
+QImage grayed(const QImage& srgb);
+
 /// The picture sharpened by an unsharp mask of its brightness; colours keep their hue. The cost grows with
 /// the radius. As above, the result may be `image` itself.
 QImage sharpened(const QImage& image, const Sharpening& sharpening);

@@ -9,6 +9,7 @@ namespace halvern {
 struct Look {
     adjust::ColorAdjustments colors;
     adjust::Sharpening sharpening;
+    bool isGray = false; ///< in the end it comes out in shades of gray
 
     bool changesColors() const { return colors != adjust::ColorAdjustments(); }
 

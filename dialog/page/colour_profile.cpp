@@ -42,6 +42,20 @@ OpenProfile makeAdobeRgb()
     return profile;
 }
 
+const OpenProfile& adobeRgb()
+{
+    static const OpenProfile profile = makeAdobeRgb();
+    return profile;
+}
+
+QByteArray bytesOf(const OpenProfile& profile)
+{
+    cmsUInt32Number size = 0;
+    cmsSaveProfileToMem(profile.get(), nullptr, &size);
+    QByteArray bytes(qsizetype(size), Qt::Uninitialized);
+    return cmsSaveProfileToMem(profile.get(), bytes.data(), &size) ? bytes : QByteArray();
+}
+
 // Not a link between two devices and no list of named colours.
 bool isOfPixels(cmsHPROFILE profile)
 {
@@ -67,6 +81,12 @@ OpenProfile srgbProfile(bool isGray)
     return isGray ? grays : colours;
 }
 
+const QByteArray& adobeRgbBytes()
+{
+    static const QByteArray bytes = bytesOf(adobeRgb());
+    return bytes;
+}
+
 OpenProfile sourceProfile(const StoredPicture& picture)
 {
     const int channels = channelsOf(picture.format);
@@ -74,9 +94,8 @@ OpenProfile sourceProfile(const StoredPicture& picture)
         return embedded;
     if (channels == 4)
         return nullptr;
-    static const OpenProfile adobe = makeAdobeRgb();
     const bool isAdobe = channels == 3 && picture.colorTag == ColorTag::adobeRgb;
-    return isAdobe ? adobe : srgbProfile(channels == 1);
+    return isAdobe ? adobeRgb() : srgbProfile(channels == 1);
 }
 
 int channelsOf(const OpenProfile& profile)
@@ -126,6 +145,21 @@ quint32 pixelType(PixelFormat format)
         break;
     }
     return TYPE_CMYK_8;
+}
+
+quint32 cmsIntent(ColourIntent intent)
+{
+    switch (intent) {
+    case ColourIntent::perceptual:
+        return INTENT_PERCEPTUAL;
+    case ColourIntent::relative:
+        return INTENT_RELATIVE_COLORIMETRIC;
+    case ColourIntent::saturation:
+        return INTENT_SATURATION;
+    case ColourIntent::absolute:
+        break;
+    }
+    return INTENT_ABSOLUTE_COLORIMETRIC;
 }
 
 quint32 plainType(int channels)

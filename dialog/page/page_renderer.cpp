@@ -312,9 +312,9 @@ void paintPhoto(QPainter& painter, const PageLayout& layout, const QImage& photo
     painter.restore();
 }
 
-void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo)
+void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo, const QColor& paper)
 {
-    painter.fillRect(QRectF(QPointF(), layout.page), Qt::white);
+    painter.fillRect(QRectF(QPointF(), layout.page), paper);
     paintPhoto(painter, layout, photo);
 }
 

@@ -4,6 +4,7 @@
 #include "dialog/page/colour_plan.h"
 #include "dialog/page/sheet_plan.h"
 
+#include <QColor>
 #include <QIODevice>
 
 #include <functional>
@@ -32,8 +33,9 @@ QTransform photoToSheet(const PageLayout& layout);
 /// at it.
 void paintPhoto(QPainter& painter, const PageLayout& layout, const QImage& photo);
 
-/// The same on white paper.
-void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo);
+/// The same on paper.
+void paintPage(QPainter& painter, const PageLayout& layout, const QImage& photo,
+               const QColor& paper = Qt::white);
 
 /// Draws what is on the sheet beside its photos: thin lines, cut marks, and `captions`, which are in the
 /// photos' order.

@@ -2,6 +2,8 @@
 #include "dialog/preview/preview_widget.h"
 
 #include "dialog/page/page_renderer.h"
+#include "dialog/preview/monitor_profile.h"
+#include "dialog/preview/screen_converter.h"
 #include "dialog/preview/sharp_photo_reader.h"
 #include "dialog/preview/sheet_paint.h"
 #include "dialog/preview/small_copies.h"
@@ -62,6 +64,8 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     : QWidget(parent),
       reader_(new SharpPhotoReader(this)),
       copies_(new SmallCopies(this)),
+      converter_(new ScreenConverter(this)),
+      monitor_(new MonitorProfile(this)),
       zoomButton_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("preview"));
@@ -90,6 +94,8 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     });
     connect(copies_, &SmallCopies::damageFound, this, &PreviewWidget::damageFound);
     connect(copies_, &SmallCopies::failed, this, &PreviewWidget::failed);
+    connect(converter_, &ScreenConverter::ready, this, qOverload<>(&QWidget::update));
+    connect(monitor_, &MonitorProfile::changed, this, &PreviewWidget::planColours);
     showState();
 }
 
@@ -100,8 +106,12 @@ QSize PreviewWidget::sizeHint() const
 
 void PreviewWidget::showPage(const PreviewPage& page)
 {
+    const bool isSame = page.photo.path == page_.photo.path && page.photo.page == page_.photo.page;
+    if (!isSame || (isZoomed_ && page.layout.photo != page_.layout.photo))
+        converter_->forget();
     page_ = page;
     blank_.reset();
+    planColours();
     screen_.setPreview(copies_->find(page.photo));
     screen_.setLook(page.look);
     text_.clear();
@@ -111,6 +121,14 @@ void PreviewWidget::showPage(const PreviewPage& page)
         readDetail();
     }
     showState();
+}
+
+void PreviewWidget::planColours()
+{
+    ScreenPlan plan = page_.screen;
+    plan.monitor = monitor_->bytes();
+    converter_->setPlan(plan);
+    update();
 }
 
 void PreviewWidget::showSheet(const BlankSheet& sheet)
@@ -187,6 +205,13 @@ QString PreviewWidget::sizeCaption() const
 
 QString PreviewWidget::colorCaption() const
 {
+    QStringList parts{page_.proofWords, stateCaption()};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral("  ·  "));
+}
+
+QString PreviewWidget::stateCaption() const
+{
     if (isZoomed_ && !detailProblem_.isEmpty())
         return detailProblem_;
     if (isReadingDetail())
@@ -218,7 +243,9 @@ void PreviewWidget::paintSheet(QPainter& painter)
     painter.translate(sheet.topLeft());
     painter.scale(scale, scale);
     const QSizeF pixels = layout.photo.size() * (scale * devicePixelRatioF());
-    paintPage(painter, layout, screen_.whole({qCeil(pixels.width()), qCeil(pixels.height())}));
+    const QImage& photo = screen_.whole({qCeil(pixels.width()), qCeil(pixels.height())});
+    const QImage& shown = converter_->find({photo, {}}).image;
+    paintPage(painter, layout, shown.isNull() ? photo : shown, converter_->paper());
     paintMargins(painter, layout);
     painter.restore();
 }

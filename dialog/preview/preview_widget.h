@@ -3,6 +3,7 @@
 
 #include "dialog/page/page_layout.h"
 #include "dialog/page/photo.h"
+#include "dialog/page/screen_colours.h"
 #include "dialog/preview/screen_photo.h"
 #include "platform/foundation/units.h"
 
@@ -15,6 +16,8 @@ class QToolButton;
 
 namespace halvern {
 
+class MonitorProfile;
+class ScreenConverter;
 class SharpPhotoReader;
 class SmallCopies;
 
@@ -24,6 +27,8 @@ struct PreviewPage {
     Photo photo;
     int resolution = kUsualResolution; ///< dots per inch of the printer
     Look look;
+    ScreenPlan screen;  ///< without the screen's profile: the preview knows that itself
+    QString proofWords; ///< what is simulated; empty: nothing
 };
 
 /// A sheet whose page nobody here knows.
@@ -96,6 +101,7 @@ private:
     QStringList described() const;
     QString sizeCaption() const;
     QString colorCaption() const;
+    QString stateCaption() const;
     void movePhoto(const QPointF& by);
     void pan(const QPointF& by);
     void keepPageInView();
@@ -103,11 +109,14 @@ private:
     QRect photoInDots() const;
     void readDetail();
     void showState();
+    void planColours();
 
     PreviewPage page_;
     ScreenPhoto screen_;
     SharpPhotoReader* reader_;
     SmallCopies* copies_;
+    ScreenConverter* converter_;
+    MonitorProfile* monitor_;
     QToolButton* zoomButton_;
     QString text_;
     QString detailProblem_;

@@ -2,6 +2,7 @@
 // The preview at 1:1: a screen pixel for each printer dot, and moving about in it.
 #include "dialog/preview/preview_widget.h"
 
+#include "dialog/preview/screen_converter.h"
 #include "dialog/preview/sharp_photo_reader.h"
 #include "platform/foundation/units.h"
 
@@ -49,6 +50,7 @@ bool PreviewWidget::isReadingDetail() const
 void PreviewWidget::setZoomed(bool zoomed, std::optional<QPointF> around)
 {
     isZoomed_ = zoomed && hasPage_;
+    converter_->forget();
     zoomButton_->setChecked(isZoomed_);
     if (isZoomed_) {
         middle_ = around.value_or(page_.layout.visible().center());
@@ -102,15 +104,21 @@ void PreviewWidget::paintDots(QPainter& painter)
     painter.save();
     painter.setClipRect(view);
     const QSizeF page = page_.layout.page * scale;
-    painter.fillRect(toWidget(QRectF(QPointF(), page)), Qt::white);
+    painter.fillRect(toWidget(QRectF(QPointF(), page)), converter_->paper());
     const QRectF visible = page_.layout.visible();
     const QRect shown = QRectF(visible.topLeft() * scale, visible.size() * scale).toAlignedRect();
     const QRect photo = photoInDots();
     const QRect seen = window.intersected(shown).intersected(photo);
     if (!seen.isEmpty()) {
-        QImage dots = screen_.part(photo.size(), seen.translated(-photo.topLeft()));
-        dots.setDevicePixelRatio(ratio);
-        painter.drawImage(toWidget(seen).topLeft(), dots);
+        const ScreenConverter::Piece fresh{screen_.part(photo.size(), seen.translated(-photo.topLeft())),
+                                           seen.translated(-photo.topLeft())};
+        const ScreenConverter::Piece& shown = converter_->find(fresh);
+        // Moments ago the window lay elsewhere.
+        painter.setClipRect(toWidget(seen), Qt::IntersectClip);
+        for (ScreenConverter::Piece piece : {fresh, shown}) {
+            piece.image.setDevicePixelRatio(ratio);
+            painter.drawImage(toWidget(piece.place.translated(photo.topLeft())).topLeft(), piece.image);
+        }
     }
     painter.restore();
 }

@@ -17,6 +17,12 @@ QImage scaledDown(const QImage& image, const QSize& pixels)
     return image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+QImage coloured(const QImage& image, const Look& look)
+{
+    const QImage adjusted = adjust::adjusted(image, look.colors);
+    return look.isGray ? adjust::grayed(adjusted) : adjusted;
+}
+
 } // namespace
 
 void ScreenPhoto::setPreview(const QImage& preview)
@@ -29,8 +35,9 @@ const QImage& ScreenPhoto::whole(const QSize& pixels)
     if (whole_.source != preview_.cacheKey() || whole_.size != pixels)
         whole_ = {preview_.cacheKey(), pixels, {}, scaledDown(preview_, pixels)};
     const qint64 source = whole_.image.cacheKey();
-    if (adjustedWhole_.source != source || adjustedWhole_.look.colors != look_.colors)
-        adjustedWhole_ = {source, look_, adjust::adjusted(whole_.image, look_.colors)};
+    if (adjustedWhole_.source != source || adjustedWhole_.look.colors != look_.colors ||
+        adjustedWhole_.look.isGray != look_.isGray)
+        adjustedWhole_ = {source, look_, coloured(whole_.image, look_)};
     return adjustedWhole_.image;
 }
 
@@ -65,7 +72,7 @@ const QImage& ScreenPhoto::part(const QSize& size, const QRect& window)
     cutOut(size, window);
     const qint64 source = part_.image.cacheKey();
     if (finishedPart_.source != source || finishedPart_.look != look_) {
-        const QImage adjusted = adjust::adjusted(part_.image, look_.colors);
+        const QImage adjusted = coloured(part_.image, look_);
         const QRect inner = window.translated(-roomAround_.topLeft());
         finishedPart_ = {source, look_, adjust::sharpened(adjusted, look_.sharpening).copy(inner)};
     }

@@ -54,22 +54,22 @@ public:
     QCommandLineOption printDamaged{QStringLiteral("print-damaged"),
                                     tr("Print photos of which a part is missing, too, without asking.")};
     QCommandLineOption colourBy{
-        QStringLiteral("colour-by"),
-        tr("Who converts the photos' colours: printer, which is given sRGB, or dialog, for a colour profile "
+        QStringList{QStringLiteral("color-by"), QStringLiteral("colour-by")},
+        tr("Who converts the photos' colors: printer, which is given sRGB, or dialog, for a color profile "
            "of the printer."),
         QStringLiteral("WORD")};
     QCommandLineOption profile{QStringLiteral("profile"),
-                               tr("Convert the colours for this ICC profile of the printer; without it, for "
+                               tr("Convert the colors for this ICC profile of the printer; without it, for "
                                   "the one that the printer "
                                   "comes with."),
                                QStringLiteral("FILE")};
     QCommandLineOption intent{
         QStringLiteral("intent"),
-        tr("What becomes of colours that the printer cannot show: perceptual, relative, saturation or "
+        tr("What becomes of colors that the printer cannot show: perceptual, relative, saturation or "
            "absolute; without it, perceptual."),
         QStringLiteral("WORD")};
     QCommandLineOption noBlackPoint{QStringLiteral("no-black-point"),
-                                    tr("Convert the colours without black point compensation.")};
+                                    tr("Convert the colors without black point compensation.")};
     QCommandLineOption photosPerJob{
         QStringLiteral("photos-per-job"),
         tr("Send several jobs in order, with at most this many photos each; without it, one job."),
@@ -164,7 +164,7 @@ public:
 
     static QString badColourBy(const QString& text)
     {
-        return tr("\"%1\" converts no colours: write printer or dialog.").arg(text);
+        return tr("\"%1\" converts no colors: write printer or dialog.").arg(text);
     }
 
     static QString badIntent(const QString& text)
@@ -175,7 +175,7 @@ public:
 
     static QString forDialogOnly()
     {
-        return tr("--profile, --intent and --no-black-point go with --colour-by dialog.");
+        return tr("--profile, --intent and --no-black-point go with --color-by dialog.");
     }
 
     static QString badPhotosPerJob(const QString& text)

@@ -3,41 +3,25 @@
 
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/colour_profile.h"
+#include "dialog/page/colour_service.h"
+#include "dialog/session/driver_colours.h"
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusObjectPath>
-#include <QDBusReply>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QPointer>
 
 #include <array>
-
-// A resource in a static library has to be asked for, outside any namespace.
-static void initColourDrivers()
-{
-    Q_INIT_RESOURCE(colour_drivers);
-}
 
 namespace halvern {
 
 namespace {
 
-constexpr qint64 kLargestProfile = 64 * 1024 * 1024;
-constexpr int kServiceMilliseconds = 2000;
 constexpr qsizetype kLongestName = 60;
 constexpr qsizetype kLongestShort = 40;
-const QString kService = QStringLiteral("org.freedesktop.ColorManager");
-const QString kDataFolder = QStringLiteral("/usr/share/cups/profiles");
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(ColourManagement)
@@ -58,24 +42,11 @@ constexpr std::array kIntents{
               QT_TRANSLATE_NOOP("ColourManagement", "Absolute colorimetric")},
 };
 
-struct DriverRow {
-    QString option;
-    QString choice;
-    bool isEverywhere = false;
-};
-
-QList<DriverRow> readDriverRows()
+// Where the print server's library looks for its data: on another computer's server, nobody here knows it.
+QDir profilesFolder()
 {
-    initColourDrivers();
-    QFile file(QStringLiteral(":/halvern/colour-drivers.json"));
-    QList<DriverRow> rows;
-    if (!file.open(QIODevice::ReadOnly))
-        return rows;
-    const QJsonArray array = QJsonDocument::fromJson(file.readAll())[QLatin1StringView("rows")].toArray();
-    for (const QJsonValue& row : array)
-        rows.append({row[QLatin1StringView("option")].toString(), row[QLatin1StringView("choice")].toString(),
-                     row[QLatin1StringView("everywhere")].toBool()});
-    return rows;
+    return qEnvironmentVariable("CUPS_DATADIR", QStringLiteral("/usr/share/cups")) +
+           QStringLiteral("/profiles");
 }
 
 // The option whose choice a profile's qualifier names.
@@ -102,90 +73,50 @@ bool isForChoices(const PpdModel& model, const QString& qualifiers)
     return true;
 }
 
-// What the colour service has for a queue; empty without it. Waits for its answers.
-QString askService(const QString& queue)
-{
-    const QDBusConnection bus = QDBusConnection::systemBus();
-    const auto ask = [&](const QString& path, const QString& interface, const QString& method,
-                         const QVariantList& arguments) {
-        QDBusMessage call = QDBusMessage::createMethodCall(kService, path, interface, method);
-        call.setArguments(arguments);
-        return bus.call(call, QDBus::Block, kServiceMilliseconds);
-    };
-    const QDBusReply<QDBusObjectPath> device =
-        ask(QStringLiteral("/org/freedesktop/ColorManager"), kService, QStringLiteral("FindDeviceById"),
-            {QStringLiteral("cups-") + queue});
-    if (!device.isValid())
-        return {};
-    const QDBusReply<QDBusObjectPath> profile =
-        ask(device.value().path(), kService + QStringLiteral(".Device"),
-            QStringLiteral("GetProfileForQualifiers"), {QStringList{QStringLiteral("*")}});
-    if (!profile.isValid())
-        return {};
-    const QDBusReply<QDBusVariant> file =
-        ask(profile.value().path(), QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
-            {kService + QStringLiteral(".Profile"), QStringLiteral("Filename")});
-    return file.isValid() ? file.value().variant().toString() : QString();
-}
-
-PrinterProfile failed(const QString& path, const QString& problem)
-{
-    PrinterProfile profile;
-    profile.path = path;
-    profile.problem = problem;
-    return profile;
-}
-
 } // namespace
-
-PrinterProfile readPrinterProfile(const QString& path)
-{
-    QFile file(path);
-    const QString shown = isolated(QDir::toNativeSeparators(path));
-    if (!QFileInfo(path).isFile() || file.size() > kLargestProfile || !file.open(QIODevice::ReadOnly))
-        return failed(path, Words::tr("The colour profile \"%1\" cannot be read. Choose another one, or let "
-                                      "the printer manage colours.")
-                                .arg(shown));
-    const QByteArray bytes = file.readAll();
-    const OpenProfile profile = openProfile(bytes);
-    if (!profile || !canConvertTo(profile))
-        return failed(path, Words::tr("\"%1\" is no colour profile of a printer. Choose another one, or let "
-                                      "the printer manage colours.")
-                                .arg(shown));
-    const QString name = profileName(profile);
-    return {bytes, path, name.isEmpty() ? QFileInfo(path).completeBaseName() : name, {}};
-}
 
 QString profileOfPpd(const PpdModel& model)
 {
     for (ppd_attr_t* row = ppdFindAttr(model.file(), "cupsICCProfile", nullptr); row;
          row = ppdFindNextAttr(model.file(), "cupsICCProfile", nullptr)) {
-        const QString path = QDir(kDataFolder).absoluteFilePath(QString::fromUtf8(row->value));
+        const QString path = profilesFolder().absoluteFilePath(QString::fromUtf8(row->value));
         if (isForChoices(model, QString::fromUtf8(row->spec)) && QFileInfo(path).isFile())
             return path;
     }
     return {};
 }
 
-OptionValues withoutDriverColours(const PpdModel& model)
+ColourManagement::ColourManagement(QObject* parent)
+    : QObject(parent), watch_(new ColourServiceWatch(this)), shelf_(new ProfileShelf(this))
 {
-    static const QList<DriverRow> rows = readDriverRows();
-    OptionValues values;
-    for (const DriverRow& row : rows) {
-        if (row.isEverywhere || ppd_lookup::listedChoice(model.file(), row.option, row.choice))
-            values.append({row.option, row.choice});
-    }
-    return values;
+    connect(shelf_, &ProfileShelf::changed, this, &ColourManagement::changed);
+    connect(watch_, &ColourServiceWatch::changed, this, [this] {
+        ofService_.clear();
+        ask();
+    });
+}
+
+bool ColourManagement::isAsking() const
+{
+    return (!queue_.isEmpty() && !ofService_.contains(queue_)) || shelf_->isReading();
 }
 
 void ColourManagement::setQueue(const QString& queue)
 {
     queue_ = queue;
-    profileOfService_.clear();
-    isAsking_ = true;
+    // Nobody would say that what is known is out of date.
+    if (!watch_->isOpen())
+        ofService_.clear();
+    ask();
+}
+
+void ColourManagement::ask()
+{
+    if (queue_.isEmpty() || ofService_.contains(queue_))
+        return;
     QPointer<ColourManagement> self(this);
-    WorkQueue().async([self, queue] {
-        const QString path = askService(queue);
+    WorkQueue().async([self, queue = queue_] {
+        const QString path = servicesProfileForQueue(queue);
         mainQueue().async([self, queue, path] {
             if (self)
                 self->takeProfile(queue, path);
@@ -195,17 +126,15 @@ void ColourManagement::setQueue(const QString& queue)
 
 void ColourManagement::takeProfile(const QString& queue, const QString& path)
 {
-    if (queue != queue_)
-        return;
-    isAsking_ = false;
-    profileOfService_ = path;
-    Q_EMIT changed();
+    ofService_.insert(queue, path);
+    if (queue == queue_)
+        Q_EMIT changed();
 }
 
 QString ColourManagement::ownProfile(const PpdModel& model) const
 {
     const QString named = profileOfPpd(model);
-    return named.isEmpty() ? profileOfService_ : named;
+    return named.isEmpty() ? ofService_.value(queue_) : named;
 }
 
 PrinterProfile ColourManagement::profileFor(const ColourSettings& settings, const PpdModel* model) const
@@ -213,17 +142,18 @@ PrinterProfile ColourManagement::profileFor(const ColourSettings& settings, cons
     if (!settings.isByDialog)
         return {};
     const QString path = settings.profile.isEmpty() && model ? ownProfile(*model) : settings.profile;
-    if (path.isEmpty())
-        return failed({}, Words::tr("No colour profile of this printer is known. Choose one, or let the "
-                                    "printer manage colours."));
-    // A file that could not be read may be there by now.
-    if (!read_.contains(path) || !read_.value(path).problem.isEmpty())
-        read_.insert(path, readPrinterProfile(path));
-    return read_.value(path);
+    if (!path.isEmpty())
+        return shelf_->find(path);
+    PrinterProfile none;
+    none.problem = Words::tr("No color profile of this printer is known. Choose one, or let the printer "
+                             "manage colors.");
+    return none;
 }
 
 ColourPlan ColourManagement::planFor(const ColourSettings& settings, const PpdModel* model) const
 {
+    if (!settings.isByDialog && model && wantsAdobeRgb(*model))
+        return {adobeRgbBytes(), ColourIntent::relative, true};
     if (!settings.isByDialog)
         return {};
     return {profileFor(settings, model).bytes, settings.intent, settings.compensatesBlack};
@@ -231,17 +161,21 @@ ColourPlan ColourManagement::planFor(const ColourSettings& settings, const PpdMo
 
 QString ColourManagement::shortly(const ColourSettings& settings, const PpdModel* model) const
 {
-    return Words::tr("colours for \"%1\"").arg(isolated(profileFor(settings, model).name, kLongestShort));
+    return Words::tr("colors for \"%1\"").arg(isolated(profileFor(settings, model).name, kLongestShort));
 }
 
 QString ColourManagement::inWords(const ColourSettings& settings, const PpdModel* model) const
 {
-    if (!settings.isByDialog)
-        return Words::tr("The printer converts the colours: each photo goes to it in sRGB.");
+    if (!settings.isByDialog) {
+        const bool isWide = model && wantsAdobeRgb(*model);
+        return Words::tr("The printer converts the colors: each photo goes to it in %1. No soft proof: only "
+                         "the printer knows what it makes of them.")
+            .arg(isWide ? QStringLiteral("Adobe RGB") : QStringLiteral("sRGB"));
+    }
     const PrinterProfile profile = profileFor(settings, model);
     if (!profile.problem.isEmpty())
         return profile.problem;
-    QString sentence = Words::tr("This program converts the colours, from each photo's own to \"%1\".")
+    QString sentence = Words::tr("This program converts the colors, from each photo's own to \"%1\".")
                            .arg(isolated(profile.name, kLongestName));
     OptionValues off = model ? withoutDriverColours(*model) : OptionValues();
     off.removeIf([&](const OptionValue& value) {
@@ -254,11 +188,56 @@ QString ColourManagement::inWords(const ColourSettings& settings, const PpdModel
                                                 model->choiceText(value.key, value.value)));
         return list;
     }();
-    sentence += QLatin1Char(' ') + (texts.isEmpty()
-                                        ? Words::tr("See that the printer's own colour correction is off.")
-                                        : Words::tr("The printer is told not to convert them again (%1).")
-                                              .arg(texts.join(QStringLiteral(", "))));
-    return sentence;
+    sentence +=
+        QLatin1Char(' ') + (texts.isEmpty() ? Words::tr("See that the printer's own color correction is off.")
+                                            : Words::tr("The printer is told not to convert them again (%1).")
+                                                  .arg(texts.join(QStringLiteral(", "))));
+    const QString whyNoProof = this->whyNoProof(settings, model);
+    return whyNoProof.isEmpty() ? sentence : sentence + QLatin1Char(' ') + whyNoProof;
+}
+
+void ColourManagement::setProof(const ProofSettings& proof)
+{
+    if (proof == proof_)
+        return;
+    proof_ = proof;
+    Q_EMIT proofChanged();
+}
+
+QString ColourManagement::whyNoProof(const ColourSettings& settings, const PpdModel* model) const
+{
+    if (!settings.isByDialog)
+        return Words::tr("Only the printer knows what it makes of the colors. Let this program manage them, "
+                         "for a profile, to see a soft proof.");
+    const PrinterProfile profile = profileFor(settings, model);
+    if (!profile.problem.isEmpty())
+        return profile.problem;
+    return profile.canProof ? QString()
+                            : Words::tr("\"%1\" does not say what its colors look like: with it there is "
+                                        "no soft proof.")
+                                  .arg(isolated(profile.name, kLongestName));
+}
+
+ScreenPlan ColourManagement::screenPlan(const ColourSettings& settings, const PpdModel* model) const
+{
+    ScreenPlan plan;
+    if (!proof_.isOn || !whyNoProof(settings, model).isEmpty())
+        return plan;
+    plan.proof = planFor(settings, model);
+    plan.showsPaper = proof_.showsPaper;
+    plan.marksGamut = proof_.marksGamut;
+    return plan;
+}
+
+QString ColourManagement::proofInWords(const ColourSettings& settings, const PpdModel* model) const
+{
+    const ScreenPlan plan = screenPlan(settings, model);
+    if (!plan.proof)
+        return {};
+    QString words = plan.showsPaper ? Words::tr("Soft proof with paper white") : Words::tr("Soft proof");
+    if (plan.marksGamut)
+        words += QStringLiteral("  ·  ") + Words::tr("pink cannot be printed");
+    return words;
 }
 
 QString intentWord(ColourIntent intent)

@@ -1,47 +1,44 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "dialog/options/option_value.h"
 #include "dialog/page/colour_plan.h"
+#include "dialog/page/screen_colours.h"
+#include "dialog/session/profile_shelf.h"
 
 #include <QHash>
 #include <QObject>
 
 namespace halvern {
 
+class ColourServiceWatch;
 class PpdModel;
 
-/// A profile that colours can be converted to, or the sentence that says why it is none.
-struct PrinterProfile {
-    QByteArray bytes;
-    QString path;
-    QString name; ///< its own: a stranger's text
-    QString problem;
-};
+/// What the preview is to simulate. A value.
+struct ProofSettings {
+    bool isOn = false;
+    bool showsPaper = false; ///< the paper's own white and black
+    bool marksGamut = false; ///< what cannot be printed is painted over
 
-/// Reads an ICC profile from a file. Any thread.
-PrinterProfile readPrinterProfile(const QString& path);
+    bool operator==(const ProofSettings&) const = default;
+};
 
 /// The profile that the printer comes with for what is chosen now: the file that its PPD names for its colour
 /// mode, paper and resolution. Empty if it names none that is there.
 QString profileOfPpd(const PpdModel& model);
 
-/// What tells the printer's driver not to convert again, as far as resources/colour-drivers.json knows it.
-OptionValues withoutDriverColours(const PpdModel& model);
-
 /// Works out who converts a job's colours, from what to what, and says it. Main thread only; what is asked of
-/// the system's colour service comes later.
+/// the system's colour service or read from a file comes later.
 class ColourManagement : public QObject {
     Q_OBJECT
 
 public:
-    explicit ColourManagement(QObject* parent = nullptr) : QObject(parent) {}
+    explicit ColourManagement(QObject* parent = nullptr);
 
-    /// Asks the colour service for the queue's profile; what an earlier queue had is forgotten.
+    /// The colour service is asked for the queue's profile once.
     void setQueue(const QString& queue);
 
-    /// Whether the colour service has not answered yet.
-    bool isAsking() const { return isAsking_; }
+    /// Whether the colour service or a profile's file has not answered yet.
+    bool isAsking() const;
 
     /// The printer's own profile: what the PPD names, else what the colour service has for the queue; empty:
     /// none is known.
@@ -59,17 +56,34 @@ public:
     /// Who converts, from what to what: a sentence.
     QString inWords(const ColourSettings& settings, const PpdModel* model) const;
 
+    /// What the user wants to see. It is kept where no proof can be had: the next profile may allow one.
+    const ProofSettings& proof() const { return proof_; }
+
+    void setProof(const ProofSettings& proof);
+
+    /// Why no print can be simulated, in a sentence; empty if one can.
+    QString whyNoProof(const ColourSettings& settings, const PpdModel* model) const;
+
+    /// What the preview shows of these colours.
+    ScreenPlan screenPlan(const ColourSettings& settings, const PpdModel* model) const;
+
+    /// What is simulated, in a few words; empty if nothing is.
+    QString proofInWords(const ColourSettings& settings, const PpdModel* model) const;
+
 Q_SIGNALS:
-    /// The colour service has answered.
+    /// The colour service has answered, or a profile was read.
     void changed();
+    void proofChanged();
 
 private:
+    void ask();
     void takeProfile(const QString& queue, const QString& path);
 
     QString queue_;
-    QString profileOfService_;
-    bool isAsking_ = false;
-    mutable QHash<QString, PrinterProfile> read_; // by path
+    QHash<QString, QString> ofService_; // a queue's profile
+    ColourServiceWatch* watch_;
+    ProfileShelf* shelf_;
+    ProofSettings proof_;
 };
 
 /// "perceptual", "relative", "saturation" or "absolute"; and the other way round, false if it is none.

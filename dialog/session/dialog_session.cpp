@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/dialog_session.h"
 
+#include "dialog/session/driver_colours.h"
 #include "dialog/session/starting_options.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/print_settings.h"
@@ -207,7 +208,8 @@ Look DialogSession::look() const
     if (!model())
         return {};
     const QMap<QString, QString> values = model()->values();
-    return {adjust::colorAdjustments(values), adjust::sharpening(values)};
+    return {adjust::colorAdjustments(values), adjust::sharpening(values),
+            printsGray(*model()) || colours_.profileFor(page().colours, model()).isGray};
 }
 
 int DialogSession::resolution() const

@@ -105,6 +105,8 @@ public:
 
     const ColourManagement& colours() const { return colours_; }
 
+    ColourManagement& colours() { return colours_; }
+
     /// Why the colours cannot be converted as it is set; empty if they can.
     QString colourProblem() const;
 

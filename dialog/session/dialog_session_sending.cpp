@@ -4,6 +4,7 @@
 
 #include "dialog/job/job_in_words.h"
 #include "dialog/job/pdf_output.h"
+#include "dialog/session/driver_colours.h"
 #include "dialog/session/job_to_repeat.h"
 #include "dialog/session/sheet_words.h"
 #include "platform/foundation/display_text.h"

@@ -117,7 +117,7 @@ QStringList colourWords(const ColourSettings& colours)
 {
     if (!colours.isByDialog)
         return {};
-    QStringList words{QStringLiteral("--colour-by"), QStringLiteral("dialog")};
+    QStringList words{QStringLiteral("--color-by"), QStringLiteral("dialog")};
     if (!colours.profile.isEmpty())
         words << QStringLiteral("--profile") << colours.profile;
     if (colours.intent != ColourIntent::perceptual)

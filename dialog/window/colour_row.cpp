@@ -37,13 +37,16 @@ ColourRow::ColourRow(DialogSession& session, QWidget* parent)
       profile_(new QComboBox(this)),
       intent_(new QComboBox(this)),
       blackPoint_(new QCheckBox(tr("Compensate the black point"), this)),
+      proof_(new QCheckBox(tr("So&ft proof"), this)),
+      paper_(new QCheckBox(tr("Paper white"), this)),
+      gamut_(new QCheckBox(tr("Gamut warning"), this)),
       words_(new QLabel(this))
 {
     who_->setObjectName(QStringLiteral("colourBy"));
-    who_->addItem(tr("The printer manages colours"), false);
-    who_->addItem(tr("This program manages colours"), true);
+    who_->addItem(tr("The printer manages colors"), false);
+    who_->addItem(tr("This program manages colors"), true);
     who_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setPlainName(who_, tr("Colours"));
+    setPlainName(who_, tr("Colors"));
     words_->setObjectName(QStringLiteral("colourWords"));
     words_->setWordWrap(true);
     words_->setForegroundRole(QPalette::PlaceholderText);
@@ -52,11 +55,14 @@ ColourRow::ColourRow(DialogSession& session, QWidget* parent)
     column->setSpacing(6);
     column->addWidget(who_);
     column->addWidget(makeDetails());
+    column->addWidget(makeProof());
     column->addWidget(words_);
     connect(who_, &QComboBox::activated, this, &ColourRow::choose);
     connect(intent_, &QComboBox::activated, this, &ColourRow::choose);
     connect(blackPoint_, &QCheckBox::clicked, this, &ColourRow::choose);
     connect(profile_, &QComboBox::activated, this, &ColourRow::chooseProfile);
+    for (QCheckBox* box : {proof_, paper_, gamut_})
+        connect(box, &QCheckBox::clicked, this, &ColourRow::chooseProof);
     connect(&session_, &DialogSession::optionsChanged, this, &ColourRow::refresh);
     refresh();
 }
@@ -71,9 +77,9 @@ QWidget* ColourRow::makeDetails()
     profile_->setObjectName(QStringLiteral("colourProfile"));
     intent_->setObjectName(QStringLiteral("colourIntent"));
     blackPoint_->setObjectName(QStringLiteral("colourBlackPoint"));
-    setPlainName(profile_, tr("Colour profile"));
+    setPlainName(profile_, tr("Color profile"));
     setPlainName(intent_, tr("Rendering intent"));
-    setPlainToolTip(intent_, tr("What becomes of colours that the printer cannot show"));
+    setPlainToolTip(intent_, tr("What becomes of colors that the printer cannot show"));
     setPlainToolTip(blackPoint_, tr("The photo's darkest tone becomes the paper's darkest"));
     for (QComboBox* box : {profile_, intent_}) {
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -91,6 +97,23 @@ QWidget* ColourRow::makeDetails()
     column->addLayout(row);
     column->addWidget(blackPoint_);
     return details_;
+}
+
+QWidget* ColourRow::makeProof()
+{
+    proof_->setObjectName(QStringLiteral("softProof"));
+    paper_->setObjectName(QStringLiteral("proofPaper"));
+    gamut_->setObjectName(QStringLiteral("proofGamut"));
+    setPlainToolTip(paper_, tr("The preview shows the paper's own white and the deepest black on it"));
+    setPlainToolTip(gamut_, tr("The preview paints over in pink what the printer cannot show"));
+    auto* box = new QWidget(this);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(14);
+    for (QCheckBox* one : {proof_, paper_, gamut_})
+        row->addWidget(one);
+    row->addStretch();
+    return box;
 }
 
 void ColourRow::listProfiles()
@@ -127,6 +150,28 @@ void ColourRow::refresh()
     if (colours.isByDialog)
         listProfiles();
     setPlainText(words_, session_.colours().inWords(colours, session_.model()));
+    refreshProof();
+}
+
+void ColourRow::refreshProof()
+{
+    const ProofSettings& proof = session_.colours().proof();
+    const QString whyNot = session_.colours().whyNoProof(session_.page().colours, session_.model());
+    const bool isOn = proof.isOn && whyNot.isEmpty();
+    proof_->setChecked(isOn);
+    paper_->setChecked(proof.showsPaper);
+    gamut_->setChecked(proof.marksGamut);
+    proof_->setEnabled(whyNot.isEmpty());
+    paper_->setEnabled(isOn);
+    gamut_->setEnabled(isOn);
+    setPlainToolTip(proof_, whyNot.isEmpty() ? tr("The preview shows what the photo will look like on paper")
+                                             : whyNot);
+}
+
+void ColourRow::chooseProof()
+{
+    session_.colours().setProof({proof_->isChecked(), paper_->isChecked(), gamut_->isChecked()});
+    refreshProof();
 }
 
 void ColourRow::choose()
@@ -160,8 +205,8 @@ void ColourRow::askForFile()
     const QString chosen = session_.page().colours.profile;
     const QString folder =
         chosen.isEmpty() ? QStringLiteral("/usr/share/color/icc") : QFileInfo(chosen).path();
-    auto* question = new QFileDialog(window(), tr("Choose a Colour Profile"), folder,
-                                     tr("Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)"));
+    auto* question = new QFileDialog(window(), tr("Choose a Color Profile"), folder,
+                                     tr("Color profiles (*.icc *.icm *.ICC *.ICM);;All files (*)"));
     question->setObjectName(QStringLiteral("profileFile"));
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setFileMode(QFileDialog::ExistingFile);

@@ -11,8 +11,8 @@ class QLabel;
 
 namespace halvern {
 
-/// Who converts the photos' colours, for which profile and how; beneath it, the same in a sentence. Main
-/// thread only.
+/// Who converts the photos' colours, for which profile and how, and whether the preview simulates the print;
+/// beneath it, the same in a sentence. Main thread only.
 class ColourRow : public QWidget {
     Q_OBJECT
 
@@ -27,6 +27,9 @@ public:
 
 private:
     QWidget* makeDetails();
+    QWidget* makeProof();
+    void refreshProof();
+    void chooseProof();
     void listProfiles();
     void choose();
     void chooseProfile();
@@ -39,6 +42,9 @@ private:
     QComboBox* profile_;
     QComboBox* intent_;
     QCheckBox* blackPoint_;
+    QCheckBox* proof_;
+    QCheckBox* paper_;
+    QCheckBox* gamut_;
     QLabel* words_;
 };
 

@@ -85,7 +85,7 @@ PaperPage::PaperPage(DialogSession& session, QWidget* parent)
     twoSided_->setMinimumContentsLength(18);
     addRow(tr("&Two-sided:"), twoSided_, twoSided_);
     addRow(tr("Pa&ges:"), pages_, pages_->field());
-    addRow(tr("Co&lours:"), colours_, colours_->field());
+    addRow(tr("Co&lors:"), colours_, colours_->field());
     connectControls();
     if (session_.document())
         arrangeForDocument(*session_.document(), scalings);

@@ -348,6 +348,7 @@ void PrintDialog::connectSession()
             kUndoMessage);
     });
     connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
+    connect(&session_.colours(), &ColourManagement::proofChanged, this, &PrintDialog::showPhotos);
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
         clearOldOutcome();
         deck_->refresh();
@@ -435,7 +436,11 @@ void PrintDialog::showPhotos()
     }
     current_ = std::clamp(current_, 0, int(pages.size()) - 1);
     const Photo& photo = photos[pages[size_t(current_)]];
-    preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look()});
+    const ColourManagement& colours = session_.colours();
+    const ColourSettings& chosen = session_.page().colours;
+    preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look(),
+                        colours.screenPlan(chosen, session_.model()),
+                        colours.proofInWords(chosen, session_.model())});
     deck_->setPhoto(photo);
     const QString name = QFileInfo(photo.path).fileName();
     const QString shown = isolated(name, kLongestName);

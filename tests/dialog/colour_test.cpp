@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Conversions against those of Little CMS's own tool, with the profiles of Debian's packages.
 #include "dialog/page/colour_transform.h"
+#include "dialog/page/screen_colours.h"
 #include "dialog/photo/exif_notes.h"
 #include "tests/support/test.h"
 
@@ -39,7 +40,7 @@ double unitOf(int channels)
 }
 
 std::vector<double> byTool(const std::vector<uchar>& numbers, int from, int to, const char* source,
-                           const char* target, int intent, bool compensates)
+                           const char* target, int intent, bool compensates, const QStringList& more = {})
 {
     QByteArray lines;
     for (size_t i = 0; i < numbers.size(); ++i) {
@@ -50,6 +51,7 @@ std::vector<double> byTool(const std::vector<uchar>& numbers, int from, int to, 
         q("-n"), q("-i"), kFolder + q(source), q("-o"), kFolder + q(target), q("-t%1").arg(intent)};
     if (compensates)
         arguments.append(q("-b"));
+    arguments += more;
     QProcess tool;
     tool.start(q("transicc"), arguments);
     tool.write(lines);
@@ -106,6 +108,46 @@ TEST(Colour, ConvertsAsLittleCmsDoes)
             }
         }
     }
+}
+
+TEST(Colour, AProofIsWhatLittleCmsShows)
+{
+    const QByteArray monitor = profileBytes("colord/WideGamutRGB.icc");
+    const std::vector<uchar> before = patches(3);
+    QImage picture(int(before.size() / 3), 1, QImage::Format_RGB32);
+    for (int x = 0; x < picture.width(); ++x)
+        picture.setPixel(x, 0,
+                         qRgb(before[size_t(x) * 3], before[size_t(x) * 3 + 1], before[size_t(x) * 3 + 2]));
+    for (const char* printer : {"ghostscript/default_cmyk.icc", "colord/AdobeRGB1998.icc"}) {
+        for (const bool showsPaper : {false, true}) {
+            ASSERT_TRUE(canProof(profileBytes(printer)));
+            const ColourPlan plan{profileBytes(printer), ColourIntent::relative, true};
+            const ScreenTransform screen({monitor, plan, showsPaper, false});
+            const QImage shown = screen.converted(picture);
+            const std::vector<double> wanted =
+                byTool(before, 3, 3, "colord/sRGB.icc", "colord/WideGamutRGB.icc", 1, true,
+                       {q("-p") + kFolder + q(printer), showsPaper ? q("-m3") : q("-m1")});
+            ASSERT_EQ(wanted.size(), before.size());
+            double worst = 0.0;
+            for (int x = 0; x < picture.width(); ++x) {
+                const QRgb pixel = shown.pixel(x, 0);
+                int channel = 0;
+                for (const int number : {qRed(pixel), qGreen(pixel), qBlue(pixel)})
+                    worst = std::max(worst, std::abs(number - wanted[size_t(3 * x + channel++)]));
+            }
+            EXPECT_LE(worst, 2.0) << printer << showsPaper;
+            const bool hasTint = screen.paper() != QColor(Qt::white);
+            EXPECT_EQ(hasTint, showsPaper && q(printer).contains(q("cmyk")))
+                << screen.paper().name().toStdString();
+            const QImage marked = ScreenTransform({monitor, plan, showsPaper, true}).converted(picture);
+            EXPECT_EQ(marked.pixel(62, 0), shown.pixel(62, 0)) << "a middle gray can be printed";
+            const bool isMarked = marked.pixel(20, 0) == qRgb(255, 0, 204);
+            EXPECT_EQ(isMarked, q(printer).contains(q("cmyk"))) << "the purest green cannot, by inks";
+        }
+    }
+    EXPECT_FALSE(canProof("no profile"));
+    EXPECT_FALSE(isScreenProfile(profileBytes("ghostscript/default_cmyk.icc")));
+    EXPECT_EQ(ScreenTransform({}).converted(picture), picture);
 }
 
 TEST(Colour, ACamerasNoteCountsWhereThereIsNoProfile)

@@ -179,4 +179,47 @@ TEST_F(PreviewTest, APhotoThatIsNoLongerWantedIsNotDelivered)
     EXPECT_EQ(delivered, std::vector<QColor>{QColor(Qt::red)});
 }
 
+TEST_F(PreviewTest, AProofComesByItselfAndIsNeverOfAnotherPhoto)
+{
+    PreviewPage proofed = page();
+    proofed.layout.page += QSizeF(40.0, 40.0); // bare paper at its right and bottom
+    proofed.screen.proof =
+        ColourPlan{readFile(q("/usr/share/color/icc/ghostscript/default_cmyk.icc")), {}, true};
+    proofed.screen.showsPaper = true;
+    proofed.proofWords = q("Soft proof");
+    const ScreenTransform screen(proofed.screen);
+    const QImage wanted = screen.converted(picture);
+    preview.showPage(proofed);
+    EXPECT_TRUE(preview.captions().contains(q("Soft proof")));
+    const QPoint bare = preview.sheetRect().bottomRight().toPoint() - QPoint(5, 5);
+    EXPECT_TRUE(waitUntil([&] { return grabbed().pixelColor(bare) == screen.paper(); }));
+    EXPECT_LT(qBlue(grabbed().pixel(bare)), 250);
+    zoom();
+    const QRgb first = wanted.pixel(900, 600);
+    const auto shows = [&](QRgb colour) {
+        const QImage shown = grabbed();
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                if (shown.pixel(x, y) == colour)
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(waitUntil([&] { return shows(first); }));
+
+    picture.fill(Qt::green);
+    picture.save(folder.filePath(q("other.png")));
+    proofed.photo = readPhotoFile(folder.filePath(q("other.png"))).pages.front();
+    preview.setZoomed(false);
+    preview.showPage(proofed);
+    const QRgb green = screen.converted(picture).pixel(0, 0);
+    EXPECT_TRUE(QSet<QRgb>({qRgb(0, 255, 0), green}).contains(grabbed().pixel(middle())));
+    EXPECT_TRUE(waitUntil([&] { return grabbed().pixel(middle()) == green; }));
+    proofed.screen = {};
+    proofed.look.isGray = true;
+    preview.showPage(proofed);
+    EXPECT_EQ(grabbed().pixel(middle()), qRgb(220, 220, 220)) << "as light as the green";
+}
+
 } // namespace halvern

@@ -38,12 +38,13 @@ void retire(std::unique_ptr<QSocketNotifier>& notifier)
 struct SystemBusListener::Calls {
     static int matched(sd_bus_message* message, void* listener, sd_bus_error*)
     {
-        const char* name = nullptr;
-        const char* object = nullptr;
-        // A signal of another shape is nobody's.
-        if (sd_bus_message_read(message, "ss", &name, &object) > 0)
-            static_cast<SystemBusListener*>(listener)->received_(QString::fromUtf8(name),
-                                                                 QString::fromUtf8(object));
+        auto* self = static_cast<SystemBusListener*>(listener);
+        const char* name = sd_bus_message_get_member(message);
+        const char* object = sd_bus_message_get_path(message);
+        // A notification of another shape is nobody's.
+        if (!self->service_ && sd_bus_message_read(message, "ss", &name, &object) <= 0)
+            return 0;
+        self->received_(QString::fromUtf8(name), QString::fromUtf8(object));
         return 0;
     }
 
@@ -64,7 +65,8 @@ void SystemBusListener::Unref::operator()(sd_bus* bus) const
     sd_bus_unref(bus);
 }
 
-SystemBusListener::SystemBusListener(Received received) : received_(std::move(received))
+SystemBusListener::SystemBusListener(Received received, const char* service)
+    : received_(std::move(received)), service_(service)
 {
     deadline_.setSingleShot(true);
     connect(&deadline_, &QTimer::timeout, this, &SystemBusListener::process);
@@ -78,13 +80,21 @@ int SystemBusListener::open()
     if (const int status = sd_bus_open_system(&bus); status < 0)
         return status;
     bus_.reset(bus);
-    const int status = sd_bus_match_signal_async(bus, nullptr, nullptr, notification_bus::kPath,
-                                                 notification_bus::kInterface, notification_bus::kMember,
-                                                 &Calls::matched, &Calls::installed, this);
+    const int status = subscribe();
     if (status < 0)
         return status;
     watch();
     return 0;
+}
+
+int SystemBusListener::subscribe()
+{
+    if (service_)
+        return sd_bus_match_signal_async(bus_.get(), nullptr, service_, nullptr, nullptr, nullptr,
+                                         &Calls::matched, &Calls::installed, this);
+    return sd_bus_match_signal_async(bus_.get(), nullptr, nullptr, notification_bus::kPath,
+                                     notification_bus::kInterface, notification_bus::kMember, &Calls::matched,
+                                     &Calls::installed, this);
 }
 
 void SystemBusListener::process()

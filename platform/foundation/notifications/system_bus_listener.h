@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/foundation/export.h"
+
 #include <QObject>
 #include <QSocketNotifier>
 #include <QString>
@@ -11,9 +13,10 @@
 
 struct sd_bus;
 
-namespace halvern {
+namespace HALVERN_EXPORT halvern {
 
-/// One connection to the system bus that listens for posted notifications, driven by the main thread's event
+/// One connection to the system bus that listens for posted notifications, or for whatever a service says,
+/// driven by the main thread's event
 /// loop; no call of it blocks. Main thread only.
 ///
 /// This is not the toolkit's own D-Bus module, because that one serves all buses of a process on one thread:
@@ -24,8 +27,10 @@ class SystemBusListener : public QObject {
 public:
     using Received = std::function<void(const QString& name, const QString& object)>;
 
-    /// `received` is called from within the connection's own work: it must not run an event loop.
-    explicit SystemBusListener(Received received);
+    /// `received` is called from within the connection's own work: it must not run an event loop. With
+    /// a `service`, which outlives the listener, its every signal is heard, by its name and the object that
+    /// it is about.
+    explicit SystemBusListener(Received received, const char* service = nullptr);
     ~SystemBusListener() override;
 
     /// Starts to connect and subscribes. 0, or a negative errno when there is no bus at all.
@@ -43,6 +48,7 @@ Q_SIGNALS:
 private:
     struct Calls;
 
+    int subscribe();
     void process();
     void watch();
     void fail(int status);
@@ -52,6 +58,7 @@ private:
     };
 
     Received received_;
+    const char* service_;
     std::unique_ptr<sd_bus, Unref> bus_;
     std::unique_ptr<QSocketNotifier> readable_;
     std::unique_ptr<QSocketNotifier> writable_;
