@@ -58,6 +58,7 @@ struct JpegDecoder::State {
     jpeg_progress_mgr progress = {};
     std::jmp_buf onError = {};
     bool isDamaged = false;
+    const uchar* begin = nullptr; // of the file
 
     static State& of(j_common_ptr info) { return *static_cast<State*>(info->client_data); }
 
@@ -86,6 +87,14 @@ struct JpegDecoder::State {
             leave(info);
     }
 
+    // Whether the bytes that were passed over are nothing: data that are left over say that others are wrong.
+    bool isPadding(int count) const
+    {
+        const JOCTET* end = info.src->next_input_byte;
+        return count <= std::min<qint64>(kHarmlessStray, end - begin) &&
+               std::all_of(end - count, end, [](JOCTET byte) { return byte == 0 || byte == 0xFF; });
+    }
+
     void takeWarning(int code, int number)
     {
         switch (code) {
@@ -100,7 +109,7 @@ struct JpegDecoder::State {
             isDamaged = isDamaged || info.progressive_mode || info.comps_in_scan < info.num_components;
             break;
         case JWRN_EXTRANEOUS_DATA:
-            isDamaged = isDamaged || (info.input_scan_number > 0 && number > kHarmlessStray);
+            isDamaged = isDamaged || (info.input_scan_number > 0 && !isPadding(number));
             break;
         default:
             break;
@@ -113,6 +122,7 @@ JpegDecoder::JpegDecoder(FileBytes bytes) : bytes_(bytes), state_(std::make_uniq
     jpeg_decompress_struct& info = state_->info;
     info.err = jpeg_std_error(&state_->errors);
     info.client_data = state_.get();
+    state_->begin = bytes_.data();
     state_->errors.error_exit = &State::leave;
     state_->errors.emit_message = &State::takeMessage;
     state_->errors.output_message = [](j_common_ptr) {};

@@ -320,6 +320,8 @@ TEST_F(PageTest, APartThatIsMissingIsTold)
         {"hole.jpg", QByteArray(jpeg).replace(jpeg.size() / 2, 600, QByteArray(600, '\0')), true},
         {"lost_block.jpg", QByteArray(jpeg).remove(jpeg.size() / 2, 64), true},
         {"lost_pages.tif", pages.chopped(3732), true},
+        {"left_over.jpg", QByteArray(jpeg).insert(jpeg.size() - 2, QByteArray(20, '\x12')), true},
+        {"filled_up.jpg", QByteArray(jpeg).insert(jpeg.size() - 2, QByteArray(9, '\0')), false},
         {"no_end_marker.jpg", jpeg.chopped(2), false},
         {"padded.jpg", jpeg + QByteArray(5000, '\0'), false},
         {"cut.tif", tiff.chopped(500), true},
