@@ -25,7 +25,8 @@ namespace halvern {
 namespace {
 
 constexpr qint64 kPiece = 1024 * 1024;
-constexpr int kLookUp = 200; // milliseconds until the flag is looked at again
+constexpr int kLookUp = 200;          // milliseconds until the flag is looked at again
+constexpr int kLongestSilence = 5000; // when there is hurry
 constexpr int kLongestName = 60;
 // What is left to others; of a small folder, which may be in memory, a quarter of it.
 constexpr qint64 kReserve = qint64(256) * 1024 * 1024;
@@ -151,6 +152,12 @@ bool write(std::unique_ptr<Filling>& filling, QStringList& folders, const QByteA
     return true;
 }
 
+// What its owner says meanwhile.
+struct Flags {
+    cups::CancelFlag stop;
+    cups::CancelFlag hurry;
+};
+
 QString unreadable(int error)
 {
     return DocumentSpool::tr("The document cannot be read: %1. Print it once more from its application.")
@@ -158,18 +165,27 @@ QString unreadable(int error)
 }
 
 // Whether it is at its end; false with a sentence if something failed, or without one if nobody waits.
-bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList folders,
-             const cups::CancelFlag& stop, QString& problem)
+bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList folders, const Flags& flags,
+             QString& problem)
 {
     if (descriptor < 0) {
         problem = unreadable(EMFILE);
         return false;
     }
     QByteArray piece(kPiece, Qt::Uninitialized);
-    while (!stop->load()) {
+    int silence = 0;
+    while (!flags.stop->load()) {
         pollfd wait{descriptor, POLLIN, 0};
-        if (poll(&wait, 1, kLookUp) == 0)
-            continue;
+        if (poll(&wait, 1, kLookUp) == 0) {
+            silence += flags.hurry->load() ? kLookUp : 0;
+            if (silence < kLongestSilence)
+                continue;
+            problem =
+                DocumentSpool::tr("The application has gone before its document was whole. Print it once "
+                                  "more.");
+            return false;
+        }
+        silence = 0;
         const ssize_t count = read(descriptor, piece.data(), size_t(piece.size()));
         if (count == 0)
             return true;
@@ -192,7 +208,7 @@ bool readAll(int descriptor, std::unique_ptr<Filling>& filling, QStringList fold
     return false;
 }
 
-SpooledDocument spool(int descriptor, const QString& title, const cups::CancelFlag& stop)
+SpooledDocument spool(int descriptor, const QString& title, const Flags& flags)
 {
     SpooledDocument document;
     QStringList folders = spoolFolders();
@@ -206,7 +222,7 @@ SpooledDocument spool(int descriptor, const QString& title, const cups::CancelFl
                 .arg(spoolFolders().back());
         return document;
     }
-    if (!readAll(descriptor, filling, folders, stop, document.problem))
+    if (!readAll(descriptor, filling, folders, flags, document.problem))
         return document;
     QFile& file = filling->file;
     const qint64 size = file.size();
@@ -238,15 +254,30 @@ void DocumentSpool::start(int descriptor, const QString& title)
 {
     QPointer<DocumentSpool> self(this);
     const int own = fcntl(descriptor, F_DUPFD_CLOEXEC, 3);
-    WorkQueue().async([self, own, title, stop = stop_] {
-        SpooledDocument document = spool(own, title, stop);
+    const bool isStarted = WorkQueue().async([self, own, title, flags = Flags{stop_, hurry_}] {
+        SpooledDocument document = spool(own, title, flags);
         if (own >= 0)
             close(own);
-        mainQueue().async([self, document = std::move(document), stop] {
+        mainQueue().async([self, document = std::move(document), stop = flags.stop] {
             if (self && !stop->load())
                 Q_EMIT self->finished(document);
         });
     });
+    if (isStarted)
+        return;
+    if (own >= 0)
+        close(own);
+    mainQueue().async([self] {
+        SpooledDocument none;
+        none.problem = tooBusySentence();
+        if (self)
+            Q_EMIT self->finished(none);
+    });
+}
+
+QString DocumentSpool::tooBusySentence()
+{
+    return tr("The computer is too busy to take the document. Close something, and print it once more.");
 }
 
 void removeOldSpools()

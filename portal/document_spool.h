@@ -30,11 +30,18 @@ public:
     /// Once. `descriptor` is copied; `title` is what the file is called.
     void start(int descriptor, const QString& title);
 
+    /// Nobody waits for it any more: a writer that then keeps silent for some seconds is given up.
+    void hurry() { hurry_->store(true); }
+
+    /// There is no thread to read with.
+    static QString tooBusySentence();
+
 Q_SIGNALS:
     void finished(const halvern::SpooledDocument& document);
 
 private:
     cups::CancelFlag stop_ = cups::makeCancelFlag();
+    cups::CancelFlag hurry_ = cups::makeCancelFlag();
 };
 
 /// Removes what programs that were ended have left in the folders.

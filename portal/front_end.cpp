@@ -23,6 +23,7 @@ const QString kInterface = QStringLiteral("org.freedesktop.impl.portal.Print");
 const QString kOwnName = QStringLiteral("tessarin");
 const QString kGroup = QStringLiteral("[preferred]");
 const QString kMark = QStringLiteral("# by halvern-print-portal --enable");
+const QString kInPlaceOf = QStringLiteral("# by halvern-print-portal in place of: ");
 const QString kUsualPortals = QStringLiteral("/usr/share/xdg-desktop-portal/portals");
 constexpr qint64 kMostBytes = 256 * 1024;
 constexpr int kPatience = 3000; // milliseconds
@@ -165,6 +166,10 @@ QStringList withoutOurLine(QStringList lines)
 {
     if (const qsizetype mark = lines.indexOf(kMark); mark >= 0)
         lines.remove(mark, std::min(qsizetype(2), lines.size() - mark));
+    for (QString& line : lines) {
+        if (line.startsWith(kInPlaceOf))
+            line.remove(0, kInPlaceOf.size());
+    }
     return lines;
 }
 
@@ -232,8 +237,10 @@ FrontEndAnswer enableInFrontEnd(const FrontEnd& frontEnd)
     QStringList lines = withoutOurLine(linesOf(configuration(frontEnd)));
     if (lines.removeAll(QString()) >= 0 && !lines.contains(kGroup))
         lines.append(kGroup);
-    lines.removeIf(
-        [](const QString& line) { return line.section(QLatin1Char('='), 0, 0).trimmed() == kInterface; });
+    for (QString& line : lines) {
+        if (line.section(QLatin1Char('='), 0, 0).trimmed() == kInterface)
+            line.prepend(kInPlaceOf);
+    }
     const qsizetype place = lines.indexOf(kGroup) + 1;
     lines.insert(place, kInterface + QLatin1Char('=') + kOwnName);
     lines.insert(place, kMark);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "portal/print_call.h"
 
+#include "dialog/job/pdf_output.h"
 #include "dialog/page/photo_opening.h"
 #include "dialog/window/print_dialog.h"
 #include "dialog/window/review_switch.h"
@@ -57,6 +58,7 @@ void PrintCall::showDocument()
         request.document = BlindDocument{true, applicationsName()};
     else
         request.files = QStringList(*document_.path);
+    request.areFilesBorrowed = true;
     show(request);
 }
 
@@ -67,13 +69,15 @@ void PrintCall::sendPrepared()
         return;
     }
     QPointer<PrintCall> self(this);
-    WorkQueue().async([self, path = document_.path] {
+    const bool isStarted = WorkQueue().async([self, path = document_.path] {
         const PhotoFile file = openPhotoFile(*path);
         mainQueue().async([self, file] {
             if (self)
                 self->sendPictures(file);
         });
     });
+    if (!isStarted)
+        fail(DocumentSpool::tooBusySentence());
 }
 
 // As the dialog prints a picture, in the place of the page that the application would have made.
@@ -100,9 +104,11 @@ void PrintCall::sendPictures(const PhotoFile& file)
 void PrintCall::close()
 {
     const bool isOnItsWay = isSent_ || (prepared_ && !dialog_ && !reviewsDocuments());
-    if (isOnItsWay)
+    if (isOnItsWay) {
+        spool_.hurry();
         return;
-    if (dialog_ && dialog_->isRunning()) {
+    }
+    if (dialog_ && (dialog_->isRunning() || dialog_->unfinishedFile())) {
         if (dialog_->isVisible())
             dialog_->done(QDialog::Rejected);
         return;
@@ -114,6 +120,8 @@ void PrintCall::close()
 void PrintCall::giveUp()
 {
     hasGivenUp_ = true;
+    if (dialog_ && dialog_->unfinishedFile())
+        dialog_->unfinishedFile()->cancel();
     if (dialog_ && dialog_->isRunning())
         dialog_->run()->cancel();
     else if (!isSent_)
@@ -183,6 +191,16 @@ void PrintCall::takeEnd()
         connect(run, &PrintRun::submitted, this, &PrintCall::over);
         connect(run, &PrintRun::finished, this,
                 [this](const PrintOutcome& outcome) { takeOutcome(outcome); });
+        return;
+    }
+    if (PdfOutput* const file = dialog_->unfinishedFile()) {
+        // It is wanted, also without the window.
+        connect(file, &PdfOutput::finished, this, [this](const PdfOutcome& outcome) {
+            if (!outcome.isWritten && !outcome.wasCancelled)
+                room_.notices.tell(applicationsName(), outcome.sentence, keepsAlive_);
+            answer(PortalResponse::cancelled);
+            Q_EMIT over();
+        });
         return;
     }
     // What failed was told in the dialog.

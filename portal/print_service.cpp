@@ -7,6 +7,7 @@
 
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QDBusPendingReply>
 
 #include <algorithm>
 
@@ -79,7 +80,7 @@ void PrintService::end()
 {
     if (std::exchange(isEnding_, true))
         return;
-    QDBusConnection::sessionBus().unregisterService(kName);
+    // The name stays: whoever gives it up is ended by the session's manager at once.
     notices_.leave();
     for (PortalCall* call : findChildren<PortalCall*>())
         call->close();
@@ -122,12 +123,29 @@ void PrintService::begin(PortalCall* call)
     }
     call->setParent(this);
     callers_.addWatchedService(call->caller());
+    lookForCaller(call);
     connect(call, &PortalCall::over, call, [this, call] {
         if (!tokens_.isEmpty())
             heldForTokens_ = life_.hold();
         call->deleteLater();
     });
     call->start();
+}
+
+// It may have gone before it was watched.
+void PrintService::lookForCaller(PortalCall* call)
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
+    question.setArguments({call->caller()});
+    auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), call);
+    connect(answer, &QDBusPendingCallWatcher::finished, call, [call, answer] {
+        const QDBusPendingReply<bool> isThere = *answer;
+        answer->deleteLater();
+        if (!isThere.isError() && !isThere.value())
+            call->close();
+    });
 }
 
 void PrintService::prepare(CallDetails details, const QVariantMap& settings, const QVariantMap& pageSetup,

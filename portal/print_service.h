@@ -65,6 +65,7 @@ Q_SIGNALS:
 
 private:
     void begin(PortalCall* call);
+    void lookForCaller(PortalCall* call);
     void leave();
     void giveUp();
     bool isOnItsWay() const;

@@ -32,8 +32,16 @@ DialogResult::DialogResult(DialogSession& session, PrintDialog& dialog) : sessio
 {
     // What is chosen afterwards is not what was sent.
     connect(&dialog, &PrintDialog::started, this, [this] {
-        job_ = chosen();
-        job_.insert(QStringLiteral("options"), sentOptions());
+        pressed_ = chosen();
+        pressed_.insert(QStringLiteral("options"), sentOptions());
+        connect(dialog_.run(), &PrintRun::submitted, this, [this](int id) {
+            job_ = pressed_;
+            job_.insert(QStringLiteral("job"), id);
+        });
+        connect(dialog_.run(), &PrintRun::finished, this, [this](const PrintOutcome& outcome) {
+            if (dialog_.run()->jobId() > 0 || job_.isEmpty())
+                message_ = outcome.sentence;
+        });
     });
 }
 
@@ -59,15 +67,15 @@ QJsonObject DialogResult::sentOptions() const
 
 QByteArray DialogResult::json(int exitStatus)
 {
-    QJsonObject result = job_;
+    QJsonObject result = job_.isEmpty() ? pressed_ : job_;
     if (result.isEmpty()) {
         result = chosen();
         result.insert(QStringLiteral("options"), QJsonObject());
     }
     result.insert(QStringLiteral("status"), statusWord(exitStatus));
     result.insert(QStringLiteral("exitStatus"), exitStatus);
-    result.insert(QStringLiteral("job"), dialog_.run() ? dialog_.run()->jobId() : 0);
-    result.insert(QStringLiteral("message"), dialog_.outcome().sentence);
+    result.insert(QStringLiteral("job"), job_.value(QStringLiteral("job")).toInt());
+    result.insert(QStringLiteral("message"), message_);
     return QJsonDocument(result).toJson(QJsonDocument::Compact);
 }
 

@@ -26,7 +26,9 @@ private:
 
     DialogSession& session_;
     PrintDialog& dialog_;
-    QJsonObject job_; // empty: Print was not pressed
+    QJsonObject pressed_; // empty: Print was not pressed
+    QString message_;
+    QJsonObject job_; // the last one that was sent; empty: none was
 };
 
 } // namespace halvern

@@ -164,7 +164,13 @@ void DialogSession::takeStartingPage(const PageWishes& wishes, const std::option
 {
     if (preset && !pageIsUsers_)
         page_.set(startingPage(page_.settings(), preset->preset, request_, wishes));
-    page_.takeWishes(wishes);
+    // What another program has said of its pages stands.
+    PageWishes left = wishes;
+    if (request_.document || request_.scaling) {
+        left.scaling.clear();
+        left.isCollated.reset();
+    }
+    page_.takeWishes(left);
     pageIsUsers_ = pageIsUsers_ || !wishes.scaling.isEmpty() || wishes.isCollated;
 }
 

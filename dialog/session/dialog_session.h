@@ -125,6 +125,9 @@ public:
     /// Chooses a layout by its id, with what that sets; an unknown one is left alone.
     void chooseLayout(const QString& id);
 
+    /// Whether the photos' files are another program's, and gone when the dialog is.
+    bool areFilesBorrowed() const { return request_.areFilesBorrowed; }
+
     /// The document that is printed in place of photos; null if photos are.
     const BlindDocument* document() const { return request_.document ? &*request_.document : nullptr; }
 

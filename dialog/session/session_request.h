@@ -32,6 +32,7 @@ struct SessionRequest {
     QString printer;      ///< a queue or its instance; empty: the user's or the server's default
     OptionValues options; ///< typed on the command line
     QStringList files;
+    bool areFilesBorrowed = false; ///< another program's, and gone when the dialog is
     int copies = 1;
     PageChoice pages = {};
     PageTurn turn = PageTurn::automatic;

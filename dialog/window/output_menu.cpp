@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -39,7 +40,10 @@ OutputMenu::OutputMenu(DialogSession& session, QWidget* parent)
     auto* entries = new QMenu(this);
     connect(entries->addAction(tr("Print to a &PDF File...")), &QAction::triggered, this,
             &OutputMenu::chooseFile);
-    connect(entries->addAction(tr("&Copy as Command")), &QAction::triggered, this, &OutputMenu::copyCommand);
+    // A command would name files that are soon gone.
+    if (!session_.areFilesBorrowed())
+        connect(entries->addAction(tr("&Copy as Command")), &QAction::triggered, this,
+                &OutputMenu::copyCommand);
     setMenu(entries);
 }
 
@@ -47,6 +51,13 @@ OutputMenu::OutputMenu(DialogSession& session, QWidget* parent)
 void OutputMenu::endEditing()
 {
     setFocus(Qt::OtherFocusReason);
+}
+
+// What is kept beside a borrowed file goes with it.
+QString OutputMenu::startingFolder() const
+{
+    return session_.areFilesBorrowed() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                       : QFileInfo(session_.photos().front().path).absolutePath();
 }
 
 void OutputMenu::chooseFile()
@@ -60,7 +71,7 @@ void OutputMenu::chooseFile()
     }
     const QFileInfo photo(session_.photos().front().path);
     auto* question =
-        new QFileDialog(window(), tr("Print to a PDF File"), photo.absolutePath(), tr("PDF files (*.pdf)"));
+        new QFileDialog(window(), tr("Print to a PDF File"), startingFolder(), tr("PDF files (*.pdf)"));
     question->setObjectName(QStringLiteral("pdfFile"));
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setAcceptMode(QFileDialog::AcceptSave);
@@ -86,6 +97,11 @@ void OutputMenu::write(const QString& path)
     if (isOneOf(session_.photos(), path)) {
         Q_EMIT failed(tr("%1 is one of the files to print. Choose another name.")
                           .arg(isolated(QFileInfo(path).fileName())));
+        return;
+    }
+    const QString borrowed = QFileInfo(session_.photos().front().path).canonicalPath();
+    if (session_.areFilesBorrowed() && QFileInfo(path).absoluteDir().canonicalPath() == borrowed) {
+        Q_EMIT failed(tr("That folder goes when this window is closed. Choose another one."));
         return;
     }
     if (unfinished()) {

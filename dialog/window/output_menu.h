@@ -18,6 +18,7 @@ public:
     OutputMenu(DialogSession& session, QWidget* parent);
 
     /// Asks for a file's name, and writes it when that is known. Returns at once.
+    QString startingFolder() const;
     void chooseFile();
 
     /// Puts the command on the clipboard.
