@@ -30,6 +30,10 @@ constexpr std::array kServerAttributes{
     "multiple-document-handling",
     "print-quality",
     "media",
+    "media-col",
+    "printer-resolution",
+    "print-content-optimize",
+    "print-rendering-intent",
     "sides",
     "print-color-mode",
     "number-up",
@@ -47,7 +51,7 @@ bool isServerAttribute(const QString& name)
 
 } // namespace
 
-QString addJobOption(_ipp_s* request, const OptionValue& option)
+QString addJobOption(_ipp_s* request, const OptionValue& option, Collections collections)
 {
     const QByteArray name = option.key.toUtf8();
     const QByteArray value = option.value.toUtf8();
@@ -59,7 +63,8 @@ QString addJobOption(_ipp_s* request, const OptionValue& option)
             .arg(value.size())
             .arg(kLongestText);
     }
-    if (isServerAttribute(option.key)) {
+    const bool isText = collections == Collections::asText && option.value.startsWith(QLatin1Char('{'));
+    if (isServerAttribute(option.key) && !isText) {
         // It splits lists at commas and knows the attributes' types.
         cupsEncodeOption(request, IPP_TAG_JOB, name.constData(), value.constData());
         return {};

@@ -88,8 +88,12 @@ JobReadBack compareJob(const OptionValues& sent, _ipp_s* answer)
     JobReadBack result{true, {}, {}};
     // As attributes, because the server gives some of them a type of its own.
     const cups::Ipp ours(ippNew());
-    for (const OptionValue& option : sent)
-        addJobOption(ours.get(), option);
+    for (const OptionValue& option : sent) {
+        const ipp_attribute_t* held = ippFindAttribute(answer, option.key.toUtf8().constData(), IPP_TAG_ZERO);
+        const bool isText =
+            held && !ippFindAttribute(answer, option.key.toUtf8().constData(), IPP_TAG_BEGIN_COLLECTION);
+        addJobOption(ours.get(), option, isText ? Collections::asText : Collections::whole);
+    }
     for (ipp_attribute_t* a = ippFirstAttribute(ours.get()); a; a = ippNextAttribute(ours.get())) {
         ipp_attribute_t* held = ippFindAttribute(answer, ippGetName(a), IPP_TAG_ZERO);
         const QString name = QString::fromUtf8(ippGetName(a));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/job_status.h"
 
+#include "dialog/job/auth_info.h"
 #include "dialog/server/state_reasons.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -143,6 +144,8 @@ JobStatus askJobStatus(cups::Connection& server, const QString& queue, int jobId
             status.printerReasons += strings(printer.get(), "printer-state-reasons");
     }
     status.stage = stageOf(state, status);
+    if (status.reasons.contains(QStringLiteral("cups-held-for-authentication")))
+        forgetAuthInfo(server, queue);
     return status;
 }
 

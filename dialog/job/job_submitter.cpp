@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/job_submitter.h"
 
+#include "dialog/job/auth_info.h"
 #include "dialog/job/ipp_options.h"
 #include "dialog/job/job_actions.h"
+#include "dialog/server/local_queue.h"
 
 #include "platform/printing/cups_ppd.h"
 
@@ -110,17 +112,41 @@ QString takeBack(const JobRequest& job, int jobId)
         .arg(QString::number(jobId), job.queue);
 }
 
-int createJob(cups::Connection& server, const JobRequest& job, QString* problem)
+// With all that the job says of itself; null with a problem if it cannot be said.
+cups::Ipp makeRequest(const cups::Connection& server, const JobRequest& job,
+                      const cups::CancelFlag& cancelled, QString* problem)
 {
     cups::Ipp request = cups::newRequest(IPP_OP_CREATE_JOB, job.queue);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  shortTitle(job.title).constData());
-    for (const OptionValue& option : job.options) {
-        *problem = addJobOption(request.get(), option);
-        if (!problem->isEmpty())
-            return 0;
+    if (!addAuthInfo(server, request.get(), job.queue, job.asked, cancelled)) {
+        *problem = noAuthInfo(job.queue);
+        return nullptr;
     }
-    const cups::Ipp answer = server.request(std::move(request), resourceOf(job).constData());
+    for (const OptionValue& option : job.options) {
+        *problem = addJobOption(request.get(), option,
+                                job.hasTextCollections ? Collections::asText : Collections::whole);
+        if (!problem->isEmpty())
+            return nullptr;
+    }
+    return request;
+}
+
+int createJob(cups::Connection& server, const JobRequest& job, const cups::CancelFlag& cancelled,
+              QString* problem)
+{
+    const auto send = [&]() -> cups::Ipp {
+        cups::Ipp request = makeRequest(server, job, cancelled, problem);
+        return request ? server.request(std::move(request), resourceOf(job).constData()) : nullptr;
+    };
+    cups::Ipp answer = send();
+    const bool isGone = answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND;
+    if (isGone && !job.madeFrom.isEmpty()) {
+        *problem = createLocalQueue(job.queue, job.madeFrom, cancelled);
+        answer = problem->isEmpty() ? send() : nullptr;
+    }
+    if (!problem->isEmpty())
+        return 0;
     if (server.failed(answer)) {
         *problem = server.error();
         if (const int lost = answer ? 0 : findEmptyJob(job); lost > 0)
@@ -179,7 +205,7 @@ SubmitResult submitJob(const JobRequest& job, const cups::NextPiece& nextPiece,
         result.isDocumentAtFault = !piece;
         return piece;
     };
-    const int jobId = createJob(server, job, &result.problem);
+    const int jobId = createJob(server, job, cancelled, &result.problem);
     if (jobId > 0 && sendDocument(server, job, jobId, document, &result.problem))
         return {jobId, {}, false};
     result.wasCancelled = server.isCancelled();

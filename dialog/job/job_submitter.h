@@ -15,6 +15,9 @@ struct JobRequest {
     OptionValues options;
     QSet<QString> secrets = {};                         ///< the options whose values nobody is to read
     QString format = QStringLiteral("application/pdf"); ///< the document's, a MIME type
+    QStringList asked = {}; ///< what the printer asks of its users: "username", "password"; empty: nothing
+    bool hasTextCollections = false; ///< takesCollectionsAsText()
+    QString madeFrom = {}; ///< the printer's URI, where its queue is one that the server takes away again
 };
 
 /// What became of sending it: a job number, or the sentence that says why there is none.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/user_jobs.h"
 
+#include "dialog/job/auth_info.h"
 #include "dialog/server/state_reasons.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -176,6 +177,9 @@ constexpr DeedRow kDeeds[] = {
     {JobDeed::printAgain, IPP_OP_RESTART_JOB,
      QT_TRANSLATE_NOOP("UserJobs",
                        "The print server does not let you print job %1 again. Ask whoever looks after it.")},
+    {JobDeed::signIn, IPP_OP_CUPS_AUTHENTICATE_JOB,
+     QT_TRANSLATE_NOOP("UserJobs",
+                       "The print server does not let you sign in for job %1. Ask whoever looks after it.")},
     {JobDeed::move, IPP_OP_CUPS_MOVE_JOB,
      QT_TRANSLATE_NOOP("UserJobs",
                        "The print server does not let you move job %1 to another printer. Ask whoever looks "
@@ -220,6 +224,8 @@ bool isPossible(JobDeed deed, const UserJob& job)
         return stage == JobStage::waiting || stage == JobStage::blocked;
     case JobDeed::release:
         return stage == JobStage::held && remedyFor(job.status) == Remedy::releaseJob;
+    case JobDeed::signIn:
+        return stage == JobStage::held && remedyFor(job.status) == Remedy::none;
     case JobDeed::printAgain:
         return job.isKept && (hasEnded(stage) || stage == JobStage::stopped);
     }
@@ -237,6 +243,12 @@ ActionResult apply(JobDeed deed, const QString& queue, int jobId, const QString&
         httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof(uri), "ipp", nullptr, "localhost", 0,
                          "/printers/%s", target.toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, "job-printer-uri", nullptr, uri);
+    }
+    if (deed == JobDeed::signIn) {
+        // What was given before has not let the job in.
+        forgetAuthInfo(server, queue);
+        if (!addAuthInfo(server, request.get(), queue, askedOfUsers(server, queue), nullptr))
+            return {true, noAuthInfo(queue)};
     }
     const cups::Ipp answer = server.request(std::move(request), "/jobs/");
     if (!server.failed(answer))

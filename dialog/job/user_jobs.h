@@ -33,7 +33,7 @@ struct UserJobs {
 UserJobs askUserJobs(const QString& queue, bool withEnded, const cups::CancelFlag& cancelled);
 
 /// What a user may want of a job.
-enum class JobDeed { cancel, hold, release, printAgain, move };
+enum class JobDeed { cancel, hold, release, printAgain, move, signIn };
 
 /// Whether that can be done to a job in this state, as far as the server has told.
 bool isPossible(JobDeed deed, const UserJob& job);

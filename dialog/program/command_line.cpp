@@ -13,6 +13,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -29,6 +30,10 @@ public:
     QCommandLineOption printer{{QStringLiteral("d"), QStringLiteral("printer")},
                                tr("Print on this queue."),
                                QStringLiteral("QUEUE")};
+    QCommandLineOption server{
+        QStringLiteral("server"),
+        tr("Use this print server; without it, CUPS_SERVER, client.conf or this computer's."),
+        QStringLiteral("HOST[:PORT]")};
     QCommandLineOption option{{QStringLiteral("o"), QStringLiteral("option")},
                               tr("Set a printer option. Can be given several times."),
                               QStringLiteral("KEY=VALUE")};
@@ -135,6 +140,10 @@ public:
         QStringLiteral("again"),
         tr("With --jobs: print this job again, if the print server has kept its pages."),
         QStringLiteral("N")};
+    QCommandLineOption signIn{
+        QStringLiteral("sign-in"),
+        tr("With --jobs: give the printer the name and the password for which it holds this job."),
+        QStringLiteral("N")};
     QCommandLineOption moveJob{QStringLiteral("move"),
                                tr("With --jobs: move this job to another queue; --to says which."),
                                QStringLiteral("N")};
@@ -150,6 +159,13 @@ public:
     QCommandLineOption refresh{QStringLiteral("refresh"), tr("With --list-papers: ask the printer first.")};
 
     static QString seeHelp() { return tr("See \"halvern-print --help\"."); }
+
+    static QString badServer(const QString& text)
+    {
+        return tr("\"%1\" is no print server: write its name or address, and a port where it is not 631, for "
+                  "example print.example.org:8631.")
+            .arg(displayText(text, 80));
+    }
 
     static QString badOption(const QString& text)
     {
@@ -226,14 +242,15 @@ public:
 
     static QString jobsAlone()
     {
-        return tr("--ended, --cancel, --hold, --release, --again, --move and --to go with --jobs.");
+        return tr(
+            "--ended, --cancel, --hold, --release, --again, --sign-in, --move and --to go with --jobs.");
     }
 
     static QString oneDeed()
     {
-        return tr(
-            "Do one thing at a time: give one of --cancel, --hold, --release and --again, or --move and "
-            "--to together.");
+        return tr("Do one thing at a time: give one of --cancel, --hold, --release, --again and --sign-in, "
+                  "or --move and "
+                  "--to together.");
     }
 
     static QString badJob(const QString& text)
@@ -285,7 +302,9 @@ public:
                   "  3  The job is on the queue, and had not ended yet.\n"
                   "  4  Cancelled: nothing was printed.\n"
                   "  5  The job was sent, but the print server does not answer: the outcome is not known.\n"
-                  "  6  With --verify: printed, but not held by the print server as it was sent.");
+                  "  6  With --verify: printed, but not held by the print server as it was sent.\n"
+                  "  7  A print server or a printer wants a name and a password, and was not given the right "
+                  "ones.");
     }
 
     static QString fileHelp()
@@ -352,7 +371,7 @@ QList<ListingSwitch> listingSwitches(const Switches& switches)
             {switches.jobs,
              Listing::jobs,
              {switches.printer, switches.json, switches.ended, switches.cancelJob, switches.holdJob,
-              switches.releaseJob, switches.repeatJob, switches.moveJob, switches.moveTo}},
+              switches.releaseJob, switches.repeatJob, switches.signIn, switches.moveJob, switches.moveTo}},
             {switches.listOptions,
              Listing::options,
              {switches.printer, switches.option, switches.preset, switches.json}},
@@ -369,11 +388,9 @@ QString readJobs(const QCommandLineParser& parser, const Switches& switches, Com
     const struct {
         const QCommandLineOption& option;
         JobDeed deed;
-    } deeds[] = {{switches.cancelJob, JobDeed::cancel},
-                 {switches.holdJob, JobDeed::hold},
-                 {switches.releaseJob, JobDeed::release},
-                 {switches.repeatJob, JobDeed::printAgain},
-                 {switches.moveJob, JobDeed::move}};
+    } deeds[] = {{switches.cancelJob, JobDeed::cancel},   {switches.holdJob, JobDeed::hold},
+                 {switches.releaseJob, JobDeed::release}, {switches.repeatJob, JobDeed::printAgain},
+                 {switches.signIn, JobDeed::signIn},      {switches.moveJob, JobDeed::move}};
 
     ListJobsRequest request{line.request.printer, parser.isSet(switches.json), parser.isSet(switches.ended)};
     request.target = parser.value(switches.moveTo);
@@ -396,7 +413,7 @@ QString readJobs(const QCommandLineParser& parser, const Switches& switches, Com
 bool belongsToJobs(const QCommandLineParser& parser, const Switches& switches)
 {
     const auto all = {&switches.ended,     &switches.cancelJob, &switches.holdJob, &switches.releaseJob,
-                      &switches.repeatJob, &switches.moveJob,   &switches.moveTo};
+                      &switches.repeatJob, &switches.signIn,    &switches.moveJob, &switches.moveTo};
     return std::ranges::any_of(all, [&](const QCommandLineOption* option) { return parser.isSet(*option); });
 }
 
@@ -407,7 +424,7 @@ QString readListing(const QCommandLineParser& parser, const Switches& switches, 
     for (const ListingSwitch& listing : listingSwitches(switches)) {
         if (!parser.isSet(listing.option))
             continue;
-        QStringList known = listing.option.names();
+        QStringList known = listing.option.names() + switches.server.names();
         for (const QCommandLineOption& other : listing.goesWith)
             known += other.names();
         const QStringList given = parser.optionNames();
@@ -466,6 +483,14 @@ QString readColours(const QCommandLineParser& parser, const Switches& switches, 
     return readPrinterProfile(colours.profile).problem;
 }
 
+// A host, with a port or without; or a UNIX socket's path.
+bool isServerName(const QString& text)
+{
+    static const QRegularExpression kName(
+        QStringLiteral("^(/[^\\s]+|([A-Za-z0-9._-]+|\\[[0-9A-Fa-f:.]+\\])(:[0-9]{1,5})?)$"));
+    return kName.match(text).hasMatch() && text.section(QLatin1Char(':'), -1).toInt() <= 65535;
+}
+
 QString readValues(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
 {
     for (const QString& text : parser.values(switches.option)) {
@@ -501,6 +526,9 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
     if (const QString problem = choosePages(line.request.pages, 0).problem; !problem.isEmpty())
         return problem;
     line.request.printer = parser.value(switches.printer);
+    line.server = parser.value(switches.server);
+    if (parser.isSet(switches.server) && !isServerName(line.server))
+        return Switches::badServer(line.server);
     if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
         return Switches::emptyPrinter();
     return {};
@@ -536,16 +564,16 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(Switches::about());
     parser.addOptions(
-        {switches.printer,      switches.option,       switches.copies,     switches.pages,
-         switches.orientation,  switches.reverse,      switches.title,      switches.backprint,
-         switches.preset,       switches.printDamaged, switches.skipBroken, switches.noDialog,
-         switches.wait,         switches.dryRun,       switches.output,     switches.verify,
-         switches.listPrinters, switches.listPapers,   switches.refresh,    switches.listOptions,
-         switches.listPresets,  switches.savePreset,   switches.json,       switches.photosPerJob,
-         switches.parent,       switches.resultJson,   switches.colourBy,   switches.profile,
-         switches.intent,       switches.noBlackPoint, switches.jobs,       switches.ended,
-         switches.cancelJob,    switches.holdJob,      switches.releaseJob, switches.repeatJob,
-         switches.moveJob,      switches.moveTo});
+        {switches.server,       switches.printer,      switches.option,       switches.copies,
+         switches.pages,        switches.orientation,  switches.reverse,      switches.title,
+         switches.backprint,    switches.preset,       switches.printDamaged, switches.skipBroken,
+         switches.noDialog,     switches.wait,         switches.dryRun,       switches.output,
+         switches.verify,       switches.listPrinters, switches.listPapers,   switches.refresh,
+         switches.listOptions,  switches.listPresets,  switches.savePreset,   switches.json,
+         switches.photosPerJob, switches.parent,       switches.resultJson,   switches.colourBy,
+         switches.profile,      switches.intent,       switches.noBlackPoint, switches.jobs,
+         switches.ended,        switches.cancelJob,    switches.holdJob,      switches.releaseJob,
+         switches.repeatJob,    switches.signIn,       switches.moveJob,      switches.moveTo});
     parser.addOptions(switches.photos.all());
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
@@ -607,11 +635,11 @@ bool asksForWindow(const QStringList& arguments)
 {
     const Switches switches;
     QCommandLineParser parser;
-    parser.addOptions({switches.printer, switches.option, switches.copies, switches.pages,
-                       switches.orientation, switches.title, switches.backprint, switches.wait,
-                       switches.noDialog, switches.dryRun, switches.output, switches.preset,
-                       switches.photosPerJob, switches.parent, switches.resultJson, switches.colourBy,
-                       switches.profile, switches.intent, switches.noBlackPoint});
+    parser.addOptions({switches.server,   switches.printer,      switches.option, switches.copies,
+                       switches.pages,    switches.orientation,  switches.title,  switches.backprint,
+                       switches.wait,     switches.noDialog,     switches.dryRun, switches.output,
+                       switches.preset,   switches.photosPerJob, switches.parent, switches.resultJson,
+                       switches.colourBy, switches.profile,      switches.intent, switches.noBlackPoint});
     parser.addOptions(switches.photos.all());
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};

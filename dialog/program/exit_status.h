@@ -12,6 +12,7 @@ enum ExitStatus {
     kExitCancelled = 4,  ///< nothing was printed, because somebody said so
     kExitUnknown = 5,    ///< the job was sent, and the server has gone silent
     kExitDiffers = 6,    ///< printed, but the server does not hold the job as it was sent, or does not tell
+    kExitLogin = 7,      ///< a name and a password were wanted, and not given, or wrong
 };
 
 } // namespace halvern

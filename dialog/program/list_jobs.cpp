@@ -80,6 +80,8 @@ QString doneText(JobDeed deed, int job, const QString& target)
         return Words::tr("Job %1 was released.").arg(job);
     case JobDeed::printAgain:
         return Words::tr("Job %1 is printed again.").arg(job);
+    case JobDeed::signIn:
+        return Words::tr("Job %1 has what the printer asks for.").arg(job);
     case JobDeed::move:
         break;
     }

@@ -4,6 +4,7 @@
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
 #include "dialog/program/dialog_result.h"
+#include "dialog/program/terminal_questions.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/session/quit_signals.h"
 #include "dialog/window/print_dialog.h"
@@ -116,11 +117,20 @@ int runListing(const CommandLine& line)
     return status == kExitFailed && quitWasSignalled() ? kExitCancelled : status;
 }
 
+// Without a window: who is at a terminal is asked there.
+int runUnseen(const CommandLine& line)
+{
+    cups::Access& access = cups::Access::shared();
+    access.setQuestions(std::make_shared<TerminalQuestions>());
+    const int status = line.listing.what != Listing::none ? runListing(line) : runBatch(line);
+    return status == kExitFailed && access.lacksLogin() && !quitWasSignalled() ? int(kExitLogin) : status;
+}
+
 int run(const CommandLine& line)
 {
-    if (line.listing.what != Listing::none)
-        return runListing(line);
-    return line.showDialog ? runDialog(line) : runBatch(line);
+    if (!line.server.isEmpty())
+        qputenv("CUPS_SERVER", line.server.toUtf8());
+    return line.listing.what == Listing::none && line.showDialog ? runDialog(line) : runUnseen(line);
 }
 
 // A full disk, or a pipe that nobody reads any more.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/server/queue_ppd.h"
 
+#include "dialog/server/local_queue.h"
 #include "platform/printing/cups_ppd.h"
 #include "platform/printing/fresh_ppd.h"
 
@@ -54,6 +55,8 @@ void readQueue(ipp_t* answer, QueuePpd& result)
             result.jobs.sheets = allOf(a);
         else if (name == QLatin1StringView("job-hold-until-supported"))
             result.jobs.holds = allOf(a);
+        else if (name == QLatin1StringView("auth-info-required"))
+            result.jobs.asked = allOf(a);
         else if (name == QLatin1StringView("job-hold-until-default"))
             result.jobs.hold = QString::fromUtf8(value);
         else if (name == QLatin1StringView("device-uri"))
@@ -67,9 +70,10 @@ void readQueue(ipp_t* answer, QueuePpd& result)
 QString whyNoPpd(const QString& queue, cups::Connection& server)
 {
     if (server.wasNotFound())
-        return Words::tr("The printer \"%1\" has no description on the print "
-                         "server. Install it with a driver, or choose another "
-                         "printer.")
+        return Words::tr(
+                   "The printer \"%1\" has no description on the print "
+                   "server, and does not tell by itself what it can do. Install it with a driver, or choose "
+                   "another printer.")
             .arg(queue);
     server.failed(nullptr);
     return server.error();
@@ -85,39 +89,29 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         result.problem = server.error();
         return result;
     }
-    const std::optional<QByteArray> text = server.get(ppd::resourceOf(queue).constData());
-    if (!text) {
+    std::optional<QByteArray> text = server.get(ppd::resourceOf(queue).constData());
+    const bool isWithoutPpd = !text && server.wasNotFound();
+    if (!text)
         result.problem = whyNoPpd(queue, server);
+    if (isWithoutPpd)
+        text = describeByIpp(server, queue, cancelled);
+    if (!text)
         return result;
-    }
+    result.problem.clear();
     // Without an answer the queue has none of it: nothing to keep anybody from printing.
     if (const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/"))
         readQueue(answer.get(), result);
     QString why;
     ppd::File file = ppd::parse(*text, &why);
     if (file) {
-        ppd::rememberText(queue, *text);
+        if (!isWithoutPpd)
+            ppd::rememberText(queue, *text);
         result.file = std::make_shared<ppd::File>(std::move(file));
     } else
         result.problem = Words::tr("The description of the printer \"%1\" is damaged: %2. "
                                    "Install its driver again, or choose another printer.")
                              .arg(queue, why);
     return result;
-}
-
-QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled)
-{
-    // The server waits for the printer's own answers.
-    constexpr std::chrono::seconds kPatience(30);
-    cups::Connection server(cancelled, {kPatience, kPatience});
-    cups::Ipp request = cups::newRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER, {});
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
-    ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr,
-                 name.toUtf8().constData());
-    ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_URI, "device-uri", nullptr,
-                 deviceUri.toUtf8().constData());
-    const cups::Ipp answer = server.request(std::move(request), "/");
-    return server.failed(answer) ? server.error() : QString();
 }
 
 } // namespace halvern

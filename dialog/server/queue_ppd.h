@@ -14,6 +14,7 @@ struct JobOffer {
     QStringList byDefault = {}; ///< the banner pages that the queue adds by itself, before and after
     QString hold = QStringLiteral("no-hold"); ///< what it does with a job that says nothing
     int priority = 50;
+    QStringList asked = {}; ///< what the printer asks of its users: "username", "password"; "none": nothing
 
     bool operator==(const JobOffer&) const = default;
 };
@@ -29,11 +30,8 @@ struct QueuePpd {
     QString problem;
 };
 
-/// Fetches the PPD of a queue and parses it, on the calling worker. The file belongs to whoever takes it out.
+/// Fetches the PPD of a queue and parses it, on the calling worker; a queue without one is described by what
+/// it or its printer says over IPP. The file belongs to whoever takes it out.
 QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled);
-
-/// Makes a queue for a printer that was found on the network, on the calling worker. The sentence about a
-/// failure, empty on success.
-QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled);
 
 } // namespace halvern

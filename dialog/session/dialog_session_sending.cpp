@@ -4,6 +4,7 @@
 
 #include "dialog/job/job_in_words.h"
 #include "dialog/job/pdf_output.h"
+#include "dialog/options/ipp_twins.h"
 #include "dialog/session/driver_colours.h"
 #include "dialog/session/job_to_repeat.h"
 #include "dialog/session/sheet_words.h"
@@ -84,7 +85,7 @@ OptionValues DialogSession::collectOptions()
     panels_.save();
     if (options_.keeper())
         options_.keeper()->settleSaved();
-    return mergeJobOptions(jobInputs());
+    return asIppOptions(model() ? model()->file() : nullptr, mergeJobOptions(jobInputs()));
 }
 
 JobValues DialogSession::valuesToSend() const
@@ -137,6 +138,9 @@ PrintRun* DialogSession::makeRun()
 {
     std::vector<SheetToPrint> sheets = sheetsToPrint();
     JobRequest job{printerName(), jobTitle(), collectOptions(), model()->secrets()};
+    job.asked = jobOffer().asked;
+    job.madeFrom = printer_.madeFrom();
+    job.hasTextCollections = takesCollectionsAsText(model()->file());
     auto* run = new PrintRun(std::move(job), std::move(sheets), quality(), this);
     run->setPhotosPerJob(request_.photosPerJob);
     if (request_.remembers)
@@ -161,6 +165,9 @@ std::optional<QMarginsF> DialogSession::documentMargins() const
 JobRequest DialogSession::makeOrder()
 {
     JobRequest job{printerName(), jobTitle(), collectOptions(), model()->secrets()};
+    job.asked = jobOffer().asked;
+    job.madeFrom = printer_.madeFrom();
+    job.hasTextCollections = takesCollectionsAsText(model()->file());
     const PageChoice& pages = page().pages;
     const auto set = [&job](const char* name, const QString& value) {
         const QString key = QLatin1StringView(name);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/printer_choice.h"
 
+#include "dialog/server/local_queue.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QPointer>
@@ -79,14 +80,14 @@ void PrinterChoice::select(const QString& name)
     stopFetching_ = cups::makeCancelFlag();
     Q_EMIT selected(name);
     const PrinterInfo* info = printers_->find(name);
-    const QString newQueueUri = info && info->isDiscovered ? info->deviceUri : QString();
+    madeFrom_ = info && info->isDiscovered ? info->deviceUri : QString();
     QPointer<PrinterChoice> self(this);
     const bool readsPresets = request_.remembers || !request_.preset.isEmpty();
-    WorkQueue().async([self, name, newQueueUri, readsPresets, stop = stopFetching_] {
+    WorkQueue().async([self, name, madeFrom = madeFrom_, readsPresets, stop = stopFetching_] {
         FetchedPrinter printer;
         QueuePpd& ppd = printer.ppd;
-        if (!newQueueUri.isEmpty())
-            ppd.problem = createLocalQueue(name, newQueueUri, stop);
+        if (!madeFrom.isEmpty())
+            ppd.problem = createLocalQueue(name, madeFrom, stop);
         if (ppd.problem.isEmpty())
             ppd = fetchQueuePpd(name, stop);
         // Here, because a PPD may have ten thousand options.

@@ -42,6 +42,9 @@ public:
 
     const SavedOptions& saved() const { return saved_; }
 
+    /// The URI from which the selected printer's queue is made, for as long as it is used; empty for others.
+    const QString& madeFrom() const { return madeFrom_; }
+
     /// The instance of the selected printer whose saved options count; empty if none does.
     QString instance() const;
 
@@ -69,6 +72,7 @@ private:
     PrinterList* printers_;
     QString printerName_;
     QString startedWith_; ///< a queue or an instance; empty if nobody named one
+    QString madeFrom_;    ///< the URI of a printer that was found and has no queue of its own
     bool isThere_ = false;
     bool isReadingOffer_ = false;
     bool readsOfferAgain_ = false;

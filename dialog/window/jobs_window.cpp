@@ -112,6 +112,7 @@ QLayout* JobsWindow::makeButtons()
     add(JobDeed::hold, tr("Hold"), "holdJob");
     add(JobDeed::release, tr("Release"), "releaseJob");
     add(JobDeed::printAgain, tr("Print Again"), "repeatJob");
+    add(JobDeed::signIn, tr("Sign In..."), "signInJob")->hide();
     add(JobDeed::move, tr("Move To"), "moveJob")->setMenu(targets_);
     row->addStretch();
     return row;
@@ -157,9 +158,14 @@ void JobsWindow::showState()
         text = tr("You have no jobs on this printer.");
     setPlainText(state_, text);
     const std::vector<UserJob> jobs = chosen();
-    for (const DeedButton& each : deeds_)
-        each.button->setEnabled(
-            std::ranges::any_of(jobs, [&](const UserJob& job) { return isPossible(each.deed, job); }));
+    for (const DeedButton& each : deeds_) {
+        const bool isEnabled =
+            std::ranges::any_of(jobs, [&](const UserJob& job) { return isPossible(each.deed, job); });
+        each.button->setEnabled(isEnabled);
+        // For the few printers that ask for a password.
+        if (each.deed == JobDeed::signIn)
+            each.button->setVisible(isEnabled);
+    }
 }
 
 void JobsWindow::fillTargets()
@@ -179,6 +185,7 @@ void JobsWindow::act(JobDeed deed, const QString& target)
 {
     refusal_.clear();
     showState();
+    cups::Access::shared().askAgain();
     for (const UserJob& job : chosen()) {
         if (isPossible(deed, job))
             jobs_->apply(deed, job, target);

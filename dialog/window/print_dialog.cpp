@@ -2,6 +2,7 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/preview/preview_widget.h"
+#include "dialog/window/access_dialogs.h"
 #include "dialog/window/disabled_reasons.h"
 #include "dialog/window/job_line.h"
 #include "dialog/window/jobs_window.h"
@@ -93,6 +94,7 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     connect(message_, &MessageBar::changed, this, &PrintDialog::placeMessage);
     connect(deck_, &PanelDeck::pageShown, this, &PrintDialog::arrange);
     new WheelGuard(this);
+    new AccessDialogs(this);
     connect(new DisabledReasons(this), &DisabledReasons::asked, this, [this](const QString& reason) {
         message_->showMessage(MessageKind::information, reason, {}, kReasonMessage);
     });
@@ -224,8 +226,10 @@ QLayout* PrintDialog::makePrinterRows(QWidget* parent)
     connect(presets_, &PresetBar::told, this, [this](const QString& sentence, const MessageAction& action) {
         message_->showMessage(MessageKind::information, sentence, action, kPresetMessage);
     });
-    connect(printer_, &QComboBox::activated, this,
-            [this] { session_.selectPrinter(printer_->currentData().toString()); });
+    connect(printer_, &QComboBox::activated, this, [this] {
+        cups::Access::shared().askAgain();
+        session_.selectPrinter(printer_->currentData().toString());
+    });
     return form;
 }
 
@@ -305,7 +309,10 @@ void PrintDialog::makeShortcuts()
 
 void PrintDialog::connectSession()
 {
-    connect(&session_.printerList(), &PrinterList::changed, this, &PrintDialog::fillPrinters);
+    connect(&session_.printerList(), &PrinterList::changed, this, [this] {
+        fillPrinters();
+        offerSignIn(session_.printerList().problem());
+    });
     connect(&session_, &DialogSession::printerSelected, this, [this] {
         // What was told of the photos is still true.
         message_->withdraw(kPrinterMessages);
@@ -324,6 +331,7 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::printerFailed, this, [this](const QString& sentence) {
         deck_->rebuild();
         tellOfPrinter(MessageKind::error, sentence);
+        offerSignIn(sentence);
         showPrinterState();
     });
     connect(&session_, &DialogSession::notice, this,
@@ -373,6 +381,19 @@ void PrintDialog::tellOfPrinter(MessageKind kind, const QString& sentence)
 {
     // The sentence in the key: each is told once, and all go with the printer.
     message_->showMessage(kind, sentence, {}, kPrinterMessages + QLatin1Char('/') + sentence);
+}
+
+// Somebody who has sent the question away is not asked again before he says so.
+void PrintDialog::offerSignIn(const QString& problem)
+{
+    if (problem.isEmpty() || !cups::Access::shared().lacksLogin())
+        return;
+    const MessageAction signIn{tr("Sign &In..."), [this] {
+                                   cups::Access::shared().askAgain();
+                                   session_.printerList().refresh();
+                                   session_.selectPrinter(session_.printerName());
+                               }};
+    message_->showMessage(MessageKind::error, problem, signIn, kPrinterMessages + QLatin1Char('/') + problem);
 }
 
 void PrintDialog::fillPrinters()

@@ -85,6 +85,7 @@ private:
     void placeMessage();
     void offerUndo(const QString& sentence);
     void tellOfPrinter(MessageKind kind, const QString& sentence);
+    void offerSignIn(const QString& problem);
     void fillPrinters();
     void showPrinterState();
     void showMisfit();

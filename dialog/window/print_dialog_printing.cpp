@@ -77,6 +77,7 @@ void PrintDialog::print()
 {
     if (isRunning() || !session_.canPrint())
         return;
+    cups::Access::shared().askAgain();
     if (session_.hasBrokenFiles()) {
         askAboutDamagedPhotos(this, session_, [this] { print(); });
         return;

@@ -2,6 +2,7 @@
 #include "platform/printing/cups_connection.h"
 
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/server_certificate.h"
 
 #include <sys/socket.h>
 
@@ -10,8 +11,8 @@ namespace halvern::cups {
 namespace {
 
 constexpr std::chrono::milliseconds kLookAtSilence(1000);
-// The first, one with a password that the library knows by itself, one after a change to TLS.
-constexpr int kMostAttempts = 3;
+// The first, one with what the library knows by itself, one after a change to TLS, and some wrong passwords.
+constexpr int kMostAttempts = 8;
 // So long the server may think about whether it wants a document.
 constexpr int kRefusalMilliseconds = 1000;
 
@@ -129,9 +130,85 @@ bool Connection::connect(ExchangeWatch& watch)
     }
     mustReconnect_ = false;
     watch.setSocket(httpGetFd(http_.get()));
+    if (!encrypt() || !isTrusted(watch)) {
+        http_.reset();
+        return false;
+    }
     if (!password.isEmpty())
         httpSetAuthString(http_.get(), password.constData(), nullptr);
-    return !mustEncrypt_ || httpEncryption(http_.get(), HTTP_ENCRYPTION_REQUIRED) == 0;
+    return true;
+}
+
+bool Connection::encrypt()
+{
+    if (!mustEncrypt_ || httpIsEncrypted(http_.get()) ||
+        httpEncryption(http_.get(), HTTP_ENCRYPTION_REQUIRED) == 0)
+        return true;
+    failure_ = Failure::unreachable;
+    error_ = noEncryption(hostName());
+    return false;
+}
+
+// A printer's own certificate is nobody's word for anything: it is asked for nothing that is secret.
+bool Connection::isTrusted(ExchangeWatch& watch)
+{
+    if (host_ || !httpIsEncrypted(http_.get()))
+        return true;
+    watch.setDeadline(ExchangeWatch::Clock::time_point::max());
+    const bool isKnown = isTrustedServer(http_.get(), hostName(), cancelled_);
+    watch.setDeadline(fromNow(limits_.whole));
+    if (isKnown)
+        return true;
+    failure_ = Failure::untrusted;
+    error_ = notTrusted(hostName());
+    return false;
+}
+
+bool Connection::isPrivate() const
+{
+    return http_ && (httpIsEncrypted(http_.get()) || httpAddrFamily(httpGetAddress(http_.get())) == AF_LOCAL);
+}
+
+QString Connection::hostName() const
+{
+    constexpr int kUsualPort = 631;
+    char name[HTTP_MAX_HOST] = "";
+    if (!http_ || !httpGetHostname(http_.get(), name, sizeof(name)))
+        return QString::fromUtf8(cupsServer());
+    const bool isLocal = httpAddrFamily(httpGetAddress(http_.get())) == AF_LOCAL;
+    const int port = isLocal ? kUsualPort : httpAddrPort(httpGetAddress(http_.get()));
+    const QString host = QString::fromUtf8(name);
+    return port == kUsualPort ? host : QStringLiteral("%1:%2").arg(host).arg(port);
+}
+
+// libcups asks on this thread, within authenticate(). A login that was given in this exchange already is
+// wrong.
+const char* Connection::giveLogin(const char*, http_t*, const char*, const char*, void* self)
+{
+    auto* connection = static_cast<Connection*>(self);
+    const LoginQuestion question{
+        {connection->hostName()}, QString::fromUtf8(cupsUser()), connection->isPrivate()};
+    connection->given_ = Access::shared().login(question, connection->given_, connection->cancelled_);
+    if (connection->given_ && !question.isEncrypted && !connection->given_->mayTravelOpenly)
+        connection->given_.reset();
+    if (!connection->given_)
+        return nullptr;
+    cupsSetUser(connection->given_->user.toUtf8().constData());
+    connection->password_ = connection->given_->password.toUtf8();
+    return connection->password_.constData();
+}
+
+bool Connection::authenticate(const Question& question, ExchangeWatch& watch)
+{
+    const QByteArray user(cupsUser());
+    watch.setDeadline(ExchangeWatch::Clock::time_point::max());
+    cupsSetPasswordCB2(&Connection::giveLogin, this);
+    const bool isAnswered =
+        cupsDoAuthentication(http_.get(), question.ipp ? "POST" : "GET", question.resource) == 0;
+    cupsSetPasswordCB2(noPassword, nullptr);
+    cupsSetUser(user.constData());
+    watch.setDeadline(fromNow(limits_.whole));
+    return isAnswered;
 }
 
 bool Connection::sendQuestion(const Question& question)
@@ -192,14 +269,19 @@ int Connection::exchange(const Question& question, ExchangeWatch& watch)
 int Connection::ask(const Question& question, ExchangeWatch& watch)
 {
     int status = HTTP_STATUS_ERROR;
+    given_.reset();
     for (int attempt = 0; attempt < kMostAttempts && connect(watch); ++attempt) {
         status = exchange(question, watch);
         mustReconnect_ = true;
-        if (status == HTTP_STATUS_UPGRADE_REQUIRED)
+        if (status == HTTP_STATUS_UPGRADE_REQUIRED) {
             mustEncrypt_ = true;
-        else if (status != HTTP_STATUS_UNAUTHORIZED || host_ ||
-                 cupsDoAuthentication(http_.get(), question.ipp ? "POST" : "GET", question.resource) != 0)
-            return status;
+            continue;
+        }
+        if (status == HTTP_STATUS_UNAUTHORIZED && !host_ && authenticate(question, watch))
+            continue;
+        if (given_ && status != HTTP_STATUS_UNAUTHORIZED)
+            Access::shared().wasRight({hostName()}, *given_);
+        return status;
     }
     return http_ ? status : int(HTTP_STATUS_ERROR);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/foundation/export.h"
+#include "platform/printing/access.h"
 #include "platform/printing/exchange_watch.h"
 
 #include <QByteArray>
@@ -50,8 +51,9 @@ struct Host {
 using NextPiece = std::function<std::optional<QByteArray>()>;
 
 /// A connection of one thread at a time to the CUPS server that the environment names. Every wait ends at its
-/// limits or when the flag is raised. Nobody is asked for a password. After a failed exchange the next one
-/// connects anew.
+/// limits or when the flag is raised. A name and
+/// a password that the server wants, or a certificate of its that is not to be trusted, are asked of
+/// cups::Access; that time does not count. After a failed exchange the next one connects anew.
 class Connection {
 public:
     explicit Connection(CancelFlag cancelled, const Limits& limits = {});
@@ -87,11 +89,18 @@ public:
     /// Whether it wanted a name and a password, or another one's, before it looked at the question.
     bool wasForbidden() const;
 
+    /// Whether what goes over it can be read by nobody on the way: it is encrypted, or does not leave the
+    /// computer.
+    bool isPrivate() const;
+
+    /// The server as its user knows it, with a port that is not the usual one.
+    QString hostName() const;
+
     /// A sentence about the last failure in the user's language: what happened and what to do.
     QString error() const { return error_; }
 
 private:
-    enum class Failure { none, unreachable, silent, cancelled, tooMuch, brokenOff, refused };
+    enum class Failure { none, unreachable, untrusted, silent, cancelled, tooMuch, brokenOff, refused };
     struct Question;
 
     Http makeHttp() const;
@@ -100,6 +109,11 @@ private:
     bool connect(ExchangeWatch& watch);
     int ask(const Question& question, ExchangeWatch& watch);
     int exchange(const Question& question, ExchangeWatch& watch);
+    static const char* giveLogin(const char* prompt, _http_s* http, const char* method, const char* resource,
+                                 void* self);
+    bool authenticate(const Question& question, ExchangeWatch& watch);
+    bool encrypt();
+    bool isTrusted(ExchangeWatch& watch);
     bool sendQuestion(const Question& question);
     bool sendDocument(const NextPiece& nextPiece, ExchangeWatch& watch, int& status);
     ssize_t read(char* buffer, size_t length);
@@ -118,6 +132,8 @@ private:
     qint64 received_ = 0;
     Failure failure_ = Failure::none;
     Http http_;
+    std::optional<Login> given_; ///< to the server, in this exchange
+    QByteArray password_;        ///< the same for libcups
     QString error_;
 };
 
@@ -128,8 +144,10 @@ Ipp newRequest(int operation, const QString& queue);
 /// The job that an answer names; 0 if it names none.
 int jobIdOf(const Ipp& answer);
 
-/// The sentence for a server that cannot be reached.
+/// The sentences for a server that cannot be reached, not in secret, or is not the one that is meant.
 QString serverUnreachable();
+QString noEncryption(const QString& host);
+QString notTrusted(const QString& host);
 
 } // namespace cups
 } // namespace halvern

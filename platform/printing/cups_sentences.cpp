@@ -11,6 +11,8 @@ namespace halvern::cups {
 
 namespace {
 
+constexpr int kUsualPort = 631;
+
 struct CupsSentences {
     Q_DECLARE_TR_FUNCTIONS(CupsSentences)
 };
@@ -54,9 +56,31 @@ ipp_status_t ippStatusOf(int httpStatus)
 
 QString serverUnreachable()
 {
+    const QString server = QString::fromUtf8(cupsServer());
+    if (!server.startsWith(QLatin1Char('/')) && server != QLatin1StringView("localhost"))
+        return CupsSentences::tr(
+                   "The print server at %1 cannot be reached. Is its name right, is it switched on, and is "
+                   "this computer on its network?")
+            .arg(ippPort() == kUsualPort ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort()));
     return CupsSentences::tr("The print server at %1 cannot be reached. Start it, for example with "
                              "\"systemctl start cups\", and try again.")
-        .arg(QString::fromUtf8(cupsServer()));
+        .arg(server);
+}
+
+QString noEncryption(const QString& host)
+{
+    return CupsSentences::tr(
+               "The print server at %1 wants to talk in secret only, and no encryption could be agreed "
+               "upon with it. Ask whoever looks after it.")
+        .arg(host);
+}
+
+QString notTrusted(const QString& host)
+{
+    return CupsSentences::tr(
+               "The certificate of the print server at %1 is not trusted, so nothing was sent to it. "
+               "Try again to look at it once more, or ask whoever looks after the server.")
+        .arg(host);
 }
 
 bool Connection::failed(const Ipp& answer)
@@ -76,7 +100,8 @@ QString Connection::sentence(int ippStatus, const QString& message) const
 {
     switch (failure_) {
     case Failure::unreachable:
-        return serverUnreachable();
+    case Failure::untrusted:
+        return error_;
     case Failure::silent:
         return CupsSentences::tr("The print server does not answer. Wait a moment and try "
                                  "again, or restart it.");
@@ -90,6 +115,11 @@ QString Connection::sentence(int ippStatus, const QString& message) const
     case Failure::refused:
         break;
     }
+    if (status_ == HTTP_STATUS_UNAUTHORIZED && !given_)
+        return CupsSentences::tr(
+                   "The print server at %1 wants a name and a password for this, and was given none. Try "
+                   "again and sign in, or ask whoever looks after it.")
+            .arg(hostName());
     switch (ippStatus) {
     case IPP_STATUS_ERROR_NOT_FOUND:
         return CupsSentences::tr("The printer is not on the print server any more. Choose "

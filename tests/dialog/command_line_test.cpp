@@ -43,6 +43,7 @@ TEST_F(CommandLineTest, BadInputEndsInASentenceAndANonZeroStatus)
         {{q("--wait"), q("soon"), photo()}, 2, "seconds from 1"},
         {{q("--option"), q("PageSize"), photo()}, 2, "KEY=VALUE"},
         {{q("--json")}, 2, "goes with"},
+        {{q("--server"), q("a b"), photo()}, 2, "no print server"},
         {{q("--ended"), photo()}, 2, "go with --jobs"},
         {{q("--jobs"), q("--move"), q("3")}, 2, "--to together"},
         {{q("--jobs"), q("--cancel"), q("-1")}, 2, "no job"},

@@ -70,7 +70,66 @@ TEST(CupsConnection, NobodyIsAskedForAPassword)
     EXPECT_FALSE(server.get("/printers/Photo.ppd"));
     EXPECT_FALSE(isAsked);
     EXPECT_TRUE(server.failed(nullptr));
-    EXPECT_TRUE(server.error().contains(q("does not allow"))) << qPrintable(server.error());
+    EXPECT_TRUE(server.error().contains(q("wants a name and a password"))) << qPrintable(server.error());
+}
+
+namespace {
+
+/// Gives these answers, one after the other; then none.
+class FakeQuestions : public cups::AccessQuestions {
+public:
+    std::optional<cups::Login> askLogin(const cups::LoginQuestion& question, const cups::CancelFlag&) override
+    {
+        asked.append(question.wasRefused ? q("again") : q("first"));
+        isEncrypted = question.isEncrypted;
+        return answers.isEmpty() ? std::nullopt : std::optional(answers.takeFirst());
+    }
+
+    void loginWasRight(const cups::Place&, const cups::Login& login) override { right = login.password; }
+
+    bool askCertificate(const cups::CertificateQuestion&, const cups::CancelFlag&) override { return false; }
+
+    QList<cups::Login> answers;
+    QStringList asked;
+    QString right;
+    bool isEncrypted = true;
+};
+
+} // namespace
+
+TEST(CupsConnection, APasswordIsAskedForOnceAndSentOpenlyOnlyIfTheUserSaysSo)
+{
+    const struct {
+        QList<cups::Login> answers;
+        QStringList asked;
+        bool isLetIn;
+    } cases[] = {
+        {{{q("ann"), q("right"), true}}, {q("first")}, true},
+        {{{q("ann"), q("wrong"), true}, {q("ann"), q("right"), true}}, {q("first"), q("again")}, true},
+        {{{q("ann"), q("wrong"), true}}, {q("first"), q("again")}, false},
+        {{{q("ann"), q("right"), false}}, {q("first"), q("first")}, false},
+        {{}, {q("first")}, false},
+    };
+
+    for (const auto& c : cases) {
+        ScriptedServer host([](_ipp_s*) { return scriptedAnswer(); });
+        host.requireLogin("ann:right");
+        const auto questions = std::make_shared<FakeQuestions>();
+        questions->answers = c.answers;
+        cups::Access::shared().setQuestions(questions);
+        for (int i = 0; i < 3; ++i) {
+            cups::Connection server(nullptr);
+            const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_CUPS_GET_PRINTERS, {}), "/");
+            EXPECT_EQ(answer != nullptr, c.isLetIn);
+            EXPECT_EQ(server.failed(answer), !c.isLetIn);
+        }
+        EXPECT_FALSE(questions->isEncrypted);
+        EXPECT_EQ(questions->right, c.isLetIn ? q("right") : QString());
+        EXPECT_EQ(questions->asked, c.asked);
+        EXPECT_EQ(host.asked().size(), c.isLetIn ? 3 : 0);
+        cups::Access::shared().setQuestions(nullptr);
+        cups::Access::shared().askAgain();
+    }
 }
 
 TEST(FreshPpd, TheMainThreadTakesWhatCameLastWhileTheServerIsSilent)

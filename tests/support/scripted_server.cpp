@@ -116,6 +116,15 @@ void ScriptedServer::converse(http_t* http)
         char document[4096];
         while (httpGetState(http) == HTTP_STATE_POST_RECV && httpRead2(http, document, sizeof document) > 0) {
         }
+        if (!login_.isEmpty() &&
+            QByteArray(httpGetField(http, HTTP_FIELD_AUTHORIZATION)) != "Basic " + login_.toBase64()) {
+            httpClearFields(http);
+            httpSetField(http, HTTP_FIELD_WWW_AUTHENTICATE, "Basic realm=\"Test\"");
+            httpSetLength(http, 0);
+            httpWriteResponse(http, HTTP_STATUS_UNAUTHORIZED);
+            httpFlushWrite(http);
+            return;
+        }
         {
             const std::scoped_lock lock(mutex_);
             asked_.append(QString::fromLatin1(ippOpString(ippGetOperation(request.get()))));

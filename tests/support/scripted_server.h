@@ -29,6 +29,9 @@ public:
     ScriptedServer(const ScriptedServer&) = delete;
     ScriptedServer& operator=(const ScriptedServer&) = delete;
 
+    /// From now on "NAME:PASSWORD" is wanted for each request. Before the first one.
+    void requireLogin(const QByteArray& login) { login_ = login; }
+
     /// The operations that were asked for, in order.
     QStringList asked() const;
 
@@ -51,6 +54,7 @@ private:
     Script script_;
     QByteArray answer_;
     Then then_;
+    QByteArray login_;
     int listener_;
     int port_ = 0;
     std::optional<QByteArray> before_;

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialog/options/option_value.h"
+
+struct ppd_file_s;
+using ppd_file_t = ppd_file_s;
+
+namespace halvern {
+
+/// The lines of a PPD that was made from a printer's IPP attributes, and that say what a job calls its
+/// options:
+///
+///   *HalvernIppAttribute Duplex: "sides"
+///   *HalvernIppValue Duplex.DuplexNoTumble: "two-sided-long-edge"
+///
+/// An attribute "media-col/media-type" is a member of a collection. A choice without a line is its own value;
+/// an empty value leaves the attribute out.
+inline constexpr char kIppAttribute[] = "HalvernIppAttribute";
+inline constexpr char kIppValue[] = "HalvernIppValue";
+
+/// And this one, where the printer's queue hands a job's options on without a look at them:
+///
+///   *HalvernIppHandsOn: True
+inline constexpr char kIppHandsOn[] = "HalvernIppHandsOn";
+
+/// Whether collections have to be in a job as texts: a queue that hands options on keeps no others.
+bool takesCollectionsAsText(ppd_file_t* file);
+
+/// The options as a job for such a printer carries them; those of another printer stay as they are. On the
+/// thread that owns the PPD.
+OptionValues asIppOptions(ppd_file_t* file, const OptionValues& options);
+
+} // namespace halvern

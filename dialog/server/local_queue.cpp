@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/server/local_queue.h"
+
+#include "dialog/server/ipp_description.h"
+#include "platform/printing/cups_ppd.h"
+#include "platform/printing/fresh_ppd.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+namespace halvern {
+
+namespace {
+
+// The server waits for the printer's own answers.
+constexpr std::chrono::seconds kPatience(30);
+constexpr std::chrono::seconds kLongestMaking(15);
+constexpr unsigned long kPauseMilliseconds = 200;
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(LocalQueue)
+};
+
+cups::Ipp askAttributes(cups::Connection& server, cups::Ipp request, const char* resource)
+{
+    static const char* const kAttributes[] = {"all", "media-col-database"};
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(kAttributes)), nullptr, kAttributes);
+    cups::Ipp answer = server.request(std::move(request), resource);
+    return answer && !server.failed(answer) ? std::move(answer) : nullptr;
+}
+
+QByteArray textIn(const cups::Ipp& answer, const char* name)
+{
+    ipp_attribute_t* found = answer ? ippFindAttribute(answer.get(), name, IPP_TAG_ZERO) : nullptr;
+    return QByteArray(found ? ippGetString(found, 0, nullptr) : nullptr);
+}
+
+cups::Ipp askPrinterItself(const QByteArray& uri, const cups::CancelFlag& cancelled)
+{
+    char scheme[32];
+    char login[HTTP_MAX_URI];
+    char host[HTTP_MAX_HOST];
+    char resource[HTTP_MAX_URI];
+    int port = 0;
+    if (httpSeparateURI(HTTP_URI_CODING_ALL, uri.constData(), scheme, sizeof(scheme), login, sizeof(login),
+                        host, sizeof(host), &port, resource, sizeof(resource)) < HTTP_URI_STATUS_OK)
+        return nullptr;
+    const bool isEncrypted = qstrcmp(scheme, "ipps") == 0;
+    if (!isEncrypted && qstrcmp(scheme, "ipp") != 0)
+        return nullptr;
+    cups::Connection printer(cups::Host{host, port, isEncrypted}, cancelled, cups::Limits());
+    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, {});
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
+    return printer.isConnected() ? askAttributes(printer, std::move(request), resource) : nullptr;
+}
+
+// What went wrong while the server looked at the printer; empty while it still looks.
+QString whyStopped(cups::Connection& server, const QString& name)
+{
+    const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, name), "/");
+    ipp_attribute_t* state = answer ? ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM) : nullptr;
+    const QByteArray message = textIn(answer, "printer-state-message");
+    if (!state || ippGetInteger(state, 0) != IPP_PSTATE_STOPPED || message.isEmpty())
+        return {};
+    return Words::tr("The printer \"%1\" was found on the network, but the print server cannot use it: %2")
+        .arg(name, QString::fromUtf8(message));
+}
+
+} // namespace
+
+QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled)
+{
+    cups::Connection server(cancelled, {kPatience, kPatience});
+    cups::Ipp request = cups::newRequest(IPP_OP_CUPS_CREATE_LOCAL_PRINTER, {});
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_NAME, "printer-name", nullptr,
+                 name.toUtf8().constData());
+    ippAddString(request.get(), IPP_TAG_PRINTER, IPP_TAG_URI, "device-uri", nullptr,
+                 deviceUri.toUtf8().constData());
+    const cups::Ipp answer = server.request(std::move(request), "/");
+    if (server.failed(answer))
+        return server.error();
+    // It answers before it has asked the printer what it is.
+    const auto end = std::chrono::steady_clock::now() + kLongestMaking;
+    while (!server.isCancelled() && std::chrono::steady_clock::now() < end) {
+        if (server.get(ppd::resourceOf(name).constData()) || !server.wasNotFound())
+            break;
+        if (const QString problem = whyStopped(server, name); !problem.isEmpty())
+            return problem;
+        QThread::msleep(kPauseMilliseconds);
+    }
+    return {};
+}
+
+std::optional<QByteArray> describeByIpp(cups::Connection& server, const QString& queue,
+                                        const cups::CancelFlag& cancelled)
+{
+    const cups::Ipp ofQueue =
+        askAttributes(server, cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/");
+    if (!ofQueue)
+        return std::nullopt;
+    if (isDescribed(ofQueue.get()))
+        return describedAsPpd(ofQueue.get(), false);
+    // A queue without a driver hands everything on: what can be printed, only the printer knows.
+    const cups::Ipp ofPrinter = askPrinterItself(textIn(ofQueue, "device-uri"), cancelled);
+    return ofPrinter && isDescribed(ofPrinter.get()) ? describedAsPpd(ofPrinter.get(), true) : std::nullopt;
+}
+
+} // namespace halvern
