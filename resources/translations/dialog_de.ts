@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>AuthInfo</name>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password, and was given none. Print again and sign in, or ask whoever looks after it.</source>
+        <translation>Der Drucker „%1“ verlangt einen Namen und ein Passwort und hat keine bekommen. Drucken Sie erneut und melden Sie sich an, oder fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+</context>
+<context>
     <name>BackLines</name>
     <message>
         <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
@@ -25,6 +32,49 @@
     <message>
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>Zeile %1 der Rückseite ist länger als %2 Zeichen; was danach kommt, wurde weggelassen (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>Caption</name>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Year (4 digits)</source>
+        <translation>Jahr (4 Ziffern)</translation>
+    </message>
+    <message>
+        <source>Year (2 digits)</source>
+        <translation>Jahr (2 Ziffern)</translation>
+    </message>
+    <message>
+        <source>Month (2 digits)</source>
+        <translation>Monat (2 Ziffern)</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Day (2 digits)</source>
+        <translation>Tag (2 Ziffern)</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
     </message>
 </context>
 <context>
@@ -46,40 +96,64 @@
         <translation>Absolut farbmetrisch</translation>
     </message>
     <message>
-        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
-        <translation>Das Farbprofil „%1“ lässt sich nicht lesen. Wählen Sie ein anderes oder lassen Sie den Drucker die Farben verwalten.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
-        <translation>„%1“ ist kein Farbprofil eines Druckers. Wählen Sie ein anderes oder lassen Sie den Drucker die Farben verwalten.</translation>
-    </message>
-    <message>
-        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
-        <translation>Für diesen Drucker ist kein Farbprofil bekannt. Wählen Sie eines oder lassen Sie den Drucker die Farben verwalten.</translation>
-    </message>
-    <message>
-        <source>colours for &quot;%1&quot;</source>
-        <translation>Farben für „%1“</translation>
-    </message>
-    <message>
-        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
-        <translation>Der Drucker wandelt die Farben um: Jedes Foto geht in sRGB an ihn.</translation>
-    </message>
-    <message>
-        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
-        <translation>Dieses Programm wandelt die Farben um, aus den eigenen jedes Fotos in „%1“.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>See that the printer&apos;s own colour correction is off.</source>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>Dem Drucker wird gesagt, dass er sie nicht noch einmal umwandeln soll (%1).</translation>
+    </message>
+    <message>
+        <source>No color profile of this printer is known. Choose one, or let the printer manage colors.</source>
+        <translation>Für diesen Drucker ist kein Farbprofil bekannt. Wählen Sie eines oder lassen Sie den Drucker die Farben verwalten.</translation>
+    </message>
+    <message>
+        <source>colors for &quot;%1&quot;</source>
+        <translation>Farben für „%1“</translation>
+    </message>
+    <message>
+        <source>The printer converts the colors: each photo goes to it in %1. No soft proof: only the printer knows what it makes of them.</source>
+        <translation>Der Drucker wandelt die Farben um: Jedes Foto geht in %1 an ihn. Kein Softproof: Nur der Drucker weiß, was er daraus macht.</translation>
+    </message>
+    <message>
+        <source>This program converts the colors, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>Dieses Programm wandelt die Farben um, aus den eigenen jedes Fotos in „%1“.</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own color correction is off.</source>
         <translation>Achten Sie darauf, dass die eigene Farbkorrektur des Druckers aus ist.</translation>
     </message>
     <message>
-        <source>The printer is told not to convert them again (%1).</source>
-        <translation>Dem Drucker wird gesagt, dass er sie nicht noch einmal umwandeln soll (%1).</translation>
+        <source>Only the printer knows what it makes of the colors. Let this program manage them, for a profile, to see a soft proof.</source>
+        <translation>Nur der Drucker weiß, was er aus den Farben macht. Lassen Sie dieses Programm sie für ein Profil verwalten, um einen Softproof zu sehen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say what its colors look like: with it there is no soft proof.</source>
+        <translation>„%1“ gibt nicht an, wie seine Farben aussehen: Damit gibt es keinen Softproof.</translation>
+    </message>
+    <message>
+        <source>Soft proof with paper white</source>
+        <translation>Softproof mit Papierweiß</translation>
+    </message>
+    <message>
+        <source>Soft proof</source>
+        <translation>Softproof</translation>
+    </message>
+    <message>
+        <source>pink cannot be printed</source>
+        <translation>Rosa ist nicht druckbar</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; is being read. Wait a moment.</source>
+        <translation>Das Farbprofil „%1“ wird gelesen. Warten Sie einen Moment.</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colors.</source>
+        <translation>Das Farbprofil „%1“ lässt sich nicht lesen. Wählen Sie ein anderes oder lassen Sie den Drucker die Farben verwalten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no color profile of a printer. Choose another one, or let the printer manage colors.</source>
+        <translation>„%1“ ist kein Farbprofil eines Druckers. Wählen Sie ein anderes oder lassen Sie den Drucker die Farben verwalten.</translation>
     </message>
 </context>
 <context>
@@ -197,10 +271,6 @@
         <translation>Die Namen der Voreinstellungen des Druckers ausgeben, je Zeile einen.</translation>
     </message>
     <message>
-        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation>Mit --list-printers, --list-options oder --list-presets: JSON ausgeben, mit mehr Einzelheiten.</translation>
-    </message>
-    <message>
         <source>The name of the file to write is empty.</source>
         <translation>Der Name der zu schreibenden Datei ist leer.</translation>
     </message>
@@ -211,10 +281,6 @@
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
         <translation>--verify gehört zu --no-dialog und passt zu nichts, was keinen Auftrag sendet.</translation>
-    </message>
-    <message>
-        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation>--json gehört zu --list-printers, --list-options oder --list-presets.</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
@@ -229,30 +295,8 @@
         <translation>„%1“ ist kein Name für eine Voreinstellung: Schreiben Sie 1 bis %2 Zeichen.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation>Exit-Status:
-  0  Gedruckt, oder ausgegeben, was verlangt war.
-  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
-  2  Falscher Aufruf.
-  3  Der Auftrag ist in der Warteschlange und war noch nicht beendet.
-  4  Abgebrochen: Es wurde nichts gedruckt.
-  5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist nicht bekannt.
-  6  Mit --verify: gedruckt, aber beim Druckserver lag der Auftrag nicht so vor, wie er gesendet wurde.</translation>
-    </message>
-    <message>
         <source>Turn the page: portrait or landscape; without it, as the photo.</source>
         <translation>Die Ausrichtung der Seite: portrait oder landscape; sonst wie das Foto.</translation>
-    </message>
-    <message>
-        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
-        <translation>Die Lage des Fotos, wo Platz frei bleibt oder abgeschnitten wird: 0,0 ist links oben, 1,1 rechts unten. Mehrfach möglich, für ein Foto nach dem anderen.</translation>
     </message>
     <message>
         <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
@@ -307,32 +351,140 @@
         <translation>Die Standardeingabe kann nicht in einer temporären Datei abgelegt werden. Schaffen Sie Platz auf der Festplatte.</translation>
     </message>
     <message>
-        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
-        <translation>Wer die Farben der Fotos umwandelt: printer (der Drucker, der sRGB bekommt) oder dialog (der Dialog, für ein Farbprofil des Druckers).</translation>
-    </message>
-    <message>
-        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
-        <translation>Die Farben für dieses ICC-Profil des Druckers umwandeln; sonst für das, das der Drucker mitbringt.</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
-        <translation>Was aus Farben wird, die der Drucker nicht wiedergeben kann: perceptual, relative, saturation oder absolute; sonst perceptual.</translation>
-    </message>
-    <message>
-        <source>Convert the colours without black point compensation.</source>
-        <translation>Die Farben ohne Schwarzpunktkompensation umwandeln.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
-        <translation>„%1“ wandelt keine Farben um: Schreiben Sie printer oder dialog.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
         <translation>„%1“ ist keine Renderpriorität: Schreiben Sie perceptual, relative, saturation oder absolute.</translation>
     </message>
     <message>
-        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
-        <translation>--profile, --intent und --no-black-point gehören zu --colour-by dialog.</translation>
+        <source>Use this print server; without it, CUPS_SERVER, client.conf or this computer&apos;s.</source>
+        <translation>Diesen Druckserver verwenden; sonst CUPS_SERVER, client.conf oder den dieses Computers.</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colors: printer, which is given sRGB, or dialog, for a color profile of the printer.</source>
+        <translation>Wer die Farben der Fotos umwandelt: printer (der Drucker, der sRGB bekommt) oder dialog (der Dialog, für ein Farbprofil des Druckers).</translation>
+    </message>
+    <message>
+        <source>Convert the colors for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>Die Farben für dieses ICC-Profil des Druckers umwandeln; sonst für das, das der Drucker mitbringt.</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>Was aus Farben wird, die der Drucker nicht wiedergeben kann: perceptual, relative, saturation oder absolute; sonst perceptual.</translation>
+    </message>
+    <message>
+        <source>Convert the colors without black point compensation.</source>
+        <translation>Die Farben ohne Schwarzpunktkompensation umwandeln.</translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options, --list-presets or --jobs: write JSON, with more details.</source>
+        <translation>Mit --list-printers, --list-options, --list-presets oder --jobs: JSON ausgeben, mit mehr Einzelheiten.</translation>
+    </message>
+    <message>
+        <source>Write your jobs that have not ended, on the queue of --printer or on all, a line each.</source>
+        <translation>Ihre noch nicht beendeten Aufträge ausgeben, in der Warteschlange von --printer oder in allen, je Zeile einen.</translation>
+    </message>
+    <message>
+        <source>With --jobs: those that have ended, too.</source>
+        <translation>Mit --jobs: auch die beendeten.</translation>
+    </message>
+    <message>
+        <source>With --jobs: cancel this job.</source>
+        <translation>Mit --jobs: diesen Auftrag abbrechen.</translation>
+    </message>
+    <message>
+        <source>With --jobs: hold this job.</source>
+        <translation>Mit --jobs: diesen Auftrag zurückhalten.</translation>
+    </message>
+    <message>
+        <source>With --jobs: let this held job go on.</source>
+        <translation>Mit --jobs: diesen zurückgehaltenen Auftrag freigeben.</translation>
+    </message>
+    <message>
+        <source>With --jobs: print this job again, if the print server has kept its pages.</source>
+        <translation>Mit --jobs: diesen Auftrag erneut drucken, wenn der Druckserver seine Seiten aufbewahrt hat.</translation>
+    </message>
+    <message>
+        <source>With --jobs: give the printer the name and the password for which it holds this job.</source>
+        <translation>Mit --jobs: dem Drucker den Namen und das Passwort geben, derentwegen er diesen Auftrag zurückhält.</translation>
+    </message>
+    <message>
+        <source>With --jobs: move this job to another queue; --to says which.</source>
+        <translation>Mit --jobs: diesen Auftrag in eine andere Warteschlange verschieben; --to sagt, in welche.</translation>
+    </message>
+    <message>
+        <source>With --jobs --move: the queue to move the job to.</source>
+        <translation>Mit --jobs --move: die Warteschlange, in die der Auftrag verschoben wird.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server: write its name or address, and a port where it is not 631, for example print.example.org:8631.</source>
+        <translation>„%1“ ist kein Druckserver: Schreiben Sie seinen Namen oder seine Adresse und einen Port, wenn es nicht 631 ist, zum Beispiel print.example.org:8631.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colors: write printer or dialog.</source>
+        <translation>„%1“ wandelt keine Farben um: Schreiben Sie printer oder dialog.</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --color-by dialog.</source>
+        <translation>--profile, --intent und --no-black-point gehören zu --color-by dialog.</translation>
+    </message>
+    <message>
+        <source>--ended, --cancel, --hold, --release, --again, --sign-in, --move and --to go with --jobs.</source>
+        <translation>--ended, --cancel, --hold, --release, --again, --sign-in, --move und --to gehören zu --jobs.</translation>
+    </message>
+    <message>
+        <source>Do one thing at a time: give one of --cancel, --hold, --release, --again and --sign-in, or --move and --to together.</source>
+        <translation>Eines nach dem anderen: Geben Sie --cancel, --hold, --release, --again oder --sign-in an, oder --move und --to zusammen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job: write its number, as --jobs lists it.</source>
+        <translation>„%1“ ist kein Auftrag: Schreiben Sie seine Nummer, wie --jobs sie auflistet.</translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options, --list-presets or --jobs.</source>
+        <translation>--json gehört zu --list-printers, --list-options, --list-presets oder --jobs.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>Exit-Status:
+  0  Gedruckt, oder ausgegeben, was verlangt war.
+  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
+  2  Falscher Aufruf.
+  3  Der Auftrag ist in der Warteschlange und war noch nicht beendet.
+  4  Abgebrochen: Es wurde nichts gedruckt.
+  5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist nicht bekannt.
+  6  Mit --verify: gedruckt, aber beim Druckserver lag der Auftrag nicht so vor, wie er gesendet wurde.
+  7  Ein Druckserver oder ein Drucker verlangt einen Namen und ein Passwort und hat nicht die richtigen bekommen.</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
+        <translation>Die Lage des Fotos, wo Platz frei bleibt oder abgeschnitten wird: 0,0 ist links oben, 1,1 rechts unten. Mehrfach möglich, für ein Foto nach dem anderen, ebenso wie die nächsten drei.</translation>
+    </message>
+    <message>
+        <source>Print a part of the photo this much larger, 1 to %1.</source>
+        <translation>Einen Teil des Fotos so viel größer drucken, 1 bis %1.</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise: 0, 90, 180 or 270 degrees.</source>
+        <translation>Das Foto im Uhrzeigersinn drehen: 0, 90, 180 oder 270 Grad.</translation>
+    </message>
+    <message>
+        <source>Print the photo this often in each copy of the job, 1 to %1.</source>
+        <translation>Das Foto in jedem Exemplar des Auftrags so oft drucken, 1 bis %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no enlargement: write a number from 1 to %2.</source>
+        <translation>„%1“ ist keine Vergrößerung: Schreiben Sie eine Zahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
+        <translation>„%1“ ist keine Drehung: Schreiben Sie 0, 90, 180 oder 270.</translation>
     </message>
 </context>
 <context>
@@ -368,6 +520,22 @@
     <message>
         <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
         <translation>Der Druckserver unter %1 ist nicht erreichbar. Starten Sie ihn, zum Beispiel mit „systemctl start cups“, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Is its name right, is it switched on, and is this computer on its network?</source>
+        <translation>Der Druckserver unter %1 ist nicht erreichbar. Stimmt sein Name, ist er eingeschaltet, und ist dieser Computer in seinem Netz?</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants to talk in secret only, and no encryption could be agreed upon with it. Ask whoever looks after it.</source>
+        <translation>Der Druckserver unter %1 will nur verschlüsselt sprechen, und es kam keine Verschlüsselung mit ihm zustande. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server at %1 is not trusted, so nothing was sent to it. Try again to look at it once more, or ask whoever looks after the server.</source>
+        <translation>Dem Zertifikat des Druckservers unter %1 wird nicht vertraut; deshalb wurde ihm nichts gesendet. Versuchen Sie es erneut, um es noch einmal anzusehen, oder fragen Sie, wer den Server verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants a name and a password for this, and was given none. Try again and sign in, or ask whoever looks after it.</source>
+        <translation>Der Druckserver unter %1 verlangt dafür einen Namen und ein Passwort und hat keine bekommen. Versuchen Sie es erneut und melden Sie sich an, oder fragen Sie, wer ihn verwaltet.</translation>
     </message>
 </context>
 <context>
@@ -549,6 +717,161 @@
     <message>
         <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
         <translation>Der Wert von %1 ist zu lang: Er hat %2 Bytes, möglich sind %3. Kürzen Sie ihn.</translation>
+    </message>
+</context>
+<context>
+    <name>IppWords</name>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Papierquelle</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Papiersorte</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Beidseitig</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Best for</source>
+        <translation>Am besten für</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Renderpriorität</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>Automatisch, schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Black only</source>
+        <translation>Nur Schwarz</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Glänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Hochglänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Mattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Seidenmattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>Mehrzweckfach</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Bedruckte Seite oben</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Bedruckte Seite unten</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Text und Grafik</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perzeptiv</translation>
+    </message>
+    <message>
+        <source>Relative</source>
+        <translation>Relativ</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Absolute</source>
+        <translation>Absolut</translation>
     </message>
 </context>
 <context>
@@ -755,6 +1078,184 @@
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>„%1“ ist keine Zahl von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false.</source>
+        <translation>„%1“ ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>A measure is not written as %1 numbers from 0 to %2.</source>
+        <translation>Ein Maß ist nicht als %1 Zahlen von 0 bis %2 geschrieben.</translation>
+    </message>
+    <message>
+        <source>A photo is not from %1 to %2 mm wide and high.</source>
+        <translation>Ein Foto ist nicht %1 bis %2 mm breit und hoch.</translation>
+    </message>
+    <message>
+        <source>&quot;kind&quot; is none of grid, size, cells and pack.</source>
+        <translation>„kind“ ist keines von grid, size, cells und pack.</translation>
+    </message>
+    <message>
+        <source>&quot;cells&quot; does not hold 1 to %1 places.</source>
+        <translation>„cells“ enthält nicht 1 bis %1 Plätze.</translation>
+    </message>
+    <message>
+        <source>&quot;caption&quot; is longer than %1 characters.</source>
+        <translation>„caption“ ist länger als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>&quot;scaling&quot; is neither fit nor fill.</source>
+        <translation>„scaling“ ist weder fit noch fill.</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2</source>
+        <translation>%1 Reihen zu %2</translation>
+    </message>
+    <message>
+        <source>Photos of %1 × %2 %3</source>
+        <translation>Fotos von %1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>It is no layout: &quot;schema&quot; is not &quot;%1&quot;.</source>
+        <translation>Es ist kein Layout: „schema“ ist nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>It is of another version of this program.</source>
+        <translation>Es ist von einer anderen Version dieses Programms.</translation>
+    </message>
+    <message>
+        <source>It has no &quot;name&quot;.</source>
+        <translation>„name“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The layout takes %1 × %2 mm, and this paper has %3 × %4 mm to print on. Choose a larger paper, one without margins, or another layout.</source>
+        <translation>Das Layout braucht %1 × %2 mm, und auf diesem Papier sind %3 × %4 mm bedruckbar. Wählen Sie ein größeres Papier, eines ohne Ränder oder ein anderes Layout.</translation>
+    </message>
+    <message>
+        <source>So many photos would be smaller than %1 mm on this paper. Choose fewer rows or columns, or a larger paper.</source>
+        <translation>So viele Fotos wären auf diesem Papier kleiner als %1 mm. Wählen Sie weniger Reihen oder Spalten oder ein größeres Papier.</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>It is no JSON object: %1.</source>
+        <translation>Es ist kein JSON-Objekt: %1.</translation>
+    </message>
+    <message>
+        <source>There is another layout &quot;%1&quot;.</source>
+        <translation>Es gibt ein anderes Layout „%1“.</translation>
+    </message>
+    <message>
+        <source>The layout %1 was left out. %2</source>
+        <translation>Das Layout %1 wurde ausgelassen. %2</translation>
+    </message>
+    <message>
+        <source>There is no layout &quot;%1&quot;. There are: %2; and rows x columns, such as 3x4, and sizes, such as 90x130mm.</source>
+        <translation>Es gibt kein Layout „%1“. Es gibt: %2; außerdem Reihen x Spalten, etwa 3x4, und Größen, etwa 90x130mm.</translation>
+    </message>
+    <message>
+        <source>Write a name with letters or numbers.</source>
+        <translation>Schreiben Sie einen Namen mit Buchstaben oder Ziffern.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a layout that is always there. Choose another name.</source>
+        <translation>„%1“ ist ein Layout, das es immer gibt. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The layout could not be kept in %1. %2</source>
+        <translation>Das Layout konnte nicht in %1 gespeichert werden. %2</translation>
+    </message>
+    <message>
+        <source>Only layouts of your own can be deleted.</source>
+        <translation>Nur eigene Layouts können gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>%1 could not be deleted. %2</source>
+        <translation>%1 konnte nicht gelöscht werden. %2</translation>
+    </message>
+    <message>
+        <source>Not every photo fits on this paper. Choose a smaller size.</source>
+        <translation>Nicht jedes Foto passt auf dieses Papier. Wählen Sie eine kleinere Größe.</translation>
+    </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>Alle Fotos sind weggelassen. Nehmen Sie mindestens eines davon auf.</translation>
+    </message>
+</context>
+<context>
+    <name>ListJobs</name>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>Auftrag %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held.</source>
+        <translation>Auftrag %1 wird zurückgehalten.</translation>
+    </message>
+    <message>
+        <source>Job %1 was released.</source>
+        <translation>Auftrag %1 wurde freigegeben.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed again.</source>
+        <translation>Auftrag %1 wird erneut gedruckt.</translation>
+    </message>
+    <message>
+        <source>Job %1 has what the printer asks for.</source>
+        <translation>Auftrag %1 hat, was der Drucker verlangt.</translation>
+    </message>
+    <message>
+        <source>Job %1 was moved to &quot;%2&quot;.</source>
+        <translation>Auftrag %1 wurde nach „%2“ verschoben.</translation>
+    </message>
+    <message>
+        <source>You have no job %1 on the print server. --jobs --ended lists yours.</source>
+        <translation>Sie haben keinen Auftrag %1 auf dem Druckserver. --jobs --ended listet Ihre auf.</translation>
+    </message>
+    <message>
+        <source>You have no jobs there.</source>
+        <translation>Sie haben dort keine Aufträge.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+</context>
+<context>
     <name>ListPapers</name>
     <message>
         <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
@@ -858,6 +1359,52 @@
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (Vorgabe %2) „%3“: %4</translation>
+    </message>
+</context>
+<context>
+    <name>LocalQueue</name>
+    <message>
+        <source>The printer &quot;%1&quot; was found on the network, but the print server cannot use it: %2</source>
+        <translation>Der Drucker „%1“ wurde im Netz gefunden, aber der Druckserver kann ihn nicht verwenden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LoginWords</name>
+    <message>
+        <source>The print server at %1 wants to know who you are.</source>
+        <translation>Der Druckserver unter %1 will wissen, wer Sie sind.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password of its own; the print server at %2 hands them on to it.</source>
+        <translation>Der Drucker „%1“ verlangt einen eigenen Namen und ein eigenes Passwort; der Druckserver unter %2 gibt sie an ihn weiter.</translation>
+    </message>
+    <message>
+        <source>That name or password was wrong.</source>
+        <translation>Dieser Name oder dieses Passwort war falsch.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is not encrypted: others could read the password on its way.</source>
+        <translation>Die Verbindung zu %1 ist nicht verschlüsselt: Andere könnten das Passwort unterwegs lesen.</translation>
+    </message>
+    <message>
+        <source>It shows none.</source>
+        <translation>Er zeigt keines.</translation>
+    </message>
+    <message>
+        <source>It shows now: %1</source>
+        <translation>Er zeigt jetzt: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot prove who it is, and was never seen before.</source>
+        <translation>Der Druckserver unter %1 kann nicht beweisen, wer er ist, und wurde noch nie gesehen.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 has another certificate than before. It may have been renewed, or somebody else may be answering in its place.</source>
+        <translation>Der Druckserver unter %1 hat ein anderes Zertifikat als zuvor. Vielleicht wurde es erneuert, vielleicht antwortet aber jemand anders an seiner Stelle.</translation>
+    </message>
+    <message>
+        <source>It had: %1</source>
+        <translation>Er hatte: %1</translation>
     </message>
 </context>
 <context>
@@ -1066,6 +1613,10 @@
     <message>
         <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
         <translation>„%1“ ist ein Ordner ohne Fotos. Nennen Sie einen mit Fotos oder einzelne Fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an HDR picture, which is brighter than paper can be. Export it as JPEG without HDR from your photo program and print that.</source>
+        <translation>„%1“ ist ein HDR-Bild und heller, als Papier sein kann. Exportieren Sie es aus Ihrem Fotoprogramm als JPEG ohne HDR und drucken Sie diese Datei.</translation>
     </message>
 </context>
 <context>
@@ -1331,6 +1882,25 @@
     </message>
 </context>
 <context>
+    <name>PrinterActions</name>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>F&amp;ortsetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Jobs</source>
+        <translation>A&amp;ufträge annehmen</translation>
+    </message>
+    <message>
+        <source>Re&amp;lease</source>
+        <translation>Freigebe&amp;n</translation>
+    </message>
+    <message>
+        <source>The print server does not let you do that with &quot;%1&quot;. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen das bei „%1“ nicht. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1372,16 +1942,39 @@
         <source>The print server has no default printer. Name one with --printer.</source>
         <translation>Der Druckserver hat keinen Standarddrucker. Nennen Sie einen mit --printer.</translation>
     </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>Der Drucker antwortet nicht</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReport</name>
+    <message>
+        <source>The printer&apos;s answer about itself is too long to be true, and was not read.</source>
+        <translation>Die Auskunft des Druckers über sich selbst ist zu lang, um wahr zu sein, und wurde nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The printer does not tell strangers what is in it.</source>
+        <translation>Der Drucker sagt Fremden nicht, was in ihm ist.</translation>
+    </message>
+    <message>
+        <source>The printer does not answer. Is it switched on, and in this network?</source>
+        <translation>Der Drucker antwortet nicht. Ist er eingeschaltet und in diesem Netz?</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is in it.</source>
+        <translation>Der Drucker sagt nicht, was in ihm ist.</translation>
+    </message>
 </context>
 <context>
     <name>QueuePpd</name>
     <message>
-        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
-    </message>
-    <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>Die Beschreibung des Druckers „%1“ ist beschädigt: %2. Installieren Sie den Treiber neu oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server, and does not tell by itself what it can do. Install it with a driver, or choose another printer.</source>
+        <translation>Der Drucker „%1“ hat auf dem Druckserver keine Beschreibung und sagt nicht selbst, was er kann. Richten Sie ihn mit einem Treiber ein oder wählen Sie einen anderen.</translation>
     </message>
 </context>
 <context>
@@ -1393,6 +1986,44 @@
     <message>
         <source>Shows the pages as the application has made them, before they go to the printer</source>
         <translation>Zeigt die Seiten, wie die Anwendung sie erstellt hat, bevor sie zum Drucker gehen</translation>
+    </message>
+</context>
+<context>
+    <name>SecretStore</name>
+    <message>
+        <source>Printing on %1</source>
+        <translation>Drucken auf %1</translation>
+    </message>
+</context>
+<context>
+    <name>SheetWords</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 Blatt</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 Blätter</translation>
+    </message>
+    <message>
+        <source>photos in %1 × %2 mm</source>
+        <translation>Fotos in %1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>with captions</source>
+        <translation>mit Beschriftung</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>mit Schnittmarken</translation>
+    </message>
+    <message>
+        <source>white border %1 mm</source>
+        <translation>weißer Rand %1 mm</translation>
+    </message>
+    <message>
+        <source>Sheet %1: %2, %3 x %4 mm at %5, %6 mm</source>
+        <translation>Blatt %1: %2, %3 x %4 mm bei %5, %6 mm</translation>
     </message>
 </context>
 <context>
@@ -1488,6 +2119,190 @@
         <source>needs attention</source>
         <translation>braucht Aufmerksamkeit</translation>
     </message>
+    <message>
+        <source>Load paper.</source>
+        <translation>Legen Sie Papier ein.</translation>
+    </message>
+    <message>
+        <source>Load the paper that the job wants.</source>
+        <translation>Legen Sie das Papier ein, das der Auftrag braucht.</translation>
+    </message>
+    <message>
+        <source>Load paper soon.</source>
+        <translation>Legen Sie bald Papier nach.</translation>
+    </message>
+    <message>
+        <source>Take the jammed paper out.</source>
+        <translation>Nehmen Sie das gestaute Papier heraus.</translation>
+    </message>
+    <message>
+        <source>a paper tray is missing</source>
+        <translation>ein Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>Push the paper tray in.</source>
+        <translation>Schieben Sie das Papierfach ein.</translation>
+    </message>
+    <message>
+        <source>the output tray is missing</source>
+        <translation>das Ausgabefach fehlt</translation>
+    </message>
+    <message>
+        <source>Put the output tray in.</source>
+        <translation>Setzen Sie das Ausgabefach ein.</translation>
+    </message>
+    <message>
+        <source>Empty the output tray.</source>
+        <translation>Leeren Sie das Ausgabefach.</translation>
+    </message>
+    <message>
+        <source>the output tray is nearly full</source>
+        <translation>das Ausgabefach ist fast voll</translation>
+    </message>
+    <message>
+        <source>Empty the output tray soon.</source>
+        <translation>Leeren Sie bald das Ausgabefach.</translation>
+    </message>
+    <message>
+        <source>Close the printer&apos;s door; the job goes on then.</source>
+        <translation>Schließen Sie die Klappe des Druckers; dann geht der Auftrag weiter.</translation>
+    </message>
+    <message>
+        <source>Close the cover; the job goes on then.</source>
+        <translation>Schließen Sie die Abdeckung; dann geht der Auftrag weiter.</translation>
+    </message>
+    <message>
+        <source>something is open</source>
+        <translation>etwas ist offen</translation>
+    </message>
+    <message>
+        <source>Close what is open; the job goes on then.</source>
+        <translation>Schließen Sie, was offen ist; dann geht der Auftrag weiter.</translation>
+    </message>
+    <message>
+        <source>Switch the printer on and look at its cable or network.</source>
+        <translation>Schalten Sie den Drucker ein und prüfen Sie sein Kabel oder Netz.</translation>
+    </message>
+    <message>
+        <source>Resume it, or ask whoever has paused it.</source>
+        <translation>Setzen Sie ihn fort oder fragen Sie, wer ihn angehalten hat.</translation>
+    </message>
+    <message>
+        <source>holds new jobs</source>
+        <translation>hält neue Aufträge zurück</translation>
+    </message>
+    <message>
+        <source>Release it, and new jobs are printed.</source>
+        <translation>Geben Sie ihn frei; dann werden neue Aufträge gedruckt.</translation>
+    </message>
+    <message>
+        <source>Switch the printer on.</source>
+        <translation>Schalten Sie den Drucker ein.</translation>
+    </message>
+    <message>
+        <source>Have new toner at hand.</source>
+        <translation>Halten Sie neuen Toner bereit.</translation>
+    </message>
+    <message>
+        <source>Put new toner in.</source>
+        <translation>Setzen Sie neuen Toner ein.</translation>
+    </message>
+    <message>
+        <source>Have new ink at hand.</source>
+        <translation>Halten Sie neue Tinte bereit.</translation>
+    </message>
+    <message>
+        <source>Put new ink in.</source>
+        <translation>Setzen Sie neue Tinte ein.</translation>
+    </message>
+    <message>
+        <source>an ink cartridge is missing</source>
+        <translation>eine Tintenpatrone fehlt</translation>
+    </message>
+    <message>
+        <source>Put the missing cartridge in.</source>
+        <translation>Setzen Sie die fehlende Patrone ein.</translation>
+    </message>
+    <message>
+        <source>Have a new waste tank at hand.</source>
+        <translation>Halten Sie einen neuen Resttank bereit.</translation>
+    </message>
+    <message>
+        <source>Put a new waste tank in.</source>
+        <translation>Setzen Sie einen neuen Resttank ein.</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>zu heiß</translation>
+    </message>
+    <message>
+        <source>Let the printer cool down.</source>
+        <translation>Lassen Sie den Drucker abkühlen.</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>wärmt auf</translation>
+    </message>
+    <message>
+        <source>the drum is nearly worn out</source>
+        <translation>die Trommel ist fast verbraucht</translation>
+    </message>
+    <message>
+        <source>Have a new drum at hand.</source>
+        <translation>Halten Sie eine neue Trommel bereit.</translation>
+    </message>
+    <message>
+        <source>the drum is worn out</source>
+        <translation>die Trommel ist verbraucht</translation>
+    </message>
+    <message>
+        <source>Put a new drum in.</source>
+        <translation>Setzen Sie eine neue Trommel ein.</translation>
+    </message>
+    <message>
+        <source>developer is low</source>
+        <translation>wenig Entwickler</translation>
+    </message>
+    <message>
+        <source>Have new developer at hand.</source>
+        <translation>Halten Sie neuen Entwickler bereit.</translation>
+    </message>
+    <message>
+        <source>out of developer</source>
+        <translation>kein Entwickler</translation>
+    </message>
+    <message>
+        <source>Put new developer in.</source>
+        <translation>Setzen Sie neuen Entwickler ein.</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>reinigt sich</translation>
+    </message>
+    <message>
+        <source>no room for more jobs</source>
+        <translation>kein Platz für weitere Aufträge</translation>
+    </message>
+    <message>
+        <source>Wait until jobs are printed, or cancel some.</source>
+        <translation>Warten Sie, bis Aufträge gedruckt sind, oder brechen Sie einige ab.</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>hält an</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver.</source>
+        <translation>Installieren Sie den Treiber des Druckers.</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver anew.</source>
+        <translation>Installieren Sie den Treiber des Druckers neu.</translation>
+    </message>
+    <message>
+        <source>Look at the printer&apos;s own display.</source>
+        <translation>Sehen Sie auf die Anzeige des Druckers.</translation>
+    </message>
 </context>
 <context>
     <name>Stepper</name>
@@ -1498,6 +2313,416 @@
     <message>
         <source>Decrease</source>
         <translation>Verringern</translation>
+    </message>
+</context>
+<context>
+    <name>Supply</name>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Photo black</source>
+        <translation>Fotoschwarz</translation>
+    </message>
+    <message>
+        <source>Matte black</source>
+        <translation>Mattschwarz</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>Hellgrau</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Hellcyan</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Hellmagenta</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Waste tank</source>
+        <translation>Resttank</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinte</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Verbrauchsmaterial</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>voll</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, nearly full</source>
+        <translation>%1, fast voll</translation>
+    </message>
+    <message>
+        <source>%1 full</source>
+        <translation>%1 voll</translation>
+    </message>
+    <message>
+        <source>%1, low</source>
+        <translation>%1, wenig</translation>
+    </message>
+    <message>
+        <source>%1 is full</source>
+        <translation>%1: voll</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1: leer</translation>
+    </message>
+    <message>
+        <source>%1 is nearly full (%2)</source>
+        <translation>%1: fast voll (%2)</translation>
+    </message>
+    <message>
+        <source>%1 is low (%2)</source>
+        <translation>%1: wenig (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalQuestions</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>Send it all the same? [y/N]</source>
+        <translation>Trotzdem senden? [ja/N]</translation>
+    </message>
+    <message>
+        <source>Name [%1]:</source>
+        <translation>Name [%1]:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>Trust it from now on? [y/N]</source>
+        <translation>Ab jetzt vertrauen? [ja/N]</translation>
+    </message>
+</context>
+<context>
+    <name>TrayWords</name>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Fotofach</translation>
+    </message>
+    <message>
+        <source>Second tray</source>
+        <translation>Zweites Fach</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Oberes Fach</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Mittleres Fach</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Unteres Fach</translation>
+    </message>
+    <message>
+        <source>Rear feed</source>
+        <translation>Hinterer Einzug</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Seitliches Fach</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Manueller Einzug</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Zusatzfach</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>Großraumfach</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>Umschlageinzug</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Disc-Fach</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Second roll</source>
+        <translation>Zweite Rolle</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>Dünnes Papier</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>Schweres Papier</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Inkjet-Papier</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Beschichtetes Papier</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Briefpapier</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Feinpapier</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Glänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Hochglänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Halbglänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Seidenmattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Mattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Fotofilm</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karton</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>Umschläge</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>Folien</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discs</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Fach %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rolle %1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Fach</translation>
+    </message>
+</context>
+<context>
+    <name>TraysInWords</name>
+    <message>
+        <source>%1 mm wide</source>
+        <translation>%1 mm breit</translation>
+    </message>
+    <message>
+        <source>%1 in wide</source>
+        <translation>%1 Zoll breit</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in the tray</source>
+        <translation>nicht eingelegt: braucht %1 im Fach</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in &quot;%2&quot;</source>
+        <translation>nicht eingelegt: braucht %1 in „%2“</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not in &quot;%2&quot;, but in &quot;%3&quot;.</source>
+        <translation>Das Papierformat „%1“ ist nicht in „%2“, sondern in „%3“.</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
+        <translation>Das Papierformat „%1“ ist nicht eingelegt. In „%3“ ist „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>UserJobs</name>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>Waiting: the printer is paused</source>
+        <translation>Wartet: Der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>Held: the printer wants a name and a password</source>
+        <translation>Zurückgehalten: Der Drucker verlangt einen Namen und ein Passwort</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>Zurückgehalten</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Wird gedruckt</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Gestoppt</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Gedruckt</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>The print server does not let you cancel job %1. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen nicht, Auftrag %1 abzubrechen. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you hold job %1. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen nicht, Auftrag %1 zurückzuhalten. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release job %1. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen nicht, Auftrag %1 freizugeben. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print job %1 again. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen nicht, Auftrag %1 erneut zu drucken. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you sign in for job %1. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen nicht, sich für Auftrag %1 anzumelden. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you move job %1 to another printer. Ask whoever looks after it.</source>
+        <translation>Der Druckserver erlaubt Ihnen nicht, Auftrag %1 zu einem anderen Drucker zu verschieben. Fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>Job %1 or the printer &quot;%2&quot; is not on the print server any more.</source>
+        <translation>Auftrag %1 oder der Drucker „%2“ ist nicht mehr auf dem Druckserver.</translation>
+    </message>
+    <message>
+        <source>Job %1 is not on the print server any more.</source>
+        <translation>Auftrag %1 ist nicht mehr auf dem Druckserver.</translation>
+    </message>
+    <message>
+        <source>That cannot be done with job %1 as it is now: it may have gone on or ended, or the print server has not kept its pages.</source>
+        <translation>Das geht mit Auftrag %1 in seinem jetzigen Zustand nicht: Vielleicht ist er weitergelaufen oder beendet, oder der Druckserver hat seine Seiten nicht aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::AccessDialogs</name>
+    <message>
+        <source>Trust this print server?</source>
+        <translation>Diesem Druckserver vertrauen?</translation>
+    </message>
+    <message>
+        <source>&amp;Trust It from Now On</source>
+        <translation>Ab &amp;jetzt vertrauen</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +2759,10 @@
         <source>None of the files can be printed.</source>
         <translation>Keine der Dateien kann gedruckt werden.</translation>
     </message>
+    <message>
+        <source>Stopped, but the print server does not answer: a part of the job may still be on the queue &quot;%1&quot;. Look at it before you print again.</source>
+        <translation>Gestoppt, aber der Druckserver antwortet nicht: Ein Teil des Auftrags ist vielleicht noch in der Warteschlange „%1“. Sehen Sie dort nach, bevor Sie erneut drucken.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::ChoiceList</name>
@@ -1549,28 +2778,8 @@
         <translation>Schwarzpunkt kompensieren</translation>
     </message>
     <message>
-        <source>The printer manages colours</source>
-        <translation>Der Drucker verwaltet die Farben</translation>
-    </message>
-    <message>
-        <source>This program manages colours</source>
-        <translation>Dieses Programm verwaltet die Farben</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-    <message>
-        <source>Colour profile</source>
-        <translation>Farbprofil</translation>
-    </message>
-    <message>
         <source>Rendering intent</source>
         <translation>Renderpriorität</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show</source>
-        <translation>Was aus Farben wird, die der Drucker nicht wiedergeben kann</translation>
     </message>
     <message>
         <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
@@ -1589,11 +2798,55 @@
         <translation>Andere Datei ...</translation>
     </message>
     <message>
-        <source>Choose a Colour Profile</source>
+        <source>So&amp;ft proof</source>
+        <translation>Soft&amp;proof</translation>
+    </message>
+    <message>
+        <source>Paper white</source>
+        <translation>Papierweiß</translation>
+    </message>
+    <message>
+        <source>Gamut warning</source>
+        <translation>Farbumfang-Warnung</translation>
+    </message>
+    <message>
+        <source>The printer manages colors</source>
+        <translation>Der Drucker verwaltet die Farben</translation>
+    </message>
+    <message>
+        <source>This program manages colors</source>
+        <translation>Dieses Programm verwaltet die Farben</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show</source>
+        <translation>Was aus Farben wird, die der Drucker nicht wiedergeben kann</translation>
+    </message>
+    <message>
+        <source>The preview shows the paper&apos;s own white and the deepest black on it</source>
+        <translation>Die Vorschau zeigt das Weiß des Papiers und das tiefste Schwarz darauf</translation>
+    </message>
+    <message>
+        <source>The preview paints over in pink what the printer cannot show</source>
+        <translation>Die Vorschau übermalt in Rosa, was der Drucker nicht wiedergeben kann</translation>
+    </message>
+    <message>
+        <source>The preview shows what the photo will look like on paper</source>
+        <translation>Die Vorschau zeigt, wie das Foto auf Papier aussehen wird</translation>
+    </message>
+    <message>
+        <source>Choose a Color Profile</source>
         <translation>Farbprofil wählen</translation>
     </message>
     <message>
-        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <source>Color profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
         <translation>Farbprofile (*.icc *.icm *.ICC *.ICM);;Alle Dateien (*)</translation>
     </message>
 </context>
@@ -1693,6 +2946,14 @@
         <source>There is no photo to print. Open the dialog with one.</source>
         <translation>Es gibt kein Foto zum Drucken. Öffnen Sie den Dialog mit einem.</translation>
     </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>Alle Fotos sind weggelassen. Nehmen Sie mindestens eines davon auf.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
+        <translation>In „%1“ ist jetzt anderes Papier, und die Seite folgt ihm: %2, %3.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DocumentSpool</name>
@@ -1707,6 +2968,14 @@
     <message>
         <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
         <translation>In „%1“ kann keine Datei für das Dokument angelegt werden. Prüfen Sie, ob Sie dort schreiben dürfen, und drucken Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The application has gone before its document was whole. Print it once more.</source>
+        <translation>Die Anwendung ist verschwunden, bevor ihr Dokument ganz da war. Drucken Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The computer is too busy to take the document. Close something, and print it once more.</source>
+        <translation>Der Computer ist zu beschäftigt, um das Dokument anzunehmen. Schließen Sie etwas und drucken Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -1821,6 +3090,118 @@
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
         <translation>Über Seiten vor und nach dem Auftrag entscheidet die Seite „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobRows</name>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsButton</name>
+    <message>
+        <source>Jobs...</source>
+        <translation>Aufträge ...</translation>
+    </message>
+    <message>
+        <source>Your jobs on this printer</source>
+        <translation>Ihre Aufträge auf diesem Drucker</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsWindow</name>
+    <message>
+        <source>Show jobs that have ended</source>
+        <translation>Beendete Aufträge zeigen</translation>
+    </message>
+    <message>
+        <source>Your Jobs on %1</source>
+        <translation>Ihre Aufträge auf %1</translation>
+    </message>
+    <message>
+        <source>Your jobs</source>
+        <translation>Ihre Aufträge</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Zurückhalten</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Freigeben</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Erneut drucken</translation>
+    </message>
+    <message>
+        <source>Sign In...</source>
+        <translation>Anmelden ...</translation>
+    </message>
+    <message>
+        <source>Move To</source>
+        <translation>Verschieben nach</translation>
+    </message>
+    <message>
+        <source>Asking the print server...</source>
+        <translation>Der Druckserver wird gefragt ...</translation>
+    </message>
+    <message>
+        <source>You have no jobs on this printer.</source>
+        <translation>Sie haben keine Aufträge auf diesem Drucker.</translation>
+    </message>
+    <message>
+        <source>The print server has no other printer</source>
+        <translation>Der Druckserver hat keinen anderen Drucker</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::LoginDialog</name>
+    <message>
+        <source>Send it &amp;all the same</source>
+        <translation>&amp;Trotzdem senden</translation>
+    </message>
+    <message>
+        <source>&amp;Remember it in the keyring</source>
+        <translation>&amp;Im Schlüsselbund merken</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>Anmel&amp;den</translation>
     </message>
 </context>
 <context>
@@ -2007,6 +3388,10 @@
         <source>%1 is one of the files to print. Choose another name.</source>
         <translation>%1 ist eine der zu druckenden Dateien. Wählen Sie einen anderen Namen.</translation>
     </message>
+    <message>
+        <source>That folder goes when this window is closed. Choose another one.</source>
+        <translation>Dieser Ordner verschwindet, wenn dieses Fenster geschlossen wird. Wählen Sie einen anderen.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2089,6 +3474,10 @@
         <source>About the Photo</source>
         <translation>Über das Foto</translation>
     </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2161,7 +3550,11 @@
         <translation>&amp;Skalierung:</translation>
     </message>
     <message>
-        <source>Co&amp;lours:</source>
+        <source>Loaded:</source>
+        <translation>Eingelegt:</translation>
+    </message>
+    <message>
+        <source>Co&amp;lors:</source>
         <translation>&amp;Farben:</translation>
     </message>
 </context>
@@ -2198,6 +3591,10 @@
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>%1 Seiten wurden in „%2“ geschrieben.</translation>
     </message>
+    <message>
+        <source>The computer is too busy to write the file. Close something and try again.</source>
+        <translation>Der Computer ist zu beschäftigt, um die Datei zu schreiben. Schließen Sie etwas und versuchen Sie es erneut.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PhotoAdding</name>
@@ -2224,6 +3621,13 @@
     <message>
         <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>Das Bild kann nicht in einer temporären Datei abgelegt werden. Schaffen Sie Platz auf der Festplatte.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoLoader</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
+        <translation>„%1“ ist jetzt nicht lesbar: Der Computer ist zu beschäftigt. Schließen Sie etwas und öffnen Sie die Datei erneut.</translation>
     </message>
 </context>
 <context>
@@ -2315,6 +3719,14 @@
     <message>
         <source>Rating:</source>
         <translation>Bewertung:</translation>
+    </message>
+    <message>
+        <source>CMYK without a profile; taken as ideal inks</source>
+        <translation>CMYK ohne Profil; gilt als ideale Tinten</translation>
+    </message>
+    <message>
+        <source>Gray without a profile; taken as sRGB</source>
+        <translation>Grau ohne Profil; gilt als sRGB</translation>
     </message>
 </context>
 <context>
@@ -2715,6 +4127,10 @@
         <source>The application makes its pages afterwards, for this sheet.</source>
         <translation>Die Anwendung erstellt ihre Seiten danach, für dieses Blatt.</translation>
     </message>
+    <message>
+        <source>Sign &amp;In...</source>
+        <translation>An&amp;melden ...</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -2746,6 +4162,21 @@
         <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
         <translation>%1 Fotos wurden in %2 Aufträgen gedruckt, %3 bis %4.</translation>
     </message>
+    <message>
+        <source>The computer is too busy to send it. Close something and try again.</source>
+        <translation>Der Computer ist zu beschäftigt zum Senden. Schließen Sie etwas und versuchen Sie es erneut.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled when %n job(s) had been printed already.</source>
+        <translation>
+            <numerusform>Abgebrochen, als schon %n Auftrag gedruckt war.</numerusform>
+            <numerusform>Abgebrochen, als schon %n Aufträge gedruckt waren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
+        <translation>Gestoppt. Diese Aufträge sind in der Warteschlange „%1“ und bleiben dort: %2.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintService</name>
@@ -2767,6 +4198,57 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>Die Anwendung erinnert sich an einen Drucker „%1“, den der Druckserver nicht hat. Stattdessen wurde „%2“ gewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterPage</name>
+    <message>
+        <source>State:</source>
+        <translation>Zustand:</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Was zu tun ist:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Seit:</translation>
+    </message>
+    <message>
+        <source>Jobs ahead:</source>
+        <translation>Aufträge davor:</translation>
+    </message>
+    <message>
+        <source>Printers in it:</source>
+        <translation>Drucker darin:</translation>
+    </message>
+    <message>
+        <source>Supplies:</source>
+        <translation>Vorräte:</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not on the print server</source>
+        <translation>nicht auf dem Druckserver</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it yet.</source>
+        <translation>Noch ist nichts von ihm bekannt.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>The printer tells more of itself than can be shown here.</source>
+        <translation>Der Drucker sagt mehr über sich, als hier gezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is left of its ink or toner.</source>
+        <translation>Der Drucker sagt nicht, wie viel Tinte oder Toner er noch hat.</translation>
     </message>
 </context>
 <context>
@@ -2820,6 +4302,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>Nichts hier heißt „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SentJob</name>
+    <message>
+        <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
+        <translation>Das Dokument wurde nicht gedruckt: Die Sitzung endete, bevor der Druckserver es ganz hatte. Drucken Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +4395,20 @@
     <message>
         <source>%1 more are in the list of all other settings.</source>
         <translation>%1 weitere stehen in der Liste aller anderen Einstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SupplyBars</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::TrayRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

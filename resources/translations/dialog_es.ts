@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>AuthInfo</name>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password, and was given none. Print again and sign in, or ask whoever looks after it.</source>
+        <translation>La impresora «%1» pide un nombre y una contraseña y no los recibió. Imprima de nuevo e identifíquese, o pregunte a quien la administra.</translation>
+    </message>
+</context>
+<context>
     <name>BackLines</name>
     <message>
         <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
@@ -25,6 +32,49 @@
     <message>
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>La línea %1 del dorso tiene más de %2 caracteres; se omitió lo que sigue (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>Caption</name>
+    <message>
+        <source>File name</source>
+        <translation>Nombre del archivo</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Fecha de captura</translation>
+    </message>
+    <message>
+        <source>Year (4 digits)</source>
+        <translation>Año (4 cifras)</translation>
+    </message>
+    <message>
+        <source>Year (2 digits)</source>
+        <translation>Año (2 cifras)</translation>
+    </message>
+    <message>
+        <source>Month (2 digits)</source>
+        <translation>Mes (2 cifras)</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mes</translation>
+    </message>
+    <message>
+        <source>Day (2 digits)</source>
+        <translation>Día (2 cifras)</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
     </message>
 </context>
 <context>
@@ -46,40 +96,64 @@
         <translation>Colorimétrico absoluto</translation>
     </message>
     <message>
-        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
-        <translation>El perfil de color «%1» no se puede leer. Elija otro o deje que la impresora gestione los colores.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
-        <translation>«%1» no es un perfil de color de impresora. Elija otro o deje que la impresora gestione los colores.</translation>
-    </message>
-    <message>
-        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
-        <translation>No se conoce ningún perfil de color de esta impresora. Elija uno o deje que la impresora gestione los colores.</translation>
-    </message>
-    <message>
-        <source>colours for &quot;%1&quot;</source>
-        <translation>colores para «%1»</translation>
-    </message>
-    <message>
-        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
-        <translation>La impresora convierte los colores: cada foto se le envía en sRGB.</translation>
-    </message>
-    <message>
-        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
-        <translation>Este programa convierte los colores, de los propios de cada foto a «%1».</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>See that the printer&apos;s own colour correction is off.</source>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>Se indica a la impresora que no vuelva a convertirlos (%1).</translation>
+    </message>
+    <message>
+        <source>No color profile of this printer is known. Choose one, or let the printer manage colors.</source>
+        <translation>No se conoce ningún perfil de color de esta impresora. Elija uno o deje que la impresora gestione los colores.</translation>
+    </message>
+    <message>
+        <source>colors for &quot;%1&quot;</source>
+        <translation>colores para «%1»</translation>
+    </message>
+    <message>
+        <source>The printer converts the colors: each photo goes to it in %1. No soft proof: only the printer knows what it makes of them.</source>
+        <translation>La impresora convierte los colores: cada foto se le envía en %1. Sin prueba en pantalla: solo la impresora sabe qué hace con ellos.</translation>
+    </message>
+    <message>
+        <source>This program converts the colors, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>Este programa convierte los colores, de los propios de cada foto a «%1».</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own color correction is off.</source>
         <translation>Compruebe que la corrección de color propia de la impresora esté desactivada.</translation>
     </message>
     <message>
-        <source>The printer is told not to convert them again (%1).</source>
-        <translation>Se indica a la impresora que no vuelva a convertirlos (%1).</translation>
+        <source>Only the printer knows what it makes of the colors. Let this program manage them, for a profile, to see a soft proof.</source>
+        <translation>Solo la impresora sabe qué hace con los colores. Deje que este programa los gestione, para un perfil, si quiere ver una prueba en pantalla.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say what its colors look like: with it there is no soft proof.</source>
+        <translation>«%1» no indica qué aspecto tienen sus colores: con él no hay prueba en pantalla.</translation>
+    </message>
+    <message>
+        <source>Soft proof with paper white</source>
+        <translation>Prueba en pantalla con blanco del papel</translation>
+    </message>
+    <message>
+        <source>Soft proof</source>
+        <translation>Prueba en pantalla</translation>
+    </message>
+    <message>
+        <source>pink cannot be printed</source>
+        <translation>lo rosa no se puede imprimir</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; is being read. Wait a moment.</source>
+        <translation>Se está leyendo el perfil de color «%1». Espere un momento.</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colors.</source>
+        <translation>El perfil de color «%1» no se puede leer. Elija otro o deje que la impresora gestione los colores.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no color profile of a printer. Choose another one, or let the printer manage colors.</source>
+        <translation>«%1» no es un perfil de color de impresora. Elija otro o deje que la impresora gestione los colores.</translation>
     </message>
 </context>
 <context>
@@ -197,10 +271,6 @@
         <translation>Escribir los nombres de los preajustes de la impresora, uno por línea.</translation>
     </message>
     <message>
-        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation>Con --list-printers, --list-options o --list-presets: escribir JSON, con más detalles.</translation>
-    </message>
-    <message>
         <source>The name of the file to write is empty.</source>
         <translation>El nombre del archivo que se va a escribir está vacío.</translation>
     </message>
@@ -211,10 +281,6 @@
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
         <translation>--verify se usa con --no-dialog y no con opciones que no envían ningún trabajo.</translation>
-    </message>
-    <message>
-        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation>--json se usa con --list-printers, --list-options o --list-presets.</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
@@ -229,30 +295,8 @@
         <translation>«%1» no es un nombre de preajuste: escriba de 1 a %2 caracteres.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation>Estado de salida:
-  0  Impreso, o escrito lo que se pidió.
-  1  Error; la salida de error estándar indica la causa.
-  2  Uso incorrecto.
-  3  El trabajo está en la cola y aún no había terminado.
-  4  Cancelado: no se imprimió nada.
-  5  El trabajo se envió, pero el servidor de impresión no responde: no se conoce el resultado.
-  6  Con --verify: impreso, pero el servidor de impresión no lo tiene tal como se envió.</translation>
-    </message>
-    <message>
         <source>Turn the page: portrait or landscape; without it, as the photo.</source>
         <translation>Orientación de la página: portrait o landscape; si no se indica, como la foto.</translation>
-    </message>
-    <message>
-        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
-        <translation>Posición de la foto donde sobra sitio o se recorta: 0,0 es arriba a la izquierda, 1,1 abajo a la derecha. Puede repetirse, para una foto tras otra.</translation>
     </message>
     <message>
         <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
@@ -307,32 +351,140 @@
         <translation>La entrada estándar no se puede guardar en un archivo temporal. Libere espacio en el disco.</translation>
     </message>
     <message>
-        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
-        <translation>Quién convierte los colores de las fotos: printer (la impresora, que recibe sRGB) o dialog (el diálogo, para un perfil de color de la impresora).</translation>
-    </message>
-    <message>
-        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
-        <translation>Convertir los colores para este perfil ICC de la impresora; si no se indica, para el que trae la impresora.</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
-        <translation>Qué se hace con los colores que la impresora no puede reproducir: perceptual, relative, saturation o absolute; si no se indica, perceptual.</translation>
-    </message>
-    <message>
-        <source>Convert the colours without black point compensation.</source>
-        <translation>Convertir los colores sin compensación del punto negro.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
-        <translation>«%1» no convierte colores: escriba printer o dialog.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
         <translation>«%1» no es un propósito de representación: escriba perceptual, relative, saturation o absolute.</translation>
     </message>
     <message>
-        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
-        <translation>--profile, --intent y --no-black-point se usan con --colour-by dialog.</translation>
+        <source>Use this print server; without it, CUPS_SERVER, client.conf or this computer&apos;s.</source>
+        <translation>Usar este servidor de impresión; si no se indica, CUPS_SERVER, client.conf o el de este equipo.</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colors: printer, which is given sRGB, or dialog, for a color profile of the printer.</source>
+        <translation>Quién convierte los colores de las fotos: printer (la impresora, que recibe sRGB) o dialog (el diálogo, para un perfil de color de la impresora).</translation>
+    </message>
+    <message>
+        <source>Convert the colors for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>Convertir los colores para este perfil ICC de la impresora; si no se indica, para el que trae la impresora.</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>Qué se hace con los colores que la impresora no puede reproducir: perceptual, relative, saturation o absolute; si no se indica, perceptual.</translation>
+    </message>
+    <message>
+        <source>Convert the colors without black point compensation.</source>
+        <translation>Convertir los colores sin compensación del punto negro.</translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options, --list-presets or --jobs: write JSON, with more details.</source>
+        <translation>Con --list-printers, --list-options, --list-presets o --jobs: escribir JSON, con más detalles.</translation>
+    </message>
+    <message>
+        <source>Write your jobs that have not ended, on the queue of --printer or on all, a line each.</source>
+        <translation>Escribir sus trabajos sin terminar, en la cola de --printer o en todas, uno por línea.</translation>
+    </message>
+    <message>
+        <source>With --jobs: those that have ended, too.</source>
+        <translation>Con --jobs: también los terminados.</translation>
+    </message>
+    <message>
+        <source>With --jobs: cancel this job.</source>
+        <translation>Con --jobs: cancelar este trabajo.</translation>
+    </message>
+    <message>
+        <source>With --jobs: hold this job.</source>
+        <translation>Con --jobs: retener este trabajo.</translation>
+    </message>
+    <message>
+        <source>With --jobs: let this held job go on.</source>
+        <translation>Con --jobs: liberar este trabajo retenido.</translation>
+    </message>
+    <message>
+        <source>With --jobs: print this job again, if the print server has kept its pages.</source>
+        <translation>Con --jobs: imprimir de nuevo este trabajo, si el servidor de impresión ha conservado sus páginas.</translation>
+    </message>
+    <message>
+        <source>With --jobs: give the printer the name and the password for which it holds this job.</source>
+        <translation>Con --jobs: dar a la impresora el nombre y la contraseña por los que retiene este trabajo.</translation>
+    </message>
+    <message>
+        <source>With --jobs: move this job to another queue; --to says which.</source>
+        <translation>Con --jobs: mover este trabajo a otra cola; --to indica cuál.</translation>
+    </message>
+    <message>
+        <source>With --jobs --move: the queue to move the job to.</source>
+        <translation>Con --jobs --move: la cola a la que se mueve el trabajo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server: write its name or address, and a port where it is not 631, for example print.example.org:8631.</source>
+        <translation>«%1» no es un servidor de impresión: escriba su nombre o dirección, y un puerto si no es el 631, por ejemplo print.example.org:8631.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colors: write printer or dialog.</source>
+        <translation>«%1» no convierte colores: escriba printer o dialog.</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --color-by dialog.</source>
+        <translation>--profile, --intent y --no-black-point se usan con --color-by dialog.</translation>
+    </message>
+    <message>
+        <source>--ended, --cancel, --hold, --release, --again, --sign-in, --move and --to go with --jobs.</source>
+        <translation>--ended, --cancel, --hold, --release, --again, --sign-in, --move y --to se usan con --jobs.</translation>
+    </message>
+    <message>
+        <source>Do one thing at a time: give one of --cancel, --hold, --release, --again and --sign-in, or --move and --to together.</source>
+        <translation>Una cosa a la vez: indique --cancel, --hold, --release, --again o --sign-in, o bien --move y --to juntos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job: write its number, as --jobs lists it.</source>
+        <translation>«%1» no es un trabajo: escriba su número, tal como lo muestra --jobs.</translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options, --list-presets or --jobs.</source>
+        <translation>--json se usa con --list-printers, --list-options, --list-presets o --jobs.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>Estado de salida:
+  0  Impreso, o escrito lo que se pidió.
+  1  Error; la salida de error estándar indica la causa.
+  2  Uso incorrecto.
+  3  El trabajo está en la cola y aún no había terminado.
+  4  Cancelado: no se imprimió nada.
+  5  El trabajo se envió, pero el servidor de impresión no responde: no se conoce el resultado.
+  6  Con --verify: impreso, pero el servidor de impresión no lo tiene tal como se envió.
+  7  Un servidor de impresión o una impresora pide un nombre y una contraseña, y no recibió los correctos.</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
+        <translation>Posición de la foto donde sobra sitio o se recorta: 0,0 es arriba a la izquierda, 1,1 abajo a la derecha. Puede repetirse, para una foto tras otra, igual que las tres siguientes.</translation>
+    </message>
+    <message>
+        <source>Print a part of the photo this much larger, 1 to %1.</source>
+        <translation>Imprimir una parte de la foto ampliada tantas veces, de 1 a %1.</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise: 0, 90, 180 or 270 degrees.</source>
+        <translation>Girar la foto en el sentido de las agujas del reloj: 0, 90, 180 o 270 grados.</translation>
+    </message>
+    <message>
+        <source>Print the photo this often in each copy of the job, 1 to %1.</source>
+        <translation>Imprimir la foto tantas veces en cada copia del trabajo, de 1 a %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no enlargement: write a number from 1 to %2.</source>
+        <translation>«%1» no es una ampliación: escriba un número de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
+        <translation>«%1» no es un giro: escriba 0, 90, 180 o 270.</translation>
     </message>
 </context>
 <context>
@@ -368,6 +520,22 @@
     <message>
         <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
         <translation>No se puede contactar con el servidor de impresión %1. Inícielo, por ejemplo con «systemctl start cups», e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Is its name right, is it switched on, and is this computer on its network?</source>
+        <translation>No se puede contactar con el servidor de impresión %1. ¿Es correcto su nombre, está encendido y está este equipo en su red?</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants to talk in secret only, and no encryption could be agreed upon with it. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión %1 solo acepta conexiones cifradas, y no se pudo acordar ningún cifrado con él. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server at %1 is not trusted, so nothing was sent to it. Try again to look at it once more, or ask whoever looks after the server.</source>
+        <translation>El certificado del servidor de impresión %1 no es de confianza, así que no se le envió nada. Inténtelo de nuevo para volver a mirarlo, o pregunte a quien administra el servidor.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants a name and a password for this, and was given none. Try again and sign in, or ask whoever looks after it.</source>
+        <translation>El servidor de impresión %1 pide para esto un nombre y una contraseña y no los recibió. Inténtelo de nuevo e identifíquese, o pregunte a quien lo administra.</translation>
     </message>
 </context>
 <context>
@@ -549,6 +717,161 @@
     <message>
         <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
         <translation>El valor de %1 es demasiado largo: tiene %2 bytes y caben %3. Acórtelo.</translation>
+    </message>
+</context>
+<context>
+    <name>IppWords</name>
+    <message>
+        <source>Paper size</source>
+        <translation>Tamaño de papel</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Origen del papel</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Tipo de papel</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>A doble cara</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Best for</source>
+        <translation>Optimizado para</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Propósito de representación</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Borde largo</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Borde corto</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Blanco y negro</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>Automático, blanco y negro</translation>
+    </message>
+    <message>
+        <source>Black only</source>
+        <translation>Solo negro</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Borrador</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Papel normal</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papel fotográfico</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papel fotográfico brillante</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papel fotográfico de alto brillo</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papel fotográfico mate</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papel fotográfico satinado</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bandeja principal</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>Bandeja multiuso</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Cara impresa arriba</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Cara impresa abajo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Gráficos</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Texto y gráficos</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptual</translation>
+    </message>
+    <message>
+        <source>Relative</source>
+        <translation>Relativo</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Absolute</source>
+        <translation>Absoluto</translation>
     </message>
 </context>
 <context>
@@ -755,6 +1078,184 @@
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>«%1» no es un número de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false.</source>
+        <translation>«%1» no es ni true ni false.</translation>
+    </message>
+    <message>
+        <source>A measure is not written as %1 numbers from 0 to %2.</source>
+        <translation>Una medida no está escrita como %1 números de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>A photo is not from %1 to %2 mm wide and high.</source>
+        <translation>Una foto no mide de %1 a %2 mm de ancho y de alto.</translation>
+    </message>
+    <message>
+        <source>&quot;kind&quot; is none of grid, size, cells and pack.</source>
+        <translation>«kind» no es ninguno de grid, size, cells y pack.</translation>
+    </message>
+    <message>
+        <source>&quot;cells&quot; does not hold 1 to %1 places.</source>
+        <translation>«cells» no contiene de 1 a %1 lugares.</translation>
+    </message>
+    <message>
+        <source>&quot;caption&quot; is longer than %1 characters.</source>
+        <translation>«caption» tiene más de %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>&quot;scaling&quot; is neither fit nor fill.</source>
+        <translation>«scaling» no es ni fit ni fill.</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2</source>
+        <translation>%1 filas de %2</translation>
+    </message>
+    <message>
+        <source>Photos of %1 × %2 %3</source>
+        <translation>Fotos de %1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>It is no layout: &quot;schema&quot; is not &quot;%1&quot;.</source>
+        <translation>No es una disposición: «schema» no es «%1».</translation>
+    </message>
+    <message>
+        <source>It is of another version of this program.</source>
+        <translation>Es de otra versión de este programa.</translation>
+    </message>
+    <message>
+        <source>It has no &quot;name&quot;.</source>
+        <translation>No tiene «name».</translation>
+    </message>
+    <message>
+        <source>The layout takes %1 × %2 mm, and this paper has %3 × %4 mm to print on. Choose a larger paper, one without margins, or another layout.</source>
+        <translation>La disposición ocupa %1 × %2 mm y en este papel se puede imprimir en %3 × %4 mm. Elija un papel más grande, uno sin márgenes u otra disposición.</translation>
+    </message>
+    <message>
+        <source>So many photos would be smaller than %1 mm on this paper. Choose fewer rows or columns, or a larger paper.</source>
+        <translation>Tantas fotos serían de menos de %1 mm en este papel. Elija menos filas o columnas, o un papel más grande.</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>It is no JSON object: %1.</source>
+        <translation>No es un objeto JSON: %1.</translation>
+    </message>
+    <message>
+        <source>There is another layout &quot;%1&quot;.</source>
+        <translation>Hay otra disposición «%1».</translation>
+    </message>
+    <message>
+        <source>The layout %1 was left out. %2</source>
+        <translation>Se omitió la disposición %1. %2</translation>
+    </message>
+    <message>
+        <source>There is no layout &quot;%1&quot;. There are: %2; and rows x columns, such as 3x4, and sizes, such as 90x130mm.</source>
+        <translation>No hay ninguna disposición «%1». Hay: %2; además, filas x columnas, como 3x4, y tamaños, como 90x130mm.</translation>
+    </message>
+    <message>
+        <source>Write a name with letters or numbers.</source>
+        <translation>Escriba un nombre con letras o números.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a layout that is always there. Choose another name.</source>
+        <translation>«%1» es una disposición que siempre existe. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>No se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>The layout could not be kept in %1. %2</source>
+        <translation>No se pudo guardar la disposición en %1. %2</translation>
+    </message>
+    <message>
+        <source>Only layouts of your own can be deleted.</source>
+        <translation>Solo se pueden eliminar las disposiciones propias.</translation>
+    </message>
+    <message>
+        <source>%1 could not be deleted. %2</source>
+        <translation>No se pudo eliminar %1. %2</translation>
+    </message>
+    <message>
+        <source>Not every photo fits on this paper. Choose a smaller size.</source>
+        <translation>No todas las fotos caben en este papel. Elija un tamaño más pequeño.</translation>
+    </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>Todas las fotos están omitidas. Incluya al menos una.</translation>
+    </message>
+</context>
+<context>
+    <name>ListJobs</name>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>El trabajo %1 se canceló.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held.</source>
+        <translation>El trabajo %1 está retenido.</translation>
+    </message>
+    <message>
+        <source>Job %1 was released.</source>
+        <translation>El trabajo %1 se liberó.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed again.</source>
+        <translation>El trabajo %1 se imprime de nuevo.</translation>
+    </message>
+    <message>
+        <source>Job %1 has what the printer asks for.</source>
+        <translation>El trabajo %1 tiene lo que pide la impresora.</translation>
+    </message>
+    <message>
+        <source>Job %1 was moved to &quot;%2&quot;.</source>
+        <translation>El trabajo %1 se movió a «%2».</translation>
+    </message>
+    <message>
+        <source>You have no job %1 on the print server. --jobs --ended lists yours.</source>
+        <translation>No tiene ningún trabajo %1 en el servidor de impresión. --jobs --ended muestra los suyos.</translation>
+    </message>
+    <message>
+        <source>You have no jobs there.</source>
+        <translation>No tiene ningún trabajo allí.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+</context>
+<context>
     <name>ListPapers</name>
     <message>
         <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
@@ -858,6 +1359,52 @@
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (predeterminado: %2) «%3»: %4</translation>
+    </message>
+</context>
+<context>
+    <name>LocalQueue</name>
+    <message>
+        <source>The printer &quot;%1&quot; was found on the network, but the print server cannot use it: %2</source>
+        <translation>La impresora «%1» se encontró en la red, pero el servidor de impresión no puede usarla: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LoginWords</name>
+    <message>
+        <source>The print server at %1 wants to know who you are.</source>
+        <translation>El servidor de impresión %1 quiere saber quién es usted.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password of its own; the print server at %2 hands them on to it.</source>
+        <translation>La impresora «%1» pide un nombre y una contraseña propios; el servidor de impresión %2 se los transmite.</translation>
+    </message>
+    <message>
+        <source>That name or password was wrong.</source>
+        <translation>Ese nombre o esa contraseña no eran correctos.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is not encrypted: others could read the password on its way.</source>
+        <translation>La conexión con %1 no está cifrada: otros podrían leer la contraseña por el camino.</translation>
+    </message>
+    <message>
+        <source>It shows none.</source>
+        <translation>No muestra ninguno.</translation>
+    </message>
+    <message>
+        <source>It shows now: %1</source>
+        <translation>Ahora muestra: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot prove who it is, and was never seen before.</source>
+        <translation>El servidor de impresión %1 no puede demostrar quién es y no se había visto nunca.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 has another certificate than before. It may have been renewed, or somebody else may be answering in its place.</source>
+        <translation>El servidor de impresión %1 tiene otro certificado que antes. Puede que se haya renovado, o que otro esté respondiendo en su lugar.</translation>
+    </message>
+    <message>
+        <source>It had: %1</source>
+        <translation>Tenía: %1</translation>
     </message>
 </context>
 <context>
@@ -1066,6 +1613,10 @@
     <message>
         <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
         <translation>«%1» es una carpeta sin fotos. Indique una que contenga fotos, o fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an HDR picture, which is brighter than paper can be. Export it as JPEG without HDR from your photo program and print that.</source>
+        <translation>«%1» es una imagen HDR, más luminosa de lo que puede ser el papel. Expórtela como JPEG sin HDR desde su programa de fotos e imprima ese archivo.</translation>
     </message>
 </context>
 <context>
@@ -1331,6 +1882,25 @@
     </message>
 </context>
 <context>
+    <name>PrinterActions</name>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>Rea&amp;nudar</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Jobs</source>
+        <translation>Aceptar traba&amp;jos</translation>
+    </message>
+    <message>
+        <source>Re&amp;lease</source>
+        <translation>&amp;Liberar</translation>
+    </message>
+    <message>
+        <source>The print server does not let you do that with &quot;%1&quot;. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite hacer eso con «%1». Pregunte a quien lo administra.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1372,16 +1942,39 @@
         <source>The print server has no default printer. Name one with --printer.</source>
         <translation>El servidor de impresión no tiene impresora predeterminada. Indique una con --printer.</translation>
     </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>La impresora no responde</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReport</name>
+    <message>
+        <source>The printer&apos;s answer about itself is too long to be true, and was not read.</source>
+        <translation>La respuesta de la impresora sobre sí misma es demasiado larga para ser cierta y no se leyó.</translation>
+    </message>
+    <message>
+        <source>The printer does not tell strangers what is in it.</source>
+        <translation>La impresora no dice a desconocidos lo que contiene.</translation>
+    </message>
+    <message>
+        <source>The printer does not answer. Is it switched on, and in this network?</source>
+        <translation>La impresora no responde. ¿Está encendida y en esta red?</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is in it.</source>
+        <translation>La impresora no dice lo que contiene.</translation>
+    </message>
 </context>
 <context>
     <name>QueuePpd</name>
     <message>
-        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>La impresora «%1» no tiene descripción en el servidor. Instálela con un controlador o elija otra.</translation>
-    </message>
-    <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>La descripción de la impresora «%1» está dañada: %2. Reinstale su controlador o elija otra impresora.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server, and does not tell by itself what it can do. Install it with a driver, or choose another printer.</source>
+        <translation>La impresora «%1» no tiene descripción en el servidor y no indica por sí misma lo que puede hacer. Instálela con un controlador o elija otra.</translation>
     </message>
 </context>
 <context>
@@ -1393,6 +1986,44 @@
     <message>
         <source>Shows the pages as the application has made them, before they go to the printer</source>
         <translation>Muestra las páginas tal como las hizo la aplicación, antes de que vayan a la impresora</translation>
+    </message>
+</context>
+<context>
+    <name>SecretStore</name>
+    <message>
+        <source>Printing on %1</source>
+        <translation>Impresión en %1</translation>
+    </message>
+</context>
+<context>
+    <name>SheetWords</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 hoja</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 hojas</translation>
+    </message>
+    <message>
+        <source>photos in %1 × %2 mm</source>
+        <translation>fotos de %1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>with captions</source>
+        <translation>con pies de foto</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>con guías de corte</translation>
+    </message>
+    <message>
+        <source>white border %1 mm</source>
+        <translation>borde blanco de %1 mm</translation>
+    </message>
+    <message>
+        <source>Sheet %1: %2, %3 x %4 mm at %5, %6 mm</source>
+        <translation>Hoja %1: %2, %3 x %4 mm en %5, %6 mm</translation>
     </message>
 </context>
 <context>
@@ -1488,6 +2119,190 @@
         <source>needs attention</source>
         <translation>necesita atención</translation>
     </message>
+    <message>
+        <source>Load paper.</source>
+        <translation>Cargue papel.</translation>
+    </message>
+    <message>
+        <source>Load the paper that the job wants.</source>
+        <translation>Cargue el papel que pide el trabajo.</translation>
+    </message>
+    <message>
+        <source>Load paper soon.</source>
+        <translation>Cargue papel pronto.</translation>
+    </message>
+    <message>
+        <source>Take the jammed paper out.</source>
+        <translation>Saque el papel atascado.</translation>
+    </message>
+    <message>
+        <source>a paper tray is missing</source>
+        <translation>falta una bandeja de papel</translation>
+    </message>
+    <message>
+        <source>Push the paper tray in.</source>
+        <translation>Introduzca la bandeja de papel.</translation>
+    </message>
+    <message>
+        <source>the output tray is missing</source>
+        <translation>falta la bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Put the output tray in.</source>
+        <translation>Coloque la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>Empty the output tray.</source>
+        <translation>Vacíe la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>the output tray is nearly full</source>
+        <translation>la bandeja de salida está casi llena</translation>
+    </message>
+    <message>
+        <source>Empty the output tray soon.</source>
+        <translation>Vacíe pronto la bandeja de salida.</translation>
+    </message>
+    <message>
+        <source>Close the printer&apos;s door; the job goes on then.</source>
+        <translation>Cierre la puerta de la impresora; el trabajo continuará.</translation>
+    </message>
+    <message>
+        <source>Close the cover; the job goes on then.</source>
+        <translation>Cierre la tapa; el trabajo continuará.</translation>
+    </message>
+    <message>
+        <source>something is open</source>
+        <translation>hay algo abierto</translation>
+    </message>
+    <message>
+        <source>Close what is open; the job goes on then.</source>
+        <translation>Cierre lo que esté abierto; el trabajo continuará.</translation>
+    </message>
+    <message>
+        <source>Switch the printer on and look at its cable or network.</source>
+        <translation>Encienda la impresora y compruebe su cable o su red.</translation>
+    </message>
+    <message>
+        <source>Resume it, or ask whoever has paused it.</source>
+        <translation>Reanúdela o pregunte a quien la ha pausado.</translation>
+    </message>
+    <message>
+        <source>holds new jobs</source>
+        <translation>retiene los trabajos nuevos</translation>
+    </message>
+    <message>
+        <source>Release it, and new jobs are printed.</source>
+        <translation>Libérela y se imprimirán los trabajos nuevos.</translation>
+    </message>
+    <message>
+        <source>Switch the printer on.</source>
+        <translation>Encienda la impresora.</translation>
+    </message>
+    <message>
+        <source>Have new toner at hand.</source>
+        <translation>Tenga a mano tóner nuevo.</translation>
+    </message>
+    <message>
+        <source>Put new toner in.</source>
+        <translation>Ponga tóner nuevo.</translation>
+    </message>
+    <message>
+        <source>Have new ink at hand.</source>
+        <translation>Tenga a mano tinta nueva.</translation>
+    </message>
+    <message>
+        <source>Put new ink in.</source>
+        <translation>Ponga tinta nueva.</translation>
+    </message>
+    <message>
+        <source>an ink cartridge is missing</source>
+        <translation>falta un cartucho de tinta</translation>
+    </message>
+    <message>
+        <source>Put the missing cartridge in.</source>
+        <translation>Ponga el cartucho que falta.</translation>
+    </message>
+    <message>
+        <source>Have a new waste tank at hand.</source>
+        <translation>Tenga a mano un depósito de residuos nuevo.</translation>
+    </message>
+    <message>
+        <source>Put a new waste tank in.</source>
+        <translation>Ponga un depósito de residuos nuevo.</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>demasiado caliente</translation>
+    </message>
+    <message>
+        <source>Let the printer cool down.</source>
+        <translation>Deje que la impresora se enfríe.</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>calentando</translation>
+    </message>
+    <message>
+        <source>the drum is nearly worn out</source>
+        <translation>el tambor está casi gastado</translation>
+    </message>
+    <message>
+        <source>Have a new drum at hand.</source>
+        <translation>Tenga a mano un tambor nuevo.</translation>
+    </message>
+    <message>
+        <source>the drum is worn out</source>
+        <translation>el tambor está gastado</translation>
+    </message>
+    <message>
+        <source>Put a new drum in.</source>
+        <translation>Ponga un tambor nuevo.</translation>
+    </message>
+    <message>
+        <source>developer is low</source>
+        <translation>queda poco revelador</translation>
+    </message>
+    <message>
+        <source>Have new developer at hand.</source>
+        <translation>Tenga a mano revelador nuevo.</translation>
+    </message>
+    <message>
+        <source>out of developer</source>
+        <translation>sin revelador</translation>
+    </message>
+    <message>
+        <source>Put new developer in.</source>
+        <translation>Ponga revelador nuevo.</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>limpiando</translation>
+    </message>
+    <message>
+        <source>no room for more jobs</source>
+        <translation>no hay sitio para más trabajos</translation>
+    </message>
+    <message>
+        <source>Wait until jobs are printed, or cancel some.</source>
+        <translation>Espere a que se impriman trabajos o cancele algunos.</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>deteniéndose</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver.</source>
+        <translation>Instale el controlador de la impresora.</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver anew.</source>
+        <translation>Reinstale el controlador de la impresora.</translation>
+    </message>
+    <message>
+        <source>Look at the printer&apos;s own display.</source>
+        <translation>Mire la pantalla de la propia impresora.</translation>
+    </message>
 </context>
 <context>
     <name>Stepper</name>
@@ -1498,6 +2313,416 @@
     <message>
         <source>Decrease</source>
         <translation>Reducir</translation>
+    </message>
+</context>
+<context>
+    <name>Supply</name>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>Photo black</source>
+        <translation>Negro foto</translation>
+    </message>
+    <message>
+        <source>Matte black</source>
+        <translation>Negro mate</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>Gris claro</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cian</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Cian claro</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Magenta claro</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Naranja</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Waste tank</source>
+        <translation>Depósito de residuos</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinta</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Consumible</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>lleno</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, nearly full</source>
+        <translation>%1, casi lleno</translation>
+    </message>
+    <message>
+        <source>%1 full</source>
+        <translation>%1 lleno</translation>
+    </message>
+    <message>
+        <source>%1, low</source>
+        <translation>%1, queda poco</translation>
+    </message>
+    <message>
+        <source>%1 is full</source>
+        <translation>%1: lleno</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1: vacío</translation>
+    </message>
+    <message>
+        <source>%1 is nearly full (%2)</source>
+        <translation>%1: casi lleno (%2)</translation>
+    </message>
+    <message>
+        <source>%1 is low (%2)</source>
+        <translation>%1: queda poco (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalQuestions</name>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>Send it all the same? [y/N]</source>
+        <translation>¿Enviar de todos modos? [sí/N]</translation>
+    </message>
+    <message>
+        <source>Name [%1]:</source>
+        <translation>Nombre [%1]:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>Trust it from now on? [y/N]</source>
+        <translation>¿Confiar a partir de ahora? [sí/N]</translation>
+    </message>
+</context>
+<context>
+    <name>TrayWords</name>
+    <message>
+        <source>Main tray</source>
+        <translation>Bandeja principal</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bandeja fotográfica</translation>
+    </message>
+    <message>
+        <source>Second tray</source>
+        <translation>Segunda bandeja</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Bandeja superior</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bandeja central</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Bandeja inferior</translation>
+    </message>
+    <message>
+        <source>Rear feed</source>
+        <translation>Alimentación trasera</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bandeja lateral</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentación manual</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Bandeja auxiliar</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>Bandeja de gran capacidad</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>Alimentación de sobres</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Bandeja de discos</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rollo</translation>
+    </message>
+    <message>
+        <source>Second roll</source>
+        <translation>Segundo rollo</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Papel normal</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>Papel fino</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>Papel grueso</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Papel para inyección de tinta</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Papel estucado</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Papel con membrete</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Papel de calidad</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papel fotográfico</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papel fotográfico brillante</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papel fotográfico de alto brillo</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papel fotográfico semibrillante</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papel fotográfico satinado</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papel fotográfico mate</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Película fotográfica</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Cartulina</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>Sobres</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>Transparencias</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Discos</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Bandeja %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rollo %1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Bandeja</translation>
+    </message>
+</context>
+<context>
+    <name>TraysInWords</name>
+    <message>
+        <source>%1 mm wide</source>
+        <translation>%1 mm de ancho</translation>
+    </message>
+    <message>
+        <source>%1 in wide</source>
+        <translation>%1 pulg. de ancho</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in the tray</source>
+        <translation>no está cargado: necesita %1 en la bandeja</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in &quot;%2&quot;</source>
+        <translation>no está cargado: necesita %1 en «%2»</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not in &quot;%2&quot;, but in &quot;%3&quot;.</source>
+        <translation>El tamaño de papel «%1» no está en «%2», sino en «%3».</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
+        <translation>El tamaño de papel «%1» no está cargado. En «%3» hay «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>UserJobs</name>
+    <message>
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>Waiting: the printer is paused</source>
+        <translation>En espera: la impresora está en pausa</translation>
+    </message>
+    <message>
+        <source>Held: the printer wants a name and a password</source>
+        <translation>Retenido: la impresora pide un nombre y una contraseña</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>Retenido</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Impreso</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>The print server does not let you cancel job %1. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite cancelar el trabajo %1. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you hold job %1. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite retener el trabajo %1. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release job %1. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite liberar el trabajo %1. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print job %1 again. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite imprimir de nuevo el trabajo %1. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you sign in for job %1. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite identificarse para el trabajo %1. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you move job %1 to another printer. Ask whoever looks after it.</source>
+        <translation>El servidor de impresión no le permite mover el trabajo %1 a otra impresora. Pregunte a quien lo administra.</translation>
+    </message>
+    <message>
+        <source>Job %1 or the printer &quot;%2&quot; is not on the print server any more.</source>
+        <translation>El trabajo %1 o la impresora «%2» ya no está en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Job %1 is not on the print server any more.</source>
+        <translation>El trabajo %1 ya no está en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>That cannot be done with job %1 as it is now: it may have gone on or ended, or the print server has not kept its pages.</source>
+        <translation>Eso no se puede hacer con el trabajo %1 tal como está: puede que haya continuado o terminado, o que el servidor de impresión no haya conservado sus páginas.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::AccessDialogs</name>
+    <message>
+        <source>Trust this print server?</source>
+        <translation>¿Confiar en este servidor de impresión?</translation>
+    </message>
+    <message>
+        <source>&amp;Trust It from Now On</source>
+        <translation>&amp;Confiar a partir de ahora</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +2759,10 @@
         <source>None of the files can be printed.</source>
         <translation>No se puede imprimir ninguno de los archivos.</translation>
     </message>
+    <message>
+        <source>Stopped, but the print server does not answer: a part of the job may still be on the queue &quot;%1&quot;. Look at it before you print again.</source>
+        <translation>Detenido, pero el servidor de impresión no responde: puede que una parte del trabajo siga en la cola «%1». Mírela antes de volver a imprimir.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::ChoiceList</name>
@@ -1549,28 +2778,8 @@
         <translation>Compensar el punto negro</translation>
     </message>
     <message>
-        <source>The printer manages colours</source>
-        <translation>La impresora gestiona los colores</translation>
-    </message>
-    <message>
-        <source>This program manages colours</source>
-        <translation>Este programa gestiona los colores</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Colores</translation>
-    </message>
-    <message>
-        <source>Colour profile</source>
-        <translation>Perfil de color</translation>
-    </message>
-    <message>
         <source>Rendering intent</source>
         <translation>Propósito de representación</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show</source>
-        <translation>Qué se hace con los colores que la impresora no puede reproducir</translation>
     </message>
     <message>
         <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
@@ -1589,11 +2798,55 @@
         <translation>Otro archivo...</translation>
     </message>
     <message>
-        <source>Choose a Colour Profile</source>
+        <source>So&amp;ft proof</source>
+        <translation>Pr&amp;ueba en pantalla</translation>
+    </message>
+    <message>
+        <source>Paper white</source>
+        <translation>Blanco del papel</translation>
+    </message>
+    <message>
+        <source>Gamut warning</source>
+        <translation>Aviso de gama</translation>
+    </message>
+    <message>
+        <source>The printer manages colors</source>
+        <translation>La impresora gestiona los colores</translation>
+    </message>
+    <message>
+        <source>This program manages colors</source>
+        <translation>Este programa gestiona los colores</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>Perfil de color</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show</source>
+        <translation>Qué se hace con los colores que la impresora no puede reproducir</translation>
+    </message>
+    <message>
+        <source>The preview shows the paper&apos;s own white and the deepest black on it</source>
+        <translation>La vista previa muestra el blanco del papel y el negro más profundo sobre él</translation>
+    </message>
+    <message>
+        <source>The preview paints over in pink what the printer cannot show</source>
+        <translation>La vista previa cubre de rosa lo que la impresora no puede reproducir</translation>
+    </message>
+    <message>
+        <source>The preview shows what the photo will look like on paper</source>
+        <translation>La vista previa muestra cómo se verá la foto en papel</translation>
+    </message>
+    <message>
+        <source>Choose a Color Profile</source>
         <translation>Elegir un perfil de color</translation>
     </message>
     <message>
-        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <source>Color profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
         <translation>Perfiles de color (*.icc *.icm *.ICC *.ICM);;Todos los archivos (*)</translation>
     </message>
 </context>
@@ -1693,6 +2946,14 @@
         <source>There is no photo to print. Open the dialog with one.</source>
         <translation>No hay ninguna foto que imprimir. Abra el diálogo con una.</translation>
     </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>Todas las fotos están omitidas. Incluya al menos una.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
+        <translation>«%1» tiene ahora otro papel y la página se adapta: %2, %3.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DocumentSpool</name>
@@ -1707,6 +2968,14 @@
     <message>
         <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
         <translation>No se puede crear un archivo para el documento en «%1». Compruebe que tiene permiso de escritura allí e imprímalo otra vez.</translation>
+    </message>
+    <message>
+        <source>The application has gone before its document was whole. Print it once more.</source>
+        <translation>La aplicación se cerró antes de que su documento llegara entero. Imprímalo otra vez.</translation>
+    </message>
+    <message>
+        <source>The computer is too busy to take the document. Close something, and print it once more.</source>
+        <translation>El equipo está demasiado ocupado para recibir el documento. Cierre algo e imprímalo otra vez.</translation>
     </message>
 </context>
 <context>
@@ -1821,6 +3090,118 @@
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
         <translation>Las páginas antes y después del trabajo se eligen en la página «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobRows</name>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsButton</name>
+    <message>
+        <source>Jobs...</source>
+        <translation>Trabajos...</translation>
+    </message>
+    <message>
+        <source>Your jobs on this printer</source>
+        <translation>Sus trabajos en esta impresora</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsWindow</name>
+    <message>
+        <source>Show jobs that have ended</source>
+        <translation>Mostrar los trabajos terminados</translation>
+    </message>
+    <message>
+        <source>Your Jobs on %1</source>
+        <translation>Sus trabajos en %1</translation>
+    </message>
+    <message>
+        <source>Your jobs</source>
+        <translation>Sus trabajos</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabajo</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Retener</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Liberar</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Imprimir de nuevo</translation>
+    </message>
+    <message>
+        <source>Sign In...</source>
+        <translation>Identificarse...</translation>
+    </message>
+    <message>
+        <source>Move To</source>
+        <translation>Mover a</translation>
+    </message>
+    <message>
+        <source>Asking the print server...</source>
+        <translation>Preguntando al servidor de impresión...</translation>
+    </message>
+    <message>
+        <source>You have no jobs on this printer.</source>
+        <translation>No tiene trabajos en esta impresora.</translation>
+    </message>
+    <message>
+        <source>The print server has no other printer</source>
+        <translation>El servidor de impresión no tiene otra impresora</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::LoginDialog</name>
+    <message>
+        <source>Send it &amp;all the same</source>
+        <translation>&amp;Enviar de todos modos</translation>
+    </message>
+    <message>
+        <source>&amp;Remember it in the keyring</source>
+        <translation>&amp;Recordar en el llavero</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Identificarse</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>C&amp;ontraseña:</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>&amp;Identificarse</translation>
     </message>
 </context>
 <context>
@@ -2007,6 +3388,10 @@
         <source>%1 is one of the files to print. Choose another name.</source>
         <translation>%1 es uno de los archivos que imprimir. Elija otro nombre.</translation>
     </message>
+    <message>
+        <source>That folder goes when this window is closed. Choose another one.</source>
+        <translation>Esa carpeta desaparece al cerrar esta ventana. Elija otra.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2089,6 +3474,10 @@
         <source>About the Photo</source>
         <translation>Sobre la foto</translation>
     </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2161,7 +3550,11 @@
         <translation>&amp;Escala:</translation>
     </message>
     <message>
-        <source>Co&amp;lours:</source>
+        <source>Loaded:</source>
+        <translation>Cargado:</translation>
+    </message>
+    <message>
+        <source>Co&amp;lors:</source>
         <translation>Colore&amp;s:</translation>
     </message>
 </context>
@@ -2198,6 +3591,10 @@
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>Se escribieron %1 páginas en «%2».</translation>
     </message>
+    <message>
+        <source>The computer is too busy to write the file. Close something and try again.</source>
+        <translation>El equipo está demasiado ocupado para escribir el archivo. Cierre algo e inténtelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PhotoAdding</name>
@@ -2224,6 +3621,13 @@
     <message>
         <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>La imagen no se puede guardar en un archivo temporal. Libere espacio en el disco.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoLoader</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
+        <translation>«%1» no se puede leer ahora: el equipo está demasiado ocupado. Cierre algo y ábralo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -2315,6 +3719,14 @@
     <message>
         <source>Rating:</source>
         <translation>Valoración:</translation>
+    </message>
+    <message>
+        <source>CMYK without a profile; taken as ideal inks</source>
+        <translation>CMYK sin perfil; se toma como tintas ideales</translation>
+    </message>
+    <message>
+        <source>Gray without a profile; taken as sRGB</source>
+        <translation>Gris sin perfil; se toma como sRGB</translation>
     </message>
 </context>
 <context>
@@ -2715,6 +4127,10 @@
         <source>The application makes its pages afterwards, for this sheet.</source>
         <translation>La aplicación hace sus páginas después, para esta hoja.</translation>
     </message>
+    <message>
+        <source>Sign &amp;In...</source>
+        <translation>Identi&amp;ficarse...</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -2746,6 +4162,21 @@
         <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
         <translation>Se imprimieron %1 fotos en %2 trabajos, del %3 al %4.</translation>
     </message>
+    <message>
+        <source>The computer is too busy to send it. Close something and try again.</source>
+        <translation>El equipo está demasiado ocupado para enviarlo. Cierre algo e inténtelo de nuevo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled when %n job(s) had been printed already.</source>
+        <translation>
+            <numerusform>Cancelado cuando ya se había impreso %n trabajo.</numerusform>
+            <numerusform>Cancelado cuando ya se habían impreso %n trabajos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
+        <translation>Detenido. Estos trabajos están en la cola «%1» y siguen allí: %2.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintService</name>
@@ -2767,6 +4198,57 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>La aplicación recuerda una impresora «%1» que el servidor de impresión no tiene. En su lugar se eligió «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterPage</name>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Qué hacer:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Desde:</translation>
+    </message>
+    <message>
+        <source>Jobs ahead:</source>
+        <translation>Trabajos por delante:</translation>
+    </message>
+    <message>
+        <source>Printers in it:</source>
+        <translation>Impresoras que incluye:</translation>
+    </message>
+    <message>
+        <source>Supplies:</source>
+        <translation>Consumibles:</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not on the print server</source>
+        <translation>no está en el servidor de impresión</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it yet.</source>
+        <translation>Aún no se sabe nada de ella.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>The printer tells more of itself than can be shown here.</source>
+        <translation>La impresora dice de sí misma más de lo que se puede mostrar aquí.</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is left of its ink or toner.</source>
+        <translation>La impresora no dice cuánta tinta o tóner le queda.</translation>
     </message>
 </context>
 <context>
@@ -2820,6 +4302,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>Aquí nada se llama «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SentJob</name>
+    <message>
+        <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
+        <translation>El documento no se imprimió: la sesión terminó antes de que el servidor de impresión lo tuviera entero. Imprímalo otra vez.</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +4395,20 @@
     <message>
         <source>%1 more are in the list of all other settings.</source>
         <translation>Hay %1 más en la lista de todos los demás ajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SupplyBars</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::TrayRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

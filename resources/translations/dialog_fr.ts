@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>AuthInfo</name>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password, and was given none. Print again and sign in, or ask whoever looks after it.</source>
+        <translation>L’imprimante « %1 » demande un nom et un mot de passe et ne les a pas reçus. Imprimez à nouveau et connectez-vous, ou adressez-vous à la personne qui la gère.</translation>
+    </message>
+</context>
+<context>
     <name>BackLines</name>
     <message>
         <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
@@ -25,6 +32,49 @@
     <message>
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>La ligne %1 du dos dépasse %2 caractères ; la suite a été omise (%3).</translation>
+    </message>
+</context>
+<context>
+    <name>Caption</name>
+    <message>
+        <source>File name</source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Year (4 digits)</source>
+        <translation>Année (4 chiffres)</translation>
+    </message>
+    <message>
+        <source>Year (2 digits)</source>
+        <translation>Année (2 chiffres)</translation>
+    </message>
+    <message>
+        <source>Month (2 digits)</source>
+        <translation>Mois (2 chiffres)</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>Day (2 digits)</source>
+        <translation>Jour (2 chiffres)</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
     </message>
 </context>
 <context>
@@ -46,40 +96,64 @@
         <translation>Colorimétrique absolu</translation>
     </message>
     <message>
-        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
-        <translation>Le profil de couleurs « %1 » ne peut pas être lu. Choisissez-en un autre ou laissez l’imprimante gérer les couleurs.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
-        <translation>« %1 » n’est pas un profil de couleurs d’imprimante. Choisissez-en un autre ou laissez l’imprimante gérer les couleurs.</translation>
-    </message>
-    <message>
-        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
-        <translation>Aucun profil de couleurs n’est connu pour cette imprimante. Choisissez-en un ou laissez l’imprimante gérer les couleurs.</translation>
-    </message>
-    <message>
-        <source>colours for &quot;%1&quot;</source>
-        <translation>couleurs pour « %1 »</translation>
-    </message>
-    <message>
-        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
-        <translation>L’imprimante convertit les couleurs : chaque photo lui est envoyée en sRGB.</translation>
-    </message>
-    <message>
-        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
-        <translation>Ce programme convertit les couleurs, de celles de chaque photo vers « %1 ».</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
     </message>
     <message>
-        <source>See that the printer&apos;s own colour correction is off.</source>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>L’imprimante reçoit l’ordre de ne pas les convertir à nouveau (%1).</translation>
+    </message>
+    <message>
+        <source>No color profile of this printer is known. Choose one, or let the printer manage colors.</source>
+        <translation>Aucun profil de couleurs n’est connu pour cette imprimante. Choisissez-en un ou laissez l’imprimante gérer les couleurs.</translation>
+    </message>
+    <message>
+        <source>colors for &quot;%1&quot;</source>
+        <translation>couleurs pour « %1 »</translation>
+    </message>
+    <message>
+        <source>The printer converts the colors: each photo goes to it in %1. No soft proof: only the printer knows what it makes of them.</source>
+        <translation>L’imprimante convertit les couleurs : chaque photo lui est envoyée en %1. Pas d’épreuvage écran : seule l’imprimante sait ce qu’elle en fait.</translation>
+    </message>
+    <message>
+        <source>This program converts the colors, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>Ce programme convertit les couleurs, de celles de chaque photo vers « %1 ».</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own color correction is off.</source>
         <translation>Vérifiez que la correction des couleurs propre à l’imprimante est désactivée.</translation>
     </message>
     <message>
-        <source>The printer is told not to convert them again (%1).</source>
-        <translation>L’imprimante reçoit l’ordre de ne pas les convertir à nouveau (%1).</translation>
+        <source>Only the printer knows what it makes of the colors. Let this program manage them, for a profile, to see a soft proof.</source>
+        <translation>Seule l’imprimante sait ce qu’elle fait des couleurs. Laissez ce programme les gérer, pour un profil, si vous voulez un épreuvage écran.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say what its colors look like: with it there is no soft proof.</source>
+        <translation>« %1 » n’indique pas l’aspect de ses couleurs : il ne permet pas d’épreuvage écran.</translation>
+    </message>
+    <message>
+        <source>Soft proof with paper white</source>
+        <translation>Épreuvage écran avec blanc du papier</translation>
+    </message>
+    <message>
+        <source>Soft proof</source>
+        <translation>Épreuvage écran</translation>
+    </message>
+    <message>
+        <source>pink cannot be printed</source>
+        <translation>le rose n’est pas imprimable</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; is being read. Wait a moment.</source>
+        <translation>Lecture du profil de couleurs « %1 » en cours. Attendez un moment.</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colors.</source>
+        <translation>Le profil de couleurs « %1 » ne peut pas être lu. Choisissez-en un autre ou laissez l’imprimante gérer les couleurs.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no color profile of a printer. Choose another one, or let the printer manage colors.</source>
+        <translation>« %1 » n’est pas un profil de couleurs d’imprimante. Choisissez-en un autre ou laissez l’imprimante gérer les couleurs.</translation>
     </message>
 </context>
 <context>
@@ -197,10 +271,6 @@
         <translation>Afficher les noms des préréglages de l’imprimante, un par ligne.</translation>
     </message>
     <message>
-        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation>Avec --list-printers, --list-options ou --list-presets : écrire du JSON, avec plus de détails.</translation>
-    </message>
-    <message>
         <source>The name of the file to write is empty.</source>
         <translation>Le nom du fichier à écrire est vide.</translation>
     </message>
@@ -211,10 +281,6 @@
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
         <translation>--verify s’emploie avec --no-dialog, et jamais quand aucune tâche n’est envoyée.</translation>
-    </message>
-    <message>
-        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation>--json s’emploie avec --list-printers, --list-options ou --list-presets.</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
@@ -229,30 +295,8 @@
         <translation>« %1 » n’est pas un nom de préréglage : écrivez de 1 à %2 caractères.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation>Code de sortie :
-  0  Imprimé, ou ce qui était demandé a été écrit.
-  1  Échec ; la sortie d’erreur dit pourquoi.
-  2  Mauvais usage.
-  3  La tâche est dans la file et n’était pas encore terminée.
-  4  Annulé : rien n’a été imprimé.
-  5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue n’est pas connue.
-  6  Avec --verify : imprimé, mais le serveur d’impression ne détient pas la tâche telle qu’elle a été envoyée.</translation>
-    </message>
-    <message>
         <source>Turn the page: portrait or landscape; without it, as the photo.</source>
         <translation>Orientation de la page : portrait ou landscape ; sinon, comme la photo.</translation>
-    </message>
-    <message>
-        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
-        <translation>Position de la photo là où il reste de la place ou là où l’on coupe : 0,0 est en haut à gauche, 1,1 en bas à droite. Peut être répété, pour une photo après l’autre.</translation>
     </message>
     <message>
         <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
@@ -307,32 +351,140 @@
         <translation>L’entrée standard ne peut pas être conservée dans un fichier temporaire. Libérez de la place sur le disque.</translation>
     </message>
     <message>
-        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
-        <translation>Qui convertit les couleurs des photos : printer (l’imprimante, qui reçoit du sRGB) ou dialog (le dialogue, pour un profil de couleurs de l’imprimante).</translation>
-    </message>
-    <message>
-        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
-        <translation>Convertir les couleurs pour ce profil ICC de l’imprimante ; sinon, pour celui qui est fourni avec l’imprimante.</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
-        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas rendre : perceptual, relative, saturation ou absolute ; sinon, perceptual.</translation>
-    </message>
-    <message>
-        <source>Convert the colours without black point compensation.</source>
-        <translation>Convertir les couleurs sans compensation du point noir.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
-        <translation>« %1 » ne convertit pas les couleurs : écrivez printer ou dialog.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
         <translation>« %1 » n’est pas un mode de rendu : écrivez perceptual, relative, saturation ou absolute.</translation>
     </message>
     <message>
-        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
-        <translation>--profile, --intent et --no-black-point s’emploient avec --colour-by dialog.</translation>
+        <source>Use this print server; without it, CUPS_SERVER, client.conf or this computer&apos;s.</source>
+        <translation>Utiliser ce serveur d’impression ; sinon CUPS_SERVER, client.conf ou celui de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colors: printer, which is given sRGB, or dialog, for a color profile of the printer.</source>
+        <translation>Qui convertit les couleurs des photos : printer (l’imprimante, qui reçoit du sRGB) ou dialog (le dialogue, pour un profil de couleurs de l’imprimante).</translation>
+    </message>
+    <message>
+        <source>Convert the colors for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>Convertir les couleurs pour ce profil ICC de l’imprimante ; sinon, pour celui qui est fourni avec l’imprimante.</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas rendre : perceptual, relative, saturation ou absolute ; sinon, perceptual.</translation>
+    </message>
+    <message>
+        <source>Convert the colors without black point compensation.</source>
+        <translation>Convertir les couleurs sans compensation du point noir.</translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options, --list-presets or --jobs: write JSON, with more details.</source>
+        <translation>Avec --list-printers, --list-options, --list-presets ou --jobs : écrire du JSON, avec plus de détails.</translation>
+    </message>
+    <message>
+        <source>Write your jobs that have not ended, on the queue of --printer or on all, a line each.</source>
+        <translation>Afficher vos tâches non terminées, sur la file de --printer ou sur toutes, une par ligne.</translation>
+    </message>
+    <message>
+        <source>With --jobs: those that have ended, too.</source>
+        <translation>Avec --jobs : aussi celles qui sont terminées.</translation>
+    </message>
+    <message>
+        <source>With --jobs: cancel this job.</source>
+        <translation>Avec --jobs : annuler cette tâche.</translation>
+    </message>
+    <message>
+        <source>With --jobs: hold this job.</source>
+        <translation>Avec --jobs : retenir cette tâche.</translation>
+    </message>
+    <message>
+        <source>With --jobs: let this held job go on.</source>
+        <translation>Avec --jobs : libérer cette tâche retenue.</translation>
+    </message>
+    <message>
+        <source>With --jobs: print this job again, if the print server has kept its pages.</source>
+        <translation>Avec --jobs : réimprimer cette tâche, si le serveur d’impression a conservé ses pages.</translation>
+    </message>
+    <message>
+        <source>With --jobs: give the printer the name and the password for which it holds this job.</source>
+        <translation>Avec --jobs : donner à l’imprimante le nom et le mot de passe pour lesquels elle retient cette tâche.</translation>
+    </message>
+    <message>
+        <source>With --jobs: move this job to another queue; --to says which.</source>
+        <translation>Avec --jobs : déplacer cette tâche vers une autre file ; --to dit laquelle.</translation>
+    </message>
+    <message>
+        <source>With --jobs --move: the queue to move the job to.</source>
+        <translation>Avec --jobs --move : la file vers laquelle la tâche est déplacée.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server: write its name or address, and a port where it is not 631, for example print.example.org:8631.</source>
+        <translation>« %1 » n’est pas un serveur d’impression : écrivez son nom ou son adresse, et un port si ce n’est pas 631, par exemple print.example.org:8631.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colors: write printer or dialog.</source>
+        <translation>« %1 » ne convertit pas les couleurs : écrivez printer ou dialog.</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --color-by dialog.</source>
+        <translation>--profile, --intent et --no-black-point s’emploient avec --color-by dialog.</translation>
+    </message>
+    <message>
+        <source>--ended, --cancel, --hold, --release, --again, --sign-in, --move and --to go with --jobs.</source>
+        <translation>--ended, --cancel, --hold, --release, --again, --sign-in, --move et --to s’emploient avec --jobs.</translation>
+    </message>
+    <message>
+        <source>Do one thing at a time: give one of --cancel, --hold, --release, --again and --sign-in, or --move and --to together.</source>
+        <translation>Une chose à la fois : donnez --cancel, --hold, --release, --again ou --sign-in, ou bien --move et --to ensemble.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job: write its number, as --jobs lists it.</source>
+        <translation>« %1 » n’est pas une tâche : écrivez son numéro, tel que --jobs l’affiche.</translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options, --list-presets or --jobs.</source>
+        <translation>--json s’emploie avec --list-printers, --list-options, --list-presets ou --jobs.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>Code de sortie :
+  0  Imprimé, ou ce qui était demandé a été écrit.
+  1  Échec ; la sortie d’erreur dit pourquoi.
+  2  Mauvais usage.
+  3  La tâche est dans la file et n’était pas encore terminée.
+  4  Annulé : rien n’a été imprimé.
+  5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue n’est pas connue.
+  6  Avec --verify : imprimé, mais le serveur d’impression ne détient pas la tâche telle qu’elle a été envoyée.
+  7  Un serveur d’impression ou une imprimante demande un nom et un mot de passe, et n’a pas reçu les bons.</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
+        <translation>Position de la photo là où il reste de la place ou là où l’on coupe : 0,0 est en haut à gauche, 1,1 en bas à droite. Peut être répété, pour une photo après l’autre, comme les trois suivants.</translation>
+    </message>
+    <message>
+        <source>Print a part of the photo this much larger, 1 to %1.</source>
+        <translation>Imprimer une partie de la photo agrandie d’autant, de 1 à %1.</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise: 0, 90, 180 or 270 degrees.</source>
+        <translation>Tourner la photo dans le sens des aiguilles d’une montre : 0, 90, 180 ou 270 degrés.</translation>
+    </message>
+    <message>
+        <source>Print the photo this often in each copy of the job, 1 to %1.</source>
+        <translation>Imprimer la photo autant de fois dans chaque copie de la tâche, de 1 à %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no enlargement: write a number from 1 to %2.</source>
+        <translation>« %1 » n’est pas un agrandissement : écrivez un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
+        <translation>« %1 » n’est pas une rotation : écrivez 0, 90, 180 ou 270.</translation>
     </message>
 </context>
 <context>
@@ -368,6 +520,22 @@
     <message>
         <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
         <translation>Le serveur d’impression %1 est injoignable. Démarrez-le, par exemple avec « systemctl start cups », et réessayez.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Is its name right, is it switched on, and is this computer on its network?</source>
+        <translation>Le serveur d’impression %1 est injoignable. Son nom est-il juste, est-il allumé, et cet ordinateur est-il sur son réseau ?</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants to talk in secret only, and no encryption could be agreed upon with it. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression %1 n’accepte que des échanges chiffrés, et aucun chiffrement n’a pu être convenu avec lui. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server at %1 is not trusted, so nothing was sent to it. Try again to look at it once more, or ask whoever looks after the server.</source>
+        <translation>Le certificat du serveur d’impression %1 n’est pas approuvé ; rien ne lui a donc été envoyé. Réessayez pour l’examiner encore une fois, ou adressez-vous à la personne qui gère le serveur.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants a name and a password for this, and was given none. Try again and sign in, or ask whoever looks after it.</source>
+        <translation>Le serveur d’impression %1 demande pour cela un nom et un mot de passe et ne les a pas reçus. Réessayez et connectez-vous, ou adressez-vous à la personne qui le gère.</translation>
     </message>
 </context>
 <context>
@@ -549,6 +717,161 @@
     <message>
         <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
         <translation>La valeur de %1 est trop longue : %2 octets, %3 au plus. Raccourcissez-la.</translation>
+    </message>
+</context>
+<context>
+    <name>IppWords</name>
+    <message>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Source du papier</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Type de papier</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Bac de sortie</translation>
+    </message>
+    <message>
+        <source>Best for</source>
+        <translation>Optimisé pour</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Mode de rendu</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Bord long</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Bord court</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Noir et blanc</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>Automatique, noir et blanc</translation>
+    </message>
+    <message>
+        <source>Black only</source>
+        <translation>Noir seulement</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papier photo très brillant</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papier photo satiné</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>Bac multi-usage</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Face imprimée dessus</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Face imprimée dessous</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Graphiques</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Texte et graphiques</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptif</translation>
+    </message>
+    <message>
+        <source>Relative</source>
+        <translation>Relatif</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Absolute</source>
+        <translation>Absolu</translation>
     </message>
 </context>
 <context>
@@ -755,6 +1078,184 @@
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>« %1 » n’est pas un nombre de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false.</source>
+        <translation>« %1 » n’est ni true ni false.</translation>
+    </message>
+    <message>
+        <source>A measure is not written as %1 numbers from 0 to %2.</source>
+        <translation>Une mesure n’est pas écrite sous la forme de %1 nombres de 0 à %2.</translation>
+    </message>
+    <message>
+        <source>A photo is not from %1 to %2 mm wide and high.</source>
+        <translation>Une photo ne fait pas de %1 à %2 mm de large et de haut.</translation>
+    </message>
+    <message>
+        <source>&quot;kind&quot; is none of grid, size, cells and pack.</source>
+        <translation>« kind » n’est ni grid, ni size, ni cells, ni pack.</translation>
+    </message>
+    <message>
+        <source>&quot;cells&quot; does not hold 1 to %1 places.</source>
+        <translation>« cells » ne contient pas de 1 à %1 emplacements.</translation>
+    </message>
+    <message>
+        <source>&quot;caption&quot; is longer than %1 characters.</source>
+        <translation>« caption » dépasse %1 caractères.</translation>
+    </message>
+    <message>
+        <source>&quot;scaling&quot; is neither fit nor fill.</source>
+        <translation>« scaling » n’est ni fit ni fill.</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2</source>
+        <translation>%1 rangées de %2</translation>
+    </message>
+    <message>
+        <source>Photos of %1 × %2 %3</source>
+        <translation>Photos de %1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>It is no layout: &quot;schema&quot; is not &quot;%1&quot;.</source>
+        <translation>Ce n’est pas une mise en page : « schema » n’est pas « %1 ».</translation>
+    </message>
+    <message>
+        <source>It is of another version of this program.</source>
+        <translation>Il vient d’une autre version de ce programme.</translation>
+    </message>
+    <message>
+        <source>It has no &quot;name&quot;.</source>
+        <translation>Il n’a pas de « name ».</translation>
+    </message>
+    <message>
+        <source>The layout takes %1 × %2 mm, and this paper has %3 × %4 mm to print on. Choose a larger paper, one without margins, or another layout.</source>
+        <translation>La mise en page prend %1 × %2 mm, et ce papier offre %3 × %4 mm imprimables. Choisissez un papier plus grand, un papier sans marges ou une autre mise en page.</translation>
+    </message>
+    <message>
+        <source>So many photos would be smaller than %1 mm on this paper. Choose fewer rows or columns, or a larger paper.</source>
+        <translation>Autant de photos feraient moins de %1 mm sur ce papier. Choisissez moins de rangées ou de colonnes, ou un papier plus grand.</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>Ce n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Le fichier est trop grand.</translation>
+    </message>
+    <message>
+        <source>It is no JSON object: %1.</source>
+        <translation>Ce n’est pas un objet JSON : %1.</translation>
+    </message>
+    <message>
+        <source>There is another layout &quot;%1&quot;.</source>
+        <translation>Il y a une autre mise en page « %1 ».</translation>
+    </message>
+    <message>
+        <source>The layout %1 was left out. %2</source>
+        <translation>La mise en page %1 a été ignorée. %2</translation>
+    </message>
+    <message>
+        <source>There is no layout &quot;%1&quot;. There are: %2; and rows x columns, such as 3x4, and sizes, such as 90x130mm.</source>
+        <translation>Il n’y a pas de mise en page « %1 ». Il y a : %2 ; et aussi rangées x colonnes, comme 3x4, et des tailles, comme 90x130mm.</translation>
+    </message>
+    <message>
+        <source>Write a name with letters or numbers.</source>
+        <translation>Écrivez un nom avec des lettres ou des chiffres.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a layout that is always there. Choose another name.</source>
+        <translation>« %1 » est une mise en page qui existe toujours. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Le dossier %1 ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>The layout could not be kept in %1. %2</source>
+        <translation>La mise en page n’a pas pu être enregistrée dans %1. %2</translation>
+    </message>
+    <message>
+        <source>Only layouts of your own can be deleted.</source>
+        <translation>Seules vos propres mises en page peuvent être supprimées.</translation>
+    </message>
+    <message>
+        <source>%1 could not be deleted. %2</source>
+        <translation>%1 n’a pas pu être supprimé. %2</translation>
+    </message>
+    <message>
+        <source>Not every photo fits on this paper. Choose a smaller size.</source>
+        <translation>Toutes les photos ne tiennent pas sur ce papier. Choisissez une taille plus petite.</translation>
+    </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>Toutes les photos sont omises. Incluez-en au moins une.</translation>
+    </message>
+</context>
+<context>
+    <name>ListJobs</name>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>La tâche %1 a été annulée.</translation>
+    </message>
+    <message>
+        <source>Job %1 is held.</source>
+        <translation>La tâche %1 est retenue.</translation>
+    </message>
+    <message>
+        <source>Job %1 was released.</source>
+        <translation>La tâche %1 a été libérée.</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed again.</source>
+        <translation>La tâche %1 est réimprimée.</translation>
+    </message>
+    <message>
+        <source>Job %1 has what the printer asks for.</source>
+        <translation>La tâche %1 a ce que demande l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Job %1 was moved to &quot;%2&quot;.</source>
+        <translation>La tâche %1 a été déplacée vers « %2 ».</translation>
+    </message>
+    <message>
+        <source>You have no job %1 on the print server. --jobs --ended lists yours.</source>
+        <translation>Vous n’avez pas de tâche %1 sur le serveur d’impression. --jobs --ended affiche les vôtres.</translation>
+    </message>
+    <message>
+        <source>You have no jobs there.</source>
+        <translation>Vous n’y avez aucune tâche.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyée</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
+</context>
+<context>
     <name>ListPapers</name>
     <message>
         <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
@@ -858,6 +1359,52 @@
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (par défaut %2) « %3 » : %4</translation>
+    </message>
+</context>
+<context>
+    <name>LocalQueue</name>
+    <message>
+        <source>The printer &quot;%1&quot; was found on the network, but the print server cannot use it: %2</source>
+        <translation>L’imprimante « %1 » a été trouvée sur le réseau, mais le serveur d’impression ne peut pas l’utiliser : %2</translation>
+    </message>
+</context>
+<context>
+    <name>LoginWords</name>
+    <message>
+        <source>The print server at %1 wants to know who you are.</source>
+        <translation>Le serveur d’impression %1 veut savoir qui vous êtes.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password of its own; the print server at %2 hands them on to it.</source>
+        <translation>L’imprimante « %1 » demande un nom et un mot de passe à elle ; le serveur d’impression %2 les lui transmet.</translation>
+    </message>
+    <message>
+        <source>That name or password was wrong.</source>
+        <translation>Ce nom ou ce mot de passe était faux.</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is not encrypted: others could read the password on its way.</source>
+        <translation>La connexion à %1 n’est pas chiffrée : d’autres pourraient lire le mot de passe en chemin.</translation>
+    </message>
+    <message>
+        <source>It shows none.</source>
+        <translation>Il n’en montre aucun.</translation>
+    </message>
+    <message>
+        <source>It shows now: %1</source>
+        <translation>Il montre maintenant : %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot prove who it is, and was never seen before.</source>
+        <translation>Le serveur d’impression %1 ne peut pas prouver qui il est, et n’a jamais été vu auparavant.</translation>
+    </message>
+    <message>
+        <source>The print server at %1 has another certificate than before. It may have been renewed, or somebody else may be answering in its place.</source>
+        <translation>Le serveur d’impression %1 a un autre certificat qu’auparavant. Il a peut-être été renouvelé, ou quelqu’un d’autre répond peut-être à sa place.</translation>
+    </message>
+    <message>
+        <source>It had: %1</source>
+        <translation>Il avait : %1</translation>
     </message>
 </context>
 <context>
@@ -1066,6 +1613,10 @@
     <message>
         <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
         <translation>« %1 » est un dossier sans photos. Nommez-en un qui contient des photos, ou des photos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an HDR picture, which is brighter than paper can be. Export it as JPEG without HDR from your photo program and print that.</source>
+        <translation>« %1 » est une image HDR, plus lumineuse que le papier ne peut l’être. Exportez-la en JPEG sans HDR depuis votre logiciel de photo et imprimez ce fichier.</translation>
     </message>
 </context>
 <context>
@@ -1331,6 +1882,25 @@
     </message>
 </context>
 <context>
+    <name>PrinterActions</name>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>Rela&amp;ncer</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Jobs</source>
+        <translation>Accepter les tâc&amp;hes</translation>
+    </message>
+    <message>
+        <source>Re&amp;lease</source>
+        <translation>Déblo&amp;quer</translation>
+    </message>
+    <message>
+        <source>The print server does not let you do that with &quot;%1&quot;. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à faire cela avec « %1 ». Adressez-vous à la personne qui le gère.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1372,16 +1942,39 @@
         <source>The print server has no default printer. Name one with --printer.</source>
         <translation>Le serveur d’impression n’a pas d’imprimante par défaut. Indiquez-en une avec --printer.</translation>
     </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>L’imprimante ne répond pas</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReport</name>
+    <message>
+        <source>The printer&apos;s answer about itself is too long to be true, and was not read.</source>
+        <translation>La réponse de l’imprimante sur elle-même est trop longue pour être vraie et n’a pas été lue.</translation>
+    </message>
+    <message>
+        <source>The printer does not tell strangers what is in it.</source>
+        <translation>L’imprimante ne dit pas aux inconnus ce qu’elle contient.</translation>
+    </message>
+    <message>
+        <source>The printer does not answer. Is it switched on, and in this network?</source>
+        <translation>L’imprimante ne répond pas. Est-elle allumée et sur ce réseau ?</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is in it.</source>
+        <translation>L’imprimante ne dit pas ce qu’elle contient.</translation>
+    </message>
 </context>
 <context>
     <name>QueuePpd</name>
     <message>
-        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’a pas de description sur le serveur. Installez-la avec un pilote ou choisissez-en une autre.</translation>
-    </message>
-    <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>La description de l’imprimante « %1 » est endommagée : %2. Réinstallez son pilote ou choisissez une autre imprimante.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server, and does not tell by itself what it can do. Install it with a driver, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’a pas de description sur le serveur et ne dit pas d’elle-même ce qu’elle sait faire. Installez-la avec un pilote ou choisissez-en une autre.</translation>
     </message>
 </context>
 <context>
@@ -1393,6 +1986,44 @@
     <message>
         <source>Shows the pages as the application has made them, before they go to the printer</source>
         <translation>Affiche les pages telles que l’application les a faites, avant leur envoi à l’imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>SecretStore</name>
+    <message>
+        <source>Printing on %1</source>
+        <translation>Impression sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>SheetWords</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 feuille</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 feuilles</translation>
+    </message>
+    <message>
+        <source>photos in %1 × %2 mm</source>
+        <translation>photos de %1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>with captions</source>
+        <translation>avec légendes</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>avec repères de coupe</translation>
+    </message>
+    <message>
+        <source>white border %1 mm</source>
+        <translation>bord blanc de %1 mm</translation>
+    </message>
+    <message>
+        <source>Sheet %1: %2, %3 x %4 mm at %5, %6 mm</source>
+        <translation>Feuille %1 : %2, %3 x %4 mm à %5, %6 mm</translation>
     </message>
 </context>
 <context>
@@ -1488,6 +2119,190 @@
         <source>needs attention</source>
         <translation>demande votre attention</translation>
     </message>
+    <message>
+        <source>Load paper.</source>
+        <translation>Chargez du papier.</translation>
+    </message>
+    <message>
+        <source>Load the paper that the job wants.</source>
+        <translation>Chargez le papier que demande la tâche.</translation>
+    </message>
+    <message>
+        <source>Load paper soon.</source>
+        <translation>Chargez bientôt du papier.</translation>
+    </message>
+    <message>
+        <source>Take the jammed paper out.</source>
+        <translation>Retirez le papier coincé.</translation>
+    </message>
+    <message>
+        <source>a paper tray is missing</source>
+        <translation>un bac à papier manque</translation>
+    </message>
+    <message>
+        <source>Push the paper tray in.</source>
+        <translation>Insérez le bac à papier.</translation>
+    </message>
+    <message>
+        <source>the output tray is missing</source>
+        <translation>le bac de sortie manque</translation>
+    </message>
+    <message>
+        <source>Put the output tray in.</source>
+        <translation>Mettez le bac de sortie en place.</translation>
+    </message>
+    <message>
+        <source>Empty the output tray.</source>
+        <translation>Videz le bac de sortie.</translation>
+    </message>
+    <message>
+        <source>the output tray is nearly full</source>
+        <translation>le bac de sortie est presque plein</translation>
+    </message>
+    <message>
+        <source>Empty the output tray soon.</source>
+        <translation>Videz bientôt le bac de sortie.</translation>
+    </message>
+    <message>
+        <source>Close the printer&apos;s door; the job goes on then.</source>
+        <translation>Fermez la porte de l’imprimante ; la tâche continuera.</translation>
+    </message>
+    <message>
+        <source>Close the cover; the job goes on then.</source>
+        <translation>Fermez le capot ; la tâche continuera.</translation>
+    </message>
+    <message>
+        <source>something is open</source>
+        <translation>quelque chose est ouvert</translation>
+    </message>
+    <message>
+        <source>Close what is open; the job goes on then.</source>
+        <translation>Fermez ce qui est ouvert ; la tâche continuera.</translation>
+    </message>
+    <message>
+        <source>Switch the printer on and look at its cable or network.</source>
+        <translation>Allumez l’imprimante et vérifiez son câble ou son réseau.</translation>
+    </message>
+    <message>
+        <source>Resume it, or ask whoever has paused it.</source>
+        <translation>Relancez-la ou demandez à la personne qui l’a mise en pause.</translation>
+    </message>
+    <message>
+        <source>holds new jobs</source>
+        <translation>retient les nouvelles tâches</translation>
+    </message>
+    <message>
+        <source>Release it, and new jobs are printed.</source>
+        <translation>Débloquez-la et les nouvelles tâches seront imprimées.</translation>
+    </message>
+    <message>
+        <source>Switch the printer on.</source>
+        <translation>Allumez l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Have new toner at hand.</source>
+        <translation>Gardez du toner neuf à portée de main.</translation>
+    </message>
+    <message>
+        <source>Put new toner in.</source>
+        <translation>Mettez du toner neuf.</translation>
+    </message>
+    <message>
+        <source>Have new ink at hand.</source>
+        <translation>Gardez de l’encre neuve à portée de main.</translation>
+    </message>
+    <message>
+        <source>Put new ink in.</source>
+        <translation>Mettez de l’encre neuve.</translation>
+    </message>
+    <message>
+        <source>an ink cartridge is missing</source>
+        <translation>une cartouche d’encre manque</translation>
+    </message>
+    <message>
+        <source>Put the missing cartridge in.</source>
+        <translation>Mettez la cartouche manquante.</translation>
+    </message>
+    <message>
+        <source>Have a new waste tank at hand.</source>
+        <translation>Gardez un bac de récupération neuf à portée de main.</translation>
+    </message>
+    <message>
+        <source>Put a new waste tank in.</source>
+        <translation>Mettez un bac de récupération neuf.</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>trop chaude</translation>
+    </message>
+    <message>
+        <source>Let the printer cool down.</source>
+        <translation>Laissez l’imprimante refroidir.</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>préchauffage</translation>
+    </message>
+    <message>
+        <source>the drum is nearly worn out</source>
+        <translation>le tambour est presque usé</translation>
+    </message>
+    <message>
+        <source>Have a new drum at hand.</source>
+        <translation>Gardez un tambour neuf à portée de main.</translation>
+    </message>
+    <message>
+        <source>the drum is worn out</source>
+        <translation>le tambour est usé</translation>
+    </message>
+    <message>
+        <source>Put a new drum in.</source>
+        <translation>Mettez un tambour neuf.</translation>
+    </message>
+    <message>
+        <source>developer is low</source>
+        <translation>peu de développeur</translation>
+    </message>
+    <message>
+        <source>Have new developer at hand.</source>
+        <translation>Gardez du développeur neuf à portée de main.</translation>
+    </message>
+    <message>
+        <source>out of developer</source>
+        <translation>plus de développeur</translation>
+    </message>
+    <message>
+        <source>Put new developer in.</source>
+        <translation>Mettez du développeur neuf.</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>nettoyage</translation>
+    </message>
+    <message>
+        <source>no room for more jobs</source>
+        <translation>pas de place pour d’autres tâches</translation>
+    </message>
+    <message>
+        <source>Wait until jobs are printed, or cancel some.</source>
+        <translation>Attendez que des tâches soient imprimées ou annulez-en.</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>arrêt en cours</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver.</source>
+        <translation>Installez le pilote de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver anew.</source>
+        <translation>Réinstallez le pilote de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Look at the printer&apos;s own display.</source>
+        <translation>Regardez l’écran de l’imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>Stepper</name>
@@ -1498,6 +2313,416 @@
     <message>
         <source>Decrease</source>
         <translation>Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>Supply</name>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>Photo black</source>
+        <translation>Noir photo</translation>
+    </message>
+    <message>
+        <source>Matte black</source>
+        <translation>Noir mat</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>Gris clair</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>Cyan clair</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>Magenta clair</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Waste tank</source>
+        <translation>Bac de récupération</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Encre</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>Consommable</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>plein</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, nearly full</source>
+        <translation>%1, presque plein</translation>
+    </message>
+    <message>
+        <source>%1 full</source>
+        <translation>%1 plein</translation>
+    </message>
+    <message>
+        <source>%1, low</source>
+        <translation>%1, reste peu</translation>
+    </message>
+    <message>
+        <source>%1 is full</source>
+        <translation>%1 : plein</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 : vide</translation>
+    </message>
+    <message>
+        <source>%1 is nearly full (%2)</source>
+        <translation>%1 : presque plein (%2)</translation>
+    </message>
+    <message>
+        <source>%1 is low (%2)</source>
+        <translation>%1 : reste peu (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalQuestions</name>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>Send it all the same? [y/N]</source>
+        <translation>L’envoyer quand même ? [oui/N]</translation>
+    </message>
+    <message>
+        <source>Name [%1]:</source>
+        <translation>Nom [%1] :</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe :</translation>
+    </message>
+    <message>
+        <source>Trust it from now on? [y/N]</source>
+        <translation>L’approuver désormais ? [oui/N]</translation>
+    </message>
+</context>
+<context>
+    <name>TrayWords</name>
+    <message>
+        <source>Main tray</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bac photo</translation>
+    </message>
+    <message>
+        <source>Second tray</source>
+        <translation>Deuxième bac</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Bac supérieur</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bac du milieu</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Bac inférieur</translation>
+    </message>
+    <message>
+        <source>Rear feed</source>
+        <translation>Alimentation arrière</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bac latéral</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentation manuelle</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Bac auxiliaire</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>Bac grande capacité</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>Alimentation d’enveloppes</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Plateau à disques</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rouleau</translation>
+    </message>
+    <message>
+        <source>Second roll</source>
+        <translation>Deuxième rouleau</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>Papier fin</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>Papier épais</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Papier jet d’encre</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Papier couché</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Papier à en-tête</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Papier de qualité</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papier photo très brillant</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papier photo semi-brillant</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papier photo satiné</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Film photo</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>Enveloppes</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>Transparents</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>Disques</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Bac %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rouleau %1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Bac</translation>
+    </message>
+</context>
+<context>
+    <name>TraysInWords</name>
+    <message>
+        <source>%1 mm wide</source>
+        <translation>%1 mm de large</translation>
+    </message>
+    <message>
+        <source>%1 in wide</source>
+        <translation>%1 po de large</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in the tray</source>
+        <translation>non chargé : demande %1 dans le bac</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in &quot;%2&quot;</source>
+        <translation>non chargé : demande %1 dans « %2 »</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not in &quot;%2&quot;, but in &quot;%3&quot;.</source>
+        <translation>Le format de papier « %1 » n’est pas dans « %2 », mais dans « %3 ».</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
+        <translation>Le format de papier « %1 » n’est pas chargé. Il y a « %2 » dans « %3 ».</translation>
+    </message>
+</context>
+<context>
+    <name>UserJobs</name>
+    <message>
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Waiting: the printer is paused</source>
+        <translation>En attente : l’imprimante est en pause</translation>
+    </message>
+    <message>
+        <source>Held: the printer wants a name and a password</source>
+        <translation>Retenue : l’imprimante demande un nom et un mot de passe</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>Retenue</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>En cours d’impression</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulée</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échouée</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>Imprimée</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>The print server does not let you cancel job %1. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à annuler la tâche %1. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you hold job %1. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à retenir la tâche %1. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release job %1. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à libérer la tâche %1. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print job %1 again. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à réimprimer la tâche %1. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you sign in for job %1. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à vous connecter pour la tâche %1. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>The print server does not let you move job %1 to another printer. Ask whoever looks after it.</source>
+        <translation>Le serveur d’impression ne vous autorise pas à déplacer la tâche %1 vers une autre imprimante. Adressez-vous à la personne qui le gère.</translation>
+    </message>
+    <message>
+        <source>Job %1 or the printer &quot;%2&quot; is not on the print server any more.</source>
+        <translation>La tâche %1 ou l’imprimante « %2 » n’est plus sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Job %1 is not on the print server any more.</source>
+        <translation>La tâche %1 n’est plus sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>That cannot be done with job %1 as it is now: it may have gone on or ended, or the print server has not kept its pages.</source>
+        <translation>C’est impossible avec la tâche %1 dans son état actuel : elle a peut-être repris ou pris fin, ou le serveur d’impression n’a pas conservé ses pages.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::AccessDialogs</name>
+    <message>
+        <source>Trust this print server?</source>
+        <translation>Approuver ce serveur d’impression ?</translation>
+    </message>
+    <message>
+        <source>&amp;Trust It from Now On</source>
+        <translation>L’&amp;approuver désormais</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +2759,10 @@
         <source>None of the files can be printed.</source>
         <translation>Aucun des fichiers ne peut être imprimé.</translation>
     </message>
+    <message>
+        <source>Stopped, but the print server does not answer: a part of the job may still be on the queue &quot;%1&quot;. Look at it before you print again.</source>
+        <translation>Arrêté, mais le serveur d’impression ne répond pas : une partie de la tâche est peut-être encore dans la file « %1 ». Vérifiez-la avant de réimprimer.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::ChoiceList</name>
@@ -1549,28 +2778,8 @@
         <translation>Compenser le point noir</translation>
     </message>
     <message>
-        <source>The printer manages colours</source>
-        <translation>L’imprimante gère les couleurs</translation>
-    </message>
-    <message>
-        <source>This program manages colours</source>
-        <translation>Ce programme gère les couleurs</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Couleurs</translation>
-    </message>
-    <message>
-        <source>Colour profile</source>
-        <translation>Profil de couleurs</translation>
-    </message>
-    <message>
         <source>Rendering intent</source>
         <translation>Mode de rendu</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show</source>
-        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas rendre</translation>
     </message>
     <message>
         <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
@@ -1589,11 +2798,55 @@
         <translation>Autre fichier…</translation>
     </message>
     <message>
-        <source>Choose a Colour Profile</source>
+        <source>So&amp;ft proof</source>
+        <translation>Épreuva&amp;ge écran</translation>
+    </message>
+    <message>
+        <source>Paper white</source>
+        <translation>Blanc du papier</translation>
+    </message>
+    <message>
+        <source>Gamut warning</source>
+        <translation>Alerte de gamme</translation>
+    </message>
+    <message>
+        <source>The printer manages colors</source>
+        <translation>L’imprimante gère les couleurs</translation>
+    </message>
+    <message>
+        <source>This program manages colors</source>
+        <translation>Ce programme gère les couleurs</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>Profil de couleurs</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show</source>
+        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas rendre</translation>
+    </message>
+    <message>
+        <source>The preview shows the paper&apos;s own white and the deepest black on it</source>
+        <translation>L’aperçu montre le blanc du papier et le noir le plus profond sur celui-ci</translation>
+    </message>
+    <message>
+        <source>The preview paints over in pink what the printer cannot show</source>
+        <translation>L’aperçu recouvre de rose ce que l’imprimante ne peut pas rendre</translation>
+    </message>
+    <message>
+        <source>The preview shows what the photo will look like on paper</source>
+        <translation>L’aperçu montre l’aspect de la photo sur papier</translation>
+    </message>
+    <message>
+        <source>Choose a Color Profile</source>
         <translation>Choisir un profil de couleurs</translation>
     </message>
     <message>
-        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <source>Color profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
         <translation>Profils de couleurs (*.icc *.icm *.ICC *.ICM);;Tous les fichiers (*)</translation>
     </message>
 </context>
@@ -1693,6 +2946,14 @@
         <source>There is no photo to print. Open the dialog with one.</source>
         <translation>Il n’y a aucune photo à imprimer. Ouvrez le dialogue avec une photo.</translation>
     </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>Toutes les photos sont omises. Incluez-en au moins une.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
+        <translation>« %1 » contient maintenant un autre papier et la page s’y adapte : %2, %3.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DocumentSpool</name>
@@ -1707,6 +2968,14 @@
     <message>
         <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
         <translation>Impossible de créer un fichier pour le document dans « %1 ». Vérifiez que vous pouvez y écrire et imprimez-le encore une fois.</translation>
+    </message>
+    <message>
+        <source>The application has gone before its document was whole. Print it once more.</source>
+        <translation>L’application a disparu avant que son document soit complet. Imprimez-le encore une fois.</translation>
+    </message>
+    <message>
+        <source>The computer is too busy to take the document. Close something, and print it once more.</source>
+        <translation>L’ordinateur est trop occupé pour recevoir le document. Fermez quelque chose et imprimez-le encore une fois.</translation>
     </message>
 </context>
 <context>
@@ -1821,6 +3090,118 @@
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
         <translation>Les pages avant et après la tâche se choisissent à la page « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobRows</name>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyée</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsButton</name>
+    <message>
+        <source>Jobs...</source>
+        <translation>Tâches…</translation>
+    </message>
+    <message>
+        <source>Your jobs on this printer</source>
+        <translation>Vos tâches sur cette imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsWindow</name>
+    <message>
+        <source>Show jobs that have ended</source>
+        <translation>Afficher les tâches terminées</translation>
+    </message>
+    <message>
+        <source>Your Jobs on %1</source>
+        <translation>Vos tâches sur %1</translation>
+    </message>
+    <message>
+        <source>Your jobs</source>
+        <translation>Vos tâches</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Retenir</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>Libérer</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>Réimprimer</translation>
+    </message>
+    <message>
+        <source>Sign In...</source>
+        <translation>Connexion…</translation>
+    </message>
+    <message>
+        <source>Move To</source>
+        <translation>Déplacer vers</translation>
+    </message>
+    <message>
+        <source>Asking the print server...</source>
+        <translation>Interrogation du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>You have no jobs on this printer.</source>
+        <translation>Vous n’avez aucune tâche sur cette imprimante.</translation>
+    </message>
+    <message>
+        <source>The print server has no other printer</source>
+        <translation>Le serveur d’impression n’a pas d’autre imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::LoginDialog</name>
+    <message>
+        <source>Send it &amp;all the same</source>
+        <translation>L’&amp;envoyer quand même</translation>
+    </message>
+    <message>
+        <source>&amp;Remember it in the keyring</source>
+        <translation>&amp;Retenir dans le trousseau</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe :</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>&amp;Se connecter</translation>
     </message>
 </context>
 <context>
@@ -2007,6 +3388,10 @@
         <source>%1 is one of the files to print. Choose another name.</source>
         <translation>%1 est l’un des fichiers à imprimer. Choisissez un autre nom.</translation>
     </message>
+    <message>
+        <source>That folder goes when this window is closed. Choose another one.</source>
+        <translation>Ce dossier disparaît à la fermeture de cette fenêtre. Choisissez-en un autre.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2089,6 +3474,10 @@
         <source>About the Photo</source>
         <translation>À propos de la photo</translation>
     </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2161,7 +3550,11 @@
         <translation>Échell&amp;e :</translation>
     </message>
     <message>
-        <source>Co&amp;lours:</source>
+        <source>Loaded:</source>
+        <translation>Chargé :</translation>
+    </message>
+    <message>
+        <source>Co&amp;lors:</source>
         <translation>Cou&amp;leurs :</translation>
     </message>
 </context>
@@ -2198,6 +3591,10 @@
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>%1 pages ont été écrites dans « %2 ».</translation>
     </message>
+    <message>
+        <source>The computer is too busy to write the file. Close something and try again.</source>
+        <translation>L’ordinateur est trop occupé pour écrire le fichier. Fermez quelque chose et réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PhotoAdding</name>
@@ -2224,6 +3621,13 @@
     <message>
         <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>L’image ne peut pas être conservée dans un fichier temporaire. Libérez de la place sur le disque.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoLoader</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
+        <translation>« %1 » ne peut pas être lu maintenant : l’ordinateur est trop occupé. Fermez quelque chose et ouvrez-le à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -2315,6 +3719,14 @@
     <message>
         <source>Rating:</source>
         <translation>Note :</translation>
+    </message>
+    <message>
+        <source>CMYK without a profile; taken as ideal inks</source>
+        <translation>CMJN sans profil ; pris comme des encres idéales</translation>
+    </message>
+    <message>
+        <source>Gray without a profile; taken as sRGB</source>
+        <translation>Gris sans profil ; pris comme sRGB</translation>
     </message>
 </context>
 <context>
@@ -2715,6 +4127,10 @@
         <source>The application makes its pages afterwards, for this sheet.</source>
         <translation>L’application fait ses pages ensuite, pour cette feuille.</translation>
     </message>
+    <message>
+        <source>Sign &amp;In...</source>
+        <translation>Conne&amp;xion…</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -2746,6 +4162,21 @@
         <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
         <translation>%1 photos ont été imprimées en %2 tâches, de %3 à %4.</translation>
     </message>
+    <message>
+        <source>The computer is too busy to send it. Close something and try again.</source>
+        <translation>L’ordinateur est trop occupé pour l’envoi. Fermez quelque chose et réessayez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled when %n job(s) had been printed already.</source>
+        <translation>
+            <numerusform>Annulé alors que %n tâche était déjà imprimée.</numerusform>
+            <numerusform>Annulé alors que %n tâches étaient déjà imprimées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
+        <translation>Arrêté. Ces tâches sont dans la file « %1 » et y restent : %2.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintService</name>
@@ -2767,6 +4198,57 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>L’application se souvient d’une imprimante « %1 » que le serveur d’impression n’a pas. « %2 » a été choisie à la place.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterPage</name>
+    <message>
+        <source>State:</source>
+        <translation>État :</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>Que faire :</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>Depuis :</translation>
+    </message>
+    <message>
+        <source>Jobs ahead:</source>
+        <translation>Tâches en attente :</translation>
+    </message>
+    <message>
+        <source>Printers in it:</source>
+        <translation>Imprimantes incluses :</translation>
+    </message>
+    <message>
+        <source>Supplies:</source>
+        <translation>Consommables :</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not on the print server</source>
+        <translation>pas sur le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it yet.</source>
+        <translation>On ne sait encore rien d’elle.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>The printer tells more of itself than can be shown here.</source>
+        <translation>L’imprimante en dit plus sur elle-même qu’il n’est possible d’afficher ici.</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is left of its ink or toner.</source>
+        <translation>L’imprimante ne dit pas ce qu’il lui reste d’encre ou de toner.</translation>
     </message>
 </context>
 <context>
@@ -2820,6 +4302,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>Rien ici ne s’appelle « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SentJob</name>
+    <message>
+        <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
+        <translation>Le document n’a pas été imprimé : la session s’est terminée avant que le serveur d’impression l’ait en entier. Imprimez-le encore une fois.</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +4395,20 @@
     <message>
         <source>%1 more are in the list of all other settings.</source>
         <translation>La liste de tous les autres réglages en contient %1 de plus.</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SupplyBars</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::TrayRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 </TS>

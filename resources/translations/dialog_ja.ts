@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>AuthInfo</name>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password, and was given none. Print again and sign in, or ask whoever looks after it.</source>
+        <translation>プリンター「%1」には名前とパスワードが必要ですが、渡されませんでした。もう一度印刷してサインインするか、管理者にお尋ねください。</translation>
+    </message>
+</context>
+<context>
     <name>BackLines</name>
     <message>
         <source>Backprint line %1 cannot hold %2, which was left out. It takes the characters of an English keyboard except &quot;~&quot;, and &quot;©&quot;.</source>
@@ -25,6 +32,49 @@
     <message>
         <source>Backprint line %1 is longer than %2 characters; what comes after them was left out (%3).</source>
         <translation>裏面の %1 行目は %2 文字を超えています。それより後の文字は省きました (%3)。</translation>
+    </message>
+</context>
+<context>
+    <name>Caption</name>
+    <message>
+        <source>File name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>撮影日</translation>
+    </message>
+    <message>
+        <source>Year (4 digits)</source>
+        <translation>年 (4 桁)</translation>
+    </message>
+    <message>
+        <source>Year (2 digits)</source>
+        <translation>年 (2 桁)</translation>
+    </message>
+    <message>
+        <source>Month (2 digits)</source>
+        <translation>月 (2 桁)</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Day (2 digits)</source>
+        <translation>日 (2 桁)</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日</translation>
     </message>
 </context>
 <context>
@@ -46,40 +96,64 @@
         <translation>絶対的な色域を維持</translation>
     </message>
     <message>
-        <source>The colour profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colours.</source>
-        <translation>カラープロファイル「%1」を読み込めません。別のプロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no colour profile of a printer. Choose another one, or let the printer manage colours.</source>
-        <translation>「%1」はプリンターのカラープロファイルではありません。別のプロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
-    </message>
-    <message>
-        <source>No colour profile of this printer is known. Choose one, or let the printer manage colours.</source>
-        <translation>このプリンターのカラープロファイルが見つかりません。プロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
-    </message>
-    <message>
-        <source>colours for &quot;%1&quot;</source>
-        <translation>「%1」用の色</translation>
-    </message>
-    <message>
-        <source>The printer converts the colours: each photo goes to it in sRGB.</source>
-        <translation>プリンターが色を変換します。どの写真も sRGB で送られます。</translation>
-    </message>
-    <message>
-        <source>This program converts the colours, from each photo&apos;s own to &quot;%1&quot;.</source>
-        <translation>このプログラムが、各写真の色を「%1」に変換します。</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>See that the printer&apos;s own colour correction is off.</source>
+        <source>The printer is told not to convert them again (%1).</source>
+        <translation>プリンターには、もう一度変換しないように指示します (%1)。</translation>
+    </message>
+    <message>
+        <source>No color profile of this printer is known. Choose one, or let the printer manage colors.</source>
+        <translation>このプリンターのカラープロファイルが見つかりません。プロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
+    </message>
+    <message>
+        <source>colors for &quot;%1&quot;</source>
+        <translation>「%1」用の色</translation>
+    </message>
+    <message>
+        <source>The printer converts the colors: each photo goes to it in %1. No soft proof: only the printer knows what it makes of them.</source>
+        <translation>プリンターが色を変換します。どの写真も %1 で送られます。仕上がりの色はプリンターにしか分からないため、ソフトプルーフはできません。</translation>
+    </message>
+    <message>
+        <source>This program converts the colors, from each photo&apos;s own to &quot;%1&quot;.</source>
+        <translation>このプログラムが、各写真の色を「%1」に変換します。</translation>
+    </message>
+    <message>
+        <source>See that the printer&apos;s own color correction is off.</source>
         <translation>プリンター自身の色補正がオフになっていることを確認してください。</translation>
     </message>
     <message>
-        <source>The printer is told not to convert them again (%1).</source>
-        <translation>プリンターには、もう一度変換しないように指示します (%1)。</translation>
+        <source>Only the printer knows what it makes of the colors. Let this program manage them, for a profile, to see a soft proof.</source>
+        <translation>仕上がりの色はプリンターにしか分かりません。ソフトプルーフを見るには、プロファイルを選び、色の管理をこのプログラムに任せてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say what its colors look like: with it there is no soft proof.</source>
+        <translation>「%1」には色の見え方の情報がないため、ソフトプルーフはできません。</translation>
+    </message>
+    <message>
+        <source>Soft proof with paper white</source>
+        <translation>用紙の白を含むソフトプルーフ</translation>
+    </message>
+    <message>
+        <source>Soft proof</source>
+        <translation>ソフトプルーフ</translation>
+    </message>
+    <message>
+        <source>pink cannot be printed</source>
+        <translation>ピンクの部分は印刷できません</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; is being read. Wait a moment.</source>
+        <translation>カラープロファイル「%1」を読み込んでいます。少しお待ちください。</translation>
+    </message>
+    <message>
+        <source>The color profile &quot;%1&quot; cannot be read. Choose another one, or let the printer manage colors.</source>
+        <translation>カラープロファイル「%1」を読み込めません。別のプロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no color profile of a printer. Choose another one, or let the printer manage colors.</source>
+        <translation>「%1」はプリンターのカラープロファイルではありません。別のプロファイルを選ぶか、色の管理をプリンターに任せてください。</translation>
     </message>
 </context>
 <context>
@@ -197,10 +271,6 @@
         <translation>プリンターのプリセットの名前を 1 行に 1 つ出力します。</translation>
     </message>
     <message>
-        <source>With --list-printers, --list-options or --list-presets: write JSON, with more details.</source>
-        <translation>--list-printers、--list-options、--list-presets と併用: より詳しい内容を JSON で出力します。</translation>
-    </message>
-    <message>
         <source>The name of the file to write is empty.</source>
         <translation>書き込むファイルの名前が空です。</translation>
     </message>
@@ -211,10 +281,6 @@
     <message>
         <source>--verify goes with --no-dialog, and with nothing that sends no job.</source>
         <translation>--verify は --no-dialog と一緒に使います。ジョブを送信しないオプションとは使えません。</translation>
-    </message>
-    <message>
-        <source>--json goes with --list-printers, --list-options or --list-presets.</source>
-        <translation>--json は --list-printers、--list-options、--list-presets と一緒に使います。</translation>
     </message>
     <message>
         <source>--%1 prints no files: leave out the files and the options for printing.</source>
@@ -229,30 +295,8 @@
         <translation>「%1」はプリセットの名前に使えません。1～%2 文字で指定してください。</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.</source>
-        <translation>終了ステータス:
-  0  印刷したか、求められた内容を出力しました。
-  1  失敗しました。理由は標準エラー出力に示します。
-  2  使い方の誤りです。
-  3  ジョブはキューにあり、まだ終わっていませんでした。
-  4  キャンセルしました。何も印刷していません。
-  5  ジョブは送信しましたが、プリントサーバーが応答しません。結果は不明です。
-  6  --verify と併用: 印刷しましたが、プリントサーバーにあるジョブは送信したものと違います。</translation>
-    </message>
-    <message>
         <source>Turn the page: portrait or landscape; without it, as the photo.</source>
         <translation>ページの向き: portrait または landscape。省略時は写真に合わせます。</translation>
-    </message>
-    <message>
-        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other.</source>
-        <translation>余白や切る部分がある場合の写真の位置: 0,0 は左上、1,1 は右下。複数指定でき、写真の順に使います。</translation>
     </message>
     <message>
         <source>Send several jobs in order, with at most this many photos each; without it, one job.</source>
@@ -307,32 +351,140 @@
         <translation>標準入力を一時ファイルに保存できません。ディスクの空きを増やしてください。</translation>
     </message>
     <message>
-        <source>Who converts the photos&apos; colours: printer, which is given sRGB, or dialog, for a colour profile of the printer.</source>
-        <translation>写真の色を変換する側: printer (プリンター。sRGB で受け取ります) または dialog (ダイアログ。プリンターのカラープロファイルに変換します)。</translation>
-    </message>
-    <message>
-        <source>Convert the colours for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
-        <translation>色をプリンターのこの ICC プロファイルに変換します。省略時はプリンターに付属のプロファイルに変換します。</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
-        <translation>プリンターで再現できない色の扱い: perceptual、relative、saturation、absolute のいずれか。省略時は perceptual。</translation>
-    </message>
-    <message>
-        <source>Convert the colours without black point compensation.</source>
-        <translation>黒点の補正なしで色を変換します。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; converts no colours: write printer or dialog.</source>
-        <translation>「%1」は色を変換しません。printer か dialog を指定してください。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no rendering intent: write perceptual, relative, saturation or absolute.</source>
         <translation>「%1」はレンダリングインテントではありません。perceptual、relative、saturation、absolute のいずれかを指定してください。</translation>
     </message>
     <message>
-        <source>--profile, --intent and --no-black-point go with --colour-by dialog.</source>
-        <translation>--profile、--intent、--no-black-point は --colour-by dialog と一緒に使います。</translation>
+        <source>Use this print server; without it, CUPS_SERVER, client.conf or this computer&apos;s.</source>
+        <translation>このプリントサーバーを使います。省略時は CUPS_SERVER、client.conf、またはこのコンピューターのものを使います。</translation>
+    </message>
+    <message>
+        <source>Who converts the photos&apos; colors: printer, which is given sRGB, or dialog, for a color profile of the printer.</source>
+        <translation>写真の色を変換する側: printer (プリンター。sRGB で受け取ります) または dialog (ダイアログ。プリンターのカラープロファイルに変換します)。</translation>
+    </message>
+    <message>
+        <source>Convert the colors for this ICC profile of the printer; without it, for the one that the printer comes with.</source>
+        <translation>色をプリンターのこの ICC プロファイルに変換します。省略時はプリンターに付属のプロファイルに変換します。</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show: perceptual, relative, saturation or absolute; without it, perceptual.</source>
+        <translation>プリンターで再現できない色の扱い: perceptual、relative、saturation、absolute のいずれか。省略時は perceptual。</translation>
+    </message>
+    <message>
+        <source>Convert the colors without black point compensation.</source>
+        <translation>黒点の補正なしで色を変換します。</translation>
+    </message>
+    <message>
+        <source>With --list-printers, --list-options, --list-presets or --jobs: write JSON, with more details.</source>
+        <translation>--list-printers、--list-options、--list-presets、--jobs と併用: より詳しい内容を JSON で出力します。</translation>
+    </message>
+    <message>
+        <source>Write your jobs that have not ended, on the queue of --printer or on all, a line each.</source>
+        <translation>--printer のキュー、またはすべてのキューにある、終わっていない自分のジョブを 1 行に 1 つ出力します。</translation>
+    </message>
+    <message>
+        <source>With --jobs: those that have ended, too.</source>
+        <translation>--jobs と併用: 終わったジョブも出力します。</translation>
+    </message>
+    <message>
+        <source>With --jobs: cancel this job.</source>
+        <translation>--jobs と併用: このジョブをキャンセルします。</translation>
+    </message>
+    <message>
+        <source>With --jobs: hold this job.</source>
+        <translation>--jobs と併用: このジョブを保留します。</translation>
+    </message>
+    <message>
+        <source>With --jobs: let this held job go on.</source>
+        <translation>--jobs と併用: 保留中のこのジョブを再開します。</translation>
+    </message>
+    <message>
+        <source>With --jobs: print this job again, if the print server has kept its pages.</source>
+        <translation>--jobs と併用: プリントサーバーにページが残っていれば、このジョブをもう一度印刷します。</translation>
+    </message>
+    <message>
+        <source>With --jobs: give the printer the name and the password for which it holds this job.</source>
+        <translation>--jobs と併用: このジョブが保留される原因の名前とパスワードをプリンターに渡します。</translation>
+    </message>
+    <message>
+        <source>With --jobs: move this job to another queue; --to says which.</source>
+        <translation>--jobs と併用: このジョブを --to で指定したキューに移します。</translation>
+    </message>
+    <message>
+        <source>With --jobs --move: the queue to move the job to.</source>
+        <translation>--jobs --move と併用: ジョブの移動先のキュー。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server: write its name or address, and a port where it is not 631, for example print.example.org:8631.</source>
+        <translation>「%1」はプリントサーバーではありません。print.example.org:8631 のように、名前かアドレスと、631 以外ならポートを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; converts no colors: write printer or dialog.</source>
+        <translation>「%1」は色を変換しません。printer か dialog を指定してください。</translation>
+    </message>
+    <message>
+        <source>--profile, --intent and --no-black-point go with --color-by dialog.</source>
+        <translation>--profile、--intent、--no-black-point は --color-by dialog と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--ended, --cancel, --hold, --release, --again, --sign-in, --move and --to go with --jobs.</source>
+        <translation>--ended、--cancel、--hold、--release、--again、--sign-in、--move、--to は --jobs と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>Do one thing at a time: give one of --cancel, --hold, --release, --again and --sign-in, or --move and --to together.</source>
+        <translation>一度にできるのは 1 つです。--cancel、--hold、--release、--again、--sign-in のどれか、または --move と --to の組を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no job: write its number, as --jobs lists it.</source>
+        <translation>「%1」はジョブではありません。--jobs で表示される番号を指定してください。</translation>
+    </message>
+    <message>
+        <source>--json goes with --list-printers, --list-options, --list-presets or --jobs.</source>
+        <translation>--json は --list-printers、--list-options、--list-presets、--jobs と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not answer: the outcome is not known.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>終了ステータス:
+  0  印刷したか、求められた内容を出力しました。
+  1  失敗しました。理由は標準エラー出力に示します。
+  2  使い方の誤りです。
+  3  ジョブはキューにあり、まだ終わっていませんでした。
+  4  キャンセルしました。何も印刷していません。
+  5  ジョブは送信しましたが、プリントサーバーが応答しません。結果は不明です。
+  6  --verify と併用: 印刷しましたが、プリントサーバーにあるジョブは送信したものと違います。
+  7  プリントサーバーまたはプリンターに名前とパスワードが必要ですが、正しいものが渡されませんでした。</translation>
+    </message>
+    <message>
+        <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
+        <translation>余白や切る部分がある場合の写真の位置: 0,0 は左上、1,1 は右下。複数指定でき、写真の順に使います。次の 3 つも同様です。</translation>
+    </message>
+    <message>
+        <source>Print a part of the photo this much larger, 1 to %1.</source>
+        <translation>写真の一部をこの倍率に拡大して印刷します (1～%1)。</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise: 0, 90, 180 or 270 degrees.</source>
+        <translation>写真を時計回りに回転します: 0、90、180、270 度。</translation>
+    </message>
+    <message>
+        <source>Print the photo this often in each copy of the job, 1 to %1.</source>
+        <translation>ジョブの 1 部ごとに写真を印刷する回数 (1～%1)。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no enlargement: write a number from 1 to %2.</source>
+        <translation>「%1」は拡大率ではありません。1 から %2 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
+        <translation>「%1」は回転角度ではありません。0、90、180、270 のどれかを指定してください。</translation>
     </message>
 </context>
 <context>
@@ -368,6 +520,22 @@
     <message>
         <source>The print server at %1 cannot be reached. Start it, for example with &quot;systemctl start cups&quot;, and try again.</source>
         <translation>プリントサーバー %1 に接続できません。「systemctl start cups」などで起動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot be reached. Is its name right, is it switched on, and is this computer on its network?</source>
+        <translation>プリントサーバー %1 に接続できません。名前は正しいか、電源は入っているか、このコンピューターが同じネットワークにあるかをご確認ください。</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants to talk in secret only, and no encryption could be agreed upon with it. Ask whoever looks after it.</source>
+        <translation>プリントサーバー %1 は暗号化された通信しか受け付けませんが、暗号化の方式が合いませんでした。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The certificate of the print server at %1 is not trusted, so nothing was sent to it. Try again to look at it once more, or ask whoever looks after the server.</source>
+        <translation>プリントサーバー %1 の証明書は信頼されていないため、何も送っていません。もう一度試して証明書を確認するか、サーバーの管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server at %1 wants a name and a password for this, and was given none. Try again and sign in, or ask whoever looks after it.</source>
+        <translation>プリントサーバー %1 でこれを行うには名前とパスワードが必要ですが、渡されませんでした。もう一度試してサインインするか、管理者にお尋ねください。</translation>
     </message>
 </context>
 <context>
@@ -549,6 +717,161 @@
     <message>
         <source>The value of %1 is too long to send: it has %2 bytes, and %3 are possible. Shorten it.</source>
         <translation>%1 の値が長すぎて送れません: %2 バイトあり、上限は %3 です。短くしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>IppWords</name>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>給紙方法</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Best for</source>
+        <translation>印刷対象</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>レンダリングインテント</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>短辺とじ</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Automatic, black and white</source>
+        <translation>自動 (白黒)</translation>
+    </message>
+    <message>
+        <source>Black only</source>
+        <translation>黒のみ</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>高光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>マット写真用紙</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>サテン写真用紙</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Multi-purpose tray</source>
+        <translation>多目的トレイ</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>印刷面を上</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>印刷面を下</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>図</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>文字と図</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>知覚的</translation>
+    </message>
+    <message>
+        <source>Relative</source>
+        <translation>相対的</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Absolute</source>
+        <translation>絶対的</translation>
     </message>
 </context>
 <context>
@@ -755,6 +1078,184 @@
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>&quot;%1&quot; is no number from %2 to %3.</source>
+        <translation>「%1」は %2 から %3 までの数ではありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither true nor false.</source>
+        <translation>「%1」は true でも false でもありません。</translation>
+    </message>
+    <message>
+        <source>A measure is not written as %1 numbers from 0 to %2.</source>
+        <translation>寸法が 0 から %2 までの %1 個の数で書かれていません。</translation>
+    </message>
+    <message>
+        <source>A photo is not from %1 to %2 mm wide and high.</source>
+        <translation>写真の幅と高さが %1～%2 mm の範囲にありません。</translation>
+    </message>
+    <message>
+        <source>&quot;kind&quot; is none of grid, size, cells and pack.</source>
+        <translation>「kind」が grid、size、cells、pack のどれでもありません。</translation>
+    </message>
+    <message>
+        <source>&quot;cells&quot; does not hold 1 to %1 places.</source>
+        <translation>「cells」の数が 1～%1 の範囲にありません。</translation>
+    </message>
+    <message>
+        <source>&quot;caption&quot; is longer than %1 characters.</source>
+        <translation>「caption」が %1 文字を超えています。</translation>
+    </message>
+    <message>
+        <source>&quot;scaling&quot; is neither fit nor fill.</source>
+        <translation>「scaling」が fit でも fill でもありません。</translation>
+    </message>
+    <message>
+        <source>%1 rows of %2</source>
+        <translation>%1 行 × %2 列</translation>
+    </message>
+    <message>
+        <source>Photos of %1 × %2 %3</source>
+        <translation>%1 × %2 %3 の写真</translation>
+    </message>
+    <message>
+        <source>It is no layout: &quot;schema&quot; is not &quot;%1&quot;.</source>
+        <translation>レイアウトではありません:「schema」が「%1」ではありません。</translation>
+    </message>
+    <message>
+        <source>It is of another version of this program.</source>
+        <translation>このプログラムの別のバージョンのものです。</translation>
+    </message>
+    <message>
+        <source>It has no &quot;name&quot;.</source>
+        <translation>「name」がありません。</translation>
+    </message>
+    <message>
+        <source>The layout takes %1 × %2 mm, and this paper has %3 × %4 mm to print on. Choose a larger paper, one without margins, or another layout.</source>
+        <translation>このレイアウトには %1 × %2 mm 必要ですが、この用紙に印刷できるのは %3 × %4 mm です。より大きな用紙、余白なしの用紙、または別のレイアウトを選んでください。</translation>
+    </message>
+    <message>
+        <source>So many photos would be smaller than %1 mm on this paper. Choose fewer rows or columns, or a larger paper.</source>
+        <translation>この枚数では、この用紙上の写真が %1 mm より小さくなります。行か列を減らすか、より大きな用紙を選んでください。</translation>
+    </message>
+    <message>
+        <source>It is no file.</source>
+        <translation>ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>大きすぎます。</translation>
+    </message>
+    <message>
+        <source>It is no JSON object: %1.</source>
+        <translation>JSON オブジェクトではありません: %1。</translation>
+    </message>
+    <message>
+        <source>There is another layout &quot;%1&quot;.</source>
+        <translation>別のレイアウト「%1」があります。</translation>
+    </message>
+    <message>
+        <source>The layout %1 was left out. %2</source>
+        <translation>レイアウト %1 は使いませんでした。%2</translation>
+    </message>
+    <message>
+        <source>There is no layout &quot;%1&quot;. There are: %2; and rows x columns, such as 3x4, and sizes, such as 90x130mm.</source>
+        <translation>「%1」というレイアウトはありません。使えるもの: %2、3x4 のような行数と列数、90x130mm のようなサイズ。</translation>
+    </message>
+    <message>
+        <source>Write a name with letters or numbers.</source>
+        <translation>文字か数字を含む名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a layout that is always there. Choose another name.</source>
+        <translation>「%1」は最初から用意されているレイアウトです。別の名前にしてください。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>フォルダー %1 を作れません。</translation>
+    </message>
+    <message>
+        <source>The layout could not be kept in %1. %2</source>
+        <translation>レイアウトを %1 に保存できませんでした。%2</translation>
+    </message>
+    <message>
+        <source>Only layouts of your own can be deleted.</source>
+        <translation>削除できるのは自分のレイアウトだけです。</translation>
+    </message>
+    <message>
+        <source>%1 could not be deleted. %2</source>
+        <translation>%1 を削除できませんでした。%2</translation>
+    </message>
+    <message>
+        <source>Not every photo fits on this paper. Choose a smaller size.</source>
+        <translation>この用紙に収まらない写真があります。より小さなサイズを選んでください。</translation>
+    </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>すべての写真が除外されています。少なくとも 1 枚を含めてください。</translation>
+    </message>
+</context>
+<context>
+    <name>ListJobs</name>
+    <message>
+        <source>Job %1 was cancelled.</source>
+        <translation>ジョブ %1 をキャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Job %1 is held.</source>
+        <translation>ジョブ %1 を保留しました。</translation>
+    </message>
+    <message>
+        <source>Job %1 was released.</source>
+        <translation>ジョブ %1 を再開しました。</translation>
+    </message>
+    <message>
+        <source>Job %1 is printed again.</source>
+        <translation>ジョブ %1 をもう一度印刷します。</translation>
+    </message>
+    <message>
+        <source>Job %1 has what the printer asks for.</source>
+        <translation>ジョブ %1 に、プリンターが求めるものを渡しました。</translation>
+    </message>
+    <message>
+        <source>Job %1 was moved to &quot;%2&quot;.</source>
+        <translation>ジョブ %1 を「%2」に移しました。</translation>
+    </message>
+    <message>
+        <source>You have no job %1 on the print server. --jobs --ended lists yours.</source>
+        <translation>プリントサーバーに自分のジョブ %1 はありません。--jobs --ended で一覧が見られます。</translation>
+    </message>
+    <message>
+        <source>You have no jobs there.</source>
+        <translation>そこに自分のジョブはありません。</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ数</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送信日時</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+</context>
+<context>
     <name>ListPapers</name>
     <message>
         <source>The printer &quot;%1&quot; was asked, but has not reported its papers. Look into the print server&apos;s error log.</source>
@@ -858,6 +1359,52 @@
     <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (既定 %2)「%3」: %4</translation>
+    </message>
+</context>
+<context>
+    <name>LocalQueue</name>
+    <message>
+        <source>The printer &quot;%1&quot; was found on the network, but the print server cannot use it: %2</source>
+        <translation>プリンター「%1」がネットワークで見つかりましたが、プリントサーバーで使えません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LoginWords</name>
+    <message>
+        <source>The print server at %1 wants to know who you are.</source>
+        <translation>プリントサーバー %1 にサインインしてください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; wants a name and a password of its own; the print server at %2 hands them on to it.</source>
+        <translation>プリンター「%1」には専用の名前とパスワードが必要です。プリントサーバー %2 がプリンターに渡します。</translation>
+    </message>
+    <message>
+        <source>That name or password was wrong.</source>
+        <translation>名前またはパスワードが違います。</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is not encrypted: others could read the password on its way.</source>
+        <translation>%1 との接続は暗号化されていません。途中で他の人にパスワードを読まれるおそれがあります。</translation>
+    </message>
+    <message>
+        <source>It shows none.</source>
+        <translation>証明書が示されていません。</translation>
+    </message>
+    <message>
+        <source>It shows now: %1</source>
+        <translation>現在の証明書: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 cannot prove who it is, and was never seen before.</source>
+        <translation>プリントサーバー %1 は身元を証明できず、これまでに接続したこともありません。</translation>
+    </message>
+    <message>
+        <source>The print server at %1 has another certificate than before. It may have been renewed, or somebody else may be answering in its place.</source>
+        <translation>プリントサーバー %1 の証明書が以前と違います。更新されたのかもしれませんが、別のものが代わりに応答しているおそれもあります。</translation>
+    </message>
+    <message>
+        <source>It had: %1</source>
+        <translation>以前の証明書: %1</translation>
     </message>
 </context>
 <context>
@@ -1066,6 +1613,10 @@
     <message>
         <source>&quot;%1&quot; is a folder without photos. Name one that holds photos, or photos.</source>
         <translation>「%1」は写真のないフォルダーです。写真の入ったフォルダーか、写真を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an HDR picture, which is brighter than paper can be. Export it as JPEG without HDR from your photo program and print that.</source>
+        <translation>「%1」は HDR 画像で、用紙では表せない明るさです。写真ソフトから HDR なしの JPEG で書き出し、それを印刷してください。</translation>
     </message>
 </context>
 <context>
@@ -1331,6 +1882,25 @@
     </message>
 </context>
 <context>
+    <name>PrinterActions</name>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>再開(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Jobs</source>
+        <translation>ジョブを受け付ける(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Re&amp;lease</source>
+        <translation>保留を解除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The print server does not let you do that with &quot;%1&quot;. Ask whoever looks after it.</source>
+        <translation>プリントサーバーで「%1」に対する操作が許可されていません。管理者にお尋ねください。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterList</name>
     <message>
         <source>Ready</source>
@@ -1372,16 +1942,39 @@
         <source>The print server has no default printer. Name one with --printer.</source>
         <translation>プリントサーバーに既定のプリンターがありません。--printer で指定してください。</translation>
     </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>プリンターが応答しません</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterReport</name>
+    <message>
+        <source>The printer&apos;s answer about itself is too long to be true, and was not read.</source>
+        <translation>プリンターからの情報が長すぎて正しいものとは思えないため、読みませんでした。</translation>
+    </message>
+    <message>
+        <source>The printer does not tell strangers what is in it.</source>
+        <translation>プリンターは、サインインなしでは中身の情報を知らせません。</translation>
+    </message>
+    <message>
+        <source>The printer does not answer. Is it switched on, and in this network?</source>
+        <translation>プリンターが応答しません。電源が入っていて、このネットワークにあるかをご確認ください。</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is in it.</source>
+        <translation>プリンターは中身の情報を知らせません。</translation>
+    </message>
 </context>
 <context>
     <name>QueuePpd</name>
     <message>
-        <source>The printer &quot;%1&quot; has no description on the print server. Install it with a driver, or choose another printer.</source>
-        <translation>プリンター「%1」の記述がプリントサーバーにありません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
-    </message>
-    <message>
         <source>The description of the printer &quot;%1&quot; is damaged: %2. Install its driver again, or choose another printer.</source>
         <translation>プリンター「%1」の記述が壊れています: %2。ドライバーを再インストールするか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no description on the print server, and does not tell by itself what it can do. Install it with a driver, or choose another printer.</source>
+        <translation>プリンター「%1」の記述がプリントサーバーになく、プリンター自身も機能を知らせません。ドライバー付きで設定するか、別のプリンターを選んでください。</translation>
     </message>
 </context>
 <context>
@@ -1393,6 +1986,44 @@
     <message>
         <source>Shows the pages as the application has made them, before they go to the printer</source>
         <translation>アプリケーションが作成したページを、プリンターに送る前に表示します</translation>
+    </message>
+</context>
+<context>
+    <name>SecretStore</name>
+    <message>
+        <source>Printing on %1</source>
+        <translation>%1 での印刷</translation>
+    </message>
+</context>
+<context>
+    <name>SheetWords</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>用紙 1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>用紙 %1 枚</translation>
+    </message>
+    <message>
+        <source>photos in %1 × %2 mm</source>
+        <translation>%1 × %2 mm の写真</translation>
+    </message>
+    <message>
+        <source>with captions</source>
+        <translation>キャプション付き</translation>
+    </message>
+    <message>
+        <source>with cut marks</source>
+        <translation>トンボ付き</translation>
+    </message>
+    <message>
+        <source>white border %1 mm</source>
+        <translation>白フチ %1 mm</translation>
+    </message>
+    <message>
+        <source>Sheet %1: %2, %3 x %4 mm at %5, %6 mm</source>
+        <translation>用紙 %1: %2、%3 x %4 mm、位置 %5, %6 mm</translation>
     </message>
 </context>
 <context>
@@ -1488,6 +2119,190 @@
         <source>needs attention</source>
         <translation>確認が必要です</translation>
     </message>
+    <message>
+        <source>Load paper.</source>
+        <translation>用紙をセットしてください。</translation>
+    </message>
+    <message>
+        <source>Load the paper that the job wants.</source>
+        <translation>ジョブに必要な用紙をセットしてください。</translation>
+    </message>
+    <message>
+        <source>Load paper soon.</source>
+        <translation>早めに用紙を補充してください。</translation>
+    </message>
+    <message>
+        <source>Take the jammed paper out.</source>
+        <translation>つまった用紙を取り除いてください。</translation>
+    </message>
+    <message>
+        <source>a paper tray is missing</source>
+        <translation>用紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Push the paper tray in.</source>
+        <translation>用紙トレイを差し込んでください。</translation>
+    </message>
+    <message>
+        <source>the output tray is missing</source>
+        <translation>排紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Put the output tray in.</source>
+        <translation>排紙トレイを取り付けてください。</translation>
+    </message>
+    <message>
+        <source>Empty the output tray.</source>
+        <translation>排紙トレイの用紙を取り出してください。</translation>
+    </message>
+    <message>
+        <source>the output tray is nearly full</source>
+        <translation>排紙トレイがもうすぐいっぱいです</translation>
+    </message>
+    <message>
+        <source>Empty the output tray soon.</source>
+        <translation>早めに排紙トレイの用紙を取り出してください。</translation>
+    </message>
+    <message>
+        <source>Close the printer&apos;s door; the job goes on then.</source>
+        <translation>プリンターのドアを閉じてください。ジョブが再開します。</translation>
+    </message>
+    <message>
+        <source>Close the cover; the job goes on then.</source>
+        <translation>カバーを閉じてください。ジョブが再開します。</translation>
+    </message>
+    <message>
+        <source>something is open</source>
+        <translation>どこかが開いています</translation>
+    </message>
+    <message>
+        <source>Close what is open; the job goes on then.</source>
+        <translation>開いているところを閉じてください。ジョブが再開します。</translation>
+    </message>
+    <message>
+        <source>Switch the printer on and look at its cable or network.</source>
+        <translation>プリンターの電源を入れ、ケーブルまたはネットワークを確認してください。</translation>
+    </message>
+    <message>
+        <source>Resume it, or ask whoever has paused it.</source>
+        <translation>再開するか、一時停止した人にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>holds new jobs</source>
+        <translation>新しいジョブを保留しています</translation>
+    </message>
+    <message>
+        <source>Release it, and new jobs are printed.</source>
+        <translation>保留を解除すると、新しいジョブが印刷されます。</translation>
+    </message>
+    <message>
+        <source>Switch the printer on.</source>
+        <translation>プリンターの電源を入れてください。</translation>
+    </message>
+    <message>
+        <source>Have new toner at hand.</source>
+        <translation>新しいトナーを用意してください。</translation>
+    </message>
+    <message>
+        <source>Put new toner in.</source>
+        <translation>新しいトナーに交換してください。</translation>
+    </message>
+    <message>
+        <source>Have new ink at hand.</source>
+        <translation>新しいインクを用意してください。</translation>
+    </message>
+    <message>
+        <source>Put new ink in.</source>
+        <translation>新しいインクに交換してください。</translation>
+    </message>
+    <message>
+        <source>an ink cartridge is missing</source>
+        <translation>インクカートリッジがありません</translation>
+    </message>
+    <message>
+        <source>Put the missing cartridge in.</source>
+        <translation>足りないカートリッジを取り付けてください。</translation>
+    </message>
+    <message>
+        <source>Have a new waste tank at hand.</source>
+        <translation>新しい廃液タンクを用意してください。</translation>
+    </message>
+    <message>
+        <source>Put a new waste tank in.</source>
+        <translation>新しい廃液タンクに交換してください。</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>高温</translation>
+    </message>
+    <message>
+        <source>Let the printer cool down.</source>
+        <translation>プリンターが冷えるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>ウォームアップ中</translation>
+    </message>
+    <message>
+        <source>the drum is nearly worn out</source>
+        <translation>ドラムの寿命が近づいています</translation>
+    </message>
+    <message>
+        <source>Have a new drum at hand.</source>
+        <translation>新しいドラムを用意してください。</translation>
+    </message>
+    <message>
+        <source>the drum is worn out</source>
+        <translation>ドラムの寿命です</translation>
+    </message>
+    <message>
+        <source>Put a new drum in.</source>
+        <translation>新しいドラムに交換してください。</translation>
+    </message>
+    <message>
+        <source>developer is low</source>
+        <translation>現像剤残りわずか</translation>
+    </message>
+    <message>
+        <source>Have new developer at hand.</source>
+        <translation>新しい現像剤を用意してください。</translation>
+    </message>
+    <message>
+        <source>out of developer</source>
+        <translation>現像剤切れ</translation>
+    </message>
+    <message>
+        <source>Put new developer in.</source>
+        <translation>新しい現像剤に交換してください。</translation>
+    </message>
+    <message>
+        <source>cleaning</source>
+        <translation>クリーニング中</translation>
+    </message>
+    <message>
+        <source>no room for more jobs</source>
+        <translation>これ以上ジョブを受け取れません</translation>
+    </message>
+    <message>
+        <source>Wait until jobs are printed, or cancel some.</source>
+        <translation>ジョブの印刷が終わるのを待つか、いくつかキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>stopping</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver.</source>
+        <translation>プリンターのドライバーをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>Install the printer&apos;s driver anew.</source>
+        <translation>プリンターのドライバーを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>Look at the printer&apos;s own display.</source>
+        <translation>プリンターの表示を確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>Stepper</name>
@@ -1498,6 +2313,416 @@
     <message>
         <source>Decrease</source>
         <translation>減らす</translation>
+    </message>
+</context>
+<context>
+    <name>Supply</name>
+    <message>
+        <source>Black</source>
+        <translation>ブラック</translation>
+    </message>
+    <message>
+        <source>Photo black</source>
+        <translation>フォトブラック</translation>
+    </message>
+    <message>
+        <source>Matte black</source>
+        <translation>マットブラック</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>グレー</translation>
+    </message>
+    <message>
+        <source>Light gray</source>
+        <translation>ライトグレー</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>シアン</translation>
+    </message>
+    <message>
+        <source>Light cyan</source>
+        <translation>ライトシアン</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>マゼンタ</translation>
+    </message>
+    <message>
+        <source>Light magenta</source>
+        <translation>ライトマゼンタ</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>イエロー</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>レッド</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>オレンジ</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>グリーン</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>ブルー</translation>
+    </message>
+    <message>
+        <source>Waste tank</source>
+        <translation>廃液タンク</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>インク</translation>
+    </message>
+    <message>
+        <source>Supply</source>
+        <translation>消耗品</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>full</source>
+        <translation>いっぱい</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, nearly full</source>
+        <translation>%1、もうすぐいっぱい</translation>
+    </message>
+    <message>
+        <source>%1 full</source>
+        <translation>%1 使用</translation>
+    </message>
+    <message>
+        <source>%1, low</source>
+        <translation>%1、残りわずか</translation>
+    </message>
+    <message>
+        <source>%1 is full</source>
+        <translation>%1: いっぱい</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1: なし</translation>
+    </message>
+    <message>
+        <source>%1 is nearly full (%2)</source>
+        <translation>%1: もうすぐいっぱい (%2)</translation>
+    </message>
+    <message>
+        <source>%1 is low (%2)</source>
+        <translation>%1: 残りわずか (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalQuestions</name>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>Send it all the same? [y/N]</source>
+        <translation>それでも送りますか? [はい/N]</translation>
+    </message>
+    <message>
+        <source>Name [%1]:</source>
+        <translation>名前 [%1]:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>Trust it from now on? [y/N]</source>
+        <translation>今後は信頼しますか? [はい/N]</translation>
+    </message>
+</context>
+<context>
+    <name>TrayWords</name>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>写真トレイ</translation>
+    </message>
+    <message>
+        <source>Second tray</source>
+        <translation>トレイ 2</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>上段トレイ</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中段トレイ</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>下段トレイ</translation>
+    </message>
+    <message>
+        <source>Rear feed</source>
+        <translation>背面給紙</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>サイドトレイ</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手差し</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>バイパストレイ</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>大容量トレイ</translation>
+    </message>
+    <message>
+        <source>Envelope feed</source>
+        <translation>封筒フィーダー</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>ディスクトレイ</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>Second roll</source>
+        <translation>ロール 2</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Thin paper</source>
+        <translation>薄紙</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>厚紙</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>インクジェット用紙</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>コート紙</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>レターヘッド</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>上質紙</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>高光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>半光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>サテン写真用紙</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>マット写真用紙</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>写真用フィルム</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>カード紙</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>OHP フィルム</translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>トレイ %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>ロール %1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>トレイ</translation>
+    </message>
+</context>
+<context>
+    <name>TraysInWords</name>
+    <message>
+        <source>%1 mm wide</source>
+        <translation>幅 %1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in wide</source>
+        <translation>幅 %1 インチ</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in the tray</source>
+        <translation>未セット: トレイに %1 が必要です</translation>
+    </message>
+    <message>
+        <source>not loaded: needs %1 in &quot;%2&quot;</source>
+        <translation>未セット:「%2」に %1 が必要です</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not in &quot;%2&quot;, but in &quot;%3&quot;.</source>
+        <translation>用紙サイズ「%1」は「%2」ではなく「%3」にあります。</translation>
+    </message>
+    <message>
+        <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
+        <translation>用紙サイズ「%1」はセットされていません。「%3」にあるのは「%2」です。</translation>
+    </message>
+</context>
+<context>
+    <name>UserJobs</name>
+    <message>
+        <source>Waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Waiting: the printer is paused</source>
+        <translation>待機中: プリンターが一時停止しています</translation>
+    </message>
+    <message>
+        <source>Held: the printer wants a name and a password</source>
+        <translation>保留中: プリンターに名前とパスワードが必要です</translation>
+    </message>
+    <message>
+        <source>Held</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>キャンセル済み</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Printed</source>
+        <translation>印刷済み</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>The print server does not let you cancel job %1. Ask whoever looks after it.</source>
+        <translation>プリントサーバーでジョブ %1 のキャンセルが許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you hold job %1. Ask whoever looks after it.</source>
+        <translation>プリントサーバーでジョブ %1 の保留が許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you release job %1. Ask whoever looks after it.</source>
+        <translation>プリントサーバーでジョブ %1 の再開が許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you print job %1 again. Ask whoever looks after it.</source>
+        <translation>プリントサーバーでジョブ %1 の再印刷が許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you sign in for job %1. Ask whoever looks after it.</source>
+        <translation>プリントサーバーでジョブ %1 のサインインが許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>The print server does not let you move job %1 to another printer. Ask whoever looks after it.</source>
+        <translation>プリントサーバーでジョブ %1 を別のプリンターに移すことが許可されていません。管理者にお尋ねください。</translation>
+    </message>
+    <message>
+        <source>Job %1 or the printer &quot;%2&quot; is not on the print server any more.</source>
+        <translation>ジョブ %1 またはプリンター「%2」はもうプリントサーバーにありません。</translation>
+    </message>
+    <message>
+        <source>Job %1 is not on the print server any more.</source>
+        <translation>ジョブ %1 はもうプリントサーバーにありません。</translation>
+    </message>
+    <message>
+        <source>That cannot be done with job %1 as it is now: it may have gone on or ended, or the print server has not kept its pages.</source>
+        <translation>今の状態のジョブ %1 にはできません。先に進んだか終わったか、プリントサーバーにページが残っていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::AccessDialogs</name>
+    <message>
+        <source>Trust this print server?</source>
+        <translation>このプリントサーバーを信頼しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Trust It from Now On</source>
+        <translation>今後は信頼する(&amp;T)</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +2759,10 @@
         <source>None of the files can be printed.</source>
         <translation>印刷できるファイルがありません。</translation>
     </message>
+    <message>
+        <source>Stopped, but the print server does not answer: a part of the job may still be on the queue &quot;%1&quot;. Look at it before you print again.</source>
+        <translation>停止しましたが、プリントサーバーが応答しません。ジョブの一部がキュー「%1」に残っている可能性があります。もう一度印刷する前にご確認ください。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::ChoiceList</name>
@@ -1549,28 +2778,8 @@
         <translation>黒点を補正</translation>
     </message>
     <message>
-        <source>The printer manages colours</source>
-        <translation>プリンターが色を管理</translation>
-    </message>
-    <message>
-        <source>This program manages colours</source>
-        <translation>このプログラムが色を管理</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>色</translation>
-    </message>
-    <message>
-        <source>Colour profile</source>
-        <translation>カラープロファイル</translation>
-    </message>
-    <message>
         <source>Rendering intent</source>
         <translation>レンダリングインテント</translation>
-    </message>
-    <message>
-        <source>What becomes of colours that the printer cannot show</source>
-        <translation>プリンターで再現できない色の扱い</translation>
     </message>
     <message>
         <source>The photo&apos;s darkest tone becomes the paper&apos;s darkest</source>
@@ -1589,11 +2798,55 @@
         <translation>別のファイル...</translation>
     </message>
     <message>
-        <source>Choose a Colour Profile</source>
+        <source>So&amp;ft proof</source>
+        <translation>ソフトプルーフ(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Paper white</source>
+        <translation>用紙の白</translation>
+    </message>
+    <message>
+        <source>Gamut warning</source>
+        <translation>色域警告</translation>
+    </message>
+    <message>
+        <source>The printer manages colors</source>
+        <translation>プリンターが色を管理</translation>
+    </message>
+    <message>
+        <source>This program manages colors</source>
+        <translation>このプログラムが色を管理</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>カラープロファイル</translation>
+    </message>
+    <message>
+        <source>What becomes of colors that the printer cannot show</source>
+        <translation>プリンターで再現できない色の扱い</translation>
+    </message>
+    <message>
+        <source>The preview shows the paper&apos;s own white and the deepest black on it</source>
+        <translation>用紙そのものの白と、その用紙で出せる最も深い黒をプレビューに表示します</translation>
+    </message>
+    <message>
+        <source>The preview paints over in pink what the printer cannot show</source>
+        <translation>プリンターで再現できない部分をプレビューでピンクに塗ります</translation>
+    </message>
+    <message>
+        <source>The preview shows what the photo will look like on paper</source>
+        <translation>用紙に印刷した写真の見え方をプレビューに表示します</translation>
+    </message>
+    <message>
+        <source>Choose a Color Profile</source>
         <translation>カラープロファイルを選択</translation>
     </message>
     <message>
-        <source>Colour profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
+        <source>Color profiles (*.icc *.icm *.ICC *.ICM);;All files (*)</source>
         <translation>カラープロファイル (*.icc *.icm *.ICC *.ICM);;すべてのファイル (*)</translation>
     </message>
 </context>
@@ -1693,6 +2946,14 @@
         <source>There is no photo to print. Open the dialog with one.</source>
         <translation>印刷する写真がありません。写真を指定してダイアログを開いてください。</translation>
     </message>
+    <message>
+        <source>All photos are left out. Include at least one of them.</source>
+        <translation>すべての写真が除外されています。少なくとも 1 枚を含めてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
+        <translation>「%1」の用紙が変わったため、ページも合わせました: %2、%3。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::DocumentSpool</name>
@@ -1707,6 +2968,14 @@
     <message>
         <source>No file can be made for the document in &quot;%1&quot;. Make sure that you may write there, and print it once more.</source>
         <translation>「%1」に文書のファイルを作れません。書き込みの権限を確認して、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The application has gone before its document was whole. Print it once more.</source>
+        <translation>文書がすべて届く前にアプリケーションが終了しました。もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The computer is too busy to take the document. Close something, and print it once more.</source>
+        <translation>コンピューターの負荷が高く、文書を受け取れません。何か閉じてから、もう一度印刷してください。</translation>
     </message>
 </context>
 <context>
@@ -1821,6 +3090,118 @@
     <message>
         <source>Pages before and after the job are decided on the page &quot;%1&quot;.</source>
         <translation>ジョブの前後に付けるページは「%1」のページで決めます。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobRows</name>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ数</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送信日時</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsButton</name>
+    <message>
+        <source>Jobs...</source>
+        <translation>ジョブ...</translation>
+    </message>
+    <message>
+        <source>Your jobs on this printer</source>
+        <translation>このプリンターの自分のジョブ</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::JobsWindow</name>
+    <message>
+        <source>Show jobs that have ended</source>
+        <translation>終わったジョブも表示</translation>
+    </message>
+    <message>
+        <source>Your Jobs on %1</source>
+        <translation>%1 の自分のジョブ</translation>
+    </message>
+    <message>
+        <source>Your jobs</source>
+        <translation>自分のジョブ</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブをキャンセル</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Release</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Print Again</source>
+        <translation>もう一度印刷</translation>
+    </message>
+    <message>
+        <source>Sign In...</source>
+        <translation>サインイン...</translation>
+    </message>
+    <message>
+        <source>Move To</source>
+        <translation>移動先</translation>
+    </message>
+    <message>
+        <source>Asking the print server...</source>
+        <translation>プリントサーバーに問い合わせています...</translation>
+    </message>
+    <message>
+        <source>You have no jobs on this printer.</source>
+        <translation>このプリンターに自分のジョブはありません。</translation>
+    </message>
+    <message>
+        <source>The print server has no other printer</source>
+        <translation>プリントサーバーに他のプリンターはありません</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::LoginDialog</name>
+    <message>
+        <source>Send it &amp;all the same</source>
+        <translation>それでも送る(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Remember it in the keyring</source>
+        <translation>キーリングに保存(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>サインイン</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>サインイン(&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -2007,6 +3388,10 @@
         <source>%1 is one of the files to print. Choose another name.</source>
         <translation>%1 は印刷するファイルの 1 つです。別の名前を選んでください。</translation>
     </message>
+    <message>
+        <source>That folder goes when this window is closed. Choose another one.</source>
+        <translation>このフォルダーはウィンドウを閉じると消えます。別のフォルダーを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PageRangeRow</name>
@@ -2089,6 +3474,10 @@
         <source>About the Photo</source>
         <translation>写真の情報</translation>
     </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PaperPage</name>
@@ -2161,7 +3550,11 @@
         <translation>拡大縮小(&amp;S):</translation>
     </message>
     <message>
-        <source>Co&amp;lours:</source>
+        <source>Loaded:</source>
+        <translation>セット済み:</translation>
+    </message>
+    <message>
+        <source>Co&amp;lors:</source>
         <translation>色(&amp;C):</translation>
     </message>
 </context>
@@ -2198,6 +3591,10 @@
         <source>%1 pages were written to &quot;%2&quot;.</source>
         <translation>%1 ページを「%2」に書き込みました。</translation>
     </message>
+    <message>
+        <source>The computer is too busy to write the file. Close something and try again.</source>
+        <translation>コンピューターの負荷が高く、ファイルを書き込めません。何か閉じてから、もう一度お試しください。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PhotoAdding</name>
@@ -2224,6 +3621,13 @@
     <message>
         <source>The picture cannot be kept in a temporary file. Make room on the disk.</source>
         <translation>画像を一時ファイルに保存できません。ディスクの空きを増やしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoLoader</name>
+    <message>
+        <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
+        <translation>コンピューターの負荷が高く、「%1」を今は読めません。何か閉じてから、もう一度開いてください。</translation>
     </message>
 </context>
 <context>
@@ -2315,6 +3719,14 @@
     <message>
         <source>Rating:</source>
         <translation>評価:</translation>
+    </message>
+    <message>
+        <source>CMYK without a profile; taken as ideal inks</source>
+        <translation>プロファイルなしの CMYK (理想的なインクとみなします)</translation>
+    </message>
+    <message>
+        <source>Gray without a profile; taken as sRGB</source>
+        <translation>プロファイルなしのグレー (sRGB とみなします)</translation>
     </message>
 </context>
 <context>
@@ -2715,6 +4127,10 @@
         <source>The application makes its pages afterwards, for this sheet.</source>
         <translation>アプリケーションはこのあと、この用紙に合わせてページを作成します。</translation>
     </message>
+    <message>
+        <source>Sign &amp;In...</source>
+        <translation>サインイン(&amp;N)...</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -2746,6 +4162,20 @@
         <source>%1 photos were printed in %2 jobs, %3 to %4.</source>
         <translation>%1 枚の写真を %2 件のジョブ (%3 から %4) で印刷しました。</translation>
     </message>
+    <message>
+        <source>The computer is too busy to send it. Close something and try again.</source>
+        <translation>コンピューターの負荷が高く、送信できません。何か閉じてから、もう一度お試しください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Cancelled when %n job(s) had been printed already.</source>
+        <translation>
+            <numerusform>キャンセルしました。すでに %n 件のジョブを印刷しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
+        <translation>停止しました。次のジョブはキュー「%1」に残っています: %2。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintService</name>
@@ -2767,6 +4197,57 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>アプリケーションが覚えているプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PrinterPage</name>
+    <message>
+        <source>State:</source>
+        <translation>状態:</translation>
+    </message>
+    <message>
+        <source>What to do:</source>
+        <translation>対処方法:</translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation>開始日時:</translation>
+    </message>
+    <message>
+        <source>Jobs ahead:</source>
+        <translation>先のジョブ:</translation>
+    </message>
+    <message>
+        <source>Printers in it:</source>
+        <translation>含まれるプリンター:</translation>
+    </message>
+    <message>
+        <source>Supplies:</source>
+        <translation>消耗品:</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not on the print server</source>
+        <translation>プリントサーバーにありません</translation>
+    </message>
+    <message>
+        <source>Nothing is known of it yet.</source>
+        <translation>まだ情報がありません。</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>The printer tells more of itself than can be shown here.</source>
+        <translation>プリンターからの情報が多く、ここにすべては表示できません。</translation>
+    </message>
+    <message>
+        <source>The printer does not say what is left of its ink or toner.</source>
+        <translation>プリンターはインクやトナーの残量を知らせません。</translation>
     </message>
 </context>
 <context>
@@ -2820,6 +4301,13 @@
     <message>
         <source>Nothing here is called &quot;%1&quot;.</source>
         <translation>「%1」という名前のものはここにありません。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SentJob</name>
+    <message>
+        <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
+        <translation>文書は印刷されませんでした。プリントサーバーにすべて届く前にセッションが終わりました。もう一度印刷してください。</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +4394,20 @@
     <message>
         <source>%1 more are in the list of all other settings.</source>
         <translation>ほか %1 件は「その他のすべての設定」の一覧にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::SupplyBars</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::TrayRows</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>
