@@ -188,7 +188,8 @@ private:
         if (chosen < job_.pages)
             add(Words::tr("pages %1 of %2").arg(rangesOf(job_.chosen), number(job_.pages, 0)));
         else if (chosen > 1)
-            add(Words::tr("%1 pages").arg(number(chosen, 0)));
+            add((job_.layout.isEmpty() ? Words::tr("%1 pages") : Words::tr("%1 photos"))
+                    .arg(number(chosen, 0)));
         add(job_.layout);
         if (job_.isReversed && chosen > 1)
             add(Words::tr("last page first"));

@@ -13,6 +13,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <utility>
 
 // A resource in a static library has to be asked for, outside any namespace.
 static void initLayouts()
@@ -33,6 +34,15 @@ constexpr qsizetype kMostFiles = 200;
 constexpr int kLongestName = 80;
 const QString kSuffix = QStringLiteral(".json");
 const QString kProgramsFolder = QStringLiteral(":/halvern/layouts");
+
+// As people look for them: tables by how many they take, then sizes, then the rest.
+bool isBefore(const Layout& one, const Layout& other)
+{
+    const auto rank = [](const Layout& layout) {
+        return std::pair(layout.kind, layout.rows * layout.columns);
+    };
+    return rank(one) < rank(other);
+}
 
 ReadLayout readFile(const QString& path)
 {
@@ -98,6 +108,8 @@ void LayoutLibrary::readAgain()
                 problems_.append(
                     Words::tr("The layout %1 was left out. %2").arg(displayText(path), read.problem));
         }
+        if (folder == kProgramsFolder)
+            std::ranges::stable_sort(layouts_, isBefore);
     }
 }
 

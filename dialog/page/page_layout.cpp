@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kLeastLength = 1.0;
 constexpr double kCutTolerance = 0.01;
+constexpr double kDot = 0.5; // points, of a coarse printer
 
 QSizeF sane(const QSizeF& size)
 {
@@ -96,10 +97,10 @@ void layInFrame(PageLayout& layout, const FramedPhoto& photo)
     const QPointF corner(layout.frame.left() + room.width() * position.x(),
                          layout.frame.top() + room.height() * position.y());
     layout.photo = QRectF(corner, size);
-    const double tolerance = kCutTolerance;
-    const QRectF held = layout.photo.intersected(layout.frame);
-    layout.isCut = room.width() < -tolerance || room.height() < -tolerance ||
-                   !layout.imageable.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(held);
+    // A place that begins at a whole dot may begin a little before the printer does.
+    const QRectF printed = layout.imageable.adjusted(-kDot, -kDot, kDot, kDot);
+    layout.isCut = room.width() < -kCutTolerance || room.height() < -kCutTolerance ||
+                   !printed.contains(layout.photo.intersected(layout.frame));
 }
 
 PageLayout layOut(const LayoutRequest& request)

@@ -322,7 +322,8 @@ void paintMarks(QPainter& painter, const Sheet& sheet, const QStringList& captio
 {
     painter.save();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::black, kThinLine));
+    // On a screen that shows it whole a quarter of a point would be nothing.
+    painter.setPen(QPen(Qt::black, 0.0));
     for (const QLineF& mark : sheet.cutMarks)
         painter.drawLine(mark);
     for (size_t i = 0; i < sheet.photos.size(); ++i) {

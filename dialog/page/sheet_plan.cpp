@@ -254,11 +254,17 @@ private:
         plan_.sheets.push_back(std::move(sheet));
     }
 
-    // At each corner of each place, outwards, where no photo is in the way.
+    // A caption is cut out with its photo.
+    static QRectF cutRect(const PlacedPhoto& placed)
+    {
+        return placed.caption.isEmpty() ? placed.outline : placed.cell;
+    }
+
+    // At each corner of what is cut out, outwards, where no photo is in the way.
     static void addCutMarks(Sheet& sheet)
     {
         for (const PlacedPhoto& placed : sheet.photos) {
-            const QRectF& cell = placed.cell;
+            const QRectF cell = cutRect(placed);
             const std::array<std::pair<QPointF, QPointF>, 4> corners{
                 std::pair{cell.topLeft(), QPointF(-1.0, -1.0)},
                 {cell.topRight(), QPointF(1.0, -1.0)},
@@ -280,8 +286,8 @@ private:
             const QRectF room =
                 QRectF(from, to).normalized().adjusted(-near / 2.0, -near / 2.0, near / 2.0, near / 2.0);
             const bool isFree = std::ranges::none_of(
-                sheet.photos, [&](const PlacedPhoto& other) { return other.cell.intersects(room); });
-            if (isFree && sheet.page.imageable.contains(QRectF(from, to).normalized())) {
+                sheet.photos, [&](const PlacedPhoto& other) { return cutRect(other).intersects(room); });
+            if (isFree && sheet.page.imageable.contains(from) && sheet.page.imageable.contains(to)) {
                 sheet.cutMarks.push_back({from, to});
                 return;
             }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/preview/preview_widget.h"
 
-#include "dialog/page/page_renderer.h"
+#include "dialog/preview/crop_editor.h"
 #include "dialog/preview/monitor_profile.h"
 #include "dialog/preview/screen_converter.h"
 #include "dialog/preview/sharp_photo_reader.h"
 #include "dialog/preview/sheet_paint.h"
+#include "dialog/preview/sheet_photos.h"
 #include "dialog/preview/small_copies.h"
 #include "platform/foundation/units.h"
 #include "platform/toolkit/plain_text.h"
@@ -66,13 +67,24 @@ PreviewWidget::PreviewWidget(QWidget* parent)
       copies_(new SmallCopies(this)),
       converter_(new ScreenConverter(this)),
       monitor_(new MonitorProfile(this)),
-      zoomButton_(new QToolButton(this))
+      others_(new SheetPhotos(this)),
+      crop_(new CropEditor(this)),
+      zoomButton_(new QToolButton(this)),
+      cropButton_(new QToolButton(this)),
+      backButton_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("preview"));
     setAccessibleName(tr("Preview"));
     setMinimumSize(300, 300);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusPolicy(Qt::StrongFocus);
+    makeButtons();
+    connectReaders();
+    showState();
+}
+
+void PreviewWidget::makeButtons()
+{
     zoomButton_->setObjectName(QStringLiteral("zoomButton"));
     zoomButton_->setText(QStringLiteral("1:1"));
     zoomButton_->setCheckable(true);
@@ -80,6 +92,26 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     zoomButton_->setToolTip(
         tr("Show a screen pixel for each printer dot (double-click the photo, or press Z in the preview)"));
     connect(zoomButton_, &QToolButton::clicked, this, [this](bool on) { setZoomed(on); });
+    cropButton_->setObjectName(QStringLiteral("cropButton"));
+    cropButton_->setText(tr("Crop"));
+    cropButton_->setCheckable(true);
+    cropButton_->setToolTip(tr("Choose the part of the photo that is printed (press C in the preview)"));
+    connect(cropButton_, &QToolButton::clicked, this, &PreviewWidget::setCropping);
+    backButton_->setObjectName(QStringLiteral("backButton"));
+    backButton_->setText(tr("Back"));
+    backButton_->setCheckable(true);
+    backButton_->setToolTip(tr("Show what is printed on the back of the picture"));
+    connect(backButton_, &QToolButton::clicked, this, &PreviewWidget::setBack);
+    connect(crop_, &CropEditor::placementChosen, this, &PreviewWidget::placementChosen);
+    connect(crop_, &CropEditor::sameForAllAsked, this, &PreviewWidget::cropAllAsked);
+    connect(crop_, &CropEditor::doneAsked, this, [this] {
+        setCropping(false);
+        setFocus(Qt::OtherFocusReason);
+    });
+}
+
+void PreviewWidget::connectReaders()
+{
     connect(reader_, &SharpPhotoReader::ready, this, [this](const QImage& detail) {
         screen_.setDetail(detail);
         showState();
@@ -89,14 +121,19 @@ PreviewWidget::PreviewWidget(QWidget* parent)
         showState();
     });
     connect(copies_, &SmallCopies::ready, this, [this](const QImage& copy) {
+        copy_ = copy;
         screen_.setPreview(copy);
         showState();
     });
+    connect(others_, &SheetPhotos::changed, this, [this] {
+        wantOthers();
+        update();
+    });
+    connect(others_, &SheetPhotos::damageFound, this, &PreviewWidget::damageFound);
     connect(copies_, &SmallCopies::damageFound, this, &PreviewWidget::damageFound);
     connect(copies_, &SmallCopies::failed, this, &PreviewWidget::failed);
     connect(converter_, &ScreenConverter::ready, this, qOverload<>(&QWidget::update));
     connect(monitor_, &MonitorProfile::changed, this, &PreviewWidget::planColours);
-    showState();
 }
 
 QSize PreviewWidget::sizeHint() const
@@ -112,10 +149,13 @@ void PreviewWidget::showPage(const PreviewPage& page)
     page_ = page;
     blank_.reset();
     planColours();
-    screen_.setPreview(copies_->find(page.photo));
+    copy_ = copies_->find(page.photo);
+    hasPage_ = true;
+    wantOthers();
+    // A small one from its place on the sheet will do until then.
+    screen_.setPreview(copy_.isNull() ? others_->image(page.photo) : copy_);
     screen_.setLook(page.look);
     text_.clear();
-    hasPage_ = true;
     if (isZoomed_) {
         keepPageInView();
         readDetail();
@@ -139,6 +179,7 @@ void PreviewWidget::showSheet(const BlankSheet& sheet)
     text_.clear();
     hasPage_ = true;
     isZoomed_ = false;
+    isCropping_ = false;
     showState();
 }
 
@@ -151,6 +192,7 @@ void PreviewWidget::showText(const QString& text)
 {
     text_ = displayText(text);
     hasPage_ = false;
+    isCropping_ = false;
     blank_.reset();
     setZoomed(false);
 }
@@ -161,7 +203,17 @@ void PreviewWidget::showState()
     setCursor(canMove || isZoomed_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
     setToolTip(canMove ? tr("Drag the photo to choose what is cut away") : QString());
     setPlainDescription(this, hasPage_ ? described().join(QStringLiteral(". ")) : text_);
-    zoomButton_->setVisible(hasPage_ && !blank_);
+    zoomButton_->setVisible(hasPage_ && !blank_ && !isCropping_);
+    isBack_ = isBack_ && !page_.back.isEmpty() && !isZoomed_ && !isCropping_;
+    cropButton_->setVisible(hasPage_ && !blank_ && !isCropping_);
+    backButton_->setVisible(hasPage_ && !blank_ && !isCropping_ && !page_.back.isEmpty());
+    backButton_->setChecked(isBack_);
+    cropButton_->setChecked(isCropping_);
+    crop_->setVisible(isCropping_);
+    if (isCropping_) {
+        crop_->setGeometry(rect());
+        crop_->edit(page_.photo, page_.layout, screen_.preview());
+    }
     update();
 }
 
@@ -181,8 +233,33 @@ void PreviewWidget::resizeEvent(QResizeEvent*)
     zoomButton_->setGeometry(
         QRect(QPoint(width() - size.width() - kCaptionRoom, height() - (captionHeight() + size.height()) / 2),
               size));
+    const QSize crop = cropButton_->sizeHint();
+    cropButton_->setGeometry(
+        QRect(QPoint(kCaptionRoom, height() - (captionHeight() + crop.height()) / 2), crop));
+    backButton_->setGeometry(cropButton_->geometry().translated(crop.width() + kCaptionRoom / 2, 0));
+    backButton_->resize(backButton_->sizeHint());
+    crop_->setGeometry(rect());
     if (isZoomed_)
         keepPageInView();
+    if (hasPage_ && !blank_)
+        wantOthers();
+}
+
+void PreviewWidget::setCropping(bool isCropping)
+{
+    isCropping_ = isCropping && hasPage_ && !blank_;
+    if (isCropping_)
+        setZoomed(false);
+    showState();
+    if (isCropping_)
+        crop_->setFocus(Qt::OtherFocusReason);
+}
+
+void PreviewWidget::setBack(bool isBack)
+{
+    setZoomed(false);
+    isBack_ = isBack;
+    showState();
 }
 
 QRectF PreviewWidget::sheetRect() const
@@ -218,6 +295,8 @@ QString PreviewWidget::stateCaption() const
         return tr("Reading the photo...");
     if (page_.photo.isDamaged)
         return tr("A part of this photo is missing");
+    if (looksSoft(page_.layout, page_.photo))
+        return resolutionText(page_.layout, page_.photo);
     const bool showsSharpening = page_.look.sharpens() && isZoomed_;
     if (page_.look.changesColors() || showsSharpening)
         return tr("The printer's adjustments, approximated on the screen");
@@ -226,6 +305,8 @@ QString PreviewWidget::stateCaption() const
 
 QStringList PreviewWidget::captions() const
 {
+    if (isBack_)
+        return {tr("The back of the picture, as the printer writes on it")};
     QStringList lines{sizeCaption(), colorCaption()};
     if (blank_)
         lines = {pageSizeText(page_.layout.page)};
@@ -242,17 +323,21 @@ void PreviewWidget::paintSheet(QPainter& painter)
     painter.save();
     painter.translate(sheet.topLeft());
     painter.scale(scale, scale);
-    const QSizeF pixels = layout.photo.size() * (scale * devicePixelRatioF());
-    const QImage& photo = screen_.whole({qCeil(pixels.width()), qCeil(pixels.height())});
-    const QImage& shown = converter_->find({photo, {}}).image;
-    paintPage(painter, layout, shown.isNull() ? photo : shown, converter_->paper());
+    painter.fillRect(QRectF(QPointF(), layout.page), converter_->paper());
+    paintSheetsPhotos(painter, scale * devicePixelRatioF());
     paintMargins(painter, layout);
+    if (page_.hasOthers()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0 / scale));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(page_.sheet.sheet.photos[page_.current].cell);
+    }
     painter.restore();
 }
 
 void PreviewWidget::paintCaptions(QPainter& painter) const
 {
-    const int side = zoomButton_->width() + 2 * kCaptionRoom;
+    const int left = cropButton_->width() + (page_.back.isEmpty() ? 0 : backButton_->width());
+    const int side = std::max(zoomButton_->width(), left) + 2 * kCaptionRoom;
     const int line = fontMetrics().lineSpacing();
     QRect room(side, height() - captionHeight() + kCaptionRoom, width() - 2 * side, line);
     const QStringList lines = captions();
@@ -279,6 +364,8 @@ void PreviewWidget::paintEvent(QPaintEvent*)
         paintBlank(painter);
     else if (isZoomed_)
         paintDots(painter);
+    else if (isBack_)
+        paintBack(painter);
     else
         paintSheet(painter);
     painter.setPen(inkOn(background));
@@ -292,6 +379,10 @@ void PreviewWidget::paintEvent(QPaintEvent*)
 void PreviewWidget::mousePressEvent(QMouseEvent* event)
 {
     lastMouse_ = event->position();
+    if (!isZoomed_ && event->button() == Qt::LeftButton) {
+        if (const std::optional<size_t> place = placeAt(event->position()); place && *place != page_.current)
+            Q_EMIT photoChosen(*place);
+    }
     if (isZoomed_ && event->button() == Qt::LeftButton)
         setCursor(Qt::ClosedHandCursor);
 }
@@ -318,12 +409,15 @@ void PreviewWidget::movePhoto(const QPointF& by)
 {
     const PageLayout& layout = page_.layout;
     const double scale = sheetRect().width() / layout.page.width();
-    const QSizeF room = layout.imageable.size() - layout.photo.size();
-    const QPointF offset = layout.photo.topLeft() - layout.imageable.topLeft() + by / scale;
+    const QSizeF room = layout.frame.size() - layout.photo.size();
+    const QPointF offset = layout.photo.topLeft() - layout.frame.topLeft() + by / scale;
     const auto share = [](double at, double all) {
         return qAbs(all) < 0.01 ? 0.5 : std::clamp(at / all, 0.0, 1.0);
     };
-    Q_EMIT positionChosen({share(offset.x(), room.width()), share(offset.y(), room.height())});
+    PhotoPlacement placement = page_.photo.placement;
+    placement.position = positionOfPhoto({share(offset.x(), room.width()), share(offset.y(), room.height())},
+                                         layout.layoutsTurns);
+    Q_EMIT placementChosen(placement);
 }
 
 } // namespace halvern

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "dialog/page/page_layout.h"
-#include "dialog/page/photo.h"
+#include "dialog/page/page_renderer.h"
 #include "dialog/page/screen_colours.h"
 #include "dialog/preview/screen_photo.h"
 #include "platform/foundation/units.h"
@@ -16,9 +15,11 @@ class QToolButton;
 
 namespace halvern {
 
+class CropEditor;
 class MonitorProfile;
 class ScreenConverter;
 class SharpPhotoReader;
+class SheetPhotos;
 class SmallCopies;
 
 /// A page for the preview.
@@ -27,8 +28,13 @@ struct PreviewPage {
     Photo photo;
     int resolution = kUsualResolution; ///< dots per inch of the printer
     Look look;
-    ScreenPlan screen;  ///< without the screen's profile: the preview knows that itself
-    QString proofWords; ///< what is simulated; empty: nothing
+    ScreenPlan screen;       ///< without the screen's profile: the preview knows that itself
+    QString proofWords;      ///< what is simulated; empty: nothing
+    SheetToPrint sheet = {}; ///< with other photos; without any the photo is alone
+    size_t current = 0;      ///< the photo's place on it
+    QStringList back = {};   ///< the lines that are printed on its back
+
+    bool hasOthers() const { return sheet.photos.size() > 1; }
 };
 
 /// A sheet whose page nobody here knows.
@@ -68,14 +74,28 @@ public:
 
     QToolButton* zoomButton() const { return zoomButton_; }
 
+    /// Shows the whole photo with a frame around what is printed of it, or the sheet again.
+    void setCropping(bool isCropping);
+
+    QToolButton* cropButton() const { return cropButton_; }
+
+    /// Shows what is printed on the back, or the front again.
+    void setBack(bool isBack);
+
+    QToolButton* backButton() const { return backButton_; }
+
     /// The two lines under the page: its size, and what the colours are.
     QStringList captions() const;
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user drags the photo's cut or place: 0 to 1 each way.
-    void positionChosen(const QPointF& position);
+    /// The user drags the photo's cut or place, or crops or turns it.
+    void placementChosen(const halvern::PhotoPlacement& placement);
+    /// The user gives all photos this one's crop.
+    void cropAllAsked();
+    /// The user points at another photo of the sheet.
+    void photoChosen(size_t place);
     /// A photo that was read to be shown lacks a part.
     void damageFound(const QString& path, int page);
     /// The photo cannot be read any more; a sentence.
@@ -95,6 +115,14 @@ private:
     void paintSheet(QPainter& painter);
     void paintDots(QPainter& painter);
     void paintBlank(QPainter& painter);
+    void paintBack(QPainter& painter);
+    void paintSheetsPhotos(QPainter& painter, double scale);
+    void paintOthers(QPainter& painter, double scale);
+    void wantOthers();
+    QStringList photoCaptions() const;
+    std::optional<size_t> placeAt(const QPointF& position) const;
+    void makeButtons();
+    void connectReaders();
     void paintCaptions(QPainter& painter) const;
     QRect viewRect() const;
     int captionHeight() const;
@@ -107,6 +135,8 @@ private:
     void keepPageInView();
     double dotsPerPoint() const;
     QRect photoInDots() const;
+    QSize storedDots() const;
+    QImage turnedPart(const QRect& dots);
     void readDetail();
     void showState();
     void planColours();
@@ -117,12 +147,20 @@ private:
     SmallCopies* copies_;
     ScreenConverter* converter_;
     MonitorProfile* monitor_;
+    SheetPhotos* others_;
+    std::vector<ScreenPhoto> otherScreens_; // by their places on the sheet
+    CropEditor* crop_;
+    QImage copy_; // the photo's, null as long as it is read
     QToolButton* zoomButton_;
+    QToolButton* cropButton_;
+    QToolButton* backButton_;
     QString text_;
     QString detailProblem_;
     std::optional<BlankSheet> blank_; // with hasPage_
     bool hasPage_ = false;
     bool isZoomed_ = false;
+    bool isCropping_ = false;
+    bool isBack_ = false;
     QPointF middle_; // of the view at 1:1, in points of the page
     QPointF lastMouse_;
 };

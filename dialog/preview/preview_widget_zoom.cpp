@@ -42,6 +42,29 @@ QRect PreviewWidget::photoInDots() const
     return {dots.topLeft(), dots.size().expandedTo(QSize(1, 1))};
 }
 
+QSize PreviewWidget::storedDots() const
+{
+    const QSize dots = photoInDots().size();
+    return page_.layout.quarterTurns % 2 != 0 ? dots.transposed() : dots;
+}
+
+// A window of the photo as it lies on the page, from the photo as it is stored upright.
+QImage PreviewWidget::turnedPart(const QRect& dots)
+{
+    const QSize stored = storedDots();
+    const int turns = page_.layout.quarterTurns;
+    QRect window = dots;
+    if (turns == 1)
+        window = {dots.y(), stored.height() - dots.right() - 1, dots.height(), dots.width()};
+    else if (turns == 2)
+        window = {stored.width() - dots.right() - 1, stored.height() - dots.bottom() - 1, dots.width(),
+                  dots.height()};
+    else if (turns == 3)
+        window = {stored.width() - dots.bottom() - 1, dots.x(), dots.height(), dots.width()};
+    const QImage& part = screen_.part(stored, window);
+    return turns == 0 ? part : part.transformed(QTransform().rotate(90.0 * turns));
+}
+
 bool PreviewWidget::isReadingDetail() const
 {
     return reader_->isReading();
@@ -66,7 +89,7 @@ void PreviewWidget::setZoomed(bool zoomed, std::optional<QPointF> around)
 
 void PreviewWidget::readDetail()
 {
-    reader_->read(page_.photo, photoInDots().size());
+    reader_->read(page_.photo, storedDots());
     if (reader_->isReading()) {
         detailProblem_.clear();
         screen_.setDetail({});
@@ -105,14 +128,22 @@ void PreviewWidget::paintDots(QPainter& painter)
     painter.setClipRect(view);
     const QSizeF page = page_.layout.page * scale;
     painter.fillRect(toWidget(QRectF(QPointF(), page)), converter_->paper());
+    painter.save();
+    painter.translate(toWidget(QRectF(QPointF(), page)).topLeft());
+    painter.scale(scale / ratio, scale / ratio);
+    paintOthers(painter, scale);
+    paintMarks(painter, page_.sheet.sheet, photoCaptions());
+    painter.restore();
     const QRectF visible = page_.layout.visible();
     const QRect shown = QRectF(visible.topLeft() * scale, visible.size() * scale).toAlignedRect();
     const QRect photo = photoInDots();
     const QRect seen = window.intersected(shown).intersected(photo);
     if (!seen.isEmpty()) {
-        const ScreenConverter::Piece fresh{screen_.part(photo.size(), seen.translated(-photo.topLeft())),
-                                           seen.translated(-photo.topLeft())};
-        const ScreenConverter::Piece& shown = converter_->find(fresh);
+        const QRect place = seen.translated(-photo.topLeft());
+        const ScreenConverter::Piece fresh{turnedPart(place), place};
+        // A turned part is a new picture each time, and would be converted again each time.
+        const ScreenConverter::Piece& shown =
+            page_.layout.quarterTurns == 0 ? converter_->find(fresh) : fresh;
         // Moments ago the window lay elsewhere.
         painter.setClipRect(toWidget(seen), Qt::IntersectClip);
         for (ScreenConverter::Piece piece : {fresh, shown}) {
@@ -149,6 +180,8 @@ void PreviewWidget::keyPressEvent(QKeyEvent* event)
     const int key = event->key();
     if (key == Qt::Key_Z && hasPage_ && !(event->modifiers() & ~Qt::ShiftModifier)) {
         setZoomed(!isZoomed_);
+    } else if (key == Qt::Key_C && hasPage_ && !(event->modifiers() & ~Qt::ShiftModifier)) {
+        setCropping(true);
     } else if (!isZoomed_) {
         QWidget::keyPressEvent(event);
     } else if (key == Qt::Key_Left || key == Qt::Key_Right) {

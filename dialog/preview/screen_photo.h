@@ -16,6 +16,8 @@ public:
     /// The small copy that is always there.
     void setPreview(const QImage& preview);
 
+    const QImage& preview() const { return preview_; }
+
     /// The copy for part(); null: there is none yet.
     void setDetail(const QImage& detail) { detail_ = detail; }
 

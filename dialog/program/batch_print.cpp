@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/batch_print.h"
 
+#include "dialog/session/sheet_words.h"
 #include "platform/foundation/display_text.h"
 
 #include <QTimer>
@@ -98,7 +99,9 @@ void BatchPrint::proceed()
     const bool isComplete = session_.hasPhotos() && session_.model() && session_.printerList().hasAnswer();
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;
-    if (const QString problem = session_.chosenPages().problem; !problem.isEmpty()) {
+    const QString choice = session_.chosenPages().problem;
+    if (const QString problem = choice.isEmpty() ? session_.sheetPlan().problem : choice;
+        !problem.isEmpty()) {
         fail(problem);
         return;
     }
@@ -123,6 +126,8 @@ void BatchPrint::tellOptions()
     const OptionValues options = session_.collectOptions();
     for (const OptionValue& option : options)
         writeLine(out_, option.key + QLatin1Char('=') + option.value);
+    if (!(session_.page().sheets == SheetSettings()))
+        writeLines(err_, sheetLines(session_.sheetPlan(), session_.photos()).join(QLatin1Char('\n')));
     end(kExitPrinted);
 }
 

@@ -7,6 +7,7 @@
 #include "dialog/photo/decoder_process.h"
 #include "dialog/program/given_files.h"
 #include "dialog/program/photo_switches.h"
+#include "dialog/program/sheet_switches.h"
 #include "dialog/session/colour_management.h"
 #include "platform/foundation/display_text.h"
 
@@ -47,6 +48,7 @@ public:
                                    tr("Turn the page: portrait or landscape; without it, as the photo."),
                                    QStringLiteral("WORD")};
     PhotoSwitches photos;
+    SheetSwitches sheets;
     QCommandLineOption title{{QStringLiteral("t"), QStringLiteral("job-title")},
                              tr("Call the job this; without it, it is called like the first file."),
                              QStringLiteral("TEXT")};
@@ -459,7 +461,8 @@ QString readLayout(const QCommandLineParser& parser, const Switches& switches, C
         line.request.turn = PageTurn::landscape;
     else if (parser.isSet(switches.orientation))
         return Switches::badOrientation(word);
-    return switches.photos.read(parser, line.request);
+    const QString problem = switches.photos.read(parser, line.request);
+    return problem.isEmpty() ? switches.sheets.read(parser, line.request) : problem;
 }
 
 QString readColours(const QCommandLineParser& parser, const Switches& switches, CommandLine& line)
@@ -574,7 +577,7 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
          switches.profile,      switches.intent,       switches.noBlackPoint, switches.jobs,
          switches.ended,        switches.cancelJob,    switches.holdJob,      switches.releaseJob,
          switches.repeatJob,    switches.signIn,       switches.moveJob,      switches.moveTo});
-    parser.addOptions(switches.photos.all());
+    parser.addOptions(switches.photos.all() + switches.sheets.all());
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), Switches::fileHelp(), QStringLiteral("FILE..."));
@@ -640,7 +643,7 @@ bool asksForWindow(const QStringList& arguments)
                        switches.wait,     switches.noDialog,     switches.dryRun, switches.output,
                        switches.preset,   switches.photosPerJob, switches.parent, switches.resultJson,
                        switches.colourBy, switches.profile,      switches.intent, switches.noBlackPoint});
-    parser.addOptions(switches.photos.all());
+    parser.addOptions(switches.photos.all() + switches.sheets.all());
     QList<QCommandLineOption> windowless{parser.addHelpOption(), parser.addVersionOption(), switches.noDialog,
                                          switches.dryRun, switches.output};
     for (const ListingSwitch& listing : listingSwitches(switches)) {

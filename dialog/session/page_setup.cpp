@@ -34,6 +34,8 @@ PageSetup::PageSetup(const SessionRequest& request)
     const std::optional<Layout> layout = layouts_.find(request.sheets.layout);
     if (!request.scaling && layout && layout->scaling)
         settings_.scaling = *layout->scaling;
+    if (!request.scaling && settings_.sheets.percent != SheetSettings().percent)
+        settings_.scaling = Scaling::actualSize;
 }
 
 QString scalingWord(Scaling scaling)

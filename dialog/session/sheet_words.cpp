@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/sheet_words.h"
 
+#include "dialog/options/back_lines.h"
 #include "platform/foundation/numbers.h"
+#include "platform/maker/backprint_text.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -165,6 +167,19 @@ std::optional<QSizeF> photoSizeOf(const QString& text)
     const bool isPossible = std::min(size.width(), size.height()) >= kLeastPhoto &&
                             std::max(size.width(), size.height()) <= kMostPhoto;
     return isPossible ? std::optional(size) : std::nullopt;
+}
+
+QStringList linesOnBack(const JobValues& values)
+{
+    QStringList lines;
+    for (int i = 1; i <= kBackLines; ++i) {
+        const bool isOn =
+            values.value(backLineSwitch(i)).compare(QLatin1StringView("true"), Qt::CaseInsensitive) == 0;
+        const QString text = values.value(backLineText(i));
+        if (isOn && !text.isEmpty())
+            lines.append(backprint::stringWithUnsafeCharacters(text));
+    }
+    return lines;
 }
 
 QStringList sheetLines(const SheetPlan& plan, const std::vector<Photo>& photos)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/job/job_options.h"
 #include "dialog/page/layout_library.h"
 #include "dialog/page/sheet_plan.h"
 
@@ -23,6 +24,9 @@ SheetSettings sheetsOf(const QMap<QString, QString>& texts, const SheetSettings&
 
 /// "100x150", "100x150mm" or "4x6in" in millimetres. Nothing if it is none.
 std::optional<QSizeF> photoSizeOf(const QString& text);
+
+/// The lines that the printer writes on the back of each picture, as they are read.
+QStringList linesOnBack(const JobValues& values);
 
 /// What is on each sheet, and where, a line each: for whoever does not look at a preview.
 QStringList sheetLines(const SheetPlan& plan, const std::vector<Photo>& photos);

@@ -2,6 +2,7 @@
 #include "dialog/window/panel_deck.h"
 
 #include "dialog/window/job_page.h"
+#include "dialog/window/layout_page.h"
 #include "dialog/window/option_finder.h"
 #include "dialog/window/options_page.h"
 #include "dialog/window/paper_page.h"
@@ -28,6 +29,7 @@ namespace {
 const QString kPage = QStringLiteral("page");
 const QString kOptions = QStringLiteral("options");
 const QString kJob = QStringLiteral("job");
+const QString kLayout = QStringLiteral("layout");
 const QString kPhoto = QStringLiteral("photo");
 const QString kPrinter = QStringLiteral("printer");
 const QString kSummary = QStringLiteral("summary");
@@ -91,6 +93,7 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
       empty_(new QWidget(this)),
       page_(new PaperPage(session, this)),
       options_(new OptionsPage(session, this)),
+      layout_(session.document() ? nullptr : new LayoutPage(session, this)),
       job_(new JobPage(session, this)),
       photo_(new PhotoPage(this)),
       printer_(new PrinterPage(session, this)),
@@ -109,6 +112,11 @@ PanelDeck::PanelDeck(DialogSession& session, QWidget* parent)
                           static_cast<QWidget*>(job_), static_cast<QWidget*>(photo_),
                           static_cast<QWidget*>(printer_), static_cast<QWidget*>(summary_), empty_})
         page->hide();
+    if (layout_) {
+        layout_->hide();
+        connect(layout_, &LayoutPage::cropAsked, this, &PanelDeck::cropAsked);
+        connect(layout_, &LayoutPage::told, this, &PanelDeck::told);
+    }
     layOut();
     setFocusProxy(list_);
     connect(list_, &QListWidget::currentRowChanged, this, &PanelDeck::showRow);
@@ -136,9 +144,10 @@ void PanelDeck::layOut()
     column->addLayout(stack_, 1);
 }
 
-void PanelDeck::setPhoto(const Photo& photo)
+void PanelDeck::setPhoto(const Photo& photo, size_t place)
 {
     photo_->setPhoto(photo);
+    layout_->setPhoto(place);
 }
 
 void PanelDeck::startSearch()
@@ -155,6 +164,8 @@ QList<SearchPage> PanelDeck::searchPages() const
         if (identifier == kPage) {
             page.view = page_;
             page.keys = {QStringLiteral("PageSize")};
+        } else if (identifier == kLayout) {
+            page.view = layout_;
         } else if (identifier == kJob) {
             page.view = job_;
         } else if (identifier == kOptions) {
@@ -214,6 +225,8 @@ void PanelDeck::rebuild()
         list_->clear();
         list_->setFixedWidth(kLeastListWidth);
         addPage(kPage, tr("Page"));
+        if (layout_)
+            addPage(kLayout, tr("Layout"));
         for (const std::shared_ptr<Panel>& panel : session_.panels()) {
             const QString kind = panel->panelKind().value_or(QString());
             addPage(kind, panel->panelName().value_or(kind));
@@ -270,6 +283,8 @@ QWidget* PanelDeck::viewFor(const QString& identifier)
         return page_;
     if (identifier == kOptions)
         return options_;
+    if (identifier == kLayout)
+        return layout_;
     if (identifier == kJob)
         return job_;
     if (identifier == kPhoto)
@@ -402,6 +417,8 @@ void PanelDeck::tellClosing(bool printing)
 void PanelDeck::refresh()
 {
     page_->refresh();
+    if (layout_)
+        layout_->refresh();
     job_->refresh();
     options_->setEnabled(session_.model() != nullptr);
     options_->refresh();

@@ -12,6 +12,7 @@ class QStackedLayout;
 namespace halvern {
 
 class JobPage;
+class LayoutPage;
 class PhotoPage;
 class PrinterPage;
 class OptionFinder;
@@ -57,8 +58,8 @@ public:
 
     QStringList identifiers() const;
 
-    /// The page about the photo tells of this one from now on.
-    void setPhoto(const Photo& photo);
+    /// The pages about the photo tell of this one from now on; `place` is its place among all.
+    void setPhoto(const Photo& photo, size_t place);
 
     /// Takes the focus to the field that searches all pages.
     void startSearch();
@@ -77,6 +78,10 @@ public:
 Q_SIGNALS:
     /// Another page is shown.
     void pageShown();
+    /// The user wants to choose the part of the photo that is printed.
+    void cropAsked();
+    /// Something to tell: a sentence.
+    void told(const QString& sentence);
 
 private:
     void layOut();
@@ -99,6 +104,7 @@ private:
     QWidget* previewPage_ = nullptr;
     PaperPage* page_;
     OptionsPage* options_;
+    LayoutPage* layout_; // null: a document is printed
     JobPage* job_;
     PhotoPage* photo_;
     PrinterPage* printer_;

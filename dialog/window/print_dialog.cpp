@@ -2,6 +2,7 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/preview/preview_widget.h"
+#include "dialog/session/sheet_words.h"
 #include "dialog/window/access_dialogs.h"
 #include "dialog/window/disabled_reasons.h"
 #include "dialog/window/job_line.h"
@@ -146,13 +147,17 @@ QWidget* PrintDialog::makePreviewSide()
                 [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     }
     column->addLayout(below);
-    connect(preview_, &PreviewWidget::positionChosen, this, [this](const QPointF& position) {
-        const std::vector<size_t> pages = session_.chosenPages().pages;
-        if (size_t(current_) < pages.size()) {
-            PhotoPlacement placement = session_.photos()[pages[size_t(current_)]].placement;
-            placement.position = position;
-            session_.setPlacement(pages[size_t(current_)], placement);
-        }
+    connect(preview_, &PreviewWidget::placementChosen, this, [this](const PhotoPlacement& placement) {
+        if (const std::optional<size_t> photo = shownPhoto())
+            session_.setPlacement(*photo, placement);
+    });
+    connect(preview_, &PreviewWidget::cropAllAsked, this, [this] {
+        if (const std::optional<size_t> photo = shownPhoto())
+            session_.cropAllAs(*photo);
+    });
+    connect(preview_, &PreviewWidget::photoChosen, this, [this](size_t place) {
+        currentPlace_ = place;
+        showPhotos();
     });
     connect(preview_, &PreviewWidget::damageFound, this,
             [this](const QString& path, int page) { session_.noteDamage(path, page); });
@@ -170,6 +175,9 @@ QWidget* PrintDialog::makeControlSide()
     column->addLayout(makePrinterRows(side));
     column->addWidget(new Separator(side));
     deck_ = new PanelDeck(session_, side);
+    connect(deck_, &PanelDeck::cropAsked, this, [this] { preview_->setCropping(true); });
+    connect(deck_, &PanelDeck::told, this,
+            [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     column->addWidget(deck_, 1);
     column->addWidget(new Separator(side));
     messageRoom_ = new QWidget(side);
@@ -446,39 +454,77 @@ void PrintDialog::showPhotos()
         return;
     }
     const std::vector<Photo>& photos = session_.photos();
-    const std::vector<size_t> pages = session_.chosenPages().pages;
-    pager_->setVisible(pages.size() > 1);
-    if (pages.empty()) {
-        preview_->showText(!session_.hasPhotos() ? tr("Reading the photo...")
-                           : photos.empty()      ? tr("There is no photo to print.")
-                                                 : tr("No page is chosen."));
+    const SheetPlan plan = session_.sheetPlan();
+    const std::vector<Sheet>& sheets = plan.sheets;
+    pager_->setVisible(sheets.size() > 1);
+    shown_.reset();
+    if (sheets.empty()) {
+        preview_->showText(!session_.hasPhotos()    ? tr("Reading the photo...")
+                           : photos.empty()         ? tr("There is no photo to print.")
+                           : plan.problem.isEmpty() ? tr("No page is chosen.")
+                                                    : plan.problem);
         updateButtons();
         return;
     }
-    current_ = std::clamp(current_, 0, int(pages.size()) - 1);
-    const Photo& photo = photos[pages[size_t(current_)]];
-    const ColourManagement& colours = session_.colours();
+    current_ = std::clamp(current_, 0, int(sheets.size()) - 1);
+    showSheet(sheets[size_t(current_)], sheets.size());
+    updateButtons();
+}
+
+void PrintDialog::showSheet(const Sheet& sheet, size_t count)
+{
+    currentPlace_ = std::min(currentPlace_, sheet.photos.size() - 1);
+    const PlacedPhoto& placed = sheet.photos[currentPlace_];
+    const Photo& photo = session_.photos()[placed.photo];
+    shown_ = placed.photo;
+    PreviewPage page;
+    page.layout = placed.layout;
+    page.photo = photo;
+    page.resolution = session_.resolution();
+    page.look = session_.look();
+    page.sheet.sheet = sheet;
+    page.sheet.caption = session_.page().sheets.caption;
+    for (const PlacedPhoto& each : sheet.photos)
+        page.sheet.photos.push_back(session_.photos()[each.photo]);
+    page.current = currentPlace_;
     const ColourSettings& chosen = session_.page().colours;
-    preview_->showPage({session_.layoutFor(photo), photo, session_.resolution(), session_.look(),
-                        colours.screenPlan(chosen, session_.model()),
-                        colours.proofInWords(chosen, session_.model())});
-    deck_->setPhoto(photo);
+    page.screen = session_.colours().screenPlan(chosen, session_.model());
+    page.proofWords = session_.colours().proofInWords(chosen, session_.model());
+    page.back = linesOnBack(session_.valuesToSend());
+    preview_->showPage(page);
+    deck_->setPhoto(photo, placed.photo);
     const QString name = QFileInfo(photo.path).fileName();
     const QString shown = isolated(name, kLongestName);
     setPlainTitle(this, tr("Print %1").arg(shown));
-    const QString page =
+    const QString words =
         photo.pageNumber > 0 ? tr("%1, page %2").arg(shown, QString::number(photo.pageNumber)) : shown;
-    setPlainText(
-        pageNumber_,
-        tr("%1 of %2  ·  %3").arg(QString::number(current_ + 1), QString::number(pages.size()), page));
+    QString number = tr("%1 of %2").arg(QString::number(current_ + 1), QString::number(count));
+    if (session_.isTwoSided())
+        number += QLatin1Char(' ') + (current_ % 2 == 0 ? tr("(front)") : tr("(back)"));
+    setPlainText(pageNumber_, number + QStringLiteral("  ·  ") + words);
     back_->setEnabled(current_ > 0);
-    forward_->setEnabled(current_ + 1 < int(pages.size()));
-    updateButtons();
+    forward_->setEnabled(current_ + 1 < int(count));
+}
+
+void PrintDialog::showPhoto(size_t photo)
+{
+    const SheetPlan plan = session_.sheetPlan();
+    for (size_t i = 0; i < plan.sheets.size(); ++i) {
+        const std::vector<PlacedPhoto>& placed = plan.sheets[i].photos;
+        const auto found = std::ranges::find(placed, photo, &PlacedPhoto::photo);
+        if (found == placed.end())
+            continue;
+        current_ = int(i);
+        currentPlace_ = size_t(found - placed.begin());
+        showPhotos();
+        return;
+    }
 }
 
 void PrintDialog::step(int by)
 {
     current_ += by;
+    currentPlace_ = 0;
     showPhotos();
 }
 

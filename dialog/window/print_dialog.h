@@ -56,6 +56,9 @@ public:
     /// caller sends it. Nothing before.
     const std::optional<JobRequest>& order() const { return order_; }
 
+    /// Shows the first sheet that this photo is on, and the photo there.
+    void showPhoto(size_t photo);
+
     /// Leaves at once, whatever is under way: a job that the server has stays on its queue, and one that is
     /// still being sent goes on as long as the session lives.
     void done(int result) override;
@@ -90,6 +93,10 @@ private:
     void showPrinterState();
     void showMisfit();
     void showPhotos();
+    void showSheet(const Sheet& sheet, size_t count);
+
+    std::optional<size_t> shownPhoto() const { return shown_; }
+
     void step(int by);
     void showOtherChanges(const QList<SideChange>& changes);
     void showPage();
@@ -139,8 +146,10 @@ private:
     PrintOutcome outcome_;
     QString toldMisfit_;
     QSize wantedSize_;
-    QSize openingSize_; // as much of it as the screen has
-    int current_ = 0;
+    QSize openingSize_;           // as much of it as the screen has
+    int current_ = 0;             // sheet
+    size_t currentPlace_ = 0;     // on it
+    std::optional<size_t> shown_; // the photo there
     bool hasPrinted_ = false;
     bool previewIsBeside_ = true;
 };

@@ -121,7 +121,8 @@ QList<QWidget*> PrintDialog::tabOrder() const
     order += deck_->tabOrder();
     order += {runBar_->button(), copies_, collate_, output_, cancelJob_, cancel_, print_};
     if (previewIsBeside_)
-        order += {preview_, preview_->zoomButton(), back_, forward_};
+        order += {preview_, preview_->cropButton(), preview_->backButton(), preview_->zoomButton(), back_,
+                  forward_};
     if (previewIsBeside_ && add_)
         order += add_;
     order += message_->tabOrder();

@@ -267,7 +267,7 @@ TEST_F(OptionsPageTest, TheSearchFindsWhatItIsCalledAndGoesThere)
         const char* page;
         const char* current;
     } cases[] = {
-        {"border", "Edge title: Borderless, in Options › Look", "options", "Edge"},
+        {"borderl", "Edge title: Borderless, in Options › Look", "options", "Edge"},
         {"TITLE media", "Media title, in Options › Look", "options", "Media"},
         {"mirror", "Mirror title, in Options › Look", "options", "Mirror"},
         {"landsc", "Landscape, in Page", "page", ""},

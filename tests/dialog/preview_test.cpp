@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The preview: the printer's adjustments on the screen, the whole page and 1:1.
+#include "dialog/preview/crop_editor.h"
 #include "dialog/preview/preview_widget.h"
 #include "dialog/preview/screen_photo.h"
 #include "dialog/preview/sharp_photo_reader.h"
@@ -100,6 +101,40 @@ TEST_F(PreviewTest, ShowsTheAdjustmentsOnTheWholePageAndSaysThatTheyAreApproxima
     EXPECT_EQ(grabbed().pixel(middle()), plain.pixel(middle())) << "sharpening shows at 1:1 only";
     preview.showPage(page());
     EXPECT_EQ(grabbed(), plain);
+}
+
+TEST_F(PreviewTest, TheCropFrameIsEnlargedDraggedAndTurned)
+{
+    PreviewPage shown = page();
+    preview.showPage(shown);
+    QObject::connect(
+        &preview, &PreviewWidget::placementChosen, &preview, [&](const PhotoPlacement& placement) {
+            shown.photo.placement = placement;
+            shown.layout = layOut({shown.layout.page, shown.layout.imageable, shown.photo.ownSize,
+                                   Scaling::fill, PageTurn::portrait, placement});
+            preview.showPage(shown);
+        });
+    QTest::keyClick(&preview, Qt::Key_C);
+    auto* editor = preview.findChild<CropEditor*>();
+    ASSERT_TRUE(editor && editor->isVisible());
+    const QRectF whole = editor->frameRect();
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(editor, Qt::Key_Plus);
+    EXPECT_NEAR(shown.photo.placement.zoom, 2.0, 0.05);
+    EXPECT_NEAR(editor->frameRect().width(), whole.width() / 2.0, 5.0);
+    EXPECT_NEAR(editor->frameRect().center().x(), whole.center().x(), 2.0);
+    const QPoint from = editor->frameRect().center().toPoint();
+    QTest::mousePress(editor, Qt::LeftButton, {}, from);
+    QTest::mouseMove(editor, from + QPoint(20, -10));
+    QTest::mouseRelease(editor, Qt::LeftButton, {}, from + QPoint(20, -10));
+    EXPECT_NEAR(editor->frameRect().center().x(), from.x() + 20, 2.0);
+    EXPECT_NEAR(editor->frameRect().center().y(), from.y() - 10, 2.0);
+    QTest::keyClick(editor, Qt::Key_R);
+    EXPECT_EQ(shown.photo.placement.quarterTurns, 1);
+    QTest::keyClick(editor, Qt::Key_0);
+    EXPECT_EQ(shown.photo.placement.zoom, 1.0);
+    QTest::keyClick(editor, Qt::Key_Escape);
+    EXPECT_FALSE(editor->isVisible());
 }
 
 TEST_F(PreviewTest, AtOneToOneAScreenPixelIsADot)

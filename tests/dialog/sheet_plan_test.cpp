@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Photos on sheets: where each layout puts them.
 #include "dialog/page/caption.h"
+#include "dialog/page/crop.h"
 #include "dialog/page/layout_library.h"
 #include "dialog/page/sheet_plan.h"
 #include "tests/support/test.h"
@@ -64,13 +65,14 @@ TEST(SheetPlan, EachLayoutPutsItsPhotosWhereItSays)
         std::vector<size_t> photos; // on each sheet
         bool isTurned;
         QRectF firstCell; // millimetres
+        bool hasMarks;
     } cases[] = {
-        {"4-up", {4, 2}, false, {4, 4, 99, 141.5}},
-        {"2-of-10x15", {2, 2, 2}, false, {5, 73.5, 100, 150}},
-        {"4-of-9x13", {4, 2}, false, {15, 18.5, 90, 130}},
-        {"passport", {8, 8, 8, 8, 8, 8}, false, {27.5, 101, 35, 45}},
-        {"3x1", {3, 3}, false, {4, 4, 202, 93}},
-        {"60x80mm", {6, 0}, false, {}},
+        {"4-up", {4, 2}, false, {4, 4, 99, 141.5}, false},
+        {"2-of-10x15", {2, 2, 2}, false, {5, 73.5, 100, 150}, true},
+        {"4-of-9x13", {4, 2}, false, {15, 18.5, 90, 130}, true},
+        {"passport", {8, 8, 8, 8, 8, 8}, false, {27.5, 101, 35, 45}, true},
+        {"3x1", {3, 3}, false, {4, 4, 202, 93}, false},
+        {"60x80mm", {6, 0}, false, {}, false},
     };
 
     for (const auto& c : cases) {
@@ -83,6 +85,7 @@ TEST(SheetPlan, EachLayoutPutsItsPhotosWhereItSays)
         EXPECT_EQ(plan.sheets.front().page.turned, c.isTurned);
         if (!c.firstCell.isNull())
             expectNear(inMillimetres(plan.sheets.front().photos.front().cell), c.firstCell, 0.09);
+        EXPECT_EQ(plan.sheets.front().cutMarks.empty(), !c.hasMarks);
         for (const Sheet& sheet : plan.sheets) {
             for (const PlacedPhoto& placed : sheet.photos) {
                 EXPECT_TRUE(placed.cell.adjusted(-1, -1, 1, 1).contains(placed.outline));
@@ -109,6 +112,32 @@ TEST(SheetPlan, APlacementStaysWithItsPhotoWhateverTheLayoutTurns)
     EXPECT_EQ(planned(q("4-up"), photos).photoCount(), 5u);
     photos[0].placement.isIncluded = false;
     EXPECT_FALSE(planned(q("4-up"), photos).problem.isEmpty());
+}
+
+TEST(SheetPlan, ACropIsWhatWasAskedForInWhateverPlace)
+{
+    std::vector<Photo> photos{photoOf({300, 200})};
+    for (const char* id : {"4-of-9x13", "4-up", "passport"}) {
+        SCOPED_TRACE(id);
+        photos[0].placement = {};
+        const PageLayout before = planned(q(id), photos).sheets.at(0).photos.at(0).layout;
+        const QRectF seen = cropOf(before);
+        EXPECT_TRUE(QRectF(-0.001, -0.001, 1.002, 1.002).contains(seen));
+        photos[0].placement = croppedAround(before, {}, {0.3, 0.6}, 4.0);
+        const PageLayout after = planned(q(id), photos).sheets.at(0).photos.at(0).layout;
+        EXPECT_NEAR(cropOf(after).center().x(), 0.3, 0.001);
+        EXPECT_NEAR(cropOf(after).center().y(), 0.6, 0.001);
+        EXPECT_LE(cropOf(after).width(), seen.width() / 2.0);
+        photos[0].placement = croppedAround(after, photos[0].placement, {5.0, -5.0}, 1e9);
+        const PageLayout corner = planned(q(id), photos).sheets.at(0).photos.at(0).layout;
+        EXPECT_NEAR(cropOf(corner).right(), 1.0, 0.001);
+        EXPECT_NEAR(cropOf(corner).top(), 0.0, 0.001);
+        EXPECT_EQ(photos[0].placement.zoom, kMostZoom);
+    }
+    PhotoPlacement turned = photos[0].placement;
+    for (int i = 0; i < 4; ++i)
+        turned = turnedOnce(turned);
+    EXPECT_EQ(turned, photos[0].placement);
 }
 
 TEST(SheetPlan, BordersCaptionsAndSizesTakeTheirRoom)

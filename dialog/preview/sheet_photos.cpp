@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/preview/sheet_photos.h"
+
+#include "dialog/page/photo_facts.h"
+#include "dialog/page/photo_opening.h"
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+constexpr int kLeastEdge = 128;
+
+// Resizing a window by a few pixels reads nothing again.
+int roundedUp(int edge)
+{
+    if (edge <= 0)
+        return 0;
+    int rounded = kLeastEdge;
+    while (rounded < edge && rounded < kPreviewEdge)
+        rounded *= 2;
+    return std::min(rounded, kPreviewEdge);
+}
+
+} // namespace
+
+void SheetPhotos::want(const std::vector<Photo>& photos, int edge, bool withDetails)
+{
+    edge_ = roundedUp(edge);
+    withDetails_ = withDetails;
+    std::map<Key, Kept> wanted;
+    for (const Photo& photo : photos) {
+        const Key key(photo.path, photo.page);
+        if (wanted.contains(key))
+            continue;
+        const auto known = kept_.find(key);
+        Kept& kept = wanted[key];
+        if (known != kept_.end())
+            kept = known->second;
+        kept.photo = photo;
+    }
+    kept_ = std::move(wanted);
+    readNext();
+}
+
+QImage SheetPhotos::image(const Photo& photo) const
+{
+    const auto known = kept_.find({photo.path, photo.page});
+    return known == kept_.end() ? QImage() : known->second.image;
+}
+
+std::optional<PhotoDetails> SheetPhotos::details(const Photo& photo) const
+{
+    const auto known = kept_.find({photo.path, photo.page});
+    return known == kept_.end() ? std::nullopt : known->second.details;
+}
+
+void SheetPhotos::readNext()
+{
+    if (isBusy_)
+        return;
+    const auto next = std::ranges::find_if(kept_, [this](const auto& each) {
+        const Kept& kept = each.second;
+        return !kept.isBroken && (kept.edge < edge_ || (withDetails_ && !kept.details));
+    });
+    if (next == kept_.end())
+        return;
+    isBusy_ = true;
+    QPointer<SheetPhotos> self(this);
+    WorkQueue().async([self, key = next->first, photo = next->second.photo, edge = edge_,
+                       wantsImage = next->second.edge < edge_,
+                       wantsDetails = withDetails_ && !next->second.details] {
+        SmallCopy copy;
+        if (wantsImage)
+            copy = readSmallCopy(photo);
+        if (!copy.image.isNull() && std::max(copy.image.width(), copy.image.height()) > edge)
+            copy.image = copy.image.scaled(edge, edge, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        std::optional<PhotoDetails> details;
+        if (wantsDetails)
+            details = readPhotoFacts(photo).details;
+        mainQueue().async([self, key, edge, image = copy.image, details, isDamaged = copy.isDamaged] {
+            if (self)
+                self->take(key, image, edge, details, isDamaged);
+        });
+    });
+}
+
+void SheetPhotos::take(const Key& key, const QImage& image, int edge,
+                       const std::optional<PhotoDetails>& details, bool isDamaged)
+{
+    isBusy_ = false;
+    if (const auto known = kept_.find(key); known != kept_.end()) {
+        Kept& kept = known->second;
+        // Why it cannot be read is told when it is looked at alone.
+        kept.isBroken = image.isNull() && kept.image.isNull();
+        if (!image.isNull()) {
+            kept.image = image;
+            kept.edge = edge;
+        }
+        if (details)
+            kept.details = details;
+        if (isDamaged && !kept.photo.isDamaged)
+            Q_EMIT damageFound(key.first, key.second);
+        Q_EMIT changed();
+    }
+    readNext();
+}
+
+} // namespace halvern

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "dialog/program/sheet_switches.h"
+
+#include "dialog/page/layout_library.h"
+#include "dialog/session/sheet_words.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace halvern {
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+// "12.5", or "0.5in". Nothing if it is no length up to `most` millimetres.
+std::optional<double> lengthOf(const QString& text, double most)
+{
+    QString number = text;
+    const bool isInches = number.endsWith(QLatin1StringView("in"));
+    if (isInches || number.endsWith(QLatin1StringView("mm")))
+        number.chop(2);
+    bool isNumber = false;
+    const double length = number.toDouble(&isNumber) * (isInches ? kMillimetresPerInch : 1.0);
+    return isNumber && length >= 0.0 && length <= most ? std::optional(length) : std::nullopt;
+}
+
+QString badLength(const QString& text, double most)
+{
+    return Words::tr("\"%1\" is no length: write millimetres from 0 to %2.").arg(text, QString::number(most));
+}
+
+} // namespace
+
+SheetSwitches::SheetSwitches()
+    : layout_(
+          QStringLiteral("layout"),
+          Words::tr("Put several photos on a sheet: a layout's name, rows and columns such as 3x4, or a size "
+                    "such as 90x130mm."),
+          QStringLiteral("NAME")),
+      caption_(QStringLiteral("caption"),
+               Words::tr("Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] "
+                         "number, [DATE] date taken, [YYYY], [MM], [DD]."),
+               QStringLiteral("TEXT")),
+      size_(QStringLiteral("photo-size"),
+            Words::tr("Print each photo in this size, for example 100x150, 4x6in, or 50% of its own."),
+            QStringLiteral("SIZE")),
+      corner_(QStringLiteral("corner"),
+              Words::tr(
+                  "With --photo-size: so many millimetres from the sheet's left and top, for example 20,15."),
+              QStringLiteral("X,Y")),
+      margin_(QStringLiteral("margin"),
+              Words::tr("Leave so many millimetres free at the sheet's edges at least."),
+              QStringLiteral("MM")),
+      border_(QStringLiteral("border"),
+              Words::tr("Leave a white border of so many millimetres around each photo."),
+              QStringLiteral("MM")),
+      flags_{{QStringLiteral("repeat"), Words::tr("With --layout: each photo fills its own sheet.")},
+             {QStringLiteral("no-repeat"), Words::tr("The photos share sheets.")},
+             {QStringLiteral("cut-marks"), Words::tr("Print marks that show where to cut.")},
+             {QStringLiteral("no-cut-marks"), Words::tr("Print no such marks.")},
+             {QStringLiteral("line"), Words::tr("Print a thin line around each photo.")},
+             {QStringLiteral("no-line"), Words::tr("Print no such line.")}}
+{
+}
+
+QList<QCommandLineOption> SheetSwitches::all() const
+{
+    return QList<QCommandLineOption>{layout_, caption_, size_, corner_, margin_, border_} + flags_;
+}
+
+QString SheetSwitches::read(const QCommandLineParser& parser, SessionRequest& request) const
+{
+    const QList<QCommandLineOption> options = all();
+    request.namesSheets =
+        std::ranges::any_of(options, [&](const QCommandLineOption& option) { return parser.isSet(option); });
+    if (!request.namesSheets)
+        return {};
+    const LayoutLibrary layouts;
+    const std::optional<Layout> layout = layouts.find(parser.value(layout_));
+    if (!layout)
+        return layouts.unknownText(parser.value(layout_));
+    SheetSettings& sheets = request.sheets;
+    sheets = withLayout({}, *layout);
+    if (parser.isSet(caption_))
+        sheets.caption = parser.value(caption_);
+    if (sheets.caption.size() > kLongestCaption)
+        return Words::tr("The caption is longer than %1 characters.").arg(kLongestCaption);
+    QString problem = readFlags(parser, sheets);
+    if (problem.isEmpty())
+        problem = readLengths(parser, sheets);
+    return problem.isEmpty() ? readSize(parser, sheets) : problem;
+}
+
+QString SheetSwitches::readFlags(const QCommandLineParser& parser, SheetSettings& sheets) const
+{
+    bool* const flags[] = {&sheets.repeats, &sheets.hasCutMarks, &sheets.hasLine};
+    for (qsizetype i = 0; i < 3; ++i) {
+        const bool isOn = parser.isSet(flags_[2 * i]);
+        const bool isOff = parser.isSet(flags_[2 * i + 1]);
+        if (isOn && isOff)
+            return Words::tr("--%1 and --no-%1 do not go together.").arg(flags_[2 * i].names().front());
+        *flags[i] = isOn || (*flags[i] && !isOff);
+    }
+    return {};
+}
+
+QString SheetSwitches::readLengths(const QCommandLineParser& parser, SheetSettings& sheets) const
+{
+    if (parser.isSet(margin_)) {
+        const std::optional<double> margin = lengthOf(parser.value(margin_), kMostMargin);
+        if (!margin)
+            return badLength(parser.value(margin_), kMostMargin);
+        sheets.margin = *margin;
+    }
+    if (parser.isSet(border_)) {
+        const std::optional<double> border = lengthOf(parser.value(border_), kMostBorder);
+        if (!border)
+            return badLength(parser.value(border_), kMostBorder);
+        sheets.border = *border;
+    }
+    return {};
+}
+
+QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetSettings& sheets) const
+{
+    const QString text = parser.value(size_);
+    if (text.endsWith(QLatin1Char('%'))) {
+        bool isNumber = false;
+        sheets.percent = text.chopped(1).toDouble(&isNumber);
+        if (!isNumber || sheets.percent < kLeastPercent || sheets.percent > kMostPercent)
+            return Words::tr("\"%1\" is no size: write %2% to %3%.")
+                .arg(text, QString::number(kLeastPercent), QString::number(kMostPercent));
+    } else if (parser.isSet(size_)) {
+        const std::optional<QSizeF> size = photoSizeOf(text);
+        if (!size)
+            return Words::tr(
+                       "\"%1\" is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.")
+                .arg(text);
+        sheets.photo = *size;
+    }
+    if (!parser.isSet(corner_))
+        return {};
+    const QString corner = parser.value(corner_);
+    const std::optional<double> left = lengthOf(corner.section(QLatin1Char(','), 0, 0), kMostPhoto);
+    const std::optional<double> top = lengthOf(corner.section(QLatin1Char(','), 1), kMostPhoto);
+    if (!left || !top)
+        return Words::tr("\"%1\" is no corner: write two lengths in millimetres, for example 20,15.")
+            .arg(corner);
+    if (sheets.photo.isEmpty())
+        return Words::tr("--corner goes with --photo-size and a width and a height.");
+    sheets.corner = QPointF(*left, *top);
+    return {};
+}
+
+} // namespace halvern
