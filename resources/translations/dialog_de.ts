@@ -486,6 +486,82 @@
         <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
         <translation>„%1“ ist keine Drehung: Schreiben Sie 0, 90, 180 oder 270.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <translation>„%1“ ist keine Länge: Schreiben Sie Millimeter von 0 bis %2.</translation>
+    </message>
+    <message>
+        <source>Put several photos on a sheet: a layout&apos;s name, rows and columns such as 3x4, or a size such as 90x130mm.</source>
+        <translation>Mehrere Fotos auf ein Blatt setzen: der Name eines Layouts, Reihen und Spalten, etwa 3x4, oder eine Größe, etwa 90x130mm.</translation>
+    </message>
+    <message>
+        <source>Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] number, [DATE] date taken, [YYYY], [MM], [DD].</source>
+        <translation>Dies unter jedes Foto schreiben. Platzhalter sind möglich: [F] Dateiname, [T] Titel, [C] Nummer, [DATE] Aufnahmedatum, [YYYY], [MM], [DD].</translation>
+    </message>
+    <message>
+        <source>Print each photo in this size, for example 100x150, 4x6in, or 50% of its own.</source>
+        <translation>Jedes Foto in dieser Größe drucken, zum Beispiel 100x150, 4x6in oder 50% seiner eigenen.</translation>
+    </message>
+    <message>
+        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <translation>Mit --photo-size: so viele Millimeter vom linken und oberen Rand des Blattes, zum Beispiel 20,15.</translation>
+    </message>
+    <message>
+        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <translation>Am Rand des Blattes mindestens so viele Millimeter frei lassen.</translation>
+    </message>
+    <message>
+        <source>Leave a white border of so many millimetres around each photo.</source>
+        <translation>Um jedes Foto einen weißen Rand von so vielen Millimetern lassen.</translation>
+    </message>
+    <message>
+        <source>With --layout: each photo fills its own sheet.</source>
+        <translation>Mit --layout: Jedes Foto füllt ein eigenes Blatt.</translation>
+    </message>
+    <message>
+        <source>The photos share sheets.</source>
+        <translation>Die Fotos teilen sich Blätter.</translation>
+    </message>
+    <message>
+        <source>Print marks that show where to cut.</source>
+        <translation>Marken drucken, die zeigen, wo zu schneiden ist.</translation>
+    </message>
+    <message>
+        <source>Print no such marks.</source>
+        <translation>Keine solchen Marken drucken.</translation>
+    </message>
+    <message>
+        <source>Print a thin line around each photo.</source>
+        <translation>Um jedes Foto eine dünne Linie drucken.</translation>
+    </message>
+    <message>
+        <source>Print no such line.</source>
+        <translation>Keine solche Linie drucken.</translation>
+    </message>
+    <message>
+        <source>The caption is longer than %1 characters.</source>
+        <translation>Die Beschriftung ist länger als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>--%1 and --no-%1 do not go together.</source>
+        <translation>--%1 und --no-%1 gehen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write %2% to %3%.</source>
+        <translation>„%1“ ist keine Größe: Schreiben Sie %2% bis %3%.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <translation>„%1“ ist keine Größe: Schreiben Sie Millimeter, etwa 100x150, Zoll, etwa 4x6in, oder 50%.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <translation>„%1“ ist keine Ecke: Schreiben Sie zwei Längen in Millimetern, zum Beispiel 20,15.</translation>
+    </message>
+    <message>
+        <source>--corner goes with --photo-size and a width and a height.</source>
+        <translation>--corner gehört zu --photo-size mit einer Breite und einer Höhe.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -974,6 +1050,10 @@
     <message>
         <source>%1 borderless</source>
         <translation>%1 randlos</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>%1 Fotos</translation>
     </message>
 </context>
 <context>
@@ -2851,6 +2931,65 @@
     </message>
 </context>
 <context>
+    <name>halvern::CropEditor</name>
+    <message>
+        <source>%1 pixels per inch: it will look soft</source>
+        <translation>%1 Pixel pro Zoll: Es wird unscharf aussehen</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>%1 Pixel pro Zoll</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Zentrieren</translation>
+    </message>
+    <message>
+        <source>Put the frame in the middle (C)</source>
+        <translation>Den Rahmen in die Mitte setzen (C)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise (R)</source>
+        <translation>Das Foto im Uhrzeigersinn drehen (R)</translation>
+    </message>
+    <message>
+        <source>As Large As Can Be</source>
+        <translation>So groß wie möglich</translation>
+    </message>
+    <message>
+        <source>Show as much of the photo as can be (0)</source>
+        <translation>So viel vom Foto zeigen wie möglich (0)</translation>
+    </message>
+    <message>
+        <source>Same for All</source>
+        <translation>Für alle gleich</translation>
+    </message>
+    <message>
+        <source>Crop and turn all photos like this one</source>
+        <translation>Alle Fotos wie dieses zuschneiden und drehen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Back to the sheet (Esc)</source>
+        <translation>Zurück zum Blatt (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo</source>
+        <translation>%1 % des Fotos</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -3178,6 +3317,209 @@
     </message>
 </context>
 <context>
+    <name>halvern::LayoutPage</name>
+    <message>
+        <source>Rows</source>
+        <translation>Reihen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Width of each photo</source>
+        <translation>Breite jedes Fotos</translation>
+    </message>
+    <message>
+        <source>Height of each photo</source>
+        <translation>Höhe jedes Fotos</translation>
+    </message>
+    <message>
+        <source>&amp;Each photo fills its own sheet</source>
+        <translation>&amp;Jedes Foto füllt ein eigenes Blatt</translation>
+    </message>
+    <message>
+        <source>Width of the photo</source>
+        <translation>Breite des Fotos</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>Höhe des Fotos</translation>
+    </message>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>Von der Ecke entfernt:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Von links</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>Von oben</translation>
+    </message>
+    <message>
+        <source>Margin of the sheet</source>
+        <translation>Rand des Blattes</translation>
+    </message>
+    <message>
+        <source>White border</source>
+        <translation>Weißer Rand</translation>
+    </message>
+    <message>
+        <source>Thin l&amp;ine</source>
+        <translation>Dünne L&amp;inie</translation>
+    </message>
+    <message>
+        <source>C&amp;ut marks</source>
+        <translation>&amp;Schnittmarken</translation>
+    </message>
+    <message>
+        <source>Copies of this photo</source>
+        <translation>Exemplare dieses Fotos</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Zuschneiden ...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>Alle so zuschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Merken</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>&amp;Layout:</source>
+        <translation>&amp;Layout:</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>&amp;Größe des Fotos:</translation>
+    </message>
+    <message>
+        <source>Pl&amp;ace:</source>
+        <translation>Pl&amp;atz:</translation>
+    </message>
+    <message>
+        <source>&amp;Margin:</source>
+        <translation>&amp;Blattrand:</translation>
+    </message>
+    <message>
+        <source>White &amp;border:</source>
+        <translation>&amp;Weißer Rand:</translation>
+    </message>
+    <message>
+        <source>&amp;Caption:</source>
+        <translation>Beschrif&amp;tung:</translation>
+    </message>
+    <message>
+        <source>T&amp;his photo:</source>
+        <translation>Dieses F&amp;oto:</translation>
+    </message>
+    <message>
+        <source>As my la&amp;yout:</source>
+        <translation>Als mein La&amp;yout:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> Zoll</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>rows of</source>
+        <translation>Reihen zu</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>So groß wie die Seite</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>Der eigenen Größe</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Größe des Fotos</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent of its own size</source>
+        <translation>Prozent der eigenen Größe</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>Sonst ist das Foto in der Mitte des Blattes</translation>
+    </message>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>Keine; zum Beispiel [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>Beschriftung unter jedem Foto</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>Ei&amp;nfügen</translation>
+    </message>
+    <message>
+        <source> copies</source>
+        <translation> Exemplare</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>Name, um es wiederzufinden</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Name des Layouts</translation>
+    </message>
+    <message>
+        <source>One photo on each page</source>
+        <translation>Ein Foto auf jeder Seite</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>Reihen und Spalten</translation>
+    </message>
+    <message>
+        <source>Photos of one size</source>
+        <translation>Fotos einer Größe</translation>
+    </message>
+    <message>
+        <source>Make the page %1 mm long, as the photos need</source>
+        <translation>Die Seite %1 mm lang machen, wie es die Fotos brauchen</translation>
+    </message>
+    <message>
+        <source> copy</source>
+        <translation> Exemplar</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LoginDialog</name>
     <message>
         <source>Send it &amp;all the same</source>
@@ -3477,6 +3819,10 @@
     <message>
         <source>Printer</source>
         <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
     </message>
 </context>
 <context>
@@ -3952,6 +4298,22 @@
         <source>Back</source>
         <translation>Rückseite</translation>
     </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Choose the part of the photo that is printed (press C in the preview)</source>
+        <translation>Den Teil des Fotos wählen, der gedruckt wird (in der Vorschau C drücken)</translation>
+    </message>
+    <message>
+        <source>Show what is printed on the back of the picture</source>
+        <translation>Zeigen, was auf die Rückseite des Bildes gedruckt wird</translation>
+    </message>
+    <message>
+        <source>The back of the picture, as the printer writes on it</source>
+        <translation>Die Rückseite des Bildes, wie der Drucker sie beschriftet</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -4010,10 +4372,6 @@
     <message>
         <source>Print %1</source>
         <translation>%1 drucken</translation>
-    </message>
-    <message>
-        <source>%1 of %2  ·  %3</source>
-        <translation>%1 von %2  ·  %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4130,6 +4488,18 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>An&amp;melden ...</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(Vorderseite)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(Rückseite)</translation>
     </message>
 </context>
 <context>

@@ -486,6 +486,82 @@
         <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
         <translation>«%1» no es un giro: escriba 0, 90, 180 o 270.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <translation>«%1» no es una longitud: escriba milímetros de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>Put several photos on a sheet: a layout&apos;s name, rows and columns such as 3x4, or a size such as 90x130mm.</source>
+        <translation>Poner varias fotos en una hoja: el nombre de una disposición, filas y columnas, como 3x4, o un tamaño, como 90x130mm.</translation>
+    </message>
+    <message>
+        <source>Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] number, [DATE] date taken, [YYYY], [MM], [DD].</source>
+        <translation>Escribir esto debajo de cada foto. Admite marcadores: [F] nombre del archivo, [T] título, [C] número, [DATE] fecha de captura, [YYYY], [MM], [DD].</translation>
+    </message>
+    <message>
+        <source>Print each photo in this size, for example 100x150, 4x6in, or 50% of its own.</source>
+        <translation>Imprimir cada foto en este tamaño, por ejemplo 100x150, 4x6in o 50% del suyo propio.</translation>
+    </message>
+    <message>
+        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <translation>Con --photo-size: a tantos milímetros de la izquierda y de arriba de la hoja, por ejemplo 20,15.</translation>
+    </message>
+    <message>
+        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <translation>Dejar libres al menos tantos milímetros en los bordes de la hoja.</translation>
+    </message>
+    <message>
+        <source>Leave a white border of so many millimetres around each photo.</source>
+        <translation>Dejar un borde blanco de tantos milímetros alrededor de cada foto.</translation>
+    </message>
+    <message>
+        <source>With --layout: each photo fills its own sheet.</source>
+        <translation>Con --layout: cada foto llena su propia hoja.</translation>
+    </message>
+    <message>
+        <source>The photos share sheets.</source>
+        <translation>Las fotos comparten hojas.</translation>
+    </message>
+    <message>
+        <source>Print marks that show where to cut.</source>
+        <translation>Imprimir guías que muestran dónde cortar.</translation>
+    </message>
+    <message>
+        <source>Print no such marks.</source>
+        <translation>No imprimir esas guías.</translation>
+    </message>
+    <message>
+        <source>Print a thin line around each photo.</source>
+        <translation>Imprimir una línea fina alrededor de cada foto.</translation>
+    </message>
+    <message>
+        <source>Print no such line.</source>
+        <translation>No imprimir esa línea.</translation>
+    </message>
+    <message>
+        <source>The caption is longer than %1 characters.</source>
+        <translation>El pie de foto tiene más de %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>--%1 and --no-%1 do not go together.</source>
+        <translation>--%1 y --no-%1 no se pueden usar juntos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write %2% to %3%.</source>
+        <translation>«%1» no es un tamaño: escriba de %2% a %3%.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <translation>«%1» no es un tamaño: escriba milímetros, como 100x150, pulgadas, como 4x6in, o 50%.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <translation>«%1» no es una esquina: escriba dos longitudes en milímetros, por ejemplo 20,15.</translation>
+    </message>
+    <message>
+        <source>--corner goes with --photo-size and a width and a height.</source>
+        <translation>--corner se usa con --photo-size y un ancho y un alto.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -974,6 +1050,10 @@
     <message>
         <source>%1 borderless</source>
         <translation>%1 sin bordes</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>%1 fotos</translation>
     </message>
 </context>
 <context>
@@ -2851,6 +2931,65 @@
     </message>
 </context>
 <context>
+    <name>halvern::CropEditor</name>
+    <message>
+        <source>%1 pixels per inch: it will look soft</source>
+        <translation>%1 píxeles por pulgada: se verá borrosa</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>%1 píxeles por pulgada</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centrar</translation>
+    </message>
+    <message>
+        <source>Put the frame in the middle (C)</source>
+        <translation>Poner el marco en el centro (C)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Girar</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise (R)</source>
+        <translation>Girar la foto en el sentido de las agujas del reloj (R)</translation>
+    </message>
+    <message>
+        <source>As Large As Can Be</source>
+        <translation>Lo más grande posible</translation>
+    </message>
+    <message>
+        <source>Show as much of the photo as can be (0)</source>
+        <translation>Mostrar la mayor parte posible de la foto (0)</translation>
+    </message>
+    <message>
+        <source>Same for All</source>
+        <translation>Igual para todas</translation>
+    </message>
+    <message>
+        <source>Crop and turn all photos like this one</source>
+        <translation>Recortar y girar todas las fotos como esta</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Back to the sheet (Esc)</source>
+        <translation>Volver a la hoja (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo</source>
+        <translation>%1 % de la foto</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -3178,6 +3317,209 @@
     </message>
 </context>
 <context>
+    <name>halvern::LayoutPage</name>
+    <message>
+        <source>Rows</source>
+        <translation>Filas</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Width of each photo</source>
+        <translation>Ancho de cada foto</translation>
+    </message>
+    <message>
+        <source>Height of each photo</source>
+        <translation>Alto de cada foto</translation>
+    </message>
+    <message>
+        <source>&amp;Each photo fills its own sheet</source>
+        <translation>&amp;Cada foto llena su propia hoja</translation>
+    </message>
+    <message>
+        <source>Width of the photo</source>
+        <translation>Ancho de la foto</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>Alto de la foto</translation>
+    </message>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>A esta distancia de la esquina:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Desde la izquierda</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>Desde arriba</translation>
+    </message>
+    <message>
+        <source>Margin of the sheet</source>
+        <translation>Margen de la hoja</translation>
+    </message>
+    <message>
+        <source>White border</source>
+        <translation>Borde blanco</translation>
+    </message>
+    <message>
+        <source>Thin l&amp;ine</source>
+        <translation>Línea &amp;fina</translation>
+    </message>
+    <message>
+        <source>C&amp;ut marks</source>
+        <translation>G&amp;uías de corte</translation>
+    </message>
+    <message>
+        <source>Copies of this photo</source>
+        <translation>Copias de esta foto</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Recortar...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>Mismo recorte para todas</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>Conser&amp;var</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>&amp;Layout:</source>
+        <translation>Di&amp;sposición:</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>&amp;Tamaño de la foto:</translation>
+    </message>
+    <message>
+        <source>Pl&amp;ace:</source>
+        <translation>&amp;Lugar:</translation>
+    </message>
+    <message>
+        <source>&amp;Margin:</source>
+        <translation>&amp;Margen:</translation>
+    </message>
+    <message>
+        <source>White &amp;border:</source>
+        <translation>Borde &amp;blanco:</translation>
+    </message>
+    <message>
+        <source>&amp;Caption:</source>
+        <translation>Pi&amp;e de foto:</translation>
+    </message>
+    <message>
+        <source>T&amp;his photo:</source>
+        <translation>Est&amp;a foto:</translation>
+    </message>
+    <message>
+        <source>As my la&amp;yout:</source>
+        <translation>Como m&amp;i disposición:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> pulg.</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposición</translation>
+    </message>
+    <message>
+        <source>rows of</source>
+        <translation>filas de</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>Tan grande como la página</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>En</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>De su propio tamaño</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Tamaño de la foto</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent of its own size</source>
+        <translation>Porcentaje de su propio tamaño</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>Si no se indica, la foto está en el centro de la hoja</translation>
+    </message>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>Ninguno; por ejemplo [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>Pie debajo de cada foto</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Marcador</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>I&amp;nsertar</translation>
+    </message>
+    <message>
+        <source> copies</source>
+        <translation> copias</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>Nombre, para volver a encontrarla</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Nombre de la disposición</translation>
+    </message>
+    <message>
+        <source>One photo on each page</source>
+        <translation>Una foto en cada página</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>Filas y columnas</translation>
+    </message>
+    <message>
+        <source>Photos of one size</source>
+        <translation>Fotos de un mismo tamaño</translation>
+    </message>
+    <message>
+        <source>Make the page %1 mm long, as the photos need</source>
+        <translation>Hacer la página de %1 mm de largo, como necesitan las fotos</translation>
+    </message>
+    <message>
+        <source> copy</source>
+        <translation> copia</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LoginDialog</name>
     <message>
         <source>Send it &amp;all the same</source>
@@ -3477,6 +3819,10 @@
     <message>
         <source>Printer</source>
         <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposición</translation>
     </message>
 </context>
 <context>
@@ -3952,6 +4298,22 @@
         <source>Back</source>
         <translation>Dorso</translation>
     </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Choose the part of the photo that is printed (press C in the preview)</source>
+        <translation>Elegir la parte de la foto que se imprime (pulse C en la vista previa)</translation>
+    </message>
+    <message>
+        <source>Show what is printed on the back of the picture</source>
+        <translation>Mostrar lo que se imprime en el dorso de la foto</translation>
+    </message>
+    <message>
+        <source>The back of the picture, as the printer writes on it</source>
+        <translation>El dorso de la foto, tal como escribe en él la impresora</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -4010,10 +4372,6 @@
     <message>
         <source>Print %1</source>
         <translation>Imprimir %1</translation>
-    </message>
-    <message>
-        <source>%1 of %2  ·  %3</source>
-        <translation>%1 de %2  ·  %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4130,6 +4488,18 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>Identi&amp;ficarse...</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(cara)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(dorso)</translation>
     </message>
 </context>
 <context>

@@ -486,6 +486,82 @@
         <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
         <translation>« %1 » n’est pas une rotation : écrivez 0, 90, 180 ou 270.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <translation>« %1 » n’est pas une longueur : écrivez des millimètres de 0 à %2.</translation>
+    </message>
+    <message>
+        <source>Put several photos on a sheet: a layout&apos;s name, rows and columns such as 3x4, or a size such as 90x130mm.</source>
+        <translation>Mettre plusieurs photos sur une feuille : le nom d’une mise en page, des rangées et des colonnes, comme 3x4, ou une taille, comme 90x130mm.</translation>
+    </message>
+    <message>
+        <source>Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] number, [DATE] date taken, [YYYY], [MM], [DD].</source>
+        <translation>Écrire ceci sous chaque photo. Repères possibles : [F] nom du fichier, [T] titre, [C] numéro, [DATE] date de prise de vue, [YYYY], [MM], [DD].</translation>
+    </message>
+    <message>
+        <source>Print each photo in this size, for example 100x150, 4x6in, or 50% of its own.</source>
+        <translation>Imprimer chaque photo dans cette taille, par exemple 100x150, 4x6in ou 50% de la sienne.</translation>
+    </message>
+    <message>
+        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <translation>Avec --photo-size : à autant de millimètres de la gauche et du haut de la feuille, par exemple 20,15.</translation>
+    </message>
+    <message>
+        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <translation>Laisser libres au moins autant de millimètres aux bords de la feuille.</translation>
+    </message>
+    <message>
+        <source>Leave a white border of so many millimetres around each photo.</source>
+        <translation>Laisser un bord blanc d’autant de millimètres autour de chaque photo.</translation>
+    </message>
+    <message>
+        <source>With --layout: each photo fills its own sheet.</source>
+        <translation>Avec --layout : chaque photo remplit sa propre feuille.</translation>
+    </message>
+    <message>
+        <source>The photos share sheets.</source>
+        <translation>Les photos partagent des feuilles.</translation>
+    </message>
+    <message>
+        <source>Print marks that show where to cut.</source>
+        <translation>Imprimer des repères qui montrent où couper.</translation>
+    </message>
+    <message>
+        <source>Print no such marks.</source>
+        <translation>Ne pas imprimer ces repères.</translation>
+    </message>
+    <message>
+        <source>Print a thin line around each photo.</source>
+        <translation>Imprimer un filet fin autour de chaque photo.</translation>
+    </message>
+    <message>
+        <source>Print no such line.</source>
+        <translation>Ne pas imprimer ce filet.</translation>
+    </message>
+    <message>
+        <source>The caption is longer than %1 characters.</source>
+        <translation>La légende dépasse %1 caractères.</translation>
+    </message>
+    <message>
+        <source>--%1 and --no-%1 do not go together.</source>
+        <translation>--%1 et --no-%1 ne vont pas ensemble.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write %2% to %3%.</source>
+        <translation>« %1 » n’est pas une taille : écrivez %2% à %3%.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <translation>« %1 » n’est pas une taille : écrivez des millimètres, comme 100x150, des pouces, comme 4x6in, ou 50%.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <translation>« %1 » n’est pas un coin : écrivez deux longueurs en millimètres, par exemple 20,15.</translation>
+    </message>
+    <message>
+        <source>--corner goes with --photo-size and a width and a height.</source>
+        <translation>--corner s’emploie avec --photo-size, une largeur et une hauteur.</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -974,6 +1050,10 @@
     <message>
         <source>%1 borderless</source>
         <translation>%1 sans bordure</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>%1 photos</translation>
     </message>
 </context>
 <context>
@@ -2851,6 +2931,65 @@
     </message>
 </context>
 <context>
+    <name>halvern::CropEditor</name>
+    <message>
+        <source>%1 pixels per inch: it will look soft</source>
+        <translation>%1 pixels par pouce : l’image paraîtra floue</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>%1 pixels par pouce</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centrer</translation>
+    </message>
+    <message>
+        <source>Put the frame in the middle (C)</source>
+        <translation>Mettre le cadre au milieu (C)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Tourner</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise (R)</source>
+        <translation>Tourner la photo dans le sens des aiguilles d’une montre (R)</translation>
+    </message>
+    <message>
+        <source>As Large As Can Be</source>
+        <translation>Le plus grand possible</translation>
+    </message>
+    <message>
+        <source>Show as much of the photo as can be (0)</source>
+        <translation>Montrer la plus grande partie possible de la photo (0)</translation>
+    </message>
+    <message>
+        <source>Same for All</source>
+        <translation>Idem pour toutes</translation>
+    </message>
+    <message>
+        <source>Crop and turn all photos like this one</source>
+        <translation>Recadrer et tourner toutes les photos comme celle-ci</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Back to the sheet (Esc)</source>
+        <translation>Retour à la feuille (Échap)</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo</source>
+        <translation>%1 % de la photo</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -3178,6 +3317,209 @@
     </message>
 </context>
 <context>
+    <name>halvern::LayoutPage</name>
+    <message>
+        <source>Rows</source>
+        <translation>Rangées</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Width of each photo</source>
+        <translation>Largeur de chaque photo</translation>
+    </message>
+    <message>
+        <source>Height of each photo</source>
+        <translation>Hauteur de chaque photo</translation>
+    </message>
+    <message>
+        <source>&amp;Each photo fills its own sheet</source>
+        <translation>Chaque photo remplit s&amp;a propre feuille</translation>
+    </message>
+    <message>
+        <source>Width of the photo</source>
+        <translation>Largeur de la photo</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>Hauteur de la photo</translation>
+    </message>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>À distance du coin :</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Depuis la gauche</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>Depuis le haut</translation>
+    </message>
+    <message>
+        <source>Margin of the sheet</source>
+        <translation>Marge de la feuille</translation>
+    </message>
+    <message>
+        <source>White border</source>
+        <translation>Bord blanc</translation>
+    </message>
+    <message>
+        <source>Thin l&amp;ine</source>
+        <translation>Filet f&amp;in</translation>
+    </message>
+    <message>
+        <source>C&amp;ut marks</source>
+        <translation>Repères &amp;de coupe</translation>
+    </message>
+    <message>
+        <source>Copies of this photo</source>
+        <translation>Copies de cette photo</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Recadrer…</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>Même cadrage pour toutes</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>Co&amp;nserver</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>&amp;Layout:</source>
+        <translation>&amp;Mise en page :</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>&amp;Taille de la photo :</translation>
+    </message>
+    <message>
+        <source>Pl&amp;ace:</source>
+        <translation>Empla&amp;cement :</translation>
+    </message>
+    <message>
+        <source>&amp;Margin:</source>
+        <translation>Mar&amp;ge :</translation>
+    </message>
+    <message>
+        <source>White &amp;border:</source>
+        <translation>&amp;Bord blanc :</translation>
+    </message>
+    <message>
+        <source>&amp;Caption:</source>
+        <translation>&amp;Légende :</translation>
+    </message>
+    <message>
+        <source>T&amp;his photo:</source>
+        <translation>Cette p&amp;hoto :</translation>
+    </message>
+    <message>
+        <source>As my la&amp;yout:</source>
+        <translation>Comme ma mise &amp;en page :</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> po</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>rows of</source>
+        <translation>rangées de</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>Aussi grande que la page</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>En</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>De sa propre taille</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Taille de la photo</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent of its own size</source>
+        <translation>Pourcentage de sa propre taille</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>Sinon, la photo est au milieu de la feuille</translation>
+    </message>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>Aucune ; par exemple [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>Légende sous chaque photo</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Repère</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>In&amp;sérer</translation>
+    </message>
+    <message>
+        <source> copies</source>
+        <translation> copies</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>Nom, pour la retrouver</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Nom de la mise en page</translation>
+    </message>
+    <message>
+        <source>One photo on each page</source>
+        <translation>Une photo sur chaque page</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>Rangées et colonnes</translation>
+    </message>
+    <message>
+        <source>Photos of one size</source>
+        <translation>Photos d’une même taille</translation>
+    </message>
+    <message>
+        <source>Make the page %1 mm long, as the photos need</source>
+        <translation>Donner à la page %1 mm de long, comme il faut aux photos</translation>
+    </message>
+    <message>
+        <source> copy</source>
+        <translation> copie</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LoginDialog</name>
     <message>
         <source>Send it &amp;all the same</source>
@@ -3477,6 +3819,10 @@
     <message>
         <source>Printer</source>
         <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Mise en page</translation>
     </message>
 </context>
 <context>
@@ -3952,6 +4298,22 @@
         <source>Back</source>
         <translation>Dos</translation>
     </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message>
+        <source>Choose the part of the photo that is printed (press C in the preview)</source>
+        <translation>Choisir la partie de la photo à imprimer (touche C dans l’aperçu)</translation>
+    </message>
+    <message>
+        <source>Show what is printed on the back of the picture</source>
+        <translation>Montrer ce qui est imprimé au dos de la photo</translation>
+    </message>
+    <message>
+        <source>The back of the picture, as the printer writes on it</source>
+        <translation>Le dos de la photo, tel que l’imprimante l’écrit</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -4010,10 +4372,6 @@
     <message>
         <source>Print %1</source>
         <translation>Imprimer %1</translation>
-    </message>
-    <message>
-        <source>%1 of %2  ·  %3</source>
-        <translation>%1 sur %2  ·  %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4130,6 +4488,18 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>Conne&amp;xion…</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(recto)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(verso)</translation>
     </message>
 </context>
 <context>

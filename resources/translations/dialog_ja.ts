@@ -486,6 +486,82 @@
         <source>&quot;%1&quot; is no turn: write 0, 90, 180 or 270.</source>
         <translation>「%1」は回転角度ではありません。0、90、180、270 のどれかを指定してください。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <translation>「%1」は長さではありません。0 から %2 までのミリメートルを指定してください。</translation>
+    </message>
+    <message>
+        <source>Put several photos on a sheet: a layout&apos;s name, rows and columns such as 3x4, or a size such as 90x130mm.</source>
+        <translation>1 枚の用紙に複数の写真を並べます: レイアウトの名前、3x4 のような行数と列数、または 90x130mm のようなサイズ。</translation>
+    </message>
+    <message>
+        <source>Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] number, [DATE] date taken, [YYYY], [MM], [DD].</source>
+        <translation>各写真の下に書く文字列。差し込み項目が使えます: [F] ファイル名、[T] タイトル、[C] 番号、[DATE] 撮影日、[YYYY]、[MM]、[DD]。</translation>
+    </message>
+    <message>
+        <source>Print each photo in this size, for example 100x150, 4x6in, or 50% of its own.</source>
+        <translation>各写真をこのサイズで印刷します。例: 100x150、4x6in、元のサイズの 50%。</translation>
+    </message>
+    <message>
+        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <translation>--photo-size と併用: 用紙の左と上からの距離 (ミリメートル)。例: 20,15。</translation>
+    </message>
+    <message>
+        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <translation>用紙の端に最低限あける余白 (ミリメートル)。</translation>
+    </message>
+    <message>
+        <source>Leave a white border of so many millimetres around each photo.</source>
+        <translation>各写真の周りに付ける白フチの幅 (ミリメートル)。</translation>
+    </message>
+    <message>
+        <source>With --layout: each photo fills its own sheet.</source>
+        <translation>--layout と併用: 1 枚の用紙に同じ写真を並べます。</translation>
+    </message>
+    <message>
+        <source>The photos share sheets.</source>
+        <translation>1 枚の用紙に違う写真も並べます。</translation>
+    </message>
+    <message>
+        <source>Print marks that show where to cut.</source>
+        <translation>切る位置を示すトンボを印刷します。</translation>
+    </message>
+    <message>
+        <source>Print no such marks.</source>
+        <translation>トンボを印刷しません。</translation>
+    </message>
+    <message>
+        <source>Print a thin line around each photo.</source>
+        <translation>各写真の周りに細い線を印刷します。</translation>
+    </message>
+    <message>
+        <source>Print no such line.</source>
+        <translation>細い線を印刷しません。</translation>
+    </message>
+    <message>
+        <source>The caption is longer than %1 characters.</source>
+        <translation>キャプションが %1 文字を超えています。</translation>
+    </message>
+    <message>
+        <source>--%1 and --no-%1 do not go together.</source>
+        <translation>--%1 と --no-%1 は一緒に使えません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write %2% to %3%.</source>
+        <translation>「%1」はサイズではありません。%2% から %3% までを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <translation>「%1」はサイズではありません。100x150 のようなミリメートル、4x6in のようなインチ、または 50% のように指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <translation>「%1」は角の位置ではありません。20,15 のように 2 つの長さをミリメートルで指定してください。</translation>
+    </message>
+    <message>
+        <source>--corner goes with --photo-size and a width and a height.</source>
+        <translation>--corner は、幅と高さを指定した --photo-size と一緒に使います。</translation>
+    </message>
 </context>
 <context>
     <name>CupsSentences</name>
@@ -974,6 +1050,10 @@
     <message>
         <source>%1 borderless</source>
         <translation>%1 フチなし</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>写真 %1 枚</translation>
     </message>
 </context>
 <context>
@@ -2851,6 +2931,65 @@
     </message>
 </context>
 <context>
+    <name>halvern::CropEditor</name>
+    <message>
+        <source>%1 pixels per inch: it will look soft</source>
+        <translation>1 インチあたり %1 ピクセル: ぼやけて見えます</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>1 インチあたり %1 ピクセル</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>トリミング</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中央へ</translation>
+    </message>
+    <message>
+        <source>Put the frame in the middle (C)</source>
+        <translation>枠を中央に置きます (C)</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Turn the photo clockwise (R)</source>
+        <translation>写真を時計回りに回転します (R)</translation>
+    </message>
+    <message>
+        <source>As Large As Can Be</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Show as much of the photo as can be (0)</source>
+        <translation>写真のできるだけ広い範囲を使います (0)</translation>
+    </message>
+    <message>
+        <source>Same for All</source>
+        <translation>すべてに適用</translation>
+    </message>
+    <message>
+        <source>Crop and turn all photos like this one</source>
+        <translation>すべての写真をこの写真と同じようにトリミングして回転します</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Back to the sheet (Esc)</source>
+        <translation>用紙に戻ります (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo</source>
+        <translation>写真の %1 %</translation>
+    </message>
+</context>
+<context>
     <name>halvern::CustomField</name>
     <message>
         <source>Other value...</source>
@@ -3178,6 +3317,209 @@
     </message>
 </context>
 <context>
+    <name>halvern::LayoutPage</name>
+    <message>
+        <source>Rows</source>
+        <translation>行数</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列数</translation>
+    </message>
+    <message>
+        <source>Width of each photo</source>
+        <translation>各写真の幅</translation>
+    </message>
+    <message>
+        <source>Height of each photo</source>
+        <translation>各写真の高さ</translation>
+    </message>
+    <message>
+        <source>&amp;Each photo fills its own sheet</source>
+        <translation>1 枚の用紙に同じ写真を並べる(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Width of the photo</source>
+        <translation>写真の幅</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>写真の高さ</translation>
+    </message>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>角からの距離:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>左から</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>上から</translation>
+    </message>
+    <message>
+        <source>Margin of the sheet</source>
+        <translation>用紙の余白</translation>
+    </message>
+    <message>
+        <source>White border</source>
+        <translation>白フチ</translation>
+    </message>
+    <message>
+        <source>Thin l&amp;ine</source>
+        <translation>細い線(&amp;I)</translation>
+    </message>
+    <message>
+        <source>C&amp;ut marks</source>
+        <translation>トンボ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Copies of this photo</source>
+        <translation>この写真の枚数</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>トリミング...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>すべて同じトリミング</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>登録(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>登録を解除</translation>
+    </message>
+    <message>
+        <source>&amp;Layout:</source>
+        <translation>レイアウト(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Photo si&amp;ze:</source>
+        <translation>写真のサイズ(&amp;Z):</translation>
+    </message>
+    <message>
+        <source>Pl&amp;ace:</source>
+        <translation>位置(&amp;A):</translation>
+    </message>
+    <message>
+        <source>&amp;Margin:</source>
+        <translation>余白(&amp;M):</translation>
+    </message>
+    <message>
+        <source>White &amp;border:</source>
+        <translation>白フチ(&amp;B):</translation>
+    </message>
+    <message>
+        <source>&amp;Caption:</source>
+        <translation>キャプション(&amp;C):</translation>
+    </message>
+    <message>
+        <source>T&amp;his photo:</source>
+        <translation>この写真(&amp;H):</translation>
+    </message>
+    <message>
+        <source>As my la&amp;yout:</source>
+        <translation>自分のレイアウトとして(&amp;Y):</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> インチ</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>rows of</source>
+        <translation>行 ×</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>ページと同じ大きさ</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>指定サイズ</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>元のサイズに対する割合</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>写真のサイズ</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Per cent of its own size</source>
+        <translation>元のサイズに対する割合 (%)</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>指定しないと写真は用紙の中央になります</translation>
+    </message>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>なし。例: [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>各写真の下のキャプション</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>差し込み項目</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>挿入(&amp;N)</translation>
+    </message>
+    <message>
+        <source> copies</source>
+        <translation> 枚</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>名前 (後で見つけるため)</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>レイアウトの名前</translation>
+    </message>
+    <message>
+        <source>One photo on each page</source>
+        <translation>1 ページに写真 1 枚</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>行と列</translation>
+    </message>
+    <message>
+        <source>Photos of one size</source>
+        <translation>同じサイズの写真</translation>
+    </message>
+    <message>
+        <source>Make the page %1 mm long, as the photos need</source>
+        <translation>写真に合わせてページの長さを %1 mm にする</translation>
+    </message>
+    <message>
+        <source> copy</source>
+        <translation> 枚</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LoginDialog</name>
     <message>
         <source>Send it &amp;all the same</source>
@@ -3477,6 +3819,10 @@
     <message>
         <source>Printer</source>
         <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
     </message>
 </context>
 <context>
@@ -3952,6 +4298,22 @@
         <source>Back</source>
         <translation>裏面</translation>
     </message>
+    <message>
+        <source>Crop</source>
+        <translation>トリミング</translation>
+    </message>
+    <message>
+        <source>Choose the part of the photo that is printed (press C in the preview)</source>
+        <translation>写真の印刷する部分を選びます (プレビューで C を押す)</translation>
+    </message>
+    <message>
+        <source>Show what is printed on the back of the picture</source>
+        <translation>写真の裏面に印刷する内容を表示します</translation>
+    </message>
+    <message>
+        <source>The back of the picture, as the printer writes on it</source>
+        <translation>プリンターが書き込む写真の裏面</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintDialog</name>
@@ -4010,10 +4372,6 @@
     <message>
         <source>Print %1</source>
         <translation>%1 を印刷</translation>
-    </message>
-    <message>
-        <source>%1 of %2  ·  %3</source>
-        <translation>%1 / %2  ·  %3</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4130,6 +4488,18 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>サインイン(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(表)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(裏)</translation>
     </message>
 </context>
 <context>
