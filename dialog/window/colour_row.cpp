@@ -37,7 +37,7 @@ ColourRow::ColourRow(DialogSession& session, QWidget* parent)
       profile_(new QComboBox(this)),
       intent_(new QComboBox(this)),
       blackPoint_(new QCheckBox(tr("Compensate the black point"), this)),
-      proof_(new QCheckBox(tr("So&ft proof"), this)),
+      proof_(new QCheckBox(tr("Soft proof"), this)),
       paper_(new QCheckBox(tr("Paper white"), this)),
       gamut_(new QCheckBox(tr("Gamut warning"), this)),
       words_(new QLabel(this))

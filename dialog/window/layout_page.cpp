@@ -68,7 +68,7 @@ LayoutPage::LayoutPage(DialogSession& session, QWidget* parent)
       margin_(makeLength(QStringLiteral("sheetMargin"), tr("Margin of the sheet"), kMostMargin)),
       border_(makeLength(QStringLiteral("photoBorder"), tr("White border"), kMostBorder)),
       line_(new QCheckBox(tr("Thin l&ine"), this)),
-      cutMarks_(new QCheckBox(tr("C&ut marks"), this)),
+      cutMarks_(new QCheckBox(tr("Cu&t marks"), this)),
       caption_(new QLineEdit(this)),
       tokens_(new QComboBox(this)),
       copies_(makeNumber(QStringLiteral("photoCopies"), tr("Copies of this photo"), kMostPhotoCopies)),

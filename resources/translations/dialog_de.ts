@@ -2878,7 +2878,7 @@
         <translation>Andere Datei ...</translation>
     </message>
     <message>
-        <source>So&amp;ft proof</source>
+        <source>Soft proof</source>
         <translation>Soft&amp;proof</translation>
     </message>
     <message>

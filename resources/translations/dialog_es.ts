@@ -2878,7 +2878,7 @@
         <translation>Otro archivo...</translation>
     </message>
     <message>
-        <source>So&amp;ft proof</source>
+        <source>Soft proof</source>
         <translation>Pr&amp;ueba en pantalla</translation>
     </message>
     <message>

@@ -2878,7 +2878,7 @@
         <translation>Autre fichier…</translation>
     </message>
     <message>
-        <source>So&amp;ft proof</source>
+        <source>Soft proof</source>
         <translation>Épreuva&amp;ge écran</translation>
     </message>
     <message>

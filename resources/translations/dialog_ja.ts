@@ -2878,7 +2878,7 @@
         <translation>別のファイル...</translation>
     </message>
     <message>
-        <source>So&amp;ft proof</source>
+        <source>Soft proof</source>
         <translation>ソフトプルーフ(&amp;E)</translation>
     </message>
     <message>

@@ -468,7 +468,7 @@ TEST_F(DialogServerTest, TheTabKeyGoesFromThePrinterDownToPrintAndReturnEndsAnEd
     EXPECT_EQ(visited.join(u' '),
               q("printer jobsButton preset presetMenu search pageList paperSize borderless twoSided colourBy "
                 "qt_tabwidget_tabbar upper lower copies outputButton cancelButton "
-                "printButton preview zoomButton addPhotos"))
+                "printButton preview cropButton zoomButton addPhotos"))
         << qPrintable(visited.join(u' '));
     QLineEdit field(dialog.findChild<QWidget*>(q("pagePage")));
     field.show();

@@ -61,7 +61,7 @@ TEST(PanelKeys, AreNotTheDialogsOwnInAnyLanguage)
         PrintDialog dialog(session);
         Q_EMIT session.otherOptionsChanged({}); // which can be undone
         QList<const QWidget*> ownPages;
-        for (const char* name : {"pagePage", "jobPage", "summaryPage"})
+        for (const char* name : {"pagePage", "layoutPage", "printerPage", "jobPage", "summaryPage"})
             ownPages.append(dialog.findChild<QWidget*>(q(name)));
         const QStringList around = mnemonics(dialog, ownPages);
         EXPECT_GE(mnemonics(dialog).size(), 12) << language;
