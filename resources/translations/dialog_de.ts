@@ -2879,7 +2879,7 @@
     </message>
     <message>
         <source>Soft proof</source>
-        <translation>Soft&amp;proof</translation>
+        <translation>Softproof</translation>
     </message>
     <message>
         <source>Paper white</source>
@@ -3371,10 +3371,6 @@
         <translation>Dünne L&amp;inie</translation>
     </message>
     <message>
-        <source>C&amp;ut marks</source>
-        <translation>&amp;Schnittmarken</translation>
-    </message>
-    <message>
         <source>Copies of this photo</source>
         <translation>Exemplare dieses Fotos</translation>
     </message>
@@ -3517,6 +3513,10 @@
     <message>
         <source> copy</source>
         <translation> Exemplar</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t marks</source>
+        <translation>&amp;Schnittmarken</translation>
     </message>
 </context>
 <context>

@@ -2879,7 +2879,7 @@
     </message>
     <message>
         <source>Soft proof</source>
-        <translation>Pr&amp;ueba en pantalla</translation>
+        <translation>Prueba en pantalla</translation>
     </message>
     <message>
         <source>Paper white</source>
@@ -3371,10 +3371,6 @@
         <translation>Línea &amp;fina</translation>
     </message>
     <message>
-        <source>C&amp;ut marks</source>
-        <translation>G&amp;uías de corte</translation>
-    </message>
-    <message>
         <source>Copies of this photo</source>
         <translation>Copias de esta foto</translation>
     </message>
@@ -3517,6 +3513,10 @@
     <message>
         <source> copy</source>
         <translation> copia</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t marks</source>
+        <translation>G&amp;uías de corte</translation>
     </message>
 </context>
 <context>

@@ -2879,7 +2879,7 @@
     </message>
     <message>
         <source>Soft proof</source>
-        <translation>Épreuva&amp;ge écran</translation>
+        <translation>Épreuvage écran</translation>
     </message>
     <message>
         <source>Paper white</source>
@@ -3371,10 +3371,6 @@
         <translation>Filet f&amp;in</translation>
     </message>
     <message>
-        <source>C&amp;ut marks</source>
-        <translation>Repères &amp;de coupe</translation>
-    </message>
-    <message>
         <source>Copies of this photo</source>
         <translation>Copies de cette photo</translation>
     </message>
@@ -3517,6 +3513,10 @@
     <message>
         <source> copy</source>
         <translation> copie</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t marks</source>
+        <translation>Repères &amp;de coupe</translation>
     </message>
 </context>
 <context>

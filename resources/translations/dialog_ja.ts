@@ -2879,7 +2879,7 @@
     </message>
     <message>
         <source>Soft proof</source>
-        <translation>ソフトプルーフ(&amp;E)</translation>
+        <translation>ソフトプルーフ</translation>
     </message>
     <message>
         <source>Paper white</source>
@@ -3371,10 +3371,6 @@
         <translation>細い線(&amp;I)</translation>
     </message>
     <message>
-        <source>C&amp;ut marks</source>
-        <translation>トンボ(&amp;T)</translation>
-    </message>
-    <message>
         <source>Copies of this photo</source>
         <translation>この写真の枚数</translation>
     </message>
@@ -3517,6 +3513,10 @@
     <message>
         <source> copy</source>
         <translation> 枚</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t marks</source>
+        <translation>トンボ(&amp;T)</translation>
     </message>
 </context>
 <context>
