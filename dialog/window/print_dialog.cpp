@@ -101,6 +101,7 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     });
     makeShortcuts();
     connectSession();
+    connectChanges();
     fillPrinters();
     showPhotos();
     updateButtons();
@@ -350,19 +351,6 @@ void PrintDialog::connectSession()
             [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     connect(&session_, &DialogSession::photoDamaged, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::warning, sentence); });
-    connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
-    connect(&session_, &DialogSession::optionsPutBack, this, [this](const QList<SideChange>& changes) {
-        offerUndo(changes.size() == 1
-                      ? tr("1 option was put back to the printer's default.")
-                      : tr("%1 options were put back to the printer's defaults.").arg(changes.size()));
-    });
-    connect(&session_, &DialogSession::optionsCorrected, this, &PrintDialog::showCorrections);
-    connect(&session_, &DialogSession::undoFailed, this, [this](const QList<SideChange>& changes) {
-        message_->showMessage(
-            MessageKind::information,
-            tr("The printer cannot do what was chosen, so this stays: %1").arg(inWords(changes)), {},
-            kUndoMessage);
-    });
     connect(&session_, &DialogSession::photosChanged, this, &PrintDialog::showPhotos);
     connect(&session_.colours(), &ColourManagement::proofChanged, this, &PrintDialog::showPhotos);
     connect(&session_, &DialogSession::optionsChanged, this, [this] {
@@ -380,6 +368,23 @@ void PrintDialog::connectSession()
     connect(&session_, &DialogSession::reportChanged, this, [this] {
         showPrinterState();
         showMisfit();
+    });
+}
+
+void PrintDialog::connectChanges()
+{
+    connect(&session_, &DialogSession::otherOptionsChanged, this, &PrintDialog::showOtherChanges);
+    connect(&session_, &DialogSession::optionsPutBack, this, [this](const QList<SideChange>& changes) {
+        offerUndo(changes.size() == 1
+                      ? tr("1 option was put back to the printer's default.")
+                      : tr("%1 options were put back to the printer's defaults.").arg(changes.size()));
+    });
+    connect(&session_, &DialogSession::optionsCorrected, this, &PrintDialog::showCorrections);
+    connect(&session_, &DialogSession::undoFailed, this, [this](const QList<SideChange>& changes) {
+        message_->showMessage(
+            MessageKind::information,
+            tr("The printer cannot do what was chosen, so this stays: %1").arg(inWords(changes)), {},
+            kUndoMessage);
     });
     connect(&session_, &DialogSession::trayRefilled, this, &PrintDialog::offerUndo);
     connect(&session_, &DialogSession::undoExpired, this, [this] { message_->withdraw(kUndoMessage); });

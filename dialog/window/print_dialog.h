@@ -80,6 +80,7 @@ private:
     QLayout* makeButtonRow(QWidget* parent);
     QWidget* makeCollateBox(QWidget* parent);
     void connectSession();
+    void connectChanges();
     void makeShortcuts();
     void takeOpeningSize();
     void rememberSize() const;
