@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/user_job_list.h"
 
-#include "platform/foundation/threads/work_queue.h"
-
 #include <QPointer>
 
 namespace halvern {
@@ -10,11 +8,16 @@ namespace halvern {
 namespace {
 
 constexpr int kRefreshMilliseconds = 2000;
+// Well beyond the limits of a question: whoever looks up a host's name is out of their reach.
+constexpr std::chrono::milliseconds kStuck(60'000);
 
 } // namespace
 
 UserJobList::UserJobList(QString queue, QObject* parent)
-    : QObject(parent), queue_(std::move(queue)), stop_(cups::makeCancelFlag())
+    : QObject(parent),
+      queue_(std::move(queue)),
+      line_(std::make_shared<Line>()),
+      stop_(cups::makeCancelFlag())
 {
     timer_.setInterval(kRefreshMilliseconds);
     connect(&timer_, &QTimer::timeout, this, &UserJobList::ask);
@@ -39,15 +42,24 @@ void UserJobList::setWithEnded(bool withEnded)
 
 void UserJobList::ask()
 {
+    if (isAsking_ && askedAt_.hasExpired(kStuck.count())) {
+        // The worker is left to itself.
+        questions_ = WorkQueue();
+        line_ = std::make_shared<Line>();
+        isAsking_ = false;
+    }
     mustAskAgain_ = isAsking_;
     if (isAsking_)
         return;
     isAsking_ = true;
+    askedAt_.start();
     QPointer<UserJobList> self(this);
-    WorkQueue().async([self, queue = queue_, withEnded = withEnded_, stop = stop_] {
-        const UserJobs answer = askUserJobs(queue, withEnded, stop);
-        mainQueue().async([self, answer] {
-            if (self)
+    questions_.async([self, line = line_, queue = queue_, withEnded = withEnded_, stop = stop_] {
+        if (!line->server || !line->server->isConnected())
+            line->server = std::make_unique<cups::Connection>(stop);
+        const UserJobs answer = askUserJobs(*line->server, queue, withEnded);
+        mainQueue().async([self, line, answer] {
+            if (self && self->line_ == line)
                 self->take(answer);
         });
     });

@@ -3,6 +3,9 @@
 
 #include "dialog/job/user_jobs.h"
 
+#include "platform/foundation/threads/work_queue.h"
+
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -27,9 +30,6 @@ public:
     /// Starts asking, or goes on at once.
     void start();
 
-    /// Asks no more until start().
-    void pause() { timer_.stop(); }
-
     /// Whether jobs that have ended are asked for, too.
     void setWithEnded(bool withEnded);
 
@@ -46,9 +46,17 @@ private:
     void ask();
     void take(const UserJobs& answer);
 
+    /// The connection that all questions share; touched by their queue only.
+    struct Line {
+        std::unique_ptr<cups::Connection> server;
+    };
+
     QString queue_;
     UserJobs answer_;
     QTimer timer_;
+    QElapsedTimer askedAt_;
+    WorkQueue questions_;
+    std::shared_ptr<Line> line_;
     bool withEnded_ = true;
     bool hasAnswer_ = false;
     bool isAsking_ = false;

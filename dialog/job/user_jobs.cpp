@@ -188,10 +188,9 @@ constexpr DeedRow kDeeds[] = {
 
 } // namespace
 
-UserJobs askUserJobs(const QString& queue, bool withEnded, const cups::CancelFlag& cancelled)
+UserJobs askUserJobs(cups::Connection& server, const QString& queue, bool withEnded)
 {
     UserJobs result;
-    cups::Connection server(cancelled);
     QHash<QString, QStringList> printerReasons;
     const auto take = [&](const char* which, int limit) {
         const cups::Ipp answer = askFor(server, queue, which, limit);

@@ -30,7 +30,7 @@ struct UserJobs {
 };
 
 /// Asks for the user's jobs on a queue, or on all of them if `queue` is empty, on the calling worker.
-UserJobs askUserJobs(const QString& queue, bool withEnded, const cups::CancelFlag& cancelled);
+UserJobs askUserJobs(cups::Connection& server, const QString& queue, bool withEnded);
 
 /// What a user may want of a job.
 enum class JobDeed { cancel, hold, release, printAgain, move, signIn };

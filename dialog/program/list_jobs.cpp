@@ -90,7 +90,8 @@ QString doneText(JobDeed deed, int job, const QString& target)
 
 int carryOut(const ListJobsRequest& request, QTextStream& out, QTextStream& err)
 {
-    const UserJobs all = askUserJobs({}, true, quitFlag());
+    cups::Connection server(quitFlag());
+    const UserJobs all = askUserJobs(server, {}, true);
     if (!all.problem.isEmpty())
         return fail(err, all.problem);
     const int place = indexOfJob(all.jobs, request.jobId);
@@ -107,17 +108,21 @@ int carryOut(const ListJobsRequest& request, QTextStream& out, QTextStream& err)
 
 } // namespace
 
-int listJobs(const ListJobsRequest& request, QTextStream& out, QTextStream& err)
+int listJobs(const ListJobsRequest& asked, QTextStream& out, QTextStream& err)
 {
-    // Whether there is such a queue, with the names of those that there are.
-    for (const QString& named : {request.printer, request.target}) {
-        const FoundQueue found = named.isEmpty() ? FoundQueue() : findQueue(named, quitFlag());
+    ListJobsRequest request = asked;
+    // Whether there is such a queue, with the names of those that there are. An instance's jobs are its
+    // queue's.
+    for (QString* named : {&request.printer, &request.target}) {
+        const FoundQueue found = named->isEmpty() ? FoundQueue() : findQueue(*named, quitFlag());
         if (!found.problem.isEmpty())
             return fail(err, found.problem);
+        *named = found.name;
     }
     if (request.deed)
         return carryOut(request, out, err);
-    const UserJobs answer = askUserJobs(request.printer, request.withEnded, quitFlag());
+    cups::Connection server(quitFlag());
+    const UserJobs answer = askUserJobs(server, request.printer, request.withEnded);
     if (!answer.problem.isEmpty())
         return fail(err, answer.problem);
     if (request.asJson) {

@@ -24,7 +24,8 @@ protected:
 
     static JobStage stageOn(const QString& queue, int id)
     {
-        const UserJobs answer = askUserJobs(queue, true, nullptr);
+        cups::Connection asked(nullptr);
+        const UserJobs answer = askUserJobs(asked, queue, true);
         const int place = indexOfJob(answer.jobs, id);
         return place < 0 ? JobStage::unknown : answer.jobs[size_t(place)].status.stage;
     }
@@ -40,7 +41,8 @@ protected:
     static int send(const QString& title)
     {
         Printer(q("First"), {}).sendCommand(q("#CUPS-COMMAND\nReportStatus\n"), title);
-        return askUserJobs(q("First"), false, nullptr).jobs.back().id;
+        cups::Connection asked(nullptr);
+        return askUserJobs(asked, q("First"), false).jobs.back().id;
     }
 };
 
@@ -112,7 +114,8 @@ TEST(JobsOfAStrangerTest, WhatAServerMakesUpDoesNoHarm)
         ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-printer-uri", 3);
         return answer;
     });
-    const UserJobs answer = askUserJobs({}, false, nullptr);
+    cups::Connection asked(nullptr);
+    const UserJobs answer = askUserJobs(asked, {}, false);
     ASSERT_EQ(answer.jobs.size(), 1U);
     EXPECT_EQ(answer.jobs[0].id, 7);
     EXPECT_EQ(jobPagesText(answer.jobs[0]), QString());
