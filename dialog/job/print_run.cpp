@@ -287,7 +287,7 @@ PrintOutcome PrintRun::outcomeOfAll() const
         // It is not true of all of them that nothing was printed.
         if (printedJobs_ > 0)
             result = {false, 0, JobStage::aborted,
-                      tr("Cancelled when %n job(s) had been printed already.", nullptr, printedJobs_)};
+                      tr("Cancelled. Jobs that were printed before: %1.").arg(printedJobs_)};
         else
             result = {false, 0, JobStage::cancelled, tr("Cancelled: nothing was printed.")};
     } else if (!sent_.isAll) {

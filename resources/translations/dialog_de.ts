@@ -4536,12 +4536,9 @@
         <source>The computer is too busy to send it. Close something and try again.</source>
         <translation>Der Computer ist zu beschäftigt zum Senden. Schließen Sie etwas und versuchen Sie es erneut.</translation>
     </message>
-    <message numerus="yes">
-        <source>Cancelled when %n job(s) had been printed already.</source>
-        <translation>
-            <numerusform>Abgebrochen, als schon %n Auftrag gedruckt war.</numerusform>
-            <numerusform>Abgebrochen, als schon %n Aufträge gedruckt waren.</numerusform>
-        </translation>
+    <message>
+        <source>Cancelled. Jobs that were printed before: %1.</source>
+        <translation>Abgebrochen. Vorher gedruckte Aufträge: %1.</translation>
     </message>
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>

@@ -4536,12 +4536,9 @@
         <source>The computer is too busy to send it. Close something and try again.</source>
         <translation>El equipo está demasiado ocupado para enviarlo. Cierre algo e inténtelo de nuevo.</translation>
     </message>
-    <message numerus="yes">
-        <source>Cancelled when %n job(s) had been printed already.</source>
-        <translation>
-            <numerusform>Cancelado cuando ya se había impreso %n trabajo.</numerusform>
-            <numerusform>Cancelado cuando ya se habían impreso %n trabajos.</numerusform>
-        </translation>
+    <message>
+        <source>Cancelled. Jobs that were printed before: %1.</source>
+        <translation>Cancelado. Trabajos impresos antes: %1.</translation>
     </message>
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>

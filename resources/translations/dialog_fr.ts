@@ -4536,12 +4536,9 @@
         <source>The computer is too busy to send it. Close something and try again.</source>
         <translation>L’ordinateur est trop occupé pour l’envoi. Fermez quelque chose et réessayez.</translation>
     </message>
-    <message numerus="yes">
-        <source>Cancelled when %n job(s) had been printed already.</source>
-        <translation>
-            <numerusform>Annulé alors que %n tâche était déjà imprimée.</numerusform>
-            <numerusform>Annulé alors que %n tâches étaient déjà imprimées.</numerusform>
-        </translation>
+    <message>
+        <source>Cancelled. Jobs that were printed before: %1.</source>
+        <translation>Annulé. Tâches déjà imprimées : %1.</translation>
     </message>
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>

@@ -4536,11 +4536,9 @@
         <source>The computer is too busy to send it. Close something and try again.</source>
         <translation>コンピューターの負荷が高く、送信できません。何か閉じてから、もう一度お試しください。</translation>
     </message>
-    <message numerus="yes">
-        <source>Cancelled when %n job(s) had been printed already.</source>
-        <translation>
-            <numerusform>キャンセルしました。すでに %n 件のジョブを印刷しました。</numerusform>
-        </translation>
+    <message>
+        <source>Cancelled. Jobs that were printed before: %1.</source>
+        <translation>キャンセルしました。すでに印刷したジョブ: %1 件。</translation>
     </message>
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
