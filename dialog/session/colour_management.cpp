@@ -77,8 +77,12 @@ bool isForChoices(const PpdModel& model, const QString& qualifiers)
 
 QString profileOfPpd(const PpdModel& model)
 {
-    for (ppd_attr_t* row = ppdFindAttr(model.file(), "cupsICCProfile", nullptr); row;
-         row = ppdFindNextAttr(model.file(), "cupsICCProfile", nullptr)) {
+    // All of them first: a look-up in between moves the place where the search goes on.
+    std::vector<const ppd_attr_t*> rows;
+    for (const ppd_attr_t* row = ppdFindAttr(model.file(), "cupsICCProfile", nullptr); row;
+         row = ppdFindNextAttr(model.file(), "cupsICCProfile", nullptr))
+        rows.push_back(row);
+    for (const ppd_attr_t* row : rows) {
         const QString path = profilesFolder().absoluteFilePath(QString::fromUtf8(row->value));
         if (isForChoices(model, QString::fromUtf8(row->spec)) && QFileInfo(path).isFile())
             return path;
