@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/server/ipp_words.h"
 
+#include "dialog/options/tray_words.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -24,7 +26,7 @@ constexpr std::array kOptions{
     Row{"media-source", QT_TRANSLATE_NOOP("IppWords", "Paper source")},
     Row{"media-type", QT_TRANSLATE_NOOP("IppWords", "Paper type")},
     Row{"sides", QT_TRANSLATE_NOOP("IppWords", "Two-sided")},
-    Row{"print-color-mode", QT_TRANSLATE_NOOP("IppWords", "Colour")},
+    Row{"print-color-mode", QT_TRANSLATE_NOOP("IppWords", "Color")},
     Row{"print-quality", QT_TRANSLATE_NOOP("IppWords", "Quality")},
     Row{"printer-resolution", QT_TRANSLATE_NOOP("IppWords", "Resolution")},
     Row{"output-bin", QT_TRANSLATE_NOOP("IppWords", "Output tray")},
@@ -38,22 +40,14 @@ constexpr std::array kValues{
     Row{"one-sided", QT_TRANSLATE_NOOP("IppWords", "Off")},
     Row{"two-sided-long-edge", QT_TRANSLATE_NOOP("IppWords", "Long edge")},
     Row{"two-sided-short-edge", QT_TRANSLATE_NOOP("IppWords", "Short edge")},
-    Row{"color", QT_TRANSLATE_NOOP("IppWords", "Colour")},
+    Row{"color", QT_TRANSLATE_NOOP("IppWords", "Color")},
     Row{"monochrome", QT_TRANSLATE_NOOP("IppWords", "Black and white")},
     Row{"auto-monochrome", QT_TRANSLATE_NOOP("IppWords", "Automatic, black and white")},
     Row{"bi-level", QT_TRANSLATE_NOOP("IppWords", "Black only")},
     Row{"3", QT_TRANSLATE_NOOP("IppWords", "Draft")},
     Row{"4", QT_TRANSLATE_NOOP("IppWords", "Normal")},
     Row{"5", QT_TRANSLATE_NOOP("IppWords", "High")},
-    Row{"stationery", QT_TRANSLATE_NOOP("IppWords", "Plain paper")},
-    Row{"photographic", QT_TRANSLATE_NOOP("IppWords", "Photo paper")},
-    Row{"photographic-glossy", QT_TRANSLATE_NOOP("IppWords", "Glossy photo paper")},
-    Row{"photographic-high-gloss", QT_TRANSLATE_NOOP("IppWords", "High-gloss photo paper")},
-    Row{"photographic-matte", QT_TRANSLATE_NOOP("IppWords", "Matte photo paper")},
-    Row{"photographic-satin", QT_TRANSLATE_NOOP("IppWords", "Satin photo paper")},
-    Row{"main", QT_TRANSLATE_NOOP("IppWords", "Main tray")},
     Row{"photo", QT_TRANSLATE_NOOP("IppWords", "Photo")},
-    Row{"by-pass-tray", QT_TRANSLATE_NOOP("IppWords", "Multi-purpose tray")},
     Row{"face-up", QT_TRANSLATE_NOOP("IppWords", "Face up")},
     Row{"face-down", QT_TRANSLATE_NOOP("IppWords", "Face down")},
     Row{"text", QT_TRANSLATE_NOOP("IppWords", "Text")},
@@ -93,6 +87,10 @@ QString ippWords(const QString& attribute, const QString& value)
 {
     if (attribute == QLatin1StringView("printer-resolution"))
         return QString(value).replace(QLatin1StringView("dpi"), QLatin1StringView(" dpi"));
+    if (attribute == QLatin1StringView("media-source"))
+        return traySourceWords(value);
+    if (attribute == QLatin1StringView("media-type"))
+        return mediaTypeWords(value);
     return wordsIn(kValues, value);
 }
 

@@ -814,7 +814,7 @@
         <translation>Beidseitig</translation>
     </message>
     <message>
-        <source>Colour</source>
+        <source>Color</source>
         <translation>Farbe</translation>
     </message>
     <message>
@@ -878,40 +878,8 @@
         <translation>Hoch</translation>
     </message>
     <message>
-        <source>Plain paper</source>
-        <translation>Normalpapier</translation>
-    </message>
-    <message>
-        <source>Photo paper</source>
-        <translation>Fotopapier</translation>
-    </message>
-    <message>
-        <source>Glossy photo paper</source>
-        <translation>Glänzendes Fotopapier</translation>
-    </message>
-    <message>
-        <source>High-gloss photo paper</source>
-        <translation>Hochglänzendes Fotopapier</translation>
-    </message>
-    <message>
-        <source>Matte photo paper</source>
-        <translation>Mattes Fotopapier</translation>
-    </message>
-    <message>
-        <source>Satin photo paper</source>
-        <translation>Seidenmattes Fotopapier</translation>
-    </message>
-    <message>
-        <source>Main tray</source>
-        <translation>Hauptfach</translation>
-    </message>
-    <message>
         <source>Photo</source>
         <translation>Foto</translation>
-    </message>
-    <message>
-        <source>Multi-purpose tray</source>
-        <translation>Mehrzweckfach</translation>
     </message>
     <message>
         <source>Face up</source>

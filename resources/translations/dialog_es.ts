@@ -814,7 +814,7 @@
         <translation>A doble cara</translation>
     </message>
     <message>
-        <source>Colour</source>
+        <source>Color</source>
         <translation>Color</translation>
     </message>
     <message>
@@ -878,40 +878,8 @@
         <translation>Alta</translation>
     </message>
     <message>
-        <source>Plain paper</source>
-        <translation>Papel normal</translation>
-    </message>
-    <message>
-        <source>Photo paper</source>
-        <translation>Papel fotográfico</translation>
-    </message>
-    <message>
-        <source>Glossy photo paper</source>
-        <translation>Papel fotográfico brillante</translation>
-    </message>
-    <message>
-        <source>High-gloss photo paper</source>
-        <translation>Papel fotográfico de alto brillo</translation>
-    </message>
-    <message>
-        <source>Matte photo paper</source>
-        <translation>Papel fotográfico mate</translation>
-    </message>
-    <message>
-        <source>Satin photo paper</source>
-        <translation>Papel fotográfico satinado</translation>
-    </message>
-    <message>
-        <source>Main tray</source>
-        <translation>Bandeja principal</translation>
-    </message>
-    <message>
         <source>Photo</source>
         <translation>Foto</translation>
-    </message>
-    <message>
-        <source>Multi-purpose tray</source>
-        <translation>Bandeja multiuso</translation>
     </message>
     <message>
         <source>Face up</source>

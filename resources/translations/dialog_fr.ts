@@ -814,7 +814,7 @@
         <translation>Recto verso</translation>
     </message>
     <message>
-        <source>Colour</source>
+        <source>Color</source>
         <translation>Couleur</translation>
     </message>
     <message>
@@ -878,40 +878,8 @@
         <translation>Élevée</translation>
     </message>
     <message>
-        <source>Plain paper</source>
-        <translation>Papier ordinaire</translation>
-    </message>
-    <message>
-        <source>Photo paper</source>
-        <translation>Papier photo</translation>
-    </message>
-    <message>
-        <source>Glossy photo paper</source>
-        <translation>Papier photo brillant</translation>
-    </message>
-    <message>
-        <source>High-gloss photo paper</source>
-        <translation>Papier photo très brillant</translation>
-    </message>
-    <message>
-        <source>Matte photo paper</source>
-        <translation>Papier photo mat</translation>
-    </message>
-    <message>
-        <source>Satin photo paper</source>
-        <translation>Papier photo satiné</translation>
-    </message>
-    <message>
-        <source>Main tray</source>
-        <translation>Bac principal</translation>
-    </message>
-    <message>
         <source>Photo</source>
         <translation>Photo</translation>
-    </message>
-    <message>
-        <source>Multi-purpose tray</source>
-        <translation>Bac multi-usage</translation>
     </message>
     <message>
         <source>Face up</source>

@@ -814,7 +814,7 @@
         <translation>両面印刷</translation>
     </message>
     <message>
-        <source>Colour</source>
+        <source>Color</source>
         <translation>カラー</translation>
     </message>
     <message>
@@ -878,40 +878,8 @@
         <translation>高品質</translation>
     </message>
     <message>
-        <source>Plain paper</source>
-        <translation>普通紙</translation>
-    </message>
-    <message>
-        <source>Photo paper</source>
-        <translation>写真用紙</translation>
-    </message>
-    <message>
-        <source>Glossy photo paper</source>
-        <translation>光沢写真用紙</translation>
-    </message>
-    <message>
-        <source>High-gloss photo paper</source>
-        <translation>高光沢写真用紙</translation>
-    </message>
-    <message>
-        <source>Matte photo paper</source>
-        <translation>マット写真用紙</translation>
-    </message>
-    <message>
-        <source>Satin photo paper</source>
-        <translation>サテン写真用紙</translation>
-    </message>
-    <message>
-        <source>Main tray</source>
-        <translation>メイントレイ</translation>
-    </message>
-    <message>
         <source>Photo</source>
         <translation>写真</translation>
-    </message>
-    <message>
-        <source>Multi-purpose tray</source>
-        <translation>多目的トレイ</translation>
     </message>
     <message>
         <source>Face up</source>
