@@ -24,6 +24,7 @@ constexpr std::chrono::milliseconds kRestWithoutEvents(4000);
 // Events may be lost.
 constexpr std::chrono::seconds kOldest(60);
 constexpr int kDiscoveryMilliseconds = 3000;
+constexpr std::chrono::milliseconds kRestOfDiscovery(30000);
 // More names than these nobody reads in a sentence.
 constexpr qsizetype kMostNamed = 8;
 
@@ -178,6 +179,8 @@ struct PrinterList::Line {
     QString watched;
     bool isWanted = true; ///< an answer, whatever the server says of events
 
+    std::unique_ptr<Rounds> discovery; ///< the main thread's
+
     // The worker's only.
     std::unique_ptr<cups::Connection> server;
     QByteArray serverName;
@@ -218,6 +221,7 @@ PrinterList::PrinterList(QObject* parent)
 PrinterList::~PrinterList()
 {
     stop_->store(true);
+    line_->discovery.reset();
 }
 
 void PrinterList::start()
@@ -272,16 +276,21 @@ void PrinterList::watch(const QString& queue)
 
 void PrinterList::discover()
 {
-    QPointer<PrinterList> self(this);
-    WorkQueue().async([self, stop = stop_] {
-        std::vector<PrinterInfo> found = discoverPrinters(kDiscoveryMilliseconds, stop);
+    const QPointer<PrinterList> self(this);
+    const auto before = std::make_shared<std::vector<PrinterInfo>>();
+    line_->discovery = std::make_unique<Rounds>([self, before, stop = stop_] {
+        const std::vector<PrinterInfo> now = discoverPrinters(kDiscoveryMilliseconds, stop);
+        // One that has not answered once is still there.
+        std::vector<PrinterInfo> found = withDiscovered(now, *before);
+        *before = now;
         mainQueue().async([self, found = std::move(found)] {
-            if (!self || found.empty())
+            if (!self || found == self->discovered_)
                 return;
             self->discovered_ = found;
             self->printers_ = withDiscovered(self->queues_, found);
             Q_EMIT self->changed();
         });
+        return kRestOfDiscovery;
     });
 }
 

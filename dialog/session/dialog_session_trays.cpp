@@ -2,6 +2,7 @@
 // What a printer that tells of its trays has to do with the options.
 #include "dialog/session/dialog_session.h"
 
+#include "dialog/session/seen_printers.h"
 #include "platform/foundation/display_text.h"
 
 #include <algorithm>
@@ -90,6 +91,9 @@ void DialogSession::takeReport()
                                          isolated(paperInWords(*model(), *refilled)),
                                          isolated(paperTypeText(*model(), *refilled))));
     }
+    // One that its server knows may be switched off all the same.
+    if (report().isThere && !report().isSilent && request_.remembers)
+        SeenPrinters::note(printerName());
     Q_EMIT reportChanged();
 }
 

@@ -2,6 +2,7 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/preview/preview_widget.h"
+#include "dialog/session/seen_printers.h"
 #include "dialog/session/sheet_words.h"
 #include "dialog/window/access_dialogs.h"
 #include "dialog/window/disabled_reasons.h"
@@ -26,6 +27,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
@@ -61,6 +63,17 @@ protected:
         QPainter(this).fillRect(rect(), colour);
     }
 };
+
+// Why a printer may be missing.
+QString missingText(const QString& name)
+{
+    const QDate seen = SeenPrinters::last(name);
+    if (!seen.isValid())
+        return PrintDialog::tr("The print server has no printer \"%1\". Choose another one.").arg(name);
+    return PrintDialog::tr("The print server has no printer \"%1\" any more. It was last seen on %2. Is it "
+                           "switched on, and on this network?")
+        .arg(name, QLocale().toString(seen, QLocale::ShortFormat));
+}
 
 QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
 {
@@ -433,7 +446,7 @@ void PrintDialog::showPrinterState()
     else if (list.hasAnswer() && list.printers().empty())
         text = tr("The print server has no printers. Add one in the system's settings.");
     else if (list.hasAnswer())
-        text = tr("The print server has no printer \"%1\". Choose another one.").arg(session_.printerName());
+        text = missingText(session_.printerName());
     setPlainText(printerState_, text, kLongestState);
     Severity severity = printer ? stateSeverity(*printer) : Severity::error;
     if (!list.hasAnswer())

@@ -21,9 +21,24 @@ QString rowText(const PrinterInfo& printer)
                      .arg(isolated(printer.name), isolated(printer.info, kLongestName));
 }
 
-QString detailText(const PrinterInfo& printer)
+// A class is as well as the printers in it.
+QString membersText(const PrinterInfo& printer, const std::vector<PrinterInfo>& all)
+{
+    QStringList members;
+    for (const QString& name : printer.members) {
+        const auto member = std::ranges::find(all, name, &PrinterInfo::name);
+        members.append(member == all.end()
+                           ? isolated(name)
+                           : PrinterRows::tr("%1: %2").arg(isolated(name), isolated(stateText(*member))));
+    }
+    return displayText(members.join(QStringLiteral(", ")), kLongestState);
+}
+
+QString detailText(const PrinterInfo& printer, const std::vector<PrinterInfo>& all)
 {
     QStringList parts{displayText(stateText(printer), kLongestState)};
+    if (!printer.members.isEmpty())
+        parts.append(membersText(printer, all));
     for (const QString& part : {printer.location, printer.makeAndModel}) {
         if (!part.isEmpty() && !part.startsWith(printer.info))
             parts.append(isolated(part, kLongestName));
@@ -114,9 +129,9 @@ QVariant PrinterRows::data(const QModelIndex& index, int role) const
     case Qt::UserRole:
         return printer.name;
     case Qt::AccessibleTextRole:
-        return QString(rowText(printer) + QStringLiteral(", ") + detailText(printer));
+        return QString(rowText(printer) + QStringLiteral(", ") + detailText(printer, printers_));
     case kDetailRole:
-        return detailText(printer);
+        return detailText(printer, printers_);
     case kGroupRole:
         return groupOf(index.row());
     case kSearchedRole:

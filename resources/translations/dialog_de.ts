@@ -4469,6 +4469,10 @@
         <source>(back)</source>
         <translation>(Rückseite)</translation>
     </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>
+        <translation>Der Druckserver hat keinen Drucker „%1“ mehr. Er wurde zuletzt am %2 gesehen. Ist er eingeschaltet und in diesem Netz?</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -4599,6 +4603,10 @@
     <message>
         <source>Printers</source>
         <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

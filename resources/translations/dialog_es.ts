@@ -4469,6 +4469,10 @@
         <source>(back)</source>
         <translation>(dorso)</translation>
     </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>
+        <translation>El servidor de impresión ya no tiene la impresora «%1». Se vio por última vez el %2. ¿Está encendida y en esta red?</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -4599,6 +4603,10 @@
     <message>
         <source>Printers</source>
         <translation>Impresoras</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -4469,6 +4469,10 @@
         <source>(back)</source>
         <translation>(verso)</translation>
     </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>
+        <translation>Le serveur d’impression n’a plus d’imprimante « %1 ». Elle a été vue pour la dernière fois le %2. Est-elle allumée et sur ce réseau ?</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -4599,6 +4603,10 @@
     <message>
         <source>Printers</source>
         <translation>Imprimantes</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>

@@ -4469,6 +4469,10 @@
         <source>(back)</source>
         <translation>(裏)</translation>
     </message>
+    <message>
+        <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>
+        <translation>プリントサーバーに「%1」はもうありません。最後に確認できたのは %2 です。電源が入っていて、このネットワークにあるかをご確認ください。</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintRun</name>
@@ -4599,6 +4603,10 @@
     <message>
         <source>Printers</source>
         <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
