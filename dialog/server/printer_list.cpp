@@ -151,7 +151,9 @@ QString uuidIn(const QString& text)
 std::vector<PrinterInfo> withDiscovered(std::vector<PrinterInfo> queues,
                                         const std::vector<PrinterInfo>& discovered)
 {
-    std::ranges::stable_partition(queues, [](const PrinterInfo& queue) { return !queue.isTemporary; });
+    // Clang 14 cannot compile the range that the other form answers.
+    std::stable_partition(queues.begin(), queues.end(),
+                          [](const PrinterInfo& queue) { return !queue.isTemporary; });
     QSet<QString> known;
     const auto note = [&known](const PrinterInfo& printer) {
         for (const QString& uuid : {printer.uuid, uuidIn(printer.deviceUri)}) {
