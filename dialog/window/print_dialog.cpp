@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/print_dialog.h"
 
-#include "dialog/preview/preview_widget.h"
 #include "dialog/session/seen_printers.h"
-#include "dialog/session/sheet_words.h"
 #include "dialog/window/access_dialogs.h"
 #include "dialog/window/disabled_reasons.h"
 #include "dialog/window/job_line.h"
 #include "dialog/window/jobs_window.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/panel_deck.h"
-#include "dialog/window/photo_adding.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/preview_side.h"
 #include "dialog/window/printer_buttons.h"
 #include "dialog/window/printer_rows.h"
 #include "dialog/window/run_bar.h"
@@ -32,7 +30,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -75,24 +72,10 @@ QString missingText(const QString& name)
         .arg(name, QLocale().toString(seen, QLocale::ShortFormat));
 }
 
-QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setArrowType(arrow);
-    button->setAutoRaise(true);
-    setPlainName(button, name);
-    setPlainToolTip(button, name);
-    return button;
-}
-
 } // namespace
 
 PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
-    : QDialog(parent),
-      session_(session),
-      message_(new MessageBar(this)),
-      preview_(new PreviewWidget(this)),
-      sides_(new QHBoxLayout(this))
+    : QDialog(parent), session_(session), message_(new MessageBar(this)), sides_(new QHBoxLayout(this))
 {
     setObjectName(QStringLiteral("printDialog"));
     setWindowTitle(tr("Print"));
@@ -103,7 +86,7 @@ PrintDialog::PrintDialog(DialogSession& session, QWidget* parent)
     controlSide_ = makeControlSide();
     sides_->addWidget(previewSide_, 1);
     sides_->addWidget(controlSide_, 0);
-    for (QWidget* place : {previewSide_, messageRoom_})
+    for (QWidget* place : QWidgetList{previewSide_, messageRoom_})
         place->installEventFilter(this);
     connect(message_, &MessageBar::changed, this, &PrintDialog::placeMessage);
     connect(deck_, &PanelDeck::pageShown, this, &PrintDialog::arrange);
@@ -129,53 +112,15 @@ PrintDialog::~PrintDialog()
     deck_->releasePanels();
 }
 
-QWidget* PrintDialog::makePreviewSide()
+PreviewSide* PrintDialog::makePreviewSide()
 {
-    auto* side = new QWidget(this);
-    preview_->setMinimumSize(220, 180);
-    pager_ = new QWidget(side);
-    pageNumber_ = new QLabel(pager_);
-    pageNumber_->setObjectName(QStringLiteral("photoNumber"));
-    back_ = makeArrow(Qt::LeftArrow, tr("Previous photo"), pager_);
-    forward_ = makeArrow(Qt::RightArrow, tr("Next photo"), pager_);
-    auto* row = new QHBoxLayout(pager_);
-    row->addStretch();
-    row->addWidget(back_);
-    row->addWidget(pageNumber_);
-    row->addWidget(forward_);
-    row->addStretch();
-    connect(back_, &QToolButton::clicked, this, [this] { step(-1); });
-    connect(forward_, &QToolButton::clicked, this, [this] { step(1); });
-    auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(preview_, 1);
-    auto* below = new QHBoxLayout;
-    below->addWidget(pager_, 1);
-    if (!session_.document()) {
-        adding_ = new PhotoAdding(this, session_);
-        add_ = adding_->makeButton(side);
-        below->addStretch();
-        below->addWidget(add_);
-        connect(adding_, &PhotoAdding::failed, this,
-                [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
-    }
-    column->addLayout(below);
-    connect(preview_, &PreviewWidget::placementChosen, this, [this](const PhotoPlacement& placement) {
-        if (const std::optional<size_t> photo = shownPhoto())
-            session_.setPlacement(*photo, placement);
+    auto* side = new PreviewSide(session_, this);
+    connect(side, &PreviewSide::shown, this, [this](const Photo& photo, size_t place) {
+        deck_->setPhoto(photo, place);
+        const QString name = QFileInfo(photo.path).fileName();
+        setPlainTitle(this, tr("Print %1").arg(isolated(name, kLongestName)));
     });
-    connect(preview_, &PreviewWidget::cropAllAsked, this, [this] {
-        if (const std::optional<size_t> photo = shownPhoto())
-            session_.cropAllAs(*photo);
-    });
-    connect(preview_, &PreviewWidget::photoChosen, this, [this](size_t place) {
-        currentPlace_ = place;
-        showPhotos();
-    });
-    connect(preview_, &PreviewWidget::damageFound, this,
-            [this](const QString& path, int page) { session_.noteDamage(path, page); });
-    connect(preview_, &PreviewWidget::failed, this,
+    connect(side, &PreviewSide::failed, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     return side;
 }
@@ -189,7 +134,7 @@ QWidget* PrintDialog::makeControlSide()
     column->addLayout(makePrinterRows(side));
     column->addWidget(new Separator(side));
     deck_ = new PanelDeck(session_, side);
-    connect(deck_, &PanelDeck::cropAsked, this, [this] { preview_->setCropping(true); });
+    connect(deck_, &PanelDeck::cropAsked, this, [this] { previewSide_->startCropping(); });
     connect(deck_, &PanelDeck::told, this,
             [this](const QString& sentence) { message_->showMessage(MessageKind::error, sentence); });
     column->addWidget(deck_, 1);
@@ -325,8 +270,8 @@ void PrintDialog::makeShortcuts()
     add(QKeySequence::Quit, [this] { close(); });
     add(QKeySequence::Find, [this] { deck_->startSearch(); });
     add(QKeySequence::HelpContents, [this] { showHelp(); });
-    add(Qt::CTRL | Qt::Key_PageDown, [this] { step(1); });
-    add(Qt::CTRL | Qt::Key_PageUp, [this] { step(-1); });
+    add(Qt::CTRL | Qt::Key_PageDown, [this] { previewSide_->step(1); });
+    add(Qt::CTRL | Qt::Key_PageUp, [this] { previewSide_->step(-1); });
 }
 
 void PrintDialog::connectSession()
@@ -467,83 +412,16 @@ void PrintDialog::showPrinterState()
 
 void PrintDialog::showPhotos()
 {
-    if (session_.document()) {
+    if (session_.document())
         showDocument();
-        return;
-    }
-    const std::vector<Photo>& photos = session_.photos();
-    const SheetPlan plan = session_.sheetPlan();
-    const std::vector<Sheet>& sheets = plan.sheets;
-    pager_->setVisible(sheets.size() > 1);
-    shown_.reset();
-    if (sheets.empty()) {
-        preview_->showText(!session_.hasPhotos()    ? tr("Reading the photo...")
-                           : photos.empty()         ? tr("There is no photo to print.")
-                           : plan.problem.isEmpty() ? tr("No page is chosen.")
-                                                    : plan.problem);
-        updateButtons();
-        return;
-    }
-    current_ = std::clamp(current_, 0, int(sheets.size()) - 1);
-    showSheet(sheets[size_t(current_)], sheets.size());
+    else
+        previewSide_->refresh();
     updateButtons();
-}
-
-void PrintDialog::showSheet(const Sheet& sheet, size_t count)
-{
-    currentPlace_ = std::min(currentPlace_, sheet.photos.size() - 1);
-    const PlacedPhoto& placed = sheet.photos[currentPlace_];
-    const Photo& photo = session_.photos()[placed.photo];
-    shown_ = placed.photo;
-    PreviewPage page;
-    page.layout = placed.layout;
-    page.photo = photo;
-    page.resolution = session_.resolution();
-    page.look = session_.look();
-    page.sheet.sheet = sheet;
-    page.sheet.caption = session_.page().sheets.caption;
-    for (const PlacedPhoto& each : sheet.photos)
-        page.sheet.photos.push_back(session_.photos()[each.photo]);
-    page.current = currentPlace_;
-    const ColourSettings& chosen = session_.page().colours;
-    page.screen = session_.colours().screenPlan(chosen, session_.model());
-    page.proofWords = session_.colours().proofInWords(chosen, session_.model());
-    page.back = linesOnBack(session_.valuesToSend());
-    preview_->showPage(page);
-    deck_->setPhoto(photo, placed.photo);
-    const QString name = QFileInfo(photo.path).fileName();
-    const QString shown = isolated(name, kLongestName);
-    setPlainTitle(this, tr("Print %1").arg(shown));
-    const QString words =
-        photo.pageNumber > 0 ? tr("%1, page %2").arg(shown, QString::number(photo.pageNumber)) : shown;
-    QString number = tr("%1 of %2").arg(QString::number(current_ + 1), QString::number(count));
-    if (session_.isTwoSided())
-        number += QLatin1Char(' ') + (current_ % 2 == 0 ? tr("(front)") : tr("(back)"));
-    setPlainText(pageNumber_, number + QStringLiteral("  ·  ") + words);
-    back_->setEnabled(current_ > 0);
-    forward_->setEnabled(current_ + 1 < int(count));
 }
 
 void PrintDialog::showPhoto(size_t photo)
 {
-    const SheetPlan plan = session_.sheetPlan();
-    for (size_t i = 0; i < plan.sheets.size(); ++i) {
-        const std::vector<PlacedPhoto>& placed = plan.sheets[i].photos;
-        const auto found = std::ranges::find(placed, photo, &PlacedPhoto::photo);
-        if (found == placed.end())
-            continue;
-        current_ = int(i);
-        currentPlace_ = size_t(found - placed.begin());
-        showPhotos();
-        return;
-    }
-}
-
-void PrintDialog::step(int by)
-{
-    current_ += by;
-    currentPlace_ = 0;
-    showPhotos();
+    previewSide_->showPhoto(photo);
 }
 
 void PrintDialog::showOtherChanges(const QList<SideChange>& changes)

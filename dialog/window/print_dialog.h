@@ -11,7 +11,6 @@ class QCheckBox;
 class QLabel;
 class QPushButton;
 class QSpinBox;
-class QToolButton;
 
 namespace halvern {
 
@@ -21,9 +20,8 @@ class MessageBar;
 class OutputMenu;
 enum class MessageKind;
 class PanelDeck;
-class PhotoAdding;
 class PresetBar;
-class PreviewWidget;
+class PreviewSide;
 class PrinterRows;
 class RunBar;
 class SearchBox;
@@ -74,7 +72,7 @@ Q_SIGNALS:
     void started();
 
 private:
-    QWidget* makePreviewSide();
+    PreviewSide* makePreviewSide();
     QWidget* makeControlSide();
     QLayout* makePrinterRows(QWidget* parent);
     QLayout* makeButtonRow(QWidget* parent);
@@ -94,11 +92,6 @@ private:
     void showPrinterState();
     void showMisfit();
     void showPhotos();
-    void showSheet(const Sheet& sheet, size_t count);
-
-    std::optional<size_t> shownPhoto() const { return shown_; }
-
-    void step(int by);
     void showOtherChanges(const QList<SideChange>& changes);
     void showPage();
     void showCorrections(const QList<SideChange>& changes);
@@ -116,9 +109,8 @@ private:
 
     DialogSession& session_;
     MessageBar* message_;
-    PreviewWidget* preview_;
     QBoxLayout* sides_;
-    QWidget* previewSide_ = nullptr;
+    PreviewSide* previewSide_ = nullptr;
     QWidget* controlSide_ = nullptr;
     QWidget* messageRoom_ = nullptr; // where messages are told while the preview is no neighbour
     SearchBox* printer_ = nullptr;
@@ -135,22 +127,13 @@ private:
     OutputMenu* output_ = nullptr;
     RunBar* runBar_ = nullptr;
     JobLine* jobLine_ = nullptr;
-    QWidget* pager_ = nullptr;
-    QLabel* pageNumber_ = nullptr;
-    PhotoAdding* adding_ = nullptr; // null: a document is printed
-    QToolButton* add_ = nullptr;
-    QToolButton* back_ = nullptr;
-    QToolButton* forward_ = nullptr;
     QCheckBox* review_ = nullptr; // null where there is nothing to be reviewed
     std::optional<JobRequest> order_;
     QPointer<PrintRun> run_;
     PrintOutcome outcome_;
     QString toldMisfit_;
     QSize wantedSize_;
-    QSize openingSize_;           // as much of it as the screen has
-    int current_ = 0;             // sheet
-    size_t currentPlace_ = 0;     // on it
-    std::optional<size_t> shown_; // the photo there
+    QSize openingSize_; // as much of it as the screen has
     bool hasPrinted_ = false;
     bool previewIsBeside_ = true;
 };

@@ -4,6 +4,7 @@
 
 #include "dialog/job/job_in_words.h"
 #include "dialog/preview/preview_widget.h"
+#include "dialog/window/preview_side.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QPushButton>
@@ -44,10 +45,8 @@ void PrintDialog::showDocument()
     const QStringList paper = session_.jobInWords().parts.mid(0, kPaperParts);
     if (!paper.isEmpty())
         sheet.lines.append(displayText(paper.join(QStringLiteral(", "))));
-    preview_->showSheet(sheet);
-    pager_->hide();
+    previewSide_->showBlank(sheet);
     setPlainTitle(this, application.isEmpty() ? tr("Print") : tr("Print - %1").arg(application));
-    updateButtons();
 }
 
 } // namespace halvern

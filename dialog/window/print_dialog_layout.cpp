@@ -2,12 +2,12 @@
 // Where things stand: the window's size, the place of preview and messages, the order of the Tab key.
 #include "dialog/window/print_dialog.h"
 
-#include "dialog/preview/preview_widget.h"
 #include "dialog/window/jobs_window.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/output_menu.h"
 #include "dialog/window/panel_deck.h"
 #include "dialog/window/preset_bar.h"
+#include "dialog/window/preview_side.h"
 #include "dialog/window/run_bar.h"
 #include "dialog/window/search_box.h"
 #include "platform/foundation/user_defaults.h"
@@ -20,7 +20,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSpinBox>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -121,10 +120,7 @@ QList<QWidget*> PrintDialog::tabOrder() const
     order += deck_->tabOrder();
     order += {runBar_->button(), copies_, collate_, output_, cancelJob_, cancel_, print_};
     if (previewIsBeside_)
-        order += {preview_, preview_->cropButton(), preview_->backButton(), preview_->zoomButton(), back_,
-                  forward_};
-    if (previewIsBeside_ && add_)
-        order += add_;
+        order += previewSide_->tabOrder();
     order += message_->tabOrder();
     order.removeIf([this](const QWidget* stop) {
         const bool isStop = stop->isVisible() && stop->isEnabled() && (stop->focusPolicy() & Qt::TabFocus);

@@ -4213,6 +4213,45 @@
     </message>
 </context>
 <context>
+    <name>halvern::PreviewSide</name>
+    <message>
+        <source>Previous photo</source>
+        <translation>Voriges Foto</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>Nächstes Foto</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Foto wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>Es gibt kein Foto zum Drucken.</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>Es ist keine Seite gewählt.</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, Seite %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(Vorderseite)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(Rückseite)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PreviewWidget</name>
     <message>
         <source>A part of this photo is missing</source>
@@ -4286,20 +4325,8 @@
 <context>
     <name>halvern::PrintDialog</name>
     <message>
-        <source>%1, page %2</source>
-        <translation>%1, Seite %2</translation>
-    </message>
-    <message>
         <source>Print</source>
         <translation>Drucken</translation>
-    </message>
-    <message>
-        <source>Previous photo</source>
-        <translation>Voriges Foto</translation>
-    </message>
-    <message>
-        <source>Next photo</source>
-        <translation>Nächstes Foto</translation>
     </message>
     <message>
         <source>P&amp;rinter:</source>
@@ -4328,14 +4355,6 @@
     <message>
         <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>Der Druckserver hat keinen Drucker „%1“. Wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>Es gibt kein Foto zum Drucken.</translation>
-    </message>
-    <message>
-        <source>Reading the photo...</source>
-        <translation>Foto wird gelesen ...</translation>
     </message>
     <message>
         <source>Print %1</source>
@@ -4426,10 +4445,6 @@
         <translation>„%1“ wurde angewendet.</translation>
     </message>
     <message>
-        <source>No page is chosen.</source>
-        <translation>Es ist keine Seite gewählt.</translation>
-    </message>
-    <message>
         <source>Writing the file...</source>
         <translation>Datei wird geschrieben ...</translation>
     </message>
@@ -4456,18 +4471,6 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>An&amp;melden ...</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 von %2</translation>
-    </message>
-    <message>
-        <source>(front)</source>
-        <translation>(Vorderseite)</translation>
-    </message>
-    <message>
-        <source>(back)</source>
-        <translation>(Rückseite)</translation>
     </message>
     <message>
         <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>

@@ -4213,6 +4213,45 @@
     </message>
 </context>
 <context>
+    <name>halvern::PreviewSide</name>
+    <message>
+        <source>Previous photo</source>
+        <translation>Foto anterior</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>Foto siguiente</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Leyendo la foto...</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>No hay ninguna foto que imprimir.</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>No hay ninguna página elegida.</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, página %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(cara)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(dorso)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PreviewWidget</name>
     <message>
         <source>A part of this photo is missing</source>
@@ -4286,20 +4325,8 @@
 <context>
     <name>halvern::PrintDialog</name>
     <message>
-        <source>%1, page %2</source>
-        <translation>%1, página %2</translation>
-    </message>
-    <message>
         <source>Print</source>
         <translation>Imprimir</translation>
-    </message>
-    <message>
-        <source>Previous photo</source>
-        <translation>Foto anterior</translation>
-    </message>
-    <message>
-        <source>Next photo</source>
-        <translation>Foto siguiente</translation>
     </message>
     <message>
         <source>P&amp;rinter:</source>
@@ -4328,14 +4355,6 @@
     <message>
         <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>El servidor de impresión no tiene la impresora «%1». Elija otra.</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>No hay ninguna foto que imprimir.</translation>
-    </message>
-    <message>
-        <source>Reading the photo...</source>
-        <translation>Leyendo la foto...</translation>
     </message>
     <message>
         <source>Print %1</source>
@@ -4426,10 +4445,6 @@
         <translation>Se aplicó «%1».</translation>
     </message>
     <message>
-        <source>No page is chosen.</source>
-        <translation>No hay ninguna página elegida.</translation>
-    </message>
-    <message>
         <source>Writing the file...</source>
         <translation>Escribiendo el archivo...</translation>
     </message>
@@ -4456,18 +4471,6 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>Identi&amp;ficarse...</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 de %2</translation>
-    </message>
-    <message>
-        <source>(front)</source>
-        <translation>(cara)</translation>
-    </message>
-    <message>
-        <source>(back)</source>
-        <translation>(dorso)</translation>
     </message>
     <message>
         <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>

@@ -4213,6 +4213,45 @@
     </message>
 </context>
 <context>
+    <name>halvern::PreviewSide</name>
+    <message>
+        <source>Previous photo</source>
+        <translation>Photo précédente</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>Lecture de la photo…</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>Il n’y a pas de photo à imprimer.</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>Aucune page n’est choisie.</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, page %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(recto)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(verso)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PreviewWidget</name>
     <message>
         <source>A part of this photo is missing</source>
@@ -4286,20 +4325,8 @@
 <context>
     <name>halvern::PrintDialog</name>
     <message>
-        <source>%1, page %2</source>
-        <translation>%1, page %2</translation>
-    </message>
-    <message>
         <source>Print</source>
         <translation>Imprimer</translation>
-    </message>
-    <message>
-        <source>Previous photo</source>
-        <translation>Photo précédente</translation>
-    </message>
-    <message>
-        <source>Next photo</source>
-        <translation>Photo suivante</translation>
     </message>
     <message>
         <source>P&amp;rinter:</source>
@@ -4328,14 +4355,6 @@
     <message>
         <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>Le serveur d’impression n’a pas d’imprimante « %1 ». Choisissez-en une autre.</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>Il n’y a pas de photo à imprimer.</translation>
-    </message>
-    <message>
-        <source>Reading the photo...</source>
-        <translation>Lecture de la photo…</translation>
     </message>
     <message>
         <source>Print %1</source>
@@ -4426,10 +4445,6 @@
         <translation>« %1 » a été appliqué.</translation>
     </message>
     <message>
-        <source>No page is chosen.</source>
-        <translation>Aucune page n’est choisie.</translation>
-    </message>
-    <message>
         <source>Writing the file...</source>
         <translation>Écriture du fichier…</translation>
     </message>
@@ -4456,18 +4471,6 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>Conne&amp;xion…</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 sur %2</translation>
-    </message>
-    <message>
-        <source>(front)</source>
-        <translation>(recto)</translation>
-    </message>
-    <message>
-        <source>(back)</source>
-        <translation>(verso)</translation>
     </message>
     <message>
         <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>

@@ -4213,6 +4213,45 @@
     </message>
 </context>
 <context>
+    <name>halvern::PreviewSide</name>
+    <message>
+        <source>Previous photo</source>
+        <translation>前の写真</translation>
+    </message>
+    <message>
+        <source>Next photo</source>
+        <translation>次の写真</translation>
+    </message>
+    <message>
+        <source>Reading the photo...</source>
+        <translation>写真を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>印刷する写真がありません。</translation>
+    </message>
+    <message>
+        <source>No page is chosen.</source>
+        <translation>ページが選ばれていません。</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1、%2 ページ</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>(front)</source>
+        <translation>(表)</translation>
+    </message>
+    <message>
+        <source>(back)</source>
+        <translation>(裏)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PreviewWidget</name>
     <message>
         <source>A part of this photo is missing</source>
@@ -4286,20 +4325,8 @@
 <context>
     <name>halvern::PrintDialog</name>
     <message>
-        <source>%1, page %2</source>
-        <translation>%1、%2 ページ</translation>
-    </message>
-    <message>
         <source>Print</source>
         <translation>印刷</translation>
-    </message>
-    <message>
-        <source>Previous photo</source>
-        <translation>前の写真</translation>
-    </message>
-    <message>
-        <source>Next photo</source>
-        <translation>次の写真</translation>
     </message>
     <message>
         <source>P&amp;rinter:</source>
@@ -4328,14 +4355,6 @@
     <message>
         <source>The print server has no printer &quot;%1&quot;. Choose another one.</source>
         <translation>プリントサーバーに「%1」というプリンターはありません。別のプリンターを選んでください。</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>印刷する写真がありません。</translation>
-    </message>
-    <message>
-        <source>Reading the photo...</source>
-        <translation>写真を読み込んでいます...</translation>
     </message>
     <message>
         <source>Print %1</source>
@@ -4426,10 +4445,6 @@
         <translation>「%1」を適用しました。</translation>
     </message>
     <message>
-        <source>No page is chosen.</source>
-        <translation>ページが選ばれていません。</translation>
-    </message>
-    <message>
         <source>Writing the file...</source>
         <translation>ファイルを書き込んでいます...</translation>
     </message>
@@ -4456,18 +4471,6 @@
     <message>
         <source>Sign &amp;In...</source>
         <translation>サインイン(&amp;N)...</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>(front)</source>
-        <translation>(表)</translation>
-    </message>
-    <message>
-        <source>(back)</source>
-        <translation>(裏)</translation>
     </message>
     <message>
         <source>The print server has no printer &quot;%1&quot; any more. It was last seen on %2. Is it switched on, and on this network?</source>
