@@ -20,20 +20,30 @@ std::string environment(const char* name)
     return value == nullptr ? "" : value;
 }
 
+// A server of one's own says where; on the computer's own server it is the folder that is installed for it.
+std::string folderOf(const char* variable, const char* installed)
+{
+    const std::string named = environment(variable);
+    return named.empty() ? std::string(HALVERN_SPOOL_DIR "/") + installed : named;
+}
+
 // The queue's own list, or the one for all queues that have none.
 std::string papersFile()
 {
-    const std::filesystem::path folder = environment("HALVERN_PAPERS_DIR");
+    const std::filesystem::path folder = folderOf("HALVERN_PAPERS_DIR", "papers");
     const std::string queue = environment("PRINTER");
-    if (folder.empty() || queue.find('/') != std::string::npos)
+    if (queue.find('/') != std::string::npos)
         return {};
+    std::error_code none;
     for (const std::string& name : {queue, std::string("default")}) {
-        std::error_code none;
         const std::filesystem::path file = folder / (name + ".json");
         if (!name.empty() && std::filesystem::is_regular_file(file, none))
             return file;
     }
-    return {};
+    const bool isInstalled = environment("HALVERN_PAPERS_DIR").empty();
+    return isInstalled && std::filesystem::is_regular_file(HALVERN_STANDARD_PAPERS, none)
+               ? HALVERN_STANDARD_PAPERS
+               : "";
 }
 
 } // namespace
@@ -60,12 +70,14 @@ int main(int argc, char** argv)
     const auto plan = halvern::parseFaultPlan(environment("DEVICE_URI"), commands, error);
     if (!plan)
         return halvern::giveUp(fd, error, CUPS_BACKEND_STOP);
-    const std::string jobs = environment("HALVERN_JOBS_DIR");
-    if (jobs.empty() || jobs.front() != '/')
-        return halvern::giveUp(
-            fd,
-            "HALVERN_JOBS_DIR is not set: start the server with private-cups, or pass the variable to it.",
-            CUPS_BACKEND_STOP);
+    const std::string jobs = folderOf("HALVERN_JOBS_DIR", "jobs");
+    std::error_code none;
+    if (jobs.front() != '/' || !std::filesystem::is_directory(jobs, none))
+        return halvern::giveUp(fd,
+                               "The folder for jobs, " + jobs +
+                                   ", is not there: start the server with private-cups, or install the "
+                                   "virtual printer.",
+                               CUPS_BACKEND_STOP);
     return halvern::VirtualPrinter({argv[1], argv[2], argv[3], argv[4], commands, papersFile()}, *plan, jobs,
                                    fd)
         .run();

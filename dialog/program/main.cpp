@@ -3,23 +3,30 @@
 #include "dialog/photo/decoder_process.h"
 #include "dialog/program/application.h"
 #include "dialog/program/batch_print.h"
+#include "dialog/program/completion.h"
 #include "dialog/program/dialog_result.h"
 #include "dialog/program/terminal_questions.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/session/quit_signals.h"
 #include "dialog/window/print_dialog.h"
+#include "dialog/window/translations.h"
 #include "platform/foundation/display_text.h"
 
 #include <QEventLoop>
 #include <QTimer>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
+
+#include <unistd.h>
 
 namespace {
 
 using namespace halvern;
+
+constexpr unsigned kLongestCompletion = 2; // seconds
 
 int statusOf(PrintDialog& dialog)
 {
@@ -143,10 +150,24 @@ int statusWithOutput(int status)
     return kExitFailed;
 }
 
+// A shell waits for it at each press of a key, whatever becomes of the print server.
+int runCompletion(int argc, char** argv)
+{
+    std::signal(SIGALRM, [](int) { _exit(kExitFailed); });
+    alarm(kLongestCompletion);
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
+    const QList<std::shared_ptr<QTranslator>> translators = installTranslations();
+    QTextStream out(stdout);
+    return writeCompletion(QCoreApplication::arguments().mid(2), out);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (argc > 1 && std::strcmp(argv[1], "--complete") == 0)
+        return runCompletion(argc, argv);
     QStringList given;
     for (int i = 0; i < argc; ++i)
         given.append(QString::fromLocal8Bit(argv[i]));

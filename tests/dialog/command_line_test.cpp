@@ -204,6 +204,21 @@ TEST_F(CommandLineTest, ListsAndPresetsNeedNoDisplayAndPrintNothing)
     EXPECT_EQ(listed({q("--list-presets"), q("-d"), q("Next")}),
               q("Printer Defaults\nGröße 4 (from Listed)\nWide (from Listed)\n"));
     EXPECT_EQ(json(q("--list-presets"))[2][q("page")][q("turn")].toString(), q("landscape"));
+
+    const struct {
+        QStringList words;
+        const char* candidates;
+    } completions[] = {{{q("--printer=L")}, "--printer=Listed\tPhoto \"room\"\n"},
+                       {{q("-d"), q("Next"), q("-o"), q("PageS")}, "PageSize=\tPaper size\n"},
+                       {{q("-o"), q("PageSize=A4")}, "PageSize=A4\tA4\n"},
+                       {{q("--preset"), q("W")}, "Wide\n"},
+                       {{q("--intent"), q("re"), q("--dry")},
+                        "--dry-run\tWrite the options that would be sent, "
+                        "one KEY=VALUE a line, and send nothing.\n"},
+                       {{q("--"), q("--dry")}, "/\n"}};
+
+    for (const auto& row : completions)
+        EXPECT_EQ(listed(QStringList{q("--complete")} + row.words), q(row.candidates));
     EXPECT_FALSE(server.receivedOptions(1));
 }
 
