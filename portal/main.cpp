@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 #include <cstdio>
 
@@ -89,6 +90,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("halvern-print"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("halvern-print")));
     installAccessibleControls();
     const QList<std::shared_ptr<QTranslator>> translators = installTranslations();
     const Switches switches;

@@ -12,6 +12,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QEventLoop>
+#include <QIcon>
 #include <QTimer>
 
 #include <atomic>
@@ -119,6 +120,8 @@ QList<std::shared_ptr<QTranslator>> prepareApplication()
     QCoreApplication::setApplicationName(QStringLiteral("halvern-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(HALVERN_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());
+    QGuiApplication::setDesktopFileName(QStringLiteral("halvern-print"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("halvern-print")));
     return installTranslations();
 }
 

@@ -318,7 +318,8 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
         return wrong(problem + QLatin1Char(' ') + Switches::seeHelp());
     if (line.listing.what != Listing::none)
         return parsed;
-    if (line.request.files.isEmpty() && unusable.isEmpty())
+    const bool canAsk = parser.isSet(switches.choose) && line.showDialog;
+    if (line.request.files.isEmpty() && unusable.isEmpty() && !canAsk)
         return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
     QStringList usable;
     for (const QString& path : line.request.files) {

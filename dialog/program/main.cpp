@@ -8,6 +8,7 @@
 #include "dialog/program/terminal_questions.h"
 #include "dialog/session/plugin_loader.h"
 #include "dialog/session/quit_signals.h"
+#include "dialog/window/photo_adding.h"
 #include "dialog/window/print_dialog.h"
 #include "dialog/window/translations.h"
 #include "platform/foundation/display_text.h"
@@ -51,8 +52,13 @@ int runDialog(const CommandLine& line)
     }
     // The job may still be on its way when the window has gone.
     QApplication::setQuitOnLastWindowClosed(false);
+    SessionRequest request = line.request;
+    if (request.files.isEmpty())
+        request.files = PhotoAdding::askForFirst();
+    if (request.files.isEmpty())
+        return kExitCancelled;
     PluginLoader panels;
-    DialogSession session(line.request, panels);
+    DialogSession session(request, panels);
     PrintDialog dialog(session);
     const std::shared_ptr<QWindow> parent = line.parent ? putOver(&dialog, *line.parent, true) : nullptr;
     DialogResult result(session, dialog);

@@ -142,6 +142,8 @@ public:
                                QStringLiteral("N")};
     QCommandLineOption moveTo{QStringLiteral("to"), tr("With --jobs --move: the queue to move the job to."),
                               QStringLiteral("QUEUE")};
+    QCommandLineOption choose{QStringLiteral("choose"),
+                              tr("Where no file is named, ask for photos in a window first.")};
     QCommandLineOption parent{QStringLiteral("parent"),
                               tr("Show the dialog above another program's window: x11: and the window's "
                                  "number in hexadecimal digits."),
@@ -155,12 +157,12 @@ public:
     QList<QCommandLineOption> all() const
     {
         return QList<QCommandLineOption>{
-                   server,      printer,    option,       copies,       pages,      orientation, reverse,
-                   title,       backprint,  preset,       printDamaged, skipBroken, noDialog,    wait,
-                   dryRun,      output,     verify,       listPrinters, listPapers, refresh,     listOptions,
-                   listPresets, savePreset, json,         photosPerJob, parent,     resultJson,  colourBy,
-                   profile,     intent,     noBlackPoint, jobs,         ended,      cancelJob,   holdJob,
-                   releaseJob,  repeatJob,  signIn,       moveJob,      moveTo} +
+                   server,      printer,    option,    copies,       pages,      orientation, reverse,
+                   title,       backprint,  preset,    printDamaged, skipBroken, noDialog,    wait,
+                   dryRun,      output,     verify,    listPrinters, listPapers, refresh,     listOptions,
+                   listPresets, savePreset, json,      photosPerJob, choose,     parent,      resultJson,
+                   colourBy,    profile,    intent,    noBlackPoint, jobs,       ended,       cancelJob,
+                   holdJob,     releaseJob, repeatJob, signIn,       moveJob,    moveTo} +
                photos.all() + sheets.all();
     }
 

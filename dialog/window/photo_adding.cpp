@@ -39,16 +39,28 @@ QToolButton* PhotoAdding::makeButton(QWidget* parent)
     return button;
 }
 
-void PhotoAdding::choose()
+QFileDialog* PhotoAdding::makeChooser(QWidget* parent, const QString& title)
 {
     QStringList patterns;
     for (const QString& suffix : photoSuffixes())
         patterns.append(QStringLiteral("*.") + suffix);
     const QString photos = tr("Photos") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' ')));
-    auto* dialog = new QFileDialog(window_, tr("Add Photos"), QString(), photos + QStringLiteral(";;*"));
+    auto* dialog = new QFileDialog(parent, title, QString(), photos + QStringLiteral(";;*"));
     dialog->setObjectName(QStringLiteral("choosePhotos"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFiles);
+    return dialog;
+}
+
+QStringList PhotoAdding::askForFirst()
+{
+    const std::unique_ptr<QFileDialog> dialog(makeChooser(nullptr, tr("Choose Photos")));
+    return dialog->exec() == QDialog::Accepted ? dialog->selectedFiles() : QStringList();
+}
+
+void PhotoAdding::choose()
+{
+    QFileDialog* dialog = makeChooser(window_, tr("Add Photos"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QFileDialog::filesSelected, this, &PhotoAdding::addNamed);
     dialog->open();
 }

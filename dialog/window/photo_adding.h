@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class QFileDialog;
 class QImage;
 class QMimeData;
 class QTemporaryFile;
@@ -33,6 +34,9 @@ public:
     void choose();
     void paste();
 
+    /// Asks for photos before there is a window, and waits for the answer: empty if the user wants none.
+    static QStringList askForFirst();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -40,6 +44,7 @@ Q_SIGNALS:
     void failed(const QString& sentence);
 
 private:
+    static QFileDialog* makeChooser(QWidget* parent, const QString& title);
     static bool holdsPhotos(const QMimeData& data);
     void add(const QMimeData& data);
     void addNamed(const QStringList& names);

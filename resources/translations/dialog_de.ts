@@ -167,6 +167,10 @@
         <translation>Auf dieser Warteschlange drucken.</translation>
     </message>
     <message>
+        <source>Where no file is named, ask for photos in a window first.</source>
+        <translation>Wenn keine Datei genannt ist, zuerst in einem Fenster nach den Fotos fragen.</translation>
+    </message>
+    <message>
         <source>Set a printer option. Can be given several times.</source>
         <translation>Eine Druckeroption setzen. Mehrfach möglich.</translation>
     </message>
@@ -3927,6 +3931,10 @@
     <message>
         <source>Add Photos</source>
         <translation>Fotos hinzufügen</translation>
+    </message>
+    <message>
+        <source>Choose Photos</source>
+        <translation>Fotos auswählen</translation>
     </message>
     <message>
         <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>

@@ -167,6 +167,10 @@
         <translation>Imprimir en esta cola.</translation>
     </message>
     <message>
+        <source>Where no file is named, ask for photos in a window first.</source>
+        <translation>Si no se indica ningún archivo, pedir primero las fotos en una ventana.</translation>
+    </message>
+    <message>
         <source>Set a printer option. Can be given several times.</source>
         <translation>Fijar una opción de la impresora. Puede repetirse.</translation>
     </message>
@@ -3927,6 +3931,10 @@
     <message>
         <source>Add Photos</source>
         <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>Choose Photos</source>
+        <translation>Elegir fotos</translation>
     </message>
     <message>
         <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>

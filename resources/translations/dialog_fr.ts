@@ -167,6 +167,10 @@
         <translation>Imprimer sur cette file.</translation>
     </message>
     <message>
+        <source>Where no file is named, ask for photos in a window first.</source>
+        <translation>Si aucun fichier n’est indiqué, demander d’abord les photos dans une fenêtre.</translation>
+    </message>
+    <message>
         <source>Set a printer option. Can be given several times.</source>
         <translation>Définir une option d’imprimante. Peut être répété.</translation>
     </message>
@@ -3927,6 +3931,10 @@
     <message>
         <source>Add Photos</source>
         <translation>Ajouter des photos</translation>
+    </message>
+    <message>
+        <source>Choose Photos</source>
+        <translation>Choisir des photos</translation>
     </message>
     <message>
         <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>

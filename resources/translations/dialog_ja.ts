@@ -167,6 +167,10 @@
         <translation>このキューで印刷します。</translation>
     </message>
     <message>
+        <source>Where no file is named, ask for photos in a window first.</source>
+        <translation>ファイルが指定されていない場合は、最初にウィンドウで写真をたずねます。</translation>
+    </message>
+    <message>
         <source>Set a printer option. Can be given several times.</source>
         <translation>プリンターのオプションを設定します。複数指定できます。</translation>
     </message>
@@ -3927,6 +3931,10 @@
     <message>
         <source>Add Photos</source>
         <translation>写真の追加</translation>
+    </message>
+    <message>
+        <source>Choose Photos</source>
+        <translation>写真を選択</translation>
     </message>
     <message>
         <source>The clipboard holds no photo. Copy a picture, or files of photos, first.</source>
