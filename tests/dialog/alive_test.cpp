@@ -9,6 +9,7 @@
 #include "tests/support/scripted_server.h"
 #include "tests/support/server_test.h"
 
+#include <QFile>
 #include <QRegularExpression>
 
 #include <cups/cups.h>
@@ -77,6 +78,8 @@ TEST_F(AliveTest, FollowsThePaperTheInkAndTheCover)
         runProgram(q("/usr/sbin/lpadmin"), {q("-p"), q("Alive"), q("-E"), q("-v"), printer.uri, q("-m"),
                                             q("everywhere"), q("-o"), q("PageSize=A4")});
     ASSERT_EQ(added.status, 0) << added.error.toStdString();
+    // The server makes the PPD after it has answered.
+    ASSERT_TRUE(waitUntil([] { return QFile::exists(server->dir() + q("/server/etc/ppd/Alive.ppd")); }));
     DialogSession session(request("Alive"), panels);
     PrintDialog dialog(session);
     session.start();
