@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace halvern {
 
@@ -24,6 +25,43 @@ QString widthInWords(double points)
     if (QLocale().measurementSystem() == QLocale::MetricSystem)
         return Words::tr("%1 mm wide").arg(std::round(points / kPointsPerMillimetre));
     return Words::tr("%1 in wide").arg(QLocale().toString(std::round(points / kPointsPerInch * 10.0) / 10.0));
+}
+
+QString neededInWords(const QString& what, const QString& tray)
+{
+    return tray.isEmpty() ? Words::tr("not loaded: needs %1 in the tray").arg(what)
+                          : Words::tr("not loaded: needs %1 in \"%2\"").arg(what, tray);
+}
+
+// Of "photographic" and "photographic-glossy" the one may be the other.
+bool mayBeSame(const QString& one, const QString& other)
+{
+    return one.startsWith(other, Qt::CaseInsensitive) || other.startsWith(one, Qt::CaseInsensitive);
+}
+
+// `fitting` are the papers of the chosen size where it would be taken from, one at least.
+std::optional<NotLoaded> findOtherKind(const PpdModel& model, const QList<TrayPaper>& trays,
+                                       const QList<TrayPaper>& fitting, bool isFree)
+{
+    const QString key = QStringLiteral("MediaType");
+    const QString kind = model.value(key);
+    // A printer's words for a kind need not be those of its options: then nobody knows.
+    const auto mayBeChosen = [&](const TrayPaper& paper) {
+        const QString loaded = choiceFor(model, paper).type;
+        return loaded.isEmpty() || mayBeSame(loaded, kind);
+    };
+    if (isAutomatic(kind) || std::ranges::any_of(fitting, mayBeChosen))
+        return std::nullopt;
+    const TrayPaper& paper = fitting.front();
+    const QString wanted = isolated(model.choiceText(key, kind));
+    const QString tray = isolated(trayText(model, paper));
+    NotLoaded result;
+    result.other = int(trays.indexOf(paper));
+    result.otherText = paperTypeText(model, paper);
+    result.shortly = neededInWords(wanted, isFree ? QString() : tray);
+    result.sentence = Words::tr("The paper type is \"%1\", but in \"%2\" there is \"%3\".")
+                          .arg(wanted, tray, isolated(result.otherText));
+    return result;
 }
 
 } // namespace
@@ -42,25 +80,30 @@ std::optional<NotLoaded> findNotLoaded(const PpdModel& model, const QList<TrayPa
         return std::nullopt;
     const QSizeF page = model.sheet().paper;
     const QString slot = model.value(QStringLiteral("InputSlot"));
-    const bool isFree = isAutomaticSlot(slot);
-    const auto chosen = std::ranges::find_if(
-        trays, [&](const TrayPaper& paper) { return !isFree && choiceFor(model, paper).slot == slot; });
+    const bool isFree = isAutomatic(slot);
+    const auto isChosen = [&](const TrayPaper& paper) {
+        return !isFree && choiceFor(model, paper).slot == slot;
+    };
+    const auto chosen = std::ranges::find_if(trays, isChosen);
     // Of a tray that the printer does not speak of nobody knows anything: it may be a feed by hand.
     if (!isFree && chosen == trays.end())
         return std::nullopt;
     const auto other =
         std::ranges::find_if(trays, [&](const TrayPaper& paper) { return isPageOf(page, paper); });
-    if (isFree ? other != trays.end() : isPageOf(page, *chosen))
-        return std::nullopt;
+    // Some say of a feed that several papers are in it.
+    QList<TrayPaper> fitting;
+    std::ranges::copy_if(trays, std::back_inserter(fitting), [&](const TrayPaper& paper) {
+        return (isFree || isChosen(paper)) && isPageOf(page, paper);
+    });
+    if (!fitting.isEmpty())
+        return findOtherKind(model, trays, fitting, isFree);
     const QString size = isolated(pageInWords(model, model.value(QStringLiteral("PageSize"))));
     const bool isElsewhere = other != trays.end();
     const TrayPaper& instead = isElsewhere ? *other : trays.front();
     NotLoaded result;
     result.other = isElsewhere ? int(std::distance(trays.begin(), other)) : 0;
     result.otherText = isElsewhere ? trayText(model, instead) : paperInWords(model, instead);
-    result.shortly =
-        isFree ? Words::tr("not loaded: needs %1 in the tray").arg(size)
-               : Words::tr("not loaded: needs %1 in \"%2\"").arg(size, isolated(trayText(model, *chosen)));
+    result.shortly = neededInWords(size, isFree ? QString() : isolated(trayText(model, *chosen)));
     result.sentence =
         isElsewhere
             ? Words::tr("The paper size \"%1\" is not in \"%2\", but in \"%3\".")

@@ -10,7 +10,7 @@ namespace halvern {
 /// "A4", "10 × 15 cm", "610 mm wide". On the model's thread.
 QString paperInWords(const PpdModel& model, const TrayPaper& paper);
 
-/// The chosen paper is not where it would be taken from.
+/// The chosen paper is not where it would be taken from: another size is there, or another kind.
 struct NotLoaded {
     QString shortly;  ///< "not loaded: needs A4 in the tray"
     QString sentence; ///< the same with what is loaded

@@ -44,6 +44,11 @@ bool takesCollectionsAsText(ppd_file_t* file)
     return file && ppdFindAttr(file, kIppHandsOn, nullptr);
 }
 
+QString ippValueOf(ppd_file_t* file, const QString& key, const QString& choice)
+{
+    return textOf(file, kIppValue, key + QLatin1Char('.') + choice).value_or(choice);
+}
+
 OptionValues asIppOptions(ppd_file_t* file, const OptionValues& options)
 {
     if (!file || !ppdFindAttr(file, kIppAttribute, nullptr))
@@ -56,8 +61,7 @@ OptionValues asIppOptions(ppd_file_t* file, const OptionValues& options)
             result.append(option);
             continue;
         }
-        QString value =
-            textOf(file, kIppValue, option.key + QLatin1Char('.') + option.value).value_or(option.value);
+        QString value = ippValueOf(file, option.key, option.value);
         if (option.key == QLatin1StringView("PageSize") &&
             option.value.startsWith(QLatin1StringView("Custom.")))
             value = customSize(file, option.value);

@@ -27,6 +27,9 @@ inline constexpr char kIppHandsOn[] = "HalvernIppHandsOn";
 /// Whether collections have to be in a job as texts: a queue that hands options on keeps no others.
 bool takesCollectionsAsText(ppd_file_t* file);
 
+/// What a job calls a choice; the choice itself where it is no printer's without a PPD.
+QString ippValueOf(ppd_file_t* file, const QString& key, const QString& choice);
+
 /// The options as a job for such a printer carries them; those of another printer stay as they are. On the
 /// thread that owns the PPD.
 OptionValues asIppOptions(ppd_file_t* file, const OptionValues& options);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/loaded_trays.h"
 
+#include "dialog/options/ipp_twins.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/options/tray_words.h"
 #include "platform/printing/cups_ppd.h"
@@ -35,7 +36,8 @@ QString choiceLike(const PpdModel& model, const QString& key, const QString& key
     const ppd_option_t* option = ppdFindOption(model.file(), key.toUtf8().constData());
     for (int i = 0; option && !wanted.isEmpty() && i < option->num_choices; ++i) {
         const QString choice = QString::fromUtf8(option->choices[i].choice);
-        if (plainForm(choice) == wanted)
+        // A name that somebody gave is none of a choice's.
+        if (plainForm(choice) == wanted || plainForm(ippValueOf(model.file(), key, choice)) == wanted)
             return choice;
     }
     return {};
@@ -89,9 +91,9 @@ TrayChoice choiceFor(const PpdModel& model, const TrayPaper& paper)
             choiceLike(model, kMediaType, paper.type)};
 }
 
-bool isAutomaticSlot(const QString& slot)
+bool isAutomatic(const QString& choice)
 {
-    return slot.isEmpty() || plainForm(slot).startsWith(QLatin1StringView("auto"));
+    return choice.isEmpty() || plainForm(choice).startsWith(QLatin1StringView("auto"));
 }
 
 bool isPageOf(const QSizeF& page, const TrayPaper& paper)

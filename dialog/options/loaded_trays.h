@@ -26,8 +26,8 @@ bool isPageOf(const QSizeF& page, const TrayPaper& paper);
 QString trayText(const PpdModel& model, const TrayPaper& paper);
 QString paperTypeText(const PpdModel& model, const TrayPaper& paper);
 
-/// Whether the choice of InputSlot leaves the tray to the printer.
-bool isAutomaticSlot(const QString& slot);
+/// Whether a choice of InputSlot or MediaType leaves it to the printer.
+bool isAutomatic(const QString& choice);
 
 /// The tray that the options name, and whose paper they are set for; -1 if none is. A printer that cannot be
 /// told a tray has but one.

@@ -292,7 +292,10 @@ QVariant OptionTree::partData(const QModelIndex& index, int role) const
 QString OptionTree::textOf(const QString& key, const QString& value) const
 {
     const QString missing = value.isEmpty() ? model_->unlistedDefault(key) : QString();
-    return missing.isEmpty() ? model_->choiceText(key, value) : tr("%1 (the printer's default)").arg(missing);
+    if (!missing.isEmpty())
+        return tr("%1 (the printer's default)").arg(missing);
+    const bool isLeftOut = value.isEmpty() && model_->kind(key) == OptionKind::one;
+    return isLeftOut ? tr("As the printer is set") : model_->choiceText(key, value);
 }
 
 QString OptionTree::shownText(const QModelIndex& index) const

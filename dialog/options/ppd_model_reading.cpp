@@ -292,7 +292,7 @@ int PpdModel::resolution() const
             digits.clear();
         }
     }
-    return best > 0 ? best : kUsualResolution;
+    return best > 0 ? std::min(best, kMostResolution) : kUsualResolution;
 }
 
 } // namespace halvern

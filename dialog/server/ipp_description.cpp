@@ -4,12 +4,15 @@
 #include "dialog/options/ipp_twins.h"
 #include "dialog/server/ipp_papers.h"
 #include "dialog/server/ipp_words.h"
+#include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
+#include <QCryptographicHash>
 #include <QList>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <functional>
 
 namespace halvern {
 
@@ -19,11 +22,12 @@ constexpr qsizetype kMostChoices = 200;
 constexpr int kMostConstraints = 500;
 constexpr qsizetype kLongestKeyword = 40;
 constexpr qsizetype kLongestText = 78; // bytes, as libcups cuts it
+constexpr qsizetype kLongestValue = 120;
 
 struct Choice {
     QString keyword; ///< in the PPD
     QString text;
-    QString value = {}; ///< in a job, where it is not the keyword
+    QString value = {}; ///< in a job
 };
 
 struct Option {
@@ -31,7 +35,7 @@ struct Option {
     QString text;
     QString attribute; ///< in a job
     QList<Choice> choices;
-    QString defaultChoice;
+    QString byDefault; ///< the value that the printer takes by itself; empty: not told
 };
 
 /// An option of the printer's and the attributes that it is made of: NAME-supported and NAME-default.
@@ -59,6 +63,15 @@ bool isKeyword(const QString& text)
     return text.size() <= kLongestKeyword && kKeyword.match(text).hasMatch();
 }
 
+// What can stand in a line of a PPD and in the text of a collection as it is.
+bool isSendable(const QString& value)
+{
+    const auto isPlain = [](QChar character) {
+        return character.isPrint() && !QStringLiteral("\"'\\{}").contains(character);
+    };
+    return !value.isEmpty() && value.toUtf8().size() <= kLongestValue && std::ranges::all_of(value, isPlain);
+}
+
 // What ends a text of a PPD, or a line, or is no character to be seen, is none of its characters.
 QByteArray cleaned(const QString& text)
 {
@@ -73,7 +86,8 @@ QByteArray cleaned(const QString& text)
     return plain.toUtf8();
 }
 
-// The PPD's words for what the dialog looks at by name; others keep their own.
+// The PPD's words for what the dialog looks at by name; others keep their own. A name that somebody gave, "My
+// canvas, 340 g", gets one of ours, which presets find again whatever else the printer lists.
 QString ppdKeyword(const char* option, const QString& value)
 {
     static const struct {
@@ -95,7 +109,10 @@ QString ppdKeyword(const char* option, const QString& value)
         if (qstrcmp(row.option, option) == 0 && value == QLatin1StringView(row.value))
             return QLatin1StringView(row.keyword);
     }
-    return value;
+    if (isKeyword(value))
+        return value;
+    const QByteArray hash = QCryptographicHash::hash(value.toUtf8(), QCryptographicHash::Sha1);
+    return QStringLiteral("own-") + QString::fromLatin1(hash.left(4).toHex());
 }
 
 QString valueAt(ipp_attribute_t* attribute, int place)
@@ -103,6 +120,7 @@ QString valueAt(ipp_attribute_t* attribute, int place)
     switch (ippGetValueTag(attribute)) {
     case IPP_TAG_KEYWORD:
     case IPP_TAG_NAME:
+    case IPP_TAG_NAMELANG:
         return QString::fromUtf8(ippGetString(attribute, place, nullptr));
     case IPP_TAG_ENUM:
         return QString::number(ippGetInteger(attribute, place));
@@ -110,7 +128,8 @@ QString valueAt(ipp_attribute_t* attribute, int place)
         int down = 0;
         ipp_res_t unit = IPP_RES_PER_INCH;
         const int across = ippGetResolution(attribute, place, &down, &unit);
-        if (unit != IPP_RES_PER_INCH || across <= 0 || down <= 0)
+        const auto isPossible = [](int dots) { return dots >= 1 && dots <= kMostResolution; };
+        if (unit != IPP_RES_PER_INCH || !isPossible(across) || !isPossible(down))
             return {};
         return across == down ? QStringLiteral("%1dpi").arg(across)
                               : QStringLiteral("%1x%2dpi").arg(across).arg(down);
@@ -133,16 +152,22 @@ Option readOption(ipp_t* attributes, const Source& source)
         const bool isThere = std::ranges::any_of(option.choices, [&](const Choice& choice) {
             return choice.keyword.compare(keyword, Qt::CaseInsensitive) == 0;
         });
-        if (isKeyword(value) && !isThere)
+        if (isSendable(value) && !isThere)
             option.choices.append({keyword, ippWords(QLatin1StringView(source.name), value), value});
     }
     option.text = ippOptionWords(QLatin1StringView(source.name));
-    option.defaultChoice = ppdKeyword(source.keyword, byDefault ? valueAt(byDefault, 0) : QString());
+    option.byDefault = byDefault ? valueAt(byDefault, 0) : QString();
     return option;
 }
 
-// The members of media-col have no default of their own.
-void takeMediaDefaults(ipp_t* attributes, QList<Option>& options)
+const Choice* choiceOf(const Option& option, const QString& value)
+{
+    const auto found = std::ranges::find(option.choices, value, &Choice::value);
+    return found == option.choices.end() ? nullptr : &*found;
+}
+
+// The members of media-col have no default of their own; without one of "sides" the dialog's jobs say this.
+void takeOtherDefaults(ipp_t* attributes, QList<Option>& options)
 {
     ipp_attribute_t* found = ippFindAttribute(attributes, "media-col-default", IPP_TAG_BEGIN_COLLECTION);
     ipp_t* media = found ? ippGetCollection(found, 0) : nullptr;
@@ -152,14 +177,10 @@ void takeMediaDefaults(ipp_t* attributes, QList<Option>& options)
                                      ? ippFindAttribute(media, member.toUtf8().constData(), IPP_TAG_ZERO)
                                      : nullptr;
         if (value)
-            option.defaultChoice = valueAt(value, 0);
+            option.byDefault = valueAt(value, 0);
+        if (option.attribute == QLatin1StringView("sides") && !choiceOf(option, option.byDefault))
+            option.byDefault = QStringLiteral("one-sided");
     }
-}
-
-const Choice* choiceOf(const Option& option, const QString& keyword)
-{
-    const auto found = std::ranges::find(option.choices, keyword, &Choice::keyword);
-    return found == option.choices.end() ? nullptr : &*found;
 }
 
 class PpdText {
@@ -176,10 +197,10 @@ public:
         if (option.choices.size() < 2)
             return;
         const QByteArray keyword = option.keyword.toUtf8();
-        const QString first =
-            choiceOf(option, option.defaultChoice) ? option.defaultChoice : option.choices.front().keyword;
         open(option);
-        line("*Default" + keyword + ": " + first.toUtf8());
+        // Without one the option stays out of the job, and the printer does as it is set.
+        if (const Choice* byDefault = choiceOf(option, option.byDefault))
+            line("*Default" + keyword + ": " + byDefault->keyword.toUtf8());
         for (const Choice& choice : option.choices)
             line("*" + keyword + " " + choice.keyword.toUtf8() + "/" + cleaned(choice.text) + ": \"\"");
         line("*CloseUI: *" + keyword);
@@ -196,11 +217,14 @@ public:
     {
         const QByteArray keyword = option.keyword.toUtf8();
         line("*" + QByteArray(kIppAttribute) + " " + keyword + ": \"" + option.attribute.toUtf8() + "\"");
+        const bool isMember = option.attribute.contains(QLatin1Char('/'));
         for (const Choice& choice : option.choices) {
             const QString name = option.keyword + QLatin1Char('.') + choice.keyword;
-            if (choice.value != choice.keyword && name.size() <= kLongestKeyword)
-                line("*" + QByteArray(kIppValue) + " " + keyword + "." + choice.keyword.toUtf8() + ": \"" +
-                     choice.value.toUtf8() + "\"");
+            if (choice.value == choice.keyword || name.size() > kLongestKeyword)
+                continue;
+            const QByteArray quote = isMember && !isKeyword(choice.value) ? "'" : "";
+            line("*" + QByteArray(kIppValue) + " " + keyword + "." + choice.keyword.toUtf8() + ": \"" +
+                 quote + choice.value.toUtf8() + quote + "\"");
         }
     }
 
@@ -210,7 +234,24 @@ private:
     QByteArray text_;
 };
 
-void writeHead(PpdText& ppd, ipp_t* attributes, bool isColour)
+// Nothing where the printer does not say it.
+std::optional<bool> printsColours(ipp_t* attributes, const Option& modes)
+{
+    const auto isGray = [](const Choice& mode) {
+        return mode.value.contains(QLatin1StringView("monochrome")) ||
+               mode.value.contains(QLatin1StringView("bi-level"));
+    };
+    ipp_attribute_t* told = ippFindAttribute(attributes, "color-supported", IPP_TAG_BOOLEAN);
+    if (told)
+        return ippGetBoolean(told, 0) != 0;
+    if (choiceOf(modes, QStringLiteral("color")))
+        return true;
+    if (!modes.choices.isEmpty() && std::ranges::all_of(modes.choices, isGray))
+        return false;
+    return std::nullopt;
+}
+
+void writeHead(PpdText& ppd, ipp_t* attributes, std::optional<bool> isColour)
 {
     ipp_attribute_t* found = ippFindAttribute(attributes, "printer-make-and-model", IPP_TAG_TEXT);
     const QString model = found ? QString::fromUtf8(ippGetString(found, 0, nullptr)) : QString();
@@ -228,7 +269,8 @@ void writeHead(PpdText& ppd, ipp_t* attributes, bool isColour)
     ppd.line("*Product: \"(" + cleaned(name).replace('(', ' ').replace(')', ' ') + ")\"");
     ppd.line("*PSVersion: \"(3010.000) 0\"");
     ppd.line("*LanguageLevel: \"3\"");
-    ppd.line(isColour ? "*ColorDevice: True" : "*ColorDevice: False");
+    if (isColour)
+        ppd.line(*isColour ? "*ColorDevice: True" : "*ColorDevice: False");
     ppd.line("*DefaultColorSpace: RGB");
     ppd.line("*FileSystem: False");
 }
@@ -282,59 +324,131 @@ void writePapers(PpdText& ppd, const IppPapers& papers)
     ppd.line("*CustomPageSize True: \"pop pop pop <</PageSize[5 -2 roll]/ImagingBBox null>>setpagedevice\"");
 }
 
-/// The choices that a member of a constraint names, as "*OPTION CHOICE"; empty if the dialog has no such
+/// What a member of a constraint names, as "*OPTION CHOICE", each for itself; empty if the dialog has no such
 /// option.
-QList<QByteArray> sidesOf(ipp_attribute_t* member, const QList<Option>& options)
+using Sides = QList<QByteArray>;
+
+Sides sidesOf(ipp_attribute_t* member, const QList<Option>& options)
 {
-    QList<QByteArray> sides;
+    Sides sides;
     const QString name = QString::fromUtf8(ippGetName(member));
     for (const Option& option : options) {
         if (option.attribute.section(QLatin1Char('/'), -1) != name)
             continue;
         for (int i = 0; i < ippGetCount(member); ++i) {
-            const QString keyword = ppdKeyword(option.keyword.toUtf8().constData(), valueAt(member, i));
-            if (choiceOf(option, keyword))
-                sides.append("*" + option.keyword.toUtf8() + " " + keyword.toUtf8());
+            if (const Choice* choice = choiceOf(option, valueAt(member, i)))
+                sides.append("*" + option.keyword.toUtf8() + " " + choice->keyword.toUtf8());
         }
     }
     return sides;
 }
 
-// What does not go together, two by two; combinations of more are left to the printer.
-void writeConstraints(PpdText& ppd, ipp_t* attributes, const QList<Option>& options)
+bool isAboutPaper(const QByteArray& member)
+{
+    return member == "media-size" || (member.startsWith("media-") && member.endsWith("-margin"));
+}
+
+bool isMeant(const IppPaper& paper, ipp_t* media)
+{
+    const struct {
+        const char* name;
+        int margin;
+    } margins[] = {{"media-left-margin", paper.left},
+                   {"media-right-margin", paper.right},
+                   {"media-top-margin", paper.top},
+                   {"media-bottom-margin", paper.bottom}};
+
+    for (const auto& [name, margin] : margins) {
+        ipp_attribute_t* wanted = ippFindAttribute(media, name, IPP_TAG_INTEGER);
+        if (wanted && !ippContainsInteger(wanted, margin))
+            return false;
+    }
+    ipp_attribute_t* sizes = ippFindAttribute(media, "media-size", IPP_TAG_BEGIN_COLLECTION);
+    bool isAnySize = !sizes;
+    for (int i = 0; i < ippGetCount(sizes) && !isAnySize; ++i)
+        isAnySize = isOfSize(paper, ippGetCollection(sizes, i));
+    return isAnySize;
+}
+
+Sides sidesOfPapers(const IppPapers& papers, const std::function<bool(const IppPaper&)>& isWanted)
+{
+    Sides sides;
+    for (const IppPaper& paper : papers.papers) {
+        if (isWanted(paper))
+            sides.append("*PageSize " + paper.keyword.toUtf8());
+    }
+    return sides;
+}
+
+// One of the values of media-col: its size and its margins together are a paper.
+QList<Sides> sidesOfMedia(ipp_t* media, const QList<Option>& options, const IppPapers& papers)
+{
+    QList<Sides> all;
+    bool isPaper = false;
+    for (ipp_attribute_t* a = ippFirstAttribute(media); a; a = ippNextAttribute(media)) {
+        if (isAboutPaper(ippGetName(a)))
+            isPaper = true;
+        else
+            all.append(sidesOf(a, options));
+    }
+    if (isPaper)
+        all.append(sidesOfPapers(papers, [media](const IppPaper& paper) { return isMeant(paper, media); }));
+    return all;
+}
+
+Sides sidesOfMediaNames(ipp_attribute_t* names, const IppPapers& papers)
+{
+    Sides sides;
+    for (int i = 0; i < ippGetCount(names); ++i) {
+        const char* name = ippGetString(names, i, nullptr);
+        if (const pwg_media_t* size = name ? pwgMediaForPWG(name) : nullptr)
+            sides += sidesOfPapers(papers, [size](const IppPaper& paper) {
+                return paper.width == size->width && paper.length == size->length;
+            });
+    }
+    return sides;
+}
+
+// What goes together with nothing of the other: combinations of more than two are left to the printer.
+bool writeClash(PpdText& ppd, const QList<Sides>& members, int& written)
+{
+    if (members.size() != 2)
+        return true;
+    for (const QByteArray& one : members[0]) {
+        for (const QByteArray& other : members[1]) {
+            if (++written > kMostConstraints)
+                return false;
+            ppd.line("*UIConstraints: " + one + " " + other);
+            ppd.line("*UIConstraints: " + other + " " + one);
+        }
+    }
+    return true;
+}
+
+void writeConstraints(PpdText& ppd, ipp_t* attributes, const QList<Option>& options, const IppPapers& papers)
 {
     ipp_attribute_t* found =
         ippFindAttribute(attributes, "job-constraints-supported", IPP_TAG_BEGIN_COLLECTION);
     int written = 0;
     for (int i = 0; i < ippGetCount(found); ++i) {
-        QList<QList<QByteArray>> members;
+        QList<Sides> members;
+        ipp_attribute_t* media = nullptr;
         ipp_t* constraint = ippGetCollection(found, i);
-        bool isKnown = true;
-        const auto take = [&](ipp_attribute_t* member) {
-            members.append(sidesOf(member, options));
-            isKnown = isKnown && !members.back().isEmpty();
-        };
         for (ipp_attribute_t* a = ippFirstAttribute(constraint); a; a = ippNextAttribute(constraint)) {
-            const QLatin1StringView name(ippGetName(a));
-            ipp_t* inner =
-                name == QLatin1StringView("media-col") && ippGetValueTag(a) == IPP_TAG_BEGIN_COLLECTION
-                    ? ippGetCollection(a, 0)
-                    : nullptr;
-            for (ipp_attribute_t* b = inner ? ippFirstAttribute(inner) : nullptr; b;
-                 b = ippNextAttribute(inner))
-                take(b);
-            if (!inner && name != QLatin1StringView("resolver-name"))
-                take(a);
+            const QByteArray name(ippGetName(a));
+            if (name == "media-col" && ippGetValueTag(a) == IPP_TAG_BEGIN_COLLECTION)
+                media = a;
+            else if (name == "media")
+                members.append(sidesOfMediaNames(a, papers));
+            else if (name != "resolver-name")
+                members.append(sidesOf(a, options));
         }
-        if (!isKnown || members.size() != 2)
-            continue;
-        for (const QByteArray& one : members[0]) {
-            for (const QByteArray& other : members[1]) {
-                if (++written > kMostConstraints)
-                    return;
-                ppd.line("*UIConstraints: " + one + " " + other);
-                ppd.line("*UIConstraints: " + other + " " + one);
-            }
+        // Each of its values is meant.
+        for (int m = 0; m < std::max(ippGetCount(media), 1); ++m) {
+            const QList<Sides> ofMedia =
+                media ? sidesOfMedia(ippGetCollection(media, m), options, papers) : QList<Sides>();
+            if (!writeClash(ppd, members + ofMedia, written))
+                return;
         }
     }
 }
@@ -357,16 +471,16 @@ std::optional<QByteArray> describedAsPpd(_ipp_s* attributes, bool isHandedOn)
     QList<Option> options;
     for (const Source& source : kSources)
         options.append(readOption(attributes, source));
-    takeMediaDefaults(attributes, options);
+    takeOtherDefaults(attributes, options);
     const auto colours = std::ranges::find(options, QStringLiteral("ColorModel"), &Option::keyword);
     PpdText ppd;
-    writeHead(ppd, attributes, choiceOf(*colours, QStringLiteral("RGB")) != nullptr);
+    writeHead(ppd, attributes, printsColours(attributes, *colours));
     if (isHandedOn)
         ppd.line("*" + QByteArray(kIppHandsOn) + ": True");
     writePapers(ppd, papers);
     for (const Option& option : options)
         ppd.option(option);
-    writeConstraints(ppd, attributes, options);
+    writeConstraints(ppd, attributes, options, papers);
     return ppd.text();
 }
 

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace halvern {
 
@@ -85,28 +87,60 @@ int widestMargin(ipp_t* attributes, const char* name)
     return std::clamp(widest, 0, kLeastSide * 5);
 }
 
+struct Limits {
+    int least = 0;
+    int most = 0;
+};
+
+// A side that cannot be chosen, as the width of a roll, is a range of one length.
+std::optional<Limits> limitsOf(ipp_t* size, const char* side)
+{
+    ipp_attribute_t* found = ippFindAttribute(size, side, IPP_TAG_ZERO);
+    Limits limits;
+    if (found && ippGetValueTag(found) == IPP_TAG_RANGE)
+        limits.least = ippGetRange(found, 0, &limits.most);
+    else if (found && ippGetValueTag(found) == IPP_TAG_INTEGER)
+        limits.least = limits.most = ippGetInteger(found, 0);
+    limits.least = std::max(limits.least, kLeastSide);
+    limits.most = std::min(limits.most, kMostSide);
+    return limits.least <= limits.most ? std::optional(limits) : std::nullopt;
+}
+
+// Of several rolls and feeds a page may be as small and as large as any of them allows.
 void readLimits(ipp_t* size, IppPapers& papers)
 {
-    ipp_attribute_t* across = ippFindAttribute(size, "x-dimension", IPP_TAG_RANGE);
-    ipp_attribute_t* along = ippFindAttribute(size, "y-dimension", IPP_TAG_RANGE);
-    if (!across || !along)
+    const std::optional<Limits> across = limitsOf(size, "x-dimension");
+    const std::optional<Limits> along = limitsOf(size, "y-dimension");
+    if (!across || !along || (across->least == across->most && along->least == along->most))
         return;
-    papers.leastWidth = std::clamp(ippGetRange(across, 0, &papers.mostWidth), kLeastSide, kMostSide);
-    papers.leastLength = std::clamp(ippGetRange(along, 0, &papers.mostLength), kLeastSide, kMostSide);
-    papers.mostWidth = std::clamp(papers.mostWidth, 0, kMostSide);
-    papers.mostLength = std::clamp(papers.mostLength, 0, kMostSide);
-    papers.hasCustom = papers.leastWidth < papers.mostWidth && papers.leastLength < papers.mostLength;
+    const bool isFirst = !std::exchange(papers.hasCustom, true);
+    papers.leastWidth = isFirst ? across->least : std::min(papers.leastWidth, across->least);
+    papers.mostWidth = std::max(papers.mostWidth, across->most);
+    papers.leastLength = isFirst ? along->least : std::min(papers.leastLength, along->least);
+    papers.mostLength = std::max(papers.mostLength, along->most);
+}
+
+bool isBorderlessEverywhere(ipp_t* attributes)
+{
+    const auto hasNone = [attributes](const char* name) {
+        ipp_attribute_t* found = ippFindAttribute(attributes, name, IPP_TAG_INTEGER);
+        return found && ippContainsInteger(found, 0);
+    };
+    return hasNone("media-left-margin-supported") && hasNone("media-right-margin-supported") &&
+           hasNone("media-top-margin-supported") && hasNone("media-bottom-margin-supported");
 }
 
 // Where a printer lists no combinations: its sizes, with the widest of its margins, and without any.
 void readSizes(ipp_t* attributes, IppPapers& papers)
 {
     ipp_attribute_t* sizes = ippFindAttribute(attributes, "media-size-supported", IPP_TAG_BEGIN_COLLECTION);
-    ipp_attribute_t* left = ippFindAttribute(attributes, "media-left-margin-supported", IPP_TAG_INTEGER);
-    const bool isEverywhere = left && ippContainsInteger(left, 0);
+    const bool isListed = !papers.papers.isEmpty();
+    const bool isEverywhere = isBorderlessEverywhere(attributes);
     for (int i = 0; i < std::min(ippGetCount(sizes), kMostRead); ++i) {
         ipp_t* size = ippGetCollection(sizes, i);
         readLimits(size, papers);
+        if (isListed)
+            continue;
         IppPaper paper;
         paper.width = integerIn(size, "x-dimension");
         paper.length = integerIn(size, "y-dimension");
@@ -153,10 +187,14 @@ IppPapers readIppPapers(_ipp_s* attributes)
         if (ipp_attribute_t* size = ippFindAttribute(media, "media-size", IPP_TAG_BEGIN_COLLECTION))
             readLimits(ippGetCollection(size, 0), papers);
     }
-    if (papers.papers.isEmpty())
-        readSizes(attributes, papers);
+    readSizes(attributes, papers);
     papers.defaultKeyword = defaultOf(attributes, papers);
     return papers;
+}
+
+bool isOfSize(const IppPaper& paper, _ipp_s* size)
+{
+    return integerIn(size, "x-dimension") == paper.width && integerIn(size, "y-dimension") == paper.length;
 }
 
 QByteArray mediaSizeValue(const IppPaper& paper)

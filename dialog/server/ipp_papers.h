@@ -41,6 +41,9 @@ struct IppPapers {
 /// Reads them from what a printer says of itself over IPP: bounded, and without what is no size. Any thread.
 IppPapers readIppPapers(_ipp_s* attributes);
 
+/// Whether a collection of a width and a length is the paper's.
+bool isOfSize(const IppPaper& paper, _ipp_s* size);
+
 /// The members of media-col that choose a paper size, from media-size on: "{x-dimension=...}" and its
 /// margins.
 QByteArray mediaSizeValue(const IppPaper& paper);

@@ -5,6 +5,8 @@
 #include "dialog/session/seen_printers.h"
 #include "platform/foundation/display_text.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace halvern {
@@ -12,10 +14,42 @@ namespace halvern {
 namespace {
 
 const QString kPaperFeed = QStringLiteral("PaperFeed");
+const QString kPageSize = QStringLiteral("PageSize");
+const QString kMediaType = QStringLiteral("MediaType");
 
-bool isColourless(const PpdModel& model)
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(RefilledTray)
+};
+
+// As far as the options are set for it.
+QString followedInWords(const PpdModel& model, const TrayPaper& paper)
 {
-    return model.value(QStringLiteral("ColorModel")).contains(QLatin1StringView("gray"), Qt::CaseInsensitive);
+    const TrayChoice choice = choiceFor(model, paper);
+    QStringList parts;
+    if (!choice.page.isEmpty() && model.value(kPageSize) == choice.page)
+        parts.append(isolated(paperInWords(model, paper)));
+    if (!choice.type.isEmpty() && model.value(kMediaType) == choice.type)
+        parts.append(isolated(paperTypeText(model, paper)));
+    return parts.join(QStringLiteral(", "));
+}
+
+QString refilledInWords(const PpdModel& model, const TrayPaper& paper, bool hasChanged)
+{
+    const QString tray = isolated(trayText(model, paper));
+    const QString followed = hasChanged ? followedInWords(model, paper) : QString();
+    QString sentence =
+        followed.isEmpty()
+            ? Words::tr("\"%1\" has other paper now.").arg(tray)
+            : Words::tr("\"%1\" has other paper now, and the page follows: %2.").arg(tray, followed);
+    const QString kind = choiceFor(model, paper).type;
+    const bool isOtherKind =
+        !paper.type.isEmpty() && !model.value(kMediaType).isEmpty() && model.value(kMediaType) != kind;
+    if (isOtherKind)
+        sentence +=
+            QLatin1Char(' ') + Words::tr("Its kind, %1, could not be chosen: the paper type is still \"%2\".")
+                                   .arg(isolated(paperTypeText(model, paper)),
+                                        isolated(model.choiceText(kMediaType, model.value(kMediaType))));
+    return isOtherKind || !followed.isEmpty() ? sentence : QString();
 }
 
 bool isSamePaper(const TrayPaper& a, const TrayPaper& b)
@@ -43,7 +77,7 @@ std::optional<NotLoaded> DialogSession::notLoaded() const
 
 QString DialogSession::lowSupplies() const
 {
-    return model() ? halvern::lowSupplies(report().supplies, !isColourless(*model())) : QString();
+    return model() ? halvern::lowSupplies(report().supplies, !look().isGray) : QString();
 }
 
 void DialogSession::useTray(int tray)
@@ -58,9 +92,8 @@ void DialogSession::useTray(int tray)
 QList<SideChange> DialogSession::setAsTray(const TrayPaper& paper)
 {
     const TrayChoice choice = choiceFor(*model(), paper);
-    return options_.chooseTogether({{QStringLiteral("PageSize"), choice.page},
-                                    {QStringLiteral("InputSlot"), choice.slot},
-                                    {QStringLiteral("MediaType"), choice.type}});
+    return options_.chooseTogether(
+        {{kPageSize, choice.page}, {QStringLiteral("InputSlot"), choice.slot}, {kMediaType, choice.type}});
 }
 
 // Whoever prints from a tray and puts other paper into it means to print on that.
@@ -84,12 +117,12 @@ void DialogSession::takeReport()
     lastTrays_ = now;
     if (refilled != now.end() && !isStillThere && !isLaidOut && request_.isAttended) {
         inUse_ = *refilled;
-        const QList<SideChange> changes = setAsTray(*refilled);
-        if (!changes.isEmpty())
-            Q_EMIT trayRefilled(tr("\"%1\" has other paper now, and the page follows: %2, %3.")
-                                    .arg(isolated(trayText(*model(), *refilled)),
-                                         isolated(paperInWords(*model(), *refilled)),
-                                         isolated(paperTypeText(*model(), *refilled))));
+        const bool hasChanged = !setAsTray(*refilled).isEmpty();
+        const QString sentence = refilledInWords(*model(), *refilled, hasChanged);
+        if (hasChanged && !sentence.isEmpty())
+            Q_EMIT trayRefilled(sentence);
+        else if (!sentence.isEmpty())
+            Q_EMIT notice(sentence);
     }
     // One that its server knows may be switched off all the same.
     if (report().isThere && !report().isSilent && request_.remembers)

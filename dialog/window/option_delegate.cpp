@@ -103,8 +103,6 @@ QWidget* OptionDelegate::makeList(const QString& key, QWidget* parent) const
     setPlainName(box, option.text);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     (new ChoiceList(box))->setChoices(option.choices);
-    if (const QString missing = session_.model()->unlistedDefault(key); !missing.isEmpty())
-        box->setPlaceholderText(halvern::displayText(tr("%1 (the printer's default)").arg(missing)));
     showClashes(box, key);
     connect(box, &QComboBox::activated, this,
             [this, box] { const_cast<OptionDelegate*>(this)->finish(box); });
@@ -152,8 +150,11 @@ void OptionDelegate::setEditorData(QWidget* editor, const QModelIndex& index) co
     const QString value = index.data(OptionTree::keywordRole).toString();
     if (auto* field = qobject_cast<CustomField*>(editor))
         field->setValue(value);
-    else if (auto* box = qobject_cast<QComboBox*>(editor))
+    else if (auto* box = qobject_cast<QComboBox*>(editor)) {
+        if (value.isEmpty())
+            box->setPlaceholderText(halvern::displayText(index.data().toString()));
         static_cast<ChoiceList*>(box->model())->select(value);
+    }
 }
 
 void OptionDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const

@@ -480,7 +480,9 @@ void PrintDialog::showMisfit()
     const auto use = [](const QString& text) { return tr("Use %1").arg(captionText(text)); };
     MessageAction action;
     if (missing)
-        action = {use(missing->otherText), [this, tray = missing->other] { session_.useTray(tray); }};
+        action = {use(missing->otherText), [this, paper = session_.trays().value(missing->other)] {
+                      session_.useTray(int(session_.trays().indexOf(paper)));
+                  }};
     else if (!misfit->fitting.isEmpty())
         action = {use(misfit->fittingText), [this, page = misfit->fitting] {
                       session_.changeOption(QStringLiteral("PageSize"), page);

@@ -13,4 +13,7 @@ inline constexpr double kPointsPerMillimetre = kPointsPerInch / kMillimetresPerI
 /// A printer's dots per inch, where nobody says.
 inline constexpr int kUsualResolution = 300;
 
+/// No printer has more: what a description says beyond that is a mistake in it.
+inline constexpr int kMostResolution = 9600;
+
 } // namespace halvern

@@ -2030,6 +2030,21 @@
     </message>
 </context>
 <context>
+    <name>RefilledTray</name>
+    <message>
+        <source>&quot;%1&quot; has other paper now.</source>
+        <translation>In „%1“ ist jetzt anderes Papier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2.</source>
+        <translation>In „%1“ ist jetzt anderes Papier, und die Seite folgt ihm: %2.</translation>
+    </message>
+    <message>
+        <source>Its kind, %1, could not be chosen: the paper type is still &quot;%2&quot;.</source>
+        <translation>Dessen Art, %1, war nicht zu wählen: Die Papierart ist weiterhin „%2“.</translation>
+    </message>
+</context>
+<context>
     <name>ReviewSwitch</name>
     <message>
         <source>Re&amp;view before printing</source>
@@ -2682,6 +2697,10 @@
         <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
         <translation>Das Papierformat „%1“ ist nicht eingelegt. In „%3“ ist „%2“.</translation>
     </message>
+    <message>
+        <source>The paper type is &quot;%1&quot;, but in &quot;%2&quot; there is &quot;%3&quot;.</source>
+        <translation>Die Papierart ist „%1“, in „%2“ liegt aber „%3“.</translation>
+    </message>
 </context>
 <context>
     <name>UserJobs</name>
@@ -3060,10 +3079,6 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Alle Fotos sind weggelassen. Nehmen Sie mindestens eines davon auf.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
-        <translation>In „%1“ ist jetzt anderes Papier, und die Seite folgt ihm: %2, %3.</translation>
     </message>
 </context>
 <context>
@@ -3555,10 +3570,6 @@
 <context>
     <name>halvern::OptionDelegate</name>
     <message>
-        <source>%1 (the printer&apos;s default)</source>
-        <translation>%1 (Vorgabe des Druckers)</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 auf %2</translation>
     </message>
@@ -3631,6 +3642,10 @@
     <message>
         <source>Changed from the printer&apos;s default</source>
         <translation>Weicht von der Vorgabe des Druckers ab</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Wie am Drucker eingestellt</translation>
     </message>
 </context>
 <context>

@@ -2030,6 +2030,21 @@
     </message>
 </context>
 <context>
+    <name>RefilledTray</name>
+    <message>
+        <source>&quot;%1&quot; has other paper now.</source>
+        <translation>«%1» tiene ahora otro papel.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2.</source>
+        <translation>«%1» tiene ahora otro papel y la página lo sigue: %2.</translation>
+    </message>
+    <message>
+        <source>Its kind, %1, could not be chosen: the paper type is still &quot;%2&quot;.</source>
+        <translation>Su clase, %1, no se ha podido elegir: el tipo de papel sigue siendo «%2».</translation>
+    </message>
+</context>
+<context>
     <name>ReviewSwitch</name>
     <message>
         <source>Re&amp;view before printing</source>
@@ -2682,6 +2697,10 @@
         <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
         <translation>El tamaño de papel «%1» no está cargado. En «%3» hay «%2».</translation>
     </message>
+    <message>
+        <source>The paper type is &quot;%1&quot;, but in &quot;%2&quot; there is &quot;%3&quot;.</source>
+        <translation>El tipo de papel es «%1», pero en «%2» hay «%3».</translation>
+    </message>
 </context>
 <context>
     <name>UserJobs</name>
@@ -3060,10 +3079,6 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Todas las fotos están omitidas. Incluya al menos una.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
-        <translation>«%1» tiene ahora otro papel y la página se adapta: %2, %3.</translation>
     </message>
 </context>
 <context>
@@ -3555,10 +3570,6 @@
 <context>
     <name>halvern::OptionDelegate</name>
     <message>
-        <source>%1 (the printer&apos;s default)</source>
-        <translation>%1 (valor de la impresora)</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 en %2</translation>
     </message>
@@ -3631,6 +3642,10 @@
     <message>
         <source>Changed from the printer&apos;s default</source>
         <translation>Distinto del valor de la impresora</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Como esté ajustada la impresora</translation>
     </message>
 </context>
 <context>

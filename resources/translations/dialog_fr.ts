@@ -2030,6 +2030,21 @@
     </message>
 </context>
 <context>
+    <name>RefilledTray</name>
+    <message>
+        <source>&quot;%1&quot; has other paper now.</source>
+        <translation>« %1 » contient maintenant un autre papier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2.</source>
+        <translation>« %1 » contient maintenant un autre papier, et la page le suit : %2.</translation>
+    </message>
+    <message>
+        <source>Its kind, %1, could not be chosen: the paper type is still &quot;%2&quot;.</source>
+        <translation>Son type, %1, n’a pas pu être choisi : le type de papier est toujours « %2 ».</translation>
+    </message>
+</context>
+<context>
     <name>ReviewSwitch</name>
     <message>
         <source>Re&amp;view before printing</source>
@@ -2682,6 +2697,10 @@
         <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
         <translation>Le format de papier « %1 » n’est pas chargé. Il y a « %2 » dans « %3 ».</translation>
     </message>
+    <message>
+        <source>The paper type is &quot;%1&quot;, but in &quot;%2&quot; there is &quot;%3&quot;.</source>
+        <translation>Le type de papier est « %1 », mais « %2 » contient « %3 ».</translation>
+    </message>
 </context>
 <context>
     <name>UserJobs</name>
@@ -3060,10 +3079,6 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Toutes les photos sont omises. Incluez-en au moins une.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
-        <translation>« %1 » contient maintenant un autre papier et la page s’y adapte : %2, %3.</translation>
     </message>
 </context>
 <context>
@@ -3555,10 +3570,6 @@
 <context>
     <name>halvern::OptionDelegate</name>
     <message>
-        <source>%1 (the printer&apos;s default)</source>
-        <translation>%1 (valeur par défaut de l’imprimante)</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 sur %2</translation>
     </message>
@@ -3631,6 +3642,10 @@
     <message>
         <source>Changed from the printer&apos;s default</source>
         <translation>Diffère de la valeur par défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>Selon le réglage de l’imprimante</translation>
     </message>
 </context>
 <context>

@@ -2030,6 +2030,21 @@
     </message>
 </context>
 <context>
+    <name>RefilledTray</name>
+    <message>
+        <source>&quot;%1&quot; has other paper now.</source>
+        <translation>「%1」の用紙が変わりました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has other paper now, and the page follows: %2.</source>
+        <translation>「%1」の用紙が変わったため、ページもそれに合わせました：%2</translation>
+    </message>
+    <message>
+        <source>Its kind, %1, could not be chosen: the paper type is still &quot;%2&quot;.</source>
+        <translation>その種類（%1）は選択できませんでした。用紙の種類は「%2」のままです。</translation>
+    </message>
+</context>
+<context>
     <name>ReviewSwitch</name>
     <message>
         <source>Re&amp;view before printing</source>
@@ -2682,6 +2697,10 @@
         <source>The paper size &quot;%1&quot; is not loaded. There is &quot;%2&quot; in &quot;%3&quot;.</source>
         <translation>用紙サイズ「%1」はセットされていません。「%3」にあるのは「%2」です。</translation>
     </message>
+    <message>
+        <source>The paper type is &quot;%1&quot;, but in &quot;%2&quot; there is &quot;%3&quot;.</source>
+        <translation>用紙の種類は「%1」ですが、「%2」には「%3」が入っています。</translation>
+    </message>
 </context>
 <context>
     <name>UserJobs</name>
@@ -3060,10 +3079,6 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>すべての写真が除外されています。少なくとも 1 枚を含めてください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; has other paper now, and the page follows: %2, %3.</source>
-        <translation>「%1」の用紙が変わったため、ページも合わせました: %2、%3。</translation>
     </message>
 </context>
 <context>
@@ -3555,10 +3570,6 @@
 <context>
     <name>halvern::OptionDelegate</name>
     <message>
-        <source>%1 (the printer&apos;s default)</source>
-        <translation>%1 (プリンターの既定値)</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 → %2</translation>
     </message>
@@ -3631,6 +3642,10 @@
     <message>
         <source>Changed from the printer&apos;s default</source>
         <translation>プリンターの既定値から変更されています</translation>
+    </message>
+    <message>
+        <source>As the printer is set</source>
+        <translation>プリンターの設定に従う</translation>
     </message>
 </context>
 <context>
