@@ -2,6 +2,7 @@
 #include "dialog/server/local_queue.h"
 
 #include "dialog/server/ipp_description.h"
+#include "dialog/server/printer_questions.h"
 #include "platform/printing/cups_ppd.h"
 #include "platform/printing/fresh_ppd.h"
 
@@ -16,6 +17,8 @@ namespace {
 constexpr std::chrono::seconds kPatience(30);
 constexpr std::chrono::seconds kLongestMaking(15);
 constexpr unsigned long kPauseMilliseconds = 200;
+constexpr cups::Limits kDescriptionLimits{std::chrono::seconds(5), std::chrono::seconds(10),
+                                          kReportLimits.bytes};
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(LocalQueue)
@@ -36,23 +39,19 @@ QByteArray textIn(const cups::Ipp& answer, const char* name)
     return QByteArray(found ? ippGetString(found, 0, nullptr) : nullptr);
 }
 
-cups::Ipp askPrinterItself(const QByteArray& uri, const cups::CancelFlag& cancelled)
+cups::Ipp askPrinterItself(const PrinterPlace& place, const cups::CancelFlag& cancelled, QString* problem)
 {
-    char scheme[32];
-    char login[HTTP_MAX_URI];
-    char host[HTTP_MAX_HOST];
-    char resource[HTTP_MAX_URI];
-    int port = 0;
-    if (httpSeparateURI(HTTP_URI_CODING_ALL, uri.constData(), scheme, sizeof(scheme), login, sizeof(login),
-                        host, sizeof(host), &port, resource, sizeof(resource)) < HTTP_URI_STATUS_OK)
+    // Whether it is there is known soon; all that it can do, many a printer has to think about.
+    cups::Connection first(place.host, cancelled, kReportLimits);
+    if (!first.isConnected()) {
+        *problem = whyNoAnswer(first);
         return nullptr;
-    const bool isEncrypted = qstrcmp(scheme, "ipps") == 0;
-    if (!isEncrypted && qstrcmp(scheme, "ipp") != 0)
-        return nullptr;
-    cups::Connection printer(cups::Host{host, port, isEncrypted}, cancelled, cups::Limits());
-    cups::Ipp request = cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, {});
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
-    return printer.isConnected() ? askAttributes(printer, std::move(request), resource) : nullptr;
+    }
+    cups::Connection printer(place.host, cancelled, kDescriptionLimits);
+    cups::Ipp answer = askAttributes(printer, newQuestion(place), place.resource.constData());
+    if (!answer && (!printer.isConnected() || printer.wasSilent() || printer.wasTooMuch()))
+        *problem = whyNoAnswer(printer);
+    return answer;
 }
 
 // What went wrong while the server looked at the printer; empty while it still looks.
@@ -94,7 +93,7 @@ QString createLocalQueue(const QString& name, const QString& deviceUri, const cu
 }
 
 std::optional<QByteArray> describeByIpp(cups::Connection& server, const QString& queue,
-                                        const cups::CancelFlag& cancelled)
+                                        const cups::CancelFlag& cancelled, QString* problem)
 {
     const cups::Ipp ofQueue =
         askAttributes(server, cups::newRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue), "/");
@@ -103,7 +102,9 @@ std::optional<QByteArray> describeByIpp(cups::Connection& server, const QString&
     if (isDescribed(ofQueue.get()))
         return describedAsPpd(ofQueue.get(), false);
     // A queue without a driver hands everything on: what can be printed, only the printer knows.
-    const cups::Ipp ofPrinter = askPrinterItself(textIn(ofQueue, "device-uri"), cancelled);
+    const std::optional<PrinterPlace> place = printerPlace(QString::fromUtf8(textIn(ofQueue, "device-uri")));
+    const std::optional<PrinterPlace> found = place ? lookedUp(*place, cancelled) : std::nullopt;
+    const cups::Ipp ofPrinter = found ? askPrinterItself(*found, cancelled, problem) : nullptr;
     return ofPrinter && isDescribed(ofPrinter.get()) ? describedAsPpd(ofPrinter.get(), true) : std::nullopt;
 }
 

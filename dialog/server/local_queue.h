@@ -13,8 +13,9 @@ namespace halvern {
 QString createLocalQueue(const QString& name, const QString& deviceUri, const cups::CancelFlag& cancelled);
 
 /// What a queue without a PPD is, as the text of one: as the server knows its options, or as the printer
-/// itself tells. Nothing if neither says what can be printed.
+/// itself tells. Nothing if neither says what can be printed; `problem` then is the sentence why, if the
+/// printer was asked and gave no answer.
 std::optional<QByteArray> describeByIpp(cups::Connection& server, const QString& queue,
-                                        const cups::CancelFlag& cancelled);
+                                        const cups::CancelFlag& cancelled, QString* problem);
 
 } // namespace halvern

@@ -23,7 +23,6 @@ constexpr std::chrono::milliseconds kRest(2000);
 constexpr std::chrono::milliseconds kRestWithoutEvents(4000);
 // Events may be lost.
 constexpr std::chrono::seconds kOldest(60);
-constexpr int kDiscoveryMilliseconds = 3000;
 constexpr std::chrono::milliseconds kRestOfDiscovery(30000);
 // More names than these nobody reads in a sentence.
 constexpr qsizetype kMostNamed = 8;
@@ -61,10 +60,10 @@ QString stateText(const PrinterInfo& printer)
         state = Words::tr("Does not accept jobs");
     else if (printer.state == PrinterState::stopped)
         state = Words::tr("Paused");
-    else if (printer.isSilent)
-        state = Words::tr("The printer does not answer");
     else if (printer.state == PrinterState::processing)
         state = Words::tr("Printing");
+    else if (printer.isSilent)
+        state = Words::tr("The printer does not answer");
     else if (printer.isDiscovered)
         state = Words::tr("Found on the network");
     else if (stateSeverity(printer) == Severity::error)
@@ -102,6 +101,8 @@ PrinterInfo withReport(PrinterInfo printer, const PrinterReport& report)
     printer.isSilent = report.isSilent;
     if (!report.isThere)
         return printer;
+    if (report.isOwn)
+        printer.reasons = reasonsOfServer(printer.reasons, printer.state);
     printer.state = report.state;
     for (const QString& reason : report.reasons) {
         if (!printer.reasons.contains(reason))
@@ -175,6 +176,18 @@ std::vector<PrinterInfo> withDiscovered(std::vector<PrinterInfo> queues,
     return queues;
 }
 
+namespace {
+
+// Whether all is there that was asked for; a queue that the server does not have has no report.
+bool isAnswered(const PrinterAnswer& answer, const QString& watched, const PrinterReport& report)
+{
+    const bool isListed =
+        std::ranges::find(answer.printers, watched, &PrinterInfo::name) != answer.printers.end();
+    return answer.problem.isEmpty() && (report.isThere || !isListed);
+}
+
+} // namespace
+
 /// The worker's side: what it asks over, and what it is to look out for.
 struct PrinterList::Line {
     std::mutex mutex; ///< of the following two
@@ -194,6 +207,13 @@ struct PrinterList::Line {
     {
         const std::scoped_lock lock(mutex);
         return {watched, std::exchange(isWanted, false)};
+    }
+
+    // The event that was the reason to ask does not come again.
+    void wantAgain()
+    {
+        const std::scoped_lock lock(mutex);
+        isWanted = true;
     }
 
     void connect(const cups::CancelFlag& stop)
@@ -242,6 +262,8 @@ void PrinterList::start()
         PrinterReport report;
         if (!watched.isEmpty() && answer.problem.isEmpty())
             report = askQueue(*line->server, watched);
+        if (!isAnswered(answer, watched, report))
+            line->wantAgain();
         mainQueue().async([self, watched = watched, answer = std::move(answer), report] {
             if (!self)
                 return;
@@ -257,10 +279,7 @@ void PrinterList::start()
 
 void PrinterList::refresh()
 {
-    {
-        const std::scoped_lock lock(line_->mutex);
-        line_->isWanted = true;
-    }
+    line_->wantAgain();
     if (rounds_)
         rounds_->hurry();
 }
@@ -286,11 +305,14 @@ void PrinterList::discover()
         std::vector<PrinterInfo> found = withDiscovered(now, *before);
         *before = now;
         mainQueue().async([self, found = std::move(found)] {
-            if (!self || found == self->discovered_)
+            const bool isFirst = self && !std::exchange(self->hasLookedRound_, true);
+            if (!self || (!isFirst && found == self->discovered_))
                 return;
             self->discovered_ = found;
             self->printers_ = withDiscovered(self->queues_, found);
-            Q_EMIT self->changed();
+            // Else the server's answer brings them with its own.
+            if (self->hasAnswer_)
+                Q_EMIT self->changed();
         });
         return kRestOfDiscovery;
     });

@@ -61,6 +61,9 @@ struct PrinterAnswer {
 PrinterAnswer askPrinters(const cups::CancelFlag& cancelled);
 PrinterAnswer askPrinters(cups::Connection& server);
 
+/// So long they are looked for: they have to be asked to show themselves.
+inline constexpr int kDiscoveryMilliseconds = 3000;
+
 /// Printers on the network that have no queue yet, on the calling worker; takes up to `milliseconds`.
 std::vector<PrinterInfo> discoverPrinters(int milliseconds, const cups::CancelFlag& cancelled);
 
@@ -103,6 +106,9 @@ public:
     /// Whether the server has answered, or failed to, at least once.
     bool hasAnswer() const { return hasAnswer_; }
 
+    /// Whether the network has been looked through at least once.
+    bool hasLookedRound() const { return hasLookedRound_; }
+
     /// Null if there is none of that name.
     const PrinterInfo* find(const QString& name) const;
 
@@ -125,6 +131,7 @@ private:
     QString serverDefault_;
     QString problem_;
     bool hasAnswer_ = false;
+    bool hasLookedRound_ = false;
     PrinterReport report_;
     cups::CancelFlag stop_;
     std::shared_ptr<Line> line_;

@@ -24,40 +24,7 @@ void addWanted(ipp_t* request)
                   nullptr, names.data());
 }
 
-QString whyNot(const cups::Connection& printer)
-{
-    if (printer.wasTooMuch())
-        return Words::tr("The printer's answer about itself is too long to be true, and was not read.");
-    if (printer.wasForbidden())
-        return Words::tr("The printer does not tell strangers what is in it.");
-    if (!printer.isConnected() || printer.wasSilent())
-        return Words::tr("The printer does not answer. Is it switched on, and in this network?");
-    return Words::tr("The printer does not say what is in it.");
-}
-
 } // namespace
-
-std::optional<PrinterPlace> printerPlace(const QString& deviceUri)
-{
-    char scheme[32];
-    char user[256];
-    char host[256];
-    char resource[1024];
-    int port = 0;
-    const QByteArray uri = deviceUri.toUtf8();
-    if (httpSeparateURI(HTTP_URI_CODING_ALL, uri.constData(), scheme, sizeof(scheme), user, sizeof(user),
-                        host, sizeof(host), &port, resource, sizeof(resource)) < HTTP_URI_STATUS_OK)
-        return std::nullopt;
-    const bool isEncrypted = qstrcmp(scheme, "ipps") == 0;
-    if ((!isEncrypted && qstrcmp(scheme, "ipp") != 0) || !*host || port < 1 || port > 65535)
-        return std::nullopt;
-    // What follows a question mark are the back end's options.
-    if (char* options = strchr(resource, '?'))
-        *options = '\0';
-    char plain[HTTP_MAX_URI];
-    httpAssembleURI(HTTP_URI_CODING_ALL, plain, sizeof(plain), scheme, nullptr, host, port, resource);
-    return PrinterPlace{{host, port, isEncrypted}, resource, plain};
-}
 
 PrinterReport askQueue(cups::Connection& server, const QString& queue)
 {
@@ -71,20 +38,36 @@ PrinterReport askQueue(cups::Connection& server, const QString& queue)
     return report;
 }
 
+cups::Ipp newQuestion(const PrinterPlace& place)
+{
+    cups::Ipp request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+                 place.uri.constData());
+    return request;
+}
+
+QString whyNoAnswer(const cups::Connection& printer)
+{
+    if (printer.wasTooMuch())
+        return Words::tr("The printer's answer about itself is too long to be true, and was not read.");
+    if (printer.wasForbidden())
+        return Words::tr("The printer does not tell strangers what is in it.");
+    if (!printer.isConnected() || printer.wasSilent())
+        return Words::tr("The printer does not answer. Is it switched on, and in this network?");
+    return Words::tr("The printer does not say what is in it.");
+}
+
 PrinterReport askPrinter(cups::Connection& printer, const PrinterPlace& place)
 {
     PrinterReport report;
     if (printer.isConnected()) {
-        // Without the user's name, which is none of its business.
-        cups::Ipp request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
-        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
-                     place.uri.constData());
+        cups::Ipp request = newQuestion(place);
         addWanted(request.get());
         const cups::Ipp answer = printer.request(std::move(request), place.resource.constData());
         if (answer && ippGetStatusCode(answer.get()) < IPP_STATUS_REDIRECTION_OTHER_SITE)
             return readReport(answer.get(), true);
     }
-    report.problem = whyNot(printer);
+    report.problem = whyNoAnswer(printer);
     report.isSilent = !printer.isConnected() || printer.wasSilent();
     return report;
 }

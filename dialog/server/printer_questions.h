@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialog/server/printer_place.h"
 #include "dialog/server/printer_report.h"
 #include "platform/printing/cups_connection.h"
 
@@ -10,18 +11,14 @@ namespace halvern {
 inline constexpr cups::Limits kReportLimits{std::chrono::seconds(3), std::chrono::seconds(3),
                                             2 * 1024 * 1024};
 
-/// Where a printer itself can be asked.
-struct PrinterPlace {
-    cups::Host host;
-    QByteArray resource;
-    QByteArray uri;
-};
-
-/// Reads a queue's device URI; nothing if it names no printer that speaks IPP. A password in it is left out.
-std::optional<PrinterPlace> printerPlace(const QString& deviceUri);
-
 /// Asks the server for the queue's report, on the calling worker.
 PrinterReport askQueue(cups::Connection& server, const QString& queue);
+
+/// A question to the printer itself, in which the user's name is not.
+cups::Ipp newQuestion(const PrinterPlace& place);
+
+/// The sentence why a printer has not answered as it should.
+QString whyNoAnswer(const cups::Connection& printer);
 
 /// Asks the printer itself, on the calling worker.
 PrinterReport askPrinter(cups::Connection& printer, const PrinterPlace& place);

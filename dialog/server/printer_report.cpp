@@ -4,6 +4,8 @@
 #include "dialog/server/answer_text.h"
 #include "platform/foundation/units.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 #include <cups/ipp.h>
@@ -93,7 +95,12 @@ void readTrays(ipp_t* answer, bool isPrinter, PrinterReport& report)
     for (int i = 0; i < std::min(count, kMostTrays); ++i) {
         const std::optional<TrayPaper> paper = readTray(ippGetCollection(ready, i));
         const bool isTold = paper && (isPrinter || !paper->source.isEmpty() || !paper->type.isEmpty());
-        if (isTold && !report.trays.contains(*paper))
+        // With and without margins it is one paper all the same.
+        const auto isSame = [&](TrayPaper other) {
+            other.isBorderless = paper->isBorderless;
+            return other == *paper;
+        };
+        if (isTold && std::ranges::none_of(report.trays, isSame))
             report.trays.append(*paper);
     }
     if (!report.trays.isEmpty() || !isPrinter)
@@ -153,6 +160,7 @@ PrinterReport readReport(ipp_t* answer, bool isPrinter)
 {
     PrinterReport report;
     report.isThere = answer != nullptr;
+    report.isOwn = report.isThere && isPrinter;
     report.state =
         stateOf(integerAt(findAttribute(answer, "printer-state"), 0, IPP_PSTATE_IDLE, IPP_PSTATE_STOPPED, 0));
     report.reasons = stringsOf(findAttribute(answer, "printer-state-reasons"), kMostReasons, &report.isCut);
@@ -167,6 +175,16 @@ PrinterReport readReport(ipp_t* answer, bool isPrinter)
     return report;
 }
 
+QStringList reasonsOfServer(const QStringList& reasons, PrinterState state)
+{
+    static const QRegularExpression kAlways(
+        QStringLiteral("^(paused|hold-new-jobs|moving-to-paused|cups-.*)(-(error|warning|report))?$"));
+    static const QRegularExpression kOnTheWay(
+        QStringLiteral("^(connecting-to-device|offline|timed-out)(-(error|warning|report))?$"));
+    const QStringList always = reasons.filter(kAlways);
+    return state == PrinterState::processing ? always + reasons.filter(kOnTheWay) : always;
+}
+
 PrinterReport merged(const PrinterReport& queue, const PrinterReport& printer)
 {
     PrinterReport both = queue;
@@ -176,6 +194,8 @@ PrinterReport merged(const PrinterReport& queue, const PrinterReport& printer)
         return both;
     if (!queue.isThere)
         return printer;
+    both.isOwn = true;
+    both.reasons = reasonsOfServer(queue.reasons, queue.state);
     for (const QString& reason : printer.reasons) {
         if (!both.reasons.contains(reason))
             both.reasons.append(reason);

@@ -17,6 +17,7 @@ enum class PrinterState { idle, processing, stopped };
 /// fit for a screen, numbers are within bounds, lists end. A value; all of this on any thread.
 struct PrinterReport {
     bool isThere = false; ///< it has answered
+    bool isOwn = false;   ///< the printer itself has, not only its server
     PrinterState state = PrinterState::idle;
     QStringList reasons; ///< keywords, without "none"
     QString message;
@@ -39,6 +40,10 @@ const QList<QByteArray>& reportAttributes();
 /// Reads an answer. A server that speaks for a queue makes papers up where it knows none; those tell neither
 /// tray nor type, and are left out unless it `isPrinter` itself that speaks.
 PrinterReport readReport(_ipp_s* answer, bool isPrinter);
+
+/// Those of a queue's reasons that its server gives by itself, and, while it sends a job, what it finds on
+/// the way. The others are what its driver has heard of the printer during the last job.
+QStringList reasonsOfServer(const QStringList& reasons, PrinterState state);
 
 /// The server's report of the queue, with what the printer itself knows better. Either may be missing.
 PrinterReport merged(const PrinterReport& queue, const PrinterReport& printer);

@@ -12,6 +12,31 @@ namespace {
 
 constexpr std::chrono::milliseconds kRest(3000);
 constexpr std::chrono::milliseconds kRestAfterFailure(5000);
+// A printer that is busy or wakes up does not answer once; what it said is still true.
+constexpr int kForgivenFailures = 1;
+
+/// The worker's side.
+struct Line {
+    std::optional<PrinterPlace> place; ///< where a service was found
+    std::unique_ptr<cups::Connection> printer;
+
+    PrinterReport ask(const PrinterPlace& named, const cups::CancelFlag& stop)
+    {
+        if (!place)
+            place = lookedUp(named, stop);
+        if (!place)
+            return {};
+        if (!printer)
+            printer = std::make_unique<cups::Connection>(place->host, stop, kReportLimits);
+        const PrinterReport report = askPrinter(*printer, *place);
+        if (!printer->isConnected()) {
+            printer.reset();
+            // A service may come back with another address.
+            place.reset();
+        }
+        return report;
+    }
+};
 
 } // namespace
 
@@ -32,6 +57,7 @@ void PrinterWatch::leave()
         stop_->store(true);
     rounds_.reset();
     printer_ = report_ = {};
+    failures_ = 0;
     list_.watch({});
 }
 
@@ -57,21 +83,24 @@ void PrinterWatch::askPrinterItself(const QString& deviceUri)
         return;
     stop_ = cups::makeCancelFlag();
     const QPointer<PrinterWatch> self(this);
-    const auto line = std::make_shared<std::unique_ptr<cups::Connection>>();
+    const auto line = std::make_shared<Line>();
     rounds_ = std::make_unique<Rounds>([self, line, place, stop = stop_] {
-        if (!*line)
-            *line = std::make_unique<cups::Connection>(place->host, stop, kReportLimits);
-        const PrinterReport report = askPrinter(**line, *place);
-        if (!(*line)->isConnected())
-            line->reset();
+        const PrinterReport report = line->ask(*place, stop);
         mainQueue().async([self, report, stop] {
-            if (!self || stop->load())
-                return;
-            self->printer_ = report;
-            self->merge();
+            if (self && !stop->load())
+                self->takeAnswer(report);
         });
         return report.isThere ? kRest : kRestAfterFailure;
     });
+}
+
+void PrinterWatch::takeAnswer(const PrinterReport& report)
+{
+    failures_ = report.isThere ? 0 : failures_ + 1;
+    if (printer_.isThere && failures_ > 0 && failures_ <= kForgivenFailures)
+        return;
+    printer_ = report;
+    merge();
 }
 
 void PrinterWatch::merge()

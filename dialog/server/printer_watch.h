@@ -35,11 +35,13 @@ Q_SIGNALS:
 
 private:
     void askPrinterItself(const QString& deviceUri);
+    void takeAnswer(const PrinterReport& report);
     void merge();
 
     PrinterList& list_;
     PrinterReport report_;
     PrinterReport printer_; ///< in its own words
+    int failures_ = 0;      ///< of questions to the printer itself, one after the other
     cups::CancelFlag stop_;
     std::unique_ptr<Rounds> rounds_;
 };

@@ -94,7 +94,7 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
     if (!text)
         result.problem = whyNoPpd(queue, server);
     if (isWithoutPpd)
-        text = describeByIpp(server, queue, cancelled);
+        text = describeByIpp(server, queue, cancelled, &result.problem);
     if (!text)
         return result;
     result.problem.clear();

@@ -22,7 +22,8 @@ PrinterButtons::PrinterButtons(DialogSession& session, QWidget* parent) : QWidge
 
 void PrinterButtons::refresh()
 {
-    const PrinterReport& report = session_.report();
+    // The queue's: what keeps the printer itself from printing, the server cannot help.
+    const PrinterReport& report = session_.printerList().report();
     const QList<PrinterAction> actions = report.isThere ? helpfulActions(report) : QList<PrinterAction>();
     setVisible(!actions.isEmpty());
     if (actions == actions_)

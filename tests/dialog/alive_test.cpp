@@ -142,6 +142,23 @@ TEST_F(AliveTest, HearsOfWhatOthersDoToAQueueAndHelpsIt)
     EXPECT_TRUE(waitUntil([&] { return !dialog.findChild<QPushButton*>(q("printerAction0")); }));
 }
 
+TEST_F(AliveTest, AsksAgainWhereTheQuestionThatAnEventCausedHasFailed)
+{
+    std::atomic<int> lists = 0;
+    const ScriptedServer server([&](ipp_t* asked) {
+        const int operation = ippGetOperation(asked);
+        const bool fails = operation == IPP_OP_CUPS_GET_PRINTERS && ++lists == 2;
+        cups::Ipp answer = scriptedAnswer(fails ? int(IPP_STATUS_ERROR_SERVICE_UNAVAILABLE) : 0);
+        if (operation == IPP_OP_CREATE_PRINTER_SUBSCRIPTIONS)
+            ippAddInteger(answer.get(), IPP_TAG_SUBSCRIPTION, IPP_TAG_INTEGER, "notify-subscription-id", 7);
+        return answer;
+    });
+    PrinterList list(nullptr);
+    list.start();
+    EXPECT_TRUE(waitUntil([&] { return lists == 3; }));
+    EXPECT_TRUE(waitUntil([&] { return list.problem().isEmpty(); }));
+}
+
 TEST_F(AliveTest, AsksAServerThatGrantsNoSubscriptionOverOneConnection)
 {
     ScriptedServer refusing([](ipp_t* asked) {

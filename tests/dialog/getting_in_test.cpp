@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Passwords for printers, and printers that have no PPD.
+#include "dialog/job/ipp_options.h"
 #include "dialog/job/job_submitter.h"
+#include "dialog/options/custom_paper.h"
 #include "dialog/options/ipp_twins.h"
+#include "dialog/options/loaded_trays.h"
 #include "dialog/options/paper_sizes.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/server/ipp_description.h"
+#include "dialog/server/local_queue.h"
 #include "dialog/window/access_dialogs.h"
+#include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 #include "tests/support/scripted_server.h"
 #include "tests/support/test.h"
@@ -34,10 +39,10 @@ cups::Ipp newMedia(int width, int length, int margin)
     return media;
 }
 
-void addKeywords(ipp_t* attributes, const char* name, const std::vector<const char*>& values)
+void addKeywords(ipp_t* attributes, const char* name, const std::vector<const char*>& values,
+                 ipp_tag_t tag = IPP_TAG_KEYWORD)
 {
-    ippAddStrings(attributes, IPP_TAG_PRINTER, IPP_TAG_KEYWORD, name, int(values.size()), nullptr,
-                  values.data());
+    ippAddStrings(attributes, IPP_TAG_PRINTER, tag, name, int(values.size()), nullptr, values.data());
 }
 
 // A photo printer as it describes itself, with things in it that nobody should say.
@@ -56,7 +61,11 @@ cups::Ipp photoPrinter()
         ippSetCollection(a, &all, i, media[i].get());
     ippAddCollection(a, IPP_TAG_PRINTER, "media-col-default", media[1].get());
     addKeywords(a, "media-type-supported",
-                {"stationery", "photographic-glossy", "*/bad: word", "stationery"});
+                {"stationery", "photographic-glossy", "\"/bad: word", "stationery", "My */canvas, 340 g"},
+                IPP_TAG_NAME);
+    addKeywords(a, "media-source-supported", {"manual", "main"});
+    const int dots[] = {300, 600, INT_MAX};
+    ippAddResolutions(a, IPP_TAG_PRINTER, "printer-resolution-supported", 3, IPP_RES_PER_INCH, dots, dots);
     addKeywords(a, "sides-supported", {"one-sided", "two-sided-long-edge"});
     addKeywords(a, "sides-default", {"one-sided"});
     const int qualities[] = {3, 4, 5};
@@ -67,7 +76,18 @@ cups::Ipp photoPrinter()
     const cups::Ipp type(ippNew());
     ippAddString(type.get(), IPP_TAG_ZERO, IPP_TAG_KEYWORD, "media-type", nullptr, "photographic-glossy");
     ippAddCollection(clash.get(), IPP_TAG_ZERO, "media-col", type.get());
-    ippAddCollection(a, IPP_TAG_PRINTER, "job-constraints-supported", clash.get());
+    const cups::Ipp small(ippNew());
+    ippAddString(small.get(), IPP_TAG_ZERO, IPP_TAG_KEYWORD, "sides", nullptr, "two-sided-long-edge");
+    const cups::Ipp nowhere(ippNew());
+    ippAddString(nowhere.get(), IPP_TAG_ZERO, IPP_TAG_KEYWORD, "media-type", nullptr, "unheard-of");
+    const ipp_t* papers[] = {nowhere.get(), media[1].get()};
+    ippAddCollections(small.get(), IPP_TAG_ZERO, "media-col", 2, papers);
+    const ipp_t* clashes[] = {clash.get(), small.get()};
+    ippAddCollections(a, IPP_TAG_PRINTER, "job-constraints-supported", 2, clashes);
+    // A roll, as wide as it is.
+    const cups::Ipp roll = newCollection({{"x-dimension", 21000}});
+    ippAddRange(roll.get(), IPP_TAG_ZERO, "y-dimension", 10000, 500000);
+    ippAddCollection(a, IPP_TAG_PRINTER, "media-size-supported", roll.get());
     return attributes;
 }
 
@@ -86,27 +106,67 @@ TEST(IppDescription, BecomesAModelWithSizesConflictsAndTheJobsOwnWords)
     EXPECT_TRUE(takesCollectionsAsText(model.file()));
     EXPECT_EQ(model.value(q("PageSize")), q("4x6"));
     EXPECT_EQ(model.choiceCount(q("PageSize")), 3);
-    EXPECT_EQ(model.choiceCount(q("MediaType")), 2);
+    EXPECT_EQ(model.choiceCount(q("MediaType")), 3);
+    const QString own = model.option(q("MediaType")).choices.value(2).keyword;
+    EXPECT_EQ(choiceFor(model, {{}, q("My */canvas, 340 g"), {}}).type, own);
+    EXPECT_EQ(model.value(q("InputSlot")), QString()) << "only the printer knows which one it is set to";
+    EXPECT_EQ(model.choiceCount(q("Resolution")), 2);
+    EXPECT_EQ(model.resolution(), kUsualResolution);
+    const std::optional<PaperLimits> limits = paperLimits(model.file());
+    EXPECT_TRUE(limits && limits->holds(QSizeF(595.276, 2000.0))) << "a page from the roll";
     EXPECT_EQ(model.choiceText(q("MediaType"), q("photographic-glossy")), q("Glossy photo paper"));
+    EXPECT_FALSE(model.change(q("Duplex"), q("DuplexNoTumble")).accepted) << "4x6 is too small";
+    EXPECT_TRUE(model.change(q("PageSize"), q("A4")).accepted);
+    EXPECT_TRUE(model.change(q("Duplex"), q("DuplexNoTumble")).accepted);
+    EXPECT_TRUE(model.change(q("Duplex"), q("None")).accepted);
     EXPECT_TRUE(model.change(q("MediaType"), q("photographic-glossy")).accepted);
     EXPECT_FALSE(model.change(q("Duplex"), q("DuplexNoTumble")).accepted);
     EXPECT_TRUE(model.change(q("PageSize"), q("4x6.Borderless")).accepted);
     EXPECT_EQ(model.sheet().imageable.toRect(), QRect(0, 0, 288, 432));
     const OptionValues sent = asIppOptions(model.file(), {{q("PageSize"), q("4x6.Borderless")},
-                                                          {q("MediaType"), q("stationery")},
+                                                          {q("MediaType"), own},
                                                           {q("Duplex"), q("DuplexNoTumble")},
                                                           {q("cupsPrintQuality"), q("High")},
                                                           {q("copies"), q("2")}});
-    EXPECT_EQ(
-        sent,
-        (OptionValues{
-            {q("sides"), q("two-sided-long-edge")},
-            {q("print-quality"), q("5")},
-            {q("copies"), q("2")},
-            {q("media-col"),
-             q("{media-size={x-dimension=10160 y-dimension=15240} media-left-margin=0 "
-               "media-right-margin=0 media-top-margin=0 media-bottom-margin=0 media-type=stationery}")}}));
+    EXPECT_EQ(sent, (OptionValues{{q("sides"), q("two-sided-long-edge")},
+                                  {q("print-quality"), q("5")},
+                                  {q("copies"), q("2")},
+                                  {q("media-col"),
+                                   q("{media-size={x-dimension=10160 y-dimension=15240} media-left-margin=0 "
+                                     "media-right-margin=0 media-top-margin=0 media-bottom-margin=0 "
+                                     "media-type='My */canvas, 340 g'}")}}));
+    const cups::Ipp job(ippNew());
+    EXPECT_EQ(addJobOption(job.get(), sent.back(), Collections::whole), QString());
+    ipp_attribute_t* type = ippFindAttribute(job.get(), "media-col/media-type", IPP_TAG_ZERO);
+    EXPECT_EQ(q(ippGetString(type, 0, nullptr)), q("My */canvas, 340 g"));
     EXPECT_FALSE(describedAsPpd(cups::Ipp(ippNew()).get(), false));
+}
+
+TEST(GettingIn, APrinterOfAQueueWithoutADriverIsAskedWithoutTheUsersName)
+{
+    int port = 0;
+    std::atomic<int> named = 0;
+    const ScriptedServer server([&](ipp_t* request) {
+        ipp_attribute_t* uri = ippFindAttribute(request, "printer-uri", IPP_TAG_URI);
+        if (!q(ippGetString(uri, 0, nullptr)).endsWith(q("/ipp/print"))) {
+            cups::Ipp queue = scriptedAnswer();
+            const QByteArray device = "ipp://127.0.0.1:" + QByteArray::number(port) + "/ipp/print?waitjob=no";
+            ippAddString(queue.get(), IPP_TAG_PRINTER, IPP_TAG_URI, "device-uri", nullptr,
+                         device.constData());
+            return queue;
+        }
+        named += ippFindAttribute(request, "requesting-user-name", IPP_TAG_ZERO) ? 1 : 0;
+        cups::Ipp answer = scriptedAnswer();
+        const cups::Ipp printer = photoPrinter();
+        ippCopyAttributes(answer.get(), printer.get(), 0, nullptr, nullptr);
+        return answer;
+    });
+    port = server.port();
+    cups::Connection connection(cups::makeCancelFlag());
+    QString problem;
+    EXPECT_TRUE(describeByIpp(connection, q("Photo"), cups::makeCancelFlag(), &problem))
+        << qPrintable(problem);
+    EXPECT_EQ(named, 0);
 }
 
 TEST(GettingIn, APrintersOwnPasswordTravelsBesideTheJobAndIsAskedForInADialogOnce)

@@ -55,12 +55,16 @@ TEST(PrinterReport, ReadsTraysAndRollsAndBelievesNoServerThatMakesThemUp)
 {
     std::vector<Ipp> trays;
     trays.push_back(tray(10160, 15240, "photo", "photographic-glossy"));
+    trays.push_back(tray(10160, 15240, "photo", "photographic-glossy"));
+    for (const char* margin :
+         {"media-top-margin", "media-bottom-margin", "media-left-margin", "media-right-margin"})
+        ippAddInteger(trays.back().get(), IPP_TAG_ZERO, IPP_TAG_INTEGER, margin, 0);
     trays.push_back(tray(61000, 10000, "main-roll", "photographic-matte", 1500000));
     trays.push_back(tray(21000, 29700, nullptr, nullptr));
     trays.push_back(tray(-5, 29700, "main", "stationery"));
     const Ipp answer = withTrays(trays);
     const QList<TrayPaper> told = readReport(answer.get(), true).trays;
-    ASSERT_EQ(told.size(), 3);
+    ASSERT_EQ(told.size(), 3) << "with and without margins it is one paper";
     EXPECT_EQ(told[0].source + u' ' + told[0].type, q("photo photographic-glossy"));
     EXPECT_NEAR(told[0].points.width(), 288.0, 0.1);
     EXPECT_TRUE(told[1].isRoll && !told[0].isRoll);
@@ -127,6 +131,23 @@ TEST(PrinterReport, CutsWhatNobodyCouldRead)
     EXPECT_FALSE(report.isAccepting.has_value());
 }
 
+TEST(PrinterReport, WhatTheQueueHasHeardOfThePrinterEndsWithItsOwnAnswer)
+{
+    PrinterInfo listed;
+    listed.reasons = {q("media-empty-error"), q("paused"), q("offline-report")};
+    PrinterReport queue;
+    queue.isThere = true;
+    queue.state = listed.state = PrinterState::stopped;
+    queue.reasons = listed.reasons;
+    PrinterReport printer;
+    printer.isThere = printer.isOwn = true;
+    printer.reasons = {q("door-open-error")};
+    const PrinterReport both = merged(queue, printer);
+    EXPECT_EQ(both.reasons, QStringList({q("paused"), q("door-open-error")}));
+    EXPECT_EQ(withReport(listed, both).reasons, both.reasons);
+    EXPECT_EQ(withReport(listed, merged(queue, {})).reasons, listed.reasons);
+}
+
 TEST(PrinterReport, AsksOnlyPrintersThatSpeakItAndWithoutAPassword)
 {
     const struct {
@@ -138,6 +159,8 @@ TEST(PrinterReport, AsksOnlyPrintersThatSpeakItAndWithoutAPassword)
         {"socket://10.0.0.7:9100", ""},
         {"halvern://virtual/Tessarin", ""},
         {"ipp://", ""},
+        {"dnssd://B._pdl-datastream._tcp.local/", ""},
+        {"ipp://Some%20Printer._ipp._tcp.local/", "ipp://Some%20Printer._ipp._tcp.local/"}, // to be looked up
         {"", ""},
     };
 
