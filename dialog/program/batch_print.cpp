@@ -40,6 +40,7 @@ BatchPrint::BatchPrint(const CommandLine& line, PanelSource& panels, QTextStream
     connect(&session_, &DialogSession::printerReady, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::coloursKnown, this, &BatchPrint::proceed);
     connect(&session_, &DialogSession::printerFailed, this, &BatchPrint::takePrinterFailure);
+    connect(&session_, &DialogSession::printerSelected, this, [this] { printerFailure_.clear(); });
     connect(&session_, &DialogSession::refused, this, [this](const QString& sentence) { fail(sentence); });
     connect(&session_, &DialogSession::notice, this,
             [this](const QString& sentence) { writeLine(err_, sentence); });
@@ -57,8 +58,13 @@ void BatchPrint::start()
 void BatchPrint::takePrinters()
 {
     PrinterList& list = session_.printerList();
+    // It may be one on the network that has no queue yet.
+    const bool mayCome =
+        !session_.printerName().isEmpty() && !list.find(session_.printerName()) && !list.hasLookedRound();
     if (!list.problem().isEmpty())
         fail(list.problem());
+    else if (mayCome)
+        return;
     else if (list.printers().empty() || !list.find(session_.printerName()))
         fail(unknownPrinterText(session_.printerName(), list.printers()));
     else if (!printerFailure_.isEmpty())

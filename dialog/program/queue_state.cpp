@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/queue_state.h"
 
+#include "dialog/server/local_queue.h"
 #include "dialog/server/printer_list.h"
 #include "dialog/server/queue_ppd.h"
 #include "dialog/session/preset_use.h"
 #include "dialog/session/starting_options.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace halvern {
 
@@ -28,6 +31,14 @@ QStringList refusalsOf(const StartingOptions& start, const QString& preset, QStr
     if (!ofPreset.isEmpty())
         refusals.append(leftOutSentence(preset, ofPreset));
     return refusals;
+}
+
+// Its URI; empty if there is none of that name.
+QString findOnTheNetwork(const QString& name, const cups::CancelFlag& cancelled)
+{
+    const std::vector<PrinterInfo> all = discoverPrinters(kDiscoveryMilliseconds, cancelled);
+    const auto printer = std::ranges::find(all, name, &PrinterInfo::name);
+    return printer == all.end() ? QString() : printer->deviceUri;
 }
 
 PageSettings pageOf(const SessionRequest& request, const PageWishes& wishes, const PresetEntry* preset)
@@ -56,7 +67,10 @@ FoundQueue findQueue(const QString& wanted, const cups::CancelFlag& cancelled)
             return found;
         }
     }
-    found.problem = unknownPrinterText(found.name, answer.printers);
+    if (!found.name.isEmpty())
+        found.madeFrom = findOnTheNetwork(found.name, cancelled);
+    if (found.madeFrom.isEmpty())
+        found.problem = unknownPrinterText(found.name, answer.printers);
     return found;
 }
 
@@ -66,6 +80,8 @@ QueueState readQueueState(const SessionRequest& request, Presets& presets, const
     const FoundQueue found = findQueue(request.printer, cancelled);
     state.queue = found.name;
     state.problem = found.problem;
+    if (!found.madeFrom.isEmpty())
+        state.problem = createLocalQueue(found.name, found.madeFrom, cancelled);
     if (!state.problem.isEmpty())
         return state;
     QueuePpd ppd = fetchQueuePpd(found.name, cancelled);

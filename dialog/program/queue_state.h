@@ -14,10 +14,12 @@ struct FoundQueue {
     QString instance; ///< "queue/instance" if one was named; else empty
     bool isAccepting = true;
     QString problem;
+    QString madeFrom = {}; ///< the URI of one that was found on the network and has no queue yet
 };
 
 /// Looks for the queue that was named, else the user's, else the server's default, else the only one. Asks
-/// the print server and waits for it; any thread.
+/// the print server and waits for it, and looks round in the network for a name that the server does not
+/// know; any thread.
 FoundQueue findQueue(const QString& wanted, const cups::CancelFlag& cancelled);
 
 /// A queue's options as printing without a window would start with them.

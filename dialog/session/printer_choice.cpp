@@ -46,11 +46,32 @@ QString PrinterChoice::instance() const
     return isInstance ? startedWith_ : QString();
 }
 
+QString PrinterChoice::originOf(const QString& name) const
+{
+    const PrinterInfo* info = printers_->find(name);
+    return info && (info->isDiscovered || info->isTemporary) ? info->deviceUri : QString();
+}
+
+// Its queue is the server's to take away, also where it was there when the printer was selected.
+void PrinterChoice::noteOrigin()
+{
+    const PrinterInfo* info = printers_->find(printerName_);
+    if (!info)
+        return;
+    const bool isNews = info->isDiscovered && madeFrom_.isEmpty() && !isThere_;
+    madeFrom_ = originOf(printerName_);
+    // Somebody named it before anybody had seen it.
+    if (isNews)
+        select(printerName_);
+}
+
 void PrinterChoice::takePrinters()
 {
+    noteOrigin();
     // What another program remembers is nobody's word for a printer that is gone.
     const bool isLost = (request_.printer.isEmpty() || request_.handed) && request_.isAttended && !isThere_ &&
-                        printerName_ == queueOf(startedWith_) && !printers_->find(printerName_);
+                        printers_->hasLookedRound() && printerName_ == queueOf(startedWith_) &&
+                        !printers_->find(printerName_);
     if ((!printerName_.isEmpty() && !isLost) || printers_->printers().empty())
         return;
     const QString lost = printerName_;
@@ -79,29 +100,31 @@ void PrinterChoice::select(const QString& name)
     printerName_ = name;
     stopFetching_ = cups::makeCancelFlag();
     Q_EMIT selected(name);
+    madeFrom_ = originOf(name);
     const PrinterInfo* info = printers_->find(name);
-    madeFrom_ = info && info->isDiscovered ? info->deviceUri : QString();
+    const bool hasQueue = !info || !info->isDiscovered;
     QPointer<PrinterChoice> self(this);
     const bool readsPresets = request_.remembers || !request_.preset.isEmpty();
-    WorkQueue().async([self, name, madeFrom = madeFrom_, readsPresets, stop = stopFetching_] {
-        FetchedPrinter printer;
-        QueuePpd& ppd = printer.ppd;
-        if (!madeFrom.isEmpty())
-            ppd.problem = createLocalQueue(name, madeFrom, stop);
-        if (ppd.problem.isEmpty())
-            ppd = fetchQueuePpd(name, stop);
-        // Here, because a PPD may have ten thousand options.
-        if (ppd.file)
-            printer.model = std::make_shared<PpdModel>(std::move(*ppd.file));
-        if (printer.model)
-            printer.offer = readPrinterOffer(printer.model->file());
-        if (readsPresets)
-            printer.presets = PresetFile(name).read();
-        mainQueue().async([self, printer = std::move(printer), stop] {
-            if (self && !stop->load())
-                self->takePpd(printer);
+    WorkQueue().async(
+        [self, name, madeFrom = hasQueue ? QString() : madeFrom_, readsPresets, stop = stopFetching_] {
+            FetchedPrinter printer;
+            QueuePpd& ppd = printer.ppd;
+            if (!madeFrom.isEmpty())
+                ppd.problem = createLocalQueue(name, madeFrom, stop);
+            if (ppd.problem.isEmpty())
+                ppd = fetchQueuePpd(name, stop);
+            // Here, because a PPD may have ten thousand options.
+            if (ppd.file)
+                printer.model = std::make_shared<PpdModel>(std::move(*ppd.file));
+            if (printer.model)
+                printer.offer = readPrinterOffer(printer.model->file());
+            if (readsPresets)
+                printer.presets = PresetFile(name).read();
+            mainQueue().async([self, printer = std::move(printer), stop] {
+                if (self && !stop->load())
+                    self->takePpd(printer);
+            });
         });
-    });
 }
 
 void PrinterChoice::takePpd(const FetchedPrinter& printer)

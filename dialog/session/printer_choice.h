@@ -64,6 +64,8 @@ Q_SIGNALS:
     void notice(const QString& sentence);
 
 private:
+    QString originOf(const QString& name) const;
+    void noteOrigin();
     void takePrinters();
     void takePpd(const FetchedPrinter& printer);
 
