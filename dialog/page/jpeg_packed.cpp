@@ -20,7 +20,8 @@ constexpr int kPlaces = 64; // in a block
 constexpr int kRoomForTwo = kPlaces - 17;
 constexpr int kMostBits = 10; // of a number that 8 bits of colour give
 constexpr int kMostFirstBits = 11;
-constexpr int kHole = 480; // bytes of zeros, nearly a sector of a disk or a card
+constexpr int kMostMeaning = 15; // of a code for a block's first number: decoders refuse a table with more
+constexpr int kHole = 480;       // bytes of zeros, nearly a sector of a disk or a card
 
 // A meaning as a step without its code's length; 0 if no camera's file has it.
 quint32 stepFor(JpegCodes::Kind kind, int meaning)
@@ -156,7 +157,10 @@ bool JpegCodes::define(Kind kind, const QByteArray& counts, const QByteArray& me
         for (int i = uchar(counts[length - 1]); i > 0; --i, ++code) {
             if (qsizetype(stepOf_.size()) >= meanings.size() || code >= 1 << length)
                 return false;
-            const quint32 bare = stepFor(kind, uchar(meanings[qsizetype(stepOf_.size())]));
+            const int meaning = uchar(meanings[qsizetype(stepOf_.size())]);
+            if (kind == Kind::first && meaning > kMostMeaning)
+                return false;
+            const quint32 bare = stepFor(kind, meaning);
             const auto step = quint16(bare != 0 ? bare + quint32(length) : 0);
             stepOf_.push_back(step);
             lastCode_[size_t(length)] = code;

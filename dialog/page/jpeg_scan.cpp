@@ -14,9 +14,11 @@ namespace {
 constexpr qint64 kMostHead = 64 * 1024 * 1024; // previews and profiles stand there
 constexpr int kBlock = 8;                      // pixels
 constexpr int kMostComponents = 4;
+constexpr int kMostEdge = 65500; // of what decoders read
 constexpr int kMostSampling = 4;
 constexpr int kMostBlocks = 10; // of a scan's repeated part
 constexpr int kTables = 4;
+constexpr int kSteps = 64; // in a table by which the numbers were divided
 constexpr int kCounts = 16;
 
 constexpr int kBaseline = 0xC0;
@@ -27,11 +29,12 @@ constexpr int kLastRestart = 0xD7;
 constexpr int kStartOfImage = 0xD8;
 constexpr int kEndOfImage = 0xD9;
 constexpr int kStartOfScan = 0xDA;
+constexpr int kDivisorTables = 0xDB;
 constexpr int kRestartInterval = 0xDD;
 constexpr int kFirstSegment = 0xC0;
-constexpr int kLastFrame = 0xCF;
-constexpr int kReserved = 0xC8;
-constexpr int kArithmeticTables = 0xCC;
+constexpr int kFirstOfPrograms = 0xE0;
+constexpr int kLastOfPrograms = 0xEF;
+constexpr int kComment = 0xFE;
 
 // Not where the end comes first, or no marker does.
 bool isSegment(int marker)
@@ -44,6 +47,7 @@ struct Component {
     int name = 0;
     int across = 0; // blocks in what is repeated
     int down = 0;
+    size_t divisors = 0; // the table's place
     bool isSeen = false;
 };
 
@@ -78,35 +82,47 @@ public:
 private:
     bool take(int marker, const QByteArray& body)
     {
-        const bool isFrame = marker <= kLastFrame && marker != kHuffmanTables && marker != kReserved &&
-                             marker != kArithmeticTables;
-        if (isFrame)
-            return (marker == kBaseline || marker == kExtended) && takeFrame(body);
-        if (marker == kHuffmanTables)
+        switch (marker) {
+        case kBaseline:
+        case kExtended:
+            return takeFrame(body);
+        case kHuffmanTables:
             return takeTables(body);
-        if (marker == kRestartInterval && body.size() >= 2)
-            interval_ = qFromBigEndian<quint16>(body.constData());
-        return marker != kStartOfScan || takeScan(body);
+        case kDivisorTables:
+            return takeDivisors(body);
+        case kRestartInterval:
+            interval_ = body.size() == 2 ? qFromBigEndian<quint16>(body.constData()) : 0;
+            return body.size() == 2;
+        case kStartOfScan:
+            return takeScan(body);
+        default: // decoders refuse what they do not know, too
+            return marker == kComment || (marker >= kFirstOfPrograms && marker <= kLastOfPrograms);
+        }
     }
 
     bool takeFrame(const QByteArray& body)
     {
         const int count = body.size() >= 6 ? uchar(body[5]) : 0;
-        if (!components_.empty() || count < 1 || count > kMostComponents || body.size() < 6 + 3 * count ||
+        if (!components_.empty() || count < 1 || count > kMostComponents || body.size() != 6 + 3 * count ||
             body[0] != 8)
             return false;
         height_ = qFromBigEndian<quint16>(body.constData() + 1);
         width_ = qFromBigEndian<quint16>(body.constData() + 3);
         for (int i = 6; i < 6 + 3 * count; i += 3) {
-            const Component component{uchar(body[i]), uchar(body[i + 1]) >> 4, uchar(body[i + 1]) & 15};
+            const Component component{uchar(body[i]), uchar(body[i + 1]) >> 4, uchar(body[i + 1]) & 15,
+                                      uchar(body[i + 2])};
             if (component.across < 1 || component.across > kMostSampling || component.down < 1 ||
-                component.down > kMostSampling)
+                component.down > kMostSampling || component.divisors >= kTables)
                 return false;
             across_ = std::max(across_, component.across);
             down_ = std::max(down_, component.down);
             components_.push_back(component);
         }
-        return width_ > 0 && height_ > 0;
+        const bool isWholeMultiple = std::all_of(components_.begin(), components_.end(), [&](const auto& c) {
+            return across_ % c.across == 0 && down_ % c.down == 0;
+        });
+        return isWholeMultiple && count != 2 && width_ > 0 && width_ <= kMostEdge && height_ > 0 &&
+               height_ <= kMostEdge;
     }
 
     bool takeTables(const QByteArray& body)
@@ -129,10 +145,24 @@ private:
         return true;
     }
 
+    bool takeDivisors(const QByteArray& body)
+    {
+        qsizetype at = 0;
+        while (at < body.size()) {
+            const int name = uchar(body[at]);
+            if ((name & 15) >= kTables || name >> 4 > 1)
+                return false;
+            hasDivisors_[size_t(name & 15)] = true;
+            at += 1 + kSteps * (1 + (name >> 4));
+        }
+        return at == body.size();
+    }
+
     bool takeScan(const QByteArray& body)
     {
         const int count = body.isEmpty() ? 0 : uchar(body[0]);
-        if (count < 1 || count > kMostComponents || body.size() < 1 + 2 * count)
+        if (count < 1 || count > kMostComponents || body.size() != 4 + 2 * count ||
+            !body.endsWith(QByteArray("\0\x3F\0", 3)))
             return false;
         std::vector<JpegBlocks> blocks;
         int all = 0;
@@ -144,7 +174,7 @@ private:
             const size_t first = uchar(body[i + 1]) >> 4;
             const size_t others = uchar(body[i + 1]) & 15;
             if (found == components_.end() || first >= kTables || others >= kTables || !tables_[0][first] ||
-                !tables_[1][others])
+                !tables_[1][others] || !hasDivisors_[found->divisors])
                 return false;
             found->isSeen = true;
             int size = found->across * found->down;
@@ -164,6 +194,7 @@ private:
     JpegWalker walker_;
     std::vector<Component> components_;
     std::array<std::array<std::unique_ptr<JpegCodes>, kTables>, 2> tables_;
+    std::array<bool, kTables> hasDivisors_{};
     int width_ = 0;
     int height_ = 0;
     int across_ = 1;
