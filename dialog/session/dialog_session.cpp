@@ -99,6 +99,8 @@ void DialogSession::leavePrinter()
 {
     if (hasCustomPanels() || model())
         Q_EMIT printerLeaving();
+    if (model())
+        profiles_.insert(printerName(), page().colours.profile);
     panels_.leave();
     options_.leave();
     watch_.leave();
@@ -171,7 +173,19 @@ void DialogSession::takeStartingPage(const PageWishes& wishes, const std::option
         left.isCollated.reset();
     }
     page_.takeWishes(left);
+    takeProfile(preset);
     pageIsUsers_ = pageIsUsers_ || !wishes.scaling.isEmpty() || wishes.isCollated;
+}
+
+// Who converts goes with the user from printer to printer, but a profile is one printer's: its own as long as
+// nobody chose one for it, except by the command line.
+void DialogSession::takeProfile(const std::optional<PresetEntry>& preset)
+{
+    PageSettings page = page_.settings();
+    const QString profile =
+        preset && !request_.namesColours ? profileOf(preset->preset) : request_.colours.profile;
+    page.colours.profile = profiles_.value(printerName(), profile);
+    page_.set(page);
 }
 
 // What the user has set for the job goes with the job to another printer, as far as that one takes it.

@@ -311,6 +311,7 @@ private:
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
     void takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset);
+    void takeProfile(const std::optional<PresetEntry>& preset);
     void keepJobAttributes();
     void loadPanels();
     JobInputs jobInputs() const;
@@ -328,6 +329,7 @@ private:
     OptionChanges options_;
     SessionPresets presets_;
     ColourManagement colours_;
+    QHash<QString, QString> profiles_; ///< that were chosen for printers that were left, by queue
     QString backLinesProblem_;
     bool pageIsUsers_ = false; // no other printer's preset changes it
     JobOffer jobOffer_;

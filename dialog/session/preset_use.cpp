@@ -337,6 +337,11 @@ PageSettings withoutPreset(const PageSettings& now, const PageSettings& asPreset
     return page;
 }
 
+QString profileOf(const Preset& preset)
+{
+    return preset.page.value(kProfile);
+}
+
 bool isAboutBack(const QString& key)
 {
     return isBackText(key) || isBackSwitch(key);

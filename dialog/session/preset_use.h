@@ -41,6 +41,9 @@ Preset withoutSaved(const Preset& lastUsed, const GivenOptions& saved);
 /// these stays.
 Preset understoodPreset(ppd_file_t* file, const Preset& preset);
 
+/// The file of the colour profile that it converts to; empty: the printer's own, or none.
+QString profileOf(const Preset& preset);
+
 /// Whether the option is a text for the back of the pictures, or switches one on.
 bool isAboutBack(const QString& key);
 

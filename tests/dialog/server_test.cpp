@@ -230,6 +230,9 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     const std::shared_ptr<HostCallback> oldHost = panels.first.lock()->host;
     ASSERT_TRUE(oldHost->ppdFile() && oldHost->PMPrinter()->id() == q("Tessarin"));
     ppd_file_t* oldPpd = oldHost->ppdFile();
+    PageSettings page = session.page();
+    page.colours.profile = q("/icc/for-this-printer.icc");
+    session.setPage(page);
     session.selectPrinter(q("Other"));
     EXPECT_EQ(ppd::defaultChoice(oldPpd, q("PaperFeed")), q("Sheet"))
         << "a panel's queued work may still read it";
@@ -241,6 +244,7 @@ TEST_F(DialogServerTest, PanelsAreCreatedShownHiddenAndReleasedByTheProtocol)
     EXPECT_FALSE(oldHost->willChangePPDOptionKeyValue_ppdChoice(q("PaperTone"), q("Warm")));
     ASSERT_TRUE(waitUntil([&] { return session.canPrint(); }));
     EXPECT_EQ(panels.first.lock()->host->PMPrinter()->id(), q("Other"));
+    EXPECT_EQ(session.page().colours.profile, QString()) << "it is the other printer's";
     EXPECT_TRUE(panels.first.lock()->changes.isEmpty()) << "news of the old printer's options";
     EXPECT_TRUE(panels.first.lock()->host->PMPrinter()->copyDeviceURI());
     panels.calls.clear();
