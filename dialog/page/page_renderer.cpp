@@ -157,6 +157,8 @@ AddedPicture addPicture(PdfFile& pdf, const Use& use, const PdfQuality& quality)
         added.stored = rows->picture().orientation;
         added.problem = addRows(pdf, *rows, quality.colours);
     }
+    if (added.problem.isEmpty() && hasChanged(use.photo))
+        added.problem = photoProblem(PhotoFault::changed, use.photo.path);
     added.object = pdf.endPicture();
     return added;
 }
@@ -179,10 +181,10 @@ bool waitWhilePaused(PdfFile& pdf, const PdfControl& control, double done)
 // Where a photo is for the first time on its sheet; the others use its picture.
 std::vector<size_t> firstPlaces(const std::vector<Photo>& photos)
 {
-    std::map<std::pair<QString, int>, size_t> first;
+    std::map<PhotoKey, size_t> first;
     std::vector<size_t> places;
     for (size_t i = 0; i < photos.size(); ++i)
-        places.push_back(first.try_emplace({photos[i].path, photos[i].page}, i).first->second);
+        places.push_back(first.try_emplace(keyOf(photos[i]), i).first->second);
     return places;
 }
 
@@ -255,7 +257,7 @@ private:
     {
         for (const QLineF& mark : printed.sheet.cutMarks)
             content.addLine(toSheet.map(mark), kThinLine);
-        std::map<std::pair<QString, int>, PhotoDetails> known;
+        std::map<PhotoKey, PhotoDetails> known;
         for (size_t i = 0; i < printed.photos.size(); ++i) {
             const PlacedPhoto& placed = printed.sheet.photos[i];
             const Photo& photo = printed.photos[i];
@@ -263,7 +265,7 @@ private:
                 content.addFrame(toSheet.mapRect(placed.outline), kThinLine);
             if (placed.caption.isEmpty())
                 continue;
-            const auto [details, isNew] = known.try_emplace({photo.path, photo.page});
+            const auto [details, isNew] = known.try_emplace(keyOf(photo));
             if (isNew && needsDetails(printed.caption))
                 details->second = readPhotoFacts(photo).details;
             const QString text = captionFor(printed.caption, photo.path, placed.number, details->second);

@@ -61,10 +61,13 @@ ReadPages readPages(const QString& path)
         QString problem;
         const auto rows = openPicture(file, path, {page, kPreviewEdge, 0}, PhotoFault::none, &problem);
         const Picture picture = rows ? readPicture(*rows) : Picture();
-        if (!picture.image.isNull())
+        if (!picture.image.isNull()) {
             result.pages.push_back(photoOf(path, page, *file, file->picture(), picture));
-        else if (result.fault == PhotoFault::none)
+            if (result.pages.size() > kKeptPreviews)
+                result.pages.back().preview = QImage();
+        } else if (result.fault == PhotoFault::none) {
             result.fault = file->fault() != PhotoFault::none ? file->fault() : PhotoFault::tooLarge;
+        }
         if (file->isOver())
             break;
     }
@@ -98,6 +101,11 @@ FileStamp stampOf(const QString& path)
     return file.exists() ? FileStamp{file.size(), file.lastModified().toMSecsSinceEpoch()} : FileStamp();
 }
 
+PhotoKey keyOf(const Photo& photo)
+{
+    return {photo.path, photo.page, photo.stamp};
+}
+
 bool hasChanged(const Photo& photo)
 {
     return photo.stamp != FileStamp() && photo.stamp != stampOf(photo.path);
@@ -125,15 +133,16 @@ PhotoFile readPhotoFile(const QString& path)
 std::unique_ptr<PictureRows> openPixels(const Photo& photo, int resolution, int leastEdge, QString* problem)
 {
     *problem = fileProblem(photo.path);
+    // What was laid out and shown is another picture: it would be stretched, or cut elsewhere.
+    if (problem->isEmpty() && hasChanged(photo))
+        *problem = photoProblem(PhotoFault::changed, photo.path);
     if (!problem->isEmpty())
         return nullptr;
     const auto file = std::make_shared<PhotoDecoder>(photo.path);
     const ReadRequest request{photo.page, photo.isPdf ? 0 : leastEdge, photo.isPdf ? resolution : 0};
     const bool isAgreed = photo.isDamaged || photo.printsDamaged;
-    const PhotoFault whenDamaged = isAgreed            ? PhotoFault::none
-                                   : hasChanged(photo) ? PhotoFault::changed
-                                                       : PhotoFault::partMissing;
-    return openPicture(file, photo.path, request, whenDamaged, problem);
+    return openPicture(file, photo.path, request, isAgreed ? PhotoFault::none : PhotoFault::partMissing,
+                       problem);
 }
 
 QImage readPixels(const Photo& photo, int resolution, QString* problem)

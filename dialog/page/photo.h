@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QSizeF>
 
+#include <compare>
 #include <memory>
 #include <vector>
 
@@ -17,7 +18,7 @@ struct FileStamp {
     qint64 bytes = 0;
     qint64 changed = 0; ///< milliseconds since 1970
 
-    bool operator==(const FileStamp&) const = default;
+    auto operator<=>(const FileStamp&) const = default;
 };
 
 /// One page to print: a photo file, or one page of a PDF or TIFF file. A value; the pixels are read again
@@ -28,7 +29,7 @@ struct Photo {
     bool isPdf = false;
     QSize pixels;   ///< upright, that is, after the camera's orientation is applied; empty for a PDF
     QSizeF ownSize; ///< points: what "actual size" prints
-    QImage preview; ///< upright, sRGB, at most kPreviewEdge pixels on its longer edge
+    QImage preview; ///< upright, sRGB, at most kPreviewEdge pixels on its longer edge; null: not kept
     /// A part of the file is missing or wrong; what is not there is gray, or smeared.
     bool isDamaged = false;
     bool printsDamaged = false; ///< the user wants it printed whatever is found to be missing
@@ -38,6 +39,19 @@ struct Photo {
 };
 
 inline constexpr int kPreviewEdge = 1600;
+inline constexpr size_t kKeptPreviews = 8; ///< of one file and of all: the others' are read again when wanted
+
+/// A photo among others. A file that has taken another one's place holds another photo.
+struct PhotoKey {
+    QString path;
+    int page = 0;
+    FileStamp stamp;
+
+    bool operator==(const PhotoKey&) const = default;
+    std::strong_ordering operator<=>(const PhotoKey&) const = default;
+};
+
+PhotoKey keyOf(const Photo& photo);
 
 /// A file's pages, or the sentence that says why there are none. The sentence is also there if pages are
 /// damaged.
@@ -62,13 +76,13 @@ PhotoFile readPhotoFile(const QString& path);
 
 /// The photo's pixels row by row, as its file has them: what a job is made from. They may be scaled down as
 /// long as the longer edge has `leastEdge` pixels, 0: never; a PDF page is drawn at `resolution` dots per
-/// inch instead, in sRGB. Null, with a sentence in `problem`, if the file is gone or cannot be read. Damage
-/// that was not known before is a problem once all rows are read. Any thread.
+/// inch instead, in sRGB. Null, with a sentence in `problem`, if the file is gone, has changed since it was
+/// opened or cannot be read. Damage that was not known before is a problem once all rows are read. Any
+/// thread.
 std::unique_ptr<PictureRows> openPixels(const Photo& photo, int resolution, int leastEdge, QString* problem);
 
 /// The whole picture, upright and in sRGB; a PDF page is drawn at `resolution` dots per inch. Null, with a
-/// sentence in `problem`, if the file is gone, or has changed to one that cannot be printed as it was seen.
-/// Any thread.
+/// sentence in `problem`, as openPixels(). Any thread.
 QImage readPixels(const Photo& photo, int resolution, QString* problem);
 
 } // namespace halvern

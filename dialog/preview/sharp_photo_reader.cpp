@@ -53,7 +53,7 @@ QImage readInDots(const Photo& photo, const QSize& wanted, QString* problem)
 
 bool SharpPhotoReader::isWanted(const Photo& photo, const QSize& dots) const
 {
-    return photo.path == wanted_.path && photo.page == wanted_.page && dots == wantedDots_;
+    return keyOf(photo) == keyOf(wanted_) && dots == wantedDots_;
 }
 
 void SharpPhotoReader::read(const Photo& photo, const QSize& dots)

@@ -2,7 +2,6 @@
 #include "dialog/preview/sheet_photos.h"
 
 #include "dialog/page/photo_facts.h"
-#include "dialog/page/photo_opening.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QPointer>
@@ -32,9 +31,9 @@ void SheetPhotos::want(const std::vector<Photo>& photos, int edge, bool withDeta
 {
     edge_ = roundedUp(edge);
     withDetails_ = withDetails;
-    std::map<Key, Kept> wanted;
+    std::map<PhotoKey, Kept> wanted;
     for (const Photo& photo : photos) {
-        const Key key(photo.path, photo.page);
+        const PhotoKey key = keyOf(photo);
         if (wanted.contains(key))
             continue;
         const auto known = kept_.find(key);
@@ -49,13 +48,13 @@ void SheetPhotos::want(const std::vector<Photo>& photos, int edge, bool withDeta
 
 QImage SheetPhotos::image(const Photo& photo) const
 {
-    const auto known = kept_.find({photo.path, photo.page});
+    const auto known = kept_.find(keyOf(photo));
     return known == kept_.end() ? QImage() : known->second.image;
 }
 
 std::optional<PhotoDetails> SheetPhotos::details(const Photo& photo) const
 {
-    const auto known = kept_.find({photo.path, photo.page});
+    const auto known = kept_.find(keyOf(photo));
     return known == kept_.end() ? std::nullopt : known->second.details;
 }
 
@@ -74,37 +73,37 @@ void SheetPhotos::readNext()
     WorkQueue().async([self, key = next->first, photo = next->second.photo, edge = edge_,
                        wantsImage = next->second.edge < edge_,
                        wantsDetails = withDetails_ && !next->second.details] {
-        SmallCopy copy;
+        Answer answer{{}, edge, {}};
         if (wantsImage)
-            copy = readSmallCopy(photo);
-        if (!copy.image.isNull() && std::max(copy.image.width(), copy.image.height()) > edge)
-            copy.image = copy.image.scaled(edge, edge, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        std::optional<PhotoDetails> details;
+            answer.copy = readSmallCopy(photo);
+        if (wantsImage && std::max(answer.copy->image.width(), answer.copy->image.height()) > edge)
+            answer.copy->image =
+                answer.copy->image.scaled(edge, edge, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         if (wantsDetails)
-            details = readPhotoFacts(photo).details;
-        mainQueue().async([self, key, edge, image = copy.image, details, isDamaged = copy.isDamaged] {
+            answer.details = readPhotoFacts(photo).details;
+        mainQueue().async([self, key, answer] {
             if (self)
-                self->take(key, image, edge, details, isDamaged);
+                self->take(key, answer);
         });
     });
 }
 
-void SheetPhotos::take(const Key& key, const QImage& image, int edge,
-                       const std::optional<PhotoDetails>& details, bool isDamaged)
+void SheetPhotos::take(const PhotoKey& key, const Answer& answer)
 {
     isBusy_ = false;
     if (const auto known = kept_.find(key); known != kept_.end()) {
         Kept& kept = known->second;
         // Why it cannot be read is told when it is looked at alone.
-        kept.isBroken = image.isNull() && kept.image.isNull();
-        if (!image.isNull()) {
-            kept.image = image;
-            kept.edge = edge;
+        if (answer.copy)
+            kept.isBroken = answer.copy->image.isNull();
+        if (answer.copy && !kept.isBroken) {
+            kept.image = answer.copy->image;
+            kept.edge = answer.edge;
         }
-        if (details)
-            kept.details = details;
-        if (isDamaged && !kept.photo.isDamaged)
-            Q_EMIT damageFound(key.first, key.second);
+        if (answer.details)
+            kept.details = answer.details;
+        if (answer.copy && answer.copy->isDamaged && !kept.photo.isDamaged)
+            Q_EMIT damageFound(key.path, key.page);
         Q_EMIT changed();
     }
     readNext();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "dialog/page/photo.h"
+#include "dialog/page/photo_opening.h"
 #include "dialog/photo/photo_details.h"
 
 #include <QObject>
@@ -36,8 +36,6 @@ Q_SIGNALS:
     void damageFound(const QString& path, int page);
 
 private:
-    using Key = std::pair<QString, int>;
-
     struct Kept {
         Photo photo;
         QImage image;
@@ -46,11 +44,17 @@ private:
         bool isBroken = false;
     };
 
-    void readNext();
-    void take(const Key& key, const QImage& image, int edge, const std::optional<PhotoDetails>& details,
-              bool isDamaged);
+    /// What a worker brings: no more than was not there.
+    struct Answer {
+        std::optional<SmallCopy> copy;
+        int edge = 0;
+        std::optional<PhotoDetails> details;
+    };
 
-    std::map<Key, Kept> kept_;
+    void readNext();
+    void take(const PhotoKey& key, const Answer& answer);
+
+    std::map<PhotoKey, Kept> kept_;
     int edge_ = 0;
     bool withDetails_ = false;
     bool isBusy_ = false;

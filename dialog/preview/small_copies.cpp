@@ -16,24 +16,17 @@ constexpr size_t kMostKept = 6;
 
 } // namespace
 
-bool SmallCopies::isWanted(const QString& path, int page) const
-{
-    return wanted_.path == path && wanted_.page == page;
-}
-
 QImage SmallCopies::find(const Photo& photo)
 {
-    const bool isAskedAlready = isBusy_ && isWanted(photo.path, photo.page);
     wanted_ = photo;
     if (!photo.preview.isNull())
         return photo.preview;
-    const auto found = std::ranges::find_if(
-        kept_, [&](const Kept& kept) { return kept.path == photo.path && kept.page == photo.page; });
+    const auto found = std::ranges::find(kept_, keyOf(photo), &Kept::photo);
     if (found != kept_.end()) {
         std::rotate(kept_.begin(), found, found + 1);
         return kept_.front().image;
     }
-    if (!isBusy_ && !isAskedAlready)
+    if (!isBusy_)
         read();
     return {};
 }
@@ -44,25 +37,27 @@ void SmallCopies::read()
     QPointer<SmallCopies> self(this);
     WorkQueue().async([self, photo = wanted_] {
         const SmallCopy copy = readSmallCopy(photo);
-        mainQueue().async([self, path = photo.path, page = photo.page, wasDamaged = photo.isDamaged, copy] {
-            if (!self)
-                return;
-            self->isBusy_ = false;
-            self->kept_.push_front({path, page, copy.image});
-            if (self->kept_.size() > kMostKept)
-                self->kept_.pop_back();
-            if (!self->isWanted(path, page)) {
-                self->find(Photo(self->wanted_));
-                return;
-            }
-            if (copy.isDamaged && !wasDamaged)
-                Q_EMIT self->damageFound(path, page);
-            if (copy.image.isNull())
-                Q_EMIT self->failed(copy.problem);
-            else
-                Q_EMIT self->ready(copy.image);
+        mainQueue().async([self, photo, copy] {
+            if (self)
+                self->take(photo, copy);
         });
     });
+}
+
+void SmallCopies::take(const Photo& photo, const SmallCopy& copy)
+{
+    isBusy_ = false;
+    kept_.push_front({keyOf(photo), copy.image});
+    if (kept_.size() > kMostKept)
+        kept_.pop_back();
+    if (copy.isDamaged && !photo.isDamaged)
+        Q_EMIT damageFound(photo.path, photo.page);
+    if (copy.image.isNull())
+        Q_EMIT failed(copy.problem);
+    if (keyOf(wanted_) != keyOf(photo))
+        find(Photo(wanted_));
+    else if (!copy.image.isNull())
+        Q_EMIT ready(copy.image);
 }
 
 } // namespace halvern

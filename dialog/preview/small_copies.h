@@ -9,6 +9,8 @@
 
 namespace halvern {
 
+struct SmallCopy;
+
 /// The small copies of the photos that were looked at last, read by a worker, so that a thousand photos take
 /// no more memory than a few. Main thread only; never waits.
 class SmallCopies : public QObject {
@@ -23,20 +25,19 @@ public:
 
 Q_SIGNALS:
     void ready(const QImage& copy);
-    /// Some of the pixels are made up.
+    /// Some of the pixels are made up; of a photo that is not wanted any more, too.
     void damageFound(const QString& path, int page);
-    /// The sentence about a file that cannot be read any more.
+    /// The sentence about a file that cannot be read any more, wanted or not.
     void failed(const QString& sentence);
 
 private:
     struct Kept {
-        QString path;
-        int page = 0;
+        PhotoKey photo;
         QImage image;
     };
 
     void read();
-    bool isWanted(const QString& path, int page) const;
+    void take(const Photo& photo, const SmallCopy& copy);
 
     std::deque<Kept> kept_; // the last one first
     Photo wanted_;

@@ -12,12 +12,6 @@
 
 namespace halvern {
 
-namespace {
-
-constexpr size_t kKeptPreviews = 8;
-
-} // namespace
-
 PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<PhotoPlacement> placements)
     : files_(std::move(files)),
       printDamaged_(printDamaged),
@@ -74,7 +68,6 @@ void PhotoLoader::take(const PhotoFile& file)
     for (const Photo& page : file.pages) {
         photos_.push_back(page);
         photos_.back().printsDamaged = printDamaged_;
-        // The others are read again when they are looked at.
         if (photos_.size() > kKeptPreviews)
             photos_.back().preview = QImage();
         if (!placements_.isEmpty())

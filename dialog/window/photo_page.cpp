@@ -95,7 +95,7 @@ PhotoPage::PhotoPage(QWidget* parent) : QWidget(parent), form_(new QFormLayout(t
 
 bool PhotoPage::isOf(const Photo& photo) const
 {
-    return photo.path == photo_.path && photo.page == photo_.page;
+    return keyOf(photo) == keyOf(photo_);
 }
 
 void PhotoPage::setPhoto(const Photo& photo)

@@ -449,16 +449,44 @@ TEST_F(PageTest, FilesThatCannotBePrintedSayWhyAndWhatToDo)
     }
 }
 
-TEST_F(PageTest, AFileThatVanishesBeforePrintingIsNamed)
+TEST_F(PageTest, AFileThatVanishesOrIsReplacedBeforePrintingIsNamed)
 {
-    const QString path = save(quarters({40, 30}), q("gone.png"));
-    const Photo photo = readPhotoFile(path).pages.front();
-    QFile::remove(path);
-    QBuffer buffer(&pdf);
-    buffer.open(QIODevice::WriteOnly);
+    const QString path = save(quarters({40, 30}), q("gone.jpg"));
+    const Photo photo = openPhotoFile(path).pages.front();
     const PageLayout layout = layOut({k4x6, k4x6Area, photo.ownSize});
-    const QString problem = writePdf(buffer, {{photo, layout}}, {300}, {[](double) { return true; }});
-    EXPECT_TRUE(problem.contains(q("gone.png"))) << qPrintable(problem);
+    const auto problem = [&] {
+        QBuffer buffer(&pdf);
+        buffer.open(QIODevice::WriteOnly);
+        return writePdf(buffer, {{photo, layout}}, {300}, {[](double) { return true; }});
+    };
+    save(quarters({30, 40}), q("gone.jpg"));
+    EXPECT_TRUE(problem().contains(q("has changed"))) << qPrintable(problem());
+    QFile::remove(path);
+    EXPECT_TRUE(problem().contains(q("gone.jpg"))) << qPrintable(problem());
+}
+
+TEST_F(PageTest, AJpegThatNoDecoderReadsIsNotTakenForWhole)
+{
+    const QByteArray good = readFile(save(quarters({64, 48}), q("good.jpg")));
+
+    const struct {
+        const char* name;
+        QByteArray before;
+        QByteArray after;
+    } cases[] = {
+        {"no table of divisors.jpg", "\xFF\xDB", "\xFF\xEB"},
+        {"another table's number.jpg", QByteArray("\xFF\xDB\0\x43\0", 5), QByteArray("\xFF\xDB\0\x43\2", 5)},
+        {"another table wanted.jpg", QByteArray("\x01\x22\0", 3), "\x01\x22\x03"},
+        {"a segment that nobody knows.jpg", "\xFF\xE0", "\xFF\xF0"},
+    };
+
+    for (const auto& c : cases) {
+        QByteArray bytes = good;
+        ASSERT_NE(good.indexOf(c.before), -1) << c.name;
+        bytes.replace(good.indexOf(c.before), c.before.size(), c.after);
+        const PhotoFile read = openPhotoFile(put(c.name, bytes));
+        EXPECT_TRUE(read.pages.empty() && read.problem.contains(q(c.name))) << c.name;
+    }
 }
 
 } // namespace halvern
