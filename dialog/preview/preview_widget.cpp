@@ -37,6 +37,17 @@ QColor inkOn(const QColor& background)
     return background.lightness() < 128 ? QColor(200, 200, 200) : QColor(60, 60, 60);
 }
 
+// By their places on the sheet.
+std::vector<PhotoKey> photosOf(const PreviewPage& page)
+{
+    std::vector<PhotoKey> photos;
+    for (const Photo& photo : page.sheet.photos)
+        photos.push_back(keyOf(photo));
+    if (photos.empty())
+        photos.push_back(keyOf(page.photo));
+    return photos;
+}
+
 } // namespace
 
 QString pageSizeText(const QSizeF& points)
@@ -143,8 +154,8 @@ QSize PreviewWidget::sizeHint() const
 
 void PreviewWidget::showPage(const PreviewPage& page)
 {
-    const bool isSame = page.photo.path == page_.photo.path && page.photo.page == page_.photo.page;
-    if (!isSame || (isZoomed_ && page.layout.photo != page_.layout.photo))
+    const bool isSameView = page.current == page_.current && page.layout.photo == page_.layout.photo;
+    if (photosOf(page) != photosOf(page_) || (isZoomed_ && !isSameView))
         converter_->forget();
     page_ = page;
     blank_.reset();

@@ -136,7 +136,6 @@ private:
     double dotsPerPoint() const;
     QRect photoInDots() const;
     QSize storedDots() const;
-    QImage turnedPart(const QRect& dots);
     void readDetail();
     void showState();
     void planColours();

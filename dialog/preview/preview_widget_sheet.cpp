@@ -68,7 +68,7 @@ void PreviewWidget::paintSheetsPhotos(QPainter& painter, double scale)
 {
     paintOthers(painter, scale);
     const QImage& photo = screen_.whole(pixelsOf(page_.layout, scale));
-    const QImage& shown = converter_->find({photo, {}}).image;
+    const QImage& shown = converter_->find({photo, {}}, page_.current).image;
     paintPhoto(painter, page_.layout, shown.isNull() ? photo : shown);
     paintMarks(painter, page_.sheet.sheet, photoCaptions());
 }
@@ -82,8 +82,10 @@ void PreviewWidget::paintOthers(QPainter& painter, double scale)
         const QImage& image = otherScreens_[i].whole(pixelsOf(layout, scale));
         if (image.isNull())
             painter.fillRect(layout.visible(), QColor(225, 225, 225));
-        else
+        else if (const QImage& shown = converter_->find({image, {}}, i).image; shown.isNull())
             paintPhoto(painter, layout, image);
+        else
+            paintPhoto(painter, layout, shown);
     }
 }
 

@@ -17,6 +17,7 @@ namespace halvern {
 
 namespace {
 
+constexpr int kQuarters = 4;
 constexpr double kKeyStep = 48.0;   // logical pixels
 constexpr double kEdgeRoom = 24.0;  // logical pixels of ground that can be seen beyond the page
 constexpr double kWheelNotch = 1.0; // logical pixels for an eighth of a degree
@@ -24,6 +25,28 @@ constexpr double kWheelNotch = 1.0; // logical pixels for an eighth of a degree
 double held(double middle, double half, double length, double room)
 {
     return length <= 2.0 * half ? length / 2.0 : std::clamp(middle, half - room, length - half + room);
+}
+
+// Where a window of a picture lies once the picture is turned clockwise.
+QRect turned(const QRect& window, const QSize& picture, int quarterTurns)
+{
+    const int right = picture.width() - window.x() - window.width();
+    const int below = picture.height() - window.y() - window.height();
+    switch (quarterTurns) {
+    case 1:
+        return {QPoint(below, window.x()), window.size().transposed()};
+    case 2:
+        return {QPoint(right, below), window.size()};
+    case 3:
+        return {QPoint(window.y(), right), window.size().transposed()};
+    default:
+        return window;
+    }
+}
+
+QImage turned(const QImage& image, int quarterTurns)
+{
+    return quarterTurns == 0 ? image : image.transformed(QTransform().rotate(90.0 * quarterTurns));
 }
 
 } // namespace
@@ -46,23 +69,6 @@ QSize PreviewWidget::storedDots() const
 {
     const QSize dots = photoInDots().size();
     return page_.layout.quarterTurns % 2 != 0 ? dots.transposed() : dots;
-}
-
-// A window of the photo as it lies on the page, from the photo as it is stored upright.
-QImage PreviewWidget::turnedPart(const QRect& dots)
-{
-    const QSize stored = storedDots();
-    const int turns = page_.layout.quarterTurns;
-    QRect window = dots;
-    if (turns == 1)
-        window = {dots.y(), stored.height() - dots.right() - 1, dots.height(), dots.width()};
-    else if (turns == 2)
-        window = {stored.width() - dots.right() - 1, stored.height() - dots.bottom() - 1, dots.width(),
-                  dots.height()};
-    else if (turns == 3)
-        window = {stored.width() - dots.bottom() - 1, dots.x(), dots.height(), dots.width()};
-    const QImage& part = screen_.part(stored, window);
-    return turns == 0 ? part : part.transformed(QTransform().rotate(90.0 * turns));
 }
 
 bool PreviewWidget::isReadingDetail() const
@@ -139,16 +145,19 @@ void PreviewWidget::paintDots(QPainter& painter)
     const QRect photo = photoInDots();
     const QRect seen = window.intersected(shown).intersected(photo);
     if (!seen.isEmpty()) {
-        const QRect place = seen.translated(-photo.topLeft());
-        const ScreenConverter::Piece fresh{turnedPart(place), place};
-        // A turned part is a new picture each time, and would be converted again each time.
-        const ScreenConverter::Piece& shown =
-            page_.layout.quarterTurns == 0 ? converter_->find(fresh) : fresh;
+        // Converted as the photo is stored: a turned part would be a new picture each time.
+        const int turns = page_.layout.quarterTurns;
+        const QRect window =
+            turned(seen.translated(-photo.topLeft()), photo.size(), (kQuarters - turns) % kQuarters);
+        const ScreenConverter::Piece fresh{screen_.part(storedDots(), window), window};
+        const ScreenConverter::Piece& shown = converter_->find(fresh, page_.current);
         // Moments ago the window lay elsewhere.
         painter.setClipRect(toWidget(seen), Qt::IntersectClip);
-        for (ScreenConverter::Piece piece : {fresh, shown}) {
-            piece.image.setDevicePixelRatio(ratio);
-            painter.drawImage(toWidget(piece.place.translated(photo.topLeft())).topLeft(), piece.image);
+        for (const ScreenConverter::Piece& piece : {fresh, shown}) {
+            QImage image = turned(piece.image, turns);
+            image.setDevicePixelRatio(ratio);
+            const QRect place = turned(piece.place, storedDots(), turns);
+            painter.drawImage(toWidget(place.translated(photo.topLeft())).topLeft(), image);
         }
     }
     painter.restore();

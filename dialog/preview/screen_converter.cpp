@@ -13,58 +13,55 @@ void ScreenConverter::setPlan(const ScreenPlan& plan)
         return;
     plan_ = plan;
     transform_.reset();
-    doneFrom_ = 0;
+    for (auto& [place, shown] : shown_)
+        shown.doneFrom = 0;
     if (plan_.changesNothing())
         paper_ = Qt::white;
 }
 
-bool ScreenConverter::isDone(const Piece& wanted) const
+const ScreenConverter::Piece& ScreenConverter::find(const Piece& wanted, size_t place)
 {
-    return doneFrom_ == wanted.image.cacheKey() && done_.place == wanted.place;
-}
-
-const ScreenConverter::Piece& ScreenConverter::find(const Piece& wanted)
-{
-    wanted_ = wanted;
+    Shown& shown = shown_[place];
+    shown.wanted = wanted;
     if (plan_.changesNothing() || wanted.image.isNull())
-        return wanted_;
-    if (!isDone(wanted) && !isBusy_)
-        start();
-    return done_;
+        return shown.wanted;
+    const bool isDone = shown.doneFrom == wanted.image.cacheKey() && shown.done.place == wanted.place;
+    if (!isDone && !isBusy_)
+        start(place, wanted);
+    return shown.done;
 }
 
 void ScreenConverter::forget()
 {
-    done_ = {};
-    doneFrom_ = 0;
+    shown_.clear();
     isForgotten_ = isBusy_;
 }
 
-void ScreenConverter::start()
+void ScreenConverter::start(size_t place, const Piece& wanted)
 {
     isBusy_ = true;
     isForgotten_ = false;
     QPointer<ScreenConverter> self(this);
-    WorkQueue().async([self, plan = plan_, transform = transform_, piece = wanted_] {
+    WorkQueue().async([self, plan = plan_, transform = transform_, place, piece = wanted] {
         Made made{plan, transform ? transform : std::make_shared<const ScreenTransform>(plan), piece, {}};
         made.piece.image = made.transform->converted(piece.image);
         made.paper = made.transform->paper();
-        mainQueue().async([self, source = piece.image.cacheKey(), made] {
+        mainQueue().async([self, place, source = piece.image.cacheKey(), made] {
             if (self)
-                self->take(source, made);
+                self->take(place, source, made);
         });
     });
 }
 
-void ScreenConverter::take(qint64 source, const Made& made)
+void ScreenConverter::take(size_t place, qint64 source, const Made& made)
 {
     isBusy_ = false;
     if (made.plan == plan_) {
         transform_ = made.transform;
         paper_ = made.paper;
         if (!isForgotten_) {
-            done_ = made.piece;
-            doneFrom_ = source;
+            shown_[place].done = made.piece;
+            shown_[place].doneFrom = source;
         }
     }
     Q_EMIT ready();

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QRect>
 
+#include <map>
+
 namespace halvern {
 
 /// Brings what the preview is about to draw into the screen's colours, on a worker. Main thread only; never
@@ -24,12 +26,13 @@ public:
 
     void setPlan(const ScreenPlan& plan);
 
-    /// Pieces of another photo come, or in other dots: none that was made before is to be shown.
+    /// Pieces of other photos come, or in other dots: none that was made before is to be shown.
     void forget();
 
-    /// The piece in the screen's colours. If that takes a while, ready() follows, and the answer is the last
-    /// piece that was made, or one without an image: the same photo moments ago.
-    const Piece& find(const Piece& wanted);
+    /// The piece in the screen's colours. If that takes a while, ready() follows: ask again then, for one is
+    /// made at a time. The answer is the last piece that was made for the photo at this place of the sheet,
+    /// which is the same photo moments ago, or one without an image.
+    const Piece& find(const Piece& wanted, size_t place);
 
     /// What bare paper looks like; white until that is known.
     QColor paper() const { return paper_; }
@@ -38,6 +41,12 @@ Q_SIGNALS:
     void ready();
 
 private:
+    struct Shown {
+        Piece wanted;
+        Piece done;
+        qint64 doneFrom = 0; // what `done` was made of
+    };
+
     struct Made {
         ScreenPlan plan;
         std::shared_ptr<const ScreenTransform> transform;
@@ -45,15 +54,12 @@ private:
         QColor paper;
     };
 
-    bool isDone(const Piece& wanted) const;
-    void start();
-    void take(qint64 source, const Made& made);
+    void start(size_t place, const Piece& wanted);
+    void take(size_t place, qint64 source, const Made& made);
 
     ScreenPlan plan_;
     std::shared_ptr<const ScreenTransform> transform_; // of plan_; null: not made yet
-    Piece wanted_;
-    Piece done_;
-    qint64 doneFrom_ = 0; // what done_ was made of
+    std::map<size_t, Shown> shown_;                    // by their places on the sheet
     QColor paper_ = Qt::white;
     bool isBusy_ = false;
     bool isForgotten_ = false; // what is being made is not wanted any more

@@ -4,6 +4,8 @@
 #include "dialog/preview/preview_widget.h"
 #include "dialog/preview/screen_photo.h"
 #include "dialog/preview/sharp_photo_reader.h"
+#include "dialog/preview/sheet_photos.h"
+#include "dialog/preview/small_copies.h"
 #include "tests/support/test.h"
 
 namespace halvern {
@@ -148,7 +150,21 @@ TEST_F(PreviewTest, AtOneToOneAScreenPixelIsADot)
         found = picture.copy(700, y, 300, 300) == shown.copy(0, 0, 300, 300);
     EXPECT_TRUE(found);
     preview.showPage(page(sharpenedLook()));
+    zoom();
     EXPECT_NE(grabbed().copy(0, 0, 300, 300), shown.copy(0, 0, 300, 300));
+
+    PreviewPage turned = page();
+    const QSizeF paper = turned.layout.page.transposed();
+    turned.photo.placement.quarterTurns = 1;
+    turned.layout = layOut({paper, QRectF(QPointF(), paper), turned.photo.ownSize, Scaling::fit,
+                            PageTurn::portrait, turned.photo.placement});
+    preview.showPage(turned);
+    zoom();
+    const QImage upright = picture.transformed(QTransform().rotate(90.0));
+    found = false;
+    for (int y = 700; y < 800 && !found; ++y)
+        found = upright.copy(400, y, 300, 300) == grabbed().copy(0, 0, 300, 300);
+    EXPECT_TRUE(found);
 }
 
 TEST_F(PreviewTest, DraggingAndKeysMoveThePageUnderTheView)
@@ -214,6 +230,28 @@ TEST_F(PreviewTest, APhotoThatIsNoLongerWantedIsNotDelivered)
     EXPECT_EQ(delivered, std::vector<QColor>{QColor(Qt::red)});
 }
 
+TEST_F(PreviewTest, APhotoIsReadAfterItsCaptionAndDamageIsToldToWhoHasMovedOn)
+{
+    const Photo whole = page().photo;
+    SheetPhotos photos(nullptr);
+    photos.want({whole}, 0, true);
+    ASSERT_TRUE(waitUntil([&] { return photos.details(whole).has_value(); }));
+    photos.want({whole}, 200, true);
+    EXPECT_TRUE(waitUntil([&] { return !photos.image(whole).isNull(); }));
+
+    Photo cut = readPhotoFile(whole.path).pages.front();
+    cut.path = writeFile(folder.filePath(q("cut.png")), readFile(whole.path).chopped(20000));
+    cut.stamp = stampOf(cut.path);
+    cut.preview = QImage();
+    QStringList damaged;
+    SmallCopies copies(nullptr);
+    QObject::connect(&copies, &SmallCopies::damageFound, &copies,
+                     [&](const QString& path) { damaged.append(path); });
+    EXPECT_TRUE(copies.find(cut).isNull());
+    copies.find(whole);
+    EXPECT_TRUE(waitUntil([&] { return damaged == QStringList(cut.path); }));
+}
+
 TEST_F(PreviewTest, AProofComesByItselfAndIsNeverOfAnotherPhoto)
 {
     PreviewPage proofed = page();
@@ -251,6 +289,16 @@ TEST_F(PreviewTest, AProofComesByItselfAndIsNeverOfAnotherPhoto)
     const QRgb green = screen.converted(picture).pixel(0, 0);
     EXPECT_TRUE(QSet<QRgb>({qRgb(0, 255, 0), green}).contains(grabbed().pixel(middle())));
     EXPECT_TRUE(waitUntil([&] { return grabbed().pixel(middle()) == green; }));
+    PreviewPage two = proofed;
+    two.layout.page.rheight() *= 2.0;
+    two.sheet = SheetToPrint(two.photo, two.layout);
+    PlacedPhoto lower = two.sheet.sheet.photos.front();
+    for (QRectF* rect : {&lower.layout.frame, &lower.layout.imageable, &lower.layout.photo})
+        rect->translate(0.0, proofed.layout.page.height());
+    two.sheet.sheet.photos.push_back(lower);
+    two.sheet.photos.push_back(two.photo);
+    preview.showPage(two);
+    EXPECT_TRUE(waitUntil([&] { return grabbed().pixel(middle() + QPoint(-20, 40)) == green; }));
     proofed.screen = {};
     proofed.look.isGray = true;
     preview.showPage(proofed);
