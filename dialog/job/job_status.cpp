@@ -71,6 +71,8 @@ QString pattern(const JobStatus& status)
     case JobStage::blocked:
         return Words::tr("Job %1 waits because \"%2\" is paused%3.");
     case JobStage::held:
+        if (isHeldForLogin(status))
+            return Words::tr("Job %1 is held on \"%2\": the printer wants a name and a password%3.");
         if (status.reasons.contains(QStringLiteral("job-hold-until-specified")))
             return Words::tr("Job %1 is held on \"%2\" because it was asked to wait%3.");
         return Words::tr("Job %1 is held on \"%2\"%3.");
@@ -144,8 +146,10 @@ JobStatus askJobStatus(cups::Connection& server, const QString& queue, int jobId
             status.printerReasons += strings(printer.get(), "printer-state-reasons");
     }
     status.stage = stageOf(state, status);
-    if (status.reasons.contains(QStringLiteral("cups-held-for-authentication")))
-        forgetAuthInfo(server, queue);
+    if (isHeldForLogin(status))
+        forgetAuthInfo(server, queue, jobId);
+    else if (status.stage == JobStage::completed)
+        authInfoWasRight(server, queue, jobId);
     return status;
 }
 
@@ -177,6 +181,12 @@ bool hasEnded(JobStage stage)
            isPrinted(stage);
 }
 
+bool isHeldForLogin(const JobStatus& status)
+{
+    return status.stage == JobStage::held &&
+           status.reasons.contains(QStringLiteral("cups-held-for-authentication"));
+}
+
 bool isPrinted(JobStage stage)
 {
     return stage == JobStage::completed || stage == JobStage::gone;
@@ -193,9 +203,7 @@ Remedy remedyFor(const JobStatus& status)
     case JobStage::blocked:
         return Remedy::resumePrinter;
     case JobStage::held:
-        // That one needs a name and a password.
-        return status.reasons.contains(QStringLiteral("cups-held-for-authentication")) ? Remedy::none
-                                                                                       : Remedy::releaseJob;
+        return isHeldForLogin(status) ? Remedy::none : Remedy::releaseJob;
     case JobStage::stopped:
         return isPaused(status) ? Remedy::resumePrinter : Remedy::restartJob;
     default:
@@ -232,7 +240,12 @@ QString jobAdvice(const JobStatus& status, const QString& printer, int jobId)
     const char* text = nullptr;
     switch (remedyFor(status)) {
     case Remedy::none:
-        return {};
+        if (!isHeldForLogin(status))
+            return {};
+        text =
+            QT_TRANSLATE_NOOP("JobStatus", "Give them with \"halvern-print --jobs --sign-in %1\", or cancel "
+                                           "the job with \"cancel %2-%1\".");
+        break;
     case Remedy::resumePrinter:
         text = QT_TRANSLATE_NOOP("JobStatus", "See to the printer and resume it with \"cupsenable %2\", or "
                                               "cancel the job with \"cancel %2-%1\".");

@@ -52,6 +52,9 @@ JobStage stageOf(int ippState, const JobStatus& status);
 /// Whether the job has ended for good.
 bool hasEnded(JobStage stage);
 
+/// Whether the printer has turned down the name and the password that came with the job, or had none.
+bool isHeldForLogin(const JobStatus& status);
+
 /// Whether the job has been printed, as far as the server tells.
 bool isPrinted(JobStage stage);
 

@@ -10,10 +10,10 @@
 
 #include <QCoreApplication>
 #include <QThread>
+#include <QUuid>
 
-#include <algorithm>
+#include <tuple>
 #include <utility>
-#include <vector>
 
 namespace halvern {
 
@@ -22,6 +22,9 @@ namespace {
 constexpr int kLongestTitle = 255; // bytes of an IPP name
 constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
 constexpr int kTakeBackTries = 3;
+// What tells a job from all others, also of the same photo, before it has a number. A server gives no filter
+// what begins so.
+constexpr const char* kMark = "job-halvern-mark";
 
 struct Words {
     Q_DECLARE_TR_FUNCTIONS(JobSubmitter)
@@ -40,33 +43,10 @@ QByteArray resourceOf(const JobRequest& job)
     return "/printers/" + job.queue.toUtf8();
 }
 
-struct ListedJob {
-    int id = 0;
-    QByteArray title;
-    bool isEmpty = false;
-};
-
-std::vector<ListedJob> readJobs(ipp_t* answer)
+// The job that carries the mark: the server made it, and its answer was lost. 0 if there is none.
+int findLostJob(const JobRequest& job, const QByteArray& mark)
 {
-    std::vector<ListedJob> jobs(1);
-    for (ipp_attribute_t* a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
-        const QByteArray name(ippGetName(a));
-        if (name.isEmpty())
-            jobs.emplace_back();
-        else if (name == "job-id")
-            jobs.back().id = ippGetInteger(a, 0);
-        else if (name == "job-name")
-            jobs.back().title = ippGetString(a, 0, nullptr);
-        else if (name == "number-of-documents")
-            jobs.back().isEmpty = ippGetInteger(a, 0) == 0;
-    }
-    return jobs;
-}
-
-// The job of this title that has no document yet: the server made it, and its answer was lost.
-int findEmptyJob(const JobRequest& job)
-{
-    static const char* const kAttributes[] = {"job-id", "job-name", "number-of-documents"};
+    static const char* const kAttributes[] = {"job-id", kMark};
     cups::Connection server(nullptr, kLimits);
     cups::Ipp request = cups::newRequest(IPP_OP_GET_JOBS, job.queue);
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "my-jobs", 1);
@@ -75,12 +55,20 @@ int findEmptyJob(const JobRequest& job)
     const cups::Ipp answer = server.request(std::move(request), "/");
     if (server.failed(answer))
         return 0;
-    int found = 0;
-    for (const ListedJob& listed : readJobs(answer.get())) {
-        if (listed.isEmpty && listed.title == shortTitle(job.title))
-            found = std::max(found, listed.id);
+    int id = 0;
+    bool isMarked = false;
+    for (ipp_attribute_t* a = ippFirstAttribute(answer.get()); a; a = ippNextAttribute(answer.get())) {
+        const QByteArray name(ippGetName(a));
+        if (name == "job-id")
+            id = ippGetInteger(a, 0);
+        else if (name == kMark)
+            isMarked = ippGetString(a, 0, nullptr) == mark;
+        else if (name.isEmpty())
+            std::tie(id, isMarked) = std::pair(0, false); // the next job
+        if (isMarked && id > 0)
+            return id;
     }
-    return found;
+    return 0;
 }
 
 // Whether the server has the job's document.
@@ -113,16 +101,15 @@ QString takeBack(const JobRequest& job, int jobId)
 }
 
 // With all that the job says of itself; null with a problem if it cannot be said.
-cups::Ipp makeRequest(const cups::Connection& server, const JobRequest& job,
-                      const cups::CancelFlag& cancelled, QString* problem)
+cups::Ipp makeRequest(cups::Connection& server, const JobRequest& job, const cups::CancelFlag& cancelled,
+                      AuthInfo& given, QString* problem)
 {
     cups::Ipp request = cups::newRequest(IPP_OP_CREATE_JOB, job.queue);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  shortTitle(job.title).constData());
-    if (!addAuthInfo(server, request.get(), job.queue, job.asked, cancelled)) {
-        *problem = noAuthInfo(job.queue);
+    *problem = addAuthInfo(server, request.get(), job.queue, job.asked, cancelled, given);
+    if (!problem->isEmpty())
         return nullptr;
-    }
     for (const OptionValue& option : job.options) {
         *problem = addJobOption(request.get(), option,
                                 job.hasTextCollections ? Collections::asText : Collections::whole);
@@ -135,9 +122,14 @@ cups::Ipp makeRequest(const cups::Connection& server, const JobRequest& job,
 int createJob(cups::Connection& server, const JobRequest& job, const cups::CancelFlag& cancelled,
               QString* problem)
 {
+    const QByteArray mark = QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
+    AuthInfo given;
     const auto send = [&]() -> cups::Ipp {
-        cups::Ipp request = makeRequest(server, job, cancelled, problem);
-        return request ? server.request(std::move(request), resourceOf(job).constData()) : nullptr;
+        cups::Ipp request = makeRequest(server, job, cancelled, given, problem);
+        if (!request)
+            return nullptr;
+        ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, kMark, nullptr, mark.constData());
+        return server.request(std::move(request), resourceOf(job).constData());
     };
     cups::Ipp answer = send();
     const bool isGone = answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND;
@@ -149,11 +141,12 @@ int createJob(cups::Connection& server, const JobRequest& job, const cups::Cance
         return 0;
     if (server.failed(answer)) {
         *problem = server.error();
-        if (const int lost = answer ? 0 : findEmptyJob(job); lost > 0)
+        if (const int lost = !answer && server.mayBeDone() ? findLostJob(job, mark) : 0; lost > 0)
             *problem += takeBack(job, lost);
         return 0;
     }
     const int jobId = cups::jobIdOf(answer);
+    rememberAuthInfo(server, job.queue, jobId, given);
     if (jobId == 0)
         *problem = Words::tr("The print server gave the job no number. Look into its error log.");
     return jobId;

@@ -139,9 +139,8 @@ QString stageText(const JobStatus& status)
     case JobStage::blocked:
         return Words::tr("Waiting: the printer is paused");
     case JobStage::held:
-        return status.reasons.contains(QStringLiteral("cups-held-for-authentication"))
-                   ? Words::tr("Held: the printer wants a name and a password")
-                   : Words::tr("Held");
+        return isHeldForLogin(status) ? Words::tr("Held: the printer wants a name and a password")
+                                      : Words::tr("Held");
     case JobStage::printing:
         return Words::tr("Printing");
     case JobStage::stopped:
@@ -224,7 +223,7 @@ bool isPossible(JobDeed deed, const UserJob& job)
     case JobDeed::release:
         return stage == JobStage::held && remedyFor(job.status) == Remedy::releaseJob;
     case JobDeed::signIn:
-        return stage == JobStage::held && remedyFor(job.status) == Remedy::none;
+        return isHeldForLogin(job.status);
     case JobDeed::printAgain:
         return job.isKept && (hasEnded(stage) || stage == JobStage::stopped);
     }
@@ -243,15 +242,20 @@ ActionResult apply(JobDeed deed, const QString& queue, int jobId, const QString&
                          "/printers/%s", target.toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, "job-printer-uri", nullptr, uri);
     }
+    AuthInfo given;
     if (deed == JobDeed::signIn) {
         // What was given before has not let the job in.
-        forgetAuthInfo(server, queue);
-        if (!addAuthInfo(server, request.get(), queue, askedOfUsers(server, queue), nullptr))
-            return {true, noAuthInfo(queue)};
+        askForOtherAuthInfo(server, queue, jobId);
+        const QStringList asked = askedOfUsers(server, queue);
+        if (const QString missing = addAuthInfo(server, request.get(), queue, asked, nullptr, given);
+            !missing.isEmpty())
+            return {true, missing};
     }
     const cups::Ipp answer = server.request(std::move(request), "/jobs/");
-    if (!server.failed(answer))
+    if (!server.failed(answer)) {
+        rememberAuthInfo(server, queue, jobId, given);
         return {};
+    }
     if (isForbidden(server, answer))
         return {true, Words::tr(row.forbidden).arg(jobId)};
     const int status = answer ? ippGetStatusCode(answer.get()) : IPP_STATUS_OK;

@@ -134,7 +134,7 @@ int runListing(const CommandLine& line)
 int runUnseen(const CommandLine& line)
 {
     cups::Access& access = cups::Access::shared();
-    access.setQuestions(std::make_shared<TerminalQuestions>());
+    access.addQuestions(std::make_shared<TerminalQuestions>());
     const int status = line.listing.what != Listing::none ? runListing(line) : runBatch(line);
     return status == kExitFailed && access.lacksLogin() && !quitWasSignalled() ? int(kExitLogin) : status;
 }

@@ -147,11 +147,6 @@ bool keep(const cups::Place& place, const cups::Login& login)
     const std::optional<QDBusObjectPath> session = openSession();
     if (!session)
         return false;
-    // What is kept for the place under another name would be found as well.
-    const QDBusMessage before = call(kServicePath, interfaceName("Service"), "SearchItems",
-                                     {QVariant::fromValue(attributesOf(place))});
-    for (const auto& item : qdbus_cast<QList<QDBusObjectPath>>(before.arguments().value(0)))
-        call(item.path(), interfaceName("Item"), "Delete", {});
     BusAttributes attributes = attributesOf(place);
     attributes.insert(QStringLiteral("user"), login.user);
     const QString name = place.queue.isEmpty() ? place.host : place.queue;
@@ -161,7 +156,16 @@ bool keep(const cups::Place& place, const cups::Login& login)
     const QDBusMessage answer = call(kCollectionPath, interfaceName("Collection"), "CreateItem",
                                      {properties, QVariant::fromValue(secret), true});
     const auto item = answer.arguments().value(0).value<QDBusObjectPath>();
-    return answer.type() == QDBusMessage::ReplyMessage && item.path() != QLatin1StringView("/");
+    if (answer.type() != QDBusMessage::ReplyMessage || item.path() == QLatin1StringView("/"))
+        return false;
+    // What is kept for the place under another name would be found as well.
+    const QDBusMessage all = call(kServicePath, interfaceName("Service"), "SearchItems",
+                                  {QVariant::fromValue(attributesOf(place))});
+    for (const auto& other : qdbus_cast<QList<QDBusObjectPath>>(all.arguments().value(0))) {
+        if (other != item)
+            call(other.path(), interfaceName("Item"), "Delete", {});
+    }
+    return true;
 }
 
 } // namespace halvern::secret_store

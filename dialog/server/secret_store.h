@@ -16,7 +16,7 @@ bool isThere();
 /// The login that was kept for the place; nothing if there is none.
 std::optional<cups::Login> find(const cups::Place& place);
 
-/// Keeps it, in the place of what is kept. False if that fails.
+/// Keeps it, in the place of what is kept. False if that fails; then what was kept still is.
 bool keep(const cups::Place& place, const cups::Login& login);
 
 } // namespace halvern::secret_store

@@ -39,6 +39,12 @@ QStringList certificateWords(const cups::CertificateQuestion& question)
         return {Words::tr("The print server at %1 cannot prove who it is, and was never seen before.")
                     .arg(question.host),
                 now};
+    if (question.isOpen)
+        return {Words::tr("The print server at %1 encrypted before, and does not any more. It may have been "
+                          "set up anew, or somebody else may be answering in its place. What you print there "
+                          "could be read on its way.")
+                    .arg(question.host),
+                Words::tr("It had: %1").arg(question.known)};
     return {
         Words::tr("The print server at %1 has another certificate than before. It may have been renewed, or "
                   "somebody else may be answering in its place.")

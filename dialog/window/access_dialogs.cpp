@@ -43,7 +43,7 @@ QMessageBox* makeCertificateBox(const cups::CertificateQuestion& question, QWidg
 class AccessDialogs::Questions : public cups::AccessQuestions,
                                  public std::enable_shared_from_this<AccessDialogs::Questions> {
 public:
-    explicit Questions(QWidget* window) : window_(window) {}
+    explicit Questions(QWidget* window) : hasWindow_(window), window_(window) {}
 
     /// The window goes: nobody answers any more.
     void close()
@@ -109,7 +109,7 @@ private:
         const std::shared_ptr<Questions> self = shared_from_this();
         auto shown = std::make_shared<QPointer<QDialog>>();
         mainQueue().async([self, answer, makeDialog, shown] {
-            if (!self->window_) {
+            if (self->hasWindow_ && !self->window_) {
                 self->finish(answer);
                 return;
             }
@@ -117,6 +117,8 @@ private:
             *shown = dialog;
             QObject::connect(dialog, &QObject::destroyed, [self, answer] { self->finish(answer); });
             dialog->open();
+            if (!self->hasWindow_)
+                dialog->activateWindow();
         });
         std::unique_lock<std::mutex> lock(mutex_);
         while (!answer->isThere && !isClosed_ && !(cancelled && cancelled->load()))
@@ -133,6 +135,7 @@ private:
         changed_.notify_all();
     }
 
+    const bool hasWindow_;
     QPointer<QWidget> window_; ///< the main thread's
     std::mutex mutex_;
     std::condition_variable changed_;
@@ -142,13 +145,14 @@ private:
 AccessDialogs::AccessDialogs(QWidget* window)
     : QObject(window), questions_(std::make_shared<Questions>(window))
 {
-    cups::Access::shared().setQuestions(questions_);
+    cups::Access::shared().addQuestions(questions_);
 }
 
 AccessDialogs::~AccessDialogs()
 {
+    // First, so that a question that ends here does not count as declined.
+    cups::Access::shared().removeQuestions(questions_.get());
     questions_->close();
-    cups::Access::shared().setQuestions(nullptr);
 }
 
 } // namespace halvern

@@ -15,15 +15,19 @@ bool isRaised(const CancelFlag& flag)
     return flag && flag->load();
 }
 
+bool isSame(const Login& one, const Login& other)
+{
+    return one.user == other.user && one.password == other.password;
+}
+
 bool isFit(const Login& login, const LoginQuestion& question, const std::optional<Login>& refused)
 {
-    const bool isOther = !refused || refused->user != login.user || refused->password != login.password;
-    return isOther && (question.isEncrypted || login.mayTravelOpenly);
+    return !(refused && isSame(*refused, login)) && (question.isEncrypted || login.mayTravelOpenly);
 }
 
 QString nameOf(const CertificateQuestion& question)
 {
-    return question.host + QLatin1Char('\n') + question.now;
+    return question.host + (question.isOpen ? QLatin1Char('\t') : QLatin1Char('\n')) + question.now;
 }
 
 } // namespace
@@ -35,19 +39,24 @@ Access& Access::shared()
     return *access;
 }
 
-void Access::setQuestions(std::shared_ptr<AccessQuestions> questions)
+void Access::addQuestions(std::shared_ptr<AccessQuestions> questions)
 {
     const std::scoped_lock lock(mutex_);
-    questions_ = std::move(questions);
+    questions_.append(std::move(questions));
     // What nobody could answer so far, somebody may now.
-    if (questions_)
-        declined_.clear();
+    declined_.clear();
+}
+
+void Access::removeQuestions(const AccessQuestions* questions)
+{
+    const std::scoped_lock lock(mutex_);
+    questions_.removeIf([&](const auto& each) { return each.get() == questions; });
 }
 
 std::shared_ptr<AccessQuestions> Access::questions() const
 {
     const std::scoped_lock lock(mutex_);
-    return questions_;
+    return questions_.isEmpty() ? nullptr : questions_.back();
 }
 
 std::optional<Login> Access::login(const LoginQuestion& question, const std::optional<Login>& refused,
@@ -66,10 +75,9 @@ std::optional<Login> Access::login(const LoginQuestion& question, const std::opt
         if (kept != kept_.cend() && isFit(*kept, question, refused))
             return *kept;
         // Nobody sends a wrong password again and again: servers lock the doors after some.
-        if (refused && kept != kept_.cend() && kept->user == refused->user &&
-            kept->password == refused->password)
+        if (refused && kept != kept_.cend() && isSame(*kept, *refused))
             kept_.remove(question.place);
-        if (declined_.contains(question.place) || !questions_) {
+        if (declined_.contains(question.place) || questions_.isEmpty()) {
             declined_.insert(question.place);
             return std::nullopt;
         }
@@ -80,26 +88,51 @@ std::optional<Login> Access::login(const LoginQuestion& question, const std::opt
     const std::shared_ptr<AccessQuestions> somebody = questions();
     const std::optional<Login> login = somebody ? somebody->askLogin(asked, cancelled) : std::nullopt;
     const std::scoped_lock lock(mutex_);
+    // Whoever was asked may have gone without an answer: that was not the user's.
+    const bool isTheirWord = somebody && questions_.contains(somebody);
     if (login)
         kept_.insert(question.place, *login);
-    else if (!isRaised(cancelled))
+    else if (isTheirWord && !isRaised(cancelled))
         declined_.insert(question.place);
     return login;
 }
 
 void Access::wasRight(const Place& place, const Login& login)
 {
+    Login proven = login;
+    proven.isForLater = false;
+    {
+        const std::scoped_lock lock(mutex_);
+        // One that is proven already, or that another one has replaced meanwhile, is no news.
+        const auto kept = kept_.constFind(place);
+        if (kept != kept_.cend() && (*kept == proven || !isSame(*kept, proven)))
+            return;
+        kept_.insert(place, proven);
+    }
     if (const std::shared_ptr<AccessQuestions> somebody = questions())
         somebody->loginWasRight(place, login);
-    const std::scoped_lock lock(mutex_);
-    kept_.insert(place, login);
 }
 
-void Access::wasWrong(const Place& place)
+void Access::wasWrong(const Place& place, const Login& login)
 {
     const std::scoped_lock lock(mutex_);
-    if (kept_.remove(place) > 0)
-        wrong_.insert(place);
+    const auto kept = kept_.constFind(place);
+    if (kept != kept_.cend() && !isSame(*kept, login))
+        return;
+    kept_.remove(place);
+    wrong_.insert(place);
+}
+
+QString Access::jobOwner(const QString& host) const
+{
+    const std::scoped_lock lock(mutex_);
+    return jobOwners_.value(host);
+}
+
+void Access::setJobOwner(const QString& host, const QString& user)
+{
+    const std::scoped_lock lock(mutex_);
+    jobOwners_.insert(host, user);
 }
 
 bool Access::trusts(const CertificateQuestion& question, const CancelFlag& cancelled)
@@ -115,13 +148,13 @@ bool Access::trusts(const CertificateQuestion& question, const CancelFlag& cance
         const std::scoped_lock lock(mutex_);
         if (trusted_.contains(name))
             return true;
-        if (distrusted_.contains(name) || !questions_)
+        if (distrusted_.contains(name) || questions_.isEmpty())
             return false;
     }
     const std::shared_ptr<AccessQuestions> somebody = questions();
     const bool isTrusted = somebody && somebody->askCertificate(question, cancelled);
     const std::scoped_lock lock(mutex_);
-    if (isTrusted || !isRaised(cancelled))
+    if (isTrusted || (questions_.contains(somebody) && !isRaised(cancelled)))
         (isTrusted ? trusted_ : distrusted_).insert(name);
     return isTrusted;
 }

@@ -4,6 +4,7 @@
 #include "platform/foundation/export.h"
 #include "platform/printing/exchange_watch.h"
 
+#include <QList>
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -51,8 +52,9 @@ struct LoginQuestion {
 /// A server whose certificate is not the one that it had, or not one to trust.
 struct CertificateQuestion {
     QString host;
-    QString known; ///< what the server had before, in words; empty: it was never seen
-    QString now;   ///< what it has now
+    QString known;       ///< what the server had before, in words; empty: it was never seen
+    QString now;         ///< what it has now
+    bool isOpen = false; ///< it does not encrypt any more, and has shown none
 };
 
 /// Somebody who can be asked while a conversation waits. Called on the conversation's thread, which may be
@@ -64,7 +66,7 @@ public:
     /// Nothing if nobody can, or wants to, answer.
     virtual std::optional<Login> askLogin(const LoginQuestion& question, const CancelFlag& cancelled) = 0;
 
-    /// The login has let the user in.
+    /// A login that was answered now has let the user in.
     virtual void loginWasRight(const Place& place, const Login& login) = 0;
 
     /// Whether the server with that certificate is the one that is meant.
@@ -76,8 +78,11 @@ class Access {
 public:
     static Access& shared();
 
-    /// Whom to ask; null: nobody.
-    void setQuestions(std::shared_ptr<AccessQuestions> questions);
+    /// From now on these are asked, in the place of those who were added before.
+    void addQuestions(std::shared_ptr<AccessQuestions> questions);
+
+    /// They are not asked any more; of those who are left, whoever was added last is.
+    void removeQuestions(const AccessQuestions* questions);
 
     /// The login for a place: the kept one, or what is answered now. One question for a place at a time: who
     /// comes meanwhile gets its answer. `refused` is what the place has just turned down. Nothing if nobody
@@ -88,8 +93,14 @@ public:
     /// It has let the user in: others may use it, too.
     void wasRight(const Place& place, const Login& login);
 
-    /// The login that is kept for the place is wrong.
-    void wasWrong(const Place& place);
+    /// The place has turned the login down: it is forgotten, unless another one is kept by now, and what is
+    /// kept beyond the session does not answer the next question.
+    void wasWrong(const Place& place, const Login& login);
+
+    /// The name under which the host has the jobs that this process sent to it; empty: the user's own.
+    QString jobOwner(const QString& host) const;
+
+    void setJobOwner(const QString& host, const QString& user);
 
     /// The same for certificates; an answer counts for that certificate of that host.
     bool trusts(const CertificateQuestion& question, const CancelFlag& cancelled);
@@ -103,12 +114,13 @@ public:
 private:
     std::shared_ptr<AccessQuestions> questions() const;
 
-    mutable std::mutex mutex_; ///< for what follows
-    std::mutex asking_;        ///< held while a question is open
-    std::shared_ptr<AccessQuestions> questions_;
+    mutable std::mutex mutex_;                          ///< for what follows
+    std::mutex asking_;                                 ///< held while a question is open
+    QList<std::shared_ptr<AccessQuestions>> questions_; ///< the last one is asked
     QMap<Place, Login> kept_;
-    std::set<Place> wrong_;    ///< whose kept login was turned down
-    std::set<Place> declined_; ///< about which nobody answered
+    QMap<QString, QString> jobOwners_; ///< by host
+    std::set<Place> wrong_;            ///< whose kept login was turned down
+    std::set<Place> declined_;         ///< about which nobody answered
     QSet<QString> trusted_;
     QSet<QString> distrusted_;
 };

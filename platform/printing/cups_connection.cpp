@@ -82,6 +82,11 @@ bool Connection::wasForbidden() const
            status_ == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
 }
 
+bool Connection::mayBeDone() const
+{
+    return isSent_ && !wasForbidden();
+}
+
 // Called after each second of silence; a byte in between starts the count anew.
 int Connection::keepWaiting(http_t*, void* self)
 {
@@ -105,17 +110,9 @@ Http Connection::makeHttp() const
     return Http(httpConnect2(server, port, nullptr, AF_UNSPEC, encryption, 1, 0, nullptr));
 }
 
-bool Connection::connect(ExchangeWatch& watch)
+// Never reuses what failed, because libcups would then connect once more by itself.
+bool Connection::open(ExchangeWatch& watch)
 {
-    cupsSetPasswordCB2(noPassword, nullptr);
-    // What is there to read before a question is the end of an idle connection.
-    if (http_ && !mustReconnect_ && !httpWait(http_.get(), 0)) {
-        watch.setSocket(httpGetFd(http_.get()));
-        return true;
-    }
-    const char* known = http_ ? httpGetAuthString(http_.get()) : nullptr;
-    const QByteArray password(known);
-    // Never reused after a failure, because libcups would then connect once more by itself.
     http_ = makeHttp();
     if (http_) {
         httpSetTimeout(http_.get(), std::chrono::duration<double>(kLookAtSilence).count(),
@@ -130,7 +127,20 @@ bool Connection::connect(ExchangeWatch& watch)
     }
     mustReconnect_ = false;
     watch.setSocket(httpGetFd(http_.get()));
-    if (!encrypt() || !isTrusted(watch)) {
+    return true;
+}
+
+bool Connection::connect(ExchangeWatch& watch)
+{
+    cupsSetPasswordCB2(noPassword, nullptr);
+    // What is there to read before a question is the end of an idle connection.
+    if (http_ && !mustReconnect_ && !httpWait(http_.get(), 0)) {
+        watch.setSocket(httpGetFd(http_.get()));
+        return true;
+    }
+    const char* known = http_ ? httpGetAuthString(http_.get()) : nullptr;
+    const QByteArray password(known);
+    if (!open(watch) || !encrypt(watch) || !isTrusted(watch)) {
         http_.reset();
         return false;
     }
@@ -139,14 +149,56 @@ bool Connection::connect(ExchangeWatch& watch)
     return true;
 }
 
-bool Connection::encrypt()
+// Whether there is something to encrypt, and nobody has said that it must not be.
+bool Connection::mayEncrypt() const
 {
-    if (!mustEncrypt_ || httpIsEncrypted(http_.get()) ||
+    return !host_ && !isPrivate() && cupsEncryption() != HTTP_ENCRYPTION_NEVER;
+}
+
+// A server that has shown a certificate is not talked to openly unasked: who answers in its place need not
+// encrypt.
+bool Connection::encrypt(ExchangeWatch& watch)
+{
+    const QString host = hostName();
+    const bool isExpected = mayEncrypt() && hasCertificate(host);
+    if (!(mustEncrypt_ || isExpected) || httpIsEncrypted(http_.get()) ||
         httpEncryption(http_.get(), HTTP_ENCRYPTION_REQUIRED) == 0)
         return true;
-    failure_ = Failure::unreachable;
-    error_ = noEncryption(hostName());
+    if (mustEncrypt_ || watch.hasFired() || isCancelled()) {
+        failure_ = Failure::unreachable;
+        error_ = mustEncrypt_ ? noEncryption(host) : serverUnreachable();
+        return false;
+    }
+    if (!open(watch))
+        return false;
+    watch.setDeadline(ExchangeWatch::Clock::time_point::max());
+    const bool isMeant = isTrustedOpenly(host, cancelled_);
+    watch.setDeadline(fromNow(limits_.whole));
+    if (isMeant)
+        return true;
+    failure_ = Failure::untrusted;
+    error_ = notTrusted(host);
     return false;
+}
+
+bool Connection::tryToEncrypt()
+{
+    if (!http_ || !canEncrypt_ || !mayEncrypt())
+        return isConnected();
+    ExchangeWatch watch(fromNow(limits_.whole), cancelled_);
+    Http before = std::exchange(http_, nullptr);
+    waited_ = {};
+    mustEncrypt_ = true;
+    const bool isEncrypted = connect(watch);
+    waited_ = {};
+    if (isEncrypted || failure_ == Failure::untrusted)
+        return isEncrypted;
+    canEncrypt_ = false;
+    mustEncrypt_ = false;
+    mustReconnect_ = true;
+    failure_ = Failure::none;
+    http_ = std::move(before);
+    return true;
 }
 
 // A printer's own certificate is nobody's word for anything: it is asked for nothing that is secret.
@@ -211,14 +263,26 @@ bool Connection::authenticate(const Question& question, ExchangeWatch& watch)
     return isAnswered;
 }
 
+// A server that wants a login for jobs has them under its name, and asks about them by that name only.
+void Connection::nameUser(ipp_t* request) const
+{
+    const QString owner = host_ ? QString() : Access::shared().jobOwner(hostName());
+    ipp_attribute_t* name =
+        owner.isEmpty() ? nullptr : ippFindAttribute(request, "requesting-user-name", IPP_TAG_NAME);
+    if (name)
+        ippSetString(request, &name, 0, owner.toUtf8().constData());
+}
+
 bool Connection::sendQuestion(const Question& question)
 {
     http_t* http = http_.get();
+    isSent_ = true;
     httpClearFields(http);
     httpSetField(http, HTTP_FIELD_AUTHORIZATION, httpGetAuthString(http));
     httpSetExpect(http, question.nextPiece ? HTTP_STATUS_CONTINUE : HTTP_STATUS_NONE);
     if (!question.ipp)
         return httpGet(http, question.resource) == 0;
+    nameUser(question.ipp);
     httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
     // No length: in pieces, for as long as there are some.
     httpSetLength(http, question.nextPiece ? 0 : ippLength(question.ipp));
@@ -244,6 +308,7 @@ bool Connection::sendDocument(const NextPiece& nextPiece, ExchangeWatch& watch, 
     watch.setDeadline(ExchangeWatch::Clock::time_point::max());
     for (;;) {
         const std::optional<QByteArray> piece = nextPiece();
+        isPieceTaken_ = true;
         if (!piece || isCancelled())
             return false;
         if (piece->isEmpty())
@@ -266,24 +331,55 @@ int Connection::exchange(const Question& question, ExchangeWatch& watch)
     return status;
 }
 
+// Whether to ask again: the server wanted more than the question before it looked at that.
+bool Connection::answerRefusal(const Question& question, int status, ExchangeWatch& watch)
+{
+    if (status != HTTP_STATUS_UNAUTHORIZED && status != HTTP_STATUS_UPGRADE_REQUIRED)
+        return false;
+    if (isPieceTaken_) {
+        failure_ = Failure::brokenOff;
+        return false;
+    }
+    isSent_ = false;
+    if (status == HTTP_STATUS_UPGRADE_REQUIRED) {
+        mustEncrypt_ = true;
+        return true;
+    }
+    if (host_)
+        return false;
+    const bool wasPrivate = isPrivate();
+    watch.setDeadline(ExchangeWatch::Clock::time_point::max());
+    const bool isStillMeant = tryToEncrypt();
+    watch.setDeadline(fromNow(limits_.whole));
+    return isStillMeant && (wasPrivate != isPrivate() || authenticate(question, watch));
+}
+
+void Connection::takeSuccess(const Question& question)
+{
+    if (!given_)
+        return;
+    Access::shared().wasRight({hostName()}, *given_);
+    if (question.ipp && ippGetOperation(question.ipp) == IPP_OP_CREATE_JOB)
+        Access::shared().setJobOwner(hostName(), given_->user);
+}
+
 int Connection::ask(const Question& question, ExchangeWatch& watch)
 {
     int status = HTTP_STATUS_ERROR;
     given_.reset();
+    isSent_ = false;
+    isPieceTaken_ = false;
     for (int attempt = 0; attempt < kMostAttempts && connect(watch); ++attempt) {
         status = exchange(question, watch);
         mustReconnect_ = true;
-        if (status == HTTP_STATUS_UPGRADE_REQUIRED) {
-            mustEncrypt_ = true;
-            continue;
-        }
-        if (status == HTTP_STATUS_UNAUTHORIZED && !host_ && authenticate(question, watch))
-            continue;
-        if (given_ && status != HTTP_STATUS_UNAUTHORIZED)
-            Access::shared().wasRight({hostName()}, *given_);
-        return status;
+        if (!answerRefusal(question, status, watch))
+            break;
     }
-    return http_ ? status : int(HTTP_STATUS_ERROR);
+    if (!http_)
+        return HTTP_STATUS_ERROR;
+    if (status == HTTP_STATUS_OK)
+        takeSuccess(question);
+    return status;
 }
 
 ssize_t Connection::read(char* buffer, size_t length)

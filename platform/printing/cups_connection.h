@@ -53,7 +53,9 @@ using NextPiece = std::function<std::optional<QByteArray>()>;
 /// A connection of one thread at a time to the CUPS server that the environment names. Every wait ends at its
 /// limits or when the flag is raised. A name and
 /// a password that the server wants, or a certificate of its that is not to be trusted, are asked of
-/// cups::Access; that time does not count. After a failed exchange the next one connects anew.
+/// cups::Access; that time does not count. A server with a kept certificate is talked to in secret. A
+/// document goes out once: a server that wants to know who sends it only then has broken off. After a failed
+/// exchange the next one connects anew.
 class Connection {
 public:
     explicit Connection(CancelFlag cancelled, const Limits& limits = {});
@@ -89,9 +91,16 @@ public:
     /// Whether it wanted a name and a password, or another one's, before it looked at the question.
     bool wasForbidden() const;
 
+    /// Whether the last request, although it has no answer, may have been carried out.
+    bool mayBeDone() const;
+
     /// Whether what goes over it can be read by nobody on the way: it is encrypted, or does not leave the
     /// computer.
     bool isPrivate() const;
+
+    /// Before something secret: encrypts if the server can; isPrivate() then tells. False if it is not the
+    /// server that is meant, or gone; error() then says so.
+    bool tryToEncrypt();
 
     /// The server as its user knows it, with a port that is not the usual one.
     QString hostName() const;
@@ -106,13 +115,18 @@ private:
     Http makeHttp() const;
     static int keepWaiting(_http_s* http, void* self);
     static ssize_t readPiece(void* self, unsigned char* buffer, size_t length);
+    bool open(ExchangeWatch& watch);
     bool connect(ExchangeWatch& watch);
+    bool mayEncrypt() const;
     int ask(const Question& question, ExchangeWatch& watch);
     int exchange(const Question& question, ExchangeWatch& watch);
     static const char* giveLogin(const char* prompt, _http_s* http, const char* method, const char* resource,
                                  void* self);
     bool authenticate(const Question& question, ExchangeWatch& watch);
-    bool encrypt();
+    bool answerRefusal(const Question& question, int status, ExchangeWatch& watch);
+    void takeSuccess(const Question& question);
+    void nameUser(_ipp_s* request) const;
+    bool encrypt(ExchangeWatch& watch);
     bool isTrusted(ExchangeWatch& watch);
     bool sendQuestion(const Question& question);
     bool sendDocument(const NextPiece& nextPiece, ExchangeWatch& watch, int& status);
@@ -128,7 +142,10 @@ private:
     ExchangeWatch::Clock::time_point lastWait_;
     bool mustReconnect_ = false;
     bool mustEncrypt_ = false;
-    int status_ = 0; ///< HTTP's, of the last exchange
+    bool canEncrypt_ = true;    ///< as far as was tried
+    bool isSent_ = false;       ///< something of the last request
+    bool isPieceTaken_ = false; ///< of its document
+    int status_ = 0;            ///< HTTP's, of the last exchange
     qint64 received_ = 0;
     Failure failure_ = Failure::none;
     Http http_;
@@ -138,7 +155,8 @@ private:
 };
 
 /// A new request for `operation` on the queue, with the attributes that every request needs. With an empty
-/// queue name it is a request to the server itself.
+/// queue name it is a request to the server itself. Who sends it is who the server knows the user as, once
+/// the conversation knows that.
 Ipp newRequest(int operation, const QString& queue);
 
 /// The job that an answer names; 0 if it names none.

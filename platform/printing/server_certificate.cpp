@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/printing/server_certificate.h"
 
+#include "platform/foundation/log.h"
 #include "platform/printing/access.h"
 #include "platform/printing/cups_ppd.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <mutex>
 
 namespace halvern::cups {
 
@@ -53,34 +57,127 @@ private:
 };
 
 // Not libcups's own folder: for root that is where the certificates of a server on this computer are.
-QByteArray folder()
+QString folder()
 {
-    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                         QStringLiteral("/halvern/servers");
-    QDir().mkpath(path);
-    return QFile::encodeName(path);
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QStringLiteral("/halvern/servers");
+}
+
+// libcups's own way to make a file's name of a host's, so that it is known which one it takes.
+QByteArray fileName(const QString& host)
+{
+    QByteArray name = host.toUtf8();
+    for (char& c : name) {
+        const bool isPlain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+                             c == '-' || c == '.';
+        if (!isPlain)
+            c = '_';
+    }
+    return name;
+}
+
+QString filePath(const QString& host)
+{
+    return folder() + QLatin1Char('/') + QString::fromLatin1(fileName(host)) + QStringLiteral(".crt");
+}
+
+/// What this process has seen, where it could not be written down.
+struct Seen {
+    std::mutex mutex;
+    QHash<QString, std::shared_ptr<const Certificates>> certificates; ///< by host
+
+    static Seen& shared()
+    {
+        // Workers that nobody joins may still use it when the program ends.
+        static auto* seen = new Seen;
+        return *seen;
+    }
+};
+
+struct Known {
+    std::shared_ptr<const Certificates> certificates; ///< null: never seen, or cannot be read
+    bool isThere = false;
+
+    QString inWords() const
+    {
+        if (certificates)
+            return certificates->inWords();
+        return isThere ? QCoreApplication::translate("ServerCertificate",
+                                                     "a certificate whose file cannot be read any more")
+                       : QString();
+    }
+};
+
+Known knownOf(const QString& host)
+{
+    {
+        Seen& seen = Seen::shared();
+        const std::scoped_lock lock(seen.mutex);
+        if (const auto found = seen.certificates.value(host))
+            return {found, true};
+    }
+    auto read = std::make_shared<Certificates>();
+    httpLoadCredentials(QFile::encodeName(folder()).constData(), read->out(), fileName(host).constData());
+    if (!read->isEmpty())
+        return {read, true};
+    return {nullptr, QFile::exists(filePath(host))};
+}
+
+void keep(const QString& host, const std::shared_ptr<const Certificates>& certificates)
+{
+    const QByteArray path = QFile::encodeName(folder());
+    const bool isKept = QDir().mkpath(folder()) && httpSaveCredentials(path.constData(), certificates->list(),
+                                                                       fileName(host).constData()) == 0;
+    Seen& seen = Seen::shared();
+    const std::scoped_lock lock(seen.mutex);
+    if (isKept) {
+        seen.certificates.remove(host);
+        return;
+    }
+    seen.certificates.insert(host, certificates);
+    logLine(QStringLiteral("the certificate of %1 cannot be kept in %2: another program, or the next run, "
+                           "will not know it again")
+                .arg(host, folder()));
 }
 
 } // namespace
 
 bool isTrustedServer(_http_s* http, const QString& host, const CancelFlag& cancelled)
 {
-    const QByteArray name = host.toUtf8();
-    const QByteArray path = folder();
-    Certificates now;
-    Certificates known;
-    if (httpCopyCredentials(http, now.out()) != 0 || now.isEmpty())
+    auto now = std::make_shared<Certificates>();
+    if (httpCopyCredentials(http, now->out()) != 0 || now->isEmpty())
         return Access::shared().trusts({host, {}, {}}, cancelled);
-    httpLoadCredentials(path.constData(), known.out(), name.constData());
-    if (known.hasSameServer(now))
+    const Known known = knownOf(host);
+    if (known.certificates && known.certificates->hasSameServer(*now))
         return true;
+    const QByteArray name = host.toUtf8().split(':').front();
     const bool isTrusted =
-        known.isEmpty() &&
-        httpCredentialsGetTrust(now.list(), name.split(':').front().constData()) == HTTP_TRUST_OK;
-    if (!isTrusted && !Access::shared().trusts(
-                          {host, known.isEmpty() ? QString() : known.inWords(), now.inWords()}, cancelled))
+        !known.isThere && httpCredentialsGetTrust(now->list(), name.constData()) == HTTP_TRUST_OK;
+    if (!isTrusted && !Access::shared().trusts({host, known.inWords(), now->inWords()}, cancelled))
         return false;
-    httpSaveCredentials(path.constData(), now.list(), name.constData());
+    keep(host, now);
+    return true;
+}
+
+bool hasCertificate(const QString& host)
+{
+    {
+        Seen& seen = Seen::shared();
+        const std::scoped_lock lock(seen.mutex);
+        if (seen.certificates.contains(host))
+            return true;
+    }
+    return QFile::exists(filePath(host));
+}
+
+bool isTrustedOpenly(const QString& host, const CancelFlag& cancelled)
+{
+    if (!Access::shared().trusts({host, knownOf(host).inWords(), {}, true}, cancelled))
+        return false;
+    QFile::remove(filePath(host));
+    Seen& seen = Seen::shared();
+    const std::scoped_lock lock(seen.mutex);
+    seen.certificates.remove(host);
     return true;
 }
 

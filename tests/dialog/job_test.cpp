@@ -18,23 +18,43 @@ cups::Ipp jobAnswer(int id, int state, const char* reason = "none")
     return answer;
 }
 
-cups::Ipp listedJob(int documents)
+cups::Ipp listedJob(int documents, const QByteArray& mark)
 {
     cups::Ipp answer = scriptedAnswer();
     ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "number-of-documents", documents);
     ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-id", 7);
     ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_NAME, "job-name", nullptr, "title");
+    ippAddString(answer.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "job-halvern-mark", nullptr, mark.constData());
     return answer;
 }
 
-SubmitResult send(const QString& title = q("title"))
+SubmitResult send(const QString& title = q("title"), const QStringList& asked = {})
 {
     int left = 2;
     const auto nextPiece = [&left]() -> std::optional<QByteArray> {
         return left-- > 0 ? QByteArray(100000, 'x') : QByteArray();
     };
-    return submitJob({q("Queue"), title, {}}, nextPiece, cups::makeCancelFlag());
+    JobRequest job{q("Queue"), title, {}};
+    job.asked = asked;
+    return submitJob(job, nextPiece, cups::makeCancelFlag());
 }
+
+/// Gives the passwords one after the other, to be kept for later.
+struct Passwords : cups::AccessQuestions {
+    std::optional<cups::Login> askLogin(const cups::LoginQuestion& question, const cups::CancelFlag&) override
+    {
+        refusals += question.wasRefused;
+        return cups::Login{q("ann"), left.takeFirst(), true, true};
+    }
+
+    void loginWasRight(const cups::Place&, const cups::Login& login) override { proven += login.password; }
+
+    bool askCertificate(const cups::CertificateQuestion&, const cups::CancelFlag&) override { return true; }
+
+    QStringList left{q("wrong"), q("right")};
+    QStringList proven;
+    int refusals = 0;
+};
 
 } // namespace
 
@@ -49,19 +69,22 @@ TEST(Jobs, WhatDoesNotArriveWholeIsTakenBack)
     } cases[] = {{"the document's answer is lost", 7, 1, 7, false},
                  {"the document is lost", 7, 0, 0, true},
                  {"the number is lost", 0, 0, 0, true},
-                 {"somebody else's job of that title", 0, 1, 0, false},
+                 {"another job of that title has none yet", 0, -1, 0, false},
                  {"a number that is none", -7, 0, 0, false}};
 
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        const ScriptedServer server([&c](ipp_t* request) -> cups::Ipp {
+        QByteArray mark;
+        const ScriptedServer server([&](ipp_t* request) -> cups::Ipp {
             switch (ippGetOperation(request)) {
             case IPP_OP_CREATE_JOB:
+                if (ipp_attribute_t* sent = ippFindAttribute(request, "job-halvern-mark", IPP_TAG_KEYWORD))
+                    mark = ippGetString(sent, 0, nullptr);
                 return c.created ? jobAnswer(c.created, IPP_JSTATE_HELD) : nullptr;
             case IPP_OP_SEND_DOCUMENT:
                 return nullptr;
             default:
-                return listedJob(c.documents);
+                return c.documents < 0 ? listedJob(0, "another") : listedJob(c.documents, mark);
             }
         });
         const SubmitResult result = send();
@@ -69,6 +92,33 @@ TEST(Jobs, WhatDoesNotArriveWholeIsTakenBack)
         EXPECT_EQ(result.problem.isEmpty(), c.job > 0);
         EXPECT_EQ(server.asked().contains(q("Cancel-Job")), c.isCancelled);
     }
+}
+
+TEST(Jobs, APrintersPasswordIsRightOnceAJobIsPrintedAndForgottenByTheJobThatIsTurnedDown)
+{
+    int last = 0;
+    const ScriptedServer server([&](ipp_t* request) {
+        ipp_attribute_t* id = ippFindAttribute(request, "job-id", IPP_TAG_INTEGER);
+        if (ippGetOperation(request) == IPP_OP_CREATE_JOB)
+            return jobAnswer(++last, IPP_JSTATE_PENDING);
+        return ippGetInteger(id, 0) == 1 ? jobAnswer(1, IPP_JSTATE_HELD, "cups-held-for-authentication")
+                                         : jobAnswer(2, IPP_JSTATE_COMPLETED);
+    });
+    const auto passwords = std::make_shared<Passwords>();
+    cups::Access::shared().addQuestions(passwords);
+    const auto look = [](int id) { askJobStatus(q("Queue"), id, cups::makeCancelFlag()); };
+    const QStringList asked{q("username"), q("password")};
+    EXPECT_EQ(send(q("title"), asked).jobId, 1);
+    look(1);
+    EXPECT_EQ(send(q("title"), asked).jobId, 2);
+    EXPECT_EQ(passwords->refusals, 1);
+    look(1); // is held still
+    EXPECT_EQ(send(q("title"), asked).jobId, 3);
+    EXPECT_EQ(passwords->proven, QStringList());
+    look(2);
+    look(3);
+    EXPECT_EQ(passwords->proven, QStringList(q("right")));
+    cups::Access::shared().removeQuestions(passwords.get());
 }
 
 TEST(Jobs, ALongTitleIsCutBetweenCharacters)

@@ -5,6 +5,9 @@
 
 #include <cups/cups.h>
 
+#include <QDir>
+#include <QFile>
+
 namespace halvern {
 
 using Then = ScriptedServer::Then;
@@ -85,14 +88,20 @@ public:
         return answers.isEmpty() ? std::nullopt : std::optional(answers.takeFirst());
     }
 
-    void loginWasRight(const cups::Place&, const cups::Login& login) override { right = login.password; }
+    void loginWasRight(const cups::Place&, const cups::Login& login) override { right += login.password; }
 
-    bool askCertificate(const cups::CertificateQuestion&, const cups::CancelFlag&) override { return false; }
+    bool askCertificate(const cups::CertificateQuestion& question, const cups::CancelFlag&) override
+    {
+        certificates.append(question.known);
+        return isTrusting;
+    }
 
     QList<cups::Login> answers;
     QStringList asked;
-    QString right;
+    QStringList right; ///< what is to be kept for later
+    QStringList certificates;
     bool isEncrypted = true;
+    bool isTrusting = false;
 };
 
 } // namespace
@@ -103,33 +112,92 @@ TEST(CupsConnection, APasswordIsAskedForOnceAndSentOpenlyOnlyIfTheUserSaysSo)
         QList<cups::Login> answers;
         QStringList asked;
         bool isLetIn;
+        bool isAnswered = true;
     } cases[] = {
-        {{{q("ann"), q("right"), true}}, {q("first")}, true},
-        {{{q("ann"), q("wrong"), true}, {q("ann"), q("right"), true}}, {q("first"), q("again")}, true},
-        {{{q("ann"), q("wrong"), true}}, {q("first"), q("again")}, false},
-        {{{q("ann"), q("right"), false}}, {q("first"), q("first")}, false},
+        {{{q("ann"), q("right"), true, true}}, {q("first")}, true},
+        {{{q("ann"), q("wrong"), true, true}, {q("ann"), q("right"), true, true}},
+         {q("first"), q("again")},
+         true},
+        {{{q("ann"), q("wrong"), true, true}}, {q("first"), q("again")}, false},
+        {{{q("ann"), q("right"), false, true}}, {q("first"), q("first")}, false},
+        {{{q("ann"), q("right"), true, true}}, {q("first")}, true, false},
         {{}, {q("first")}, false},
     };
 
     for (const auto& c : cases) {
-        ScriptedServer host([](_ipp_s*) { return scriptedAnswer(); });
+        QString owner;
+        ScriptedServer host([&](_ipp_s* request) {
+            owner =
+                q(ippGetString(ippFindAttribute(request, "requesting-user-name", IPP_TAG_NAME), 0, nullptr));
+            return c.isAnswered ? scriptedAnswer() : nullptr;
+        });
         host.requireLogin("ann:right");
+        const auto nobody = std::make_shared<FakeQuestions>();
+        cups::Access::shared().addQuestions(nobody);
         const auto questions = std::make_shared<FakeQuestions>();
         questions->answers = c.answers;
-        cups::Access::shared().setQuestions(questions);
+        cups::Access::shared().addQuestions(questions);
         for (int i = 0; i < 3; ++i) {
             cups::Connection server(nullptr);
-            const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_CUPS_GET_PRINTERS, {}), "/");
-            EXPECT_EQ(answer != nullptr, c.isLetIn);
-            EXPECT_EQ(server.failed(answer), !c.isLetIn);
+            const cups::Ipp answer = server.request(cups::newRequest(IPP_OP_CREATE_JOB, q("Photo")), "/");
+            EXPECT_EQ(answer != nullptr, c.isLetIn && c.isAnswered);
+            EXPECT_EQ(server.failed(answer), !(c.isLetIn && c.isAnswered));
+            EXPECT_EQ(server.mayBeDone(), c.isLetIn);
         }
         EXPECT_FALSE(questions->isEncrypted);
-        EXPECT_EQ(questions->right, c.isLetIn ? q("right") : QString());
+        EXPECT_EQ(owner == q("ann"), c.isLetIn && c.isAnswered) << "the jobs there are ann's";
+        EXPECT_EQ(questions->right, c.isLetIn && c.isAnswered ? QStringList(q("right")) : QStringList());
         EXPECT_EQ(questions->asked, c.asked);
+        EXPECT_EQ(nobody->asked, QStringList());
         EXPECT_EQ(host.asked().size(), c.isLetIn ? 3 : 0);
-        cups::Access::shared().setQuestions(nullptr);
+        cups::Access::shared().removeQuestions(questions.get());
+        cups::Access::shared().askAgain();
+        EXPECT_FALSE(cups::Access::shared().login({{q("elsewhere")}, q("ann")}, {}, nullptr));
+        EXPECT_EQ(nobody->asked, QStringList(q("first"))) << "who was there before is asked again";
+        cups::Access::shared().removeQuestions(nobody.get());
         cups::Access::shared().askAgain();
     }
+}
+
+TEST(CupsConnection, ADocumentIsNotSentTwiceToAServerThatAsksForALoginAfterIt)
+{
+    ScriptedServer host([](_ipp_s*) { return scriptedAnswer(); });
+    host.requireLogin("ann:right");
+    const auto questions = std::make_shared<FakeQuestions>();
+    questions->answers = {{q("ann"), q("right"), true}};
+    cups::Access::shared().addQuestions(questions);
+    cups::Connection server(nullptr);
+    QList<QByteArray> pieces{"%PDF", ""};
+    EXPECT_FALSE(server.request(cups::newRequest(IPP_OP_SEND_DOCUMENT, q("Photo")), "/printers/Photo", [&] {
+        return std::optional(pieces.isEmpty() ? QByteArray() : pieces.takeFirst());
+    }));
+    EXPECT_TRUE(server.failed(nullptr) && server.error().contains(q("broke off")))
+        << qPrintable(server.error());
+    EXPECT_EQ(host.asked(), QStringList());
+    cups::Access::shared().removeQuestions(questions.get());
+    cups::Access::shared().askAgain();
+}
+
+TEST(CupsConnection, AServerThatHadACertificateIsNotTalkedToOpenlyUnasked)
+{
+    ScriptedServer host([](_ipp_s*) { return scriptedAnswer(); });
+    const QString folder = QString::fromLocal8Bit(qgetenv("XDG_DATA_HOME")) + q("/halvern/servers");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QFile known(QStringLiteral("%1/127.0.0.1_%2.crt").arg(folder).arg(host.port()));
+    ASSERT_TRUE(known.open(QFile::WriteOnly)); // one that cannot be read counts, too
+    const auto questions = std::make_shared<FakeQuestions>();
+    cups::Access::shared().addQuestions(questions);
+    for (const bool isTrusting : {false, true}) {
+        questions->isTrusting = isTrusting;
+        cups::Access::shared().askAgain();
+        cups::Connection server(nullptr);
+        EXPECT_EQ(server.isConnected(), isTrusting);
+        EXPECT_EQ(server.error().contains(q("is not trusted")), !isTrusting);
+    }
+    EXPECT_EQ(questions->certificates.size(), 2);
+    EXPECT_FALSE(known.exists());
+    EXPECT_TRUE(cups::Connection(nullptr).isConnected());
+    cups::Access::shared().removeQuestions(questions.get());
 }
 
 TEST(FreshPpd, TheMainThreadTakesWhatCameLastWhileTheServerIsSilent)
