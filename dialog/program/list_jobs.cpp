@@ -91,13 +91,16 @@ QString doneText(JobDeed deed, int job, const QString& target)
 int carryOut(const ListJobsRequest& request, QTextStream& out, QTextStream& err)
 {
     cups::Connection server(quitFlag());
-    const UserJobs all = askUserJobs(server, {}, true);
+    const UserJobs all = askUserJobs(server, request.printer, true);
     if (!all.problem.isEmpty())
         return fail(err, all.problem);
     const int place = indexOfJob(all.jobs, request.jobId);
-    if (place < 0)
+    if (place < 0 && request.printer.isEmpty())
         return fail(err, Words::tr("You have no job %1 on the print server. --jobs --ended lists yours.")
                              .arg(request.jobId));
+    if (place < 0)
+        return fail(err, Words::tr("You have no job %1 on \"%2\". --jobs --ended lists yours.")
+                             .arg(QString::number(request.jobId), request.printer));
     const ActionResult result =
         apply(*request.deed, all.jobs[size_t(place)].queue, request.jobId, request.target);
     if (!result.problem.isEmpty())

@@ -43,7 +43,8 @@ public:
     Terminal(const Terminal&) = delete;
     Terminal& operator=(const Terminal&) = delete;
 
-    bool isThere() const { return hasSettings_; }
+    /// Not for who runs in the background: the terminal stops whoever asks from there.
+    bool isThere() const { return hasSettings_ && tcgetpgrp(line_) == getpgrp(); }
 
     void say(const QString& sentence) { put(terminalText(sentence) + QLatin1Char('\n')); }
 
@@ -68,8 +69,9 @@ private:
 
     void setEcho(bool isShown)
     {
-        if (!hasSettings_)
+        if (isShown == isEchoing_)
             return;
+        isEchoing_ = isShown;
         termios settings = settings_;
         if (!isShown)
             settings.c_lflag &= ~tcflag_t(ECHO | ECHOE | ECHOK | ECHONL);
@@ -97,6 +99,7 @@ private:
     int line_;
     termios settings_{};
     bool hasSettings_ = false;
+    bool isEchoing_ = true;
     const cups::CancelFlag& cancelled_;
 };
 

@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace halvern {
 
@@ -141,7 +142,9 @@ void JobsWindow::showJobs()
     const QString kept = refusal_;
     table_->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     refusal_ = kept;
-    if (before.empty() && !table_->currentIndex().isValid() && rows_->rowCount() > 0)
+    // Later, nothing is chosen that the user has not chosen: the buttons are live.
+    const bool hasListed = jobs_->answer().problem.isEmpty();
+    if (hasListed && !std::exchange(hasListed_, true) && rows_->rowCount() > 0)
         table_->setCurrentIndex(rows_->index(0, 0));
     showState();
 }

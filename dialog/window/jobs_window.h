@@ -56,6 +56,7 @@ private:
     QMenu* targets_;
     std::vector<DeedButton> deeds_;
     QString refusal_;
+    bool hasListed_ = false; ///< jobs, or that there are none
 };
 
 /// The button beside the printer's state that opens the window, or brings it to the front. Main thread only.

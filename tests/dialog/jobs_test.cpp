@@ -98,6 +98,14 @@ TEST_F(JobsTest, TheWindowFollowsTheServerAndOffersWhatIsPossible)
     EXPECT_TRUE(waitUntil([&] { return stateIs("Cancelled"); }));
     EXPECT_FALSE(button("cancelJob")->isEnabled());
     EXPECT_EQ(stageOn(q("First"), id), JobStage::cancelled);
+
+    // What the user has not chosen is not chosen when the chosen job has left the list.
+    const int other = send(q("Other"));
+    window.findChild<QCheckBox*>()->setChecked(false);
+    EXPECT_TRUE(waitUntil([&] { return table->model()->rowCount() == 1; }));
+    apply(JobDeed::hold, q("First"), other);
+    EXPECT_TRUE(waitUntil([&] { return table->model()->index(0, 1).data().toString().contains(q("Held")); }));
+    EXPECT_FALSE(button("cancelJob")->isEnabled());
 }
 
 TEST(JobsOfAStrangerTest, WhatAServerMakesUpDoesNoHarm)
