@@ -64,8 +64,10 @@ QString shellQuoted(const QString& word)
 
 QString commandFor(const JobToRepeat& job)
 {
-    QStringList words{QStringLiteral("halvern-print"), QStringLiteral("--no-dialog"), QStringLiteral("-d"),
-                      job.printer};
+    QStringList words{QStringLiteral("halvern-print"), QStringLiteral("--no-dialog")};
+    if (!job.server.isEmpty())
+        words << QStringLiteral("--server") << job.server;
+    words << QStringLiteral("-d") << job.printer;
     if (job.copies != 1)
         words << QStringLiteral("-n") << QString::number(job.copies);
     if (!job.ranges.isEmpty())

@@ -10,6 +10,7 @@ namespace halvern {
 /// A job as the program's command line has to know it.
 struct JobToRepeat {
     QString printer;
+    QString server; ///< empty: as without one
     QStringList files;
     OptionValues options; ///< those that nobody would send without having chosen them
     QStringList page;     ///< what the dialog itself decides, as KEY=VALUE

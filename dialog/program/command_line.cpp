@@ -234,9 +234,9 @@ QString readValues(const QCommandLineParser& parser, const Switches& switches, C
     if (const QString problem = choosePages(line.request.pages, 0).problem; !problem.isEmpty())
         return problem;
     line.request.printer = parser.value(switches.printer);
-    line.server = parser.value(switches.server);
-    if (parser.isSet(switches.server) && !isServerName(line.server))
-        return Switches::badServer(line.server);
+    line.request.server = parser.value(switches.server);
+    if (parser.isSet(switches.server) && !isServerName(line.request.server))
+        return Switches::badServer(line.request.server);
     if (parser.isSet(switches.printer) && line.request.printer.isEmpty())
         return Switches::emptyPrinter();
     return {};

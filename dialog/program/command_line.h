@@ -16,7 +16,6 @@ namespace halvern {
 /// What the user asked for on the command line. Values; all of this on the main thread, before anything else.
 struct CommandLine {
     SessionRequest request;
-    QString server = {}; ///< empty: as the environment says
     bool showDialog = true;
     bool dryRun = false;                              ///< say what would be sent, and send nothing
     QString output = {};                              ///< a PDF file to write instead of printing

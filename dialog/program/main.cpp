@@ -141,8 +141,8 @@ int runUnseen(const CommandLine& line)
 
 int run(const CommandLine& line)
 {
-    if (!line.server.isEmpty())
-        qputenv("CUPS_SERVER", line.server.toUtf8());
+    if (!line.request.server.isEmpty())
+        qputenv("CUPS_SERVER", line.request.server.toUtf8());
     return line.listing.what == Listing::none && line.showDialog ? runDialog(line) : runUnseen(line);
 }
 

@@ -196,7 +196,7 @@ QString DialogSession::command() const
 {
     const std::vector<size_t> chosen = chosenPages().pages;
     return commandToRepeat({printerName(), photos(), photos_.leftOut(), chosen, *model(), printerDefaults(),
-                            printer_.savedOptions(), jobInputs(), page(), page_.layouts()});
+                            printer_.savedOptions(), jobInputs(), page(), page_.layouts(), request_.server});
 }
 
 } // namespace halvern

@@ -157,6 +157,7 @@ QString commandToRepeat(const SessionToRepeat& session)
     JobToRepeat job;
     const PageSettings& page = session.page;
     job.printer = session.printer;
+    job.server = session.server;
     const std::vector<ReadPage> pages = pagesOfFiles(session.photos, session.leftOut);
     job.files = filesOf(pages);
     const UnderstoodOptions saved =

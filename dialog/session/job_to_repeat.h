@@ -19,6 +19,7 @@ struct SessionToRepeat {
     JobInputs inputs;
     const PageSettings& page;
     const LayoutLibrary& layouts;
+    QString server = {}; ///< that was named for this session; empty: none
 };
 
 /// The command line, quoted for a shell. On the model's thread.

@@ -66,6 +66,7 @@ struct SessionRequest {
     bool namesSheets = false; ///< somebody said how photos are put on sheets, so no preset decides it
     ColourSettings colours = {};
     bool namesColours = false; ///< somebody said who converts them, so no preset decides it
+    QString server = {};       ///< that the process was told to use; empty: nobody said
 };
 
 } // namespace halvern

@@ -96,10 +96,12 @@ TEST_F(DialogServerTest, ACopiedCommandLeavesOutThePagesThatTheUserDid)
 {
     SessionRequest two = request(q("Tessarin"));
     two.files = {writeFile(folder.filePath(q("three.tif")), tiffOf({0, 0, 0})), photoPath()};
+    two.server = q("print.example:631");
     DialogSession session(two, panels);
     ASSERT_TRUE(isReady(session));
     ASSERT_EQ(session.photos().size(), 4u);
     EXPECT_FALSE(session.command().contains(q("--pages")));
+    EXPECT_TRUE(session.command().contains(q(" --server print.example:631 -d ")));
     // As the preview finds it out, one after the other.
     for (const auto& [place, pages] : {std::pair(1, " --pages 1,3-4 "), std::pair(0, " --pages 3-4 ")}) {
         const Photo photo = session.photos()[size_t(place)];
