@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/session/plugin_loader.h"
+#include "dialog/window/access_dialogs.h"
 #include "portal/life.h"
 #include "portal/portal_call.h"
 
@@ -71,6 +72,7 @@ private:
     bool isOnItsWay() const;
 
     PortalTimes times_;
+    AccessDialogs access_{nullptr}; ///< for documents that are sent without a dialog
     PluginLoader panels_;
     TokenStore tokens_;
     Notices notices_;

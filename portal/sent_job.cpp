@@ -32,11 +32,15 @@ SentJob::SentJob(PortalRoom room, const QString& application, std::unique_ptr<Pr
 void SentJob::takeStatus(const JobStatus& status, const QString& sentence)
 {
     const bool waitsForSomebody =
-        (status.stage == JobStage::stopped || status.stage == JobStage::blocked) && !told_.contains(sentence);
-    if (!waitsForSomebody)
+        status.stage == JobStage::stopped || status.stage == JobStage::blocked || isHeldForLogin(status);
+    if (!waitsForSomebody || told_.contains(sentence))
         return;
     told_.insert(sentence);
-    room_.notices.tell(application_, sentence, keepsAlive_);
+    const QString advice =
+        isHeldForLogin(status)
+            ? QLatin1Char(' ') + tr("Sign in for it in the list of jobs: \"Jobs...\" in the print dialog.")
+            : QString();
+    room_.notices.tell(application_, sentence + advice, keepsAlive_);
 }
 
 void SentJob::giveUp()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "dialog/window/login_dialog.h"
 #include "dialog/window/print_dialog.h"
 #include "dialog/window/review_switch.h"
 #include "portal/print_call.h"
@@ -13,6 +14,7 @@
 #include <QComboBox>
 #include <QDBusConnection>
 #include <QDBusPendingReply>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
@@ -147,9 +149,9 @@ protected:
         return waitUntil([&] { return print->isEnabled(); }) ? dialog : nullptr;
     }
 
-    QVariantMap accept(int copies)
+    QVariantMap accept(int copies, const QString& printer = q("Tessarin"))
     {
-        const Answer answer = prepare({{q("n-copies"), QString::number(copies)}});
+        const Answer answer = prepare({{q("n-copies"), QString::number(copies)}, {q("printer"), printer}});
         readyDialog()->findChild<QPushButton*>(q("printButton"))->click();
         EXPECT_TRUE(isAnswered(answer));
         EXPECT_EQ(answer.argumentAt<0>(), 0U);
@@ -207,6 +209,23 @@ TEST_F(Portal, ShowsTheDocumentFirstIfTheUserWantsTo)
     EXPECT_EQ(sheetsOf(*server, lastJob()), 4);
     dialog->reject();
     std::unique_ptr<QCheckBox>(makeReviewSwitch(nullptr))->setChecked(false);
+}
+
+TEST_F(Portal, AsksForThePrintersPasswordAfterTheDialog)
+{
+    const QString guarded = q("Guarded");
+    ASSERT_TRUE(
+        server->addQueue(guarded, {}, {}, {q("--option"), q("auth-info-required=username,password")}));
+    const Answer printed = print(twoPages(), {{q("token"), accept(1, guarded).value(q("token"))}});
+    LoginDialog* login = nullptr;
+    ASSERT_TRUE(waitUntil([&] { return (login = shown<LoginDialog>()); }));
+    EXPECT_FALSE(shown<PrintDialog>());
+    login->findChild<QLineEdit*>(q("loginPassword"))->setText(q("secret"));
+    login->findChild<QPushButton*>(q("signIn"))->click();
+    ASSERT_TRUE(isAnswered(printed));
+    EXPECT_EQ(printed.argumentAt<0>(), 0U);
+    EXPECT_TRUE(waitUntil([this] { return !service.findChild<SentJob*>(); }));
+    EXPECT_EQ(sheetsOf(*server, lastJob()), 2);
 }
 
 TEST_F(Portal, TellsTheUserWhatCannotBePrinted)
