@@ -1117,6 +1117,14 @@
         <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Drucken Sie ihn mit „lp -i %1 -H restart“ erneut oder brechen Sie ihn mit „cancel %2-%1“ ab.</translation>
     </message>
+    <message>
+        <source>Job %1 is held on &quot;%2&quot;: the printer wants a name and a password%3.</source>
+        <translation>Auftrag %1 ist auf „%2“ zurückgehalten: Der Drucker verlangt einen Namen und ein Passwort%3.</translation>
+    </message>
+    <message>
+        <source>Give them with &quot;halvern-print --jobs --sign-in %1&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
+        <translation>Geben Sie beides mit „halvern-print --jobs --sign-in %1“ an oder brechen Sie den Auftrag mit „cancel %2-%1“ ab.</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmitter</name>
@@ -1306,6 +1314,10 @@
         <source>Job</source>
         <translation>Auftrag</translation>
     </message>
+    <message>
+        <source>You have no job %1 on &quot;%2&quot;. --jobs --ended lists yours.</source>
+        <translation>Sie haben keinen Auftrag %1 auf „%2“. --jobs --ended listet Ihre auf.</translation>
+    </message>
 </context>
 <context>
     <name>ListPapers</name>
@@ -1457,6 +1469,10 @@
     <message>
         <source>It had: %1</source>
         <translation>Er hatte: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 encrypted before, and does not any more. It may have been set up anew, or somebody else may be answering in its place. What you print there could be read on its way.</source>
+        <translation>Der Druckserver unter %1 hat bisher verschlüsselt und tut es nicht mehr. Vielleicht wurde er neu eingerichtet, vielleicht antwortet aber jemand anders an seiner Stelle. Was Sie dort drucken, könnte unterwegs mitgelesen werden.</translation>
     </message>
 </context>
 <context>
@@ -2060,6 +2076,13 @@
     <message>
         <source>Printing on %1</source>
         <translation>Drucken auf %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerCertificate</name>
+    <message>
+        <source>a certificate whose file cannot be read any more</source>
+        <translation>ein Zertifikat, dessen Datei nicht mehr gelesen werden kann</translation>
     </message>
 </context>
 <context>
@@ -4678,6 +4701,10 @@
     <message>
         <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
         <translation>Das Dokument wurde nicht gedruckt: Die Sitzung endete, bevor der Druckserver es ganz hatte. Drucken Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Sign in for it in the list of jobs: &quot;Jobs...&quot; in the print dialog.</source>
+        <translation>Melden Sie sich dafür in der Liste der Aufträge an: „Aufträge ...“ im Druckdialog.</translation>
     </message>
 </context>
 <context>

@@ -1117,6 +1117,14 @@
         <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Imprímalo otra vez con «lp -i %1 -H restart» o cancélelo con «cancel %2-%1».</translation>
     </message>
+    <message>
+        <source>Job %1 is held on &quot;%2&quot;: the printer wants a name and a password%3.</source>
+        <translation>El trabajo %1 está retenido en «%2»: la impresora pide un nombre y una contraseña%3.</translation>
+    </message>
+    <message>
+        <source>Give them with &quot;halvern-print --jobs --sign-in %1&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
+        <translation>Indíquelos con «halvern-print --jobs --sign-in %1» o cancele el trabajo con «cancel %2-%1».</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmitter</name>
@@ -1306,6 +1314,10 @@
         <source>Job</source>
         <translation>Trabajo</translation>
     </message>
+    <message>
+        <source>You have no job %1 on &quot;%2&quot;. --jobs --ended lists yours.</source>
+        <translation>No tiene ningún trabajo %1 en «%2». --jobs --ended muestra los suyos.</translation>
+    </message>
 </context>
 <context>
     <name>ListPapers</name>
@@ -1457,6 +1469,10 @@
     <message>
         <source>It had: %1</source>
         <translation>Tenía: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 encrypted before, and does not any more. It may have been set up anew, or somebody else may be answering in its place. What you print there could be read on its way.</source>
+        <translation>El servidor de impresión %1 cifraba antes y ya no lo hace. Puede que se haya configurado de nuevo, o que otro esté respondiendo en su lugar. Lo que imprima en él podría leerse por el camino.</translation>
     </message>
 </context>
 <context>
@@ -2060,6 +2076,13 @@
     <message>
         <source>Printing on %1</source>
         <translation>Impresión en %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerCertificate</name>
+    <message>
+        <source>a certificate whose file cannot be read any more</source>
+        <translation>un certificado cuyo archivo ya no se puede leer</translation>
     </message>
 </context>
 <context>
@@ -4678,6 +4701,10 @@
     <message>
         <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
         <translation>El documento no se imprimió: la sesión terminó antes de que el servidor de impresión lo tuviera entero. Imprímalo otra vez.</translation>
+    </message>
+    <message>
+        <source>Sign in for it in the list of jobs: &quot;Jobs...&quot; in the print dialog.</source>
+        <translation>Identifíquese para él en la lista de trabajos: «Trabajos...» en el diálogo de impresión.</translation>
     </message>
 </context>
 <context>

@@ -1117,6 +1117,14 @@
         <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>Réimprimez-la avec « lp -i %1 -H restart » ou annulez-la avec « cancel %2-%1 ».</translation>
     </message>
+    <message>
+        <source>Job %1 is held on &quot;%2&quot;: the printer wants a name and a password%3.</source>
+        <translation>La tâche %1 est retenue sur « %2 » : l’imprimante demande un nom et un mot de passe%3.</translation>
+    </message>
+    <message>
+        <source>Give them with &quot;halvern-print --jobs --sign-in %1&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
+        <translation>Donnez-les avec « halvern-print --jobs --sign-in %1 », ou annulez la tâche avec « cancel %2-%1 ».</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmitter</name>
@@ -1306,6 +1314,10 @@
         <source>Job</source>
         <translation>Tâche</translation>
     </message>
+    <message>
+        <source>You have no job %1 on &quot;%2&quot;. --jobs --ended lists yours.</source>
+        <translation>Vous n’avez pas de tâche %1 sur « %2 ». --jobs --ended affiche les vôtres.</translation>
+    </message>
 </context>
 <context>
     <name>ListPapers</name>
@@ -1457,6 +1469,10 @@
     <message>
         <source>It had: %1</source>
         <translation>Il avait : %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 encrypted before, and does not any more. It may have been set up anew, or somebody else may be answering in its place. What you print there could be read on its way.</source>
+        <translation>Le serveur d’impression %1 chiffrait auparavant et ne le fait plus. Il a peut-être été reconfiguré, ou quelqu’un d’autre répond peut-être à sa place. Ce que vous y imprimez pourrait être lu en chemin.</translation>
     </message>
 </context>
 <context>
@@ -2060,6 +2076,13 @@
     <message>
         <source>Printing on %1</source>
         <translation>Impression sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerCertificate</name>
+    <message>
+        <source>a certificate whose file cannot be read any more</source>
+        <translation>un certificat dont le fichier ne peut plus être lu</translation>
     </message>
 </context>
 <context>
@@ -4678,6 +4701,10 @@
     <message>
         <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
         <translation>Le document n’a pas été imprimé : la session s’est terminée avant que le serveur d’impression l’ait en entier. Imprimez-le encore une fois.</translation>
+    </message>
+    <message>
+        <source>Sign in for it in the list of jobs: &quot;Jobs...&quot; in the print dialog.</source>
+        <translation>Connectez-vous pour elle dans la liste des tâches : « Tâches… » dans le dialogue d’impression.</translation>
     </message>
 </context>
 <context>

@@ -1117,6 +1117,14 @@
         <source>Print it again with &quot;lp -i %1 -H restart&quot;, or cancel it with &quot;cancel %2-%1&quot;.</source>
         <translation>「lp -i %1 -H restart」でもう一度印刷するか、「cancel %2-%1」でキャンセルしてください。</translation>
     </message>
+    <message>
+        <source>Job %1 is held on &quot;%2&quot;: the printer wants a name and a password%3.</source>
+        <translation>ジョブ %1 は「%2」で保留されています。プリンターに名前とパスワードが必要です%3。</translation>
+    </message>
+    <message>
+        <source>Give them with &quot;halvern-print --jobs --sign-in %1&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
+        <translation>「halvern-print --jobs --sign-in %1」で入力するか、「cancel %2-%1」でジョブを取り消してください。</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmitter</name>
@@ -1306,6 +1314,10 @@
         <source>Job</source>
         <translation>ジョブ</translation>
     </message>
+    <message>
+        <source>You have no job %1 on &quot;%2&quot;. --jobs --ended lists yours.</source>
+        <translation>「%2」に自分のジョブ %1 はありません。--jobs --ended で一覧が見られます。</translation>
+    </message>
 </context>
 <context>
     <name>ListPapers</name>
@@ -1457,6 +1469,10 @@
     <message>
         <source>It had: %1</source>
         <translation>以前の証明書: %1</translation>
+    </message>
+    <message>
+        <source>The print server at %1 encrypted before, and does not any more. It may have been set up anew, or somebody else may be answering in its place. What you print there could be read on its way.</source>
+        <translation>プリントサーバー %1 は以前は暗号化していましたが、今はしていません。設定し直されたのかもしれませんが、別のものが代わりに応答しているおそれもあります。印刷する内容が途中で読まれるおそれがあります。</translation>
     </message>
 </context>
 <context>
@@ -2060,6 +2076,13 @@
     <message>
         <source>Printing on %1</source>
         <translation>%1 での印刷</translation>
+    </message>
+</context>
+<context>
+    <name>ServerCertificate</name>
+    <message>
+        <source>a certificate whose file cannot be read any more</source>
+        <translation>ファイルを読み取れなくなった証明書</translation>
     </message>
 </context>
 <context>
@@ -4678,6 +4701,10 @@
     <message>
         <source>The document was not printed: the session ended before the print server had all of it. Print it once more.</source>
         <translation>文書は印刷されませんでした。プリントサーバーにすべて届く前にセッションが終わりました。もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>Sign in for it in the list of jobs: &quot;Jobs...&quot; in the print dialog.</source>
+        <translation>印刷ダイアログの「ジョブ...」を開き、ジョブの一覧でサインインしてください。</translation>
     </message>
 </context>
 <context>
