@@ -382,8 +382,8 @@ void PanelDeck::takeShownView()
     if (!before)
         return;
     before->hide();
-    if (before == page_ || before == options_ || before == job_ || before == photo_ || before == summary_ ||
-        before == empty_ || before == previewPage_)
+    if (before == page_ || before == options_ || before == layout_ || before == job_ || before == photo_ ||
+        before == printer_ || before == summary_ || before == empty_ || before == previewPage_)
         before->setParent(this);
 }
 
