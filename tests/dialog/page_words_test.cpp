@@ -21,7 +21,7 @@ TEST(PageWords, EveryTextOfThePrintersOptionsIsTranslated)
 {
     const auto model = tessarinModel();
     ASSERT_TRUE(model);
-    for (const char* language : {"de", "fr", "es", "ja"}) {
+    for (const char* language : {"ar", "de", "fr", "es", "ja"}) {
         QTranslator words;
         ASSERT_TRUE(words.load(q(HALVERN_TEST_BUNDLE "/Resources/tessarin_") + QLatin1StringView(language)));
         const auto has = [&](const QString& text) {

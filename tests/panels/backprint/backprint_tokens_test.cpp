@@ -32,7 +32,7 @@ protected:
 
 TEST_F(BackprintTokensTest, EveryTokenHasAReadableTitleInEveryLanguage)
 {
-    for (const char* language : {"en_US", "de_DE", "fr_FR", "es_ES", "ja_JP"}) {
+    for (const char* language : {"en_US", "de_DE", "fr_FR", "es_ES", "ar_EG", "ja_JP"}) {
         useBuiltBundle(q(language));
         close();
         open();
