@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "portal/front_end.h"
 
+#include "platform/foundation/list_text.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -216,7 +218,7 @@ FrontEndAnswer checkFrontEnd(const FrontEnd& frontEnd)
         return {false,
                 Words::tr("The portal (%1) does not know this program: there is no tessarin.portal in %2. "
                           "Install it there.")
-                    .arg(version, frontEnd.portalFolders.join(QStringLiteral(", ")))};
+                    .arg(version, listText(frontEnd.portalFolders))};
     const QString winner = chosen(frontEnd, offered);
     if (isOurs(winner))
         return {true, Words::tr("The portal (%1) chooses this program for printing.").arg(version)};

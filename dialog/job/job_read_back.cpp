@@ -3,6 +3,7 @@
 
 #include "dialog/job/ipp_options.h"
 #include "platform/foundation/display_text.h"
+#include "platform/foundation/list_text.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
@@ -78,7 +79,7 @@ QString listed(QStringList texts)
 {
     if (texts.size() > kMostTold)
         texts = texts.mid(0, kMostTold) << QStringLiteral("\u2026");
-    return texts.join(QStringLiteral(", "));
+    return listText(texts);
 }
 
 } // namespace

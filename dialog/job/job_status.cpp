@@ -3,6 +3,7 @@
 
 #include "dialog/job/auth_info.h"
 #include "dialog/server/state_reasons.h"
+#include "platform/foundation/list_text.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QCoreApplication>
@@ -224,7 +225,7 @@ QString jobReasons(const JobStatus& status)
     const QString message = mayBeTheReason(status) ? messageText(status.message) : QString();
     if (!message.isEmpty() && !texts.contains(message, Qt::CaseInsensitive))
         texts.append(message);
-    return texts.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(texts.join(QStringLiteral(", ")));
+    return texts.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(listText(texts));
 }
 
 QString jobSentence(const JobStatus& status, const QString& printer, int jobId)

@@ -2,6 +2,7 @@
 #include "dialog/job/print_run.h"
 
 #include "dialog/job/page_stream.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/threads/work_queue.h"
 
 #include <QFile>
@@ -325,10 +326,10 @@ void PrintRun::finishLeft()
     QStringList ids;
     for (const int id : sent_.ids)
         ids.append(QString::number(id));
-    finish({false, sent_.ids.last(), JobStage::waiting,
-            tr("Stopped. These jobs are on the queue \"%1\" and stay there: %2.")
-                .arg(job_.queue, ids.join(QStringLiteral(", "))),
-            true});
+    finish(
+        {false, sent_.ids.last(), JobStage::waiting,
+         tr("Stopped. These jobs are on the queue \"%1\" and stay there: %2.").arg(job_.queue, listText(ids)),
+         true});
 }
 
 void PrintRun::apply(Remedy remedy)

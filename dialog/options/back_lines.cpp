@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/back_lines.h"
 
+#include "platform/foundation/list_text.h"
 #include "platform/maker/backprint_text.h"
 
 #include <QCoreApplication>
@@ -27,7 +28,7 @@ QString eachOnce(const QString& characters)
     for (const uint character : characters.toUcs4())
         names.append(nameOf(character));
     names.removeDuplicates();
-    return names.join(QStringLiteral(", "));
+    return listText(names);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_lookup.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/near_names.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
@@ -318,14 +319,12 @@ bool isJobAttribute(const QString& key)
 QString meantSentence(const QString& wanted, const QStringList& names)
 {
     const QStringList near = nearNames(wanted, names);
-    return near.isEmpty()
-               ? QString()
-               : QLatin1Char(' ') + Words::tr("Did you mean %1?").arg(near.join(QStringLiteral(", ")));
+    return near.isEmpty() ? QString() : QLatin1Char(' ') + Words::tr("Did you mean %1?").arg(listText(near));
 }
 
 QString listSentence(const QString& wanted, const QStringList& names)
 {
-    const QString list = names.mid(0, kMostListed).join(QStringLiteral(", "));
+    const QString list = listText(names.mid(0, kMostListed));
     const qsizetype more = names.size() - kMostListed;
     return meantSentence(wanted, names) + QLatin1Char(' ') +
            (more > 0 ? Words::tr("It has: %1 and %2 more.").arg(list, QString::number(more))

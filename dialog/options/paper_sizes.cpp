@@ -3,6 +3,7 @@
 
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_model.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -273,7 +274,7 @@ void liftTrays(std::vector<PaperSize>& sizes, const PpdModel& model, const QList
         loaded.back().tray = i;
         QStringList place{trayText(model, trays[i]), paperTypeText(model, trays[i])};
         place.removeAll(QString());
-        loaded.back().place = place.join(QStringLiteral(", "));
+        loaded.back().place = listText(place);
     }
     std::erase_if(sizes, [&](const PaperSize& known) {
         return std::ranges::find(loaded, known.keyword, &PaperSize::keyword) != loaded.end();

@@ -3,6 +3,7 @@
 #include "dialog/options/ppd_model.h"
 
 #include "dialog/options/conflict_solver.h"
+#include "platform/foundation/list_text.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <algorithm>
@@ -145,7 +146,7 @@ QString PpdModel::clashText(const QString& key, const Constraint& constraint) co
             others.append(
                 tr("%1: %2").arg(optionText(side.option), choiceText(side.option, value(side.option))));
     }
-    return tr("not with %1").arg(others.join(QStringLiteral(", ")));
+    return tr("not with %1").arg(listText(others));
 }
 
 QList<SideChange> PpdModel::alsoChanges(const QString& key, const QString& choice,

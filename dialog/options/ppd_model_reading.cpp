@@ -4,6 +4,7 @@
 #include "dialog/options/ppd_lookup.h"
 #include "dialog/options/ppd_model.h"
 
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -138,7 +139,7 @@ QString PpdModel::unlistedText(const QString& key, const QString& value) const
         QStringList texts;
         for (const QString& choice : value.split(QLatin1Char(',')))
             texts.append(choiceText(key, choice));
-        return texts.join(QStringLiteral(", "));
+        return listText(texts);
     }
     if (ppd_lookup::hasSecret(file_.get(), key))
         return value.isEmpty() ? QString() : concealed();

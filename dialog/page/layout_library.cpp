@@ -2,6 +2,7 @@
 #include "dialog/page/layout_library.h"
 
 #include "platform/foundation/display_text.h"
+#include "platform/foundation/list_text.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -131,7 +132,7 @@ QString LayoutLibrary::unknownText(const QString& id) const
         ids.append(layout.id);
     return Words::tr("There is no layout \"%1\". There are: %2; and rows x columns, such as 3x4, and sizes, "
                      "such as 90x130mm.")
-        .arg(displayText(id, kLongestName), ids.join(QStringLiteral(", ")));
+        .arg(displayText(id, kLongestName), listText(ids));
 }
 
 QString LayoutLibrary::save(Layout layout, const QString& name, QString* id)

@@ -3,6 +3,7 @@
 
 #include "dialog/program/terminal_table.h"
 #include "platform/foundation/display_text.h"
+#include "platform/foundation/list_text.h"
 #include "platform/printing/ppd.h"
 
 #include <QCoreApplication>
@@ -63,7 +64,7 @@ QString resolutionsText(QList<int> dotsPerInch)
     QStringList texts;
     for (const int dpi : dotsPerInch)
         texts.append(QString::number(dpi));
-    return texts.join(QStringLiteral(", ")) + QStringLiteral(" dpi");
+    return listText(texts) + QStringLiteral(" dpi");
 }
 
 } // namespace
@@ -100,7 +101,7 @@ QString paperTable(const LoadedPapers& loaded, ppd_file_t* file,
             rows.append({terminalText(rolls ? paper.width : paper.sheetName),
                          paper.surface.isEmpty() ? QStringLiteral("-")
                                                  : terminalText(surfaces.ofKeyword(paper.surface)),
-                         resolutionsText(paper.dotsPerInch), toneTexts.join(QStringLiteral(", "))});
+                         resolutionsText(paper.dotsPerInch), listText(toneTexts)});
         }
     }
     return alignedColumns(rows);

@@ -3,6 +3,7 @@
 
 #include "dialog/server/printer_questions.h"
 #include "dialog/server/server_events.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/near_names.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/cups_ppd.h"
@@ -81,7 +82,7 @@ QString stateText(const PrinterInfo& printer)
         reasons.append(text);
     if (!printer.low.isEmpty())
         reasons.append(printer.low);
-    return reasons.isEmpty() ? state : state + QStringLiteral(": ") + reasons.join(QStringLiteral(", "));
+    return reasons.isEmpty() ? state : state + QStringLiteral(": ") + listText(reasons);
 }
 
 Severity stateSeverity(const PrinterInfo& printer)
@@ -134,7 +135,7 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
         names.removeDuplicates();
         names.resize(kMostNamed);
     }
-    const QString list = names.join(QStringLiteral(", "));
+    const QString list = listText(names);
     if (count == names.size())
         return Words::tr("The print server has no printer \"%1\". It has: %2.").arg(name, list);
     return Words::tr("The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")

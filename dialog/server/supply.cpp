@@ -3,6 +3,7 @@
 
 #include "dialog/server/answer_text.h"
 #include "platform/foundation/display_text.h"
+#include "platform/foundation/list_text.h"
 
 #include <QCoreApplication>
 
@@ -214,7 +215,7 @@ QString supplyName(const Supply& supply)
             colours.append(text);
     }
     if (!colours.isEmpty())
-        return colours.join(QStringLiteral(", "));
+        return listText(colours);
     if (supply.fillsUp)
         return Words::tr("Waste tank");
     return isInk(supply) ? Words::tr("Ink") : Words::tr("Supply");
@@ -253,7 +254,7 @@ QString lowSupplies(const QList<Supply>& supplies, bool inColour)
             parts.append(supply.fillsUp ? Words::tr("%1 is nearly full (%2)").arg(name, share)
                                         : Words::tr("%1 is low (%2)").arg(name, share));
     }
-    return parts.join(QStringLiteral(", "));
+    return listText(parts);
 }
 
 } // namespace halvern

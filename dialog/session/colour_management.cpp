@@ -6,6 +6,7 @@
 #include "dialog/page/colour_service.h"
 #include "dialog/session/driver_colours.h"
 #include "platform/foundation/display_text.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/cups_ppd.h"
 
@@ -192,10 +193,10 @@ QString ColourManagement::inWords(const ColourSettings& settings, const PpdModel
                                                 model->choiceText(value.key, value.value)));
         return list;
     }();
-    sentence +=
-        QLatin1Char(' ') + (texts.isEmpty() ? Words::tr("See that the printer's own color correction is off.")
-                                            : Words::tr("The printer is told not to convert them again (%1).")
-                                                  .arg(texts.join(QStringLiteral(", "))));
+    sentence += QLatin1Char(' ') +
+                (texts.isEmpty()
+                     ? Words::tr("See that the printer's own color correction is off.")
+                     : Words::tr("The printer is told not to convert them again (%1).").arg(listText(texts)));
     const QString whyNoProof = this->whyNoProof(settings, model);
     return whyNoProof.isEmpty() ? sentence : sentence + QLatin1Char(' ') + whyNoProof;
 }

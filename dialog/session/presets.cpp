@@ -2,6 +2,7 @@
 #include "dialog/session/presets.h"
 
 #include "dialog/session/preset_use.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/near_names.h"
 
 #include <QCoreApplication>
@@ -248,8 +249,8 @@ QString Presets::unknownText(const QString& name) const
     }
     const QStringList near = nearNames(name, names);
     const QString sentence = tr("\"%1\" has no preset \"%2\".").arg(queue_, name) + QLatin1Char(' ');
-    return near.isEmpty() ? sentence + tr("It has: %1.").arg(names.join(QStringLiteral(", ")))
-                          : sentence + tr("Did you mean %1?").arg(near.join(QStringLiteral(", ")));
+    return near.isEmpty() ? sentence + tr("It has: %1.").arg(listText(names))
+                          : sentence + tr("Did you mean %1?").arg(listText(near));
 }
 
 } // namespace halvern

@@ -2,6 +2,7 @@
 #include "dialog/session/sheet_words.h"
 
 #include "dialog/options/back_lines.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/numbers.h"
 #include "platform/maker/backprint_text.h"
 
@@ -119,7 +120,7 @@ QString layoutInWords(const SheetSettings& settings, const LayoutLibrary& layout
         parts << Words::tr("with cut marks");
     if (settings.border > 0.0)
         parts << Words::tr("white border %1 mm").arg(shortestDouble(settings.border));
-    return parts.join(QStringLiteral(", "));
+    return listText(parts);
 }
 
 QMap<QString, QString> sheetTexts(const SheetSettings& settings)

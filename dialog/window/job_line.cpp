@@ -2,6 +2,7 @@
 #include "dialog/window/job_line.h"
 
 #include "dialog/job/job_in_words.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QEvent>
@@ -46,14 +47,14 @@ void JobLine::refresh()
     const JobInWords job = session_.jobInWords();
     QStringList parts;
     for (const QString& part : job.parts)
-        parts.append(isolated(part, kLongestPart));
-    QString markup = markupText(parts.join(QStringLiteral(", ")));
+        parts.append(markupText(isolated(part, kLongestPart)));
     for (const auto& [words, form] :
-         {std::pair(job.problem, QStringLiteral(", <b><font color=\"%1\">%2</font></b>")),
-          std::pair(job.warning, QStringLiteral(", <font color=\"%1\">%2</font>"))}) {
+         {std::pair(job.problem, QStringLiteral("<b><font color=\"%1\">%2</font></b>")),
+          std::pair(job.warning, QStringLiteral("<font color=\"%1\">%2</font>"))}) {
         if (!words.isEmpty())
-            markup += form.arg(warningColour(palette()), markupText(isolated(words, kLongestWarning)));
+            parts.append(form.arg(warningColour(palette()), markupText(isolated(words, kLongestWarning))));
     }
+    const QString markup = listText(parts);
     // Laying the same words out again costs more than working them out.
     if (markup == shown_)
         return;

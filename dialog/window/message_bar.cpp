@@ -144,10 +144,10 @@ MessageBar::MessageBar(QWidget* parent)
 QLayout* MessageBar::makePager()
 {
     back_->setObjectName(QStringLiteral("messageBack"));
-    back_->setArrowType(Qt::LeftArrow);
+    back_->setArrowType(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
     number_->setObjectName(QStringLiteral("messageNumber"));
     forward_->setObjectName(QStringLiteral("messageForward"));
-    forward_->setArrowType(Qt::RightArrow);
+    forward_->setArrowType(isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
     connect(back_, &QToolButton::clicked, this, [this] { step(-1); });
     connect(forward_, &QToolButton::clicked, this, [this] { step(1); });
     auto* pager = new QHBoxLayout;

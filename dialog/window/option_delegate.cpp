@@ -4,6 +4,7 @@
 #include "dialog/options/option_tree.h"
 #include "dialog/window/choice_list.h"
 #include "dialog/window/custom_field.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QApplication>
@@ -130,7 +131,7 @@ QString OptionDelegate::alsoChanges(const QString& key, const QString& choice) c
     QStringList texts;
     for (const SideChange& change : session_.alsoChanges(key, choice))
         texts.append(tr("%1 to %2").arg(change.optionText, change.choiceText));
-    return texts.isEmpty() ? QString() : tr("also sets %1").arg(texts.join(QStringLiteral(", ")));
+    return texts.isEmpty() ? QString() : tr("also sets %1").arg(listText(texts));
 }
 
 void OptionDelegate::finish(QWidget* editor)

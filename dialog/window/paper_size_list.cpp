@@ -2,6 +2,7 @@
 #include "dialog/window/paper_size_list.h"
 
 #include "dialog/window/search_box.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QLocale>
@@ -83,8 +84,7 @@ QVariant PaperSizeList::data(const QModelIndex& index, int role) const
     case Qt::AccessibleDescriptionRole:
         return size.obstacle;
     case Qt::AccessibleTextRole:
-        return QStringList{size.text, size.place, measures(), groupText(size.group)}.join(
-            QStringLiteral(", "));
+        return listText({size.text, size.place, measures(), groupText(size.group)});
     case kDetailRole:
         return size.place.isEmpty() ? measures() : displayText(size.place);
     case kGroupRole:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/photo_page.h"
 
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -27,8 +28,8 @@ QString timeText(const QString& taken)
     if (!time.isValid())
         return taken;
     // Cameras know no time zone.
-    return QLocale().toString(time.date(), QLocale::LongFormat) + QStringLiteral(", ") +
-           QLocale().toString(time.time(), QLocale::ShortFormat);
+    return listText({QLocale().toString(time.date(), QLocale::LongFormat),
+                     QLocale().toString(time.time(), QLocale::ShortFormat)});
 }
 
 QString number(double value)
@@ -49,7 +50,7 @@ QString exposureText(const PhotoDetails& details)
         parts.append(PhotoPage::tr("ISO %1").arg(details.sensitivity));
     if (details.focalLength > 0.0)
         parts.append(PhotoPage::tr("%1 mm").arg(number(details.focalLength)));
-    return parts.join(QStringLiteral(", "));
+    return listText(parts);
 }
 
 QString colourText(const PhotoFacts& facts)

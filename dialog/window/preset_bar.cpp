@@ -3,6 +3,7 @@
 
 #include "dialog/session/dialog_session.h"
 #include "dialog/window/preset_name_dialog.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QComboBox>
@@ -89,8 +90,7 @@ PresetBar::PresetBar(DialogSession& session, QWidget* parent)
         QStringList shown;
         for (const QString& name : names.mid(0, 5))
             shown.append(isolated(name, int(kLongestPresetName)));
-        Q_EMIT told(tr("Read from the file, and not applied yet: %1").arg(shown.join(QStringLiteral(", "))),
-                    {});
+        Q_EMIT told(tr("Read from the file, and not applied yet: %1").arg(listText(shown)), {});
     });
     fillMenu();
     fill();

@@ -39,8 +39,8 @@ PreviewSide::PreviewSide(DialogSession& session, QWidget* window)
       preview_(new PreviewWidget(this)),
       pager_(new QWidget(this)),
       pageNumber_(new QLabel(pager_)),
-      back_(makeArrow(Qt::LeftArrow, tr("Previous photo"), pager_)),
-      forward_(makeArrow(Qt::RightArrow, tr("Next photo"), pager_))
+      back_(makeArrow(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow, tr("Previous photo"), pager_)),
+      forward_(makeArrow(isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow, tr("Next photo"), pager_))
 {
     preview_->setMinimumSize(220, 180);
     makePager();

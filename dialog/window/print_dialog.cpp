@@ -14,6 +14,7 @@
 #include "dialog/window/printer_rows.h"
 #include "dialog/window/run_bar.h"
 #include "dialog/window/search_box.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/wheel_guard.h"
 
@@ -439,7 +440,7 @@ QString PrintDialog::inWords(const QList<SideChange>& changes) const
     QStringList texts;
     for (const SideChange& change : changes)
         texts.append(tr("%1: %2").arg(change.optionText, change.choiceText));
-    return texts.join(QStringLiteral(", "));
+    return listText(texts);
 }
 
 void PrintDialog::offerUndo(const QString& sentence)

@@ -5,6 +5,7 @@
 #include "dialog/job/job_in_words.h"
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/preview_side.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QPushButton>
@@ -44,7 +45,7 @@ void PrintDialog::showDocument()
                            : tr("The application makes its pages afterwards, for this sheet."));
     const QStringList paper = session_.jobInWords().parts.mid(0, kPaperParts);
     if (!paper.isEmpty())
-        sheet.lines.append(displayText(paper.join(QStringLiteral(", "))));
+        sheet.lines.append(displayText(listText(paper)));
     previewSide_->showBlank(sheet);
     setPlainTitle(this, application.isEmpty() ? tr("Print") : tr("Print - %1").arg(application));
 }

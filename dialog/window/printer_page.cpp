@@ -2,6 +2,7 @@
 #include "dialog/window/printer_page.h"
 
 #include "dialog/window/supply_bars.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QFormLayout>
@@ -86,7 +87,7 @@ QString PrinterPage::membersText(const QStringList& members) const
         texts.append(tr("%1 (%2)").arg(isolated(name), printer ? isolated(stateText(*printer))
                                                                : tr("not on the print server")));
     }
-    return texts.join(QStringLiteral(", "));
+    return listText(texts);
 }
 
 void PrinterPage::refresh()

@@ -2,6 +2,7 @@
 #include "dialog/window/printer_rows.h"
 
 #include "dialog/window/search_box.h"
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ QString membersText(const PrinterInfo& printer, const std::vector<PrinterInfo>& 
                            ? isolated(name)
                            : PrinterRows::tr("%1: %2").arg(isolated(name), isolated(stateText(*member))));
     }
-    return displayText(members.join(QStringLiteral(", ")), kLongestState);
+    return displayText(listText(members), kLongestState);
 }
 
 QString detailText(const PrinterInfo& printer, const std::vector<PrinterInfo>& all)
@@ -129,7 +130,7 @@ QVariant PrinterRows::data(const QModelIndex& index, int role) const
     case Qt::UserRole:
         return printer.name;
     case Qt::AccessibleTextRole:
-        return QString(rowText(printer) + QStringLiteral(", ") + detailText(printer, printers_));
+        return listText({rowText(printer), detailText(printer, printers_)});
     case kDetailRole:
         return detailText(printer, printers_);
     case kGroupRole:

@@ -4,10 +4,12 @@
 #include "dialog/job/job_in_words.h"
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/folded_list.h"
+#include "platform/foundation/list_text.h"
 #include "platform/foundation/numbers.h"
 #include "platform/maker/backprint_text.h"
 #include "platform/maker/summary_rules.h"
 #include "platform/toolkit/plain_text.h"
+#include "platform/toolkit/table_markup.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -17,6 +19,8 @@
 #include <QPushButton>
 #include <QSet>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace halvern {
 
@@ -49,8 +53,9 @@ QString scalingText(Scaling scaling)
 
 QString inOneLine(const JobInWords& job)
 {
-    const QStringList parts = job.problem.isEmpty() ? job.parts : job.parts + QStringList{job.problem};
-    return parts.join(QStringLiteral(", "));
+    QStringList parts = job.problem.isEmpty() ? job.parts : job.parts + QStringList{job.problem};
+    std::ranges::transform(parts, parts.begin(), itemText);
+    return listText(parts);
 }
 
 } // namespace
@@ -234,10 +239,12 @@ QString SummaryPage::row(const Line& line) const
         value += QStringLiteral("<font color=\"%1\"> &nbsp;%2</font>")
                      .arg(palette().color(QPalette::PlaceholderText).name(),
                           markupText(tr("printer's default: %1").arg(line.byDefault)));
-    return QStringLiteral("<tr><td width='16' style='padding:3px 0'><font color=\"%4\">%1</font></td>"
-                          "<td style='padding:3px 18px 3px 0'>%2</td><td style='padding:3px 0'>%3</td></tr>")
-        .arg(isMarked ? QStringLiteral("\u25CF") : QString(), markupText(line.title), value,
-             palette().color(QPalette::Highlight).name());
+    return rowMarkup({QStringLiteral("<td width='16' style='padding:3px 0'><font color=\"%2\">%1</font></td>")
+                          .arg(isMarked ? QStringLiteral("\u25CF") : QString(),
+                               palette().color(QPalette::Highlight).name()),
+                      QStringLiteral("<td style='padding:3px 0'>%1</td>").arg(markupText(line.title)),
+                      QStringLiteral("<td width='16'></td>"),
+                      QStringLiteral("<td style='padding:3px 0'>%1</td>").arg(value)});
 }
 
 QString SummaryPage::markup() const
@@ -245,9 +252,9 @@ QString SummaryPage::markup() const
     QString rows;
     for (const Section& section : sections_) {
         if (!section.title.isEmpty() && !section.lines.isEmpty())
-            rows +=
-                QStringLiteral("<tr><td></td><td colspan='2' style='padding-top:14px'><b>%1</b></td></tr>")
-                    .arg(markupText(section.title));
+            rows += rowMarkup({QStringLiteral("<td></td>"),
+                               QStringLiteral("<td colspan='3' style='padding-top:14px'><b>%1</b></td>")
+                                   .arg(markupText(section.title))});
         for (const Line& line : section.lines)
             rows += row(line);
     }
@@ -261,8 +268,8 @@ QString SummaryPage::markup() const
     if (off.size() > kMostOff)
         off = off.mid(0, kMostOff) << QStringLiteral("\u2026");
     if (!off.isEmpty())
-        below += paragraph(tr("Off: %1").arg(off.join(QStringLiteral(", "))));
-    return QStringLiteral("<table>%1</table>%2").arg(rows, below);
+        below += paragraph(tr("Off: %1").arg(listText(off)));
+    return tableMarkup(rows) + below;
 }
 
 void SummaryPage::refresh()
@@ -322,7 +329,7 @@ QString SummaryPage::asText() const
             text += line.title + QStringLiteral(": ") + line.value + QLatin1Char('\n');
     }
     if (!off_.isEmpty())
-        text += QLatin1Char('\n') + tr("Off: %1").arg(off_.join(QStringLiteral(", "))) + QLatin1Char('\n');
+        text += QLatin1Char('\n') + tr("Off: %1").arg(listText(off_)) + QLatin1Char('\n');
     text += QLatin1Char('\n') + tr("The options as they are sent") + QLatin1Char('\n');
     for (const OptionValue& option : options_.list())
         text += option.key + QLatin1Char('=') + asSent(option.key) + QLatin1Char('\n');

@@ -19,11 +19,30 @@ const QString kCatalogue = QStringLiteral("dialog");
 const QString kFolder = QStringLiteral(":/halvern/translations");
 const QString kBeforeLanguage = QStringLiteral("_");
 
+// A window shows one sort of digits. The printer's texts, its pages' fields and what is typed on the command
+// line have 0 to 9; a language that is also written with these elsewhere takes that country's numbers and
+// dates.
+void useOneSortOfDigits()
+{
+    const QLocale own;
+    const QString zero = QStringLiteral("0");
+    if (own.zeroDigit() == zero)
+        return;
+    for (const QLocale& sister :
+         QLocale::matchingLocales(own.language(), own.script(), QLocale::AnyTerritory)) {
+        if (sister.zeroDigit() == zero && sister.decimalPoint() == QStringLiteral(".")) {
+            QLocale::setDefault(sister);
+            return;
+        }
+    }
+}
+
 } // namespace
 
 QList<std::shared_ptr<QTranslator>> installTranslations()
 {
     initTranslations();
+    useOneSortOfDigits();
     QList<std::shared_ptr<QTranslator>> translators;
     const auto add = [&](const QString& name, const QString& folder) {
         auto translator = std::make_shared<QTranslator>();

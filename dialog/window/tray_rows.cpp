@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/tray_rows.h"
 
+#include "platform/foundation/list_text.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QButtonGroup>
@@ -36,8 +37,7 @@ void TrayRows::refresh()
         const PpdModel& model = *session_.model();
         QStringList parts{paperInWords(model, paper), paperTypeText(model, paper)};
         parts.removeAll(QString());
-        texts.append(
-            tr("%1: %2").arg(isolated(trayText(model, paper)), isolated(parts.join(QStringLiteral(", ")))));
+        texts.append(tr("%1: %2").arg(isolated(trayText(model, paper)), isolated(listText(parts))));
     }
     setTexts(texts);
     const int used = session_.trayInUse();

@@ -123,9 +123,7 @@ void BackPreview::paintLines(QPainter& painter, const QRectF& sheet, qreal milli
     }
     if (smallest * kLetterHeight >= kReadableLetters)
         return;
-    QFont italic = font();
-    italic.setItalic(true);
-    painter.setFont(italic);
+    painter.setFont(remarkFont());
     painter.setPen(kFaintInk);
     // Set off from the lines: it is not printed.
     place.translate(0.0, lineHeight);
@@ -153,11 +151,17 @@ qreal BackPreview::paintLine(QPainter& painter, const QRectF& place, qreal lette
     return fit;
 }
 
+// Remarks are in italics, where the writing has them.
+QFont BackPreview::remarkFont() const
+{
+    QFont remark = font();
+    remark.setItalic(!isRightToLeft());
+    return remark;
+}
+
 void BackPreview::paintEmptyText(QPainter& painter, const QRectF& sheet) const
 {
-    QFont italic = font();
-    italic.setItalic(true);
-    painter.setFont(italic);
+    painter.setFont(remarkFont());
     painter.setPen(kFaintInk);
     painter.drawText(sheet.intersected(QRectF(rect())), Qt::AlignCenter | Qt::TextWordWrap, emptyText_);
 }

@@ -32,6 +32,7 @@ protected:
 private:
     void paintLines(QPainter& painter, const QRectF& sheet, qreal millimetre) const;
     qreal paintLine(QPainter& painter, const QRectF& place, qreal letterHeight, const QString& line) const;
+    QFont remarkFont() const;
     void paintEmptyText(QPainter& painter, const QRectF& sheet) const;
 
     std::function<QSizeF()> sheet_;

@@ -13,6 +13,7 @@
 #include "platform/toolkit/matrix.h"
 #include "platform/toolkit/plain_text.h"
 #include "platform/toolkit/stepper.h"
+#include "platform/toolkit/table_markup.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -31,12 +32,12 @@ constexpr std::array<QLatin1StringView, 3> kSavedKeys{
 QString twoColumns(const QStringList& entries)
 {
     const qsizetype rows = (entries.size() + 1) / 2;
-    QString table = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\">");
-    for (qsizetype row = 0; row < rows; ++row) {
-        table += QStringLiteral("<tr><td style=\"padding-right: 16px\">%1</td><td>%2</td></tr>")
-                     .arg(entries[row], entries.value(row + rows));
-    }
-    return table + QStringLiteral("</table>");
+    QString table;
+    for (qsizetype row = 0; row < rows; ++row)
+        table += rowMarkup({QStringLiteral("<td>%1</td>").arg(entries[row]),
+                            QStringLiteral("<td width='14'></td>"),
+                            QStringLiteral("<td>%1</td>").arg(entries.value(row + rows))});
+    return tableMarkup(table);
 }
 
 } // namespace

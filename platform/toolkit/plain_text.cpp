@@ -17,13 +17,23 @@ void alignWithWindow(QLabel* label)
         label->setAlignment(QStyle::visualAlignment(Qt::RightToLeft, label->alignment()));
 }
 
+constexpr char16_t kRightToLeftMark = 0x200f;
+constexpr char16_t kIsolate = 0x2068;
+
+// A label whose text can be selected goes by the first letter of all, also by one in a part that is kept
+// apart.
+QString inItsDirection(const QString& shown)
+{
+    return shown.isRightToLeft() && shown.contains(QChar(kIsolate)) ? QChar(kRightToLeftMark) + shown : shown;
+}
+
 } // namespace
 
 void setPlainText(QLabel* label, const QString& text, int longest)
 {
     alignWithWindow(label);
     label->setTextFormat(Qt::PlainText);
-    label->setText(displayText(text, longest));
+    label->setText(inItsDirection(displayText(text, longest)));
 }
 
 QString plainToolTip(const QString& text)
@@ -72,7 +82,7 @@ void setMarkup(QLabel* label, const QString& markup)
 {
     alignWithWindow(label);
     label->setTextFormat(Qt::RichText);
-    label->setText(markup);
+    label->setText(label->isRightToLeft() ? QStringLiteral("<div dir='rtl'>%1</div>").arg(markup) : markup);
 }
 
 } // namespace halvern

@@ -1426,6 +1426,13 @@
     </message>
 </context>
 <context>
+    <name>Lists</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>LocalQueue</name>
     <message>
         <source>The printer &quot;%1&quot; was found on the network, but the print server cannot use it: %2</source>
