@@ -1119,11 +1119,11 @@
     </message>
     <message>
         <source>Job %1 is held on &quot;%2&quot;: the printer wants a name and a password%3.</source>
-        <translation>Auftrag %1 ist auf „%2“ zurückgehalten: Der Drucker verlangt einen Namen und ein Passwort%3.</translation>
+        <translation>المهمة %1 محتجزة على «⁨%2⁩»: تطلب الطابعة اسمًا وكلمة مرور%3.</translation>
     </message>
     <message>
         <source>Give them with &quot;halvern-print --jobs --sign-in %1&quot;, or cancel the job with &quot;cancel %2-%1&quot;.</source>
-        <translation>Geben Sie beides mit „halvern-print --jobs --sign-in %1“ an oder brechen Sie den Auftrag mit „cancel %2-%1“ ab.</translation>
+        <translation>أعطِهما بالأمر «⁨halvern-print --jobs --sign-in %1⁩»، أو ألغِ المهمة بالأمر «⁨cancel %2-%1⁩».</translation>
     </message>
 </context>
 <context>
@@ -1316,7 +1316,7 @@
     </message>
     <message>
         <source>You have no job %1 on &quot;%2&quot;. --jobs --ended lists yours.</source>
-        <translation>Sie haben keinen Auftrag %1 auf „%2“. --jobs --ended listet Ihre auf.</translation>
+        <translation>ليست لك مهمة %1 على «⁨%2⁩». يسرد ⁨--jobs --ended⁩ مهامك.</translation>
     </message>
 </context>
 <context>
@@ -1479,7 +1479,7 @@
     </message>
     <message>
         <source>The print server at %1 encrypted before, and does not any more. It may have been set up anew, or somebody else may be answering in its place. What you print there could be read on its way.</source>
-        <translation>Der Druckserver unter %1 hat bisher verschlüsselt und tut es nicht mehr. Vielleicht wurde er neu eingerichtet, vielleicht antwortet aber jemand anders an seiner Stelle. Was Sie dort drucken, könnte unterwegs mitgelesen werden.</translation>
+        <translation>كان خادم الطباعة على %1 يشفّر الاتصال، ولم يعد يفعل. ربما أُعيد إعداده، وربما يجيب غيره مكانه. قد يُقرأ في الطريق ما تطبعه هناك.</translation>
     </message>
 </context>
 <context>
@@ -2056,15 +2056,15 @@
     <name>RefilledTray</name>
     <message>
         <source>&quot;%1&quot; has other paper now.</source>
-        <translation>In „%1“ ist jetzt anderes Papier.</translation>
+        <translation>في «⁨%1⁩» الآن ورق آخر.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has other paper now, and the page follows: %2.</source>
-        <translation>In „%1“ ist jetzt anderes Papier, und die Seite folgt ihm: %2.</translation>
+        <translation>في «⁨%1⁩» الآن ورق آخر، والصفحة تتبعه: %2.</translation>
     </message>
     <message>
         <source>Its kind, %1, could not be chosen: the paper type is still &quot;%2&quot;.</source>
-        <translation>Dessen Art, %1, war nicht zu wählen: Die Papierart ist weiterhin „%2“.</translation>
+        <translation>تعذّر اختيار نوعه، %1: ما زال نوع الورق «⁨%2⁩».</translation>
     </message>
 </context>
 <context>
@@ -2089,7 +2089,7 @@
     <name>ServerCertificate</name>
     <message>
         <source>a certificate whose file cannot be read any more</source>
-        <translation>ein Zertifikat, dessen Datei nicht mehr gelesen werden kann</translation>
+        <translation>شهادة لم تعد قراءة ملفها ممكنة</translation>
     </message>
 </context>
 <context>
@@ -2729,7 +2729,7 @@
     </message>
     <message>
         <source>The paper type is &quot;%1&quot;, but in &quot;%2&quot; there is &quot;%3&quot;.</source>
-        <translation>Die Papierart ist „%1“, in „%2“ liegt aber „%3“.</translation>
+        <translation>نوع الورق «⁨%1⁩»، لكن في «⁨%2⁩» يوجد «⁨%3⁩».</translation>
     </message>
 </context>
 <context>
@@ -3675,7 +3675,7 @@
     </message>
     <message>
         <source>As the printer is set</source>
-        <translation>Wie am Drucker eingestellt</translation>
+        <translation>كما ضُبطت الطابعة</translation>
     </message>
 </context>
 <context>
@@ -4711,7 +4711,7 @@
     </message>
     <message>
         <source>Sign in for it in the list of jobs: &quot;Jobs...&quot; in the print dialog.</source>
-        <translation>Melden Sie sich dafür in der Liste der Aufträge an: „Aufträge ...“ im Druckdialog.</translation>
+        <translation>سجّل الدخول من أجلها في قائمة المهام: «المهام...» في مربع حوار الطباعة.</translation>
     </message>
 </context>
 <context>
