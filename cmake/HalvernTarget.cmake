@@ -8,6 +8,21 @@ option(HALVERN_BUILD_DEMO "Build the program that works the dialog for ./demo" O
 option(HALVERN_FUZZ "Build the fuzz targets (clang only)" OFF)
 set(HALVERN_SANITIZE "" CACHE STRING "Sanitizers to compile with, as -fsanitize takes them")
 
+include(CheckCXXCompilerFlag)
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES C CXX)
+check_cxx_compiler_flag(-fcf-protection=full HALVERN_HAS_CF_PROTECTION)
+
+# What holds an attacker off in the types that are handed to users; sanitizers bring their own. scripts/check-everything looks
+# at the result (hardening-check).
+function(halvern_harden target)
+    set(release $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+    target_compile_options(${target} PRIVATE
+        "$<${release}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-fstack-protector-strong;-fstack-clash-protection>"
+        "$<$<AND:${release},$<BOOL:${HALVERN_HAS_CF_PROTECTION}>>:-fcf-protection=full>")
+    target_link_options(${target} PRIVATE "$<${release}:-Wl,-z,relro;-Wl,-z,now;-Wl,-z,noexecstack>")
+endfunction()
+
 function(halvern_target target)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
                            $<$<BOOL:${HALVERN_WERROR}>:-Werror>)
@@ -20,6 +35,8 @@ function(halvern_target target)
         target_compile_options(${target} PUBLIC -fsanitize=${HALVERN_SANITIZE} -fno-sanitize-recover=all
                                -fno-omit-frame-pointer)
         target_link_options(${target} PUBLIC -fsanitize=${HALVERN_SANITIZE})
+    else()
+        halvern_harden(${target})
     endif()
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     set_property(GLOBAL APPEND PROPERTY HALVERN_TARGETS ${target})

@@ -10,6 +10,7 @@
 #include <cups/backend.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -71,6 +72,9 @@ int main(int argc, char** argv)
     if (!plan)
         return halvern::giveUp(fd, error, CUPS_BACKEND_STOP);
     const std::string jobs = folderOf("HALVERN_JOBS_DIR", "jobs");
+    // The server would keep the pages from the folder's group, who set the queue up and want to look at them.
+    if (environment("HALVERN_JOBS_DIR").empty())
+        ::umask(0027);
     std::error_code none;
     if (jobs.front() != '/' || !std::filesystem::is_directory(jobs, none))
         return halvern::giveUp(fd,
