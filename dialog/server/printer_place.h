@@ -19,7 +19,7 @@ struct PrinterPlace {
 /// Any thread.
 std::optional<PrinterPlace> printerPlace(const QString& deviceUri);
 
-/// Where the service is, on the calling worker, which may take 7 seconds; a place that is none's as it is.
+/// Where the service is, on the calling worker, which may take 8 seconds; a place that is none's as it is.
 /// Nothing if the service does not show itself: that is not to say that the printer is off.
 std::optional<PrinterPlace> lookedUp(const PrinterPlace& place, const cups::CancelFlag& cancelled);
 
