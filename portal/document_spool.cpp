@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 #include <fcntl.h>
@@ -235,11 +236,12 @@ SpooledDocument spool(int descriptor, const QString& title, const Flags& flags)
         return document;
     const QString path = filling->room->folder() + QLatin1Char('/') + fileName(title) + endingOf(start);
     file.close();
-    if (file.rename(path))
+    // QFile would copy it where it cannot be renamed, into a file that others may read.
+    if (std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) == 0)
         document.path = std::shared_ptr<const QString>(
             new QString(path), [room = filling->room](const QString* name) { delete name; });
     else
-        document.problem = file.errorString();
+        document.problem = unreadable(errno);
     return document;
 }
 

@@ -2,13 +2,13 @@
 #include "portal/front_end.h"
 
 #include "platform/foundation/list_text.h"
+#include "platform/foundation/whole_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -35,12 +35,16 @@ QStringList variable(const char* name, const QString& otherwise)
     return qEnvironmentVariable(name, otherwise).split(QLatin1Char(':'), Qt::SkipEmptyParts);
 }
 
-QStringList linesOf(const QString& path)
+// `problem`, if given, says why what is there cannot be read whole, and so must not be written over.
+QStringList linesOf(const QString& path, QString* problem = nullptr)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
+    const bool isOpen = file.open(QIODevice::ReadOnly);
     QString text = QString::fromUtf8(file.read(kMostBytes));
+    if (problem && QFile::exists(path) && (!isOpen || file.error() != QFileDevice::NoError || !file.atEnd()))
+        *problem = Words::tr("\"%1\" cannot be read: %2.").arg(path, file.errorString());
+    if (!isOpen)
+        return {};
     if (text.endsWith(QLatin1Char('\n')))
         text.chop(1);
     return text.split(QLatin1Char('\n'));
@@ -142,12 +146,10 @@ QString remedy(const FrontEnd& frontEnd, const QString& winner)
 bool save(const QString& path, const QStringList& lines, QString& problem)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
-    QSaveFile file(path);
-    const QByteArray text = lines.join(QLatin1Char('\n')).toUtf8() + '\n';
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
-        return true;
-    problem = Words::tr("\"%1\" cannot be written: %2.").arg(path, file.errorString());
-    return false;
+    const QString why = writeWholeFile(path, lines.join(QLatin1Char('\n')).toUtf8() + '\n');
+    if (!why.isEmpty())
+        problem = Words::tr("\"%1\" cannot be written: %2.").arg(path, why);
+    return why.isEmpty();
 }
 
 QString restartSentence()
@@ -236,7 +238,10 @@ FrontEndAnswer enableInFrontEnd(const FrontEnd& frontEnd)
         return now;
     const QString path = usersFile(frontEnd);
     // A file of the user's hides the system's: what that says stays said.
-    QStringList lines = withoutOurLine(linesOf(configuration(frontEnd)));
+    QString problem;
+    QStringList lines = withoutOurLine(linesOf(configuration(frontEnd), &problem));
+    if (!problem.isEmpty())
+        return {false, problem};
     if (lines.removeAll(QString()) >= 0 && !lines.contains(kGroup))
         lines.append(kGroup);
     for (QString& line : lines) {
@@ -246,7 +251,6 @@ FrontEndAnswer enableInFrontEnd(const FrontEnd& frontEnd)
     const qsizetype place = lines.indexOf(kGroup) + 1;
     lines.insert(place, kInterface + QLatin1Char('=') + kOwnName);
     lines.insert(place, kMark);
-    QString problem;
     if (!save(path, lines, problem))
         return {false, problem};
     return {true, Words::tr("Written into \"%1\".").arg(path) + QLatin1Char(' ') + restartSentence()};
@@ -255,11 +259,13 @@ FrontEndAnswer enableInFrontEnd(const FrontEnd& frontEnd)
 FrontEndAnswer disableInFrontEnd(const FrontEnd& frontEnd)
 {
     const QString path = frontEnd.configFolders.isEmpty() ? QString() : usersFile(frontEnd);
-    const QStringList lines = linesOf(path);
+    QString problem;
+    const QStringList lines = linesOf(path, &problem);
+    if (!problem.isEmpty())
+        return {false, problem};
     if (!lines.contains(kMark))
         return {true, Words::tr("There is no line of this program's in \"%1\".").arg(path)};
     const QStringList left = withoutOurLine(lines);
-    QString problem;
     const bool isEmpty = left == QStringList(kGroup);
     if (isEmpty ? !QFile::remove(path) : !save(path, left, problem))
         return {false, problem.isEmpty() ? Words::tr("\"%1\" cannot be removed.").arg(path) : problem};

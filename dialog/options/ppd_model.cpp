@@ -7,6 +7,8 @@
 
 #include <QLocale>
 
+#include <new>
+
 namespace halvern {
 
 namespace {
@@ -41,6 +43,15 @@ PpdModel::PpdModel(ppd::File file) : file_(std::move(file)), constraints_(file_.
     keepOwnTexts();
     ppd::markDefaults(file_.get());
     readOptions();
+}
+
+std::shared_ptr<PpdModel> PpdModel::make(ppd::File file)
+{
+    try {
+        return std::make_shared<PpdModel>(std::move(file));
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
 }
 
 ChangeResult PpdModel::refuse(const QString& sentence) const

@@ -91,6 +91,9 @@ public:
     /// Marks the PPD's defaults. `file` is not null.
     explicit PpdModel(ppd::File file);
 
+    /// The same; null if there is not enough memory for it.
+    static std::shared_ptr<PpdModel> make(ppd::File file);
+
     ppd_file_t* file() const { return file_.get(); }
 
     /// The same, to keep it open beyond this object's life.

@@ -2,6 +2,7 @@
 #include "dialog/options/preset_file.h"
 
 #include "platform/foundation/log.h"
+#include "platform/foundation/whole_file.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -9,13 +10,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QLockFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include <algorithm>
 #include <cstdio>
+#include <new>
 
 namespace halvern {
 
@@ -76,14 +76,7 @@ QString writeWhole(const QString& path, const QByteArray& text)
 {
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
         return Words::tr("It is no file.");
-    QSaveFile file(path);
-    const bool isNew = !QFileInfo::exists(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    if (isNew)
-        file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    file.write(text);
-    return file.commit() ? QString() : file.errorString();
+    return writeWholeFile(path, text, NewFile::forMyself);
 }
 
 qsizetype indexOf(const QJsonArray& presets, const QString& name)
@@ -144,11 +137,20 @@ QString PresetFile::setAside(const QString& why) const
 
 KeptPresets PresetFile::read() const
 {
+    try {
+        return readKept();
+    } catch (const std::bad_alloc&) {
+        return {{}, {}, Words::tr("There is not enough memory to read the presets.")};
+    }
+}
+
+KeptPresets PresetFile::readKept() const
+{
     PresetDocument document = load();
     if (document.isDamaged) {
         // Another dialog may have mended it by now.
-        QLockFile lock(path_ + QStringLiteral(".lock"));
-        if (!lock.tryLock(kLockMilliseconds))
+        const FileLock lock(path_ + QStringLiteral(".lock"), kLockMilliseconds);
+        if (!lock.isHeld())
             return {{}, {}, document.problem};
         document = load();
         if (document.isDamaged)
@@ -176,9 +178,8 @@ QString PresetFile::change(const Edit& edit) const
     if (!QDir().mkpath(folder()))
         return failed(Words::tr("The folder cannot be made."));
     const QString lockPath = path_ + QStringLiteral(".lock");
-    QLockFile lock(lockPath);
-    const bool isBlocked = QFileInfo::exists(lockPath) && !QFileInfo(lockPath).isFile();
-    if (isBlocked || !lock.tryLock(kLockMilliseconds))
+    const FileLock lock(lockPath, kLockMilliseconds);
+    if (!lock.isHeld())
         return failed(Words::tr("Another program holds the lock %1.").arg(lockPath));
     PresetDocument document = load();
     if (document.isDamaged) {

@@ -45,6 +45,7 @@ public:
 private:
     using Edit = std::function<QString(QJsonObject& root)>;
 
+    KeptPresets readKept() const;
     QString change(const Edit& edit) const;
     PresetDocument load() const;
     QString setAside(const QString& why) const;

@@ -3,6 +3,7 @@
 
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/list_text.h"
+#include "platform/foundation/whole_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -146,11 +146,10 @@ QString LayoutLibrary::save(Layout layout, const QString& name, QString* id)
         return Words::tr("\"%1\" is a layout that is always there. Choose another name.").arg(layout.name);
     if (!QDir().mkpath(ownFolder()))
         return Words::tr("The folder %1 cannot be made.").arg(displayText(ownFolder()));
-    QSaveFile file(ownFolder() + QLatin1Char('/') + layout.id + kSuffix);
-    const QByteArray text = QJsonDocument(toJson(layout)).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return Words::tr("The layout could not be kept in %1. %2")
-            .arg(displayText(file.fileName()), file.errorString());
+    const QString path = ownFolder() + QLatin1Char('/') + layout.id + kSuffix;
+    const QString problem = writeWholeFile(path, QJsonDocument(toJson(layout)).toJson());
+    if (!problem.isEmpty())
+        return Words::tr("The layout could not be kept in %1. %2").arg(displayText(path), problem);
     *id = layout.id;
     readAgain();
     return {};

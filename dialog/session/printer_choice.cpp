@@ -115,7 +115,12 @@ void PrinterChoice::select(const QString& name)
                 ppd = fetchQueuePpd(name, stop);
             // Here, because a PPD may have ten thousand options.
             if (ppd.file)
-                printer.model = std::make_shared<PpdModel>(std::move(*ppd.file));
+                printer.model = PpdModel::make(std::move(*ppd.file));
+            if (ppd.file && !printer.model)
+                ppd.problem =
+                    tr("There is not enough memory for the options of \"%1\". Close something, and choose "
+                       "the printer again.")
+                        .arg(name);
             if (printer.model)
                 printer.offer = readPrinterOffer(printer.model->file());
             if (readsPresets)

@@ -2,10 +2,10 @@
 #include "platform/foundation/user_defaults.h"
 
 #include "platform/foundation/log.h"
+#include "platform/foundation/whole_file.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -23,13 +23,16 @@ QString settingsPath()
            QStringLiteral("/halvern/print.ini");
 }
 
-QVariantMap readAll(const QString& path)
+// Nothing if there is a file that cannot be read: what it holds is not to be written over.
+std::optional<QVariantMap> readAll(const QString& path)
 {
     QVariantMap values;
     // A pipe would never end.
     if (!QFileInfo(path).isFile())
         return values;
     const QSettings settings(path, QSettings::IniFormat);
+    if (settings.status() == QSettings::AccessError)
+        return std::nullopt;
     for (const QString& key : settings.allKeys())
         values.insert(key, settings.value(key));
     return values;
@@ -81,7 +84,7 @@ bool writeWhole(const QString& path, const QVariantMap& values)
             settings.setValue(it.key(), it.value());
         settings.sync();
     }
-    const bool isWritten = moveFile(draft, proof) && isSame(readAll(proof), values);
+    const bool isWritten = moveFile(draft, proof) && isSame(readAll(proof).value_or(QVariantMap()), values);
     if (isWritten && moveFile(proof, target))
         return true;
     QFile::remove(draft);
@@ -104,7 +107,7 @@ QString UserDefaults::globalDomain()
 
 QVariantMap UserDefaults::persistentDomain(const QString& domain) const
 {
-    return valuesOf(domain, readAll(settingsPath()));
+    return valuesOf(domain, readAll(settingsPath()).value_or(QVariantMap()));
 }
 
 void UserDefaults::changeDomain(const QString& domain, const std::function<void(QVariantMap& values)>& change)
@@ -112,10 +115,13 @@ void UserDefaults::changeDomain(const QString& domain, const std::function<void(
     const QString path = settingsPath();
     const QString prefix = domain + QLatin1Char('/');
     QDir().mkpath(QFileInfo(path).path());
-    QLockFile lock(path + QStringLiteral(".lock"));
-    bool isWritten = lock.tryLock(kLockMilliseconds);
+    const FileLock lock(path + QStringLiteral(".lock"), kLockMilliseconds);
+    std::optional<QVariantMap> read;
+    if (lock.isHeld())
+        read = readAll(path);
+    bool isWritten = read.has_value();
     if (isWritten) {
-        QVariantMap all = readAll(path);
+        QVariantMap& all = *read;
         const QVariantMap before = valuesOf(domain, all);
         QVariantMap values = before;
         change(values);

@@ -11,6 +11,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <new>
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -55,7 +56,9 @@ File open(const QString& path, QString* why)
     return explained(ppdOpenFile(QFile::encodeName(path).constData()), why);
 }
 
-File parse(const QByteArray& text, QString* why)
+namespace {
+
+File parsed(const QByteArray& text, QString* why)
 {
     if (isPacked(text)) {
         if (why)
@@ -73,6 +76,19 @@ File parse(const QByteArray& text, QString* why)
         return nullptr;
     }
     return explained(ppdOpenFd(memory), why); // closes it
+}
+
+} // namespace
+
+File parse(const QByteArray& text, QString* why)
+{
+    try {
+        return parsed(text, why);
+    } catch (const std::bad_alloc&) {
+        if (why)
+            *why = QStringLiteral("not enough memory");
+        return nullptr;
+    }
 }
 
 bool isPacked(const QByteArray& text)

@@ -7,9 +7,8 @@
 #include "dialog/session/presets.h"
 #include "dialog/session/session_request.h"
 #include "dialog/session/starting_options.h"
+#include "platform/foundation/whole_file.h"
 #include "tests/dialog/model_support.h"
-
-#include <QLockFile>
 
 #include <sys/stat.h>
 
@@ -68,8 +67,8 @@ TEST(PresetFile, KeepsWhatTwoDialogsSaveAndEachPresetAsItWas)
     EXPECT_EQ(exportPresets(folder.filePath(q("p.json")), {whole}), QString());
     EXPECT_EQ(importPresets(folder.filePath(q("p.json"))).presets, QList<Preset>{whole});
 
-    QLockFile lock(one.path() + q(".lock"));
-    ASSERT_TRUE(lock.lock());
+    const FileLock lock(one.path() + q(".lock"), 0);
+    ASSERT_TRUE(lock.isHeld());
     EXPECT_TRUE(two.remove(whole.name).contains(q(".lock")));
     EXPECT_EQ(namesIn(two).size(), 3) << "reading needs no lock";
 }

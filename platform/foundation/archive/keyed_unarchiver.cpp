@@ -163,9 +163,12 @@ QVariantMap decode(const QByteArray& archive)
 KeyedUnarchiver::Result KeyedUnarchiver::unarchiveDictionary(const QByteArray& archive)
 {
     try {
-        return {decode(archive), QString()};
-    } catch (const CorruptArchive& corrupt) {
-        return {std::nullopt, QStringLiteral("corrupt: ") + QString::fromLatin1(corrupt.why)};
+        // The reason takes memory too.
+        try {
+            return {decode(archive), QString()};
+        } catch (const CorruptArchive& corrupt) {
+            return {std::nullopt, QStringLiteral("corrupt: ") + QString::fromLatin1(corrupt.why)};
+        }
     } catch (const std::bad_alloc&) {
         return {std::nullopt, QStringLiteral("corrupt: there is not enough memory to read it")};
     }
