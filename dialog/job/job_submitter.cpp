@@ -43,8 +43,9 @@ QByteArray resourceOf(const JobRequest& job)
     return "/printers/" + job.queue.toUtf8();
 }
 
-// The job that carries the mark: the server made it, and its answer was lost. 0 if there is none.
-int findLostJob(const JobRequest& job, const QByteArray& mark)
+// The job that carries the mark: the server made it, and its answer was lost. 0 if there is none;
+// nothing if the server does not say.
+std::optional<int> findLostJob(const JobRequest& job, const QByteArray& mark)
 {
     static const char* const kAttributes[] = {"job-id", kMark};
     cups::Connection server(nullptr, kLimits);
@@ -54,7 +55,7 @@ int findLostJob(const JobRequest& job, const QByteArray& mark)
                   int(std::size(kAttributes)), nullptr, kAttributes);
     const cups::Ipp answer = server.request(std::move(request), "/");
     if (server.failed(answer))
-        return 0;
+        return std::nullopt;
     int id = 0;
     bool isMarked = false;
     for (ipp_attribute_t* a = ippFirstAttribute(answer.get()); a; a = ippNextAttribute(answer.get())) {
@@ -71,18 +72,36 @@ int findLostJob(const JobRequest& job, const QByteArray& mark)
     return 0;
 }
 
-// Whether the server has the job's document.
-bool hasDocument(const JobRequest& job, int jobId)
+// Whether the server has the job's document; nothing if it does not say. Of a job that has been printed it
+// keeps none.
+std::optional<bool> hasDocument(const JobRequest& job, int jobId)
 {
+    static const char* const kAttributes[] = {"number-of-documents", "job-state"};
     cups::Connection server(nullptr, kLimits);
     cups::Ipp request = cups::newRequest(IPP_OP_GET_JOB_ATTRIBUTES, job.queue);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
-                 "number-of-documents");
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(kAttributes)), nullptr, kAttributes);
     const cups::Ipp answer = server.request(std::move(request), "/jobs/");
-    ipp_attribute_t* count =
-        answer ? ippFindAttribute(answer.get(), "number-of-documents", IPP_TAG_INTEGER) : nullptr;
-    return count && ippGetInteger(count, 0) > 0;
+    if (!answer)
+        return std::nullopt;
+    ipp_attribute_t* const count = ippFindAttribute(answer.get(), kAttributes[0], IPP_TAG_INTEGER);
+    ipp_attribute_t* const state = ippFindAttribute(answer.get(), kAttributes[1], IPP_TAG_ENUM);
+    const int is = state ? ippGetInteger(state, 0) : 0;
+    return (count && ippGetInteger(count, 0) > 0) || is == IPP_JSTATE_PROCESSING ||
+           is == IPP_JSTATE_STOPPED || is == IPP_JSTATE_COMPLETED;
+}
+
+// The same, asked for some seconds. Of a server that does not say it, it is better to believe that it prints
+// than that it does not: whoever follows the job finds out.
+bool mayHaveDocument(const JobRequest& job, int jobId)
+{
+    for (int i = 0; i < kTakeBackTries; ++i) {
+        if (const std::optional<bool> has = hasDocument(job, jobId))
+            return *has;
+        QThread::sleep(1);
+    }
+    return true;
 }
 
 // On connections of its own: the job's is broken, or in the middle of a document. The sentence if the job may
@@ -141,8 +160,14 @@ int createJob(cups::Connection& server, const JobRequest& job, const cups::Cance
         return 0;
     if (server.failed(answer)) {
         *problem = server.error();
-        if (const int lost = !answer && server.mayBeDone() ? findLostJob(job, mark) : 0; lost > 0)
-            *problem += takeBack(job, lost);
+        const std::optional<int> lost = !answer && server.mayBeDone() ? findLostJob(job, mark) : 0;
+        if (!lost)
+            *problem +=
+                Words::tr(" A job without its pages may still be on the queue of \"%1\": look there before "
+                          "you print again.")
+                    .arg(job.queue);
+        else if (*lost > 0)
+            *problem += takeBack(job, *lost);
         return 0;
     }
     const int jobId = cups::jobIdOf(answer);
@@ -153,7 +178,7 @@ int createJob(cups::Connection& server, const JobRequest& job, const cups::Cance
 }
 
 bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, const cups::NextPiece& document,
-                  QString* problem)
+                  bool* isWritten, QString* problem)
 {
     cups::Ipp request = cups::newRequest(IPP_OP_SEND_DOCUMENT, job.queue);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
@@ -162,10 +187,9 @@ bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, co
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  job.format.toUtf8().constData());
     ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
-    bool isWritten = false;
     const auto nextPiece = [&]() -> std::optional<QByteArray> {
         std::optional<QByteArray> piece = document();
-        isWritten = piece && piece->isEmpty();
+        *isWritten = piece && piece->isEmpty();
         return piece;
     };
     const cups::Ipp answer = server.request(std::move(request), resourceOf(job).constData(), nextPiece);
@@ -173,7 +197,7 @@ bool sendDocument(cups::Connection& server, const JobRequest& job, int jobId, co
         return true;
     *problem = server.error();
     // Only the answer may be lost.
-    return isWritten && !answer && !server.isCancelled() && hasDocument(job, jobId);
+    return *isWritten && !answer && !server.isCancelled() && mayHaveDocument(job, jobId);
 }
 
 } // namespace
@@ -199,11 +223,15 @@ SubmitResult submitJob(const JobRequest& job, const cups::NextPiece& nextPiece,
         return piece;
     };
     const int jobId = createJob(server, job, cancelled, &result.problem);
-    if (jobId > 0 && sendDocument(server, job, jobId, document, &result.problem))
+    bool isWritten = false;
+    if (jobId > 0 && sendDocument(server, job, jobId, document, &isWritten, &result.problem))
         return {jobId, {}, false};
     result.wasCancelled = server.isCancelled();
     if (jobId > 0) {
         const QString left = takeBack(job, jobId);
+        // It may have been whole, and printed, before that.
+        if (isWritten && left.isEmpty() && hasDocument(job, jobId).value_or(false))
+            return {jobId, {}, false};
         const bool isServerAtFault = !result.wasCancelled && !result.isDocumentAtFault;
         result.problem = isServerAtFault ? result.problem + left : left;
     }
