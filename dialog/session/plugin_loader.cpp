@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/plugin_loader.h"
 
+#include "dialog/session/bundle_trust.h"
 #include "platform/foundation/bundle.h"
+#include "platform/foundation/log.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -83,6 +85,11 @@ PluginLoader::Loaded PluginLoader::load(const QString& path, QString* problem)
         tr("The printer's own pages (%1) cannot be loaded: %2. You can print without them; "
            "install the printer's software again to have them.")
             .arg(QFileInfo(path).fileName());
+    if (const QString risk = bundleProblem(path); !risk.isEmpty()) {
+        *problem = failed.arg(risk);
+        logLine(*problem);
+        return {};
+    }
     QString why;
     const std::shared_ptr<Bundle> bundle = Bundle::load(path, &why);
     const std::optional<QString> module = bundle ? bundle->executablePath() : std::nullopt;

@@ -2,6 +2,8 @@
 #include "dialog/session/plugin_loader.h"
 #include "tests/support/test.h"
 
+#include <sys/stat.h>
+
 namespace halvern {
 namespace {
 
@@ -62,6 +64,22 @@ TEST(PluginLoader, EveryWrongBundleIsAStateWithASentence)
         EXPECT_TRUE(loader.panels(kBundleName, std::make_shared<FakeHost>(), &problem).empty()) << c.words;
         EXPECT_TRUE(problem.contains(QLatin1StringView(c.words))) << qPrintable(problem);
         EXPECT_TRUE(problem.contains(kBundleName)) << qPrintable(problem);
+    }
+}
+
+TEST(PluginLoader, WhatOthersMayChangeIsNotLoadedAndTheLogSaysWhy)
+{
+    for (const char* part : {"", "/tessarin.pde", "/tessarin.pde/tessarin.so", "/tessarin.pde/Info.plist"}) {
+        const QTemporaryDir folder;
+        makeBundle(folder.path(), propertyList("com.halvern.tessarin.pde"), builtModule());
+        const QString path = folder.path() + QLatin1StringView(part);
+        ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0777), 0);
+        PluginLoader loader({folder.path()});
+        const LogCapture log;
+        QString problem;
+        EXPECT_TRUE(loader.panels(kBundleName, std::make_shared<FakeHost>(), &problem).empty()) << part;
+        EXPECT_TRUE(problem.contains(path + q(" can be changed by other users"))) << qPrintable(problem);
+        EXPECT_EQ(log.count(problem), 1);
     }
 }
 
