@@ -88,9 +88,11 @@ struct Findings {
             adobeTransform = uchar(body[11]);
         else if (marker == kExif && !hasExif && body.startsWith(exif)) {
             hasExif = true;
-            const ExifNotes notes = readExifNotes(body.mid(exif.size()));
+            const QByteArray tiff = body.mid(exif.size());
+            const ExifNotes notes = readExifNotes(tiff);
             info.orientation = notes.orientation;
             info.colorTag = notes.colorTag;
+            info.thumbnail = embeddedThumbnail(tiff);
         }
     }
 

@@ -18,6 +18,7 @@ struct JpegInfo {
     double dotsPerInch = 0.0; ///< 0: not said
     bool suitsPdf = false;    ///< each reader of PDF files decodes it to the pixels that we see
     ColorTag colorTag = ColorTag::none;
+    QByteArray thumbnail; ///< the small JPEG file that a camera has put in; empty: none
     bool isWhole = false; ///< a decoder finds nothing wrong with it; false if only a decoder can say
 
     /// The same as a decoder would say it.

@@ -122,6 +122,7 @@ PhotoFile readPhotoFile(const QString& path)
     file.pages = read.pages;
     for (size_t i = 0; i < file.pages.size(); ++i) {
         file.pages[i].stamp = stamp;
+        file.pages[i].pagesInFile = int(file.pages.size());
         file.pages[i].pageNumber = file.pages.size() > 1 ? int(i) + 1 : 0;
     }
     const PhotoFault fault = file.pages.empty() ? read.fault : faultOfSome(read);

@@ -35,6 +35,9 @@ struct Photo {
     bool printsDamaged = false; ///< the user wants it printed whatever is found to be missing
     FileStamp stamp;            ///< of the file when it was opened; empty: not known
     int pageNumber = 0;         ///< what a reader counts, from 1; 0: the file has one page only
+    int pagesInFile = 1;        ///< that can be read
+    bool isFileDamaged = false; ///< this page or another one of its file
+    quint64 id = 0;             ///< tells it from all others in its dialog, the same file again included
     PhotoPlacement placement;   ///< what the user wants of it
 };
 

@@ -14,10 +14,10 @@ namespace halvern {
 
 namespace {
 
-std::unique_ptr<PictureRows> scaledToPreview(std::unique_ptr<PictureRows> rows)
+std::unique_ptr<PictureRows> scaledTo(int edge, std::unique_ptr<PictureRows> rows)
 {
     const QSize size = rows->picture().size;
-    const QSize small = size.scaled(kPreviewEdge, kPreviewEdge, Qt::KeepAspectRatio).expandedTo({1, 1});
+    const QSize small = size.scaled(edge, edge, Qt::KeepAspectRatio).expandedTo({1, 1});
     if (small.width() >= size.width())
         return rows;
     return std::make_unique<ScaledRows>(std::move(rows), small);
@@ -47,18 +47,18 @@ PhotoFile openPhotoFile(const QString& path)
     return jpeg ? PhotoFile{{*jpeg}, {}} : readPhotoFile(path);
 }
 
-SmallCopy readSmallCopy(const Photo& photo)
+SmallCopy readSmallCopy(const Photo& photo, int edge)
 {
     SmallCopy copy;
     const double longer = std::max(photo.ownSize.width(), photo.ownSize.height());
-    const int resolution = int(std::clamp(kPreviewEdge * kPointsPerInch / std::max(longer, 1.0), 1.0, 300.0));
+    const int resolution = int(std::clamp(edge * kPointsPerInch / std::max(longer, 1.0), 1.0, 300.0));
     // Damage is to be told of as such, and not as a change of the file.
     Photo asItIs = photo;
     asItIs.printsDamaged = true;
-    std::unique_ptr<PictureRows> rows = openPixels(asItIs, resolution, kPreviewEdge, &copy.problem);
+    std::unique_ptr<PictureRows> rows = openPixels(asItIs, resolution, edge, &copy.problem);
     if (!rows)
         return copy;
-    rows = scaledToPreview(std::move(rows));
+    rows = scaledTo(edge, std::move(rows));
     const Picture picture = readPicture(*rows);
     copy.problem = picture.problem;
     copy.isDamaged = picture.isDamaged;

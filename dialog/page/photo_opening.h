@@ -9,14 +9,15 @@ namespace halvern {
 /// preview. Call it on a worker. Any thread.
 PhotoFile openPhotoFile(const QString& path);
 
-/// A photo's preview, read now.
+/// A photo's preview, or a smaller one, read now.
 struct SmallCopy {
     QImage image; ///< as in Photo; null with a sentence in `problem`
     bool isDamaged = false;
     QString problem;
 };
 
-/// Reads row after row, so that the photo's size costs no memory. Call it on a worker. Any thread.
-SmallCopy readSmallCopy(const Photo& photo);
+/// Reads a copy whose longer edge has `edge` pixels at most, row after row, so that the photo's size costs
+/// no memory. Call it on a worker. Any thread.
+SmallCopy readSmallCopy(const Photo& photo, int edge = kPreviewEdge);
 
 } // namespace halvern

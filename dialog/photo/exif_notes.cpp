@@ -10,6 +10,8 @@ namespace halvern {
 namespace {
 
 constexpr int kOrientation = 0x0112;
+constexpr int kThumbnailStart = 0x0201;
+constexpr int kThumbnailLength = 0x0202;
 constexpr int kExifDirectory = 0x8769;
 constexpr int kColorSpace = 0xA001;
 constexpr int kInteroperability = 0xA005;
@@ -52,6 +54,18 @@ public:
     }
 
     QByteArray text(quint32 at) const { return bytes_.mid(at, 3); }
+
+    // The directory behind this one; 0 if there is none.
+    quint32 next(quint32 directory) const
+    {
+        const quint32 count = number16(directory).value_or(0);
+        return directory == 0 ? 0 : number32(directory + 2 + count * kEntry).value_or(0);
+    }
+
+    QByteArray piece(quint32 at, quint32 length) const
+    {
+        return qsizetype(at) + qsizetype(length) <= bytes_.size() ? bytes_.mid(at, length) : QByteArray();
+    }
 
 private:
     std::optional<int> number16(quint32 at) const
@@ -101,6 +115,17 @@ ExifNotes readExifNotes(const QByteArray& bytes)
     if (const quint32 exif = tiff.value(first, kExifDirectory).value_or(0); exif != 0)
         notes.colorTag = colorTagOf(tiff, exif);
     return notes;
+}
+
+QByteArray embeddedThumbnail(const QByteArray& bytes)
+{
+    const Tiff tiff(bytes);
+    if (!tiff.isValid())
+        return {};
+    const quint32 second = tiff.next(tiff.firstDirectory());
+    const quint32 length = tiff.value(second, kThumbnailLength).value_or(0);
+    const QByteArray file = tiff.piece(tiff.value(second, kThumbnailStart).value_or(0), length);
+    return file.startsWith("\xFF\xD8") ? file : QByteArray();
 }
 
 } // namespace halvern

@@ -15,4 +15,7 @@ struct ExifNotes {
 /// them is as if it were not there. Any thread.
 ExifNotes readExifNotes(const QByteArray& tiff);
 
+/// The small JPEG file that a camera has put into its notes; empty if there is none. Any thread.
+QByteArray embeddedThumbnail(const QByteArray& tiff);
+
 } // namespace halvern

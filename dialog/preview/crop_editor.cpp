@@ -67,7 +67,7 @@ CropEditor::CropEditor(QWidget* parent)
     auto* row = new QHBoxLayout(buttons_);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();
-    connect(addButton(QStringLiteral("cropCentre"), tr("Centre"), tr("Put the frame in the middle (C)")),
+    connect(addButton(QStringLiteral("cropCenter"), tr("Center"), tr("Put the frame in the middle (C)")),
             &QToolButton::clicked, this, &CropEditor::centre);
     connect(addButton(QStringLiteral("cropTurn"), tr("Turn"), tr("Turn the photo clockwise (R)")),
             &QToolButton::clicked, this, &CropEditor::turn);
@@ -131,6 +131,14 @@ void CropEditor::tell()
     words_->setPalette(colours);
     setPlainDescription(this, words);
     update();
+}
+
+QList<QWidget*> CropEditor::tabOrder() const
+{
+    QList<QWidget*> order{const_cast<CropEditor*>(this)};
+    for (QToolButton* button : buttons_->findChildren<QToolButton*>())
+        order.append(button);
+    return order;
 }
 
 QRectF CropEditor::photoRect() const

@@ -31,6 +31,9 @@ public:
     /// Where the frame is drawn, in the widget's coordinates.
     QRectF frameRect() const;
 
+    /// What the Tab key visits here.
+    QList<QWidget*> tabOrder() const;
+
 Q_SIGNALS:
     void placementChosen(const halvern::PhotoPlacement& placement);
     void sameForAllAsked();

@@ -26,17 +26,6 @@ namespace {
 constexpr double kMargin = 28.0;
 constexpr int kCaptionRoom = 10; // above and below the captions
 
-// A photo's colours are judged on a neutral gray, light or dark with the rest of the dialog.
-QColor ground(const QPalette& palette)
-{
-    return palette.color(QPalette::Window).lightness() < 128 ? QColor(38, 38, 38) : QColor(205, 205, 205);
-}
-
-QColor inkOn(const QColor& background)
-{
-    return background.lightness() < 128 ? QColor(200, 200, 200) : QColor(60, 60, 60);
-}
-
 // By their places on the sheet.
 std::vector<PhotoKey> photosOf(const PreviewPage& page)
 {
@@ -121,6 +110,13 @@ void PreviewWidget::makeButtons()
     });
 }
 
+QList<QWidget*> PreviewWidget::tabOrder() const
+{
+    if (isCropping_)
+        return crop_->tabOrder();
+    return {const_cast<PreviewWidget*>(this), cropButton_, backButton_, zoomButton_};
+}
+
 void PreviewWidget::connectReaders()
 {
     connect(reader_, &SharpPhotoReader::ready, this, [this](const QImage& detail) {
@@ -196,7 +192,11 @@ void PreviewWidget::showSheet(const BlankSheet& sheet)
 
 QStringList PreviewWidget::described() const
 {
-    return blank_ ? QStringList(displayText(blank_->heading)) + blank_->lines + captions() : captions();
+    QStringList words =
+        blank_ ? QStringList(displayText(blank_->heading)) + blank_->lines + captions() : captions();
+    words += overspillWords();
+    words.removeAll(QString());
+    return words;
 }
 
 void PreviewWidget::showText(const QString& text)
@@ -212,7 +212,9 @@ void PreviewWidget::showState()
 {
     const bool canMove = hasPage_ && page_.layout.isCut && !isZoomed_;
     setCursor(canMove || isZoomed_ ? Qt::OpenHandCursor : Qt::ArrowCursor);
-    setToolTip(canMove ? tr("Drag the photo to choose what is cut away") : QString());
+    QStringList tips{canMove ? tr("Drag the photo to choose what is cut away") : QString(), overspillWords()};
+    tips.removeAll(QString());
+    setPlainToolTip(this, tips.join(QLatin1Char('\n')));
     setPlainDescription(this, hasPage_ ? described().join(QStringLiteral(". ")) : text_);
     zoomButton_->setVisible(hasPage_ && !blank_ && !isCropping_);
     isBack_ = isBack_ && !page_.back.isEmpty() && !isZoomed_ && !isCropping_;
@@ -288,7 +290,18 @@ QString PreviewWidget::sizeCaption() const
     QString caption = pageSizeText(page_.layout.page);
     if (page_.layout.isCut)
         caption += QStringLiteral("  ·  ") + tr("part of the photo is cut away");
+    else if (page_.overspill > 0.0)
+        caption += QStringLiteral("  ·  ") + tr("the edges are cut away");
     return caption;
+}
+
+QString PreviewWidget::overspillWords() const
+{
+    if (blank_ || !hasPage_ || page_.overspill <= 0.0)
+        return {};
+    return tr("The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is "
+              "marked along the edges is cut away")
+        .arg(QLocale().toString(page_.overspill / kPointsPerMillimetre, 'g', 3));
 }
 
 QString PreviewWidget::colorCaption() const
@@ -337,6 +350,8 @@ void PreviewWidget::paintSheet(QPainter& painter)
     painter.fillRect(QRectF(QPointF(), layout.page), converter_->paper());
     paintSheetsPhotos(painter, scale * devicePixelRatioF());
     paintMargins(painter, layout);
+    if (page_.overspill > 0.0)
+        paintOverspill(painter, layout, page_.overspill);
     if (page_.hasOthers()) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0 / scale));
         painter.setBrush(Qt::NoBrush);
@@ -364,7 +379,7 @@ void PreviewWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor background = ground(palette());
+    const QColor background = neutralGround(palette());
     painter.fillRect(rect(), background);
     painter.setPen(inkOn(background));
     if (!hasPage_) {

@@ -33,6 +33,7 @@ struct PreviewPage {
     SheetToPrint sheet = {}; ///< with other photos; without any the photo is alone
     size_t current = 0;      ///< the photo's place on it
     QStringList back = {};   ///< the lines that are printed on its back
+    double overspill = 0.0;  ///< points that run over each of the paper's edges and are cut away
 
     bool hasOthers() const { return sheet.photos.size() > 1; }
 };
@@ -84,6 +85,9 @@ public:
 
     QToolButton* backButton() const { return backButton_; }
 
+    /// What the Tab key may visit here.
+    QList<QWidget*> tabOrder() const;
+
     /// The two lines under the page: its size, and what the colours are.
     QStringList captions() const;
 
@@ -128,6 +132,7 @@ private:
     int captionHeight() const;
     QStringList described() const;
     QString sizeCaption() const;
+    QString overspillWords() const;
     QString colorCaption() const;
     QString stateCaption() const;
     void movePhoto(const QPointF& by);

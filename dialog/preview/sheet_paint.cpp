@@ -5,6 +5,7 @@
 #include "platform/foundation/display_text.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -18,6 +19,16 @@ const QColor kInk(70, 70, 70);
 const QColor kPaleInk(120, 120, 120);
 
 } // namespace
+
+QColor neutralGround(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128 ? QColor(38, 38, 38) : QColor(205, 205, 205);
+}
+
+QColor inkOn(const QColor& background)
+{
+    return background.lightness() < 128 ? QColor(200, 200, 200) : QColor(60, 60, 60);
+}
 
 void paintShadow(QPainter& painter, const QRectF& sheet)
 {
@@ -40,6 +51,24 @@ void paintMargins(QPainter& painter, const PageLayout& layout)
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(layout.imageable);
     }
+}
+
+void paintOverspill(QPainter& painter, const PageLayout& layout, double overspill)
+{
+    const QRectF whole(QPointF(), layout.page);
+    // The picture is made larger by that much, and loses a little less of what is seen here.
+    const double wide = overspill * whole.width() / (whole.width() + 2.0 * overspill);
+    const double high = overspill * whole.height() / (whole.height() + 2.0 * overspill);
+    const QRectF kept = whole.adjusted(wide, high, -wide, -high);
+    QPainterPath lost;
+    lost.addRect(whole);
+    lost.addRect(kept);
+    painter.fillPath(lost, QColor(200, 40, 30, 90));
+    painter.setPen(QPen(QColor(255, 255, 255, 200), 0.0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(kept);
+    painter.setPen(QPen(QColor(160, 20, 10), 0.0, Qt::DashLine));
+    painter.drawRect(kept);
 }
 
 // On white, whatever the dialog's colours: it is paper.

@@ -30,7 +30,7 @@ std::optional<double> lengthOf(const QString& text, double most)
 
 QString badLength(const QString& text, double most)
 {
-    return Words::tr("\"%1\" is no length: write millimetres from 0 to %2.").arg(text, QString::number(most));
+    return Words::tr("\"%1\" is no length: write millimeters from 0 to %2.").arg(text, QString::number(most));
 }
 
 } // namespace
@@ -50,13 +50,13 @@ SheetSwitches::SheetSwitches()
             QStringLiteral("SIZE")),
       corner_(QStringLiteral("corner"),
               Words::tr(
-                  "With --photo-size: so many millimetres from the sheet's left and top, for example 20,15."),
+                  "With --photo-size: so many millimeters from the sheet's left and top, for example 20,15."),
               QStringLiteral("X,Y")),
       margin_(QStringLiteral("margin"),
-              Words::tr("Leave so many millimetres free at the sheet's edges at least."),
+              Words::tr("Leave so many millimeters free at the sheet's edges at least."),
               QStringLiteral("MM")),
       border_(QStringLiteral("border"),
-              Words::tr("Leave a white border of so many millimetres around each photo."),
+              Words::tr("Leave a white border of so many millimeters around each photo."),
               QStringLiteral("MM")),
       flags_{{QStringLiteral("repeat"), Words::tr("With --layout: each photo fills its own sheet.")},
              {QStringLiteral("no-repeat"), Words::tr("The photos share sheets.")},
@@ -138,7 +138,7 @@ QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetSettings&
         const std::optional<QSizeF> size = photoSizeOf(text);
         if (!size)
             return Words::tr(
-                       "\"%1\" is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.")
+                       "\"%1\" is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.")
                 .arg(text);
         sheets.photo = *size;
     }
@@ -148,7 +148,7 @@ QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetSettings&
     const std::optional<double> left = lengthOf(corner.section(QLatin1Char(','), 0, 0), kMostPhoto);
     const std::optional<double> top = lengthOf(corner.section(QLatin1Char(','), 1), kMostPhoto);
     if (!left || !top)
-        return Words::tr("\"%1\" is no corner: write two lengths in millimetres, for example 20,15.")
+        return Words::tr("\"%1\" is no corner: write two lengths in millimeters, for example 20,15.")
             .arg(corner);
     if (sheets.photo.isEmpty())
         return Words::tr("--corner goes with --photo-size and a width and a height.");

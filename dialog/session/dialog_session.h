@@ -13,6 +13,7 @@
 #include "dialog/session/option_changes.h"
 #include "dialog/session/page_setup.h"
 #include "dialog/session/photo_loader.h"
+#include "dialog/session/photo_steps.h"
 #include "dialog/session/printer_choice.h"
 #include "dialog/session/printer_panels.h"
 #include "dialog/session/recent_names.h"
@@ -47,15 +48,29 @@ public:
     /// What the user wants of one photo: its crop, its turn, how often it is printed.
     void setPlacement(size_t photo, const PhotoPlacement& placement);
 
-    /// Gives all photos the crop and the turn of this one.
+    /// Gives all photos the crop and the turn of this one. This and what follows down to choosePhotos() is a
+    /// step that undoLastChange() takes back: stepTaken() tells.
     void cropAllAs(size_t photo);
+
+    /// Puts the photos at these places before the one at `before`, in their order; photos().size(): at the
+    /// end. The same ones stay chosen.
+    void movePhotos(const std::vector<size_t>& places, size_t before);
+
+    /// Takes the photos at these places out. The others that were chosen stay so.
+    void removePhotos(const std::vector<size_t>& places);
+
+    /// Prints the photos at these places only.
+    void choosePhotos(const std::vector<size_t>& places);
+
+    /// Prints each of the photos at these places so often in each copy of the job.
+    void setPhotoCopies(const std::vector<size_t>& places, int copies);
 
     /// Somebody who decoded a photo has found that a part of it is missing.
     void noteDamage(const QString& path, int page) { photos_.noteDamage(path, page); }
 
     /// A sentence for each file of which a part is missing. They print only if the user says so: ask before
     /// makeRun(), and settle it.
-    const QStringList& damagedFiles() const { return photos_.damagedFiles(); }
+    QStringList damagedFiles() const { return photos_.damagedFiles(); }
 
     /// A sentence for each file that cannot be read and is left out, until that is settled.
     const QStringList& unreadableFiles() const { return photos_.unreadableFiles(); }
@@ -122,8 +137,13 @@ public:
     /// The layouts that can be chosen.
     LayoutLibrary& layouts() { return page_.layouts(); }
 
-    /// Chooses a layout by its id, with what that sets; an unknown one is left alone.
+    /// Chooses a layout by its id, with what that sets; an unknown one is left alone. A step, as
+    /// changeSheets() takes it.
     void chooseLayout(const QString& id);
+
+    /// As setPage(), but another layout, or another size or place of the photo, is a step that
+    /// undoLastChange() takes back: stepTaken() tells.
+    void changeSheets(const PageSettings& page);
 
     /// Whether the photos' files are another program's, and gone when the dialog is.
     bool areFilesBorrowed() const { return request_.areFilesBorrowed; }
@@ -137,6 +157,10 @@ public:
     /// What the document leaves free at the sheet's edges, in points; nothing if it has not said so, or if
     /// the paper is another one.
     std::optional<QMarginsF> documentMargins() const;
+
+    /// How far the printer lets a picture run over each of the paper's edges, where it is cut away, in
+    /// points; 0 where it prints no picture to the edges.
+    double overspill() const;
 
     /// The layout of a photo on the current sheet.
     PageLayout layoutFor(const Photo& photo) const { return page_.layout(photo, model()); }
@@ -288,6 +312,8 @@ Q_SIGNALS:
     void undoFailed(const QList<halvern::SideChange>& changes);
     /// undoLastChange() would do nothing any more.
     void undoExpired();
+    /// The photos or their sheets were changed in a step that undoLastChange() takes back; a sentence.
+    void stepTaken(const QString& sentence);
     /// A preset was applied as one step.
     void presetApplied(const QString& title);
     /// There is news of what the printer has loaded.
@@ -317,6 +343,7 @@ private:
     JobInputs jobInputs() const;
     PdfQuality quality() const;
     std::vector<SheetToPrint> sheetsToPrint() const;
+    void arrange(const std::vector<size_t>& order);
 
     SessionRequest request_;
     PhotoLoader photos_;
@@ -327,6 +354,7 @@ private:
     std::optional<TrayPaper> inUse_; ///< by what was loaded last
     PageSetup page_;
     OptionChanges options_;
+    PhotoSteps steps_{photos_, page_, options_};
     SessionPresets presets_;
     ColourManagement colours_;
     QHash<QString, QString> profiles_; ///< that were chosen for printers that were left, by queue

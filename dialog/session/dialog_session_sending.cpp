@@ -195,7 +195,7 @@ PdfOutput* DialogSession::makePdf(const QString& path)
 QString DialogSession::command() const
 {
     const std::vector<size_t> chosen = chosenPages().pages;
-    return commandToRepeat({printerName(), photos(), photos_.leftOut(), chosen, *model(), printerDefaults(),
+    return commandToRepeat({printerName(), photos(), chosen, *model(), printerDefaults(),
                             printer_.savedOptions(), jobInputs(), page(), page_.layouts(), request_.server});
 }
 

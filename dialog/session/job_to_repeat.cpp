@@ -11,71 +11,52 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace halvern {
 
 namespace {
 
+/// A page that the command reads; which of the session's photos it is, if it is still there.
 struct ReadPage {
-    Photo photo;
-    bool isLeftOut;
+    std::optional<size_t> place;
+    PhotoPlacement placement = {};
 };
 
-// The pages of each file that is still printed: the command reads it whole.
-std::vector<ReadPage> pagesOfFiles(const std::vector<Photo>& photos,
-                                   const std::vector<PhotoLoader::LeftOutPhoto>& leftOut)
-{
-    std::vector<ReadPage> pages;
-    auto left = leftOut.begin();
-    const auto addLeftOut = [&] {
-        while (left != leftOut.end() && left->place == pages.size())
-            pages.push_back({(left++)->photo, true});
-    };
-    for (const Photo& photo : photos) {
-        addLeftOut();
-        pages.push_back({photo, false});
-    }
-    addLeftOut();
-    for (size_t begin = 0; begin < pages.size();) {
-        // A file that was given twice begins again.
-        size_t end = begin + 1;
-        while (end < pages.size() && pages[end].photo.path == pages[begin].photo.path &&
-               pages[end].photo.page > pages[end - 1].photo.page)
-            ++end;
-        const auto first = pages.begin() + std::ptrdiff_t(begin);
-        const auto last = pages.begin() + std::ptrdiff_t(end);
-        if (std::all_of(first, last, [](const ReadPage& page) { return page.isLeftOut; }))
-            pages.erase(first, last);
-        else
-            begin = end;
-    }
-    return pages;
-}
-
-QStringList filesOf(const std::vector<ReadPage>& pages)
-{
+/// The command reads whole files: each as often as its photos need it to come in their order.
+struct ReadFiles {
     QStringList files;
+    std::vector<ReadPage> pages;
+};
+
+ReadFiles readingOf(const std::vector<Photo>& photos)
+{
+    ReadFiles read;
+    size_t first = 0; // page of the last file
     int before = 0;
-    for (const ReadPage& page : pages) {
-        if (files.isEmpty() || files.back() != page.photo.path || page.photo.page <= before)
-            files.append(page.photo.path);
-        before = page.photo.page;
+    for (size_t i = 0; i < photos.size(); ++i) {
+        const Photo& photo = photos[i];
+        const int number = std::max(photo.pageNumber, 1);
+        if (read.files.isEmpty() || read.files.back() != photo.path || number <= before) {
+            read.files.append(photo.path);
+            first = read.pages.size();
+            read.pages.resize(first + size_t(std::max(photo.pagesInFile, number)));
+        }
+        read.pages[first + size_t(number) - 1] = {i, photo.placement};
+        before = number;
     }
-    return files;
+    return read;
 }
 
-// The chosen places among what is still there, as places among what the command reads.
+// The chosen photos, as places among what the command reads.
 QString rangesIn(const std::vector<ReadPage>& pages, const std::vector<size_t>& chosen)
 {
-    std::vector<size_t> there;
-    for (size_t i = 0; i < pages.size(); ++i) {
-        if (!pages[i].isLeftOut)
-            there.push_back(i);
-    }
     std::vector<size_t> places;
-    for (const size_t place : chosen)
-        places.push_back(there.at(place));
+    for (size_t i = 0; i < pages.size(); ++i) {
+        if (pages[i].place && std::ranges::find(chosen, *pages[i].place) != chosen.end())
+            places.push_back(i);
+    }
     return places.size() < pages.size() ? rangesOf(places) : QString();
 }
 
@@ -85,7 +66,7 @@ QStringList placementWords(const std::vector<ReadPage>& pages, const QString& wo
 {
     QStringList values;
     for (const ReadPage& page : pages)
-        values.append(valueOf(page.photo.placement));
+        values.append(valueOf(page.placement));
     while (values.size() > 1 && values.back() == values[values.size() - 2])
         values.removeLast();
     if (values.isEmpty() || (values.size() == 1 && values.front() == valueOf({})))
@@ -158,8 +139,8 @@ QString commandToRepeat(const SessionToRepeat& session)
     const PageSettings& page = session.page;
     job.printer = session.printer;
     job.server = session.server;
-    const std::vector<ReadPage> pages = pagesOfFiles(session.photos, session.leftOut);
-    job.files = filesOf(pages);
+    const ReadFiles read = readingOf(session.photos);
+    job.files = read.files;
     const UnderstoodOptions saved =
         understand(session.model.file(), givenBy(OptionOrigin::saved, session.saved));
     job.options = optionsToName(session, saved.options);
@@ -167,18 +148,18 @@ QString commandToRepeat(const SessionToRepeat& session)
         job.page.append(page.isCollated ? QStringLiteral("Collate=True") : QStringLiteral("Collate=False"));
     if (page.scaling != Scaling::fit || !saved.page.scaling.isEmpty() || !page.sheets.layout.isEmpty())
         job.page.append(QStringLiteral("print-scaling=") + scalingWord(page.scaling));
-    job.ranges = rangesIn(pages, session.chosen);
+    job.ranges = rangesIn(read.pages, session.chosen);
     job.isReversed = page.pages.isReversed;
     if (page.turn != PageTurn::automatic)
         job.orientation =
             page.turn == PageTurn::portrait ? QStringLiteral("portrait") : QStringLiteral("landscape");
-    job.photos = placementWords(pages);
+    job.photos = placementWords(read.pages);
     job.sheets = sheetWords(page.sheets, session.layouts);
     job.colours = colourWords(page.colours);
     job.title = page.title.trimmed();
     job.copies = page.copies;
     // One that is not among the chosen pages is read all the same.
-    job.printsDamaged = std::ranges::any_of(pages, [](const ReadPage& read) { return read.photo.isDamaged; });
+    job.printsDamaged = std::ranges::any_of(session.photos, &Photo::isFileDamaged);
     return commandFor(job);
 }
 

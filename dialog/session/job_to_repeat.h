@@ -3,7 +3,6 @@
 
 #include "dialog/job/job_options.h"
 #include "dialog/session/page_setup.h"
-#include "dialog/session/photo_loader.h"
 
 namespace halvern {
 
@@ -11,7 +10,6 @@ namespace halvern {
 struct SessionToRepeat {
     QString printer;
     const std::vector<Photo>& photos;
-    const std::vector<PhotoLoader::LeftOutPhoto>& leftOut;
     const std::vector<size_t>& chosen; ///< places in photos, in the order of printing
     const PpdModel& model;
     const QMap<QString, QString>& printerDefaults;

@@ -200,10 +200,11 @@ bool OptionChanges::undo()
 {
     const bool isStep = history_.undoesStep();
     const QMap<QString, QString> before = history_.takeUndo();
-    if (!model_ || (before.isEmpty() && !isStep))
+    if (before.isEmpty() && !isStep)
         return false;
     history_.endGroup();
-    model_->restore(before);
+    if (model_)
+        model_->restore(before);
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         storeInSettings(it.key());
         panels_.tell(it.key(), it.value());

@@ -78,6 +78,12 @@ public:
     /// back what is no option. The panels are told.
     void noteStep(const QMap<QString, QString>& before, std::function<void()> alsoUndo);
 
+    /// What was just done beside the options is the step that undo() takes back, by calling this.
+    void noteOther(std::function<void()> undo) { openStep({}, std::move(undo)); }
+
+    /// Whether undo() would take such a step, or many options set at once, back.
+    bool undoesStep() const { return history_.undoesStep(); }
+
     /// Takes the last change that changed other options too back, with those. False if there was none, or one
     /// of them has been changed again.
     bool undo();

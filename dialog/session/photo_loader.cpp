@@ -67,12 +67,13 @@ void PhotoLoader::take(const PhotoFile& file)
     --filesLeft_;
     for (const Photo& page : file.pages) {
         photos_.push_back(page);
+        photos_.back().id = ++lastId_;
+        photos_.back().isFileDamaged = !file.problem.isEmpty();
         photos_.back().printsDamaged = printDamaged_;
         if (photos_.size() > kKeptPreviews)
             photos_.back().preview = QImage();
         if (!placements_.isEmpty())
-            photos_.back().placement =
-                placements_[std::min(qsizetype(photos_.size()), placements_.size()) - 1];
+            photos_.back().placement = placements_[std::min(qsizetype(lastId_), placements_.size()) - 1];
     }
     if (!file.problem.isEmpty() && file.pages.empty()) {
         unreadableFiles_.append(file.problem);
@@ -89,17 +90,17 @@ void PhotoLoader::noteDamage(const QString& path, int page)
     const auto isNews = [&](const Photo& photo) { return isIt(photo) && !photo.isDamaged; };
     if (std::ranges::none_of(photos_, isNews))
         return;
-    for (Photo& photo : photos_)
+    for (Photo& photo : photos_) {
         photo.isDamaged = photo.isDamaged || isIt(photo);
+        photo.isFileDamaged = photo.isFileDamaged || photo.path == path;
+    }
     tellDamage(path, photoProblem(PhotoFault::partMissing, path));
 }
 
 void PhotoLoader::tellDamage(const QString& path, const QString& sentence)
 {
-    if (!printDamaged_) {
-        damagedFiles_.append(sentence);
-        openDamage_.insert(path);
-    }
+    if (!printDamaged_)
+        openDamage_.insert(path, sentence);
     Q_EMIT damaged(sentence);
 }
 
@@ -117,22 +118,28 @@ void PhotoLoader::centre()
     }
 }
 
+// Only what is still there is asked about.
+QStringList PhotoLoader::damagedFiles() const
+{
+    QStringList sentences;
+    for (auto it = openDamage_.cbegin(); it != openDamage_.cend(); ++it) {
+        if (std::ranges::find(photos_, it.key(), &Photo::path) != photos_.end())
+            sentences.append(*it);
+    }
+    return sentences;
+}
+
+void PhotoLoader::arrange(std::vector<Photo> photos)
+{
+    photos_ = std::move(photos);
+    Q_EMIT changed();
+}
+
 void PhotoLoader::settleDamaged(bool print)
 {
     unreadableFiles_.clear();
-    damagedFiles_.clear();
-    if (!print) {
-        const std::vector<LeftOutPhoto> before = leftOut_;
-        for (size_t i = 0; i < photos_.size(); ++i) {
-            size_t place = i;
-            for (const LeftOutPhoto& gone : before)
-                place += gone.place <= place ? 1 : 0;
-            if (isOpen(photos_[i]))
-                leftOut_.push_back({place, photos_[i]});
-        }
-        std::ranges::sort(leftOut_, {}, &LeftOutPhoto::place);
+    if (!print)
         std::erase_if(photos_, [this](const Photo& photo) { return isOpen(photo); });
-    }
     openDamage_.clear();
     if (!print)
         Q_EMIT changed();

@@ -6,8 +6,8 @@
 #include "platform/foundation/threads/work_queue.h"
 #include "platform/printing/cups_connection.h"
 
+#include <QMap>
 #include <QObject>
-#include <QSet>
 
 #include <vector>
 
@@ -48,16 +48,11 @@ public:
     const QStringList& unreadableFiles() const { return unreadableFiles_; }
 
     /// A sentence for each file of which a part is missing, until that is settled.
-    const QStringList& damagedFiles() const { return damagedFiles_; }
+    QStringList damagedFiles() const;
 
-    /// A photo that was left out.
-    struct LeftOutPhoto {
-        size_t place; ///< among all that were read
-        Photo photo;
-    };
-
-    /// In the order of their places.
-    const std::vector<LeftOutPhoto>& leftOut() const { return leftOut_; }
+    /// Takes these in place of all photos: the same ones in another order, fewer, or such as were taken out
+    /// before.
+    void arrange(std::vector<Photo> photos);
 
     /// Whether the photo is damaged, and nobody has said yet that it prints all the same.
     bool isOpen(const Photo& photo) const { return photo.isDamaged && openDamage_.contains(photo.path); }
@@ -82,10 +77,9 @@ private:
     bool printDamaged_;
     QList<PhotoPlacement> placements_;
     std::vector<Photo> photos_;
-    std::vector<LeftOutPhoto> leftOut_;
     QStringList unreadableFiles_;
-    QStringList damagedFiles_;
-    QSet<QString> openDamage_; // their paths
+    QMap<QString, QString> openDamage_; // sentences, by the files' paths
+    quint64 lastId_ = 0;
     int filesLeft_;
     cups::CancelFlag stop_;
     WorkQueue queue_; // one file after the other, in their order

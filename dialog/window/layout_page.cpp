@@ -199,7 +199,7 @@ QWidget* LayoutPage::makeSizeRow()
     percent_->setDecimals(1);
     percent_->setSuffix(tr(" %"));
     percent_->setKeyboardTracking(false);
-    setPlainName(percent_, tr("Per cent of its own size"));
+    setPlainName(percent_, tr("Percent of its own size"));
     auto* box = new QWidget(this);
     QHBoxLayout* row = rowIn(box);
     row->addWidget(sizeKind_);
@@ -480,7 +480,7 @@ void LayoutPage::chooseMeasures()
         page.sheets.layout = QStringLiteral("%1x%2mm").arg(shortestDouble(eachWidth_->value() * unit()),
                                                            shortestDouble(eachHeight_->value() * unit()));
     if (session_.layouts().find(page.sheets.layout))
-        session_.setPage(page);
+        session_.changeSheets(page);
     else
         refresh();
 }
@@ -500,7 +500,7 @@ void LayoutPage::change()
     sheets.corner.reset();
     if (isPlaced_->isChecked())
         sheets.corner = QPointF(left_->value(), top_->value()) * unit();
-    session_.setPage(page);
+    session_.changeSheets(page);
 }
 
 void LayoutPage::chooseSize()
@@ -520,7 +520,7 @@ void LayoutPage::chooseSize()
     if (kind == SizeKind::length && (size.width() < kLeastPhoto || size.height() < kLeastPhoto))
         size = {kDefaultEach[0], kDefaultEach[1]};
     page.sheets.photo = size;
-    session_.setPage(page);
+    session_.changeSheets(page);
 }
 
 void LayoutPage::setPlacement(int copies)

@@ -135,7 +135,8 @@ void PhotoAdding::addNamed(const QStringList& names)
 
 bool PhotoAdding::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != window_ || (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop))
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
+        event->type() != QEvent::Drop)
         return QObject::eventFilter(watched, event);
     auto* drop = static_cast<QDropEvent*>(event);
     if (!holdsPhotos(*drop->mimeData()))

@@ -3,7 +3,7 @@
 
 #include "platform/foundation/threads/work_queue.h"
 
-#include <QObject>
+#include <QWidget>
 
 #include <memory>
 #include <vector>
@@ -13,7 +13,6 @@ class QImage;
 class QMimeData;
 class QTemporaryFile;
 class QToolButton;
-class QWidget;
 
 namespace halvern {
 
@@ -30,6 +29,9 @@ public:
 
     /// A button that offers the ways, for the window to place.
     QToolButton* makeButton(QWidget* parent);
+
+    /// Takes drops on this widget of the window too, which has other drops of its own.
+    void watch(QWidget* widget) { widget->installEventFilter(this); }
 
     void choose();
     void paste();

@@ -5,6 +5,8 @@
 #include "dialog/session/dialog_session.h"
 #include "dialog/session/sheet_words.h"
 #include "dialog/window/photo_adding.h"
+#include "dialog/window/photo_strip.h"
+#include "platform/foundation/user_defaults.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QFileInfo>
@@ -20,6 +22,9 @@ namespace halvern {
 namespace {
 
 constexpr int kLongestName = 120;
+constexpr int kLeastHeight = 430; // with the photos in a row, or too little is left for the preview
+constexpr int kFoldMargin = 4;
+const QString kFoldedKey = QStringLiteral("PhotosFolded");
 
 QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
 {
@@ -49,10 +54,14 @@ PreviewSide::PreviewSide(DialogSession& session, QWidget* window)
     column->setSpacing(0);
     column->addWidget(preview_, 1);
     auto* below = new QHBoxLayout;
+    if (!session_.document())
+        makeStrip(below);
     below->addWidget(pager_, 1);
     if (!session_.document())
         makeAddButton(below, window);
     column->addLayout(below);
+    if (strip_)
+        column->addWidget(strip_);
     connectPreview();
 }
 
@@ -75,7 +84,51 @@ void PreviewSide::makeAddButton(QHBoxLayout* row, QWidget* window)
     add_ = adding_->makeButton(this);
     row->addStretch();
     row->addWidget(add_);
+    adding_->watch(strip_->dropArea());
     connect(adding_, &PhotoAdding::failed, this, &PreviewSide::failed);
+}
+
+void PreviewSide::makeStrip(QHBoxLayout* row)
+{
+    strip_ = new PhotoStrip(session_, this);
+    fold_ = new QToolButton(this);
+    fold_->setObjectName(QStringLiteral("foldPhotos"));
+    fold_->setAutoRaise(true);
+    isFolded_ = UserDefaults::standardUserDefaults().objectForKey(kFoldedKey).toBool();
+    fold_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    fold_->setToolTip(tr("Show the photos in a row, or not"));
+    row->addSpacing(kFoldMargin);
+    row->addWidget(fold_);
+    row->addStretch();
+    connect(fold_, &QToolButton::clicked, this, [this] {
+        isFolded_ = !isFolded_;
+        UserDefaults::standardUserDefaults().changeGlobal(
+            [isFolded = isFolded_](QVariantMap& values) { values.insert(kFoldedKey, isFolded); });
+        showStrip();
+    });
+    connect(strip_, &PhotoStrip::photoChosen, this, &PreviewSide::showPhoto);
+    connect(strip_, &PhotoStrip::cropAsked, this, &PreviewSide::startCropping);
+    connect(strip_, &PhotoStrip::wordsChanged, this, &PreviewSide::showStrip);
+}
+
+// One photo needs no row.
+void PreviewSide::showStrip()
+{
+    if (!strip_)
+        return;
+    const bool isNeeded = session_.photos().size() > 1;
+    const bool hasRoom = height() >= kLeastHeight;
+    fold_->setVisible(isNeeded && hasRoom);
+    fold_->setText(strip_->inWords()); // plain: ours
+    const Qt::ArrowType folded = layoutDirection() == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow;
+    fold_->setArrowType(isFolded_ ? folded : Qt::DownArrow);
+    strip_->setVisible(isNeeded && hasRoom && !isFolded_);
+}
+
+void PreviewSide::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    showStrip();
 }
 
 void PreviewSide::connectPreview()
@@ -90,6 +143,7 @@ void PreviewSide::connectPreview()
     });
     connect(preview_, &PreviewWidget::photoChosen, this, [this](size_t place) {
         currentPlace_ = place;
+        followed_ = 0;
         refresh();
     });
     connect(preview_, &PreviewWidget::damageFound, this,
@@ -104,6 +158,9 @@ void PreviewSide::refresh()
     const std::vector<Sheet>& sheets = plan.sheets;
     pager_->setVisible(sheets.size() > 1);
     shown_.reset();
+    if (strip_)
+        strip_->refresh();
+    showStrip();
     if (sheets.empty()) {
         preview_->showText(!session_.hasPhotos()    ? tr("Reading the photo...")
                            : photos.empty()         ? tr("There is no photo to print.")
@@ -111,7 +168,37 @@ void PreviewSide::refresh()
                                                     : plan.problem);
         return;
     }
+    showPlace(sheets);
+}
+
+std::optional<size_t> PreviewSide::placeOf(quint64 id) const
+{
+    const auto found = std::ranges::find(session_.photos(), id, &Photo::id);
+    return id == 0 || found == session_.photos().end()
+               ? std::nullopt
+               : std::optional(size_t(found - session_.photos().begin()));
+}
+
+// What the user looks at stays in sight, wherever another order or another layout puts it.
+void PreviewSide::showPlace(const std::vector<Sheet>& sheets)
+{
     current_ = std::clamp(current_, 0, int(sheets.size()) - 1);
+    const std::optional<size_t> followed = placeOf(followed_);
+    const auto isThere = [&](const PlacedPhoto& placed) { return placed.photo == *followed; };
+    const std::vector<PlacedPhoto>& here = sheets[size_t(current_)].photos;
+    const bool isHere = !followed || (currentPlace_ < here.size() && isThere(here[currentPlace_]));
+    if (!isHere) {
+        const auto sheet = std::ranges::find_if(
+            sheets, [&](const Sheet& each) { return std::ranges::any_of(each.photos, isThere); });
+        if (sheet == sheets.end() && followed_ == asked_) {
+            showAside(*followed);
+            return;
+        }
+        if (sheet != sheets.end()) {
+            current_ = int(sheet - sheets.begin());
+            currentPlace_ = size_t(std::ranges::find_if(sheet->photos, isThere) - sheet->photos.begin());
+        }
+    }
     showSheet(sheets[size_t(current_)], sheets.size());
 }
 
@@ -125,59 +212,68 @@ void PreviewSide::showSheet(const Sheet& sheet, size_t count)
 {
     currentPlace_ = std::min(currentPlace_, sheet.photos.size() - 1);
     const PlacedPhoto& placed = sheet.photos[currentPlace_];
-    const Photo& photo = session_.photos()[placed.photo];
-    shown_ = placed.photo;
     PreviewPage page;
     page.layout = placed.layout;
-    page.photo = photo;
-    page.resolution = session_.resolution();
-    page.look = session_.look();
     page.sheet.sheet = sheet;
     page.sheet.caption = session_.page().sheets.caption;
     for (const PlacedPhoto& each : sheet.photos)
         page.sheet.photos.push_back(session_.photos()[each.photo]);
     page.current = currentPlace_;
-    const ColourSettings& chosen = session_.page().colours;
-    page.screen = session_.colours().screenPlan(chosen, session_.model());
-    page.proofWords = session_.colours().proofInWords(chosen, session_.model());
-    page.back = linesOnBack(session_.valuesToSend());
-    preview_->showPage(page);
-    tellNumber(photo, count);
-    Q_EMIT shown(photo, placed.photo);
-}
-
-void PreviewSide::tellNumber(const Photo& photo, size_t count)
-{
-    const QString name = isolated(QFileInfo(photo.path).fileName(), kLongestName);
-    const QString words =
-        photo.pageNumber > 0 ? tr("%1, page %2").arg(name, QString::number(photo.pageNumber)) : name;
     QString number = tr("%1 of %2").arg(QString::number(current_ + 1), QString::number(count));
     if (session_.isTwoSided())
         number += QLatin1Char(' ') + (current_ % 2 == 0 ? tr("(front)") : tr("(back)"));
-    setPlainText(pageNumber_, number + QStringLiteral("  ·  ") + words);
     back_->setEnabled(current_ > 0);
     forward_->setEnabled(current_ + 1 < int(count));
+    display(placed.photo, std::move(page), number);
+}
+
+// A photo that is on no sheet.
+void PreviewSide::showAside(size_t photo)
+{
+    PreviewPage page;
+    page.layout = session_.layoutFor(session_.photos()[photo]);
+    display(photo, std::move(page), tr("Not printed"));
+}
+
+void PreviewSide::display(size_t place, PreviewPage page, const QString& number)
+{
+    const Photo& photo = session_.photos()[place];
+    shown_ = place;
+    page.photo = photo;
+    page.resolution = session_.resolution();
+    page.look = session_.look();
+    const ColourSettings& chosen = session_.page().colours;
+    page.screen = session_.colours().screenPlan(chosen, session_.model());
+    page.proofWords = session_.colours().proofInWords(chosen, session_.model());
+    page.overspill = session_.overspill();
+    page.back = linesOnBack(session_.valuesToSend());
+    preview_->showPage(page);
+    const QString name = isolated(QFileInfo(photo.path).fileName(), kLongestName);
+    const QString words =
+        photo.pageNumber > 0 ? tr("%1, page %2").arg(name, QString::number(photo.pageNumber)) : name;
+    setPlainText(pageNumber_, number + QStringLiteral("  ·  ") + words);
+    // What is selected stays so as long as the same photo is looked at.
+    if (strip_ && photo.id != std::exchange(shownId_, photo.id))
+        strip_->setCurrent(place);
+    // As long as photos come, the first sheet is what one looks at.
+    if (session_.hasPhotos())
+        followed_ = shownId_;
+    Q_EMIT shown(photo, place);
 }
 
 void PreviewSide::showPhoto(size_t photo)
 {
-    const SheetPlan plan = session_.sheetPlan();
-    for (size_t i = 0; i < plan.sheets.size(); ++i) {
-        const std::vector<PlacedPhoto>& placed = plan.sheets[i].photos;
-        const auto found = std::ranges::find(placed, photo, &PlacedPhoto::photo);
-        if (found == placed.end())
-            continue;
-        current_ = int(i);
-        currentPlace_ = size_t(found - placed.begin());
-        refresh();
+    if (photo >= session_.photos().size())
         return;
-    }
+    asked_ = followed_ = session_.photos()[photo].id;
+    refresh();
 }
 
 void PreviewSide::step(int by)
 {
     current_ += by;
     currentPlace_ = 0;
+    followed_ = 0;
     refresh();
 }
 
@@ -188,10 +284,14 @@ void PreviewSide::startCropping()
 
 QList<QWidget*> PreviewSide::tabOrder() const
 {
-    QList<QWidget*> order{
-        preview_, preview_->cropButton(), preview_->backButton(), preview_->zoomButton(), back_, forward_};
+    QList<QWidget*> order = preview_->tabOrder();
+    if (fold_)
+        order += fold_;
+    order += {back_, forward_};
     if (add_)
         order += add_;
+    if (strip_)
+        order += strip_->list();
     return order;
 }
 

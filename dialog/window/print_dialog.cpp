@@ -346,6 +346,7 @@ void PrintDialog::connectChanges()
             kUndoMessage);
     });
     connect(&session_, &DialogSession::trayRefilled, this, &PrintDialog::offerUndo);
+    connect(&session_, &DialogSession::stepTaken, this, &PrintDialog::offerUndo);
     connect(&session_, &DialogSession::undoExpired, this, [this] { message_->withdraw(kUndoMessage); });
 }
 

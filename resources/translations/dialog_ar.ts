@@ -491,7 +491,7 @@
         <translation>ليس «⁨%1⁩» تدويرًا: اكتب 0 أو 90 أو 180 أو 270.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <source>&quot;%1&quot; is no length: write millimeters from 0 to %2.</source>
         <translation>ليس «⁨%1⁩» طولًا: اكتب ميليمترات من 0 إلى %2.</translation>
     </message>
     <message>
@@ -507,15 +507,15 @@
         <translation>اطبع كل صورة بهذا المقاس، مثل ⁨100x150⁩ أو ⁨4x6in⁩، أو ⁨50%⁩ من مقاسها.</translation>
     </message>
     <message>
-        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <source>With --photo-size: so many millimeters from the sheet&apos;s left and top, for example 20,15.</source>
         <translation>مع ⁨--photo-size⁩: بعدد الميليمترات هذا من يسار الورقة وأعلاها، مثل ⁨20,15⁩.</translation>
     </message>
     <message>
-        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <source>Leave so many millimeters free at the sheet&apos;s edges at least.</source>
         <translation>اترك هذا العدد من الميليمترات على الأقل خاليًا عند حواف الورقة.</translation>
     </message>
     <message>
-        <source>Leave a white border of so many millimetres around each photo.</source>
+        <source>Leave a white border of so many millimeters around each photo.</source>
         <translation>اترك إطارًا أبيض بهذا العدد من الميليمترات حول كل صورة.</translation>
     </message>
     <message>
@@ -555,11 +555,11 @@
         <translation>ليس «⁨%1⁩» مقاسًا: اكتب من ⁨%2%⁩ إلى ⁨%3%⁩.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <source>&quot;%1&quot; is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.</source>
         <translation>ليس «⁨%1⁩» مقاسًا: اكتب ميليمترات مثل ⁨100x150⁩، أو بوصات مثل ⁨4x6in⁩، أو ⁨50%⁩.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimeters, for example 20,15.</source>
         <translation>ليس «⁨%1⁩» زاوية: اكتب طولين بالميليمتر، مثل ⁨20,15⁩.</translation>
     </message>
     <message>
@@ -2966,7 +2966,7 @@
         <translation>اقتصاص</translation>
     </message>
     <message>
-        <source>Centre</source>
+        <source>Center</source>
         <translation>توسيط</translation>
     </message>
     <message>
@@ -3109,6 +3109,42 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>كل الصور مستبعدة. أدرج واحدة منها على الأقل.</translation>
+    </message>
+    <message>
+        <source>All photos are cropped and turned like &quot;%1&quot; now.</source>
+        <translation>كل الصور مقتصّة ومدوّرة الآن مثل «%1».</translation>
+    </message>
+    <message>
+        <source>1 photo was moved.</source>
+        <translation>نُقلت صورة واحدة.</translation>
+    </message>
+    <message>
+        <source>%1 photos were moved.</source>
+        <translation>نُقلت صور، عددها: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was taken out.</source>
+        <translation>استُبعدت «%1».</translation>
+    </message>
+    <message>
+        <source>%1 photos were taken out.</source>
+        <translation>استُبعدت صور، عددها: %1.</translation>
+    </message>
+    <message>
+        <source>All photos are printed now.</source>
+        <translation>ستُطبع كل الصور الآن.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos are printed now.</source>
+        <translation>الصور التي ستُطبع الآن: %1 من %2.</translation>
+    </message>
+    <message>
+        <source>The layout was changed.</source>
+        <translation>تم تغيير التخطيط.</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s size or place was changed.</source>
+        <translation>تم تغيير حجم الصورة أو موضعها.</translation>
     </message>
 </context>
 <context>
@@ -3476,7 +3512,7 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent of its own size</source>
+        <source>Percent of its own size</source>
         <translation>نسبة مئوية من حجمها الخاص</translation>
     </message>
     <message>
@@ -3991,6 +4027,37 @@
     </message>
 </context>
 <context>
+    <name>halvern::PhotoListModel</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>⁨%1⁩، الصفحة ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2</source>
+        <translation>الصورة %1 من %2</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>نسخة واحدة</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>النسخ: %1</translation>
+    </message>
+    <message>
+        <source>not printed</source>
+        <translation>لا تُطبع</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>جزء منها مفقود</translation>
+    </message>
+    <message>
+        <source>Drag it to another place, or press Alt and an arrow key. Plus and minus change the copies, Space whether it is printed, Delete takes it out, Return crops it. More with a right click.</source>
+        <translation>اسحبها إلى موضع آخر، أو اضغط Alt مع أحد مفاتيح الأسهم. الزائد والناقص يغيّران عدد النسخ، والمسافة تحدد هل تُطبع، وDelete يستبعدها، وEnter يقتصّها. والمزيد بالنقر الأيمن.</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PhotoLoader</name>
     <message>
         <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
@@ -4094,6 +4161,85 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>رمادي بلا ملف تعريف؛ يُعدّ sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoStrip</name>
+    <message>
+        <source>Photos</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>اقتصاص...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>الاقتصاص نفسه للكل</translation>
+    </message>
+    <message>
+        <source>One More Copy</source>
+        <translation>نسخة إضافية</translation>
+    </message>
+    <message>
+        <source>One Copy Less</source>
+        <translation>نسخة أقل</translation>
+    </message>
+    <message>
+        <source>Copies...</source>
+        <translation>النسخ...</translation>
+    </message>
+    <message>
+        <source>Print, or Not</source>
+        <translation>طباعة أو عدمها</translation>
+    </message>
+    <message>
+        <source>Print Only These</source>
+        <translation>طباعة هذه فقط</translation>
+    </message>
+    <message>
+        <source>Print All Photos</source>
+        <translation>طباعة كل الصور</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>استبعاد</translation>
+    </message>
+    <message>
+        <source>Move Earlier</source>
+        <translation>نقل إلى الأمام</translation>
+    </message>
+    <message>
+        <source>Move Later</source>
+        <translation>نقل إلى الخلف</translation>
+    </message>
+    <message>
+        <source>Move to the Start</source>
+        <translation>نقل إلى البداية</translation>
+    </message>
+    <message>
+        <source>Move to the End</source>
+        <translation>نقل إلى النهاية</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>المحدد: %1 من %2</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>الصور: %1</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>النسخ</translation>
+    </message>
+    <message>
+        <source>Copies of this photo:</source>
+        <translation>نسخ هذه الصورة:</translation>
+    </message>
+    <message>
+        <source>Copies of each of the %1 photos:</source>
+        <translation>نسخ كل صورة من الصور المحددة (%1):</translation>
     </message>
 </context>
 <context>
@@ -4303,6 +4449,14 @@
         <source>(back)</source>
         <translation>(الظهر)</translation>
     </message>
+    <message>
+        <source>Show the photos in a row, or not</source>
+        <translation>إظهار الصور في صف أو إخفاؤها</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>لا تُطبع</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PreviewWidget</name>
@@ -4373,6 +4527,14 @@
     <message>
         <source>The back of the picture, as the printer writes on it</source>
         <translation>ظهر الصورة، كما تكتب الطابعة عليه</translation>
+    </message>
+    <message>
+        <source>the edges are cut away</source>
+        <translation>تُقصّ الحواف</translation>
+    </message>
+    <message>
+        <source>The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is marked along the edges is cut away</source>
+        <translation>تمتد الصورة %1 مم خارج كل حافة من حواف الورق كي لا يبقى شيء أبيض: ما هو معلّم على الحواف يُقصّ</translation>
     </message>
 </context>
 <context>

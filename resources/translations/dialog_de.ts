@@ -491,7 +491,7 @@
         <translation>„%1“ ist keine Drehung: Schreiben Sie 0, 90, 180 oder 270.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <source>&quot;%1&quot; is no length: write millimeters from 0 to %2.</source>
         <translation>„%1“ ist keine Länge: Schreiben Sie Millimeter von 0 bis %2.</translation>
     </message>
     <message>
@@ -507,15 +507,15 @@
         <translation>Jedes Foto in dieser Größe drucken, zum Beispiel 100x150, 4x6in oder 50% seiner eigenen.</translation>
     </message>
     <message>
-        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <source>With --photo-size: so many millimeters from the sheet&apos;s left and top, for example 20,15.</source>
         <translation>Mit --photo-size: so viele Millimeter vom linken und oberen Rand des Blattes, zum Beispiel 20,15.</translation>
     </message>
     <message>
-        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <source>Leave so many millimeters free at the sheet&apos;s edges at least.</source>
         <translation>Am Rand des Blattes mindestens so viele Millimeter frei lassen.</translation>
     </message>
     <message>
-        <source>Leave a white border of so many millimetres around each photo.</source>
+        <source>Leave a white border of so many millimeters around each photo.</source>
         <translation>Um jedes Foto einen weißen Rand von so vielen Millimetern lassen.</translation>
     </message>
     <message>
@@ -555,11 +555,11 @@
         <translation>„%1“ ist keine Größe: Schreiben Sie %2% bis %3%.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <source>&quot;%1&quot; is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.</source>
         <translation>„%1“ ist keine Größe: Schreiben Sie Millimeter, etwa 100x150, Zoll, etwa 4x6in, oder 50%.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimeters, for example 20,15.</source>
         <translation>„%1“ ist keine Ecke: Schreiben Sie zwei Längen in Millimetern, zum Beispiel 20,15.</translation>
     </message>
     <message>
@@ -2966,7 +2966,7 @@
         <translation>Zuschneiden</translation>
     </message>
     <message>
-        <source>Centre</source>
+        <source>Center</source>
         <translation>Zentrieren</translation>
     </message>
     <message>
@@ -3109,6 +3109,42 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Alle Fotos sind weggelassen. Nehmen Sie mindestens eines davon auf.</translation>
+    </message>
+    <message>
+        <source>All photos are cropped and turned like &quot;%1&quot; now.</source>
+        <translation>Alle Fotos sind jetzt wie „%1“ zugeschnitten und gedreht.</translation>
+    </message>
+    <message>
+        <source>1 photo was moved.</source>
+        <translation>1 Foto wurde verschoben.</translation>
+    </message>
+    <message>
+        <source>%1 photos were moved.</source>
+        <translation>%1 Fotos wurden verschoben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was taken out.</source>
+        <translation>„%1“ wurde herausgenommen.</translation>
+    </message>
+    <message>
+        <source>%1 photos were taken out.</source>
+        <translation>%1 Fotos wurden herausgenommen.</translation>
+    </message>
+    <message>
+        <source>All photos are printed now.</source>
+        <translation>Jetzt werden alle Fotos gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos are printed now.</source>
+        <translation>Jetzt werden %1 von %2 Fotos gedruckt.</translation>
+    </message>
+    <message>
+        <source>The layout was changed.</source>
+        <translation>Die Anordnung wurde geändert.</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s size or place was changed.</source>
+        <translation>Größe oder Ort des Fotos wurde geändert.</translation>
     </message>
 </context>
 <context>
@@ -3476,7 +3512,7 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent of its own size</source>
+        <source>Percent of its own size</source>
         <translation>Prozent der eigenen Größe</translation>
     </message>
     <message>
@@ -3991,6 +4027,37 @@
     </message>
 </context>
 <context>
+    <name>halvern::PhotoListModel</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, Seite %2</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2</source>
+        <translation>Foto %1 von %2</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 Exemplar</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 Exemplare</translation>
+    </message>
+    <message>
+        <source>not printed</source>
+        <translation>wird nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>ein Teil fehlt</translation>
+    </message>
+    <message>
+        <source>Drag it to another place, or press Alt and an arrow key. Plus and minus change the copies, Space whether it is printed, Delete takes it out, Return crops it. More with a right click.</source>
+        <translation>Ziehen Sie es an eine andere Stelle, oder drücken Sie Alt und eine Pfeiltaste. Plus und Minus ändern die Exemplare, die Leertaste, ob es gedruckt wird, Entf nimmt es heraus, die Eingabetaste schneidet es zu. Mehr mit einem Rechtsklick.</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PhotoLoader</name>
     <message>
         <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
@@ -4094,6 +4161,85 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>Grau ohne Profil; gilt als sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoStrip</name>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Zuschneiden ...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>Alle so zuschneiden</translation>
+    </message>
+    <message>
+        <source>One More Copy</source>
+        <translation>Ein Exemplar mehr</translation>
+    </message>
+    <message>
+        <source>One Copy Less</source>
+        <translation>Ein Exemplar weniger</translation>
+    </message>
+    <message>
+        <source>Copies...</source>
+        <translation>Exemplare ...</translation>
+    </message>
+    <message>
+        <source>Print, or Not</source>
+        <translation>Drucken oder nicht</translation>
+    </message>
+    <message>
+        <source>Print Only These</source>
+        <translation>Nur diese drucken</translation>
+    </message>
+    <message>
+        <source>Print All Photos</source>
+        <translation>Alle Fotos drucken</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Herausnehmen</translation>
+    </message>
+    <message>
+        <source>Move Earlier</source>
+        <translation>Nach vorn</translation>
+    </message>
+    <message>
+        <source>Move Later</source>
+        <translation>Nach hinten</translation>
+    </message>
+    <message>
+        <source>Move to the Start</source>
+        <translation>An den Anfang</translation>
+    </message>
+    <message>
+        <source>Move to the End</source>
+        <translation>Ans Ende</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 von %2 ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>%1 Fotos</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Copies of this photo:</source>
+        <translation>Exemplare dieses Fotos:</translation>
+    </message>
+    <message>
+        <source>Copies of each of the %1 photos:</source>
+        <translation>Exemplare von jedem der %1 Fotos:</translation>
     </message>
 </context>
 <context>
@@ -4303,6 +4449,14 @@
         <source>(back)</source>
         <translation>(Rückseite)</translation>
     </message>
+    <message>
+        <source>Show the photos in a row, or not</source>
+        <translation>Die Fotos in einer Reihe zeigen oder nicht</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Wird nicht gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PreviewWidget</name>
@@ -4373,6 +4527,14 @@
     <message>
         <source>The back of the picture, as the printer writes on it</source>
         <translation>Die Rückseite des Bildes, wie der Drucker sie beschriftet</translation>
+    </message>
+    <message>
+        <source>the edges are cut away</source>
+        <translation>die Kanten werden abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is marked along the edges is cut away</source>
+        <translation>Das Bild reicht %1 mm über jede Kante des Papiers hinaus, damit nichts weiß bleibt: Was an den Kanten markiert ist, wird abgeschnitten</translation>
     </message>
 </context>
 <context>

@@ -491,7 +491,7 @@
         <translation>«%1» no es un giro: escriba 0, 90, 180 o 270.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <source>&quot;%1&quot; is no length: write millimeters from 0 to %2.</source>
         <translation>«%1» no es una longitud: escriba milímetros de 0 a %2.</translation>
     </message>
     <message>
@@ -507,15 +507,15 @@
         <translation>Imprimir cada foto en este tamaño, por ejemplo 100x150, 4x6in o 50% del suyo propio.</translation>
     </message>
     <message>
-        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <source>With --photo-size: so many millimeters from the sheet&apos;s left and top, for example 20,15.</source>
         <translation>Con --photo-size: a tantos milímetros de la izquierda y de arriba de la hoja, por ejemplo 20,15.</translation>
     </message>
     <message>
-        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <source>Leave so many millimeters free at the sheet&apos;s edges at least.</source>
         <translation>Dejar libres al menos tantos milímetros en los bordes de la hoja.</translation>
     </message>
     <message>
-        <source>Leave a white border of so many millimetres around each photo.</source>
+        <source>Leave a white border of so many millimeters around each photo.</source>
         <translation>Dejar un borde blanco de tantos milímetros alrededor de cada foto.</translation>
     </message>
     <message>
@@ -555,11 +555,11 @@
         <translation>«%1» no es un tamaño: escriba de %2% a %3%.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <source>&quot;%1&quot; is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.</source>
         <translation>«%1» no es un tamaño: escriba milímetros, como 100x150, pulgadas, como 4x6in, o 50%.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimeters, for example 20,15.</source>
         <translation>«%1» no es una esquina: escriba dos longitudes en milímetros, por ejemplo 20,15.</translation>
     </message>
     <message>
@@ -2966,7 +2966,7 @@
         <translation>Recortar</translation>
     </message>
     <message>
-        <source>Centre</source>
+        <source>Center</source>
         <translation>Centrar</translation>
     </message>
     <message>
@@ -3109,6 +3109,42 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Todas las fotos están omitidas. Incluya al menos una.</translation>
+    </message>
+    <message>
+        <source>All photos are cropped and turned like &quot;%1&quot; now.</source>
+        <translation>Ahora todas las fotos están recortadas y giradas como «%1».</translation>
+    </message>
+    <message>
+        <source>1 photo was moved.</source>
+        <translation>Se movió 1 foto.</translation>
+    </message>
+    <message>
+        <source>%1 photos were moved.</source>
+        <translation>Se movieron %1 fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was taken out.</source>
+        <translation>Se quitó «%1».</translation>
+    </message>
+    <message>
+        <source>%1 photos were taken out.</source>
+        <translation>Se quitaron %1 fotos.</translation>
+    </message>
+    <message>
+        <source>All photos are printed now.</source>
+        <translation>Ahora se imprimen todas las fotos.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos are printed now.</source>
+        <translation>Ahora se imprimen %1 de %2 fotos.</translation>
+    </message>
+    <message>
+        <source>The layout was changed.</source>
+        <translation>Se cambió la disposición.</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s size or place was changed.</source>
+        <translation>Se cambió el tamaño o el lugar de la foto.</translation>
     </message>
 </context>
 <context>
@@ -3476,7 +3512,7 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent of its own size</source>
+        <source>Percent of its own size</source>
         <translation>Porcentaje de su propio tamaño</translation>
     </message>
     <message>
@@ -3991,6 +4027,37 @@
     </message>
 </context>
 <context>
+    <name>halvern::PhotoListModel</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, página %2</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2</source>
+        <translation>Foto %1 de %2</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 copia</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 copias</translation>
+    </message>
+    <message>
+        <source>not printed</source>
+        <translation>no se imprime</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>le falta una parte</translation>
+    </message>
+    <message>
+        <source>Drag it to another place, or press Alt and an arrow key. Plus and minus change the copies, Space whether it is printed, Delete takes it out, Return crops it. More with a right click.</source>
+        <translation>Arrástrela a otro lugar, o pulse Alt y una flecha. Más y menos cambian las copias; Espacio, si se imprime; Supr la quita; Intro la recorta. Más con el botón derecho.</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PhotoLoader</name>
     <message>
         <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
@@ -4094,6 +4161,85 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>Gris sin perfil; se toma como sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoStrip</name>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Recortar...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>Mismo recorte para todas</translation>
+    </message>
+    <message>
+        <source>One More Copy</source>
+        <translation>Una copia más</translation>
+    </message>
+    <message>
+        <source>One Copy Less</source>
+        <translation>Una copia menos</translation>
+    </message>
+    <message>
+        <source>Copies...</source>
+        <translation>Copias...</translation>
+    </message>
+    <message>
+        <source>Print, or Not</source>
+        <translation>Imprimir o no</translation>
+    </message>
+    <message>
+        <source>Print Only These</source>
+        <translation>Imprimir solo estas</translation>
+    </message>
+    <message>
+        <source>Print All Photos</source>
+        <translation>Imprimir todas las fotos</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move Earlier</source>
+        <translation>Mover antes</translation>
+    </message>
+    <message>
+        <source>Move Later</source>
+        <translation>Mover después</translation>
+    </message>
+    <message>
+        <source>Move to the Start</source>
+        <translation>Mover al principio</translation>
+    </message>
+    <message>
+        <source>Move to the End</source>
+        <translation>Mover al final</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 de %2 seleccionadas</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>%1 fotos</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Copies of this photo:</source>
+        <translation>Copias de esta foto:</translation>
+    </message>
+    <message>
+        <source>Copies of each of the %1 photos:</source>
+        <translation>Copias de cada una de las %1 fotos:</translation>
     </message>
 </context>
 <context>
@@ -4303,6 +4449,14 @@
         <source>(back)</source>
         <translation>(dorso)</translation>
     </message>
+    <message>
+        <source>Show the photos in a row, or not</source>
+        <translation>Mostrar las fotos en una fila, o no</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>No se imprime</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PreviewWidget</name>
@@ -4373,6 +4527,14 @@
     <message>
         <source>The back of the picture, as the printer writes on it</source>
         <translation>El dorso de la foto, tal como escribe en él la impresora</translation>
+    </message>
+    <message>
+        <source>the edges are cut away</source>
+        <translation>los bordes se cortan</translation>
+    </message>
+    <message>
+        <source>The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is marked along the edges is cut away</source>
+        <translation>La imagen sobresale %1 mm de cada borde del papel para que nada quede blanco: lo marcado en los bordes se corta</translation>
     </message>
 </context>
 <context>

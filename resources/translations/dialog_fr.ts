@@ -491,7 +491,7 @@
         <translation>« %1 » n’est pas une rotation : écrivez 0, 90, 180 ou 270.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <source>&quot;%1&quot; is no length: write millimeters from 0 to %2.</source>
         <translation>« %1 » n’est pas une longueur : écrivez des millimètres de 0 à %2.</translation>
     </message>
     <message>
@@ -507,15 +507,15 @@
         <translation>Imprimer chaque photo dans cette taille, par exemple 100x150, 4x6in ou 50% de la sienne.</translation>
     </message>
     <message>
-        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <source>With --photo-size: so many millimeters from the sheet&apos;s left and top, for example 20,15.</source>
         <translation>Avec --photo-size : à autant de millimètres de la gauche et du haut de la feuille, par exemple 20,15.</translation>
     </message>
     <message>
-        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <source>Leave so many millimeters free at the sheet&apos;s edges at least.</source>
         <translation>Laisser libres au moins autant de millimètres aux bords de la feuille.</translation>
     </message>
     <message>
-        <source>Leave a white border of so many millimetres around each photo.</source>
+        <source>Leave a white border of so many millimeters around each photo.</source>
         <translation>Laisser un bord blanc d’autant de millimètres autour de chaque photo.</translation>
     </message>
     <message>
@@ -555,11 +555,11 @@
         <translation>« %1 » n’est pas une taille : écrivez %2% à %3%.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <source>&quot;%1&quot; is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.</source>
         <translation>« %1 » n’est pas une taille : écrivez des millimètres, comme 100x150, des pouces, comme 4x6in, ou 50%.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimeters, for example 20,15.</source>
         <translation>« %1 » n’est pas un coin : écrivez deux longueurs en millimètres, par exemple 20,15.</translation>
     </message>
     <message>
@@ -2966,7 +2966,7 @@
         <translation>Recadrer</translation>
     </message>
     <message>
-        <source>Centre</source>
+        <source>Center</source>
         <translation>Centrer</translation>
     </message>
     <message>
@@ -3109,6 +3109,42 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Toutes les photos sont omises. Incluez-en au moins une.</translation>
+    </message>
+    <message>
+        <source>All photos are cropped and turned like &quot;%1&quot; now.</source>
+        <translation>Toutes les photos sont maintenant cadrées et tournées comme « %1 ».</translation>
+    </message>
+    <message>
+        <source>1 photo was moved.</source>
+        <translation>1 photo a été déplacée.</translation>
+    </message>
+    <message>
+        <source>%1 photos were moved.</source>
+        <translation>%1 photos ont été déplacées.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was taken out.</source>
+        <translation>« %1 » a été retirée.</translation>
+    </message>
+    <message>
+        <source>%1 photos were taken out.</source>
+        <translation>%1 photos ont été retirées.</translation>
+    </message>
+    <message>
+        <source>All photos are printed now.</source>
+        <translation>Toutes les photos sont maintenant imprimées.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos are printed now.</source>
+        <translation>%1 photos sur %2 sont maintenant imprimées.</translation>
+    </message>
+    <message>
+        <source>The layout was changed.</source>
+        <translation>La disposition a été changée.</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s size or place was changed.</source>
+        <translation>La taille ou la place de la photo a été changée.</translation>
     </message>
 </context>
 <context>
@@ -3476,7 +3512,7 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent of its own size</source>
+        <source>Percent of its own size</source>
         <translation>Pourcentage de sa propre taille</translation>
     </message>
     <message>
@@ -3991,6 +4027,37 @@
     </message>
 </context>
 <context>
+    <name>halvern::PhotoListModel</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1, page %2</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2</source>
+        <translation>Photo %1 sur %2</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 copie</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 copies</translation>
+    </message>
+    <message>
+        <source>not printed</source>
+        <translation>non imprimée</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>une partie manque</translation>
+    </message>
+    <message>
+        <source>Drag it to another place, or press Alt and an arrow key. Plus and minus change the copies, Space whether it is printed, Delete takes it out, Return crops it. More with a right click.</source>
+        <translation>Faites-la glisser ailleurs, ou appuyez sur Alt et une flèche. Plus et moins changent le nombre de copies, Espace si elle est imprimée, Suppr la retire, Entrée la recadre. Plus avec un clic droit.</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PhotoLoader</name>
     <message>
         <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
@@ -4094,6 +4161,85 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>Gris sans profil ; pris comme sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoStrip</name>
+    <message>
+        <source>Photos</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Recadrer…</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>Même cadrage pour toutes</translation>
+    </message>
+    <message>
+        <source>One More Copy</source>
+        <translation>Une copie de plus</translation>
+    </message>
+    <message>
+        <source>One Copy Less</source>
+        <translation>Une copie de moins</translation>
+    </message>
+    <message>
+        <source>Copies...</source>
+        <translation>Copies...</translation>
+    </message>
+    <message>
+        <source>Print, or Not</source>
+        <translation>Imprimer ou non</translation>
+    </message>
+    <message>
+        <source>Print Only These</source>
+        <translation>Imprimer seulement celles-ci</translation>
+    </message>
+    <message>
+        <source>Print All Photos</source>
+        <translation>Imprimer toutes les photos</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Move Earlier</source>
+        <translation>Avancer</translation>
+    </message>
+    <message>
+        <source>Move Later</source>
+        <translation>Reculer</translation>
+    </message>
+    <message>
+        <source>Move to the Start</source>
+        <translation>Placer au début</translation>
+    </message>
+    <message>
+        <source>Move to the End</source>
+        <translation>Placer à la fin</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 sur %2 sélectionnées</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>%1 photos</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Copies of this photo:</source>
+        <translation>Copies de cette photo :</translation>
+    </message>
+    <message>
+        <source>Copies of each of the %1 photos:</source>
+        <translation>Copies de chacune des %1 photos :</translation>
     </message>
 </context>
 <context>
@@ -4303,6 +4449,14 @@
         <source>(back)</source>
         <translation>(verso)</translation>
     </message>
+    <message>
+        <source>Show the photos in a row, or not</source>
+        <translation>Afficher les photos en rangée, ou non</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Non imprimée</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PreviewWidget</name>
@@ -4373,6 +4527,14 @@
     <message>
         <source>The back of the picture, as the printer writes on it</source>
         <translation>Le dos de la photo, tel que l’imprimante l’écrit</translation>
+    </message>
+    <message>
+        <source>the edges are cut away</source>
+        <translation>les bords sont coupés</translation>
+    </message>
+    <message>
+        <source>The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is marked along the edges is cut away</source>
+        <translation>L’image dépasse chaque bord du papier de %1 mm, pour que rien ne reste blanc : ce qui est marqué le long des bords est coupé</translation>
     </message>
 </context>
 <context>

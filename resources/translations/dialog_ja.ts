@@ -491,7 +491,7 @@
         <translation>「%1」は回転角度ではありません。0、90、180、270 のどれかを指定してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no length: write millimetres from 0 to %2.</source>
+        <source>&quot;%1&quot; is no length: write millimeters from 0 to %2.</source>
         <translation>「%1」は長さではありません。0 から %2 までのミリメートルを指定してください。</translation>
     </message>
     <message>
@@ -507,15 +507,15 @@
         <translation>各写真をこのサイズで印刷します。例: 100x150、4x6in、元のサイズの 50%。</translation>
     </message>
     <message>
-        <source>With --photo-size: so many millimetres from the sheet&apos;s left and top, for example 20,15.</source>
+        <source>With --photo-size: so many millimeters from the sheet&apos;s left and top, for example 20,15.</source>
         <translation>--photo-size と併用: 用紙の左と上からの距離 (ミリメートル)。例: 20,15。</translation>
     </message>
     <message>
-        <source>Leave so many millimetres free at the sheet&apos;s edges at least.</source>
+        <source>Leave so many millimeters free at the sheet&apos;s edges at least.</source>
         <translation>用紙の端に最低限あける余白 (ミリメートル)。</translation>
     </message>
     <message>
-        <source>Leave a white border of so many millimetres around each photo.</source>
+        <source>Leave a white border of so many millimeters around each photo.</source>
         <translation>各写真の周りに付ける白フチの幅 (ミリメートル)。</translation>
     </message>
     <message>
@@ -555,11 +555,11 @@
         <translation>「%1」はサイズではありません。%2% から %3% までを指定してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no size: write millimetres such as 100x150, inches such as 4x6in, or 50%.</source>
+        <source>&quot;%1&quot; is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.</source>
         <translation>「%1」はサイズではありません。100x150 のようなミリメートル、4x6in のようなインチ、または 50% のように指定してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no corner: write two lengths in millimetres, for example 20,15.</source>
+        <source>&quot;%1&quot; is no corner: write two lengths in millimeters, for example 20,15.</source>
         <translation>「%1」は角の位置ではありません。20,15 のように 2 つの長さをミリメートルで指定してください。</translation>
     </message>
     <message>
@@ -2966,7 +2966,7 @@
         <translation>トリミング</translation>
     </message>
     <message>
-        <source>Centre</source>
+        <source>Center</source>
         <translation>中央へ</translation>
     </message>
     <message>
@@ -3109,6 +3109,42 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>すべての写真が除外されています。少なくとも 1 枚を含めてください。</translation>
+    </message>
+    <message>
+        <source>All photos are cropped and turned like &quot;%1&quot; now.</source>
+        <translation>すべての写真を「%1」と同じ切り抜きと向きにしました。</translation>
+    </message>
+    <message>
+        <source>1 photo was moved.</source>
+        <translation>写真を 1 枚移動しました。</translation>
+    </message>
+    <message>
+        <source>%1 photos were moved.</source>
+        <translation>写真を %1 枚移動しました。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was taken out.</source>
+        <translation>「%1」を取り除きました。</translation>
+    </message>
+    <message>
+        <source>%1 photos were taken out.</source>
+        <translation>写真を %1 枚取り除きました。</translation>
+    </message>
+    <message>
+        <source>All photos are printed now.</source>
+        <translation>すべての写真を印刷します。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 photos are printed now.</source>
+        <translation>%2 枚中 %1 枚の写真を印刷します。</translation>
+    </message>
+    <message>
+        <source>The layout was changed.</source>
+        <translation>レイアウトを変更しました。</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s size or place was changed.</source>
+        <translation>写真のサイズまたは位置を変更しました。</translation>
     </message>
 </context>
 <context>
@@ -3476,7 +3512,7 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent of its own size</source>
+        <source>Percent of its own size</source>
         <translation>元のサイズに対する割合 (%)</translation>
     </message>
     <message>
@@ -3991,6 +4027,37 @@
     </message>
 </context>
 <context>
+    <name>halvern::PhotoListModel</name>
+    <message>
+        <source>%1, page %2</source>
+        <translation>%1、%2 ページ</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2</source>
+        <translation>写真 %1/%2</translation>
+    </message>
+    <message>
+        <source>1 copy</source>
+        <translation>1 部</translation>
+    </message>
+    <message>
+        <source>%1 copies</source>
+        <translation>%1 部</translation>
+    </message>
+    <message>
+        <source>not printed</source>
+        <translation>印刷しません</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>一部が欠けています</translation>
+    </message>
+    <message>
+        <source>Drag it to another place, or press Alt and an arrow key. Plus and minus change the copies, Space whether it is printed, Delete takes it out, Return crops it. More with a right click.</source>
+        <translation>ドラッグするか、Alt キーと矢印キーで移動します。プラスとマイナスで部数、スペースで印刷の有無、Delete で取り除き、Enter で切り抜きます。その他は右クリックで選べます。</translation>
+    </message>
+</context>
+<context>
     <name>halvern::PhotoLoader</name>
     <message>
         <source>&quot;%1&quot; cannot be read now: the computer is too busy. Close something and open it again.</source>
@@ -4094,6 +4161,85 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>プロファイルなしのグレー (sRGB とみなします)</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoStrip</name>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>トリミング...</translation>
+    </message>
+    <message>
+        <source>Same Crop for All</source>
+        <translation>すべて同じトリミング</translation>
+    </message>
+    <message>
+        <source>One More Copy</source>
+        <translation>1 部増やす</translation>
+    </message>
+    <message>
+        <source>One Copy Less</source>
+        <translation>1 部減らす</translation>
+    </message>
+    <message>
+        <source>Copies...</source>
+        <translation>部数...</translation>
+    </message>
+    <message>
+        <source>Print, or Not</source>
+        <translation>印刷する/しない</translation>
+    </message>
+    <message>
+        <source>Print Only These</source>
+        <translation>これらだけ印刷</translation>
+    </message>
+    <message>
+        <source>Print All Photos</source>
+        <translation>すべての写真を印刷</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Move Earlier</source>
+        <translation>前へ移動</translation>
+    </message>
+    <message>
+        <source>Move Later</source>
+        <translation>後ろへ移動</translation>
+    </message>
+    <message>
+        <source>Move to the Start</source>
+        <translation>先頭へ移動</translation>
+    </message>
+    <message>
+        <source>Move to the End</source>
+        <translation>末尾へ移動</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%2 枚中 %1 枚を選択</translation>
+    </message>
+    <message>
+        <source>%1 photos</source>
+        <translation>写真 %1 枚</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Copies of this photo:</source>
+        <translation>この写真の部数:</translation>
+    </message>
+    <message>
+        <source>Copies of each of the %1 photos:</source>
+        <translation>%1 枚の写真それぞれの部数:</translation>
     </message>
 </context>
 <context>
@@ -4303,6 +4449,14 @@
         <source>(back)</source>
         <translation>(裏)</translation>
     </message>
+    <message>
+        <source>Show the photos in a row, or not</source>
+        <translation>写真を一列に表示する/しない</translation>
+    </message>
+    <message>
+        <source>Not printed</source>
+        <translation>印刷しません</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PreviewWidget</name>
@@ -4373,6 +4527,14 @@
     <message>
         <source>The back of the picture, as the printer writes on it</source>
         <translation>プリンターが書き込む写真の裏面</translation>
+    </message>
+    <message>
+        <source>the edges are cut away</source>
+        <translation>端は切り落とされます</translation>
+    </message>
+    <message>
+        <source>The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is marked along the edges is cut away</source>
+        <translation>画像は白いふちが残らないように用紙の各端から %1 mm はみ出します。端の印の部分は切り落とされます</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,10 @@ TEST_F(DialogServerTest, ACopiedCommandLeavesOutThePagesThatTheUserDid)
     ASSERT_EQ(session.photos().size(), 4u);
     EXPECT_FALSE(session.command().contains(q("--pages")));
     EXPECT_TRUE(session.command().contains(q(" --server print.example:631 -d ")));
+    session.movePhotos({2}, 0);
+    EXPECT_TRUE(session.command().contains(q(" --pages 3-5,7 ")))
+        << "the file's last page, and the file again";
+    session.undoLastChange();
     // As the preview finds it out, one after the other.
     for (const auto& [place, pages] : {std::pair(1, " --pages 1,3-4 "), std::pair(0, " --pages 3-4 ")}) {
         const Photo photo = session.photos()[size_t(place)];
