@@ -126,7 +126,8 @@ QString DemoSteps::onTarget(const QString& verb, QWidget& target, const QString&
         return QStringLiteral("the control is disabled");
     if (verb == QLatin1StringView("click")) {
         // A check box answers to clicks on its mark, at the start of its row.
-        QTest::mouseClick(&target, Qt::LeftButton, {}, QPoint(12, target.height() / 2));
+        const int start = target.isRightToLeft() ? target.width() - 12 : 12;
+        QTest::mouseClick(&target, Qt::LeftButton, {}, QPoint(start, target.height() / 2));
         return {};
     }
     if (verb == QLatin1StringView("type"))
