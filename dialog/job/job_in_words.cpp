@@ -244,7 +244,7 @@ QString valueInModel(const PpdModel& model, const QString& key, const QString& s
 
 QString sizeInWords(const QSizeF& points)
 {
-    const QString pattern = QStringLiteral("%1 × %2");
+    const QString pattern = Words::tr("%1 × %2");
     if (!isMetric())
         return Words::tr("%1 in").arg(pattern.arg(number(points.width() / kPointsPerInch, 2),
                                                   number(points.height() / kPointsPerInch, 2)));

@@ -622,11 +622,11 @@
     <name>CustomPaper</name>
     <message>
         <source>%1 × %2 mm</source>
-        <translation>⁨%1 × %2⁩ مم</translation>
+        <translation>⁨%1 x %2⁩ مم</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation>⁨%1 × %2⁩ بوصة</translation>
+        <translation>⁨%1 x %2⁩ بوصة</translation>
     </message>
 </context>
 <context>
@@ -944,6 +944,10 @@
 <context>
     <name>JobInWords</name>
     <message>
+        <source>%1 × %2</source>
+        <translation>⁨%1 x %2⁩</translation>
+    </message>
+    <message>
         <source>not enough paper for %1</source>
         <translation>ورق غير كافٍ لـ %1</translation>
     </message>
@@ -1177,7 +1181,7 @@
     </message>
     <message>
         <source>Photos of %1 × %2 %3</source>
-        <translation>صور ⁨%1 × %2⁩ %3</translation>
+        <translation>صور ⁨%1 x %2⁩ %3</translation>
     </message>
     <message>
         <source>It is no layout: &quot;schema&quot; is not &quot;%1&quot;.</source>
@@ -1193,7 +1197,7 @@
     </message>
     <message>
         <source>The layout takes %1 × %2 mm, and this paper has %3 × %4 mm to print on. Choose a larger paper, one without margins, or another layout.</source>
-        <translation>يحتاج التخطيط إلى ⁨%1 × %2⁩ مم، ومساحة الطباعة على هذا الورق ⁨%3 × %4⁩ مم. اختر ورقًا أكبر، أو ورقًا بلا هوامش، أو تخطيطًا آخر.</translation>
+        <translation>يحتاج التخطيط إلى ⁨%1 x %2⁩ مم، ومساحة الطباعة على هذا الورق ⁨%3 x %4⁩ مم. اختر ورقًا أكبر، أو ورقًا بلا هوامش، أو تخطيطًا آخر.</translation>
     </message>
     <message>
         <source>So many photos would be smaller than %1 mm on this paper. Choose fewer rows or columns, or a larger paper.</source>
@@ -2104,7 +2108,7 @@
     </message>
     <message>
         <source>photos in %1 × %2 mm</source>
-        <translation>صور بمقاس ⁨%1 × %2⁩ مم</translation>
+        <translation>صور بمقاس ⁨%1 x %2⁩ مم</translation>
     </message>
     <message>
         <source>with captions</source>
@@ -4466,11 +4470,11 @@
     </message>
     <message>
         <source>%1 × %2 mm</source>
-        <translation>⁨%1 × %2⁩ مم</translation>
+        <translation>⁨%1 x %2⁩ مم</translation>
     </message>
     <message>
         <source>%1 × %2 in</source>
-        <translation>⁨%1 × %2⁩ بوصة</translation>
+        <translation>⁨%1 x %2⁩ بوصة</translation>
     </message>
     <message>
         <source>Preview</source>

@@ -944,6 +944,10 @@
 <context>
     <name>JobInWords</name>
     <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
         <source>not enough paper for %1</source>
         <translation>nicht genug Papier für %1</translation>
     </message>
