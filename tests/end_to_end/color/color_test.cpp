@@ -5,6 +5,7 @@
 #include "dialog/session/plugin_loader.h"
 #include "tests/support/real_dialog.h"
 
+#include <QRegularExpression>
 #include <QTextDocument>
 
 namespace halvern {
@@ -45,7 +46,7 @@ protected:
         dialog.showPage("summary");
         QTextDocument text;
         text.setHtml(dialog.dialog.findChild<QLabel*>(q("summaryText"))->text());
-        return text.toPlainText();
+        return text.toPlainText().replace(QRegularExpression(q("\n+")), q("\n")); // without empty cells
     }
 
     SessionRequest request() const
