@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/decode/made_profile.h"
+#include "dialog/decode/packed_data.h"
 #include "dialog/decode/readers.h"
 
 #include <algorithm>
@@ -83,7 +84,7 @@ double gammaOf(heif_transfer_characteristics curve)
 /// A picture, turned as the file says: this format's own turn is the only one that counts.
 class HeifSource : public PictureSource {
 public:
-    HeifSource(heif_context* context, heif_item_id id)
+    HeifSource(heif_context* context, heif_item_id id, bool isDamaged) : isDamaged_(isDamaged)
     {
         heif_image_handle* found = nullptr;
         check(heif_context_get_image_handle(context, id, &found));
@@ -123,7 +124,7 @@ public:
         return true;
     }
 
-    bool isDamaged() const override { return false; }
+    bool isDamaged() const override { return isDamaged_; }
 
 private:
     void takeProfile()
@@ -172,6 +173,7 @@ private:
     int stride_ = 0;
     int y_ = 0;
     quint32 most_ = 255;
+    bool isDamaged_;
     bool hasAlpha_ = false;
     bool isPremultiplied_ = false;
     bool isDeep_ = false;
@@ -180,7 +182,7 @@ private:
 
 class HeifReader : public PhotoReader {
 public:
-    explicit HeifReader(FileBytes bytes) : context_(heif_context_alloc())
+    explicit HeifReader(FileBytes bytes) : context_(heif_context_alloc()), hasHole_(hasHeifHole(bytes))
     {
         isAvif_ = std::memcmp(bytes.data() + 8, "avi", 3) == 0;
         heif_context_set_maximum_image_size_limit(context_.get(), kMostEdge);
@@ -205,13 +207,14 @@ public:
 
     std::unique_ptr<PictureSource> open(const ReadRequest& request) override
     {
-        return std::make_unique<HeifSource>(context_.get(), heif_item_id(request.page));
+        return std::make_unique<HeifSource>(context_.get(), heif_item_id(request.page), hasHole_);
     }
 
 private:
     Held<heif_context> context_;
     std::vector<heif_item_id> ids_;
     bool isAvif_ = false;
+    bool hasHole_;
 };
 
 } // namespace

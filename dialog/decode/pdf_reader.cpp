@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/decode/image_source.h"
+#include "dialog/decode/packed_data.h"
 #include "dialog/decode/readers.h"
 
 #include <poppler-qt6.h>
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <optional>
 
 namespace halvern {
 
@@ -70,12 +72,22 @@ public:
         const QImage image = page->renderToImage(resolution, resolution);
         if (image.isNull())
             throw Unreadable{PhotoFault::tooLarge};
-        return std::make_unique<ImageSource>(image, isCutOff(), size);
+        return std::make_unique<ImageSource>(image, isCutOff() || isDamaged(), size);
     }
 
 private:
+    // Which page a stream is for is not looked up.
+    bool isDamaged()
+    {
+        if (!isDamaged_)
+            isDamaged_ =
+                hasDamagedStream({reinterpret_cast<const uchar*>(bytes_.constData()), size_t(bytes_.size())});
+        return *isDamaged_;
+    }
+
     QByteArray bytes_;
     std::unique_ptr<Poppler::Document> document_;
+    std::optional<bool> isDamaged_;
 };
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/decode/tiff_file.h"
 
+#include "dialog/decode/packed_data.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -99,6 +101,24 @@ void TiffFile::show(int directory)
     if (!TIFFSetDirectory(get(), tdir_t(directory)))
         throw Unreadable{PhotoFault::damaged};
     hasComplained_ = false;
+}
+
+void TiffFile::lookForHoles()
+{
+    const auto packing = field<uint16_t>(TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+    const bool isDeflated = packing == COMPRESSION_ADOBE_DEFLATE || packing == COMPRESSION_DEFLATE;
+    const bool isUsual = field<uint16_t>(TIFFTAG_FILLORDER, FILLORDER_MSB2LSB) == FILLORDER_MSB2LSB;
+    if (!isUsual || (!isDeflated && packing != COMPRESSION_LZW))
+        return;
+    const uint32_t count = TIFFIsTiled(get()) ? TIFFNumberOfTiles(get()) : TIFFNumberOfStrips(get());
+    for (uint32_t i = 0; i < count; ++i) {
+        const uint64_t from = std::min<uint64_t>(TIFFGetStrileOffset(get(), i), bytes_.size());
+        const uint64_t length = std::min<uint64_t>(TIFFGetStrileByteCount(get(), i), bytes_.size() - from);
+        const FileBytes data = bytes_.subspan(from, length);
+        // A large even area is deflated to zeros; the other way of packing never repeats a code so often.
+        if (hasHole(data) && !(isDeflated && isDeflatedWhole(data)))
+            hasComplained_ = true;
+    }
 }
 
 } // namespace halvern

@@ -29,7 +29,10 @@ public:
     /// Goes to a directory. Throws Unreadable.
     void show(int directory);
 
-    /// Whether the library complained since show().
+    /// Complains of holes in the packed data of what is shown, which the library unpacks to something.
+    void lookForHoles();
+
+    /// Whether the library complained since show(), or lookForHoles() did.
     bool hasComplained() const { return hasComplained_; }
 
     template <typename Value> Value field(uint32_t tag, Value otherwise) const

@@ -258,6 +258,7 @@ public:
     {
         file_.show(request.page);
         Layout layout = layoutOf();
+        file_.lookForHoles();
         const StoredPicture picture = describe(layout);
         if (isPlain(&layout))
             return std::make_unique<PlainTiffSource>(file_, layout, picture);

@@ -204,6 +204,33 @@ TEST_F(DecodeTest, AReaderThatDiesTakesNobodyAlong)
     EXPECT_EQ(readPhotoFile(path).problem, QString()) << "the next file is read";
 }
 
+TEST_F(DecodeTest, AHoleInDeflatedDataIsToldAndAnEvenPictureHasNone)
+{
+    const QString path = folder.filePath(q("one_strip.tif"));
+    const auto write = [&](const QByteArray& pixels) {
+        TIFF* tiff = TIFFOpen(qPrintable(path), "w");
+        TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, 3000);
+        TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, 700);
+        TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
+        TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISBLACK);
+        TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_ADOBE_DEFLATE);
+        TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, 700);
+        for (uint32_t y = 0; y < 700; ++y)
+            TIFFWriteScanline(tiff, const_cast<char*>(pixels.constData()) + y * 3000, y);
+        TIFFClose(tiff);
+        return readFile(path);
+    };
+    EXPECT_TRUE(write(QByteArray(2'100'000, '\xFF')).contains(QByteArray(480, '\0')));
+    EXPECT_EQ(readPhotoFile(path).problem, QString()) << "zeros that belong there";
+    QByteArray noise(2'100'000, '\0');
+    for (qsizetype i = 0; i < noise.size(); ++i)
+        noise[i] = char(quint32(i * i) >> 7 & 15);
+    QByteArray bytes = write(noise);
+    EXPECT_EQ(readPhotoFile(path).problem, QString());
+    writeFile(path, bytes.replace(bytes.size() / 2, 4096, QByteArray(4096, '\0')));
+    EXPECT_NE(readPhotoFile(path).problem, QString());
+}
+
 TEST_F(DecodeTest, DamageThatIsFoundOnTheWayIsToldAsWhatItIs)
 {
     QImage image(600, 400, QImage::Format_RGB32);

@@ -326,6 +326,8 @@ TEST_F(PageTest, APartThatIsMissingIsTold)
         {"padded.jpg", jpeg + QByteArray(5000, '\0'), false},
         {"cut.tif", tiff.chopped(500), true},
         {"cut.pdf", pdf.chopped(8), true},
+        {"hole.pdf", QByteArray(pdf).replace(pdf.size() / 2, 600, QByteArray(600, '\0')), true},
+        {"no_divisors.pdf", QByteArray(pdf).replace("\xFF\xDB", "\xFF\xEB"), true},
     };
 
     for (const auto& c : cases) {
