@@ -4,6 +4,7 @@
 //   build/fuzz/bin/fuzz-printer-answer -max_total_time=600 -rss_limit_mb=500
 //       -max_len=65536 build/fuzz/answers
 
+#include "dialog/server/ipp_description.h"
 #include "dialog/server/printer_report.h"
 
 #include <cups/ipp.h>
@@ -62,6 +63,15 @@ void look(const PrinterReport& report)
     requireShown(lowSupplies(report.supplies, true), 20000);
 }
 
+// What else a line held would be taken for another one's words, or for none at all.
+void lookAtPpd(const QByteArray& text)
+{
+    constexpr qsizetype kLongestLine = 255;
+    for (const QByteArray& line : text.split('\n'))
+        require(line.size() <= kLongestLine && (line.isEmpty() || line.startsWith('*')) &&
+                line.count('"') % 2 == 0);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
@@ -74,6 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         look(printer);
         look(queue);
         look(merged(queue, printer));
+        lookAtPpd(describedAsPpd(answer, true).value_or(QByteArray()));
     }
     ippDelete(answer);
     return 0;
