@@ -80,6 +80,7 @@ void JobFollower::take(const JobStatus& status)
         end(status);
         return;
     }
+    wasPrinting_ = status.stage == JobStage::printing;
     const bool isNew = status != status_;
     status_ = status;
     if (wantsCancel_)
@@ -95,6 +96,7 @@ void JobFollower::tellSilence()
     if (std::exchange(isSilent_, true))
         return;
     status_ = {};
+    wasPrinting_ = false;
     Q_EMIT changed(status_);
 }
 

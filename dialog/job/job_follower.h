@@ -39,6 +39,12 @@ public:
     /// the watch.
     void cancel();
 
+    /// The same once it has said that the job is still there.
+    void cancelUnlessEnded() { wantsCancel_ = true; }
+
+    /// Whether the job was printing, with nothing in its way, when the server last told of it.
+    bool wasPrinting() const { return wasPrinting_; }
+
     /// Asks the server to get the resting job on its way; the change of status follows too.
     void apply(Remedy remedy);
 
@@ -78,6 +84,7 @@ private:
     std::shared_ptr<Line> line_;
     cups::CancelFlag stop_;
     bool isSilent_ = false;
+    bool wasPrinting_ = false;
     bool wantsCancel_ = false;
     bool isCancelling_ = false;
 };

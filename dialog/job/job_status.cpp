@@ -179,18 +179,13 @@ JobStage stageOf(int ippState, const JobStatus& status)
 bool hasEnded(JobStage stage)
 {
     return stage == JobStage::cancelled || stage == JobStage::aborted || stage == JobStage::lost ||
-           isPrinted(stage);
+           stage == JobStage::completed || stage == JobStage::gone;
 }
 
 bool isHeldForLogin(const JobStatus& status)
 {
     return status.stage == JobStage::held &&
            status.reasons.contains(QStringLiteral("cups-held-for-authentication"));
-}
-
-bool isPrinted(JobStage stage)
-{
-    return stage == JobStage::completed || stage == JobStage::gone;
 }
 
 bool isResting(JobStage stage)

@@ -55,9 +55,6 @@ bool hasEnded(JobStage stage);
 /// Whether the printer has turned down the name and the password that came with the job, or had none.
 bool isHeldForLogin(const JobStatus& status);
 
-/// Whether the job has been printed, as far as the server tells.
-bool isPrinted(JobStage stage);
-
 /// Whether the job stays as it is until somebody does something.
 bool isResting(JobStage stage);
 

@@ -129,6 +129,13 @@ SentJobs send(const Sending& sending)
     return sent;
 }
 
+// The last one first: the server would begin with the next in the meantime.
+void cancelJobs(const QString& queue, const QList<int>& ids)
+{
+    for (auto id = ids.crbegin(); id != ids.crend(); ++id)
+        cancelJob(queue, *id);
+}
+
 } // namespace
 
 PrintRun::PrintRun(JobRequest job, std::vector<SheetToPrint> sheets, PdfQuality quality, QObject* parent)
@@ -222,7 +229,7 @@ void PrintRun::takeSubmission(const SentJobs& sent)
     followNext();
     Q_EMIT submitted(follower_->jobId());
     if (cancelled_->load())
-        follower_->cancel();
+        cancelLeft();
 }
 
 void PrintRun::followNext()
@@ -261,7 +268,12 @@ void PrintRun::takeEnd(const JobStatus& status)
                        QString::number(
                            std::chrono::round<std::chrono::seconds>(patience_.untilGivenUp).count()))
             : jobSentence(status, job_.queue, jobId);
-    takeJobEnd({isPrinted(status.stage), jobId, status.stage, sentence});
+    const bool isPrinted =
+        status.stage == JobStage::completed || (status.stage == JobStage::gone && follower_->wasPrinting());
+    const bool isUntold = status.stage == JobStage::gone && !isPrinted;
+    takeJobEnd({isPrinted, jobId, status.stage,
+                isUntold ? sentence + QLatin1Char(' ') + tr("Look at the printer before you print again.")
+                         : sentence});
 }
 
 void PrintRun::takeJobEnd(const PrintOutcome& outcome)
@@ -269,10 +281,12 @@ void PrintRun::takeJobEnd(const PrintOutcome& outcome)
     if (followed_ == 1 || outcome_.printed)
         outcome_ = outcome;
     printedJobs_ += outcome.printed ? 1 : 0;
+    if (outcome.stage == JobStage::cancelled)
+        sheetsOfCancelled_ += follower_->status().pagesDone;
     if (followed_ < sent_.ids.size() && outcome.stage != JobStage::unknown) {
         followNext();
         if (cancelled_->load())
-            follower_->cancel();
+            follower_->cancelUnlessEnded();
         return;
     }
     finish(outcomeOfAll());
@@ -281,10 +295,14 @@ void PrintRun::takeJobEnd(const PrintOutcome& outcome)
 PrintOutcome PrintRun::outcomeOfAll() const
 {
     const qsizetype jobs = sent_.ids.size();
-    if (sent_.isAll && jobs == 1)
+    if (sent_.isAll && jobs == 1 && (outcome_.stage != JobStage::cancelled || sheetsOfCancelled_ == 0))
         return outcome_;
     PrintOutcome result = outcome_;
-    if (cancelled_->load() && outcome_.stage != JobStage::unknown && !(sent_.isAll && outcome_.printed)) {
+    if (printedJobs_ == 0 && sheetsOfCancelled_ > 0 && outcome_.stage == JobStage::cancelled) {
+        result = {false, 0, JobStage::aborted,
+                  tr("Cancelled. Sheets that were printed before: %1.").arg(sheetsOfCancelled_)};
+    } else if (cancelled_->load() && outcome_.stage != JobStage::unknown &&
+               !(sent_.isAll && outcome_.printed)) {
         // It is not true of all of them that nothing was printed.
         if (printedJobs_ > 0)
             result = {false, 0, JobStage::aborted,
@@ -308,8 +326,27 @@ void PrintRun::cancel()
 {
     cancelled_->store(true);
     Q_EMIT cancelling();
-    if (follower_)
+    cancelLeft();
+}
+
+// All that have not ended, at once: neither this window nor a silent server keeps the others going.
+void PrintRun::cancelLeft()
+{
+    const QList<int> left = sent_.ids.mid(std::max<qsizetype>(followed_ - 1, 0));
+    if (left.size() <= 1 && follower_) {
         follower_->cancel();
+        return;
+    }
+    if (left.isEmpty())
+        return;
+    QPointer<JobFollower> follower(follower_);
+    WorkQueue().async([follower, left, queue = job_.queue] {
+        cancelJobs(queue, left);
+        mainQueue().async([follower] {
+            if (follower)
+                follower->cancelUnlessEnded();
+        });
+    });
 }
 
 void PrintRun::stop()

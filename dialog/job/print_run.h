@@ -17,6 +17,12 @@ struct PrintOutcome {
     JobStage stage = JobStage::unknown; ///< with a job: the server has gone silent
     QString sentence;                   ///< for the user
     bool isLeft = false;                ///< nothing failed: jobs that the server has whole were left on it
+
+    /// Whether there is a job of which nobody knows whether it was printed.
+    bool isEndUnknown() const
+    {
+        return jobId > 0 && !printed && (stage == JobStage::unknown || stage == JobStage::gone);
+    }
 };
 
 /// The jobs that the server has whole, and why there are no more.
@@ -102,6 +108,7 @@ private:
     void takeStatus(const JobStatus& status);
     void takeEnd(const JobStatus& status);
     PrintOutcome outcomeOfAll() const;
+    void cancelLeft();
     void finishLeft();
     void finish(PrintOutcome outcome);
 
@@ -119,6 +126,7 @@ private:
     qsizetype followed_ = 0; ///< of the jobs, with the one that is followed now
     PrintOutcome outcome_;   ///< of several jobs the first that was not printed
     int printedJobs_ = 0;
+    int sheetsOfCancelled_ = 0;
     bool isStopped_ = false;
     JobFollower* follower_ = nullptr;
     bool isOver_ = false;

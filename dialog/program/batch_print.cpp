@@ -205,7 +205,7 @@ void BatchPrint::takeOutcome(const PrintOutcome& outcome)
     else if (outcome.stage == JobStage::cancelled)
         end(kExitCancelled);
     else
-        end(outcome.jobId > 0 && outcome.stage == JobStage::unknown ? kExitUnknown : kExitFailed);
+        end(outcome.isEndUnknown() ? kExitUnknown : kExitFailed);
 }
 
 // However the job ends, what was added to it may be why.

@@ -41,6 +41,8 @@ int statusOf(PrintDialog& dialog)
     // Whoever cancels a second run has printed the first.
     if (outcome.printed || (isCancelled && dialog.hasPrinted()))
         return kExitPrinted;
+    if (outcome.isEndUnknown())
+        return kExitUnknown;
     return isCancelled ? kExitCancelled : kExitFailed;
 }
 

@@ -309,7 +309,7 @@ public:
                   "  2  Wrong usage.\n"
                   "  3  The job is on the queue, and had not ended yet.\n"
                   "  4  Cancelled: nothing was printed.\n"
-                  "  5  The job was sent, but the print server does not answer: the outcome is not known.\n"
+                  "  5  The job was sent, but the print server does not tell how it ended.\n"
                   "  6  With --verify: printed, but not held by the print server as it was sent.\n"
                   "  7  A print server or a printer wants a name and a password, and was not given the right "
                   "ones.");

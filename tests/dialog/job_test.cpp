@@ -2,6 +2,7 @@
 // Sending, following and acting on jobs, with a print server that the tests play.
 #include "dialog/job/job_follower.h"
 #include "dialog/job/job_submitter.h"
+#include "dialog/job/print_run.h"
 #include "tests/support/scripted_server.h"
 
 #include <cups/cups.h>
@@ -201,6 +202,48 @@ TEST(Jobs, ASilentServerIsToldAndHearsOfACancelWhenItIsBack)
     EXPECT_TRUE(waitUntil([&] { return server.asked().contains(q("Cancel-Job")); }));
     isSilent = false;
     EXPECT_TRUE(waitUntil([&] { return follower.status().stage == JobStage::cancelled; }));
+}
+
+TEST(Jobs, ARunSaysPrintedOnlyOfWhatIsKnownToBe)
+{
+    const struct {
+        int first;
+        int last; // 0: the server does not know the job any more
+        int sheets;
+        bool isPrinted;
+        bool isUnknown;
+        JobStage stage;
+    } cases[] = {
+        {IPP_JSTATE_PROCESSING, 0, 0, true, false, JobStage::gone},
+        {IPP_JSTATE_STOPPED, 0, 0, false, true, JobStage::gone},
+        {IPP_JSTATE_PROCESSING, IPP_JSTATE_CANCELED, 0, false, false, JobStage::cancelled},
+        {IPP_JSTATE_PROCESSING, IPP_JSTATE_CANCELED, 2, false, false, JobStage::aborted},
+    };
+
+    QTemporaryDir folder;
+    const QString document = writeFile(folder.filePath(q("a.pdf")), "x");
+    for (const auto& c : cases) {
+        std::atomic<bool> hasTold = false;
+        const ScriptedServer server([&](ipp_t* request) -> cups::Ipp {
+            const ipp_op_t asked = ippGetOperation(request);
+            if (asked == IPP_OP_GET_PRINTER_ATTRIBUTES)
+                return scriptedAnswer();
+            if (hasTold && c.last == 0)
+                return scriptedAnswer(IPP_STATUS_ERROR_NOT_FOUND);
+            cups::Ipp answer = jobAnswer(7, hasTold ? c.last : c.first);
+            ippAddInteger(answer.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "job-media-sheets-completed", c.sheets);
+            return answer;
+        });
+        PrintRun run({q("Queue"), q("title"), {}}, document, nullptr);
+        PrintOutcome outcome;
+        QObject::connect(&run, &PrintRun::followed, [&] { hasTold = true; });
+        QObject::connect(&run, &PrintRun::finished, [&](const PrintOutcome& end) { outcome = end; });
+        run.start();
+        EXPECT_TRUE(waitUntil([&] { return run.isOver(); }));
+        EXPECT_EQ(outcome.printed, c.isPrinted) << qPrintable(outcome.sentence);
+        EXPECT_EQ(outcome.isEndUnknown(), c.isUnknown);
+        EXPECT_EQ(outcome.stage, c.stage) << qPrintable(outcome.sentence);
+    }
 }
 
 TEST(Jobs, AFollowerGivesUpWhenItsPatienceEnds)
