@@ -99,6 +99,7 @@ QList<SideChange> OptionChanges::chooseTogether(const OptionValues& wanted)
 {
     QList<SideChange> changes;
     QSet<QString> chosen = history_.chosen();
+    QSet<QString> refusedKeys;
     history_.endGroup();
     for (const OptionValue& option : wanted) {
         const QString was = model_->value(option.key);
@@ -107,6 +108,7 @@ QList<SideChange> OptionChanges::chooseTogether(const OptionValues& wanted)
         const ChangeResult result = model_->choose(option.key, option.value, chosen);
         if (!result.accepted) {
             Q_EMIT refused(result.refusal);
+            refusedKeys.insert(option.key);
             continue;
         }
         chosen.insert(option.key);
@@ -126,8 +128,10 @@ QList<SideChange> OptionChanges::chooseTogether(const OptionValues& wanted)
             before.insert(change.key, change.before);
     }
     openStep(before, {});
-    for (const OptionValue& option : wanted)
-        history_.choose(option.key);
+    for (const OptionValue& option : wanted) {
+        if (!refusedKeys.contains(option.key))
+            history_.choose(option.key);
+    }
     Q_EMIT changed();
     return changes;
 }
