@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 #include <vector>
 
 namespace halvern {
@@ -229,7 +230,7 @@ private:
             }
             const PageLayout& layout = printed.sheet.photos[i].layout;
             if (first[i] == i) {
-                added[i] = addPicture(pdf_, useOf(printed, first, i), quality_);
+                added[i] = pictureFor(useOf(printed, first, i));
                 if (!added[i].problem.isEmpty())
                     return added[i].problem;
                 objects.push_back(added[i].object);
@@ -241,6 +242,17 @@ private:
         addMarks(content, printed, toSheet);
         pdf_.addPage(paper, content, objects);
         return {};
+    }
+
+    // One that is on many sheets is in the file once for each size that it is wanted in.
+    AddedPicture pictureFor(const Use& use)
+    {
+        const QSize most = mostPixels(use.onPaper, quality_.resolution);
+        AddedPicture& picture =
+            pictures_[{use.photo.path, use.photo.page, most.width(), most.height(), use.isAlone}];
+        if (picture.object == 0)
+            picture = addPicture(pdf_, use, quality_);
+        return picture;
     }
 
     static Use useOf(const SheetToPrint& printed, const std::vector<size_t>& first, size_t place)
@@ -276,6 +288,7 @@ private:
     PdfFile pdf_;
     const PdfQuality& quality_;
     const PdfControl& control_;
+    std::map<std::tuple<QString, int, int, int, bool>, AddedPicture> pictures_;
     size_t photos_ = 0;
     size_t done_ = 0;
     bool isStopped_ = false;

@@ -217,6 +217,24 @@ TEST_F(PageTest, PdfHasThePapersSizeAndThePhotoWhereThePreviewShowsIt)
     }
 }
 
+TEST_F(PageTest, APhotoOnManySheetsIsInTheFileOnceForEachSize)
+{
+    const Photo photo = readPhotoFile(save(quarters({400, 300}), q("p.jpg"))).pages.at(0);
+    const auto on = [&](const QSizeF& paper) {
+        return SheetToPrint(photo, layOut({paper, QRectF({}, paper), photo.ownSize}));
+    };
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    ASSERT_EQ(
+        writePdf(file, {on(k4x6), on(k4x6), on(k4x6 / 2.0), on(k4x6)}, {300}, {[](double) { return true; }}),
+        QString());
+    EXPECT_EQ(file.data().count("/Subtype /Image"), 2);
+    const auto document = Poppler::Document::loadFromData(file.data());
+    ASSERT_TRUE(document && document->numPages() == 4);
+    const std::unique_ptr<Poppler::Page> last = document->page(3);
+    EXPECT_EQ(at(last->renderToImage(72, 72), 20, 20), at(document->page(0)->renderToImage(72, 72), 20, 20));
+}
+
 TEST_F(PageTest, JpegDataGoIntoTheJobUntouchedInEveryOrientation)
 {
     struct Case {
