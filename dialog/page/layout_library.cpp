@@ -130,9 +130,11 @@ QString LayoutLibrary::unknownText(const QString& id) const
     QStringList ids;
     for (const Layout& layout : layouts_)
         ids.append(layout.id);
-    return Words::tr("There is no layout \"%1\". There are: %2; and rows x columns, such as 3x4, and sizes, "
-                     "such as 90x130mm.")
-        .arg(displayText(id, kLongestName), listText(ids));
+    const QString unknown =
+        Words::tr("There is no layout \"%1\". There are: %2; and rows x columns, such as 3x4, and sizes, "
+                  "such as 90x130mm.")
+            .arg(displayText(id, kLongestName), listText(ids));
+    return (QStringList(unknown) + problems_).join(QLatin1Char(' '));
 }
 
 QString LayoutLibrary::save(Layout layout, const QString& name, QString* id)
@@ -147,6 +149,10 @@ QString LayoutLibrary::save(Layout layout, const QString& name, QString* id)
     if (!QDir().mkpath(ownFolder()))
         return Words::tr("The folder %1 cannot be made.").arg(displayText(ownFolder()));
     const QString path = ownFolder() + QLatin1Char('/') + layout.id + kSuffix;
+    if (there ? there->name != layout.name : QFileInfo::exists(path))
+        return Words::tr(
+                   "The file %1 holds something else already. Choose another name, or take the file away.")
+            .arg(displayText(path));
     const QString problem = writeWholeFile(path, QJsonDocument(toJson(layout)).toJson());
     if (!problem.isEmpty())
         return Words::tr("The layout could not be kept in %1. %2").arg(displayText(path), problem);
