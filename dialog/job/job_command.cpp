@@ -72,6 +72,8 @@ QString commandFor(const JobToRepeat& job)
         words << QStringLiteral("-n") << QString::number(job.copies);
     if (!job.ranges.isEmpty())
         words << QStringLiteral("--pages") << QString(job.ranges).remove(QLatin1Char(' '));
+    if (job.photosPerJob > 0)
+        words << QStringLiteral("--photos-per-job") << QString::number(job.photosPerJob);
     if (job.isReversed)
         words << QStringLiteral("--reverse-order");
     if (!job.orientation.isEmpty())

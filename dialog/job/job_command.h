@@ -21,6 +21,7 @@ struct JobToRepeat {
     QString ranges;       ///< "1-3, 7"; empty: all pages
     QString title;        ///< empty: as without one
     int copies = 1;
+    int photosPerJob = 0; ///< 0: all in one
     bool isReversed = false;
     bool printsDamaged = false;
 };

@@ -172,6 +172,33 @@ void readDefaults(Members& members, Layout& layout)
 
 } // namespace
 
+SheetSettings withWishes(const SheetSettings& before, const SheetWishes& wishes)
+{
+    SheetSettings settings =
+        wishes.replace(before) ? withLayout({}, wishes.layout.value_or(Layout())) : before;
+    settings.repeats = wishes.repeats.value_or(settings.repeats);
+    settings.caption = wishes.caption.value_or(settings.caption);
+    settings.hasCutMarks = wishes.hasCutMarks.value_or(settings.hasCutMarks);
+    settings.hasLine = wishes.hasLine.value_or(settings.hasLine);
+    settings.border = wishes.border.value_or(settings.border);
+    settings.margin = wishes.margin.value_or(settings.margin);
+    settings.percent = wishes.percent.value_or(settings.percent);
+    if (wishes.photo) {
+        settings.photo = *wishes.photo;
+        settings.corner = wishes.corner;
+    }
+    return settings;
+}
+
+Scaling scalingWith(Scaling before, const SheetWishes& wishes)
+{
+    if (wishes.percent)
+        return Scaling::actualSize;
+    if (wishes.layout && wishes.layout->scaling)
+        return *wishes.layout->scaling;
+    return wishes.photo && before == Scaling::actualSize ? Scaling::fit : before;
+}
+
 SheetSettings withLayout(const SheetSettings& before, const Layout& layout)
 {
     SheetSettings settings = before;

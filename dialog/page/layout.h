@@ -71,6 +71,33 @@ struct SheetSettings {
     bool operator==(const SheetSettings&) const = default;
 };
 
+/// What somebody has asked for about the sheets; nothing where nobody said. Lengths are millimetres.
+struct SheetWishes {
+    std::optional<Layout> layout = {};
+    std::optional<bool> repeats = {};
+    std::optional<QString> caption = {};
+    std::optional<bool> hasCutMarks = {};
+    std::optional<bool> hasLine = {};
+    std::optional<double> border = {};
+    std::optional<double> margin = {};
+    std::optional<QSizeF> photo = {};   ///< of a photo a page
+    std::optional<double> percent = {}; ///< of its own size
+    std::optional<QPointF> corner = {};
+
+    /// Whether they leave nothing of how those settings put photos on sheets.
+    bool replace(const SheetSettings& settings) const
+    {
+        return layout || (photo && !settings.layout.isEmpty());
+    }
+};
+
+/// The settings with what was asked for over them: a layout, or a size for a photo a page in the place of
+/// one, replaces them all.
+SheetSettings withWishes(const SheetSettings& before, const SheetWishes& wishes);
+
+/// The scaling that goes with the wishes, where it would be this one without them.
+Scaling scalingWith(Scaling before, const SheetWishes& wishes);
+
 /// What choosing a layout makes of the settings.
 SheetSettings withLayout(const SheetSettings& before, const Layout& layout);
 

@@ -116,7 +116,9 @@ LayoutCells fixedCells(const Layout& layout, const CellRoom& room)
 /// Rows of photos, each as high as its highest, on pages of one width.
 class Shelves {
 public:
-    Shelves(const QSizeF& area, double gap) : area_(area), gap_(gap) {}
+    Shelves(const QSizeF& area, double gap, double narrowest) : area_(area), gap_(gap), narrowest_(narrowest)
+    {
+    }
 
     // Highest first. False if it is larger than a page.
     bool put(PackedPhoto& photo)
@@ -124,19 +126,20 @@ public:
         if (photo.size.width() > area_.width() + kTolerance ||
             photo.size.height() > area_.height() + kTolerance)
             return false;
-        for (Shelf& shelf : shelves_) {
-            if (shelf.used + photo.size.width() <= area_.width() + kTolerance) {
-                place(photo, shelf);
-                return true;
+        auto shelf =
+            std::ranges::find_if(open_, [&](const Shelf& each) { return hasRoom(each, photo.size.width()); });
+        if (shelf == open_.end()) {
+            if (top_ > 0.0 && top_ + photo.size.height() > area_.height() + kTolerance) {
+                ++sheet_;
+                top_ = 0.0;
             }
+            shelf = open_.insert(open_.end(), {sheet_, top_, 0.0});
+            top_ += photo.size.height() + gap_;
         }
-        if (shelves_.empty() || top_ + photo.size.height() > area_.height() + kTolerance) {
-            sheet_ += shelves_.empty() ? 0 : 1;
-            top_ = 0.0;
-        }
-        shelves_.push_back({sheet_, top_, 0.0});
-        top_ += photo.size.height() + gap_;
-        place(photo, shelves_.back());
+        place(photo, *shelf);
+        // Thousands of full ones would be looked through for each photo.
+        if (!hasRoom(*shelf, narrowest_))
+            open_.erase(shelf);
         return true;
     }
 
@@ -149,6 +152,11 @@ private:
         double used;
     };
 
+    bool hasRoom(const Shelf& shelf, double width) const
+    {
+        return shelf.used + width <= area_.width() + kTolerance;
+    }
+
     void place(PackedPhoto& photo, Shelf& shelf) const
     {
         photo.sheet = shelf.sheet;
@@ -158,7 +166,8 @@ private:
 
     QSizeF area_;
     double gap_;
-    std::vector<Shelf> shelves_;
+    double narrowest_; // of all that come
+    std::vector<Shelf> open_;
     size_t sheet_ = 0;
     double top_ = 0.0;
 };
@@ -169,7 +178,10 @@ std::optional<double> packInto(std::vector<PackedPhoto>& photos, const QSizeF& a
     std::vector<size_t> order(photos.size());
     std::iota(order.begin(), order.end(), size_t(0));
     std::ranges::stable_sort(order, std::greater(), [&](size_t i) { return photos[i].size.height(); });
-    Shelves shelves(area, gap);
+    double narrowest = area.width();
+    for (const PackedPhoto& photo : photos)
+        narrowest = std::min(narrowest, photo.size.width());
+    Shelves shelves(area, gap, narrowest);
     for (const size_t i : order) {
         if (!shelves.put(photos[i]))
             return std::nullopt;

@@ -110,29 +110,27 @@ ChosenPages choosePages(const PageChoice& choice, size_t count)
     const bool hasRanges = !plain(choice.ranges).remove(QLatin1Char(',')).trimmed().isEmpty();
     std::vector<bool> isChosen(count, !hasRanges);
     ChosenPages chosen;
+    if (choice.isGone && count > 0) {
+        chosen.problem =
+            Words::tr("The chosen pages were left out because they cannot be read, or not whole. "
+                      "Choose others.");
+        return chosen;
+    }
     if (hasRanges)
         chosen.problem = mark(choice.ranges, isChosen);
     if (!chosen.problem.isEmpty())
         return chosen;
     for (size_t i = 0; i < count; ++i) {
-        const PageParity parity = i % 2 == 0 ? PageParity::odd : PageParity::even;
-        if (isChosen[i] && (choice.parity == PageParity::all || choice.parity == parity))
+        if (isChosen[i])
             chosen.pages.push_back(i);
     }
-    if (choice.isReversed)
-        std::ranges::reverse(chosen.pages);
-    if (count > 0 && chosen.pages.empty())
-        chosen.problem =
-            choice.parity == PageParity::odd
-                ? Words::tr("None of these pages has an odd number. Choose all pages, or others.")
-                : Words::tr("None of these pages has an even number. Choose all pages, or others.");
     return chosen;
 }
 
 std::vector<PageRange> rangesIn(const QString& ranges)
 {
     std::vector<PageRange> found;
-    if (!choosePages({ranges, PageParity::all, false}, 0).problem.isEmpty())
+    if (!choosePages({.ranges = ranges}, 0).problem.isEmpty())
         return found;
     for (const QString& part : plain(ranges).split(QLatin1Char(','), Qt::SkipEmptyParts)) {
         if (const std::optional<PageRange> range = readRange(part.trimmed()))

@@ -18,11 +18,12 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(Layouts)
 };
 
-constexpr double kMarkLength = 4.0;   // millimetres, and shorter where there is no room
-constexpr double kMarkDistance = 0.5; // millimetres, from the photo
-constexpr double kCaptionShare = 0.1; // of a place's shorter edge
-constexpr double kLeastCaption = 3.0; // millimetres
-constexpr double kMostCaption = 6.0;  // millimetres
+constexpr double kMarkDistance = 0.5;                         // millimetres, from the photo
+constexpr double kMarkLength = kCutMarkReach - kMarkDistance; // and shorter where there is no room
+constexpr double kCaptionShare = 0.1;                         // of a place's shorter edge
+constexpr double kLeastCaption = 3.0;                         // millimetres
+constexpr double kMostCaption = 6.0;                          // millimetres
+constexpr double kTolerance = 0.5; // millimetres, by which PPDs are wrong about a paper
 
 double points(double millimetres)
 {
@@ -49,6 +50,28 @@ std::vector<Wanted> wantedPhotos(const std::vector<Photo>& photos, const std::ve
     return wanted;
 }
 
+// Each as often as it is printed.
+size_t wantedCount(const std::vector<Photo>& photos, const std::vector<size_t>& chosen)
+{
+    size_t count = 0;
+    for (const size_t place : chosen) {
+        const PhotoPlacement placement = held(photos[place].placement);
+        count += placement.isIncluded ? size_t(placement.copies) : 0;
+    }
+    return count;
+}
+
+// The sentence about too many; empty if they are not.
+QString countProblem(size_t count)
+{
+    return count <= kMostPlaces
+               ? QString()
+               : Words::tr("These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or "
+                           "fewer copies of each.")
+                     .arg(count)
+                     .arg(kMostPlaces);
+}
+
 /// Plans the sheets of one request.
 class Planner {
 public:
@@ -59,10 +82,16 @@ public:
 
     SheetPlan plan()
     {
+        // Turned or not, as much of it is left.
+        if (roomOn(pageTurned(false)).area.isEmpty())
+            return {{},
+                    Words::tr("With margins of %1 mm nothing is left of this paper. Choose smaller margins, "
+                              "or a larger paper.")
+                        .arg(request_.settings.margin)};
         switch (request_.layout.kind) {
         case LayoutKind::single:
-            for (const Wanted& photo : wanted_)
-                addSingle(photo);
+            for (size_t i = 0; i < wanted_.size() && plan_.problem.isEmpty(); ++i)
+                addSingle(wanted_[i]);
             break;
         case LayoutKind::pack:
             addPacked();
@@ -73,6 +102,8 @@ public:
             addCells();
             break;
         }
+        if (!plan_.problem.isEmpty())
+            plan_.sheets.clear();
         return std::move(plan_);
     }
 
@@ -85,11 +116,13 @@ private:
     CellRoom roomOn(const PageLayout& page) const
     {
         const double margin = points(request_.settings.margin);
+        if (margin <= 0.0)
+            return {page.page, page.imageable};
+        // Sides that have passed each other would be taken for a rectangle.
+        if (2.0 * margin >= std::min(page.page.width(), page.page.height()))
+            return {page.page, {}};
         const QRectF whole(QPointF(), page.page);
-        QRectF area = page.imageable;
-        if (margin > 0.0)
-            area = area.intersected(whole.adjusted(margin, margin, -margin, -margin));
-        return {page.page, area.isEmpty() ? page.imageable : area};
+        return {page.page, page.imageable.intersected(whole.adjusted(margin, margin, -margin, -margin))};
     }
 
     PageLayout pageTurned(bool turned) const { return emptyPage(request_.paper, request_.imageable, turned); }
@@ -118,10 +151,26 @@ private:
             cell = centredOn(room, size);
             if (request_.settings.corner)
                 cell.moveTopLeft(*request_.settings.corner * kPointsPerMillimetre);
+            plan_.problem = outsideProblem(cell, room.area);
             cell = inDots(cell);
         }
         add(sheet, wanted, cell, 0);
         finish(std::move(sheet));
+    }
+
+    static QString outsideProblem(const QRectF& cell, const QRectF& area)
+    {
+        const double spare = points(kTolerance);
+        if (area.adjusted(-spare, -spare, spare, spare).contains(cell))
+            return {};
+        const auto millimetres = [](double length) {
+            return QString::number(length / kPointsPerMillimetre, 'f', 1);
+        };
+        return Words::tr("A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: "
+                         "%5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.")
+            .arg(millimetres(cell.width()), millimetres(cell.height()), millimetres(cell.left()),
+                 millimetres(cell.top()), millimetres(area.width()), millimetres(area.height()),
+                 millimetres(area.left()), millimetres(area.top()));
     }
 
     // The photo with its border and its caption goes into the cell.
@@ -200,7 +249,8 @@ private:
         const bool repeats = request_.settings.repeats;
         const size_t each = cells.size();
         const size_t count = repeats ? wanted_.size() * each : wanted_.size();
-        for (size_t first = 0; first < count; first += each) {
+        plan_.problem = countProblem(count);
+        for (size_t first = 0; first < count && plan_.problem.isEmpty(); first += each) {
             Sheet sheet;
             sheet.page = pageTurned(turned);
             for (size_t i = first; i < std::min(first + each, count); ++i) {
@@ -254,30 +304,54 @@ private:
         plan_.sheets.push_back(std::move(sheet));
     }
 
-    // A caption is cut out with its photo.
-    static QRectF cutRect(const PlacedPhoto& placed)
+    // Where each place has a size, that is what is cut out. Elsewhere it is the photo, with its caption.
+    QRectF cutRect(const PlacedPhoto& placed) const
     {
-        return placed.caption.isEmpty() ? placed.outline : placed.cell;
+        const LayoutKind kind = request_.layout.kind;
+        const bool hasSize = kind == LayoutKind::size || kind == LayoutKind::cells;
+        return hasSize ? placed.cell : placed.outline.united(placed.caption);
     }
 
     // At each corner of what is cut out, outwards, where no photo is in the way.
-    static void addCutMarks(Sheet& sheet)
+    void addCutMarks(Sheet& sheet) const
     {
-        for (const PlacedPhoto& placed : sheet.photos) {
-            const QRectF cell = cutRect(placed);
+        std::vector<QRectF> cuts;
+        for (const PlacedPhoto& placed : sheet.photos)
+            cuts.push_back(cutRect(placed));
+        std::ranges::sort(cuts, {}, &QRectF::top);
+        double highest = 0.0;
+        for (const QRectF& cut : cuts)
+            highest = std::max(highest, cut.height());
+        for (const QRectF& cut : cuts) {
+            const std::vector<QRectF> near = nearTo(cut, cuts, highest);
             const std::array<std::pair<QPointF, QPointF>, 4> corners{
-                std::pair{cell.topLeft(), QPointF(-1.0, -1.0)},
-                {cell.topRight(), QPointF(1.0, -1.0)},
-                {cell.bottomLeft(), QPointF(-1.0, 1.0)},
-                {cell.bottomRight(), QPointF(1.0, 1.0)}};
+                std::pair{cut.topLeft(), QPointF(-1.0, -1.0)},
+                {cut.topRight(), QPointF(1.0, -1.0)},
+                {cut.bottomLeft(), QPointF(-1.0, 1.0)},
+                {cut.bottomRight(), QPointF(1.0, 1.0)}};
             for (const auto& [corner, away] : corners) {
-                addMark(sheet, corner, {away.x(), 0.0});
-                addMark(sheet, corner, {0.0, away.y()});
+                addMark(sheet, near, corner, {away.x(), 0.0});
+                addMark(sheet, near, corner, {0.0, away.y()});
             }
         }
     }
 
-    static void addMark(Sheet& sheet, const QPointF& corner, const QPointF& direction)
+    // Those that a mark of this one can meet. They are sorted by their tops.
+    static std::vector<QRectF> nearTo(const QRectF& cut, const std::vector<QRectF>& cuts, double highest)
+    {
+        const double reach = points(kCutMarkReach);
+        const QRectF marked = cut.adjusted(-reach, -reach, reach, reach);
+        std::vector<QRectF> near;
+        auto other = std::ranges::lower_bound(cuts, marked.top() - highest, {}, &QRectF::top);
+        for (; other != cuts.end() && other->top() <= marked.bottom(); ++other) {
+            if (other->intersects(marked))
+                near.push_back(*other);
+        }
+        return near;
+    }
+
+    static void addMark(Sheet& sheet, const std::vector<QRectF>& others, const QPointF& corner,
+                        const QPointF& direction)
     {
         for (const double share : {1.0, 0.5, 0.25}) {
             const QPointF from = corner + direction * points(kMarkDistance);
@@ -285,8 +359,8 @@ private:
             const double near = points(kMarkDistance) / 2.0;
             const QRectF room =
                 QRectF(from, to).normalized().adjusted(-near / 2.0, -near / 2.0, near / 2.0, near / 2.0);
-            const bool isFree = std::ranges::none_of(
-                sheet.photos, [&](const PlacedPhoto& other) { return cutRect(other).intersects(room); });
+            const bool isFree =
+                std::ranges::none_of(others, [&](const QRectF& other) { return other.intersects(room); });
             if (isFree && sheet.page.imageable.contains(from) && sheet.page.imageable.contains(to)) {
                 sheet.cutMarks.push_back({from, to});
                 return;
@@ -313,10 +387,30 @@ size_t SheetPlan::photoCount() const
 SheetPlan planSheets(const SheetRequest& request, const std::vector<Photo>& photos,
                      const std::vector<size_t>& chosen)
 {
-    std::vector<Wanted> wanted = wantedPhotos(photos, chosen);
-    if (wanted.empty() && !chosen.empty())
+    const size_t count = wantedCount(photos, chosen);
+    if (count == 0 && !chosen.empty())
         return {{}, Words::tr("All photos are left out. Include at least one of them.")};
-    return Planner(request, photos, std::move(wanted)).plan();
+    if (const QString problem = countProblem(count); !problem.isEmpty())
+        return {{}, problem};
+    return Planner(request, photos, wantedPhotos(photos, chosen)).plan();
+}
+
+SheetPlan withChosenSheets(SheetPlan plan, const PageChoice& choice)
+{
+    if (!plan.problem.isEmpty())
+        return plan;
+    if (choice.parity == PageParity::odd || choice.parity == PageParity::even) {
+        std::vector<Sheet> chosen;
+        for (size_t i = choice.parity == PageParity::odd ? 0 : 1; i < plan.sheets.size(); i += 2)
+            chosen.push_back(std::move(plan.sheets[i]));
+        if (chosen.empty() && !plan.sheets.empty())
+            plan.problem = Words::tr("There is one sheet only, and none with an even number. Choose all "
+                                     "sheets, or more photos.");
+        plan.sheets = std::move(chosen);
+    }
+    if (choice.isReversed)
+        std::ranges::reverse(plan.sheets);
+    return plan;
 }
 
 } // namespace halvern

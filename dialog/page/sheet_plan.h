@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialog/page/layout.h"
+#include "dialog/page/page_choice.h"
 #include "dialog/page/photo.h"
 #include "platform/foundation/units.h"
 
@@ -39,6 +40,9 @@ struct SheetPlan {
     size_t photoCount() const;
 };
 
+/// How far cut marks reach beyond what is cut out, millimetres.
+inline constexpr double kCutMarkReach = 4.5;
+
 struct SheetRequest {
     QSizeF paper;     ///< the upright sheet, points
     QRectF imageable; ///< of it
@@ -47,11 +51,20 @@ struct SheetRequest {
     Layout layout = {};
     SheetSettings settings = {};
     int resolution = kUsualResolution; ///< dots per inch: places are whole dots
+
+    bool operator==(const SheetRequest&) const = default;
 };
+
+/// So many photos go on the sheets of one job at most, each counted as often as it is printed.
+inline constexpr size_t kMostPlaces = 50'000;
 
 /// Puts the chosen photos on sheets, in their order, those that are included and as often as each says. What
 /// a printer prints, a preview shows and a test expects is computed here and nowhere else. Any thread.
 SheetPlan planSheets(const SheetRequest& request, const std::vector<Photo>& photos,
                      const std::vector<size_t>& chosen);
+
+/// The same plan with those of its sheets that the choice has, in the choice's order. Its ranges are of
+/// photos, and of no concern here. Any thread.
+SheetPlan withChosenSheets(SheetPlan plan, const PageChoice& choice);
 
 } // namespace halvern

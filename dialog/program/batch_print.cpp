@@ -98,11 +98,13 @@ void BatchPrint::proceed()
              (session_.photos().empty()
                   ? QString()
                   : QLatin1Char('\n') + tr("With --skip-broken the others are printed.")));
-    if (session_.hasPhotos() && line_.request.skipBroken && !session_.damagedFiles().isEmpty())
+    const bool isReady = session_.hasPhotos() && session_.model();
+    // Which pages are chosen may come with the printer's preset, and counts the damaged ones.
+    if (isReady && line_.request.skipBroken && !session_.damagedFiles().isEmpty())
         session_.settleDamaged(false);
     if (session_.hasPhotos() && session_.photos().empty() && !line_.request.document)
         fail(tr("None of the files can be printed."));
-    const bool isComplete = session_.hasPhotos() && session_.model() && session_.printerList().hasAnswer();
+    const bool isComplete = isReady && session_.printerList().hasAnswer();
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;
     const QString choice = session_.chosenPages().problem;

@@ -321,16 +321,15 @@ ParsedCommandLine parseCommandLine(const QStringList& arguments)
     const bool canAsk = parser.isSet(switches.choose) && line.showDialog;
     if (line.request.files.isEmpty() && unusable.isEmpty() && !canAsk)
         return wrong(Switches::noFile() + QLatin1Char(' ') + Switches::seeHelp());
-    QStringList usable;
+    QStringList missing;
     for (const QString& path : line.request.files) {
         if (const QString sentence = fileProblem(path); !sentence.isEmpty())
-            unusable.append(sentence);
-        else
-            usable.append(path);
+            missing.append(sentence);
     }
-    if (!unusable.isEmpty() && (usable.isEmpty() || !line.request.skipBroken))
-        return wrong(unusable.join(QLatin1Char('\n')), kExitFailed);
-    line.request.files = usable;
+    const QStringList problems = unusable + missing;
+    if (!problems.isEmpty() && (missing.size() == line.request.files.size() || !line.request.skipBroken))
+        return wrong(problems.join(QLatin1Char('\n')), kExitFailed);
+    // Those that are missing keep their places among the others, and are told when they are read.
     parsed.remarks.append(unusable);
     return parsed;
 }

@@ -50,7 +50,7 @@ QJsonObject DialogResult::chosen() const
     return {{QStringLiteral("printer"), session_.printerName()},
             {QStringLiteral("title"), session_.jobTitle()},
             {QStringLiteral("copies"), session_.page().copies},
-            {QStringLiteral("pages"), rangesOf(session_.chosenPages().pages)}};
+            {QStringLiteral("pages"), rangesOf(session_.printedPhotos())}};
 }
 
 QJsonObject DialogResult::sentOptions() const

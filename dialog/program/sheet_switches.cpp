@@ -74,20 +74,16 @@ QList<QCommandLineOption> SheetSwitches::all() const
 
 QString SheetSwitches::read(const QCommandLineParser& parser, SessionRequest& request) const
 {
-    const QList<QCommandLineOption> options = all();
-    request.namesSheets =
-        std::ranges::any_of(options, [&](const QCommandLineOption& option) { return parser.isSet(option); });
-    if (!request.namesSheets)
-        return {};
-    const LayoutLibrary layouts;
-    const std::optional<Layout> layout = layouts.find(parser.value(layout_));
-    if (!layout)
-        return layouts.unknownText(parser.value(layout_));
-    SheetSettings& sheets = request.sheets;
-    sheets = withLayout({}, *layout);
+    SheetWishes& sheets = request.sheets;
+    if (parser.isSet(layout_)) {
+        const LayoutLibrary layouts;
+        sheets.layout = layouts.find(parser.value(layout_));
+        if (!sheets.layout)
+            return layouts.unknownText(parser.value(layout_));
+    }
     if (parser.isSet(caption_))
         sheets.caption = parser.value(caption_);
-    if (sheets.caption.size() > kLongestCaption)
+    if (sheets.caption && sheets.caption->size() > kLongestCaption)
         return Words::tr("The caption is longer than %1 characters.").arg(kLongestCaption);
     QString problem = readFlags(parser, sheets);
     if (problem.isEmpty())
@@ -95,20 +91,21 @@ QString SheetSwitches::read(const QCommandLineParser& parser, SessionRequest& re
     return problem.isEmpty() ? readSize(parser, sheets) : problem;
 }
 
-QString SheetSwitches::readFlags(const QCommandLineParser& parser, SheetSettings& sheets) const
+QString SheetSwitches::readFlags(const QCommandLineParser& parser, SheetWishes& sheets) const
 {
-    bool* const flags[] = {&sheets.repeats, &sheets.hasCutMarks, &sheets.hasLine};
+    std::optional<bool>* const flags[] = {&sheets.repeats, &sheets.hasCutMarks, &sheets.hasLine};
     for (qsizetype i = 0; i < 3; ++i) {
         const bool isOn = parser.isSet(flags_[2 * i]);
         const bool isOff = parser.isSet(flags_[2 * i + 1]);
         if (isOn && isOff)
             return Words::tr("--%1 and --no-%1 do not go together.").arg(flags_[2 * i].names().front());
-        *flags[i] = isOn || (*flags[i] && !isOff);
+        if (isOn || isOff)
+            *flags[i] = isOn;
     }
     return {};
 }
 
-QString SheetSwitches::readLengths(const QCommandLineParser& parser, SheetSettings& sheets) const
+QString SheetSwitches::readLengths(const QCommandLineParser& parser, SheetWishes& sheets) const
 {
     if (parser.isSet(margin_)) {
         const std::optional<double> margin = lengthOf(parser.value(margin_), kMostMargin);
@@ -125,21 +122,25 @@ QString SheetSwitches::readLengths(const QCommandLineParser& parser, SheetSettin
     return {};
 }
 
-QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetSettings& sheets) const
+QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetWishes& sheets) const
 {
     const QString text = parser.value(size_);
     if (text.endsWith(QLatin1Char('%'))) {
         bool isNumber = false;
-        sheets.percent = text.chopped(1).toDouble(&isNumber);
-        if (!isNumber || sheets.percent < kLeastPercent || sheets.percent > kMostPercent)
+        const double percent = text.chopped(1).toDouble(&isNumber);
+        if (!isNumber || !(percent >= kLeastPercent && percent <= kMostPercent))
             return Words::tr("\"%1\" is no size: write %2% to %3%.")
                 .arg(text, QString::number(kLeastPercent), QString::number(kMostPercent));
+        sheets.percent = percent;
     } else if (parser.isSet(size_)) {
         const std::optional<QSizeF> size = photoSizeOf(text);
         if (!size)
             return Words::tr(
                        "\"%1\" is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.")
                 .arg(text);
+        if (sheets.layout && !sheets.layout->id.isEmpty())
+            return Words::tr("--photo-size with a width and a height does not go with --layout, which says "
+                             "how large the photos are. Leave one of them out.");
         sheets.photo = *size;
     }
     if (!parser.isSet(corner_))
@@ -150,7 +151,7 @@ QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetSettings&
     if (!left || !top)
         return Words::tr("\"%1\" is no corner: write two lengths in millimeters, for example 20,15.")
             .arg(corner);
-    if (sheets.photo.isEmpty())
+    if (!sheets.photo)
         return Words::tr("--corner goes with --photo-size and a width and a height.");
     sheets.corner = QPointF(*left, *top);
     return {};

@@ -19,9 +19,9 @@ public:
     QString read(const QCommandLineParser& parser, SessionRequest& request) const;
 
 private:
-    QString readFlags(const QCommandLineParser& parser, SheetSettings& sheets) const;
-    QString readLengths(const QCommandLineParser& parser, SheetSettings& sheets) const;
-    QString readSize(const QCommandLineParser& parser, SheetSettings& sheets) const;
+    QString readFlags(const QCommandLineParser& parser, SheetWishes& sheets) const;
+    QString readLengths(const QCommandLineParser& parser, SheetWishes& sheets) const;
+    QString readSize(const QCommandLineParser& parser, SheetWishes& sheets) const;
 
     QCommandLineOption layout_;
     QCommandLineOption caption_;

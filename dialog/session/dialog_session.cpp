@@ -35,6 +35,7 @@ DialogSession::DialogSession(SessionRequest request, PanelSource& panels, QObjec
 {
     // What another program has said of the page is not what was printed with last.
     pageIsUsers_ = request_.document.has_value() || request_.scaling.has_value();
+    connect(&photos_, &PhotoLoader::changed, this, &DialogSession::keepReadable);
     connect(&photos_, &PhotoLoader::changed, this, &DialogSession::photosChanged);
     connect(&photos_, &PhotoLoader::failed, this, &DialogSession::photoFailed);
     connect(&photos_, &PhotoLoader::damaged, this, &DialogSession::photoDamaged);
@@ -71,6 +72,8 @@ DialogSession::~DialogSession()
 
 void DialogSession::start()
 {
+    for (const QString& problem : layouts().problems())
+        Q_EMIT notice(problem);
     printer_.start();
     photos_.start();
 }
@@ -144,7 +147,7 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
                    givenBy(OptionOrigin::queue, printer.ppd.defaults) +
                        givenBy(OptionOrigin::saved, printer_.savedOptions()),
                    preset ? &preset->preset : nullptr, givenBy(OptionOrigin::typed, request_.options));
-    takeStartingPage(start.page, preset);
+    takeStartingPage(start, preset);
     presets_.tellLeftOut(start.leftOut, preset ? preset->title() : QString());
     for (const SettledOption& settled : start.settled)
         options_.noteStart(settled);
@@ -162,8 +165,12 @@ void DialogSession::applyOptions(const FetchedPrinter& printer)
     presets_.chooseStarting(preset);
 }
 
-void DialogSession::takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset)
+void DialogSession::takeStartingPage(const StartingOptions& start, const std::optional<PresetEntry>& preset)
 {
+    PageWishes wishes = start.page;
+    // What was saved for every job gives way to the layout or the size that was asked for here.
+    if (const std::optional<Scaling> saved = scalingOf(wishes.scaling); saved && start.isScalingSaved)
+        wishes.scaling = scalingWord(scalingWith(*saved, request_.sheets));
     if (preset && !pageIsUsers_)
         page_.set(startingPage(page_.settings(), preset->preset, request_, wishes));
     // What another program has said of its pages stands.
@@ -175,6 +182,25 @@ void DialogSession::takeStartingPage(const PageWishes& wishes, const std::option
     page_.takeWishes(left);
     takeProfile(preset);
     pageIsUsers_ = pageIsUsers_ || !wishes.scaling.isEmpty() || wishes.isCollated;
+    hasStartingPage_ = true;
+    keepReadable();
+}
+
+// Whoever chose pages by their numbers has counted a file that cannot be read, too.
+void DialogSession::keepReadable()
+{
+    if (hasKeptReadable_ || !hasStartingPage_ || !photos_.isDone())
+        return;
+    hasKeptReadable_ = true;
+    const std::vector<size_t>& gone = photos_.unreadablePlaces();
+    const size_t count = photos().size() + gone.size();
+    std::vector<size_t> left;
+    for (size_t place = 0; place < count; ++place) {
+        if (!std::ranges::binary_search(gone, place))
+            left.push_back(place);
+    }
+    if (!gone.empty())
+        page_.keepChoice(left, count);
 }
 
 // Who converts goes with the user from printer to printer, but a profile is one printer's: its own as long as
@@ -215,9 +241,6 @@ void DialogSession::loadPanels()
 
 void DialogSession::setPage(const PageSettings& page)
 {
-    const bool isSameLayout = page.sheets.layout == page_.settings().sheets.layout;
-    if (page.scaling != page_.settings().scaling && isSameLayout)
-        photos_.centre();
     page_.set(page);
     pageIsUsers_ = true;
     Q_EMIT optionsChanged();
@@ -280,7 +303,7 @@ bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
 {
-    const SheetPlan plan = sheetPlan();
+    const SheetPlan& plan = sheetPlan();
     return model() ? page_.format(*model(), plan.sheets.empty() ? nullptr : &plan.sheets.front()) : nullptr;
 }
 

@@ -24,6 +24,7 @@
 namespace halvern {
 
 struct JobInWords;
+struct StartingOptions;
 class PdfOutput;
 
 /// Everything about one print dialog that is not a widget: how photos, printer, options and panels come
@@ -125,14 +126,17 @@ public:
     /// Why the colours cannot be converted as it is set; empty if they can.
     QString colourProblem() const;
 
-    /// Another scaling puts all photos back in the middle.
     void setPage(const PageSettings& page);
 
-    /// The places in photos() that are printed, in the order of printing, or why there are none.
+    /// The places in photos() that the ranges choose, in their order, or why there are none.
     ChosenPages chosenPages() const;
 
-    /// The photos on their sheets, in the order of printing, or why there are none.
-    SheetPlan sheetPlan() const { return page_.plan(photos(), chosenPages().pages, model()); }
+    /// Those of them that are on a sheet that is printed.
+    std::vector<size_t> printedPhotos() const;
+
+    /// The photos on their sheets, in the order of printing, or why there are none. Valid until something is
+    /// set, or a photo comes.
+    const SheetPlan& sheetPlan() const { return page_.plan(photos(), chosenPages().pages, model()); }
 
     /// The layouts that can be chosen.
     LayoutLibrary& layouts() { return page_.layouts(); }
@@ -336,8 +340,9 @@ private:
     QList<SideChange> setAsTray(const TrayPaper& paper);
     void leavePrinter();
     void applyOptions(const FetchedPrinter& printer);
-    void takeStartingPage(const PageWishes& wishes, const std::optional<PresetEntry>& preset);
+    void takeStartingPage(const StartingOptions& start, const std::optional<PresetEntry>& preset);
     void takeProfile(const std::optional<PresetEntry>& preset);
+    void keepReadable();
     void keepJobAttributes();
     void loadPanels();
     JobInputs jobInputs() const;
@@ -360,6 +365,8 @@ private:
     QHash<QString, QString> profiles_; ///< that were chosen for printers that were left, by queue
     QString backLinesProblem_;
     bool pageIsUsers_ = false; // no other printer's preset changes it
+    bool hasStartingPage_ = false;
+    bool hasKeptReadable_ = false;
     JobOffer jobOffer_;
     QMap<QString, QString> jobAttributes_; ///< what the user has set
     RecentNames recentPrinters_;

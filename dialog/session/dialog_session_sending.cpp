@@ -102,14 +102,17 @@ JobInWords DialogSession::jobInWords() const
 {
     if (!model())
         return {};
-    const ChosenPages chosen = chosenPages();
     const JobValues values = valuesToSend();
-    const SheetPlan plan = document() ? SheetPlan() : sheetPlan();
+    const SheetPlan none;
+    const SheetPlan& plan = document() ? none : sheetPlan();
     const QString layout = document() ? QString() : layoutInWords(page().sheets, page_.layouts(), plan);
-    JobInWords words = halvern::jobInWords({*model(), values, printerDefaults(), int(photos().size()),
-                                            chosen.pages, page().pages.isReversed, isPageOnPaper(), layout});
-    if (words.problem.isEmpty() && hasPhotos())
-        words.problem = chosen.problem.isEmpty() ? plan.problem : chosen.problem;
+    JobInWords words =
+        halvern::jobInWords({*model(), values, printerDefaults(), int(photos().size()), printedPhotos(),
+                             page().pages.isReversed, isPageOnPaper(), layout});
+    if (words.problem.isEmpty() && hasPhotos()) {
+        const QString choice = chosenPages().problem;
+        words.problem = choice.isEmpty() ? plan.problem : choice;
+    }
     if (words.problem.isEmpty())
         words.problem = colourProblem();
     if (const std::optional<NotLoaded> missing = notLoaded(); words.problem.isEmpty() && missing)
@@ -128,10 +131,10 @@ bool DialogSession::isTwoSided() const
 
 QString DialogSession::jobTitle() const
 {
-    const ChosenPages chosen = chosenPages();
-    if (const QString title = page().title.trimmed(); !title.isEmpty() || chosen.pages.empty())
+    const std::vector<size_t> printed = printedPhotos();
+    if (const QString title = page().title.trimmed(); !title.isEmpty() || printed.empty())
         return title;
-    return QFileInfo(photos()[chosen.pages.front()].path).fileName();
+    return QFileInfo(photos()[printed.front()].path).fileName();
 }
 
 PrintRun* DialogSession::makeRun()
@@ -196,7 +199,8 @@ QString DialogSession::command() const
 {
     const std::vector<size_t> chosen = chosenPages().pages;
     return commandToRepeat({printerName(), photos(), chosen, *model(), printerDefaults(),
-                            printer_.savedOptions(), jobInputs(), page(), page_.layouts(), request_.server});
+                            printer_.savedOptions(), jobInputs(), page(), page_.layouts(), request_.server,
+                            request_.photosPerJob});
 }
 
 } // namespace halvern

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <set>
 
 namespace halvern {
 
@@ -115,6 +116,19 @@ ChosenPages DialogSession::chosenPages() const
     if (before > 0 && chosen.pages.empty())
         chosen.problem = tr("All photos are left out. Include at least one of them.");
     return chosen;
+}
+
+std::vector<size_t> DialogSession::printedPhotos() const
+{
+    const PageParity parity = page().pages.parity;
+    if (document() || (parity != PageParity::odd && parity != PageParity::even))
+        return chosenPages().pages;
+    std::set<size_t> printed;
+    for (const Sheet& sheet : sheetPlan().sheets) {
+        for (const PlacedPhoto& placed : sheet.photos)
+            printed.insert(placed.photo);
+    }
+    return {printed.begin(), printed.end()};
 }
 
 // What the layout before it has set goes with it.

@@ -150,11 +150,15 @@ QString commandToRepeat(const SessionToRepeat& session)
         job.page.append(QStringLiteral("print-scaling=") + scalingWord(page.scaling));
     job.ranges = rangesIn(read.pages, session.chosen);
     job.isReversed = page.pages.isReversed;
+    if (page.pages.parity == PageParity::odd || page.pages.parity == PageParity::even)
+        job.page.append(page.pages.parity == PageParity::odd ? QStringLiteral("page-set=odd")
+                                                             : QStringLiteral("page-set=even"));
+    job.photosPerJob = session.photosPerJob;
     if (page.turn != PageTurn::automatic)
         job.orientation =
             page.turn == PageTurn::portrait ? QStringLiteral("portrait") : QStringLiteral("landscape");
     job.photos = placementWords(read.pages);
-    job.sheets = sheetWords(page.sheets, session.layouts);
+    job.sheets = sheetWords(page.sheets, page.scaling, session.layouts);
     job.colours = colourWords(page.colours);
     job.title = page.title.trimmed();
     job.copies = page.copies;

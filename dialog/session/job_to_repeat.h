@@ -10,14 +10,15 @@ namespace halvern {
 struct SessionToRepeat {
     QString printer;
     const std::vector<Photo>& photos;
-    const std::vector<size_t>& chosen; ///< places in photos, in the order of printing
+    const std::vector<size_t>& chosen; ///< places in photos, in their order
     const PpdModel& model;
     const QMap<QString, QString>& printerDefaults;
     OptionValues saved; ///< by the user for this printer
     JobInputs inputs;
     const PageSettings& page;
     const LayoutLibrary& layouts;
-    QString server = {}; ///< that was named for this session; empty: none
+    QString server = {};  ///< that was named for this session; empty: none
+    int photosPerJob = 0; ///< 0: all in one
 };
 
 /// The command line, quoted for a shell. On the model's thread.

@@ -30,12 +30,9 @@ PageSetup::PageSetup(const SessionRequest& request)
     settings_.isCollated = request.isCollated;
     settings_.scalePercent = request.scalePercent;
     settings_.colours = request.colours;
-    settings_.sheets = request.sheets;
-    const std::optional<Layout> layout = layouts_.find(request.sheets.layout);
-    if (!request.scaling && layout && layout->scaling)
-        settings_.scaling = *layout->scaling;
-    if (!request.scaling && settings_.sheets.percent != SheetSettings().percent)
-        settings_.scaling = Scaling::actualSize;
+    settings_.sheets = withWishes({}, request.sheets);
+    if (!request.scaling)
+        settings_.scaling = scalingWith(settings_.scaling, request.sheets);
 }
 
 QString scalingWord(Scaling scaling)
@@ -51,14 +48,20 @@ QString scalingWord(Scaling scaling)
     return QStringLiteral("none");
 }
 
+std::optional<Scaling> scalingOf(const QString& word)
+{
+    for (const Scaling scaling : {Scaling::fit, Scaling::fill, Scaling::actualSize}) {
+        if (word == scalingWord(scaling))
+            return scaling;
+    }
+    return std::nullopt;
+}
+
 void PageSetup::takeWishes(const PageWishes& wishes)
 {
     if (std::exchange(hasTakenWishes_, true))
         return;
-    for (const Scaling scaling : {Scaling::fit, Scaling::fill, Scaling::actualSize}) {
-        if (wishes.scaling == scalingWord(scaling))
-            settings_.scaling = scaling;
-    }
+    settings_.scaling = scalingOf(wishes.scaling).value_or(settings_.scaling);
     settings_.isCollated = wishes.isCollated.value_or(settings_.isCollated);
     PageChoice& pages = settings_.pages;
     if (pages.ranges.isEmpty())
@@ -73,37 +76,56 @@ void PageSetup::takeWishes(const PageWishes& wishes)
 void PageSetup::keepChoice(const std::vector<size_t>& left, size_t count)
 {
     PageChoice& choice = settings_.pages;
-    if (choice.ranges.isEmpty() && choice.parity == PageParity::all)
+    const ChosenPages before = choosePages(choice, count);
+    if (choice.ranges.isEmpty() || before.pages.empty())
         return;
-    const std::vector<size_t> chosen = choosePages(choice, count).pages;
     std::vector<size_t> places;
     for (size_t i = 0; i < left.size(); ++i) {
-        if (std::ranges::find(chosen, left[i]) != chosen.end())
+        if (std::ranges::binary_search(before.pages, left[i]))
             places.push_back(i);
     }
-    if (places.empty())
-        return;
-    choice.ranges = rangesOf(places);
-    choice.parity = PageParity::all;
+    choice.isGone = places.empty();
+    if (!choice.isGone)
+        choice.ranges = rangesOf(places);
 }
 
-SheetPlan PageSetup::plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
-                          const PpdModel* model) const
+SheetRequest PageSetup::requestFor(const Layout& layout, const PpdModel* model) const
 {
-    const std::optional<Layout> layout = layouts_.find(settings_.sheets.layout);
-    if (!layout)
-        return {{}, layouts_.unknownText(settings_.sheets.layout)};
     SheetGeometry sheet{kUsualSheet, QRectF(QPointF(), kUsualSheet)};
     if (model)
         sheet = model->sheet();
-    return planSheets({sheet.paper, sheet.imageable, settings_.turn, settings_.scaling, *layout,
-                       settings_.sheets, model ? model->resolution() : kUsualResolution},
-                      photos, chosen);
+    return {sheet.paper,
+            sheet.imageable,
+            settings_.turn,
+            settings_.scaling,
+            layout,
+            settings_.sheets,
+            model ? model->resolution() : kUsualResolution};
+}
+
+const SheetPlan& PageSetup::plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
+                                 const PpdModel* model) const
+{
+    const std::optional<Layout> layout = layouts_.find(settings_.sheets.layout);
+    if (!layout) {
+        planned_.reset();
+        plan_ = {{}, layouts_.unknownText(settings_.sheets.layout)};
+        return plan_;
+    }
+    PlanKey key{requestFor(*layout, model), settings_.pages, chosen, {}};
+    for (const Photo& photo : photos)
+        key.photos.push_back({photo.ownSize, photo.placement});
+    if (planned_ != key) {
+        plan_ = withChosenSheets(planSheets(key.request, photos, chosen), settings_.pages);
+        planned_ = std::move(key);
+    }
+    return plan_;
 }
 
 PageLayout PageSetup::layout(const Photo& photo, const PpdModel* model) const
 {
-    const SheetPlan alone = plan({photo}, {0}, model);
+    const Layout layout = layouts_.find(settings_.sheets.layout).value_or(Layout());
+    const SheetPlan alone = planSheets(requestFor(layout, model), {photo}, {0});
     return alone.sheets.empty() ? PageLayout() : alone.sheets.front().photos.front().layout;
 }
 

@@ -33,8 +33,9 @@ struct PageSettings {
     bool operator==(const PageSettings&) const = default;
 };
 
-/// The word for it in options of a job: "fit", "fill" or "none".
+/// The word for it in options of a job: "fit", "fill" or "none"; and back, nothing for another word.
 QString scalingWord(Scaling scaling);
+std::optional<Scaling> scalingOf(const QString& word);
 
 /// How photos are laid on the printer's sheet: what the user set, applied to a printer. Main thread only.
 class PageSetup {
@@ -49,12 +50,13 @@ public:
     /// taken back by the next printer.
     void takeWishes(const PageWishes& wishes);
 
-    /// Chooses the same pages once only those at the places `left` of `count` are there.
+    /// Chooses the same photos once only those at the places `left` of `count` are there.
     void keepChoice(const std::vector<size_t>& left, size_t count);
 
-    /// The photos on sheets of the model's current size, without a model on A4 to its edges.
-    SheetPlan plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
-                   const PpdModel* model) const;
+    /// The photos on sheets of the model's current size, without a model on A4 to its edges. It is made
+    /// again only when something is different, and valid until then.
+    const SheetPlan& plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
+                          const PpdModel* model) const;
 
     /// A photo alone on such a sheet.
     PageLayout layout(const Photo& photo, const PpdModel* model) const;
@@ -71,9 +73,30 @@ public:
     std::shared_ptr<PageFormat> format(const PpdModel& model, const Sheet* first) const;
 
 private:
+    // All that a plan depends on.
+    struct PlannedPhoto {
+        QSizeF ownSize;
+        PhotoPlacement placement;
+
+        bool operator==(const PlannedPhoto&) const = default;
+    };
+
+    struct PlanKey {
+        SheetRequest request;
+        PageChoice pages;
+        std::vector<size_t> chosen;
+        std::vector<PlannedPhoto> photos;
+
+        bool operator==(const PlanKey&) const = default;
+    };
+
+    SheetRequest requestFor(const Layout& layout, const PpdModel* model) const;
+
     LayoutLibrary layouts_;
     PageSettings settings_;
     bool hasTakenWishes_ = false;
+    mutable std::optional<PlanKey> planned_;
+    mutable SheetPlan plan_;
 };
 
 } // namespace halvern

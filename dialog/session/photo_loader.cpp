@@ -65,15 +65,18 @@ void PhotoLoader::read(const QStringList& files)
 void PhotoLoader::take(const PhotoFile& file)
 {
     --filesLeft_;
+    if (file.pages.empty())
+        unreadablePlaces_.push_back(placesRead_++);
     for (const Photo& page : file.pages) {
         photos_.push_back(page);
         photos_.back().id = ++lastId_;
         photos_.back().isFileDamaged = !file.problem.isEmpty();
+        ++placesRead_;
         photos_.back().printsDamaged = printDamaged_;
         if (photos_.size() > kKeptPreviews)
             photos_.back().preview = QImage();
         if (!placements_.isEmpty())
-            photos_.back().placement = placements_[std::min(qsizetype(lastId_), placements_.size()) - 1];
+            photos_.back().placement = placements_[std::min(qsizetype(placesRead_), placements_.size()) - 1];
     }
     if (!file.problem.isEmpty() && file.pages.empty()) {
         unreadableFiles_.append(file.problem);
@@ -108,14 +111,6 @@ void PhotoLoader::setPlacement(size_t photo, const PhotoPlacement& placement)
 {
     if (photo < photos_.size())
         photos_[photo].placement = held(placement);
-}
-
-void PhotoLoader::centre()
-{
-    for (Photo& photo : photos_) {
-        if (photo.placement.zoom == 1.0)
-            photo.placement.position = PhotoPlacement().position;
-    }
 }
 
 // Only what is still there is asked about.

@@ -35,14 +35,14 @@ public:
     /// What the user wants of one photo.
     void setPlacement(size_t photo, const PhotoPlacement& placement);
 
-    /// Puts all photos that show as much as they can back in the middle.
-    void centre();
-
     /// Somebody who decoded a photo has found that a part of it is missing.
     void noteDamage(const QString& path, int page);
 
     /// Reads these files too, behind the others.
     void add(const QStringList& files);
+
+    /// Where they would be among all that were read, each as one page; ascending.
+    const std::vector<size_t>& unreadablePlaces() const { return unreadablePlaces_; }
 
     /// A sentence for each file that cannot be read, until that is settled.
     const QStringList& unreadableFiles() const { return unreadableFiles_; }
@@ -77,6 +77,8 @@ private:
     bool printDamaged_;
     QList<PhotoPlacement> placements_;
     std::vector<Photo> photos_;
+    std::vector<size_t> unreadablePlaces_;
+    size_t placesRead_ = 0; // with these
     QStringList unreadableFiles_;
     QMap<QString, QString> openDamage_; // sentences, by the files' paths
     quint64 lastId_ = 0;

@@ -280,6 +280,7 @@ PageSettings withPreset(const PageSettings& before, const Preset& preset)
         page.pages.isReversed = preset.page.value(kReversed) == QLatin1StringView("true");
     PageChoice pages = page.pages;
     pages.ranges = preset.page.value(kRanges, pages.ranges);
+    pages.isGone = pages.isGone && !preset.page.contains(kRanges);
     readWord(kParities, preset.page.value(kParity), pages.parity);
     if (choosePages(pages, 0).problem.isEmpty())
         page.pages = pages;
@@ -296,10 +297,10 @@ PageSettings startingPage(const PageSettings& before, const Preset& preset, cons
         page.copies = request.copies;
     if (request.namesColours)
         page.colours = request.colours;
-    if (request.namesSheets) {
-        page.sheets = request.sheets;
+    if (request.sheets.replace(page.sheets))
         page.scaling = before.scaling;
-    }
+    page.scaling = scalingWith(page.scaling, request.sheets);
+    page.sheets = withWishes(page.sheets, request.sheets);
     if (request.turn != PageTurn::automatic)
         page.turn = request.turn;
     const bool isReversed = page.pages.isReversed || request.pages.isReversed;

@@ -61,9 +61,8 @@ struct SessionRequest {
     std::optional<HandedOptions> handed = {};   ///< another program's, over what was printed with last
     std::optional<Scaling> scaling = {};        ///< no preset decides it then
     bool isCollated = true;
-    int scalePercent = 100; ///< of a document to come
-    SheetSettings sheets = {};
-    bool namesSheets = false; ///< somebody said how photos are put on sheets, so no preset decides it
+    int scalePercent = 100;  ///< of a document to come
+    SheetWishes sheets = {}; ///< what no preset decides then
     ColourSettings colours = {};
     bool namesColours = false; ///< somebody said who converts them, so no preset decides it
     QString server = {};       ///< that the process was told to use; empty: nobody said

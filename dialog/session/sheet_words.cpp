@@ -74,7 +74,7 @@ QString millimetres(double points)
 
 } // namespace
 
-QStringList sheetWords(const SheetSettings& settings, const LayoutLibrary& layouts)
+QStringList sheetWords(const SheetSettings& settings, Scaling scaling, const LayoutLibrary& layouts)
 {
     QStringList words;
     const Layout layout = layouts.find(settings.layout).value_or(Layout());
@@ -95,10 +95,12 @@ QStringList sheetWords(const SheetSettings& settings, const LayoutLibrary& layou
     flag(settings.hasLine, usual.hasLine, QStringLiteral("line"));
     add(settings.border != usual.border, QStringLiteral("--border"), shortestDouble(settings.border));
     add(settings.margin != usual.margin, QStringLiteral("--margin"), shortestDouble(settings.margin));
-    add(!settings.photo.isEmpty(), QStringLiteral("--photo-size"), sizeText(settings.photo));
-    add(settings.percent != usual.percent, QStringLiteral("--photo-size"),
+    const bool isSized = settings.layout.isEmpty() && !settings.photo.isEmpty();
+    add(isSized, QStringLiteral("--photo-size"), sizeText(settings.photo));
+    // Elsewhere the percentage says nothing.
+    add(scaling == Scaling::actualSize && settings.percent != usual.percent, QStringLiteral("--photo-size"),
         shortestDouble(settings.percent) + QLatin1Char('%'));
-    if (settings.corner)
+    if (isSized && settings.corner)
         add(true, QStringLiteral("--corner"), pointText(*settings.corner));
     return words;
 }

@@ -13,7 +13,7 @@ namespace halvern {
 /// How photos are put on sheets, in the words of others. Values; all of this on the main thread.
 
 /// As the command line has it; empty for a photo a page as it always was.
-QStringList sheetWords(const SheetSettings& settings, const LayoutLibrary& layouts);
+QStringList sheetWords(const SheetSettings& settings, Scaling scaling, const LayoutLibrary& layouts);
 
 /// As a user reads it: "4 on a page, 2 sheets, with captions"; empty for a photo a page as it always was.
 QString layoutInWords(const SheetSettings& settings, const LayoutLibrary& layouts, const SheetPlan& plan);

@@ -35,11 +35,13 @@ StartingOptions applyGiven(PpdModel& model, const GivenOptions& given, const Pre
     const ApplyResult result = model.apply(below.options + remembered.given + above.options);
     PageWishes page = above.page;
     const PageWishes otherwise = preset ? withoutDecided(below.page, *preset) : below.page;
-    if (page.scaling.isEmpty())
+    const bool isScalingSaved = page.scaling.isEmpty();
+    if (isScalingSaved)
         page.scaling = otherwise.scaling;
     if (!page.isCollated)
         page.isCollated = otherwise.isCollated;
-    return {page, below.leftOut + remembered.leftOut + above.leftOut + result.leftOut, result.settled};
+    return {page, below.leftOut + remembered.leftOut + above.leftOut + result.leftOut, result.settled,
+            isScalingSaved};
 }
 
 QMap<QString, QString> printerDefaults(PpdModel& model, const OptionValues& queues)

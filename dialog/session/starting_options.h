@@ -14,6 +14,7 @@ struct StartingOptions {
     PageWishes page;
     QList<LeftOut> leftOut;
     QList<SettledOption> settled;
+    bool isScalingSaved = false; ///< the user has saved it for every job, and nobody typed one
 };
 
 /// Applies what the queue and the user's files say, what a preset remembers (null: none), and what the

@@ -20,6 +20,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace halvern {
 
 namespace {
@@ -392,7 +394,7 @@ void LayoutPage::refresh()
     problem_->setVisible(!problem.isEmpty());
     const std::optional<QSizeF> paper = usedPaper();
     length_->setVisible(paper.has_value());
-    const int millimetres = paper ? int(paper->height() / kPointsPerMillimetre) : 0;
+    const int millimetres = paper ? int(std::ceil(paper->height() / kPointsPerMillimetre)) : 0;
     length_->setText( // plain: a number
         tr("Make the page %1 mm long, as the photos need").arg(millimetres));
     isRefreshing_ = false;
@@ -408,12 +410,17 @@ std::optional<QSizeF> LayoutPage::usedPaper() const
     const std::optional<Layout> layout = session_.layouts().find(session_.page().sheets.layout);
     if (!limits || !layout || layout->kind != LayoutKind::pack)
         return std::nullopt;
-    const SheetPlan plan = session_.sheetPlan();
+    const SheetPlan& plan = session_.sheetPlan();
     if (plan.sheets.size() != 1 || plan.sheets.front().page.turned)
         return std::nullopt;
     const Sheet& sheet = plan.sheets.front();
     const QSizeF page = sheet.page.page;
-    QSizeF paper(page.width(), sheet.usedLength + page.height() - sheet.page.imageable.bottom() + kSpare);
+    const SheetSettings& settings = session_.page().sheets;
+    // The margin may hold the cut marks, and what the printer leaves free may not.
+    const double free = std::max(page.height() - sheet.page.imageable.bottom(), limits->margins.bottom());
+    const double marks = settings.hasCutMarks ? kCutMarkReach * kPointsPerMillimetre : 0.0;
+    const double below = std::max(free + marks, settings.margin * kPointsPerMillimetre);
+    QSizeF paper(page.width(), sheet.usedLength + below + kSpare);
     paper = paper.expandedTo(limits->least).boundedTo(limits->most);
     const bool isShorter = paper.height() < page.height() - 2.0 * kSpare && paper.width() == page.width();
     return isShorter ? std::optional(paper) : std::nullopt;

@@ -130,11 +130,11 @@ QList<SummaryPage::Line> SummaryPage::jobLines() const
     if (!session_.photos().empty()) {
         const PageLayout layout = session_.layoutFor(session_.photos().front());
         lines.append({tr("Printed area"), pageSizeText(layout.visible().size())});
-        const ChosenPages chosen = session_.chosenPages();
+        const std::vector<size_t> printed = session_.printedPhotos();
         const QString count = QString::number(session_.photos().size());
-        lines.append({tr("Pages"), chosen.pages.size() == session_.photos().size()
+        lines.append({tr("Pages"), printed.size() == session_.photos().size()
                                        ? count
-                                       : tr("%1 of %2").arg(rangesOf(chosen.pages), count)});
+                                       : tr("%1 of %2").arg(rangesOf(printed), count)});
         lines.append({tr("Job title"), session_.jobTitle()});
     }
     lines.append({tr("Copies"), options_.value(QStringLiteral("copies"))});

@@ -447,26 +447,6 @@
         <translation>--json gehört zu --list-printers, --list-options, --list-presets oder --jobs.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.
-  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
-        <translation>Exit-Status:
-  0  Gedruckt, oder ausgegeben, was verlangt war.
-  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
-  2  Falscher Aufruf.
-  3  Der Auftrag ist in der Warteschlange und war noch nicht beendet.
-  4  Abgebrochen: Es wurde nichts gedruckt.
-  5  Der Auftrag wurde gesendet, aber der Druckserver antwortet nicht: Der Ausgang ist nicht bekannt.
-  6  Mit --verify: gedruckt, aber beim Druckserver lag der Auftrag nicht so vor, wie er gesendet wurde.
-  7  Ein Druckserver oder ein Drucker verlangt einen Namen und ein Passwort und hat nicht die richtigen bekommen.</translation>
-    </message>
-    <message>
         <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
         <translation>Die Lage des Fotos, wo Platz frei bleibt oder abgeschnitten wird: 0,0 ist links oben, 1,1 rechts unten. Mehrfach möglich, für ein Foto nach dem anderen, ebenso wie die nächsten drei.</translation>
     </message>
@@ -565,6 +545,30 @@
     <message>
         <source>--corner goes with --photo-size and a width and a height.</source>
         <translation>--corner gehört zu --photo-size mit einer Breite und einer Höhe.</translation>
+    </message>
+    <message>
+        <source>--photo-size with a width and a height does not go with --layout, which says how large the photos are. Leave one of them out.</source>
+        <translation>--photo-size mit einer Breite und einer Höhe geht nicht zusammen mit --layout, das die Größe der Fotos bestimmt. Lassen Sie eines von beiden weg.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not tell how it ended.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>Exit-Status:
+  0  Gedruckt, oder ausgegeben, was verlangt war.
+  1  Fehlgeschlagen; die Standardfehlerausgabe sagt, warum.
+  2  Falscher Aufruf.
+  3  Der Auftrag ist in der Warteschlange und war noch nicht beendet.
+  4  Abgebrochen: Es wurde nichts gedruckt.
+  5  Der Auftrag wurde gesendet, aber der Druckserver sagt nicht, wie er endete.
+  6  Mit --verify: gedruckt, aber beim Druckserver lag der Auftrag nicht so vor, wie er gesendet wurde.
+  7  Ein Druckserver oder ein Drucker verlangt einen Namen und ein Passwort und hat nicht die richtigen bekommen.</translation>
     </message>
 </context>
 <context>
@@ -1259,6 +1263,26 @@
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Alle Fotos sind weggelassen. Nehmen Sie mindestens eines davon auf.</translation>
     </message>
+    <message>
+        <source>The file %1 holds something else already. Choose another name, or take the file away.</source>
+        <translation>In der Datei %1 steht schon etwas anderes. Wählen Sie einen anderen Namen, oder entfernen Sie die Datei.</translation>
+    </message>
+    <message>
+        <source>These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or fewer copies of each.</source>
+        <translation>Auf allen Blättern zusammen wären es %1 Fotos, ein Auftrag fasst %2. Wählen Sie weniger Fotos oder weniger Exemplare von jedem.</translation>
+    </message>
+    <message>
+        <source>With margins of %1 mm nothing is left of this paper. Choose smaller margins, or a larger paper.</source>
+        <translation>Bei Rändern von %1 mm bleibt von diesem Papier nichts übrig. Wählen Sie kleinere Ränder oder ein größeres Papier.</translation>
+    </message>
+    <message>
+        <source>A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: %5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.</source>
+        <translation>Ein Foto von %1 × %2 mm bei %3, %4 mm liegt nicht ganz in dem, was auf dieser Seite bedruckt werden kann: %5 × %6 mm bei %7, %8 mm. Wählen Sie eine kleinere Größe, einen anderen Platz oder ein anderes Papier.</translation>
+    </message>
+    <message>
+        <source>There is one sheet only, and none with an even number. Choose all sheets, or more photos.</source>
+        <translation>Es gibt nur ein Blatt und keines mit gerader Nummer. Wählen Sie alle Blätter oder mehr Fotos.</translation>
+    </message>
 </context>
 <context>
     <name>ListJobs</name>
@@ -1516,12 +1540,8 @@
         <translation>„%1“ ist keine Seite. Schreiben Sie Zahlen und Bereiche, zum Beispiel 1-3, 7, 12-.</translation>
     </message>
     <message>
-        <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation>Keine dieser Seiten hat eine ungerade Nummer. Wählen Sie alle Seiten oder andere.</translation>
-    </message>
-    <message>
-        <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation>Keine dieser Seiten hat eine gerade Nummer. Wählen Sie alle Seiten oder andere.</translation>
+        <source>The chosen pages were left out because they cannot be read, or not whole. Choose others.</source>
+        <translation>Die gewählten Seiten wurden weggelassen, weil sie nicht oder nicht vollständig gelesen werden können. Wählen Sie andere.</translation>
     </message>
 </context>
 <context>
@@ -4737,6 +4757,14 @@
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
         <translation>Gestoppt. Diese Aufträge sind in der Warteschlange „%1“ und bleiben dort: %2.</translation>
+    </message>
+    <message>
+        <source>Look at the printer before you print again.</source>
+        <translation>Sehen Sie am Drucker nach, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Sheets that were printed before: %1.</source>
+        <translation>Abgebrochen. Vorher gedruckte Blätter: %1.</translation>
     </message>
 </context>
 <context>

@@ -447,26 +447,6 @@
         <translation>--json se usa con --list-printers, --list-options, --list-presets o --jobs.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.
-  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
-        <translation>Estado de salida:
-  0  Impreso, o escrito lo que se pidió.
-  1  Error; la salida de error estándar indica la causa.
-  2  Uso incorrecto.
-  3  El trabajo está en la cola y aún no había terminado.
-  4  Cancelado: no se imprimió nada.
-  5  El trabajo se envió, pero el servidor de impresión no responde: no se conoce el resultado.
-  6  Con --verify: impreso, pero el servidor de impresión no lo tiene tal como se envió.
-  7  Un servidor de impresión o una impresora pide un nombre y una contraseña, y no recibió los correctos.</translation>
-    </message>
-    <message>
         <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
         <translation>Posición de la foto donde sobra sitio o se recorta: 0,0 es arriba a la izquierda, 1,1 abajo a la derecha. Puede repetirse, para una foto tras otra, igual que las tres siguientes.</translation>
     </message>
@@ -565,6 +545,30 @@
     <message>
         <source>--corner goes with --photo-size and a width and a height.</source>
         <translation>--corner se usa con --photo-size y un ancho y un alto.</translation>
+    </message>
+    <message>
+        <source>--photo-size with a width and a height does not go with --layout, which says how large the photos are. Leave one of them out.</source>
+        <translation>--photo-size con un ancho y un alto no se puede combinar con --layout, que decide el tamaño de las fotos. Omita uno de los dos.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not tell how it ended.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>Estado de salida:
+  0  Impreso, o escrito lo que se pidió.
+  1  Error; la salida de error estándar indica la causa.
+  2  Uso incorrecto.
+  3  El trabajo está en la cola y aún no había terminado.
+  4  Cancelado: no se imprimió nada.
+  5  El trabajo se envió, pero el servidor de impresión no dice cómo terminó.
+  6  Con --verify: impreso, pero el servidor de impresión no lo tiene tal como se envió.
+  7  Un servidor de impresión o una impresora pide un nombre y una contraseña, y no recibió los correctos.</translation>
     </message>
 </context>
 <context>
@@ -1259,6 +1263,26 @@
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Todas las fotos están omitidas. Incluya al menos una.</translation>
     </message>
+    <message>
+        <source>The file %1 holds something else already. Choose another name, or take the file away.</source>
+        <translation>El archivo %1 ya contiene otra cosa. Elija otro nombre o quite el archivo.</translation>
+    </message>
+    <message>
+        <source>These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or fewer copies of each.</source>
+        <translation>En todas las hojas serían %1 fotos, y un trabajo admite %2. Elija menos fotos o menos copias de cada una.</translation>
+    </message>
+    <message>
+        <source>With margins of %1 mm nothing is left of this paper. Choose smaller margins, or a larger paper.</source>
+        <translation>Con márgenes de %1 mm no queda nada de este papel. Elija márgenes más pequeños o un papel más grande.</translation>
+    </message>
+    <message>
+        <source>A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: %5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.</source>
+        <translation>Una foto de %1 × %2 mm en %3, %4 mm no queda entera en lo que se puede imprimir de esta página: %5 × %6 mm en %7, %8 mm. Elija un tamaño menor, otro lugar u otro papel.</translation>
+    </message>
+    <message>
+        <source>There is one sheet only, and none with an even number. Choose all sheets, or more photos.</source>
+        <translation>Solo hay una hoja, y ninguna con número par. Elija todas las hojas o más fotos.</translation>
+    </message>
 </context>
 <context>
     <name>ListJobs</name>
@@ -1516,12 +1540,8 @@
         <translation>«%1» no es una página. Escriba números e intervalos, por ejemplo 1-3, 7, 12-.</translation>
     </message>
     <message>
-        <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation>Ninguna de estas páginas tiene número impar. Elija todas las páginas u otras.</translation>
-    </message>
-    <message>
-        <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation>Ninguna de estas páginas tiene número par. Elija todas las páginas u otras.</translation>
+        <source>The chosen pages were left out because they cannot be read, or not whole. Choose others.</source>
+        <translation>Las páginas elegidas se omitieron porque no se pueden leer, o no enteras. Elija otras.</translation>
     </message>
 </context>
 <context>
@@ -4737,6 +4757,14 @@
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
         <translation>Detenido. Estos trabajos están en la cola «%1» y siguen allí: %2.</translation>
+    </message>
+    <message>
+        <source>Look at the printer before you print again.</source>
+        <translation>Mire la impresora antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Sheets that were printed before: %1.</source>
+        <translation>Cancelado. Hojas impresas antes: %1.</translation>
     </message>
 </context>
 <context>

@@ -447,26 +447,6 @@
         <translation>--json s’emploie avec --list-printers, --list-options, --list-presets ou --jobs.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.
-  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
-        <translation>Code de sortie :
-  0  Imprimé, ou ce qui était demandé a été écrit.
-  1  Échec ; la sortie d’erreur dit pourquoi.
-  2  Mauvais usage.
-  3  La tâche est dans la file et n’était pas encore terminée.
-  4  Annulé : rien n’a été imprimé.
-  5  La tâche a été envoyée, mais le serveur d’impression ne répond pas : l’issue n’est pas connue.
-  6  Avec --verify : imprimé, mais le serveur d’impression ne détient pas la tâche telle qu’elle a été envoyée.
-  7  Un serveur d’impression ou une imprimante demande un nom et un mot de passe, et n’a pas reçu les bons.</translation>
-    </message>
-    <message>
         <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
         <translation>Position de la photo là où il reste de la place ou là où l’on coupe : 0,0 est en haut à gauche, 1,1 en bas à droite. Peut être répété, pour une photo après l’autre, comme les trois suivants.</translation>
     </message>
@@ -565,6 +545,30 @@
     <message>
         <source>--corner goes with --photo-size and a width and a height.</source>
         <translation>--corner s’emploie avec --photo-size, une largeur et une hauteur.</translation>
+    </message>
+    <message>
+        <source>--photo-size with a width and a height does not go with --layout, which says how large the photos are. Leave one of them out.</source>
+        <translation>--photo-size avec une largeur et une hauteur ne va pas avec --layout, qui fixe la taille des photos. Omettez l’un des deux.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not tell how it ended.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>Code de sortie :
+  0  Imprimé, ou ce qui était demandé a été écrit.
+  1  Échec ; la sortie d’erreur dit pourquoi.
+  2  Mauvais usage.
+  3  La tâche est dans la file et n’était pas encore terminée.
+  4  Annulé : rien n’a été imprimé.
+  5  La tâche a été envoyée, mais le serveur d’impression ne dit pas comment elle s’est terminée.
+  6  Avec --verify : imprimé, mais le serveur d’impression ne détient pas la tâche telle qu’elle a été envoyée.
+  7  Un serveur d’impression ou une imprimante demande un nom et un mot de passe, et n’a pas reçu les bons.</translation>
     </message>
 </context>
 <context>
@@ -1259,6 +1263,26 @@
         <source>All photos are left out. Include at least one of them.</source>
         <translation>Toutes les photos sont omises. Incluez-en au moins une.</translation>
     </message>
+    <message>
+        <source>The file %1 holds something else already. Choose another name, or take the file away.</source>
+        <translation>Le fichier %1 contient déjà autre chose. Choisissez un autre nom, ou enlevez le fichier.</translation>
+    </message>
+    <message>
+        <source>These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or fewer copies of each.</source>
+        <translation>Cela fait %1 photos sur l’ensemble des feuilles, et une tâche en prend %2. Choisissez moins de photos, ou moins d’exemplaires de chacune.</translation>
+    </message>
+    <message>
+        <source>With margins of %1 mm nothing is left of this paper. Choose smaller margins, or a larger paper.</source>
+        <translation>Avec des marges de %1 mm, il ne reste rien de ce papier. Choisissez des marges plus petites, ou un papier plus grand.</translation>
+    </message>
+    <message>
+        <source>A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: %5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.</source>
+        <translation>Une photo de %1 × %2 mm à %3, %4 mm n’est pas entièrement dans ce qui peut être imprimé de cette page : %5 × %6 mm à %7, %8 mm. Choisissez une taille plus petite, un autre emplacement ou un autre papier.</translation>
+    </message>
+    <message>
+        <source>There is one sheet only, and none with an even number. Choose all sheets, or more photos.</source>
+        <translation>Il n’y a qu’une feuille, et aucune de numéro pair. Choisissez toutes les feuilles, ou plus de photos.</translation>
+    </message>
 </context>
 <context>
     <name>ListJobs</name>
@@ -1516,12 +1540,8 @@
         <translation>« %1 » n’est pas une page. Écrivez des nombres et des intervalles, par exemple 1-3, 7, 12-.</translation>
     </message>
     <message>
-        <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation>Aucune de ces pages n’a un numéro impair. Choisissez toutes les pages, ou d’autres.</translation>
-    </message>
-    <message>
-        <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation>Aucune de ces pages n’a un numéro pair. Choisissez toutes les pages, ou d’autres.</translation>
+        <source>The chosen pages were left out because they cannot be read, or not whole. Choose others.</source>
+        <translation>Les pages choisies ont été omises parce qu’elles ne peuvent pas être lues, ou pas entièrement. Choisissez-en d’autres.</translation>
     </message>
 </context>
 <context>
@@ -4737,6 +4757,14 @@
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
         <translation>Arrêté. Ces tâches sont dans la file « %1 » et y restent : %2.</translation>
+    </message>
+    <message>
+        <source>Look at the printer before you print again.</source>
+        <translation>Regardez l’imprimante avant de réimprimer.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Sheets that were printed before: %1.</source>
+        <translation>Annulé. Feuilles déjà imprimées : %1.</translation>
     </message>
 </context>
 <context>

@@ -447,26 +447,6 @@
         <translation>--json は --list-printers、--list-options、--list-presets、--jobs と一緒に使います。</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.
-  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
-        <translation>終了ステータス:
-  0  印刷したか、求められた内容を出力しました。
-  1  失敗しました。理由は標準エラー出力に示します。
-  2  使い方の誤りです。
-  3  ジョブはキューにあり、まだ終わっていませんでした。
-  4  キャンセルしました。何も印刷していません。
-  5  ジョブは送信しましたが、プリントサーバーが応答しません。結果は不明です。
-  6  --verify と併用: 印刷しましたが、プリントサーバーにあるジョブは送信したものと違います。
-  7  プリントサーバーまたはプリンターに名前とパスワードが必要ですが、正しいものが渡されませんでした。</translation>
-    </message>
-    <message>
         <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
         <translation>余白や切る部分がある場合の写真の位置: 0,0 は左上、1,1 は右下。複数指定でき、写真の順に使います。次の 3 つも同様です。</translation>
     </message>
@@ -565,6 +545,30 @@
     <message>
         <source>--corner goes with --photo-size and a width and a height.</source>
         <translation>--corner は、幅と高さを指定した --photo-size と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--photo-size with a width and a height does not go with --layout, which says how large the photos are. Leave one of them out.</source>
+        <translation>幅と高さを指定した --photo-size は、写真の大きさを決める --layout と一緒には使えません。どちらかを省いてください。</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not tell how it ended.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>終了ステータス:
+  0  印刷したか、求められた内容を出力しました。
+  1  失敗しました。理由は標準エラー出力に示します。
+  2  使い方の誤りです。
+  3  ジョブはキューにあり、まだ終わっていませんでした。
+  4  キャンセルしました。何も印刷していません。
+  5  ジョブは送信しましたが、どう終わったかをプリントサーバーが伝えません。
+  6  --verify と併用: 印刷しましたが、プリントサーバーにあるジョブは送信したものと違います。
+  7  プリントサーバーまたはプリンターに名前とパスワードが必要ですが、正しいものが渡されませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1259,6 +1263,26 @@
         <source>All photos are left out. Include at least one of them.</source>
         <translation>すべての写真が除外されています。少なくとも 1 枚を含めてください。</translation>
     </message>
+    <message>
+        <source>The file %1 holds something else already. Choose another name, or take the file away.</source>
+        <translation>ファイル %1 にはすでに別の内容があります。別の名前にするか、ファイルを移動してください。</translation>
+    </message>
+    <message>
+        <source>These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or fewer copies of each.</source>
+        <translation>すべての用紙を合わせて写真が %1 枚になりますが、1 つのジョブに入るのは %2 枚までです。写真を減らすか、各写真の部数を減らしてください。</translation>
+    </message>
+    <message>
+        <source>With margins of %1 mm nothing is left of this paper. Choose smaller margins, or a larger paper.</source>
+        <translation>余白が %1 mm では、この用紙に印刷できる部分が残りません。余白を小さくするか、より大きな用紙を選んでください。</translation>
+    </message>
+    <message>
+        <source>A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: %5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.</source>
+        <translation>%3, %4 mm に置いた %1 × %2 mm の写真は、このページで印刷できる範囲 (%7, %8 mm から %5 × %6 mm) に収まりません。小さいサイズ、別の位置、または別の用紙を選んでください。</translation>
+    </message>
+    <message>
+        <source>There is one sheet only, and none with an even number. Choose all sheets, or more photos.</source>
+        <translation>用紙は 1 枚だけで、偶数枚目はありません。すべての用紙を選ぶか、写真を増やしてください。</translation>
+    </message>
 </context>
 <context>
     <name>ListJobs</name>
@@ -1516,12 +1540,8 @@
         <translation>「%1」はページではありません。1-3, 7, 12- のように番号や範囲を書いてください。</translation>
     </message>
     <message>
-        <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation>これらのページに奇数ページはありません。すべてのページか、別のページを選んでください。</translation>
-    </message>
-    <message>
-        <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation>これらのページに偶数ページはありません。すべてのページか、別のページを選んでください。</translation>
+        <source>The chosen pages were left out because they cannot be read, or not whole. Choose others.</source>
+        <translation>選んだページは、読み取れないか一部が欠けているため除外されました。別のページを選んでください。</translation>
     </message>
 </context>
 <context>
@@ -4737,6 +4757,14 @@
     <message>
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
         <translation>停止しました。次のジョブはキュー「%1」に残っています: %2。</translation>
+    </message>
+    <message>
+        <source>Look at the printer before you print again.</source>
+        <translation>もう一度印刷する前にプリンターをご確認ください。</translation>
+    </message>
+    <message>
+        <source>Cancelled. Sheets that were printed before: %1.</source>
+        <translation>キャンセルしました。すでに印刷した用紙: %1 枚。</translation>
     </message>
 </context>
 <context>

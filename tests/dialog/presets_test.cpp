@@ -208,6 +208,39 @@ TEST(PresetUse, WhatIsTypedForThePageWinsOverAPresetAndThatOverWhatIsSaved)
     EXPECT_EQ(startingPage({}, upright, request, {}).turn, PageTurn::landscape);
 }
 
+TEST(PresetUse, WhatIsTypedForTheSheetsLiesOverThePreset)
+{
+    Layout passport;
+    passport.id = q("passport");
+    passport.scaling = Scaling::fill;
+    passport.hasCutMarks = true;
+
+    const struct {
+        SheetWishes wishes;
+        SheetSettings sheets;
+        Scaling scaling;
+    } cases[] = {
+        {{.hasLine = true}, {q("4-up"), false, q("[F]"), true, true}, Scaling::actualSize},
+        {{.layout = passport, .border = 2.0}, {q("passport"), false, {}, true, false, 2.0}, Scaling::fill},
+        {{.photo = QSizeF(100, 150)}, {.photo = {100, 150}}, Scaling::fit},
+        {{.percent = 100.0}, {q("4-up"), false, q("[F]"), true}, Scaling::actualSize},
+    };
+
+    Preset preset = presetWith("P", {});
+    preset.page = {{q("layout"), q("4-up")},
+                   {q("caption"), q("[F]")},
+                   {q("cutMarks"), q("true")},
+                   {q("scaling"), q("none")}};
+    for (const auto& c : cases) {
+        SessionRequest request;
+        request.sheets = c.wishes;
+        const PageSettings page = startingPage(PageSetup(request).settings(), preset, request, {});
+        EXPECT_EQ(page.sheets, c.sheets);
+        EXPECT_EQ(page.scaling, c.scaling);
+    }
+    EXPECT_EQ(scalingWith(Scaling::fill, {.photo = QSizeF(100, 150)}), Scaling::fill);
+}
+
 std::optional<PresetEntry> entryFor(const PpdModel& model, const char* word)
 {
     HandedOptions handed;

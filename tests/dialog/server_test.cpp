@@ -116,8 +116,24 @@ TEST_F(DialogServerTest, ACopiedCommandLeavesOutThePagesThatTheUserDid)
             << qPrintable(command);
     }
     session.noteDamage(photoPath(), 0);
+    PageSettings page = session.page();
+    page.pages.ranges = q("2");
+    session.setPage(page);
     session.settleDamaged(false);
+    EXPECT_TRUE(session.whyNotPrintable().contains(q("left out"))) << "another page was not asked for";
     EXPECT_FALSE(session.command().contains(photoPath())) << "nothing of it is printed";
+}
+
+TEST_F(DialogServerTest, AFileThatCannotBeReadIsCountedWherePagesAndSwitchesAre)
+{
+    SessionRequest two = request(q("Tessarin"));
+    two.files = {q("/none.jpg"), photoPath(), photoPath()};
+    two.pages.ranges = q("2");
+    two.placements = {{{0.5, 0.5}, 3.0}, {{0.5, 0.5}, 2.0}, {}};
+    DialogSession session(two, panels);
+    ASSERT_TRUE(isReady(session));
+    EXPECT_EQ(session.chosenPages().pages, std::vector<size_t>{0});
+    EXPECT_EQ(session.photos()[0].placement.zoom, 2.0);
 }
 
 TEST_F(DialogServerTest, AServerThatFailsForAMomentDoesNotEmptyTheListAndNoPrinterIsListedTwice)

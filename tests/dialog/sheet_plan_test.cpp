@@ -160,6 +160,57 @@ TEST(SheetPlan, BordersCaptionsAndSizesTakeTheirRoom)
     EXPECT_TRUE(placed.cell.adjusted(-1, -1, 1, 1).contains(placed.caption));
 }
 
+TEST(SheetPlan, WhatIsNotAllOnThePageIsSaidAndNothingIsPlanned)
+{
+    const struct {
+        const char* layout;
+        SheetSettings settings;
+        int copies;
+        const char* words; // empty: it fits
+    } cases[] = {
+        {"", {.margin = 110}, 1, "margins of 110 mm"},
+        {"4-up", {.margin = 148.6}, 1, "margins"},
+        {"", {.margin = 100, .photo = {20, 20}}, 1, "20.0 × 20.0"},
+        {"", {.photo = {150, 100}, .corner = QPointF(3.6, 20)}, 1, ""},
+        {"", {.photo = {150, 100}, .corner = QPointF(250, 20)}, 1, "not all on what can be printed"},
+        {"16x12", {.repeats = true}, 999, "191808 photos"},
+    };
+
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.words);
+        const Layout layout = *LayoutLibrary().find(q(c.layout));
+        std::vector<Photo> photos{photoOf({300, 200})};
+        photos[0].placement.copies = c.copies;
+        const SheetPlan plan =
+            planSheets({kA4, kA4Area, PageTurn::portrait, Scaling::fit, layout, c.settings}, photos, {0});
+        EXPECT_EQ(plan.sheets.empty(), !plan.problem.isEmpty());
+        EXPECT_TRUE(plan.problem.isEmpty() == (c.words[0] == '\0') && plan.problem.contains(q(c.words)))
+            << qPrintable(plan.problem);
+    }
+}
+
+TEST(SheetPlan, OddAndEvenAndTheLastFirstAreOfSheetsAndNumbersStay)
+{
+    const SheetPlan plan = planned(q("4-up"), sixPhotos());
+    const SheetPlan reversed = withChosenSheets(plan, {{}, PageParity::all, true});
+    ASSERT_EQ(reversed.sheets.size(), 2u);
+    EXPECT_EQ(reversed.sheets[0].photos.front().photo, 4u);
+    EXPECT_EQ(reversed.sheets[1].photos.front().number, 1);
+    const SheetPlan even = withChosenSheets(plan, {{}, PageParity::even, false});
+    ASSERT_EQ(even.sheets.size(), 1u);
+    EXPECT_EQ(even.sheets[0].photos.front().photo, 4u);
+    EXPECT_TRUE(withChosenSheets(even, {{}, PageParity::even, false}).problem.contains(q("one sheet only")));
+}
+
+TEST(SheetPlan, ACaptionMovesNoCutMark)
+{
+    const Layout layout = *LayoutLibrary().find(q("4-of-9x13"));
+    SheetRequest request{kA4, kA4Area, PageTurn::automatic, Scaling::fit, layout, withLayout({}, layout)};
+    const std::vector<QLineF> plain = planSheets(request, sixPhotos(), {0, 1, 2}).sheets.at(0).cutMarks;
+    request.settings.caption = q("[F]");
+    EXPECT_EQ(planSheets(request, sixPhotos(), {0, 1, 2}).sheets.at(0).cutMarks, plain);
+}
+
 TEST(SheetPlan, APackTurnsPhotosToSaveARollAndSaysWhatDoesNotFit)
 {
     const Layout layout = LayoutLibrary().find(q("side-by-side")).value();
@@ -217,6 +268,13 @@ TEST(LayoutLibrary, KeepsTheUsersLayoutsAndSaysWhatIsWrongWithAFile)
         EXPECT_TRUE(again.problems().front().contains(q(c.words))) << qPrintable(again.problems().front());
         EXPECT_FALSE(again.find(q("bad")));
     }
+    const QByteArray typo = readFile(LayoutLibrary::ownFolder() + q("/bad.json"));
+    LayoutLibrary again;
+    EXPECT_TRUE(again.unknownText(q("bad")).contains(q("kind"))) << "what is wrong with it is said";
+    EXPECT_TRUE(again.save(mine, q("Bad"), &id).contains(q("something else")));
+    EXPECT_EQ(readFile(LayoutLibrary::ownFolder() + q("/bad.json")), typo);
+    EXPECT_TRUE(again.save(mine, q("Holiday 3+4"), &id).contains(q("something else")));
+    EXPECT_EQ(again.save(mine, q("Holiday: 3 × 4"), &id), QString());
     EXPECT_EQ(library.remove(id), QString());
     qunsetenv("XDG_CONFIG_HOME");
 }
