@@ -18,6 +18,7 @@
 #include <QDataStream>
 #include <QDir>
 #include <QEventLoop>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -59,9 +60,31 @@ void put(const QString& path, const QByteArray& text)
         qFatal("%s", qPrintable(path));
 }
 
+/// A folder of this program's own, made anew for each trial: never that of whoever runs it. In memory where
+/// there is such a folder: each save is brought to the disk, which takes as long as the disk does.
 QString home()
 {
-    return qEnvironmentVariable("HOME");
+    static const QTemporaryDir folder([] {
+        const QString memory = QStringLiteral("/dev/shm");
+        return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) +
+               QStringLiteral("/halvern-faults-XXXXXX");
+    }());
+    if (!folder.isValid())
+        qFatal("no folder can be made: %s", qPrintable(folder.errorString()));
+    return folder.path() + QStringLiteral("/home");
+}
+
+void settleIn()
+{
+    const auto set = [](const char* variable, const char* name) {
+        qputenv(variable, (home() + QLatin1StringView(name)).toLocal8Bit());
+    };
+    set("HOME", "");
+    set("XDG_CONFIG_HOME", "/config");
+    set("XDG_DATA_HOME", "/data");
+    set("XDG_STATE_HOME", "/state");
+    set("XDG_CACHE_HOME", "/cache");
+    set("XDG_RUNTIME_DIR", "/run");
 }
 
 QByteArray shown(const Preset& preset)
@@ -445,6 +468,7 @@ int main(int argc, char** argv)
         if (type == QtFatalMsg)
             std::fprintf(stderr, "%s\n", text.toUtf8().constData());
     });
+    settleIn();
     const long samples = argc == 4 ? atol(argv[2]) : 0;
     std::mt19937 random(argc == 4 ? unsigned(atol(argv[3])) : 1U);
 
