@@ -447,26 +447,6 @@
         <translation>يُستخدم ⁨--json⁩ مع ⁨--list-printers⁩ أو ⁨--list-options⁩ أو ⁨--list-presets⁩ أو ⁨--jobs⁩.</translation>
     </message>
     <message>
-        <source>Exit status:
-  0  Printed, or written what was asked for.
-  1  Failed; standard error says why.
-  2  Wrong usage.
-  3  The job is on the queue, and had not ended yet.
-  4  Cancelled: nothing was printed.
-  5  The job was sent, but the print server does not answer: the outcome is not known.
-  6  With --verify: printed, but not held by the print server as it was sent.
-  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
-        <translation>حالة الخروج:
-  0  تمت الطباعة، أو كُتب المطلوب.
-  1  فشل؛ السبب في خرج الأخطاء القياسي.
-  2  استخدام خاطئ.
-  3  المهمة على قائمة الانتظار، ولم تنتهِ بعد.
-  4  أُلغيت: لم يُطبع شيء.
-  5  أُرسلت المهمة، لكن خادم الطباعة لا يجيب: النتيجة غير معروفة.
-  6  مع ⁨--verify⁩: طُبعت، لكن خادم الطباعة لا يحفظها كما أُرسلت.
-  7  يطلب خادم طباعة أو طابعة اسمًا وكلمة مرور، ولم يُعطَ الصحيحين.</translation>
-    </message>
-    <message>
         <source>Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can be given several times, for one photo after the other, as can the next three.</source>
         <translation>أين يقع الفراغ الزائد أو القص: ⁨0,0⁩ يسارًا وأعلى، و1,1 يمينًا وأسفل. يمكن إعطاؤه أكثر من مرة، لصورة بعد أخرى، وكذلك الثلاثة التالية.</translation>
     </message>
@@ -565,6 +545,30 @@
     <message>
         <source>--corner goes with --photo-size and a width and a height.</source>
         <translation>يُستخدم ⁨--corner⁩ مع ⁨--photo-size⁩ وعرض وارتفاع.</translation>
+    </message>
+    <message>
+        <source>--photo-size with a width and a height does not go with --layout, which says how large the photos are. Leave one of them out.</source>
+        <translation>لا يجتمع ⁨--photo-size⁩ بعرض وارتفاع مع ⁨--layout⁩ الذي يحدد حجم الصور. اترك أحدهما.</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  Printed, or written what was asked for.
+  1  Failed; standard error says why.
+  2  Wrong usage.
+  3  The job is on the queue, and had not ended yet.
+  4  Cancelled: nothing was printed.
+  5  The job was sent, but the print server does not tell how it ended.
+  6  With --verify: printed, but not held by the print server as it was sent.
+  7  A print server or a printer wants a name and a password, and was not given the right ones.</source>
+        <translation>حالة الخروج:
+  0  تمت الطباعة، أو كُتب المطلوب.
+  1  فشل؛ السبب في خرج الأخطاء القياسي.
+  2  استخدام خاطئ.
+  3  المهمة على قائمة الانتظار، ولم تنتهِ بعد.
+  4  أُلغيت: لم يُطبع شيء.
+  5  أُرسلت المهمة، لكن خادم الطباعة لا يخبر كيف انتهت.
+  6  مع ⁨--verify⁩: طُبعت، لكن خادم الطباعة لا يحفظها كما أُرسلت.
+  7  يطلب خادم طباعة أو طابعة اسمًا وكلمة مرور، ولم يُعطَ الصحيحين.</translation>
     </message>
 </context>
 <context>
@@ -732,6 +736,10 @@
     <message>
         <source>Taken out of &quot;%1&quot;.</source>
         <translation>أُزيل من «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>تتعذر قراءة «⁨%1⁩»: %2.</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1148,10 @@
         <source>The print server gave the job no number. Look into its error log.</source>
         <translation>لم يُعطِ خادم الطباعة المهمة رقمًا. انظر في سجل أخطائه.</translation>
     </message>
+    <message>
+        <source> A job without its pages may still be on the queue of &quot;%1&quot;: look there before you print again.</source>
+        <translation> قد تبقى مهمة بلا صفحاتها على قائمة انتظار «⁨%1⁩»: انظر هناك قبل أن تطبع مرة أخرى.</translation>
+    </message>
 </context>
 <context>
     <name>Layouts</name>
@@ -1258,6 +1270,26 @@
     <message>
         <source>All photos are left out. Include at least one of them.</source>
         <translation>كل الصور مستبعدة. أدرج واحدة منها على الأقل.</translation>
+    </message>
+    <message>
+        <source>The file %1 holds something else already. Choose another name, or take the file away.</source>
+        <translation>الملف ⁨%1⁩ يحوي شيئًا آخر. اختر اسمًا آخر، أو أبعد الملف.</translation>
+    </message>
+    <message>
+        <source>These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or fewer copies of each.</source>
+        <translation>عدد الصور على كل الأوراق %1، والمهمة تتسع لـ %2. اختر صورًا أقل، أو نسخًا أقل من كل منها.</translation>
+    </message>
+    <message>
+        <source>With margins of %1 mm nothing is left of this paper. Choose smaller margins, or a larger paper.</source>
+        <translation>لا يبقى شيء من هذا الورق بهوامش قدرها %1 مم. اختر هوامش أصغر، أو ورقًا أكبر.</translation>
+    </message>
+    <message>
+        <source>A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: %5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.</source>
+        <translation>صورة بحجم %1 × %2 مم عند %3، %4 مم لا تقع كلها ضمن ما يمكن طباعته من هذه الصفحة: %5 × %6 مم عند %7، %8 مم. اختر حجمًا أصغر، أو موضعًا آخر، أو ورقًا آخر.</translation>
+    </message>
+    <message>
+        <source>There is one sheet only, and none with an even number. Choose all sheets, or more photos.</source>
+        <translation>هناك ورقة واحدة فقط، ولا ورقة ذات رقم زوجي. اختر كل الأوراق، أو صورًا أكثر.</translation>
     </message>
 </context>
 <context>
@@ -1516,12 +1548,8 @@
         <translation>ليس «⁨%1⁩» صفحة. اكتب أرقامًا ومجالات، مثل ⁨1-3, 7, 12-⁩.</translation>
     </message>
     <message>
-        <source>None of these pages has an odd number. Choose all pages, or others.</source>
-        <translation>ليس بين هذه الصفحات رقم فردي. اختر كل الصفحات، أو غيرها.</translation>
-    </message>
-    <message>
-        <source>None of these pages has an even number. Choose all pages, or others.</source>
-        <translation>ليس بين هذه الصفحات رقم زوجي. اختر كل الصفحات، أو غيرها.</translation>
+        <source>The chosen pages were left out because they cannot be read, or not whole. Choose others.</source>
+        <translation>تُركت الصفحات المختارة لأن قراءتها متعذرة، كليًا أو جزئيًا. اختر غيرها.</translation>
     </message>
 </context>
 <context>
@@ -1728,6 +1756,18 @@
         <source>they belong to something else</source>
         <translation>تعود إلى شيء آخر</translation>
     </message>
+    <message>
+        <source>%1 cannot be looked at</source>
+        <translation>يتعذر فحص ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>⁨%1⁩ يملكه مستخدم آخر</translation>
+    </message>
+    <message>
+        <source>%1 can be changed by other users</source>
+        <translation>⁨%1⁩ يستطيع مستخدمون آخرون تغييره</translation>
+    </message>
 </context>
 <context>
     <name>PortalProgram</name>
@@ -1931,6 +1971,10 @@
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
         <translation>لا يتوفر الآن كل ما في «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the presets.</source>
+        <translation>لا تكفي الذاكرة لقراءة الإعدادات المسبقة.</translation>
     </message>
 </context>
 <context>
@@ -4738,6 +4782,14 @@
         <source>Stopped. These jobs are on the queue &quot;%1&quot; and stay there: %2.</source>
         <translation>توقف. هذه المهام على قائمة الانتظار «⁨%1⁩» وتبقى هناك: %2.</translation>
     </message>
+    <message>
+        <source>Look at the printer before you print again.</source>
+        <translation>انظر إلى الطابعة قبل أن تطبع مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>Cancelled. Sheets that were printed before: %1.</source>
+        <translation>أُلغيت. الأوراق التي طُبعت قبل ذلك: %1.</translation>
+    </message>
 </context>
 <context>
     <name>halvern::PrintService</name>
@@ -4759,6 +4811,10 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>يتذكّر التطبيق طابعة «⁨%1⁩» ليست من طابعات خادم الطباعة. اختيرت «⁨%2⁩» بدلًا منها.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
+        <translation>لا تكفي الذاكرة لخيارات «⁨%1⁩». أغلق شيئًا ثم اختر الطابعة من جديد.</translation>
     </message>
 </context>
 <context>

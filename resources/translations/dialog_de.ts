@@ -737,6 +737,10 @@
         <source>Taken out of &quot;%1&quot;.</source>
         <translation>Aus „%1“ entfernt.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
 </context>
 <context>
     <name>GivenOptions</name>
@@ -1143,6 +1147,10 @@
     <message>
         <source>The print server gave the job no number. Look into its error log.</source>
         <translation>Der Druckserver hat dem Auftrag keine Nummer gegeben. Sehen Sie in seinem Fehlerprotokoll nach.</translation>
+    </message>
+    <message>
+        <source> A job without its pages may still be on the queue of &quot;%1&quot;: look there before you print again.</source>
+        <translation> Ein Auftrag ohne seine Seiten kann noch in der Warteschlange von „%1“ sein: Sehen Sie dort nach, bevor Sie noch einmal drucken.</translation>
     </message>
 </context>
 <context>
@@ -1748,6 +1756,18 @@
         <source>they belong to something else</source>
         <translation>sie gehören zu etwas anderem</translation>
     </message>
+    <message>
+        <source>%1 cannot be looked at</source>
+        <translation>%1 kann nicht untersucht werden</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>%1 can be changed by other users</source>
+        <translation>%1 kann von anderen Benutzern geändert werden</translation>
+    </message>
 </context>
 <context>
     <name>PortalProgram</name>
@@ -1951,6 +1971,10 @@
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
         <translation>Nicht alles aus „%1“ ist jetzt möglich.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the presets.</source>
+        <translation>Der Speicher reicht nicht, um die Voreinstellungen zu lesen.</translation>
     </message>
 </context>
 <context>
@@ -4787,6 +4811,10 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>Die Anwendung erinnert sich an einen Drucker „%1“, den der Druckserver nicht hat. Stattdessen wurde „%2“ gewählt.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
+        <translation>Der Speicher reicht nicht für die Optionen von „%1“. Schließen Sie etwas und wählen Sie den Drucker noch einmal.</translation>
     </message>
 </context>
 <context>

@@ -737,6 +737,10 @@
         <source>Taken out of &quot;%1&quot;.</source>
         <translation>Quitado de «%1».</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>«%1» no se puede leer: %2.</translation>
+    </message>
 </context>
 <context>
     <name>GivenOptions</name>
@@ -1143,6 +1147,10 @@
     <message>
         <source>The print server gave the job no number. Look into its error log.</source>
         <translation>El servidor de impresión no dio número al trabajo. Consulte su registro de errores.</translation>
+    </message>
+    <message>
+        <source> A job without its pages may still be on the queue of &quot;%1&quot;: look there before you print again.</source>
+        <translation> Puede que en la cola de «%1» siga un trabajo sin sus páginas: mire allí antes de volver a imprimir.</translation>
     </message>
 </context>
 <context>
@@ -1748,6 +1756,18 @@
         <source>they belong to something else</source>
         <translation>pertenecen a otra cosa</translation>
     </message>
+    <message>
+        <source>%1 cannot be looked at</source>
+        <translation>%1 no se puede examinar</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>%1 can be changed by other users</source>
+        <translation>%1 pueden cambiarlo otros usuarios</translation>
+    </message>
 </context>
 <context>
     <name>PortalProgram</name>
@@ -1951,6 +1971,10 @@
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
         <translation>No todo lo de «%1» está disponible ahora.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the presets.</source>
+        <translation>No hay memoria suficiente para leer los preajustes.</translation>
     </message>
 </context>
 <context>
@@ -4787,6 +4811,10 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>La aplicación recuerda una impresora «%1» que el servidor de impresión no tiene. En su lugar se eligió «%2».</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
+        <translation>No hay memoria suficiente para las opciones de «%1». Cierre algo y vuelva a elegir la impresora.</translation>
     </message>
 </context>
 <context>

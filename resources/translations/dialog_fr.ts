@@ -737,6 +737,10 @@
         <source>Taken out of &quot;%1&quot;.</source>
         <translation>Retiré de « %1 ».</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>« %1 » ne peut pas être lu : %2.</translation>
+    </message>
 </context>
 <context>
     <name>GivenOptions</name>
@@ -1143,6 +1147,10 @@
     <message>
         <source>The print server gave the job no number. Look into its error log.</source>
         <translation>Le serveur d’impression n’a pas donné de numéro à la tâche. Consultez son journal d’erreurs.</translation>
+    </message>
+    <message>
+        <source> A job without its pages may still be on the queue of &quot;%1&quot;: look there before you print again.</source>
+        <translation> Une tâche sans ses pages se trouve peut-être encore dans la file de « %1 » : regardez-y avant d’imprimer à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -1748,6 +1756,18 @@
         <source>they belong to something else</source>
         <translation>elles appartiennent à autre chose</translation>
     </message>
+    <message>
+        <source>%1 cannot be looked at</source>
+        <translation>%1 ne peut pas être examiné</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>%1 can be changed by other users</source>
+        <translation>%1 peut être modifié par d’autres utilisateurs</translation>
+    </message>
 </context>
 <context>
     <name>PortalProgram</name>
@@ -1951,6 +1971,10 @@
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
         <translation>Une partie de « %1 » n’est pas possible pour le moment.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the presets.</source>
+        <translation>La mémoire ne suffit pas pour lire les préréglages.</translation>
     </message>
 </context>
 <context>
@@ -3136,7 +3160,7 @@
     </message>
     <message>
         <source>All photos are cropped and turned like &quot;%1&quot; now.</source>
-        <translation>Toutes les photos sont maintenant cadrées et tournées comme « %1 ».</translation>
+        <translation>Toutes les photos sont maintenant cadrées et tournées comme «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>1 photo was moved.</source>
@@ -3148,7 +3172,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was taken out.</source>
-        <translation>« %1 » a été retirée.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été retirée.</translation>
     </message>
     <message>
         <source>%1 photos were taken out.</source>
@@ -4259,11 +4283,11 @@
     </message>
     <message>
         <source>Copies of this photo:</source>
-        <translation>Copies de cette photo :</translation>
+        <translation>Copies de cette photo&#xa0;:</translation>
     </message>
     <message>
         <source>Copies of each of the %1 photos:</source>
-        <translation>Copies de chacune des %1 photos :</translation>
+        <translation>Copies de chacune des %1 photos&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4558,7 +4582,7 @@
     </message>
     <message>
         <source>The picture reaches %1 mm beyond each edge of the paper, so that nothing stays white: what is marked along the edges is cut away</source>
-        <translation>L’image dépasse chaque bord du papier de %1 mm, pour que rien ne reste blanc : ce qui est marqué le long des bords est coupé</translation>
+        <translation>L’image dépasse chaque bord du papier de %1&#xa0;mm, pour que rien ne reste blanc&#xa0;: ce qui est marqué le long des bords est coupé</translation>
     </message>
 </context>
 <context>
@@ -4787,6 +4811,10 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>L’application se souvient d’une imprimante « %1 » que le serveur d’impression n’a pas. « %2 » a été choisie à la place.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
+        <translation>La mémoire ne suffit pas pour les options de « %1 ». Fermez quelque chose et choisissez à nouveau l’imprimante.</translation>
     </message>
 </context>
 <context>

@@ -737,6 +737,10 @@
         <source>Taken out of &quot;%1&quot;.</source>
         <translation>「%1」から取り除きました。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>「%1」を読み込めません: %2。</translation>
+    </message>
 </context>
 <context>
     <name>GivenOptions</name>
@@ -1143,6 +1147,10 @@
     <message>
         <source>The print server gave the job no number. Look into its error log.</source>
         <translation>プリントサーバーがジョブに番号を付けませんでした。エラーログをご覧ください。</translation>
+    </message>
+    <message>
+        <source> A job without its pages may still be on the queue of &quot;%1&quot;: look there before you print again.</source>
+        <translation> ページのないジョブが「%1」のキューに残っている可能性があります。もう一度プリントする前にご確認ください。</translation>
     </message>
 </context>
 <context>
@@ -1748,6 +1756,18 @@
         <source>they belong to something else</source>
         <translation>別のもの用です</translation>
     </message>
+    <message>
+        <source>%1 cannot be looked at</source>
+        <translation>%1 を調べられません</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user</source>
+        <translation>%1 は別のユーザーのものです</translation>
+    </message>
+    <message>
+        <source>%1 can be changed by other users</source>
+        <translation>%1 はほかのユーザーが変更できます</translation>
+    </message>
 </context>
 <context>
     <name>PortalProgram</name>
@@ -1951,6 +1971,10 @@
     <message>
         <source>Not all of &quot;%1&quot; can be had now.</source>
         <translation>「%1」の一部は今は使えません。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to read the presets.</source>
+        <translation>プリセットを読み込むメモリが足りません。</translation>
     </message>
 </context>
 <context>
@@ -4787,6 +4811,10 @@
     <message>
         <source>The application remembers a printer &quot;%1&quot; that is none of the print server&apos;s. &quot;%2&quot; was chosen instead.</source>
         <translation>アプリケーションが覚えているプリンター「%1」はプリントサーバーにありません。代わりに「%2」を選びました。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
+        <translation>「%1」のオプションのためのメモリが足りません。何かを閉じて、プリンターを選び直してください。</translation>
     </message>
 </context>
 <context>
