@@ -13,7 +13,7 @@ namespace halvern {
 
 namespace {
 
-constexpr double kShadow = 7.0;
+constexpr int kShadow = 7;
 constexpr double kBackOffset = 0.07; // of the sheet's shorter edge
 const QColor kInk(70, 70, 70);
 const QColor kPaleInk(120, 120, 120);
@@ -34,7 +34,7 @@ void paintShadow(QPainter& painter, const QRectF& sheet)
 {
     painter.save();
     painter.setPen(Qt::NoPen);
-    for (double spread = kShadow; spread > 0.0; spread -= 1.0) {
+    for (int spread = kShadow; spread > 0; --spread) {
         painter.setBrush(QColor(0, 0, 0, 9));
         painter.drawRoundedRect(sheet.adjusted(-spread, -spread + 2.0, spread, spread + 2.0), spread, spread);
     }

@@ -71,6 +71,7 @@ void DialogSession::removePhotos(const std::vector<size_t>& places)
 void DialogSession::arrange(const std::vector<size_t>& order)
 {
     std::vector<Photo> arranged;
+    arranged.reserve(order.size());
     for (const size_t place : order)
         arranged.push_back(photos()[place]);
     const bool hadChosen = !choosePages(page().pages, photos().size()).pages.empty();
