@@ -10,7 +10,7 @@ namespace halvern {
 
 namespace {
 
-constexpr qint64 kMostBytes = 256 * 1024;
+constexpr qint64 kMostEntryBytes = 256 * 1024;
 
 // The names of the entry's first group by their languages; "" is the one for all others.
 QMap<QString, QString> namesIn(const QString& path)
@@ -20,7 +20,7 @@ QMap<QString, QString> namesIn(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return names;
     bool isInGroup = false;
-    for (const QString& line : QString::fromUtf8(file.read(kMostBytes)).split(QLatin1Char('\n'))) {
+    for (const QString& line : QString::fromUtf8(file.read(kMostEntryBytes)).split(QLatin1Char('\n'))) {
         if (line.startsWith(QLatin1Char('[')))
             isInGroup = line.trimmed() == QLatin1StringView("[Desktop Entry]");
         const QString key = line.section(QLatin1Char('='), 0, 0).trimmed();

@@ -10,7 +10,7 @@ namespace halvern {
 namespace {
 
 constexpr qsizetype kMostTexts = 20000;
-constexpr qsizetype kLongestText = 16384;
+constexpr qsizetype kLongestSetting = 16384;
 constexpr qsizetype kLongestRanges = 2000;
 constexpr qsizetype kLongestWord = 255;
 constexpr double kLeastPaper = 10.0; // millimetres
@@ -158,7 +158,8 @@ void ApplicationSettings::takeTexts(const QVariantMap& settings)
 {
     for (auto it = settings.cbegin(); it != settings.cend(); ++it) {
         const bool isText = it.value().typeId() == QMetaType::QString && !it.key().isEmpty() &&
-                            it.key().size() <= kLongestText && it.value().toString().size() <= kLongestText;
+                            it.key().size() <= kLongestSetting &&
+                            it.value().toString().size() <= kLongestSetting;
         if (isText && texts_.size() < kMostTexts)
             texts_.insert(it.key(), it.value().toString());
         else
@@ -217,7 +218,7 @@ void ApplicationSettings::takePageSetup(const QVariantMap& pageSetup)
         return isText ? value.toString() : QString();
     };
     paper_ = {number("Width"), number("Height")};
-    const auto isName = [](const QString& text) { return text.size() <= kLongestText; };
+    const auto isName = [](const QString& text) { return text.size() <= kLongestSetting; };
     const QString ppdName = word("PPDName", isName);
     const QString name = word("Name", isName);
     paperName_ = ppdName.isEmpty() ? name : ppdName;

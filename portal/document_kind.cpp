@@ -10,7 +10,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct DocumentKindWords {
     Q_DECLARE_TR_FUNCTIONS(DocumentKind)
 };
 
@@ -87,13 +87,14 @@ QString mimeTypeOf(DocumentKind kind)
 QString documentProblem(DocumentKind kind, qint64 size, const QByteArray& end)
 {
     if (size == 0)
-        return Words::tr("The application has sent an empty document. Print it once more from there.");
+        return DocumentKindWords::tr(
+            "The application has sent an empty document. Print it once more from there.");
     if (kind == DocumentKind::unknown)
-        return Words::tr(
+        return DocumentKindWords::tr(
             "What the application has sent is no PDF, PostScript or picture. Export the document as a "
             "PDF file there, and print that.");
     if (kind == DocumentKind::pdf && !end.contains("%%EOF"))
-        return Words::tr(
+        return DocumentKindWords::tr(
             "The document ends in the middle: the application has not sent all of it. Print it once "
             "more from there.");
     return {};

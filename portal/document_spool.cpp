@@ -45,7 +45,7 @@ QStringList spoolFolders()
 }
 
 // Only this user's own: in a folder that everybody may write to somebody may have been there before.
-bool isOurs(const QString& folder)
+bool isOwnFolder(const QString& folder)
 {
     struct stat found = {};
     return lstat(QFile::encodeName(folder).constData(), &found) == 0 && S_ISDIR(found.st_mode) &&
@@ -84,7 +84,7 @@ public:
         if (mkdir(path.constData(), 0700) != 0 && errno != EEXIST)
             return;
         QByteArray own = path + "/XXXXXX";
-        if (!isOurs(folder) || !mkdtemp(own.data()))
+        if (!isOwnFolder(folder) || !mkdtemp(own.data()))
             return;
         folder_ = QFile::decodeName(own);
         lock_ = lockFolder(folder_);
@@ -285,7 +285,7 @@ QString DocumentSpool::tooBusySentence()
 void removeOldSpools()
 {
     for (const QString& folder : spoolFolders()) {
-        if (!isOurs(folder))
+        if (!isOwnFolder(folder))
             continue;
         for (const QFileInfo& room : QDir(folder).entryInfoList(QDir::Dirs | QDir::Hidden |
                                                                 QDir::NoDotAndDotDot | QDir::NoSymLinks)) {

@@ -17,7 +17,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct FrontEndWords {
     Q_DECLARE_TR_FUNCTIONS(FrontEnd)
 };
 
@@ -27,7 +27,7 @@ const QString kGroup = QStringLiteral("[preferred]");
 const QString kMark = QStringLiteral("# by halvern-print-portal --enable");
 const QString kInPlaceOf = QStringLiteral("# by halvern-print-portal in place of: ");
 const QString kUsualPortals = QStringLiteral("/usr/share/xdg-desktop-portal/portals");
-constexpr qint64 kMostBytes = 256 * 1024;
+constexpr qint64 kMostConfigBytes = 256 * 1024;
 constexpr int kPatience = 3000; // milliseconds
 
 QStringList variable(const char* name, const QString& otherwise)
@@ -40,9 +40,9 @@ QStringList linesOf(const QString& path, QString* problem = nullptr)
 {
     QFile file(path);
     const bool isOpen = file.open(QIODevice::ReadOnly);
-    QString text = QString::fromUtf8(file.read(kMostBytes));
+    QString text = QString::fromUtf8(file.read(kMostConfigBytes));
     if (problem && QFile::exists(path) && (!isOpen || file.error() != QFileDevice::NoError || !file.atEnd()))
-        *problem = Words::tr("\"%1\" cannot be read: %2.").arg(path, file.errorString());
+        *problem = FrontEndWords::tr("\"%1\" cannot be read: %2.").arg(path, file.errorString());
     if (!isOpen)
         return {};
     if (text.endsWith(QLatin1Char('\n')))
@@ -99,7 +99,7 @@ QString configuration(const FrontEnd& frontEnd)
 }
 
 // Ours may be there under a second name that comes earlier.
-bool isOurs(const QString& name)
+bool isOwnName(const QString& name)
 {
     return name == kOwnName || name.endsWith(QLatin1Char('-') + kOwnName);
 }
@@ -136,8 +136,8 @@ QString chosen(const FrontEnd& frontEnd, const QList<Description>& offered)
 QString remedy(const FrontEnd& frontEnd, const QString& winner)
 {
     if (frontEnd.readsConfiguration())
-        return Words::tr("\"halvern-print-portal --enable\" changes that for you.");
-    return Words::tr(
+        return FrontEndWords::tr("\"halvern-print-portal --enable\" changes that for you.");
+    return FrontEndWords::tr(
                "It takes the first by file name. An administrator can put this one before \"%1\": ln -s "
                "tessarin.portal %2/00-tessarin.portal")
         .arg(winner, frontEnd.portalFolders.value(0, kUsualPortals));
@@ -148,14 +148,15 @@ bool save(const QString& path, const QStringList& lines, QString& problem)
     QDir().mkpath(QFileInfo(path).absolutePath());
     const QString why = writeWholeFile(path, lines.join(QLatin1Char('\n')).toUtf8() + '\n');
     if (!why.isEmpty())
-        problem = Words::tr("\"%1\" cannot be written: %2.").arg(path, why);
+        problem = FrontEndWords::tr("\"%1\" cannot be written: %2.").arg(path, why);
     return why.isEmpty();
 }
 
 QString restartSentence()
 {
-    return Words::tr("The portal reads that when it starts: log in again, or run \"systemctl --user restart "
-                     "xdg-desktop-portal\".");
+    return FrontEndWords::tr(
+        "The portal reads that when it starts: log in again, or run \"systemctl --user restart "
+        "xdg-desktop-portal\".");
 }
 
 // Where the user's own one lies, under the name of the one that is in force.
@@ -213,21 +214,21 @@ FrontEnd FrontEnd::installed()
 FrontEndAnswer checkFrontEnd(const FrontEnd& frontEnd)
 {
     if (frontEnd.version.isNull())
-        return {false, Words::tr("There is no portal on this computer: install xdg-desktop-portal.")};
+        return {false, FrontEndWords::tr("There is no portal on this computer: install xdg-desktop-portal.")};
     const QList<Description> offered = descriptions(frontEnd);
     const QString version = frontEnd.version.toString();
-    if (std::ranges::none_of(offered, [](const Description& one) { return isOurs(one.name); }))
-        return {false,
-                Words::tr("The portal (%1) does not know this program: there is no tessarin.portal in %2. "
-                          "Install it there.")
-                    .arg(version, listText(frontEnd.portalFolders))};
+    if (std::ranges::none_of(offered, [](const Description& one) { return isOwnName(one.name); }))
+        return {false, FrontEndWords::tr(
+                           "The portal (%1) does not know this program: there is no tessarin.portal in %2. "
+                           "Install it there.")
+                           .arg(version, listText(frontEnd.portalFolders))};
     const QString winner = chosen(frontEnd, offered);
-    if (isOurs(winner))
-        return {true, Words::tr("The portal (%1) chooses this program for printing.").arg(version)};
+    if (isOwnName(winner))
+        return {true, FrontEndWords::tr("The portal (%1) chooses this program for printing.").arg(version)};
     if (winner.isEmpty())
-        return {false, Words::tr("The portal (%1) prints with nothing, as \"%2\" says. %3")
+        return {false, FrontEndWords::tr("The portal (%1) prints with nothing, as \"%2\" says. %3")
                            .arg(version, configuration(frontEnd), remedy(frontEnd, winner))};
-    return {false, Words::tr("The portal (%1) chooses \"%2\" for printing. %3")
+    return {false, FrontEndWords::tr("The portal (%1) chooses \"%2\" for printing. %3")
                        .arg(version, winner, remedy(frontEnd, winner))};
 }
 
@@ -253,7 +254,7 @@ FrontEndAnswer enableInFrontEnd(const FrontEnd& frontEnd)
     lines.insert(place, kMark);
     if (!save(path, lines, problem))
         return {false, problem};
-    return {true, Words::tr("Written into \"%1\".").arg(path) + QLatin1Char(' ') + restartSentence()};
+    return {true, FrontEndWords::tr("Written into \"%1\".").arg(path) + QLatin1Char(' ') + restartSentence()};
 }
 
 FrontEndAnswer disableInFrontEnd(const FrontEnd& frontEnd)
@@ -264,12 +265,13 @@ FrontEndAnswer disableInFrontEnd(const FrontEnd& frontEnd)
     if (!problem.isEmpty())
         return {false, problem};
     if (!lines.contains(kMark))
-        return {true, Words::tr("There is no line of this program's in \"%1\".").arg(path)};
+        return {true, FrontEndWords::tr("There is no line of this program's in \"%1\".").arg(path)};
     const QStringList left = withoutOurLine(lines);
     const bool isEmpty = left == QStringList(kGroup);
     if (isEmpty ? !QFile::remove(path) : !save(path, left, problem))
-        return {false, problem.isEmpty() ? Words::tr("\"%1\" cannot be removed.").arg(path) : problem};
-    return {true, Words::tr("Taken out of \"%1\".").arg(path) + QLatin1Char(' ') + restartSentence()};
+        return {false,
+                problem.isEmpty() ? FrontEndWords::tr("\"%1\" cannot be removed.").arg(path) : problem};
+    return {true, FrontEndWords::tr("Taken out of \"%1\".").arg(path) + QLatin1Char(' ') + restartSentence()};
 }
 
 } // namespace halvern

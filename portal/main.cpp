@@ -22,20 +22,20 @@ constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 constexpr int kLongestTidying = 3000; // milliseconds
 
-struct Words {
+struct MainWords {
     Q_DECLARE_TR_FUNCTIONS(PortalProgram)
 };
 
 struct Switches {
     QCommandLineOption check{
         QStringLiteral("check"),
-        Words::tr("Say whether the desktop's portal would choose this program for printing, and "
-                  "if not, why.")};
+        MainWords::tr("Say whether the desktop's portal would choose this program for printing, and "
+                      "if not, why.")};
     QCommandLineOption enable{
         QStringLiteral("enable"),
-        Words::tr("Have the desktop's portal choose this program for printing, by a line in "
-                  "your portals.conf.")};
-    QCommandLineOption disable{QStringLiteral("disable"), Words::tr("Take that line away again.")};
+        MainWords::tr("Have the desktop's portal choose this program for printing, by a line in "
+                      "your portals.conf.")};
+    QCommandLineOption disable{QStringLiteral("disable"), MainWords::tr("Take that line away again.")};
 };
 
 QtMessageHandler usualHandler = nullptr;
@@ -99,13 +99,13 @@ int main(int argc, char** argv)
                             QStringLiteral("60000"));
     idle.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.setApplicationDescription(
-        Words::tr("Shows the print dialog for applications that print by the desktop's "
-                  "portal. The desktop starts it by itself."));
+        MainWords::tr("Shows the print dialog for applications that print by the desktop's "
+                      "portal. The desktop starts it by itself."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({switches.check, switches.enable, switches.disable, idle});
     if (!parser.parse(QCoreApplication::arguments()) || !parser.positionalArguments().isEmpty()) {
-        writeLine(stderr, Words::tr("Wrong usage. See \"halvern-print-portal --help\"."));
+        writeLine(stderr, MainWords::tr("Wrong usage. See \"halvern-print-portal --help\"."));
         return kWrongUsage;
     }
     if (parser.isSet(QStringLiteral("help"))) {
@@ -124,9 +124,9 @@ int main(int argc, char** argv)
     if (parser.isSet(switches.disable))
         return tell(disableInFrontEnd());
     if (!hasDisplay) {
-        writeLine(stderr,
-                  Words::tr("There is no display to show the dialog on. Start this program in a desktop's "
-                            "session, or set DISPLAY."));
+        writeLine(stderr, MainWords::tr(
+                              "There is no display to show the dialog on. Start this program in a desktop's "
+                              "session, or set DISPLAY."));
         return kFailed;
     }
     const int status = serve(std::chrono::milliseconds(parser.value(idle).toInt()));

@@ -16,8 +16,8 @@ namespace halvern {
 namespace {
 
 const QString kService = QStringLiteral("org.freedesktop.Notifications");
-const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
-constexpr int kPatience = 3000; // milliseconds
+const QString kNotificationsPath = QStringLiteral("/org/freedesktop/Notifications");
+constexpr int kNoticePatience = 3000; // milliseconds
 constexpr auto kLongestShown = std::chrono::minutes(10);
 
 } // namespace
@@ -25,8 +25,10 @@ constexpr auto kLongestShown = std::chrono::minutes(10);
 Notices::Notices()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(kService, kPath, kService, QStringLiteral("ActionInvoked"), this, SLOT(act(uint, QString)));
-    bus.connect(kService, kPath, kService, QStringLiteral("NotificationClosed"), this, SLOT(forget(uint)));
+    bus.connect(kService, kNotificationsPath, kService, QStringLiteral("ActionInvoked"), this,
+                SLOT(act(uint, QString)));
+    bus.connect(kService, kNotificationsPath, kService, QStringLiteral("NotificationClosed"), this,
+                SLOT(forget(uint)));
     services_.setConnection(bus);
     services_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     services_.addWatchedService(kService);
@@ -39,7 +41,8 @@ void Notices::tell(const QString& application, const QString& sentence, const st
     const Notice notice{application.isEmpty() ? tr("Printing")
                                               : tr("Printing from %1").arg(isolated(application)),
                         sentence, keeps};
-    QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, QStringLiteral("Notify"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kService, kNotificationsPath, kService, QStringLiteral("Notify"));
     const QStringList actions =
         isLeaving_ ? QStringList()
                    : QStringList{QStringLiteral("default"), tr("Show"), QStringLiteral("show"), tr("Show")};
@@ -49,7 +52,7 @@ void Notices::tell(const QString& application, const QString& sentence, const st
                        QVariantMap{{QStringLiteral("urgency"), QVariant::fromValue(uchar(2))}}, -1});
     ++telling_;
     auto* answer =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, kPatience), this);
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call, kNoticePatience), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, notice] {
         answer->deleteLater();
         --telling_;

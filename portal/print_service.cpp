@@ -17,8 +17,8 @@ namespace {
 
 const QString kName = QStringLiteral("org.freedesktop.impl.portal.desktop.tessarin");
 const QString kRequest = QStringLiteral("org.freedesktop.impl.portal.Request");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-constexpr auto kLookUp = std::chrono::milliseconds(20);
+const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+constexpr auto kGoneLookUp = std::chrono::milliseconds(20);
 constexpr auto kLongestTakingBack = std::chrono::seconds(5);
 
 } // namespace
@@ -51,9 +51,9 @@ QString PrintService::enter()
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return tr("There is no session bus: %1.").arg(bus.lastError().message());
-    const bool isThere =
-        bus.registerObject(kPath, this) &&
-        bus.registerVirtualObject(kPath + QStringLiteral("/request"), &requests_, QDBusConnection::SubPath);
+    const bool isThere = bus.registerObject(kPortalPath, this) &&
+                         bus.registerVirtualObject(kPortalPath + QStringLiteral("/request"), &requests_,
+                                                   QDBusConnection::SubPath);
     if (!isThere || !bus.registerService(kName))
         return tr("Another halvern-print-portal runs in this session already.");
     return {};
@@ -92,7 +92,7 @@ void PrintService::end()
         look->stop();
         Q_EMIT over();
     });
-    look->start(kLookUp);
+    look->start(kGoneLookUp);
 }
 
 void PrintService::giveUp()

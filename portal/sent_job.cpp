@@ -7,7 +7,7 @@ namespace halvern {
 
 namespace {
 
-constexpr Patience kPatience{.untilGivenUp = std::chrono::minutes(2)};
+constexpr Patience kJobPatience{.untilGivenUp = std::chrono::minutes(2)};
 
 } // namespace
 
@@ -19,7 +19,7 @@ SentJob::SentJob(PortalRoom room, const QString& application, std::unique_ptr<Pr
       keepsAlive_(room.life.hold()),
       run_(std::move(run))
 {
-    run_->setPatience(kPatience);
+    run_->setPatience(kJobPatience);
     connect(run_.get(), &PrintRun::submitted, this, [this] {
         document_.path.reset(); // the server has it
         Q_EMIT submitted();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/adjust/adjust.h"
+#include "dialog/adjust/grey_weights.h"
 
 #include <algorithm>
 #include <array>
@@ -13,13 +14,8 @@ namespace {
 constexpr int kFractionBits = 4;
 constexpr int kOne = 255 << kFractionBits;
 
-// Saturation is a factor in 256ths, the weights of the three channels in grey are 65536ths.
+// Saturation is a factor in 256ths.
 constexpr int kFactorBits = 8;
-constexpr int kWeightBits = 16;
-constexpr int kRedWeight = 13933;
-constexpr int kGreenWeight = 46871;
-constexpr int kBlueWeight = 4732;
-static_assert(kRedWeight + kGreenWeight + kBlueWeight == 1 << kWeightBits);
 
 // The strongest brightness moves a tone by half the way from black to white, the strongest contrast halves or
 // doubles the distance from middle grey, the strongest channel is half a stop.

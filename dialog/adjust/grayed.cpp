@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/adjust/adjust.h"
+#include "dialog/adjust/grey_weights.h"
 
 #include <array>
 #include <cmath>
@@ -8,13 +9,8 @@ namespace halvern::adjust {
 
 namespace {
 
-// Light is counted in 4096ths; what each of sRGB's channels gives to it, in 65536ths.
+// Light is counted in 4096ths.
 constexpr int kMostLight = 4096;
-constexpr int kWeightBits = 16;
-constexpr int kRedWeight = 13933;
-constexpr int kGreenWeight = 46871;
-constexpr int kBlueWeight = 4732;
-static_assert(kRedWeight + kGreenWeight + kBlueWeight == 1 << kWeightBits);
 
 double lightOf(double tone)
 {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/decode/image_source.h"
+#include "platform/foundation/units.h"
 
 #include <QColorSpace>
 
@@ -9,8 +10,6 @@
 namespace halvern {
 
 namespace {
-
-constexpr double kMetresPerInch = 0.0254;
 
 // The format in which the rows are kept, whose numbers are the ones handed over, but for the paper.
 QImage::Format keptFormat(PixelFormat format, bool hasAlpha)

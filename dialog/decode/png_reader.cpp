@@ -2,6 +2,7 @@
 #include "dialog/decode/camera_notes.h"
 #include "dialog/decode/made_profile.h"
 #include "dialog/decode/readers.h"
+#include "platform/foundation/units.h"
 
 #include <algorithm>
 #include <csetjmp>
@@ -16,7 +17,6 @@ namespace halvern {
 namespace {
 
 constexpr png_alloc_size_t kLongestChunk = 64 * 1024 * 1024;
-constexpr double kMetresPerInch = 0.0254;
 constexpr double kUsualGamma = 1.0 / 2.2;
 
 class PngSource : public PictureSource {

@@ -14,7 +14,7 @@ namespace {
 
 // What IPP limits a name and a text to.
 constexpr qsizetype kLongestName = 255;
-constexpr qsizetype kLongestText = 1023;
+constexpr qsizetype kLongestValue = 1023;
 
 // Attributes that the server itself reads, and that need their IPP type.
 constexpr std::array kServerAttributes{
@@ -55,13 +55,13 @@ QString addJobOption(_ipp_s* request, const OptionValue& option, Collections col
 {
     const QByteArray name = option.key.toUtf8();
     const QByteArray value = option.value.toUtf8();
-    if (name.size() > kLongestName || value.size() > kLongestText || value.contains('\0')) {
+    if (name.size() > kLongestName || value.size() > kLongestValue || value.contains('\0')) {
         return QCoreApplication::translate("IppOptions",
                                            "The value of %1 is too long to send: it has %2 bytes, and %3 "
                                            "are possible. Shorten it.")
             .arg(option.key)
             .arg(value.size())
-            .arg(kLongestText);
+            .arg(kLongestValue);
     }
     const bool isText = collections == Collections::asText && option.value.startsWith(QLatin1Char('{'));
     if (isServerAttribute(option.key) && !isText) {

@@ -9,7 +9,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct JobActionsWords {
     Q_DECLARE_TR_FUNCTIONS(JobActions)
 };
 
@@ -29,7 +29,7 @@ ActionResult act(int operation, const QString& queue, int jobId, const char* for
     if (!server.failed(answer))
         return {};
     if (isForbidden(server, answer))
-        return {true, Words::tr(forbidden).arg(queue)};
+        return {true, JobActionsWords::tr(forbidden).arg(queue)};
     // Somebody else was faster.
     if (answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_POSSIBLE)
         return {};

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/job_in_words.h"
+#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/job/job_options.h"
 #include "dialog/options/ppd_model.h"
@@ -23,14 +24,12 @@ namespace halvern {
 
 namespace {
 
-const QString kPageSize = QStringLiteral("PageSize");
-
 constexpr double kSamePoints = 1.5;
 // PPDs count in whole points.
 constexpr double kSameMillimetres = 0.2;
 constexpr qsizetype kMostNamed = 2;
 
-struct Words {
+struct JobInWordsWords {
     Q_DECLARE_TR_FUNCTIONS(JobInWords)
 };
 
@@ -98,7 +97,7 @@ public:
         tellOthers();
         if (!job_.isOnPaper)
             words.problem =
-                Words::tr("not enough paper for %1").arg(pageInWords(job_.model, value(kPageSize)));
+                JobInWordsWords::tr("not enough paper for %1").arg(pageInWords(job_.model, value(kPageSize)));
     }
 
 private:
@@ -143,10 +142,10 @@ private:
         const QString width = rollWidth();
         const QString surface = maker::surfaceWords(takeText("PaperSurface"));
         if (feed == maker::Feed::roll)
-            add(surface.isEmpty() ? Words::tr("roll %1").arg(width)
-                                  : Words::tr("%1 roll %2").arg(surface, width));
+            add(surface.isEmpty() ? JobInWordsWords::tr("roll %1").arg(width)
+                                  : JobInWordsWords::tr("%1 roll %2").arg(surface, width));
         else if (feed == maker::Feed::sheet && !sheet.isEmpty())
-            add(Words::tr("sheet: %1").arg(sheet));
+            add(JobInWordsWords::tr("sheet: %1").arg(sheet));
         add(takeText("MediaType"));
         if (!isDefault("InputSlot"))
             add(takeText("InputSlot"));
@@ -155,8 +154,8 @@ private:
     QString rollWidth()
     {
         const double millimetres = leadingInteger(take("PaperWidth")) / 10.0;
-        return isMetric() ? Words::tr("%1 mm").arg(number(millimetres, 0))
-                          : Words::tr("%1 in").arg(number(millimetres / kMillimetresPerInch, 1));
+        return isMetric() ? JobInWordsWords::tr("%1 mm").arg(number(millimetres, 0))
+                          : JobInWordsWords::tr("%1 in").arg(number(millimetres / kMillimetresPerInch, 1));
     }
 
     void tellQuality()
@@ -167,7 +166,8 @@ private:
         if (hasDots)
             add(resolution);
         else if (!isDefault("Resolution"))
-            add(Words::tr("%1: %2").arg(job_.model.optionText(QStringLiteral("Resolution")), resolution));
+            add(JobInWordsWords::tr("%1: %2").arg(job_.model.optionText(QStringLiteral("Resolution")),
+                                                  resolution));
         if (!isDefault("ColorModel"))
             add(takeText("ColorModel"));
         tellSides("TwoSided");
@@ -178,7 +178,7 @@ private:
     void tellSides(const char* key)
     {
         if (!isOneSided(take(key)))
-            add(Words::tr("two-sided: %1").arg(takeText(key)));
+            add(JobInWordsWords::tr("two-sided: %1").arg(takeText(key)));
     }
 
     void tellPages()
@@ -186,31 +186,32 @@ private:
         take("page-ranges");
         const int chosen = int(job_.chosen.size());
         if (chosen < job_.pages)
-            add(Words::tr("pages %1 of %2").arg(rangesOf(job_.chosen), number(job_.pages, 0)));
+            add(JobInWordsWords::tr("pages %1 of %2").arg(rangesOf(job_.chosen), number(job_.pages, 0)));
         else if (chosen > 1)
-            add((job_.layout.isEmpty() ? Words::tr("%1 pages") : Words::tr("%1 photos"))
+            add((job_.layout.isEmpty() ? JobInWordsWords::tr("%1 pages") : JobInWordsWords::tr("%1 photos"))
                     .arg(number(chosen, 0)));
         add(job_.layout);
         if (job_.isReversed && chosen > 1)
-            add(Words::tr("last page first"));
+            add(JobInWordsWords::tr("last page first"));
         const int copies = take("copies").toInt();
-        add(copies == 1 ? Words::tr("1 copy") : Words::tr("%1 copies").arg(number(copies, 0)));
+        add(copies == 1 ? JobInWordsWords::tr("1 copy")
+                        : JobInWordsWords::tr("%1 copies").arg(number(copies, 0)));
         if (copies > 1 && chosen > 1 && take("Collate") == QLatin1StringView("False"))
-            add(Words::tr("not collated"));
+            add(JobInWordsWords::tr("not collated"));
     }
 
     void tellExtras()
     {
         if (maker::printsOnBack(values_))
-            add(Words::tr("text on the back"));
+            add(JobInWordsWords::tr("text on the back"));
         for (const char* key : {"CVP1", "CVP2", "EnableCVP1", "EnableCVP2"})
             take(key);
         const QString sheets = take("job-sheets");
         if (!sheets.isEmpty() && !sheets.startsWith(QLatin1StringView("none"), Qt::CaseInsensitive))
-            add(Words::tr("with a banner page"));
+            add(JobInWordsWords::tr("with a banner page"));
         const QString until = take("job-hold-until");
         if (!until.isEmpty() && until != QLatin1StringView("no-hold"))
-            add(Words::tr("held on the queue"));
+            add(JobInWordsWords::tr("held on the queue"));
     }
 
     // One or two are told by name.
@@ -223,11 +224,11 @@ private:
                    valueInModel(job_.model, key, value(key)) == job_.byDefault.value(key);
         });
         if (others.size() > kMostNamed) {
-            add(Words::tr("%1 more settings changed").arg(number(double(others.size()), 0)));
+            add(JobInWordsWords::tr("%1 more settings changed").arg(number(double(others.size()), 0)));
             return;
         }
         for (const QString& key : std::as_const(others))
-            add(Words::tr("%1: %2").arg(job_.model.optionText(key), text(key)));
+            add(JobInWordsWords::tr("%1: %2").arg(job_.model.optionText(key), text(key)));
     }
 
     const JobToTell& job_;
@@ -244,15 +245,15 @@ QString valueInModel(const PpdModel& model, const QString& key, const QString& s
 
 QString sizeInWords(const QSizeF& points)
 {
-    const QString pattern = Words::tr("%1 × %2");
+    const QString pattern = JobInWordsWords::tr("%1 × %2");
     if (!isMetric())
-        return Words::tr("%1 in").arg(pattern.arg(number(points.width() / kPointsPerInch, 2),
-                                                  number(points.height() / kPointsPerInch, 2)));
+        return JobInWordsWords::tr("%1 in").arg(pattern.arg(number(points.width() / kPointsPerInch, 2),
+                                                            number(points.height() / kPointsPerInch, 2)));
     const QSizeF millimetres = points / kPointsPerMillimetre;
     if (isSoldInCentimetres(points.width()) && isSoldInCentimetres(points.height()))
-        return Words::tr("%1 cm").arg(
+        return JobInWordsWords::tr("%1 cm").arg(
             pattern.arg(number(millimetres.width() / 10.0, 0), number(millimetres.height() / 10.0, 0)));
-    return Words::tr("%1 mm").arg(
+    return JobInWordsWords::tr("%1 mm").arg(
         pattern.arg(millimetresText(millimetres.width()), millimetresText(millimetres.height())));
 }
 
@@ -269,7 +270,8 @@ QString pageInWords(const PpdModel& model, const QString& choice)
         return inUsersNumbers(name.isEmpty() ? choice : name);
     const QString words = sizeInWords(QSizeF(double(size->width), double(size->length)));
     const bool isBorderless = size->left <= 0.0F && size->bottom <= 0.0F && !isCustom;
-    return isBorderless && hasTwinWithMargins(model, *size) ? Words::tr("%1 borderless").arg(words) : words;
+    return isBorderless && hasTwinWithMargins(model, *size) ? JobInWordsWords::tr("%1 borderless").arg(words)
+                                                            : words;
 }
 
 JobInWords jobInWords(const JobToTell& job)

@@ -17,7 +17,7 @@ namespace {
 
 constexpr qsizetype kMostTold = 8;
 
-struct Words {
+struct JobReadBackWords {
     Q_DECLARE_TR_FUNCTIONS(JobReadBack)
 };
 
@@ -143,23 +143,23 @@ JobReadBack readBackJob(cups::Connection& server, const QString& queue, int jobI
 QString readBackSentence(const JobReadBack& job, int jobId)
 {
     if (!job.isKnown)
-        return Words::tr("The print server does not tell what it holds of job %1.").arg(jobId);
+        return JobReadBackWords::tr("The print server does not tell what it holds of job %1.").arg(jobId);
     if (job.isEqual())
-        return Words::tr("The print server holds job %1 exactly as it was sent.").arg(jobId);
+        return JobReadBackWords::tr("The print server holds job %1 exactly as it was sent.").arg(jobId);
     QStringList added;
     for (const OptionValue& option : job.added)
         added.append(told(option.key, option.value));
     QStringList changed;
     for (const ChangedOption& option : job.changed)
-        changed.append(option.held ? Words::tr("%1 instead of %2")
+        changed.append(option.held ? JobReadBackWords::tr("%1 instead of %2")
                                          .arg(told(option.key, *option.held), isolated(option.sent, 120))
-                                   : Words::tr("without %1").arg(told(option.key, option.sent)));
+                                   : JobReadBackWords::tr("without %1").arg(told(option.key, option.sent)));
     QStringList sentences;
     if (!added.isEmpty())
-        sentences.append(Words::tr("Added to job %1 by the print server or the queue: %2.")
+        sentences.append(JobReadBackWords::tr("Added to job %1 by the print server or the queue: %2.")
                              .arg(QString::number(jobId), listed(added)));
     if (!changed.isEmpty())
-        sentences.append(Words::tr("Changed in job %1 by the print server: %2.")
+        sentences.append(JobReadBackWords::tr("Changed in job %1 by the print server: %2.")
                              .arg(QString::number(jobId), listed(changed)));
     return sentences.join(QLatin1Char(' '));
 }

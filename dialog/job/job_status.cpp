@@ -12,7 +12,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct JobStatusWords {
     Q_DECLARE_TR_FUNCTIONS(JobStatus)
 };
 
@@ -68,36 +68,37 @@ QString pattern(const JobStatus& status)
 {
     switch (status.stage) {
     case JobStage::waiting:
-        return Words::tr("Job %1 waits for \"%2\"%3.");
+        return JobStatusWords::tr("Job %1 waits for \"%2\"%3.");
     case JobStage::blocked:
-        return Words::tr("Job %1 waits because \"%2\" is paused%3.");
+        return JobStatusWords::tr("Job %1 waits because \"%2\" is paused%3.");
     case JobStage::held:
         if (isHeldForLogin(status))
-            return Words::tr("Job %1 is held on \"%2\": the printer wants a name and a password%3.");
+            return JobStatusWords::tr("Job %1 is held on \"%2\": the printer wants a name and a password%3.");
         if (status.reasons.contains(QStringLiteral("job-hold-until-specified")))
-            return Words::tr("Job %1 is held on \"%2\" because it was asked to wait%3.");
-        return Words::tr("Job %1 is held on \"%2\"%3.");
+            return JobStatusWords::tr("Job %1 is held on \"%2\" because it was asked to wait%3.");
+        return JobStatusWords::tr("Job %1 is held on \"%2\"%3.");
     case JobStage::printing:
-        return Words::tr("Job %1 is printing on \"%2\"%3.");
+        return JobStatusWords::tr("Job %1 is printing on \"%2\"%3.");
     case JobStage::stopped:
-        return Words::tr("Job %1 stopped on \"%2\"%3.");
+        return JobStatusWords::tr("Job %1 stopped on \"%2\"%3.");
     case JobStage::cancelled:
-        return Words::tr("Job %1 was cancelled on \"%2\".");
+        return JobStatusWords::tr("Job %1 was cancelled on \"%2\".");
     case JobStage::aborted:
-        return Words::tr("Job %1 failed on \"%2\"%3. Print again; if it fails again, look into "
-                         "the print server's error log.");
+        return JobStatusWords::tr("Job %1 failed on \"%2\"%3. Print again; if it fails again, look into "
+                                  "the print server's error log.");
     case JobStage::completed:
-        return Words::tr("Printed: job %1 on \"%2\".");
+        return JobStatusWords::tr("Printed: job %1 on \"%2\".");
     case JobStage::gone:
-        return Words::tr("Job %1 has left the queue of \"%2\". The print server keeps no "
-                         "record of how it ended.");
+        return JobStatusWords::tr("Job %1 has left the queue of \"%2\". The print server keeps no "
+                                  "record of how it ended.");
     case JobStage::lost:
-        return Words::tr("\"%2\" is not on the print server any more, and job %1 with it. Look "
-                         "at the printer before you print again.");
+        return JobStatusWords::tr("\"%2\" is not on the print server any more, and job %1 with it. Look "
+                                  "at the printer before you print again.");
     case JobStage::unknown:
         break;
     }
-    return Words::tr("The print server does not answer. Job %1 was sent to \"%2\", and may be printed.");
+    return JobStatusWords::tr(
+        "The print server does not answer. Job %1 was sent to \"%2\", and may be printed.");
 }
 
 // While a job gets on, its message is a filter's account of it; where it does not, it may be the reason.
@@ -255,7 +256,7 @@ QString jobAdvice(const JobStatus& status, const QString& printer, int jobId)
             "JobStatus", "Print it again with \"lp -i %1 -H restart\", or cancel it with \"cancel %2-%1\".");
         break;
     }
-    return Words::tr(text).arg(QString::number(jobId), printer);
+    return JobStatusWords::tr(text).arg(QString::number(jobId), printer);
 }
 
 } // namespace halvern

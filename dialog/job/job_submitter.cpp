@@ -26,7 +26,7 @@ constexpr int kTakeBackTries = 3;
 // what begins so.
 constexpr const char* kMark = "job-halvern-mark";
 
-struct Words {
+struct JobSubmitterWords {
     Q_DECLARE_TR_FUNCTIONS(JobSubmitter)
 };
 
@@ -114,8 +114,8 @@ QString takeBack(const JobRequest& job, int jobId)
             return {};
         QThread::sleep(1);
     }
-    return Words::tr(" Job %1 may still be on the queue of \"%2\" without its "
-                     "pages: cancel it there before you print again.")
+    return JobSubmitterWords::tr(" Job %1 may still be on the queue of \"%2\" without its "
+                                 "pages: cancel it there before you print again.")
         .arg(QString::number(jobId), job.queue);
 }
 
@@ -162,10 +162,10 @@ int createJob(cups::Connection& server, const JobRequest& job, const cups::Cance
         *problem = server.error();
         const std::optional<int> lost = !answer && server.mayBeDone() ? findLostJob(job, mark) : 0;
         if (!lost)
-            *problem +=
-                Words::tr(" A job without its pages may still be on the queue of \"%1\": look there before "
-                          "you print again.")
-                    .arg(job.queue);
+            *problem += JobSubmitterWords::tr(
+                            " A job without its pages may still be on the queue of \"%1\": look there before "
+                            "you print again.")
+                            .arg(job.queue);
         else if (*lost > 0)
             *problem += takeBack(job, *lost);
         return 0;
@@ -173,7 +173,7 @@ int createJob(cups::Connection& server, const JobRequest& job, const cups::Cance
     const int jobId = cups::jobIdOf(answer);
     rememberAuthInfo(server, job.queue, jobId, given);
     if (jobId == 0)
-        *problem = Words::tr("The print server gave the job no number. Look into its error log.");
+        *problem = JobSubmitterWords::tr("The print server gave the job no number. Look into its error log.");
     return jobId;
 }
 

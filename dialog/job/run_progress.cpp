@@ -15,7 +15,7 @@ constexpr double kLeastLeft = 10.0; // seconds that are worth a word
 constexpr double kMinute = 60.0;
 constexpr double kMostMinutes = 90.0; // hours are said beyond that
 
-struct Words {
+struct RunProgressWords {
     Q_DECLARE_TR_FUNCTIONS(PrintRun)
 };
 
@@ -31,10 +31,10 @@ QString timeLeft(double share, std::chrono::milliseconds spent)
         return {};
     const double minutes = std::ceil(left / kMinute);
     if (minutes <= 1.0)
-        return Words::tr("less than a minute left");
+        return RunProgressWords::tr("less than a minute left");
     if (minutes <= kMostMinutes)
-        return Words::tr("about %1 minutes left").arg(int(minutes));
-    return Words::tr("about %1 hours left").arg(int(std::lround(minutes / kMinute)));
+        return RunProgressWords::tr("about %1 minutes left").arg(int(minutes));
+    return RunProgressWords::tr("about %1 hours left").arg(int(std::lround(minutes / kMinute)));
 }
 
 void RunProgress::setPaused(bool paused)
@@ -56,12 +56,12 @@ std::chrono::milliseconds RunProgress::spent() const
 QString RunProgress::words(double share) const
 {
     if (photos_ <= 1)
-        return Words::tr("Sending the photo...");
+        return RunProgressWords::tr("Sending the photo...");
     const int done = std::clamp(int(std::lround(share * photos_)), 0, photos_);
     if (isPaused_)
-        return Words::tr("Paused: %1 of %2 photos are sent.").arg(done).arg(photos_);
+        return RunProgressWords::tr("Paused: %1 of %2 photos are sent.").arg(done).arg(photos_);
     const QString sentence =
-        Words::tr("Sending photo %1 of %2").arg(std::min(done + 1, photos_)).arg(photos_);
+        RunProgressWords::tr("Sending photo %1 of %2").arg(std::min(done + 1, photos_)).arg(photos_);
     const QString left = timeLeft(share, spent());
     return left.isEmpty() ? sentence + QStringLiteral("...") : sentence + QStringLiteral(": ") + left;
 }

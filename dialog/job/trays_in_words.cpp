@@ -16,21 +16,22 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct TraysInWordsWords {
     Q_DECLARE_TR_FUNCTIONS(TraysInWords)
 };
 
 QString widthInWords(double points)
 {
     if (QLocale().measurementSystem() == QLocale::MetricSystem)
-        return Words::tr("%1 mm wide").arg(std::round(points / kPointsPerMillimetre));
-    return Words::tr("%1 in wide").arg(QLocale().toString(std::round(points / kPointsPerInch * 10.0) / 10.0));
+        return TraysInWordsWords::tr("%1 mm wide").arg(std::round(points / kPointsPerMillimetre));
+    return TraysInWordsWords::tr("%1 in wide")
+        .arg(QLocale().toString(std::round(points / kPointsPerInch * 10.0) / 10.0));
 }
 
 QString neededInWords(const QString& what, const QString& tray)
 {
-    return tray.isEmpty() ? Words::tr("not loaded: needs %1 in the tray").arg(what)
-                          : Words::tr("not loaded: needs %1 in \"%2\"").arg(what, tray);
+    return tray.isEmpty() ? TraysInWordsWords::tr("not loaded: needs %1 in the tray").arg(what)
+                          : TraysInWordsWords::tr("not loaded: needs %1 in \"%2\"").arg(what, tray);
 }
 
 // Of "photographic" and "photographic-glossy" the one may be the other.
@@ -59,7 +60,7 @@ std::optional<NotLoaded> findOtherKind(const PpdModel& model, const QList<TrayPa
     result.other = int(trays.indexOf(paper));
     result.otherText = paperTypeText(model, paper);
     result.shortly = neededInWords(wanted, isFree ? QString() : tray);
-    result.sentence = Words::tr("The paper type is \"%1\", but in \"%2\" there is \"%3\".")
+    result.sentence = TraysInWordsWords::tr("The paper type is \"%1\", but in \"%2\" there is \"%3\".")
                           .arg(wanted, tray, isolated(result.otherText));
     return result;
 }
@@ -106,9 +107,9 @@ std::optional<NotLoaded> findNotLoaded(const PpdModel& model, const QList<TrayPa
     result.shortly = neededInWords(size, isFree ? QString() : isolated(trayText(model, *chosen)));
     result.sentence =
         isElsewhere
-            ? Words::tr("The paper size \"%1\" is not in \"%2\", but in \"%3\".")
+            ? TraysInWordsWords::tr("The paper size \"%1\" is not in \"%2\", but in \"%3\".")
                   .arg(size, isolated(trayText(model, *chosen)), isolated(trayText(model, instead)))
-            : Words::tr("The paper size \"%1\" is not loaded. There is \"%2\" in \"%3\".")
+            : TraysInWordsWords::tr("The paper size \"%1\" is not loaded. There is \"%2\" in \"%3\".")
                   .arg(size, isolated(paperInWords(model, instead)), isolated(trayText(model, instead)));
     return result;
 }

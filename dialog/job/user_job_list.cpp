@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kRefreshMilliseconds = 2000;
 // Well beyond the limits of a question: whoever looks up a host's name is out of their reach.
-constexpr std::chrono::milliseconds kStuck(60'000);
+constexpr std::chrono::milliseconds kListStuck(60'000);
 
 } // namespace
 
@@ -42,7 +42,7 @@ void UserJobList::setWithEnded(bool withEnded)
 
 void UserJobList::ask()
 {
-    if (isAsking_ && askedAt_.hasExpired(kStuck.count())) {
+    if (isAsking_ && askedAt_.hasExpired(kListStuck.count())) {
         // The worker is left to itself.
         questions_ = WorkQueue();
         line_ = std::make_shared<Line>();

@@ -19,7 +19,7 @@ namespace {
 constexpr int kMostActive = 500;
 constexpr int kMostEnded = 100;
 
-struct Words {
+struct UserJobsWords {
     Q_DECLARE_TR_FUNCTIONS(UserJobs)
 };
 
@@ -135,26 +135,26 @@ QString stageText(const JobStatus& status)
     case JobStage::unknown:
         break;
     case JobStage::waiting:
-        return Words::tr("Waiting");
+        return UserJobsWords::tr("Waiting");
     case JobStage::blocked:
-        return Words::tr("Waiting: the printer is paused");
+        return UserJobsWords::tr("Waiting: the printer is paused");
     case JobStage::held:
-        return isHeldForLogin(status) ? Words::tr("Held: the printer wants a name and a password")
-                                      : Words::tr("Held");
+        return isHeldForLogin(status) ? UserJobsWords::tr("Held: the printer wants a name and a password")
+                                      : UserJobsWords::tr("Held");
     case JobStage::printing:
-        return Words::tr("Printing");
+        return UserJobsWords::tr("Printing");
     case JobStage::stopped:
-        return Words::tr("Stopped");
+        return UserJobsWords::tr("Stopped");
     case JobStage::cancelled:
-        return Words::tr("Cancelled");
+        return UserJobsWords::tr("Cancelled");
     case JobStage::aborted:
-        return Words::tr("Failed");
+        return UserJobsWords::tr("Failed");
     case JobStage::completed:
     case JobStage::gone:
     case JobStage::lost:
-        return Words::tr("Printed");
+        return UserJobsWords::tr("Printed");
     }
-    return Words::tr("Unknown");
+    return UserJobsWords::tr("Unknown");
 }
 
 struct DeedRow {
@@ -257,19 +257,20 @@ ActionResult apply(JobDeed deed, const QString& queue, int jobId, const QString&
         return {};
     }
     if (isForbidden(server, answer))
-        return {true, Words::tr(row.forbidden).arg(jobId)};
+        return {true, UserJobsWords::tr(row.forbidden).arg(jobId)};
     const int status = answer ? ippGetStatusCode(answer.get()) : IPP_STATUS_OK;
     if (status == IPP_STATUS_ERROR_NOT_FOUND)
-        return {true, deed == JobDeed::move
-                          ? Words::tr("Job %1 or the printer \"%2\" is not on the print server any more.")
-                                .arg(QString::number(jobId), target)
-                          : Words::tr("Job %1 is not on the print server any more.").arg(jobId)};
+        return {true,
+                deed == JobDeed::move
+                    ? UserJobsWords::tr("Job %1 or the printer \"%2\" is not on the print server any more.")
+                          .arg(QString::number(jobId), target)
+                    : UserJobsWords::tr("Job %1 is not on the print server any more.").arg(jobId)};
     if (status == IPP_STATUS_ERROR_NOT_POSSIBLE)
-        return {
-            true,
-            Words::tr("That cannot be done with job %1 as it is now: it may have gone on or ended, or the "
-                      "print server has not kept its pages.")
-                .arg(jobId)};
+        return {true,
+                UserJobsWords::tr(
+                    "That cannot be done with job %1 as it is now: it may have gone on or ended, or the "
+                    "print server has not kept its pages.")
+                    .arg(jobId)};
     return {answer != nullptr, server.error()};
 }
 
@@ -282,7 +283,7 @@ QString jobPagesText(const UserJob& job)
 {
     const int done = job.status.pagesDone;
     if (job.pages > 0 && done <= job.pages)
-        return Words::tr("%1 of %2").arg(done).arg(job.pages);
+        return UserJobsWords::tr("%1 of %2").arg(done).arg(job.pages);
     return done > 0 ? QString::number(done) : QString();
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* kColourMode = "print-color-mode";
 constexpr const char* kQuality = "print-quality";
-constexpr const char* kMediaType = "media-type";
+constexpr const char* kIppMediaType = "media-type";
 constexpr const char* kMediaSource = "media-source";
 
 struct Keyword {
@@ -29,7 +29,7 @@ constexpr std::array kKeywords{
     Keyword{kQuality, "cupsPrintQuality"}, Keyword{kQuality, "PrintQuality"},
     Keyword{kQuality, "StpQuality"},       Keyword{kQuality, "HPPrintQuality"},
     Keyword{kQuality, "BRPrintQuality"},   Keyword{kQuality, "OutputMode"},
-    Keyword{kQuality, "Quality"},          Keyword{kMediaType, "MediaType"},
+    Keyword{kQuality, "Quality"},          Keyword{kIppMediaType, "MediaType"},
     Keyword{kMediaSource, "InputSlot"},
 };
 
@@ -49,19 +49,21 @@ constexpr std::array kWords{
     Word{kQuality, "draft", {"Draft", "Fast", "FastDraft", "Economy", "Economode", "Low"}},
     Word{kQuality, "normal", {"Normal", "Standard", "Medium"}},
     Word{kQuality, "high", {"High", "Best", "Photo", "Presentation"}},
-    Word{kMediaType, "stationery", {"Plain", "PlainPaper", "Plain1", "Stationery"}},
-    Word{kMediaType, "photographic", {"Photo", "PhotoPaper", "Photographic"}},
-    Word{kMediaType, "photographic-glossy", {"Glossy", "GlossyPaper", "PhotoGlossy", "GlossyPhoto", "Gloss"}},
-    Word{kMediaType, "photographic-matte", {"Matte", "PhotoMatte", "PhotopaperMatte", "MattePaper"}},
-    Word{kMediaType, "photographic-semi-gloss", {"SemiGloss", "PhotoProSemiGloss", "Satin", "Luster"}},
-    Word{kMediaType, "transparency", {"Transparency", "OHP"}},
-    Word{kMediaType, "envelope", {"Envelope"}},
-    Word{kMediaType, "labels", {"Labels"}},
-    Word{kMediaType, "cardstock", {"Cardstock"}},
-    Word{kMediaType, "stationery-letterhead", {"Letterhead"}},
-    Word{kMediaType, "stationery-preprinted", {"Preprinted"}},
-    Word{kMediaType, "stationery-prepunched", {"Prepunched"}},
-    Word{kMediaType, "auto", {"Auto", "Automatic", "Any"}},
+    Word{kIppMediaType, "stationery", {"Plain", "PlainPaper", "Plain1", "Stationery"}},
+    Word{kIppMediaType, "photographic", {"Photo", "PhotoPaper", "Photographic"}},
+    Word{kIppMediaType,
+         "photographic-glossy",
+         {"Glossy", "GlossyPaper", "PhotoGlossy", "GlossyPhoto", "Gloss"}},
+    Word{kIppMediaType, "photographic-matte", {"Matte", "PhotoMatte", "PhotopaperMatte", "MattePaper"}},
+    Word{kIppMediaType, "photographic-semi-gloss", {"SemiGloss", "PhotoProSemiGloss", "Satin", "Luster"}},
+    Word{kIppMediaType, "transparency", {"Transparency", "OHP"}},
+    Word{kIppMediaType, "envelope", {"Envelope"}},
+    Word{kIppMediaType, "labels", {"Labels"}},
+    Word{kIppMediaType, "cardstock", {"Cardstock"}},
+    Word{kIppMediaType, "stationery-letterhead", {"Letterhead"}},
+    Word{kIppMediaType, "stationery-preprinted", {"Preprinted"}},
+    Word{kIppMediaType, "stationery-prepunched", {"Prepunched"}},
+    Word{kIppMediaType, "auto", {"Auto", "Automatic", "Any"}},
     Word{kMediaSource, "auto", {"Auto", "Automatic", "AutoSelect", "AutoSwitch", "Default"}},
     Word{kMediaSource, "manual", {"Manual", "ManualFeed", "ManualPaper"}},
     Word{kMediaSource, "by-pass-tray", {"MultiPurpose", "MPTray", "Bypass", "MultiTray"}},
@@ -137,7 +139,7 @@ QString wordForChoice(ppd_file_t* file, const QString& attribute, const QMap<QSt
             return QLatin1StringView(word.word);
     }
     const bool isNamedByPrinter =
-        attribute == QLatin1StringView(kMediaType) || attribute == QLatin1StringView(kMediaSource);
+        attribute == QLatin1StringView(kIppMediaType) || attribute == QLatin1StringView(kMediaSource);
     return isNamedByPrinter ? choice : QString();
 }
 

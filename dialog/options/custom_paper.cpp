@@ -17,14 +17,14 @@ namespace halvern {
 namespace {
 
 // Measures go over the wire in hundredths of a millimetre.
-constexpr double kRounding = 0.01 * kPointsPerMillimetre;
+constexpr double kCustomRounding = 0.01 * kPointsPerMillimetre;
 
 QString millimetres(double points)
 {
     return QString::number(std::round(points / kPointsPerMillimetre * 100.0) / 100.0, 'g', 8);
 }
 
-struct Words {
+struct CustomPaperWords {
     Q_DECLARE_TR_FUNCTIONS(CustomPaper)
 };
 
@@ -45,8 +45,10 @@ double pointsIn(const QString& unit)
 
 bool PaperLimits::holds(const QSizeF& points) const
 {
-    return points.width() >= least.width() - kRounding && points.width() <= most.width() + kRounding &&
-           points.height() >= least.height() - kRounding && points.height() <= most.height() + kRounding;
+    return points.width() >= least.width() - kCustomRounding &&
+           points.width() <= most.width() + kCustomRounding &&
+           points.height() >= least.height() - kCustomRounding &&
+           points.height() <= most.height() + kCustomRounding;
 }
 
 std::optional<PaperLimits> paperLimits(ppd_file_t* file)
@@ -88,7 +90,7 @@ QString measuresText(const QSizeF& points, bool isMetric, int decimals)
     const auto number = [&](double length) {
         return locale.toString(std::round(length / unit * steps) / steps, 'g', 7);
     };
-    return (isMetric ? Words::tr("%1 \u00d7 %2 mm") : Words::tr("%1 \u00d7 %2 in"))
+    return (isMetric ? CustomPaperWords::tr("%1 \u00d7 %2 mm") : CustomPaperWords::tr("%1 \u00d7 %2 in"))
         .arg(number(points.width()), number(points.height()));
 }
 

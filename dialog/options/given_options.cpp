@@ -19,13 +19,13 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct GivenOptionsWords {
     Q_DECLARE_TR_FUNCTIONS(GivenOptions)
 };
 
 constexpr qsizetype kMostListed = 20;
 constexpr double kPointsPerPwgUnit = kPointsPerMillimetre / 100.0;
-constexpr double kSamePoints = 1.5;
+constexpr double kGivenTolerance = 1.5;
 
 struct LayoutOption {
     const char* name;
@@ -80,7 +80,7 @@ bool isNamed(const QString& key, const char* name)
     return key.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0;
 }
 
-bool isTrue(const QString& value)
+bool meansYes(const QString& value)
 {
     static const QStringList words{QStringLiteral("true"), QStringLiteral("yes"), QStringLiteral("on"),
                                    QStringLiteral("1")};
@@ -106,8 +106,8 @@ QString sizeWithMeasures(ppd_file_t* file, const pwg_media_t& media)
     const ppd_size_t* best = nullptr;
     for (int i = 0; i < file->num_sizes; ++i) {
         const ppd_size_t& size = file->sizes[i];
-        if (std::abs(double(size.width) - media.width * kPointsPerPwgUnit) > kSamePoints ||
-            std::abs(double(size.length) - media.length * kPointsPerPwgUnit) > kSamePoints)
+        if (std::abs(double(size.width) - media.width * kPointsPerPwgUnit) > kGivenTolerance ||
+            std::abs(double(size.length) - media.length * kPointsPerPwgUnit) > kGivenTolerance)
             continue;
         if (media.ppd && qstricmp(size.name, media.ppd) == 0)
             return QString::fromUtf8(size.name);
@@ -146,11 +146,11 @@ public:
         else if (key == QLatin1StringView("sides"))
             takeSides(option);
         else if (key == QLatin1StringView("fit-to-page") || key == QLatin1StringView("fitplot"))
-            result.page.scaling = isTrue(option.value) ? QStringLiteral("fit") : QStringLiteral("none");
+            result.page.scaling = meansYes(option.value) ? QStringLiteral("fit") : QStringLiteral("none");
         else if (key == QLatin1StringView("print-scaling"))
             takeScaling(option);
         else if (isNamed(key, "Collate"))
-            result.page.isCollated = isTrue(option.value);
+            result.page.isCollated = meansYes(option.value);
         else if (key == QLatin1StringView("multiple-document-handling"))
             result.page.isCollated =
                 option.value != QLatin1StringView("separate-documents-uncollated-copies");
@@ -187,7 +187,7 @@ private:
             if (!size.isEmpty() || key != QLatin1StringView("PageSize"))
                 takeAs(option, key, size.isEmpty() ? name : size);
             else
-                leaveOut(option, Words::tr("The printer has no paper \"%1\".").arg(name) +
+                leaveOut(option, GivenOptionsWords::tr("The printer has no paper \"%1\".").arg(name) +
                                      listSentence(name, sizeNames(file_)));
         }
     }
@@ -218,8 +218,9 @@ private:
             }
         }
         if (option.value != QLatin1StringView("one-sided"))
-            leaveOut(option, Words::tr("The printer has no \"sides=%1\". Leave it out, or use the printer's "
-                                       "own option for two-sided printing.")
+            leaveOut(option, GivenOptionsWords::tr(
+                                 "The printer has no \"sides=%1\". Leave it out, or use the printer's "
+                                 "own option for two-sided printing.")
                                  .arg(option.value));
     }
 
@@ -230,7 +231,8 @@ private:
         else if (option.value.contains(QLatin1StringView("fit")) || option.value == QLatin1StringView("auto"))
             result.page.scaling = QStringLiteral("fit");
         else
-            leaveOut(option, Words::tr("\"%1\" is no way to scale. Write print-scaling=fit, fill or none.")
+            leaveOut(option, GivenOptionsWords::tr(
+                                 "\"%1\" is no way to scale. Write print-scaling=fit, fill or none.")
                                  .arg(option.value));
     }
 
@@ -240,9 +242,9 @@ private:
         if (kWords.contains(option.value))
             result.page.pageSet = option.value;
         else
-            leaveOut(
-                option,
-                Words::tr("\"%1\" is no set of pages. Write page-set=all, odd or even.").arg(option.value));
+            leaveOut(option,
+                     GivenOptionsWords::tr("\"%1\" is no set of pages. Write page-set=all, odd or even.")
+                         .arg(option.value));
     }
 
     void takeOrder(const GivenOption& option)
@@ -250,7 +252,8 @@ private:
         if (option.value == QLatin1StringView("normal") || option.value == QLatin1StringView("reverse"))
             result.page.isReversed = option.value == QLatin1StringView("reverse");
         else
-            leaveOut(option, Words::tr("\"%1\" is no order of pages. Write outputorder=normal or reverse.")
+            leaveOut(option, GivenOptionsWords::tr(
+                                 "\"%1\" is no order of pages. Write outputorder=normal or reverse.")
                                  .arg(option.value));
     }
 
@@ -261,20 +264,23 @@ private:
         });
         if (layout != kLayoutOptions.end()) {
             if (option.value.compare(QLatin1StringView(layout->harmless), Qt::CaseInsensitive) != 0)
-                leaveOut(option, Words::tr("\"%1=%2\" is not possible: the page is laid out before it is "
-                                           "sent, one photo on each. Leave it out.")
-                                     .arg(option.key, option.value));
+                leaveOut(option,
+                         GivenOptionsWords::tr("\"%1=%2\" is not possible: the page is laid out before it is "
+                                               "sent, one photo on each. Leave it out.")
+                             .arg(option.key, option.value));
             return true;
         }
         if (option.key == QLatin1StringView("copies")) {
-            leaveOut(option, Words::tr("The number of copies is no option of the printer. Give it with "
-                                       "--copies."));
+            leaveOut(option,
+                     GivenOptionsWords::tr("The number of copies is no option of the printer. Give it with "
+                                           "--copies."));
             return true;
         }
         if (!contains(kTwins, option.key) || ppd_lookup::option(file_, option.key))
             return false;
-        leaveOut(option, Words::tr("\"%1\" is set by the printer's own options here. \"lpoptions -p QUEUE "
-                                   "-l\" lists them.")
+        leaveOut(option, GivenOptionsWords::tr(
+                             "\"%1\" is set by the printer's own options here. \"lpoptions -p QUEUE "
+                             "-l\" lists them.")
                              .arg(option.key));
         return true;
     }
@@ -319,7 +325,8 @@ bool isJobAttribute(const QString& key)
 QString meantSentence(const QString& wanted, const QStringList& names)
 {
     const QStringList near = nearNames(wanted, names);
-    return near.isEmpty() ? QString() : QLatin1Char(' ') + Words::tr("Did you mean %1?").arg(listText(near));
+    return near.isEmpty() ? QString()
+                          : QLatin1Char(' ') + GivenOptionsWords::tr("Did you mean %1?").arg(listText(near));
 }
 
 QString listSentence(const QString& wanted, const QStringList& names)
@@ -327,8 +334,8 @@ QString listSentence(const QString& wanted, const QStringList& names)
     const QString list = listText(names.mid(0, kMostListed));
     const qsizetype more = names.size() - kMostListed;
     return meantSentence(wanted, names) + QLatin1Char(' ') +
-           (more > 0 ? Words::tr("It has: %1 and %2 more.").arg(list, QString::number(more))
-                     : Words::tr("It has: %1.").arg(list));
+           (more > 0 ? GivenOptionsWords::tr("It has: %1 and %2 more.").arg(list, QString::number(more))
+                     : GivenOptionsWords::tr("It has: %1.").arg(list));
 }
 
 } // namespace halvern

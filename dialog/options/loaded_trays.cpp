@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/loaded_trays.h"
+#include "dialog/options/page_size_keyword.h"
+#include "dialog/options/paper_shape.h"
 
 #include "dialog/options/ipp_twins.h"
 #include "dialog/options/ppd_model.h"
@@ -12,12 +14,10 @@ namespace halvern {
 
 namespace {
 
-const QString kPageSize = QStringLiteral("PageSize");
 const QString kInputSlot = QStringLiteral("InputSlot");
 const QString kMediaType = QStringLiteral("MediaType");
 // PPDs count in whole points, printers in hundredths of a millimetre.
-constexpr double kSamePoints = 2.0;
-constexpr double kNoMargin = 0.5;
+constexpr double kLoadedTolerance = 2.0;
 
 // "photographic-glossy" and "PhotographicGlossy" are the same.
 QString plainForm(const QString& keyword)
@@ -45,13 +45,7 @@ QString choiceLike(const PpdModel& model, const QString& key, const QString& key
 
 bool isSameLength(double a, double b)
 {
-    return std::abs(a - b) <= kSamePoints;
-}
-
-bool isWithoutMargins(const ppd_size_t& size)
-{
-    return double(size.left) < kNoMargin && double(size.bottom) < kNoMargin &&
-           double(size.width - size.right) < kNoMargin && double(size.length - size.top) < kNoMargin;
+    return std::abs(a - b) <= kLoadedTolerance;
 }
 
 // The chosen one goes before its neighbours, then what has the same margins.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/page_fit.h"
+#include "dialog/options/page_size_keyword.h"
+#include "dialog/options/paper_shape.h"
 
 #include "dialog/options/ppd_model.h"
 #include "platform/foundation/display_text.h"
@@ -20,24 +22,18 @@ namespace halvern {
 
 namespace {
 
-const QString kPageSize = QStringLiteral("PageSize");
 const QString kPaperWidth = QStringLiteral("PaperWidth");
 const QString kResolution = QStringLiteral("Resolution");
 const QString kPaperName = QStringLiteral("PaperName");
 
 // Names are round: "102x152" is 101.6 by 152.4 mm, and "127x178" is 127 by 177.8.
-constexpr double kRounding = 1.0;
+constexpr double kFitRounding = 1.0;
 // Below, "13x18" may be centimetres, and "8x10" inches.
 constexpr double kLeastMillimetres = 50.0;
 
 struct FitWords {
     Q_DECLARE_TR_FUNCTIONS(PageFit)
 };
-
-QSizeF upright(const QSizeF& size)
-{
-    return {std::min(size.width(), size.height()), std::max(size.width(), size.height())};
-}
 
 double tenthsOf(const QString& code)
 {
@@ -62,7 +58,7 @@ std::array<double, 3> rank(const QSizeF& page, const QSizeF& wanted, const Paper
         return {0.0, 0.0, -area(page)};
     const double roll = room.width.value_or(0.0);
     const auto isAsWide = [roll](double points) {
-        return std::abs(points / kPointsPerMillimetre - roll) <= kRounding;
+        return std::abs(points / kPointsPerMillimetre - roll) <= kFitRounding;
     };
     const bool fills = isAsWide(page.width()) || isAsWide(page.height());
     return {fills ? 0.0 : 1.0, std::abs(stretch(page) - stretch(wanted)), -area(page)};
@@ -114,9 +110,9 @@ bool isOn(const QSizeF& page, const PaperRoom& room)
     if (!room.width)
         return true;
     if (!room.length)
-        return sides.width() <= *room.width + kRounding;
+        return sides.width() <= *room.width + kFitRounding;
     const QSizeF paper = upright(QSizeF(*room.width, *room.length));
-    return sides.width() <= paper.width() + kRounding && sides.height() <= paper.height() + kRounding;
+    return sides.width() <= paper.width() + kFitRounding && sides.height() <= paper.height() + kFitRounding;
 }
 
 QString bestPage(const QList<NamedPage>& pages, const QSizeF& wanted, const PaperRoom& room)

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/paper_sizes.h"
+#include "dialog/options/page_size_keyword.h"
+#include "dialog/options/paper_shape.h"
 
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_model.h"
@@ -17,12 +19,10 @@ namespace halvern {
 
 namespace {
 
-const QString kPageSize = QStringLiteral("PageSize");
-constexpr double kSamePoints = 1.2;
-constexpr double kNoMargin = 0.5;
+constexpr double kListedTolerance = 1.2;
 constexpr double kSameMillimetres = 1.0;
 
-struct Words {
+struct PaperSizesWords {
     Q_DECLARE_TR_FUNCTIONS(PaperSizes)
 };
 
@@ -53,15 +53,11 @@ constexpr std::array kUsInches{
     Measures{18, 24},   Measures{22, 34},     Measures{30, 42},  Measures{34, 44},  Measures{36, 48},
 };
 
-QSizeF upright(const QSizeF& size)
-{
-    return size.width() > size.height() ? size.transposed() : size;
-}
-
 bool isSame(const QSizeF& a, const QSizeF& b)
 {
     const QSizeF difference = upright(a) - upright(b);
-    return std::abs(difference.width()) <= kSamePoints && std::abs(difference.height()) <= kSamePoints;
+    return std::abs(difference.width()) <= kListedTolerance &&
+           std::abs(difference.height()) <= kListedTolerance;
 }
 
 template <size_t N> bool isAmong(const std::array<Measures, N>& all, const QSizeF& points, double unit)
@@ -95,12 +91,6 @@ PaperGroup groupOf(const PaperSize& size)
     if (isIso(size.points))
         return PaperGroup::iso;
     return isAmong(kUsInches, size.points, kPointsPerInch) ? PaperGroup::us : PaperGroup::other;
-}
-
-bool isWithoutMargins(const ppd_size_t& size)
-{
-    return double(size.left) < kNoMargin && double(size.bottom) < kNoMargin &&
-           double(size.width - size.right) < kNoMargin && double(size.length - size.top) < kNoMargin;
 }
 
 // "4x6.Fullbleed" and "TA4" belong to "4x6" and "A4"; so does what has the other's words and some more.
@@ -176,23 +166,23 @@ QString groupText(PaperGroup group)
 {
     switch (group) {
     case PaperGroup::loaded:
-        return Words::tr("For the loaded paper");
+        return PaperSizesWords::tr("For the loaded paper");
     case PaperGroup::recent:
-        return Words::tr("Used last");
+        return PaperSizesWords::tr("Used last");
     case PaperGroup::own:
-        return Words::tr("Your sizes");
+        return PaperSizesWords::tr("Your sizes");
     case PaperGroup::photo:
-        return Words::tr("Photo sizes");
+        return PaperSizesWords::tr("Photo sizes");
     case PaperGroup::roll:
-        return Words::tr("Roll");
+        return PaperSizesWords::tr("Roll");
     case PaperGroup::iso:
-        return Words::tr("ISO");
+        return PaperSizesWords::tr("ISO");
     case PaperGroup::us:
-        return Words::tr("US");
+        return PaperSizesWords::tr("US");
     case PaperGroup::other:
         break;
     }
-    return Words::tr("Other sizes");
+    return PaperSizesWords::tr("Other sizes");
 }
 
 QString searchForm(const QString& typed)

@@ -15,14 +15,14 @@ namespace halvern::ppd_lookup {
 
 namespace {
 
-struct Words {
+struct PpdLookupWords {
     Q_DECLARE_TR_FUNCTIONS(PpdLookup)
 };
 
 QString outsideLimits(const QString& optionText, double low, double high)
 {
     const QLocale locale;
-    return Words::tr("%1 must be a number from %2 to %3.")
+    return PpdLookupWords::tr("%1 must be a number from %2 to %3.")
         .arg(optionText, locale.toString(low), locale.toString(high));
 }
 
@@ -48,7 +48,7 @@ QString lengthProblem(const QString& optionText, const QString& value, int low, 
     const qsizetype length = value.toUtf8().size();
     if (length >= low && length <= high)
         return {};
-    return Words::tr("%1 must have %2 to %3 characters.").arg(optionText).arg(low).arg(high);
+    return PpdLookupWords::tr("%1 must have %2 to %3 characters.").arg(optionText).arg(low).arg(high);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/ppd_model.h"
+#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/ppd_lookup.h"
@@ -14,11 +15,10 @@ namespace halvern {
 namespace {
 
 constexpr char kCustomPrefix[] = "Custom.";
-constexpr char kPageSize[] = "PageSize";
 
 bool isPageSize(const QString& key)
 {
-    return key == QLatin1StringView(kPageSize);
+    return key == kPageSize;
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct PresetWords {
     Q_DECLARE_TR_FUNCTIONS(Presets)
 };
 
@@ -107,7 +107,7 @@ PresetDocument readPresetDocument(const QByteArray& text)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     const QJsonObject root = document.object();
-    const QString notOurs = Words::tr("It holds no presets of this program.");
+    const QString notOurs = PresetWords::tr("It holds no presets of this program.");
     if (!document.isObject())
         return {{}, error.error == QJsonParseError::NoError ? notOurs : error.errorString(), true};
     if (root.value(QStringLiteral("schema")).toString() != kSchema)
@@ -116,7 +116,7 @@ PresetDocument readPresetDocument(const QByteArray& text)
     if (version < 1)
         return {{}, notOurs, true};
     if (version > kVersion)
-        return {{}, Words::tr("It was written by a newer version of this program."), false};
+        return {{}, PresetWords::tr("It was written by a newer version of this program."), false};
     return {root, {}, false};
 }
 
@@ -148,12 +148,12 @@ QByteArray presetText(const QJsonObject& root)
 
 QString printerDefaultsName()
 {
-    return Words::tr("Printer Defaults");
+    return PresetWords::tr("Printer Defaults");
 }
 
 QString lastUsedName()
 {
-    return Words::tr("Last Used");
+    return PresetWords::tr("Last Used");
 }
 
 bool isPrinterDefaultsName(const QString& name)

@@ -21,7 +21,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct PresetFileWords {
     Q_DECLARE_TR_FUNCTIONS(Presets)
 };
 
@@ -61,13 +61,13 @@ ReadFile readWhole(const QString& path)
 {
     // A pipe would never end.
     if (!QFileInfo(path).isFile())
-        return {{}, Words::tr("It is no file."), true};
+        return {{}, PresetFileWords::tr("It is no file."), true};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {{}, file.errorString(), false};
     const QByteArray text = file.read(kLargestFile + 1);
     if (text.size() > kLargestFile)
-        return {{}, Words::tr("It is too large."), true};
+        return {{}, PresetFileWords::tr("It is too large."), true};
     return {text, file.error() == QFileDevice::NoError ? QString() : file.errorString(), false};
 }
 
@@ -75,7 +75,7 @@ ReadFile readWhole(const QString& path)
 QString writeWhole(const QString& path, const QByteArray& text)
 {
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return Words::tr("It is no file.");
+        return PresetFileWords::tr("It is no file.");
     return writeWholeFile(path, text, NewFile::forMyself);
 }
 
@@ -92,7 +92,7 @@ QString putInto(QJsonArray& presets, const Preset& preset)
 {
     const qsizetype at = indexOf(presets, preset.name);
     if (at < 0 && presets.size() >= kMostPresets)
-        return Words::tr("There are %1 presets already. Delete one first.").arg(kMostPresets);
+        return PresetFileWords::tr("There are %1 presets already. Delete one first.").arg(kMostPresets);
     if (at < 0)
         presets.append(toJson(preset));
     else
@@ -102,7 +102,7 @@ QString putInto(QJsonArray& presets, const Preset& preset)
 
 QString noSuchPreset(const QString& name)
 {
-    return Words::tr("The preset \"%1\" is not there any more.").arg(name);
+    return PresetFileWords::tr("The preset \"%1\" is not there any more.").arg(name);
 }
 
 } // namespace
@@ -129,9 +129,10 @@ QString PresetFile::setAside(const QString& why) const
     const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
     const QString aside = path_ + QStringLiteral(".damaged-") + stamp;
     if (std::rename(QFile::encodeName(path_).constData(), QFile::encodeName(aside).constData()) != 0)
-        return Words::tr("The presets of \"%1\" cannot be read, and %2 cannot be moved away. %3")
+        return PresetFileWords::tr("The presets of \"%1\" cannot be read, and %2 cannot be moved away. %3")
             .arg(queue_, path_, why);
-    return Words::tr("The presets of \"%1\" could not be read, and begin anew. What was there is in %2. %3")
+    return PresetFileWords::tr(
+               "The presets of \"%1\" could not be read, and begin anew. What was there is in %2. %3")
         .arg(queue_, aside, why);
 }
 
@@ -140,7 +141,7 @@ KeptPresets PresetFile::read() const
     try {
         return readKept();
     } catch (const std::bad_alloc&) {
-        return {{}, {}, Words::tr("There is not enough memory to read the presets.")};
+        return {{}, {}, PresetFileWords::tr("There is not enough memory to read the presets.")};
     }
 }
 
@@ -157,7 +158,8 @@ KeptPresets PresetFile::readKept() const
             return {{}, {}, setAside(document.problem)};
     }
     if (!document.problem.isEmpty())
-        return {{}, {}, Words::tr("The presets in %1 cannot be used. %2").arg(path_, document.problem)};
+        return {
+            {}, {}, PresetFileWords::tr("The presets in %1 cannot be used. %2").arg(path_, document.problem)};
     KeptPresets kept;
     int unreadable = 0;
     kept.presets = presetsOf(document.root, &unreadable);
@@ -166,21 +168,23 @@ KeptPresets PresetFile::readKept() const
     if (document.root.contains(kLastUsed))
         kept.lastUsed = presetFromJson(document.root.value(kLastUsed).toObject());
     if (unreadable > 0 || (document.root.contains(kLastUsed) && !kept.lastUsed))
-        kept.problem = Words::tr("Some presets in %1 cannot be read and are left alone.").arg(path_);
+        kept.problem =
+            PresetFileWords::tr("Some presets in %1 cannot be read and are left alone.").arg(path_);
     return kept;
 }
 
 QString PresetFile::change(const Edit& edit) const
 {
     const auto failed = [this](const QString& why) {
-        return Words::tr("The presets of \"%1\" could not be written to %2. %3").arg(queue_, path_, why);
+        return PresetFileWords::tr("The presets of \"%1\" could not be written to %2. %3")
+            .arg(queue_, path_, why);
     };
     if (!QDir().mkpath(folder()))
-        return failed(Words::tr("The folder cannot be made."));
+        return failed(PresetFileWords::tr("The folder cannot be made."));
     const QString lockPath = path_ + QStringLiteral(".lock");
     const FileLock lock(lockPath, kLockMilliseconds);
     if (!lock.isHeld())
-        return failed(Words::tr("Another program holds the lock %1.").arg(lockPath));
+        return failed(PresetFileWords::tr("Another program holds the lock %1.").arg(lockPath));
     PresetDocument document = load();
     if (document.isDamaged) {
         // Told where it was read first.
@@ -194,7 +198,7 @@ QString PresetFile::change(const Edit& edit) const
         return refusal;
     const QByteArray text = presetText(document.root);
     const QString problem =
-        text.size() > kLargestFile ? Words::tr("It would be too large.") : writeWhole(path_, text);
+        text.size() > kLargestFile ? PresetFileWords::tr("It would be too large.") : writeWhole(path_, text);
     return problem.isEmpty() ? problem : failed(problem);
 }
 
@@ -216,7 +220,7 @@ QString PresetFile::rename(const QString& from, const QString& to) const
         if (at < 0)
             return noSuchPreset(from);
         if (from != to && indexOf(presets, to) >= 0)
-            return Words::tr("There is a preset \"%1\" already. Choose another name.").arg(to);
+            return PresetFileWords::tr("There is a preset \"%1\" already. Choose another name.").arg(to);
         QJsonObject renamed = presets[at].toObject();
         renamed.insert(kName, to);
         presets[at] = renamed;
@@ -292,7 +296,7 @@ QList<QueuesPreset> presetsForModel(const QString& makeAndModel, const QString& 
 ImportedPresets importPresets(const QString& path)
 {
     const auto failed = [&](const QString& why) {
-        return ImportedPresets{{}, Words::tr("No presets were read from %1. %2").arg(path, why)};
+        return ImportedPresets{{}, PresetFileWords::tr("No presets were read from %1. %2").arg(path, why)};
     };
     const ReadFile file = readWhole(path);
     if (!file.problem.isEmpty())
@@ -303,10 +307,11 @@ ImportedPresets importPresets(const QString& path)
     int unreadable = 0;
     const QList<Preset> presets = presetsOf(document.root, &unreadable).mid(0, kMostPresets);
     if (presets.isEmpty())
-        return failed(Words::tr("There is none in it that can be read."));
-    return {presets, unreadable > 0
-                         ? Words::tr("Some presets in %1 cannot be read and were left out.").arg(path)
-                         : QString()};
+        return failed(PresetFileWords::tr("There is none in it that can be read."));
+    return {presets,
+            unreadable > 0
+                ? PresetFileWords::tr("Some presets in %1 cannot be read and were left out.").arg(path)
+                : QString()};
 }
 
 QString exportPresets(const QString& path, const QList<Preset>& presets)
@@ -317,8 +322,9 @@ QString exportPresets(const QString& path, const QList<Preset>& presets)
     QJsonObject root = emptyPresetDocument();
     root.insert(kPresets, entries);
     const QString problem = writeWhole(path, presetText(root));
-    return problem.isEmpty() ? problem
-                             : Words::tr("The presets could not be written to %1. %2").arg(path, problem);
+    return problem.isEmpty()
+               ? problem
+               : PresetFileWords::tr("The presets could not be written to %1. %2").arg(path, problem);
 }
 
 } // namespace halvern

@@ -11,9 +11,9 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLongestName = 200;
+constexpr int kLongestProfileName = 200;
 
-OpenProfile held(cmsHPROFILE profile)
+OpenProfile heldProfile(cmsHPROFILE profile)
 {
     return {profile, [](void* p) {
                 if (p)
@@ -25,7 +25,7 @@ OpenProfile makeGray()
 {
     // Little CMS has sRGB for three channels; one channel takes the same curve.
     cmsToneCurve* tone = cmsBuildParametricToneCurve(nullptr, 4, kSrgbCurve.data());
-    OpenProfile profile = held(cmsCreateGrayProfile(cmsD50_xyY(), tone));
+    OpenProfile profile = heldProfile(cmsCreateGrayProfile(cmsD50_xyY(), tone));
     cmsFreeToneCurve(tone);
     return profile;
 }
@@ -37,7 +37,7 @@ OpenProfile makeAdobeRgb()
     const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.21, 0.71, 1.0}, {0.15, 0.06, 1.0}};
     cmsToneCurve* tone = cmsBuildGamma(nullptr, 563.0 / 256.0);
     const std::array<cmsToneCurve*, 3> tones{tone, tone, tone};
-    OpenProfile profile = held(cmsCreateRGBProfile(&white, &primaries, tones.data()));
+    OpenProfile profile = heldProfile(cmsCreateRGBProfile(&white, &primaries, tones.data()));
     cmsFreeToneCurve(tone);
     return profile;
 }
@@ -70,13 +70,14 @@ OpenProfile openProfile(const QByteArray& bytes)
 {
     if (bytes.isEmpty())
         return nullptr;
-    OpenProfile profile = held(cmsOpenProfileFromMem(bytes.constData(), cmsUInt32Number(bytes.size())));
+    OpenProfile profile =
+        heldProfile(cmsOpenProfileFromMem(bytes.constData(), cmsUInt32Number(bytes.size())));
     return profile && isOfPixels(profile.get()) && channelsOf(profile) > 0 ? profile : nullptr;
 }
 
 OpenProfile srgbProfile(bool isGray)
 {
-    static const OpenProfile colours = held(cmsCreate_sRGBProfile());
+    static const OpenProfile colours = heldProfile(cmsCreate_sRGBProfile());
     static const OpenProfile grays = makeGray();
     return isGray ? grays : colours;
 }
@@ -123,7 +124,7 @@ bool canConvertTo(const OpenProfile& profile)
 
 QString profileName(const OpenProfile& profile)
 {
-    std::array<wchar_t, kLongestName> name = {};
+    std::array<wchar_t, kLongestProfileName> name = {};
     cmsGetProfileInfo(profile.get(), cmsInfoDescription, "en", "US", name.data(),
                       cmsUInt32Number(name.size() * sizeof(wchar_t)));
     name.back() = L'\0';

@@ -23,7 +23,7 @@ constexpr int kSoonMilliseconds = 200;
 constexpr const char* kService = "org.freedesktop.ColorManager";
 constexpr const char* kPath = "/org/freedesktop/ColorManager";
 constexpr const char* kDevice = "org.freedesktop.ColorManager.Device";
-constexpr const char* kProfile = "org.freedesktop.ColorManager.Profile";
+constexpr const char* kProfileInterface = "org.freedesktop.ColorManager.Profile";
 
 struct CloseBus {
     void operator()(sd_bus* bus) const
@@ -144,7 +144,7 @@ QString servicesProfileForQueue(const QString& queue)
     sd_bus_call_method(bus.get(), kService, device.constData(), kDevice, "GetProfileForQualifiers", nullptr,
                        &reply, "as", 1, "*");
     const QByteArray profile = pathAnswer(Message(reply).get());
-    return profile.isEmpty() ? QString() : textProperty(bus.get(), profile, kProfile, "Filename");
+    return profile.isEmpty() ? QString() : textProperty(bus.get(), profile, kProfileInterface, "Filename");
 }
 
 QString servicesProfileForScreen(const ScreenName& screen)
@@ -154,7 +154,8 @@ QString servicesProfileForScreen(const ScreenName& screen)
     if (device.isEmpty())
         return {};
     const QList<QByteArray> profiles = paths(property(bus.get(), device, kDevice, "Profiles", "ao").get());
-    return profiles.isEmpty() ? QString() : textProperty(bus.get(), profiles.first(), kProfile, "Filename");
+    return profiles.isEmpty() ? QString()
+                              : textProperty(bus.get(), profiles.first(), kProfileInterface, "Filename");
 }
 
 ColourServiceWatch::ColourServiceWatch(QObject* parent)

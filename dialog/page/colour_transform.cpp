@@ -16,8 +16,8 @@ namespace halvern {
 
 namespace {
 
-constexpr int kSteps = 6; // of each channel, when a conversion is tried on samples
-constexpr int kStep = 255 / (kSteps - 1);
+constexpr int kSampleSteps = 6; // of each channel, when a conversion is tried on samples
+constexpr int kStep = 255 / (kSampleSteps - 1);
 constexpr qsizetype kLeastPixels = 32 * 1024; // that are worth another core
 constexpr qsizetype kMostPixels = 1 << 24;    // in one call of Little CMS
 constexpr qsizetype kInkPixels = 4096;
@@ -44,8 +44,9 @@ std::vector<uchar> samples(int channels)
             numbers.push_back(uchar(v));
         return numbers;
     }
-    for (int i = 0; i < kSteps * kSteps * kSteps; ++i) {
-        for (const int step : {i % kSteps, i / kSteps % kSteps, i / kSteps / kSteps})
+    for (int i = 0; i < kSampleSteps * kSampleSteps * kSampleSteps; ++i) {
+        for (const int step :
+             {i % kSampleSteps, i / kSampleSteps % kSampleSteps, i / kSampleSteps / kSampleSteps})
             numbers.push_back(uchar(step * kStep));
     }
     return numbers;

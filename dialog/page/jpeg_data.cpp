@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_data.h"
+#include "dialog/page/jpeg_markers.h"
 
 #include "dialog/page/jpeg_scan.h"
 #include "dialog/photo/exif_notes.h"
@@ -12,12 +13,10 @@ namespace halvern {
 
 namespace {
 
-constexpr int kPadding = 0xFF;
-constexpr int kBaseline = 0xC0;
-constexpr int kExtended = 0xC1;
+using namespace jpeg_marker;
+
 constexpr int kProgressive = 0xC2;
 constexpr int kLastFrame = 0xCF;
-constexpr int kHuffmanTables = 0xC4;
 constexpr int kReserved = 0xC8;
 constexpr int kArithmeticTables = 0xCC;
 constexpr int kJfif = 0xE0;

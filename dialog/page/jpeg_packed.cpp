@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_packed.h"
+#include "dialog/page/jpeg_markers.h"
 
 #include <QtEndian>
 
@@ -10,9 +11,9 @@ namespace halvern {
 
 namespace {
 
+using namespace jpeg_marker;
+
 constexpr int kNone = JpegWalker::kNone;
-constexpr int kPadding = 0xFF;
-constexpr int kFirstRestart = 0xD0;
 constexpr int kRestarts = 8;
 constexpr int kWordBytes = 8;
 constexpr int kEnough = 32; // bits: more than the longest step

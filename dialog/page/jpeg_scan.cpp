@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_scan.h"
+#include "dialog/page/jpeg_markers.h"
 
 #include "dialog/page/jpeg_packed.h"
 
@@ -11,20 +12,18 @@ namespace halvern {
 
 namespace {
 
-constexpr qint64 kMostHead = 64 * 1024 * 1024; // previews and profiles stand there
-constexpr int kBlock = 8;                      // pixels
+using namespace jpeg_marker;
+
+constexpr qint64 kMostBeforeScan = 64 * 1024 * 1024; // previews and profiles stand there
+constexpr int kBlock = 8;                            // pixels
 constexpr int kMostComponents = 4;
-constexpr int kMostEdge = 65500; // of what decoders read
+constexpr int kMostJpegEdge = 65500; // of what decoders read
 constexpr int kMostSampling = 4;
 constexpr int kMostBlocks = 10; // of a scan's repeated part
 constexpr int kTables = 4;
-constexpr int kSteps = 64; // in a table by which the numbers were divided
+constexpr int kDivisors = 64; // in a table by which the numbers were divided
 constexpr int kCounts = 16;
 
-constexpr int kBaseline = 0xC0;
-constexpr int kExtended = 0xC1;
-constexpr int kHuffmanTables = 0xC4;
-constexpr int kFirstRestart = 0xD0;
 constexpr int kLastRestart = 0xD7;
 constexpr int kStartOfImage = 0xD8;
 constexpr int kEndOfImage = 0xD9;
@@ -121,8 +120,8 @@ private:
         const bool isWholeMultiple = std::all_of(components_.begin(), components_.end(), [&](const auto& c) {
             return across_ % c.across == 0 && down_ % c.down == 0;
         });
-        return isWholeMultiple && count != 2 && width_ > 0 && width_ <= kMostEdge && height_ > 0 &&
-               height_ <= kMostEdge;
+        return isWholeMultiple && count != 2 && width_ > 0 && width_ <= kMostJpegEdge && height_ > 0 &&
+               height_ <= kMostJpegEdge;
     }
 
     bool takeTables(const QByteArray& body)
@@ -153,7 +152,7 @@ private:
             if ((name & 15) >= kTables || name >> 4 > 1)
                 return false;
             hasDivisors_[size_t(name & 15)] = true;
-            at += 1 + kSteps * (1 + (name >> 4));
+            at += 1 + kDivisors * (1 + (name >> 4));
         }
         return at == body.size();
     }
@@ -217,7 +216,7 @@ QByteArray readJpegHead(QIODevice& file)
             return {};
     }
     const qint64 length = walker.position();
-    return length <= kMostHead && file.seek(0) ? file.read(length) : QByteArray();
+    return length <= kMostBeforeScan && file.seek(0) ? file.read(length) : QByteArray();
 }
 
 bool isJpegInOrder(QIODevice& file)

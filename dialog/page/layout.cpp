@@ -15,13 +15,12 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct LayoutWords {
     Q_DECLARE_TR_FUNCTIONS(Layouts)
 };
 
 constexpr int kVersion = 1;
 constexpr qsizetype kMostCells = 200;
-constexpr int kLongestName = 80;
 constexpr double kMostGap = 100.0; // millimetres
 const QString kSchema = QStringLiteral("halvern-layout");
 
@@ -45,7 +44,7 @@ public:
             return otherwise;
         const double found = value.toDouble(least - 1.0);
         if (found < least || found > most) {
-            wrong(Words::tr("\"%1\" is no number from %2 to %3.")
+            wrong(LayoutWords::tr("\"%1\" is no number from %2 to %3.")
                       .arg(QLatin1StringView(name), QString::number(least), QString::number(most)));
             return otherwise;
         }
@@ -61,7 +60,7 @@ public:
     {
         const QJsonValue value = object_.value(QLatin1StringView(name));
         if (!value.isUndefined() && !value.isBool())
-            wrong(Words::tr("\"%1\" is neither true nor false.").arg(QLatin1StringView(name)));
+            wrong(LayoutWords::tr("\"%1\" is neither true nor false.").arg(QLatin1StringView(name)));
         return value.toBool();
     }
 
@@ -78,7 +77,7 @@ public:
                                return each >= 0.0 && each <= most;
                            });
         if (!isFit) {
-            wrong(Words::tr("A measure is not written as %1 numbers from 0 to %2.")
+            wrong(LayoutWords::tr("A measure is not written as %1 numbers from 0 to %2.")
                       .arg(QString::number(count), QString::number(most)));
             return QList<double>(count, 0.0);
         }
@@ -105,7 +104,7 @@ bool isPhotoSize(const QSizeF& size)
 
 QString badPhotoSize()
 {
-    return Words::tr("A photo is not from %1 to %2 mm wide and high.")
+    return LayoutWords::tr("A photo is not from %1 to %2 mm wide and high.")
         .arg(QString::number(kLeastPhoto), QString::number(kMostPhoto));
 }
 
@@ -114,7 +113,7 @@ QString nameIn(const QJsonObject& object)
     const QString language = QLocale().name().section(QLatin1Char('_'), 0, 0);
     const QJsonObject names = object.value(QLatin1StringView("names")).toObject();
     const QString name = names.value(language).toString(object.value(QLatin1StringView("name")).toString());
-    return displayText(name, kLongestName).trimmed();
+    return displayText(name, kLongestLayoutName).trimmed();
 }
 
 void readKind(Members& members, const QJsonObject& object, Layout& layout)
@@ -123,7 +122,7 @@ void readKind(Members& members, const QJsonObject& object, Layout& layout)
     const auto row = std::ranges::find_if(
         kKinds, [&](const KindRow& each) { return word == QLatin1StringView(each.word); });
     if (row == kKinds.end()) {
-        members.wrong(Words::tr("\"kind\" is none of grid, size, cells and pack."));
+        members.wrong(LayoutWords::tr("\"kind\" is none of grid, size, cells and pack."));
         return;
     }
     layout.kind = row->kind;
@@ -133,7 +132,7 @@ void readKind(Members& members, const QJsonObject& object, Layout& layout)
     } else if (layout.kind == LayoutKind::cells) {
         const QJsonArray cells = object.value(QLatin1StringView("cells")).toArray();
         if (cells.isEmpty() || cells.size() > kMostCells)
-            members.wrong(Words::tr("\"cells\" does not hold 1 to %1 places.").arg(kMostCells));
+            members.wrong(LayoutWords::tr("\"cells\" does not hold 1 to %1 places.").arg(kMostCells));
         for (const QJsonValue& cell : cells) {
             const QList<double> at = members.numbers(cell, 4, kMostPhoto);
             layout.cells.append(QRectF(at[0], at[1], at[2], at[3]));
@@ -160,14 +159,14 @@ void readDefaults(Members& members, Layout& layout)
     layout.margin = members.number("margin", 0.0, kMostMargin, 0.0);
     layout.caption = members.text("caption");
     if (layout.caption.size() > kLongestCaption)
-        members.wrong(Words::tr("\"caption\" is longer than %1 characters.").arg(kLongestCaption));
+        members.wrong(LayoutWords::tr("\"caption\" is longer than %1 characters.").arg(kLongestCaption));
     const QString scaling = members.text("scaling");
     if (scaling == QLatin1StringView("fill"))
         layout.scaling = Scaling::fill;
     else if (scaling == QLatin1StringView("fit"))
         layout.scaling = Scaling::fit;
     else if (!scaling.isEmpty())
-        members.wrong(Words::tr("\"scaling\" is neither fit nor fill."));
+        members.wrong(LayoutWords::tr("\"scaling\" is neither fit nor fill."));
 }
 
 } // namespace
@@ -240,7 +239,7 @@ std::optional<Layout> layoutOfMeasures(const QString& id)
         layout.columns = int(measure.height());
         layout.gap = 4.0;
         const bool isWhole = layout.rows == measure.width() && layout.columns == measure.height();
-        layout.name = Words::tr("%1 rows of %2").arg(layout.rows).arg(layout.columns);
+        layout.name = LayoutWords::tr("%1 rows of %2").arg(layout.rows).arg(layout.columns);
         const bool isPossible = layout.rows >= 1 && layout.columns >= 1 && layout.rows <= kMostRows &&
                                 layout.columns <= kMostRows;
         return isWhole && isPossible ? std::optional(layout) : std::nullopt;
@@ -251,7 +250,7 @@ std::optional<Layout> layoutOfMeasures(const QString& id)
     layout.turnsPhotos = true;
     layout.scaling = Scaling::fill;
     layout.name =
-        Words::tr("Photos of %1 × %2 %3").arg(match.captured(1), match.captured(2), match.captured(3));
+        LayoutWords::tr("Photos of %1 × %2 %3").arg(match.captured(1), match.captured(2), match.captured(3));
     return isPhotoSize(layout.photo) ? std::optional(layout) : std::nullopt;
 }
 
@@ -259,14 +258,14 @@ ReadLayout layoutFromJson(const QJsonObject& object, const QString& id)
 {
     Members members(object);
     if (members.text("schema") != kSchema)
-        return {{}, Words::tr("It is no layout: \"schema\" is not \"%1\".").arg(kSchema)};
+        return {{}, LayoutWords::tr("It is no layout: \"schema\" is not \"%1\".").arg(kSchema)};
     if (object.value(QLatin1StringView("version")).toInt(0) != kVersion)
-        return {{}, Words::tr("It is of another version of this program.")};
+        return {{}, LayoutWords::tr("It is of another version of this program.")};
     Layout layout;
     layout.id = id;
     layout.name = nameIn(object);
     if (layout.name.isEmpty())
-        members.wrong(Words::tr("It has no \"name\"."));
+        members.wrong(LayoutWords::tr("It has no \"name\"."));
     readKind(members, object, layout);
     readDefaults(members, layout);
     return members.problem.isEmpty() ? ReadLayout{layout, {}} : ReadLayout{{}, members.problem};

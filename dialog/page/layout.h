@@ -11,6 +11,8 @@
 
 namespace halvern {
 
+inline constexpr int kLongestLayoutName = 80;
+
 enum class LayoutKind {
     single, ///< a photo a page
     grid,   ///< as many rows and columns as it says, as large as the paper lets them be

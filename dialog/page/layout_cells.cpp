@@ -13,12 +13,12 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct LayoutCellsWords {
     Q_DECLARE_TR_FUNCTIONS(Layouts)
 };
 
 // PPDs count paper in whole points.
-constexpr double kTolerance = 0.5 * kPointsPerMillimetre;
+constexpr double kCellTolerance = 0.5 * kPointsPerMillimetre;
 
 QString millimetres(double points)
 {
@@ -27,7 +27,7 @@ QString millimetres(double points)
 
 QString tooLarge(const QSizeF& wanted, const QSizeF& there)
 {
-    return Words::tr(
+    return LayoutCellsWords::tr(
                "The layout takes %1 × %2 mm, and this paper has %3 × %4 mm to print on. Choose a larger "
                "paper, one without margins, or another layout.")
         .arg(millimetres(wanted.width()), millimetres(wanted.height()), millimetres(there.width()),
@@ -44,7 +44,7 @@ struct Table {
 Table tableOf(const QSizeF& cell, const QSizeF& area, double gap)
 {
     const auto most = [&](double length, double all) {
-        return int(std::clamp((all + gap + kTolerance) / (length + gap), 0.0, 1000.0));
+        return int(std::clamp((all + gap + kCellTolerance) / (length + gap), 0.0, 1000.0));
     };
     return {most(cell.width(), area.width()), most(cell.height(), area.height())};
 }
@@ -67,8 +67,9 @@ LayoutCells gridCells(const Layout& layout, const CellRoom& room)
                       (room.area.height() - (layout.rows - 1) * gap) / layout.rows);
     if (std::min(cell.width(), cell.height()) < kLeastPhoto * kPointsPerMillimetre)
         return {{},
-                Words::tr("So many photos would be smaller than %1 mm on this paper. Choose fewer rows or "
-                          "columns, or a larger paper.")
+                LayoutCellsWords::tr(
+                    "So many photos would be smaller than %1 mm on this paper. Choose fewer rows or "
+                    "columns, or a larger paper.")
                     .arg(kLeastPhoto)};
     const Table table{layout.columns, layout.rows};
     return {cellsOf(table, cell, gap, room.area.topLeft(), table.count()), {}};
@@ -103,7 +104,8 @@ LayoutCells fixedCells(const Layout& layout, const CellRoom& room)
     for (const QRectF& cell : layout.cells)
         block = block.united(cell);
     const QSizeF size = block.size() * kPointsPerMillimetre;
-    if (size.width() > room.area.width() + kTolerance || size.height() > room.area.height() + kTolerance)
+    if (size.width() > room.area.width() + kCellTolerance ||
+        size.height() > room.area.height() + kCellTolerance)
         return {{}, tooLarge(size, room.area.size())};
     const QPointF corner = centredOn(room, size).topLeft();
     LayoutCells result;
@@ -123,13 +125,13 @@ public:
     // Highest first. False if it is larger than a page.
     bool put(PackedPhoto& photo)
     {
-        if (photo.size.width() > area_.width() + kTolerance ||
-            photo.size.height() > area_.height() + kTolerance)
+        if (photo.size.width() > area_.width() + kCellTolerance ||
+            photo.size.height() > area_.height() + kCellTolerance)
             return false;
         auto shelf =
             std::ranges::find_if(open_, [&](const Shelf& each) { return hasRoom(each, photo.size.width()); });
         if (shelf == open_.end()) {
-            if (top_ > 0.0 && top_ + photo.size.height() > area_.height() + kTolerance) {
+            if (top_ > 0.0 && top_ + photo.size.height() > area_.height() + kCellTolerance) {
                 ++sheet_;
                 top_ = 0.0;
             }
@@ -154,7 +156,7 @@ private:
 
     bool hasRoom(const Shelf& shelf, double width) const
     {
-        return shelf.used + width <= area_.width() + kTolerance;
+        return shelf.used + width <= area_.width() + kCellTolerance;
     }
 
     void place(PackedPhoto& photo, Shelf& shelf) const
@@ -238,12 +240,12 @@ std::vector<PackedPhoto> packed(const std::vector<QSizeF>& sizes, const CellRoom
                 turn(photos.back());
         }
         const std::optional<double> length = packInto(photos, room.area.size(), gap);
-        if (length && (!least || *length < *least - kTolerance)) {
+        if (length && (!least || *length < *least - kCellTolerance)) {
             least = length;
             best = std::move(photos);
         }
     };
-    const double width = room.area.width() + kTolerance;
+    const double width = room.area.width() + kCellTolerance;
     consider([](const QSizeF&) { return false; });
     if (mayTurn) {
         consider([&](const QSizeF& size) { return size.height() > size.width() && size.height() <= width; });

@@ -26,13 +26,12 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct LayoutLibraryWords {
     Q_DECLARE_TR_FUNCTIONS(Layouts)
 };
 
 constexpr qint64 kLargestFile = 256 * 1024;
 constexpr qsizetype kMostFiles = 200;
-constexpr int kLongestName = 80;
 const QString kSuffix = QStringLiteral(".json");
 const QString kProgramsFolder = QStringLiteral(":/halvern/layouts");
 
@@ -50,17 +49,17 @@ ReadLayout readFile(const QString& path)
     const QString id = QFileInfo(path).completeBaseName();
     // A pipe would never end.
     if (!QFileInfo(path).isFile())
-        return {{}, Words::tr("It is no file.")};
+        return {{}, LayoutLibraryWords::tr("It is no file.")};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {{}, file.errorString()};
     const QByteArray text = file.read(kLargestFile + 1);
     if (text.size() > kLargestFile)
-        return {{}, Words::tr("It is too large.")};
+        return {{}, LayoutLibraryWords::tr("It is too large.")};
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (!document.isObject())
-        return {{}, Words::tr("It is no JSON object: %1.").arg(error.errorString())};
+        return {{}, LayoutLibraryWords::tr("It is no JSON object: %1.").arg(error.errorString())};
     return layoutFromJson(document.object(), id);
 }
 
@@ -73,7 +72,7 @@ QString idOf(const QString& name)
         id.remove(0, 1);
     while (id.endsWith(QLatin1Char('-')))
         id.chop(1);
-    return id.left(kLongestName);
+    return id.left(kLongestLayoutName);
 }
 
 } // namespace
@@ -101,13 +100,13 @@ void LayoutLibrary::readAgain()
             const QString path = folder + QLatin1Char('/') + name;
             ReadLayout read = readFile(path);
             if (read.problem.isEmpty() && find(read.layout.id))
-                read.problem = Words::tr("There is another layout \"%1\".").arg(read.layout.id);
+                read.problem = LayoutLibraryWords::tr("There is another layout \"%1\".").arg(read.layout.id);
             read.layout.isOwn = folder != kProgramsFolder;
             if (read.problem.isEmpty())
                 layouts_.append(read.layout);
             else
-                problems_.append(
-                    Words::tr("The layout %1 was left out. %2").arg(displayText(path), read.problem));
+                problems_.append(LayoutLibraryWords::tr("The layout %1 was left out. %2")
+                                     .arg(displayText(path), read.problem));
         }
         if (folder == kProgramsFolder)
             std::ranges::stable_sort(layouts_, isBefore);
@@ -131,31 +130,34 @@ QString LayoutLibrary::unknownText(const QString& id) const
     for (const Layout& layout : layouts_)
         ids.append(layout.id);
     const QString unknown =
-        Words::tr("There is no layout \"%1\". There are: %2; and rows x columns, such as 3x4, and sizes, "
-                  "such as 90x130mm.")
-            .arg(displayText(id, kLongestName), listText(ids));
+        LayoutLibraryWords::tr(
+            "There is no layout \"%1\". There are: %2; and rows x columns, such as 3x4, and sizes, "
+            "such as 90x130mm.")
+            .arg(displayText(id, kLongestLayoutName), listText(ids));
     return (QStringList(unknown) + problems_).join(QLatin1Char(' '));
 }
 
 QString LayoutLibrary::save(Layout layout, const QString& name, QString* id)
 {
-    layout.name = displayText(name, kLongestName).trimmed();
+    layout.name = displayText(name, kLongestLayoutName).trimmed();
     layout.id = idOf(layout.name);
     const std::optional<Layout> there = find(layout.id);
     if (layout.id.isEmpty() || layout.kind == LayoutKind::single)
-        return Words::tr("Write a name with letters or numbers.");
+        return LayoutLibraryWords::tr("Write a name with letters or numbers.");
     if (there && !there->isOwn)
-        return Words::tr("\"%1\" is a layout that is always there. Choose another name.").arg(layout.name);
+        return LayoutLibraryWords::tr("\"%1\" is a layout that is always there. Choose another name.")
+            .arg(layout.name);
     if (!QDir().mkpath(ownFolder()))
-        return Words::tr("The folder %1 cannot be made.").arg(displayText(ownFolder()));
+        return LayoutLibraryWords::tr("The folder %1 cannot be made.").arg(displayText(ownFolder()));
     const QString path = ownFolder() + QLatin1Char('/') + layout.id + kSuffix;
     if (there ? there->name != layout.name : QFileInfo::exists(path))
-        return Words::tr(
+        return LayoutLibraryWords::tr(
                    "The file %1 holds something else already. Choose another name, or take the file away.")
             .arg(displayText(path));
     const QString problem = writeWholeFile(path, QJsonDocument(toJson(layout)).toJson());
     if (!problem.isEmpty())
-        return Words::tr("The layout could not be kept in %1. %2").arg(displayText(path), problem);
+        return LayoutLibraryWords::tr("The layout could not be kept in %1. %2")
+            .arg(displayText(path), problem);
     *id = layout.id;
     readAgain();
     return {};
@@ -166,9 +168,10 @@ QString LayoutLibrary::remove(const QString& id)
     const std::optional<Layout> layout = find(id);
     QFile file(ownFolder() + QLatin1Char('/') + id + kSuffix);
     if (!layout || !layout->isOwn)
-        return Words::tr("Only layouts of your own can be deleted.");
+        return LayoutLibraryWords::tr("Only layouts of your own can be deleted.");
     if (!file.remove())
-        return Words::tr("%1 could not be deleted. %2").arg(displayText(file.fileName()), file.errorString());
+        return LayoutLibraryWords::tr("%1 could not be deleted. %2")
+            .arg(displayText(file.fileName()), file.errorString());
     readAgain();
     return {};
 }

@@ -12,13 +12,13 @@ namespace halvern {
 
 namespace {
 
-constexpr size_t kPiece = 64 * 1024;
+constexpr size_t kPackedPiece = 64 * 1024;
 
 } // namespace
 
 struct PackedRows::State {
     z_stream stream = {};
-    std::vector<Bytef> packed = std::vector<Bytef>(kPiece);
+    std::vector<Bytef> packed = std::vector<Bytef>(kPackedPiece);
     bool isOpen = false;
 };
 
@@ -40,11 +40,11 @@ bool PackedRows::pack(int flush)
     bool isFull = true;
     while (isFull) {
         stream.next_out = state_->packed.data();
-        stream.avail_out = uInt(kPiece);
+        stream.avail_out = uInt(kPackedPiece);
         deflate(&stream, flush);
         isFull = stream.avail_out == 0;
         if (!file_.addToPicture(reinterpret_cast<const char*>(state_->packed.data()),
-                                qsizetype(kPiece - stream.avail_out)))
+                                qsizetype(kPackedPiece - stream.avail_out)))
             return false;
     }
     return true;

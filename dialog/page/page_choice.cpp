@@ -16,7 +16,7 @@ namespace {
 constexpr int kMostDigits = 6;
 constexpr int kLongestQuoted = 30;
 
-struct Words {
+struct PageChoiceWords {
     Q_DECLARE_TR_FUNCTIONS(PageChoice)
 };
 
@@ -71,12 +71,13 @@ QString problemWith(const PageRange& range, const QString& text, size_t count)
     const int most = std::max(range.first, last);
     if (least < 1 || (count > 0 && size_t(most) > count)) {
         const int wrong = least < 1 ? least : most;
-        return count == 1   ? Words::tr("There is no page %1: there is one page only.").arg(wrong)
-               : count == 0 ? Words::tr("There is no page %1: the first page is 1.").arg(wrong)
-                            : Words::tr("There is no page %1: the pages are 1 to %2.").arg(wrong).arg(count);
+        return count == 1 ? PageChoiceWords::tr("There is no page %1: there is one page only.").arg(wrong)
+               : count == 0
+                   ? PageChoiceWords::tr("There is no page %1: the first page is 1.").arg(wrong)
+                   : PageChoiceWords::tr("There is no page %1: the pages are 1 to %2.").arg(wrong).arg(count);
     }
     if (last < range.first)
-        return Words::tr("\"%1\" ends before it begins. Write %2-%3.")
+        return PageChoiceWords::tr("\"%1\" ends before it begins. Write %2-%3.")
             .arg(isolated(text, kLongestQuoted))
             .arg(last)
             .arg(range.first);
@@ -92,7 +93,8 @@ QString mark(const QString& ranges, std::vector<bool>& isChosen)
             continue;
         const std::optional<PageRange> range = readRange(text);
         if (!range)
-            return Words::tr("\"%1\" is no page. Write numbers and ranges, for example 1-3, 7, 12-.")
+            return PageChoiceWords::tr(
+                       "\"%1\" is no page. Write numbers and ranges, for example 1-3, 7, 12-.")
                 .arg(isolated(text, kLongestQuoted));
         if (const QString problem = problemWith(*range, text, isChosen.size()); !problem.isEmpty())
             return problem;
@@ -112,8 +114,8 @@ ChosenPages choosePages(const PageChoice& choice, size_t count)
     ChosenPages chosen;
     if (choice.isGone && count > 0) {
         chosen.problem =
-            Words::tr("The chosen pages were left out because they cannot be read, or not whole. "
-                      "Choose others.");
+            PageChoiceWords::tr("The chosen pages were left out because they cannot be read, or not whole. "
+                                "Choose others.");
         return chosen;
     }
     if (hasRanges)

@@ -13,7 +13,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct PhotoProblemWords {
     Q_DECLARE_TR_FUNCTIONS(PhotoProblem)
 };
 
@@ -23,46 +23,57 @@ QString pattern(PhotoFault fault)
     case PhotoFault::none:
         break;
     case PhotoFault::missing:
-        return Words::tr("There is no file \"%1\". Check its name.");
+        return PhotoProblemWords::tr("There is no file \"%1\". Check its name.");
     case PhotoFault::isFolder:
-        return Words::tr("\"%1\" is a folder without photos. Name one that holds photos, or photos.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is a folder without photos. Name one that holds photos, or photos.");
     case PhotoFault::unreadable:
-        return Words::tr("\"%1\" cannot be opened. Check that you may read it.");
+        return PhotoProblemWords::tr("\"%1\" cannot be opened. Check that you may read it.");
     case PhotoFault::empty:
-        return Words::tr("\"%1\" is empty. Copy it from the camera again.");
+        return PhotoProblemWords::tr("\"%1\" is empty. Copy it from the camera again.");
     case PhotoFault::noPicture:
-        return Words::tr("\"%1\" is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, "
-                         "AVIF or PDF file.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is not a picture that can be printed. Use a JPEG, PNG, TIFF, WebP, HEIF, "
+            "AVIF or PDF file.");
     case PhotoFault::cameraRaw:
-        return Words::tr(
+        return PhotoProblemWords::tr(
             "\"%1\" is camera RAW, which has to be developed before it can be printed. Export it "
             "as JPEG or TIFF from your photo program and print that.");
     case PhotoFault::unsupported:
-        return Words::tr("\"%1\" is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 "
-                         "or 16 bits, from your photo program and print that.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is of a kind that cannot be read here. Export it as JPEG, or as TIFF with 8 "
+            "or 16 bits, from your photo program and print that.");
     case PhotoFault::highRange:
-        return Words::tr("\"%1\" is an HDR picture, which is brighter than paper can be. Export it as JPEG "
-                         "without HDR from your photo program and print that.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is an HDR picture, which is brighter than paper can be. Export it as JPEG "
+            "without HDR from your photo program and print that.");
     case PhotoFault::damaged:
-        return Words::tr("\"%1\" is damaged and cannot be read. Export it from your photo program again.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is damaged and cannot be read. Export it from your photo program again.");
     case PhotoFault::partMissing:
-        return Words::tr("\"%1\" is damaged: a part of the picture is missing. Copy it from the camera "
-                         "again, or export it again.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is damaged: a part of the picture is missing. Copy it from the camera "
+            "again, or export it again.");
     case PhotoFault::tooLarge:
-        return Words::tr("\"%1\" is too large to print. Make a copy with fewer pixels and print that.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is too large to print. Make a copy with fewer pixels and print that.");
     case PhotoFault::locked:
-        return Words::tr("\"%1\" is locked with a password. Save a copy without one and print that.");
+        return PhotoProblemWords::tr(
+            "\"%1\" is locked with a password. Save a copy without one and print that.");
     case PhotoFault::changed:
-        return Words::tr("\"%1\" has changed meanwhile. Open it again.");
+        return PhotoProblemWords::tr("\"%1\" has changed meanwhile. Open it again.");
     case PhotoFault::crashed:
-        return Words::tr("\"%1\" made the program that reads photos fail: it is damaged, or made to do harm. "
-                         "Export it from your photo program again.");
+        return PhotoProblemWords::tr(
+            "\"%1\" made the program that reads photos fail: it is damaged, or made to do harm. "
+            "Export it from your photo program again.");
     case PhotoFault::stuck:
-        return Words::tr("\"%1\" takes too long to read: it is damaged, or made to do harm. Export it from "
-                         "your photo program again.");
+        return PhotoProblemWords::tr(
+            "\"%1\" takes too long to read: it is damaged, or made to do harm. Export it from "
+            "your photo program again.");
     case PhotoFault::noReader:
-        return Words::tr("\"%1\" cannot be read: the program that reads photos, halvern-decode, is not "
-                         "installed beside this one or cannot be started. Install the dialog again.");
+        return PhotoProblemWords::tr(
+            "\"%1\" cannot be read: the program that reads photos, halvern-decode, is not "
+            "installed beside this one or cannot be started. Install the dialog again.");
     }
     return {};
 }

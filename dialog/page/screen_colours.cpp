@@ -24,7 +24,7 @@ constexpr cmsUInt32Number kPixel = TYPE_BGRA_8;
 constexpr cmsUInt32Number kPixel = TYPE_ARGB_8;
 #endif
 
-std::shared_ptr<void> held(cmsHTRANSFORM transform)
+std::shared_ptr<void> heldTransform(cmsHTRANSFORM transform)
 {
     return {transform, [](void* t) {
                 if (t)
@@ -62,7 +62,7 @@ bool canProof(const QByteArray& profile)
 {
     const ScreenPlan plan{{}, ColourPlan{profile, ColourIntent::relative, false}, true, false};
     const OpenProfile printer = openProfile(profile);
-    return printer && held(makeProof(plan, srgbProfile(), printer));
+    return printer && heldTransform(makeProof(plan, srgbProfile(), printer));
 }
 
 bool isScreenProfile(const QByteArray& profile)
@@ -76,11 +76,11 @@ ScreenTransform::ScreenTransform(const ScreenPlan& plan)
     const OpenProfile monitor = monitorProfile(plan);
     const OpenProfile printer = plan.proof ? openProfile(plan.proof->target) : nullptr;
     if (printer)
-        transform_ = held(makeProof(plan, monitor, printer));
+        transform_ = heldTransform(makeProof(plan, monitor, printer));
     if (!transform_ && !plan.monitor.isEmpty())
-        transform_ = held(cmsCreateTransform(srgbProfile().get(), kPixel, monitor.get(), kPixel,
-                                             INTENT_RELATIVE_COLORIMETRIC,
-                                             cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_COPY_ALPHA));
+        transform_ = heldTransform(cmsCreateTransform(srgbProfile().get(), kPixel, monitor.get(), kPixel,
+                                                      INTENT_RELATIVE_COLORIMETRIC,
+                                                      cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_COPY_ALPHA));
 }
 
 QImage ScreenTransform::converted(const QImage& srgb) const

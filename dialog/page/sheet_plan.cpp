@@ -14,7 +14,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct SheetPlanWords {
     Q_DECLARE_TR_FUNCTIONS(Layouts)
 };
 
@@ -23,7 +23,7 @@ constexpr double kMarkLength = kCutMarkReach - kMarkDistance; // and shorter whe
 constexpr double kCaptionShare = 0.1;                         // of a place's shorter edge
 constexpr double kLeastCaption = 3.0;                         // millimetres
 constexpr double kMostCaption = 6.0;                          // millimetres
-constexpr double kTolerance = 0.5; // millimetres, by which PPDs are wrong about a paper
+constexpr double kPaperTolerance = 0.5; // millimetres, by which PPDs are wrong about a paper
 
 double points(double millimetres)
 {
@@ -66,8 +66,9 @@ QString countProblem(size_t count)
 {
     return count <= kMostPlaces
                ? QString()
-               : Words::tr("These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or "
-                           "fewer copies of each.")
+               : SheetPlanWords::tr(
+                     "These are %1 photos on all sheets, and a job takes %2. Choose fewer photos, or "
+                     "fewer copies of each.")
                      .arg(count)
                      .arg(kMostPlaces);
 }
@@ -85,8 +86,9 @@ public:
         // Turned or not, as much of it is left.
         if (roomOn(pageTurned(false)).area.isEmpty())
             return {{},
-                    Words::tr("With margins of %1 mm nothing is left of this paper. Choose smaller margins, "
-                              "or a larger paper.")
+                    SheetPlanWords::tr(
+                        "With margins of %1 mm nothing is left of this paper. Choose smaller margins, "
+                        "or a larger paper.")
                         .arg(request_.settings.margin)};
         switch (request_.layout.kind) {
         case LayoutKind::single:
@@ -160,14 +162,15 @@ private:
 
     static QString outsideProblem(const QRectF& cell, const QRectF& area)
     {
-        const double spare = points(kTolerance);
+        const double spare = points(kPaperTolerance);
         if (area.adjusted(-spare, -spare, spare, spare).contains(cell))
             return {};
         const auto millimetres = [](double length) {
             return QString::number(length / kPointsPerMillimetre, 'f', 1);
         };
-        return Words::tr("A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: "
-                         "%5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.")
+        return SheetPlanWords::tr(
+                   "A photo of %1 × %2 mm at %3, %4 mm is not all on what can be printed of this page: "
+                   "%5 × %6 mm at %7, %8 mm. Choose a smaller size, another place, or another paper.")
             .arg(millimetres(cell.width()), millimetres(cell.height()), millimetres(cell.left()),
                  millimetres(cell.top()), millimetres(area.width()), millimetres(area.height()),
                  millimetres(area.left()), millimetres(area.top()));
@@ -279,7 +282,8 @@ private:
             one.kind = LayoutKind::size;
             plan_.problem = layoutCells(one, roomOn(page)).problem;
             if (plan_.problem.isEmpty())
-                plan_.problem = Words::tr("Not every photo fits on this paper. Choose a smaller size.");
+                plan_.problem =
+                    SheetPlanWords::tr("Not every photo fits on this paper. Choose a smaller size.");
             return;
         }
         size_t sheets = 0;
@@ -389,7 +393,7 @@ SheetPlan planSheets(const SheetRequest& request, const std::vector<Photo>& phot
 {
     const size_t count = wantedCount(photos, chosen);
     if (count == 0 && !chosen.empty())
-        return {{}, Words::tr("All photos are left out. Include at least one of them.")};
+        return {{}, SheetPlanWords::tr("All photos are left out. Include at least one of them.")};
     if (const QString problem = countProblem(count); !problem.isEmpty())
         return {{}, problem};
     return Planner(request, photos, wantedPhotos(photos, chosen)).plan();
@@ -404,8 +408,9 @@ SheetPlan withChosenSheets(SheetPlan plan, const PageChoice& choice)
         for (size_t i = choice.parity == PageParity::odd ? 0 : 1; i < plan.sheets.size(); i += 2)
             chosen.push_back(std::move(plan.sheets[i]));
         if (chosen.empty() && !plan.sheets.empty())
-            plan.problem = Words::tr("There is one sheet only, and none with an even number. Choose all "
-                                     "sheets, or more photos.");
+            plan.problem =
+                SheetPlanWords::tr("There is one sheet only, and none with an even number. Choose all "
+                                   "sheets, or more photos.");
         plan.sheets = std::move(chosen);
     }
     if (choice.isReversed)

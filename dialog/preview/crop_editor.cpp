@@ -22,13 +22,13 @@ namespace halvern {
 
 namespace {
 
-constexpr double kMargin = 24.0;
+constexpr double kCropMargin = 24.0;
 constexpr double kHandle = 10.0;
-constexpr double kGrip = 16.0;      // how near to a corner the mouse has to be
-constexpr double kKeyStep = 0.02;   // of what is seen
-constexpr double kFineStep = 0.004; // with Shift
+constexpr double kGrip = 16.0;        // how near to a corner the mouse has to be
+constexpr double kCropKeyStep = 0.02; // of what is seen
+constexpr double kFineStep = 0.004;   // with Shift
 constexpr double kZoomStep = 1.08;
-constexpr double kWheelNotch = 120.0;
+constexpr double kCropWheelNotch = 120.0;
 
 std::array<QPointF, 4> cornersOf(const QRectF& rect)
 {
@@ -143,7 +143,7 @@ QList<QWidget*> CropEditor::tabOrder() const
 
 QRectF CropEditor::photoRect() const
 {
-    const QRectF room(kMargin, kMargin, width() - 2.0 * kMargin, words_->y() - 1.5 * kMargin);
+    const QRectF room(kCropMargin, kCropMargin, width() - 2.0 * kCropMargin, words_->y() - 1.5 * kCropMargin);
     const QSizeF shape = turnedSize(layout_.photo.size(), layout_.layoutsTurns);
     QRectF rect(QPointF(), shape.scaled(room.size().expandedTo({1.0, 1.0}), Qt::KeepAspectRatio));
     rect.moveCenter(room.center());
@@ -258,14 +258,14 @@ void CropEditor::mouseDoubleClickEvent(QMouseEvent*)
 
 void CropEditor::wheelEvent(QWheelEvent* event)
 {
-    zoomBy(std::pow(kZoomStep, event->angleDelta().y() / kWheelNotch), share(event->position()));
+    zoomBy(std::pow(kZoomStep, event->angleDelta().y() / kCropWheelNotch), share(event->position()));
     event->accept();
 }
 
 void CropEditor::keyPressEvent(QKeyEvent* event)
 {
     const QSizeF seen = cropOf(layout_).size();
-    const double step = event->modifiers() & Qt::ShiftModifier ? kFineStep : kKeyStep;
+    const double step = event->modifiers() & Qt::ShiftModifier ? kFineStep : kCropKeyStep;
     const QPointF middle = cropOf(layout_).center();
     switch (event->key()) {
     case Qt::Key_Left:

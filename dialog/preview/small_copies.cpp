@@ -12,7 +12,7 @@ namespace halvern {
 
 namespace {
 
-constexpr size_t kMostKept = 6;
+constexpr size_t kMostCopiesKept = 6;
 
 } // namespace
 
@@ -48,7 +48,7 @@ void SmallCopies::take(const Photo& photo, const SmallCopy& copy)
 {
     isBusy_ = false;
     kept_.push_front({keyOf(photo), copy.image});
-    if (kept_.size() > kMostKept)
+    if (kept_.size() > kMostCopiesKept)
         kept_.pop_back();
     if (copy.isDamaged && !photo.isDamaged)
         Q_EMIT damageFound(photo.path, photo.page);

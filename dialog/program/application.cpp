@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/application.h"
+#include "dialog/program/take_back.h"
 
 #include "dialog/job/pdf_output.h"
 #include "dialog/job/print_run.h"
@@ -26,7 +27,6 @@ namespace halvern {
 
 namespace {
 
-constexpr int kTakeBackMilliseconds = 3000;
 constexpr int kNoticeMilliseconds = 3000;
 constexpr int kLongestTidying = 3000; // milliseconds
 

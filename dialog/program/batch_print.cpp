@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/batch_print.h"
+#include "dialog/program/take_back.h"
 
 #include "dialog/session/sheet_words.h"
 #include "platform/foundation/display_text.h"
@@ -10,7 +11,6 @@ namespace halvern {
 
 namespace {
 
-constexpr int kTakeBackMilliseconds = 3000;
 constexpr int kProgressMilliseconds = 10000;
 
 // Nobody sees here what is loaded, and a dry run sends nothing: the panels work from the options alone.

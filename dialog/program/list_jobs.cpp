@@ -16,7 +16,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct ListJobsWords {
     Q_DECLARE_TR_FUNCTIONS(ListJobs)
 };
 
@@ -73,19 +73,19 @@ QString doneText(JobDeed deed, int job, const QString& target)
 {
     switch (deed) {
     case JobDeed::cancel:
-        return Words::tr("Job %1 was cancelled.").arg(job);
+        return ListJobsWords::tr("Job %1 was cancelled.").arg(job);
     case JobDeed::hold:
-        return Words::tr("Job %1 is held.").arg(job);
+        return ListJobsWords::tr("Job %1 is held.").arg(job);
     case JobDeed::release:
-        return Words::tr("Job %1 was released.").arg(job);
+        return ListJobsWords::tr("Job %1 was released.").arg(job);
     case JobDeed::printAgain:
-        return Words::tr("Job %1 is printed again.").arg(job);
+        return ListJobsWords::tr("Job %1 is printed again.").arg(job);
     case JobDeed::signIn:
-        return Words::tr("Job %1 has what the printer asks for.").arg(job);
+        return ListJobsWords::tr("Job %1 has what the printer asks for.").arg(job);
     case JobDeed::move:
         break;
     }
-    return Words::tr("Job %1 was moved to \"%2\".").arg(QString::number(job), target);
+    return ListJobsWords::tr("Job %1 was moved to \"%2\".").arg(QString::number(job), target);
 }
 
 int carryOut(const ListJobsRequest& request, QTextStream& out, QTextStream& err)
@@ -96,10 +96,11 @@ int carryOut(const ListJobsRequest& request, QTextStream& out, QTextStream& err)
         return fail(err, all.problem);
     const int place = indexOfJob(all.jobs, request.jobId);
     if (place < 0 && request.printer.isEmpty())
-        return fail(err, Words::tr("You have no job %1 on the print server. --jobs --ended lists yours.")
-                             .arg(request.jobId));
+        return fail(err,
+                    ListJobsWords::tr("You have no job %1 on the print server. --jobs --ended lists yours.")
+                        .arg(request.jobId));
     if (place < 0)
-        return fail(err, Words::tr("You have no job %1 on \"%2\". --jobs --ended lists yours.")
+        return fail(err, ListJobsWords::tr("You have no job %1 on \"%2\". --jobs --ended lists yours.")
                              .arg(QString::number(request.jobId), request.printer));
     const ActionResult result =
         apply(*request.deed, all.jobs[size_t(place)].queue, request.jobId, request.target);
@@ -136,11 +137,12 @@ int listJobs(const ListJobsRequest& asked, QTextStream& out, QTextStream& err)
         return kExitPrinted;
     }
     if (answer.jobs.empty()) {
-        writeLine(err, Words::tr("You have no jobs there."));
+        writeLine(err, ListJobsWords::tr("You have no jobs there."));
         return kExitPrinted;
     }
-    QList<QStringList> rows{{Words::tr("No."), Words::tr("Printer"), Words::tr("State"), Words::tr("Pages"),
-                             Words::tr("Sent"), Words::tr("Job")}};
+    QList<QStringList> rows{{ListJobsWords::tr("No."), ListJobsWords::tr("Printer"),
+                             ListJobsWords::tr("State"), ListJobsWords::tr("Pages"),
+                             ListJobsWords::tr("Sent"), ListJobsWords::tr("Job")}};
     for (const UserJob& job : answer.jobs)
         rows.append({QString::number(job.id), terminalText(job.queue), terminalText(jobStateText(job)),
                      jobPagesText(job), timeText(job.sent), terminalText(job.title)});

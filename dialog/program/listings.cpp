@@ -17,7 +17,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct ListingsWords {
     Q_DECLARE_TR_FUNCTIONS(Listings)
 };
 
@@ -105,15 +105,15 @@ private:
                                 {QStringLiteral("accepting"), printer.isAccepting}});
             else
                 writeLine(out_, isDefault
-                                    ? Words::tr("%1 (default): %2 %3")
+                                    ? ListingsWords::tr("%1 (default): %2 %3")
                                           .arg(printer.name, stateText(printer), descriptionOf(printer))
-                                    : Words::tr("%1: %2 %3")
+                                    : ListingsWords::tr("%1: %2 %3")
                                           .arg(printer.name, stateText(printer), descriptionOf(printer)));
         }
         if (listing_.asJson)
             writeJson(out_, QJsonDocument(entries));
         else if (answer.printers.empty())
-            writeLine(err_, Words::tr("The print server has no printers."));
+            writeLine(err_, ListingsWords::tr("The print server has no printers."));
         return kExitPrinted;
     }
 
@@ -143,7 +143,7 @@ private:
                 continue;
             if (!listing_.asJson) {
                 writeLine(out_, entry.kind == PresetKind::savedOptions
-                                    ? Words::tr("%1 (from your saved options)").arg(entry.title())
+                                    ? ListingsWords::tr("%1 (from your saved options)").arg(entry.title())
                                     : entry.title());
                 continue;
             }
@@ -167,7 +167,8 @@ private:
         preset.name = presetName(listing_.name);
         if (const QString problem = PresetFile(state.queue).save(preset); !problem.isEmpty())
             return fail(problem);
-        writeLine(out_, Words::tr("Saved the preset \"%1\" of \"%2\".").arg(preset.name, state.queue));
+        writeLine(out_,
+                  ListingsWords::tr("Saved the preset \"%1\" of \"%2\".").arg(preset.name, state.queue));
         return kExitPrinted;
     }
 

@@ -11,7 +11,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct OptionListingWords {
     Q_DECLARE_TR_FUNCTIONS(Listings)
 };
 
@@ -100,10 +100,10 @@ QStringList optionLines(const PpdModel& model, const QMap<QString, QString>& byD
             choices.append(custom);
         const QString value = key + QLatin1Char('=') + model.value(key);
         const QString all = choices.join(QLatin1Char(' '));
-        lines.append(
-            option.isInstallable
-                ? Words::tr("%1 (installed in the printer) \"%2\": %3").arg(value, option.text, all)
-                : Words::tr("%1 (default %2) \"%3\": %4").arg(value, byDefault.value(key), option.text, all));
+        lines.append(option.isInstallable ? OptionListingWords::tr("%1 (installed in the printer) \"%2\": %3")
+                                                .arg(value, option.text, all)
+                                          : OptionListingWords::tr("%1 (default %2) \"%3\": %4")
+                                                .arg(value, byDefault.value(key), option.text, all));
     }
     return lines;
 }

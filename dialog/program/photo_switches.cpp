@@ -10,7 +10,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct PhotoSwitchesWords {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
 
@@ -63,18 +63,20 @@ bool readCopies(const QString& text, PhotoPlacement& placement)
 } // namespace
 
 PhotoSwitches::PhotoSwitches()
-    : position_(
-          QStringLiteral("position"),
-          Words::tr("Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can "
+    : position_(QStringLiteral("position"),
+                PhotoSwitchesWords::tr(
+                    "Where the spare room or the cut goes: 0,0 is left and top, 1,1 right and bottom. Can "
                     "be given several times, for one photo after the other, as can the next three."),
-          QStringLiteral("X,Y")),
+                QStringLiteral("X,Y")),
       zoom_(QStringLiteral("zoom"),
-            Words::tr("Print a part of the photo this much larger, 1 to %1.").arg(kMostZoom),
+            PhotoSwitchesWords::tr("Print a part of the photo this much larger, 1 to %1.").arg(kMostZoom),
             QStringLiteral("TIMES")),
-      turn_(QStringLiteral("turn"), Words::tr("Turn the photo clockwise: 0, 90, 180 or 270 degrees."),
+      turn_(QStringLiteral("turn"),
+            PhotoSwitchesWords::tr("Turn the photo clockwise: 0, 90, 180 or 270 degrees."),
             QStringLiteral("DEGREES")),
       copies_(QStringLiteral("photo-copies"),
-              Words::tr("Print the photo this often in each copy of the job, 1 to %1.").arg(kMostPhotoCopies),
+              PhotoSwitchesWords::tr("Print the photo this often in each copy of the job, 1 to %1.")
+                  .arg(kMostPhotoCopies),
               QStringLiteral("N"))
 {
 }
@@ -83,13 +85,17 @@ QString PhotoSwitches::read(const QCommandLineParser& parser, SessionRequest& re
 {
     QList<PhotoPlacement>& placements = request.placements;
     if (const auto bad = readEach(parser.values(position_), placements, readPosition))
-        return Words::tr("\"%1\" is no place: write two numbers from 0 to 1, for example 0.5,0.5.").arg(*bad);
+        return PhotoSwitchesWords::tr(
+                   "\"%1\" is no place: write two numbers from 0 to 1, for example 0.5,0.5.")
+            .arg(*bad);
     if (const auto bad = readEach(parser.values(zoom_), placements, readZoom))
-        return Words::tr("\"%1\" is no enlargement: write a number from 1 to %2.").arg(*bad).arg(kMostZoom);
+        return PhotoSwitchesWords::tr("\"%1\" is no enlargement: write a number from 1 to %2.")
+            .arg(*bad)
+            .arg(kMostZoom);
     if (const auto bad = readEach(parser.values(turn_), placements, readTurn))
-        return Words::tr("\"%1\" is no turn: write 0, 90, 180 or 270.").arg(*bad);
+        return PhotoSwitchesWords::tr("\"%1\" is no turn: write 0, 90, 180 or 270.").arg(*bad);
     if (const auto bad = readEach(parser.values(copies_), placements, readCopies))
-        return Words::tr("\"%1\" is no number of copies: write a number from 1 to %2.")
+        return PhotoSwitchesWords::tr("\"%1\" is no number of copies: write a number from 1 to %2.")
             .arg(*bad, QString::number(kMostPhotoCopies));
     return {};
 }

@@ -12,7 +12,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct SheetSwitchesWords {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
 
@@ -30,40 +30,44 @@ std::optional<double> lengthOf(const QString& text, double most)
 
 QString badLength(const QString& text, double most)
 {
-    return Words::tr("\"%1\" is no length: write millimeters from 0 to %2.").arg(text, QString::number(most));
+    return SheetSwitchesWords::tr("\"%1\" is no length: write millimeters from 0 to %2.")
+        .arg(text, QString::number(most));
 }
 
 } // namespace
 
 SheetSwitches::SheetSwitches()
-    : layout_(
-          QStringLiteral("layout"),
-          Words::tr("Put several photos on a sheet: a layout's name, rows and columns such as 3x4, or a size "
-                    "such as 90x130mm."),
-          QStringLiteral("NAME")),
+    : layout_(QStringLiteral("layout"),
+              SheetSwitchesWords::tr(
+                  "Put several photos on a sheet: a layout's name, rows and columns such as 3x4, or a size "
+                  "such as 90x130mm."),
+              QStringLiteral("NAME")),
       caption_(QStringLiteral("caption"),
-               Words::tr("Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] "
-                         "number, [DATE] date taken, [YYYY], [MM], [DD]."),
+               SheetSwitchesWords::tr(
+                   "Write this under each photo. It holds placeholders: [F] file name, [T] title, [C] "
+                   "number, [DATE] date taken, [YYYY], [MM], [DD]."),
                QStringLiteral("TEXT")),
       size_(QStringLiteral("photo-size"),
-            Words::tr("Print each photo in this size, for example 100x150, 4x6in, or 50% of its own."),
+            SheetSwitchesWords::tr(
+                "Print each photo in this size, for example 100x150, 4x6in, or 50% of its own."),
             QStringLiteral("SIZE")),
       corner_(QStringLiteral("corner"),
-              Words::tr(
+              SheetSwitchesWords::tr(
                   "With --photo-size: so many millimeters from the sheet's left and top, for example 20,15."),
               QStringLiteral("X,Y")),
       margin_(QStringLiteral("margin"),
-              Words::tr("Leave so many millimeters free at the sheet's edges at least."),
+              SheetSwitchesWords::tr("Leave so many millimeters free at the sheet's edges at least."),
               QStringLiteral("MM")),
       border_(QStringLiteral("border"),
-              Words::tr("Leave a white border of so many millimeters around each photo."),
+              SheetSwitchesWords::tr("Leave a white border of so many millimeters around each photo."),
               QStringLiteral("MM")),
-      flags_{{QStringLiteral("repeat"), Words::tr("With --layout: each photo fills its own sheet.")},
-             {QStringLiteral("no-repeat"), Words::tr("The photos share sheets.")},
-             {QStringLiteral("cut-marks"), Words::tr("Print marks that show where to cut.")},
-             {QStringLiteral("no-cut-marks"), Words::tr("Print no such marks.")},
-             {QStringLiteral("line"), Words::tr("Print a thin line around each photo.")},
-             {QStringLiteral("no-line"), Words::tr("Print no such line.")}}
+      flags_{{QStringLiteral("repeat"),
+              SheetSwitchesWords::tr("With --layout: each photo fills its own sheet.")},
+             {QStringLiteral("no-repeat"), SheetSwitchesWords::tr("The photos share sheets.")},
+             {QStringLiteral("cut-marks"), SheetSwitchesWords::tr("Print marks that show where to cut.")},
+             {QStringLiteral("no-cut-marks"), SheetSwitchesWords::tr("Print no such marks.")},
+             {QStringLiteral("line"), SheetSwitchesWords::tr("Print a thin line around each photo.")},
+             {QStringLiteral("no-line"), SheetSwitchesWords::tr("Print no such line.")}}
 {
 }
 
@@ -84,7 +88,7 @@ QString SheetSwitches::read(const QCommandLineParser& parser, SessionRequest& re
     if (parser.isSet(caption_))
         sheets.caption = parser.value(caption_);
     if (sheets.caption && sheets.caption->size() > kLongestCaption)
-        return Words::tr("The caption is longer than %1 characters.").arg(kLongestCaption);
+        return SheetSwitchesWords::tr("The caption is longer than %1 characters.").arg(kLongestCaption);
     QString problem = readFlags(parser, sheets);
     if (problem.isEmpty())
         problem = readLengths(parser, sheets);
@@ -98,7 +102,8 @@ QString SheetSwitches::readFlags(const QCommandLineParser& parser, SheetWishes& 
         const bool isOn = parser.isSet(flags_[2 * i]);
         const bool isOff = parser.isSet(flags_[2 * i + 1]);
         if (isOn && isOff)
-            return Words::tr("--%1 and --no-%1 do not go together.").arg(flags_[2 * i].names().front());
+            return SheetSwitchesWords::tr("--%1 and --no-%1 do not go together.")
+                .arg(flags_[2 * i].names().front());
         if (isOn || isOff)
             *flags[i] = isOn;
     }
@@ -129,18 +134,19 @@ QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetWishes& s
         bool isNumber = false;
         const double percent = text.chopped(1).toDouble(&isNumber);
         if (!isNumber || !(percent >= kLeastPercent && percent <= kMostPercent))
-            return Words::tr("\"%1\" is no size: write %2% to %3%.")
+            return SheetSwitchesWords::tr("\"%1\" is no size: write %2% to %3%.")
                 .arg(text, QString::number(kLeastPercent), QString::number(kMostPercent));
         sheets.percent = percent;
     } else if (parser.isSet(size_)) {
         const std::optional<QSizeF> size = photoSizeOf(text);
         if (!size)
-            return Words::tr(
+            return SheetSwitchesWords::tr(
                        "\"%1\" is no size: write millimeters such as 100x150, inches such as 4x6in, or 50%.")
                 .arg(text);
         if (sheets.layout && !sheets.layout->id.isEmpty())
-            return Words::tr("--photo-size with a width and a height does not go with --layout, which says "
-                             "how large the photos are. Leave one of them out.");
+            return SheetSwitchesWords::tr(
+                "--photo-size with a width and a height does not go with --layout, which says "
+                "how large the photos are. Leave one of them out.");
         sheets.photo = *size;
     }
     if (!parser.isSet(corner_))
@@ -149,10 +155,11 @@ QString SheetSwitches::readSize(const QCommandLineParser& parser, SheetWishes& s
     const std::optional<double> left = lengthOf(corner.section(QLatin1Char(','), 0, 0), kMostPhoto);
     const std::optional<double> top = lengthOf(corner.section(QLatin1Char(','), 1), kMostPhoto);
     if (!left || !top)
-        return Words::tr("\"%1\" is no corner: write two lengths in millimeters, for example 20,15.")
+        return SheetSwitchesWords::tr(
+                   "\"%1\" is no corner: write two lengths in millimeters, for example 20,15.")
             .arg(corner);
     if (!sheets.photo)
-        return Words::tr("--corner goes with --photo-size and a width and a height.");
+        return SheetSwitchesWords::tr("--corner goes with --photo-size and a width and a height.");
     sheets.corner = QPointF(*left, *top);
     return {};
 }

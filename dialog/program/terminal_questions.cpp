@@ -20,7 +20,7 @@ namespace {
 constexpr int kLookAtFlagMilliseconds = 200;
 constexpr qsizetype kLongestLine = 1000;
 
-struct Words {
+struct TerminalQuestionsWords {
     Q_DECLARE_TR_FUNCTIONS(TerminalQuestions)
 };
 
@@ -106,7 +106,7 @@ private:
 bool isYes(const std::optional<QString>& answer)
 {
     const QString word = answer ? answer->trimmed().toLower() : QString();
-    return !word.isEmpty() && (word == QLatin1StringView("y") || word == Words::tr("yes"));
+    return !word.isEmpty() && (word == QLatin1StringView("y") || word == TerminalQuestionsWords::tr("yes"));
 }
 
 } // namespace
@@ -125,15 +125,17 @@ std::optional<cups::Login> TerminalQuestions::askLogin(const cups::LoginQuestion
     cups::Login login;
     if (!question.isEncrypted) {
         terminal.say(openWayWarning(question.place));
-        login.mayTravelOpenly = isYes(terminal.ask(Words::tr("Send it all the same? [y/N]"), false));
+        login.mayTravelOpenly =
+            isYes(terminal.ask(TerminalQuestionsWords::tr("Send it all the same? [y/N]"), false));
         if (!login.mayTravelOpenly)
             return std::nullopt;
     }
-    const std::optional<QString> user = terminal.ask(Words::tr("Name [%1]:").arg(question.user), false);
+    const std::optional<QString> user =
+        terminal.ask(TerminalQuestionsWords::tr("Name [%1]:").arg(question.user), false);
     if (!user)
         return std::nullopt;
     login.user = user->isEmpty() ? question.user : *user;
-    const std::optional<QString> password = terminal.ask(Words::tr("Password:"), true);
+    const std::optional<QString> password = terminal.ask(TerminalQuestionsWords::tr("Password:"), true);
     if (!password || password->isEmpty())
         return std::nullopt;
     login.password = *password;
@@ -148,7 +150,7 @@ bool TerminalQuestions::askCertificate(const cups::CertificateQuestion& question
         return false;
     for (const QString& sentence : certificateWords(question))
         terminal.say(sentence);
-    return isYes(terminal.ask(Words::tr("Trust it from now on? [y/N]"), false));
+    return isYes(terminal.ask(TerminalQuestionsWords::tr("Trust it from now on? [y/N]"), false));
 }
 
 } // namespace halvern

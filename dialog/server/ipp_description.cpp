@@ -21,7 +21,7 @@ namespace {
 constexpr qsizetype kMostChoices = 200;
 constexpr int kMostConstraints = 500;
 constexpr qsizetype kLongestKeyword = 40;
-constexpr qsizetype kLongestText = 78; // bytes, as libcups cuts it
+constexpr qsizetype kLongestPpdText = 78; // bytes, as libcups cuts it
 constexpr qsizetype kLongestValue = 120;
 
 struct Choice {
@@ -81,7 +81,7 @@ QByteArray cleaned(const QString& text)
         plain += character.isPrint() && !isOfThePpd ? character : QLatin1Char(' ');
     }
     plain = plain.simplified();
-    while (plain.toUtf8().size() > kLongestText)
+    while (plain.toUtf8().size() > kLongestPpdText)
         plain.chop(plain.back().isLowSurrogate() ? 2 : 1);
     return plain.toUtf8();
 }

@@ -15,9 +15,9 @@ namespace {
 
 constexpr qsizetype kMostPapers = 300;
 constexpr int kMostRead = 5000;
-constexpr int kLeastSide = 1000;          // 10 mm
-constexpr int kMostSide = 10'000'000;     // a roll of 100 m
-constexpr qsizetype kLongestKeyword = 28; // with "PageSize." before it, a name in a PPD
+constexpr int kLeastSide = 1000;            // 10 mm
+constexpr int kMostSide = 10'000'000;       // a roll of 100 m
+constexpr qsizetype kLongestPaperName = 28; // with "PageSize." before it, a name in a PPD
 
 int integerIn(ipp_t* collection, const char* name)
 {
@@ -38,7 +38,7 @@ void name(IppPaper& paper)
     static const QRegularExpression kKeyword(QStringLiteral("^[A-Za-z0-9][A-Za-z0-9._+-]*$"));
     const pwg_media_t* known = pwgMediaForSize(paper.width, paper.length);
     paper.keyword = known && known->ppd ? QString::fromUtf8(known->ppd) : QString();
-    if (paper.keyword.size() > kLongestKeyword - 11 || !kKeyword.match(paper.keyword).hasMatch())
+    if (paper.keyword.size() > kLongestPaperName - 11 || !kKeyword.match(paper.keyword).hasMatch())
         paper.keyword = QStringLiteral("w%1h%2").arg(paper.width).arg(paper.length);
     paper.text = paper.keyword;
     if (paper.isBorderless())

@@ -12,7 +12,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct IppWordsWords {
     Q_DECLARE_TR_FUNCTIONS(IppWords)
 };
 
@@ -73,7 +73,7 @@ template <typename Rows> QString wordsIn(const Rows& rows, const QString& keywor
 {
     const auto found =
         std::ranges::find_if(rows, [&](const Row& row) { return keyword == QLatin1StringView(row.keyword); });
-    return found == rows.end() ? spelled(keyword) : Words::tr(found->words);
+    return found == rows.end() ? spelled(keyword) : IppWordsWords::tr(found->words);
 }
 
 } // namespace

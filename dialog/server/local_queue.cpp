@@ -20,7 +20,7 @@ constexpr unsigned long kPauseMilliseconds = 200;
 constexpr cups::Limits kDescriptionLimits{std::chrono::seconds(5), std::chrono::seconds(10),
                                           kReportLimits.bytes};
 
-struct Words {
+struct LocalQueueWords {
     Q_DECLARE_TR_FUNCTIONS(LocalQueue)
 };
 
@@ -62,7 +62,8 @@ QString whyStopped(cups::Connection& server, const QString& name)
     const QByteArray message = textIn(answer, "printer-state-message");
     if (!state || ippGetInteger(state, 0) != IPP_PSTATE_STOPPED || message.isEmpty())
         return {};
-    return Words::tr("The printer \"%1\" was found on the network, but the print server cannot use it: %2")
+    return LocalQueueWords::tr(
+               "The printer \"%1\" was found on the network, but the print server cannot use it: %2")
         .arg(name, QString::fromUtf8(message));
 }
 

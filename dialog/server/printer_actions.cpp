@@ -13,7 +13,7 @@ namespace {
 
 constexpr cups::Limits kLimits{std::chrono::seconds(5), std::chrono::seconds(5)};
 
-struct Words {
+struct PrinterActionsWords {
     Q_DECLARE_TR_FUNCTIONS(PrinterActions)
 };
 
@@ -48,13 +48,13 @@ QString actionText(PrinterAction action)
 {
     switch (action) {
     case PrinterAction::resume:
-        return Words::tr("&Resume");
+        return PrinterActionsWords::tr("&Resume");
     case PrinterAction::acceptJobs:
-        return Words::tr("&Accept Jobs");
+        return PrinterActionsWords::tr("&Accept Jobs");
     case PrinterAction::release:
         break;
     }
-    return Words::tr("Re&lease");
+    return PrinterActionsWords::tr("Re&lease");
 }
 
 QString act(PrinterAction action, const QString& queue)
@@ -66,7 +66,8 @@ QString act(PrinterAction action, const QString& queue)
     const int status = answer ? ippGetStatusCode(answer.get()) : IPP_STATUS_OK;
     if (server.wasForbidden() || status == IPP_STATUS_ERROR_FORBIDDEN ||
         status == IPP_STATUS_ERROR_NOT_AUTHENTICATED || status == IPP_STATUS_ERROR_NOT_AUTHORIZED)
-        return Words::tr("The print server does not let you do that with \"%1\". Ask whoever looks after it.")
+        return PrinterActionsWords::tr(
+                   "The print server does not let you do that with \"%1\". Ask whoever looks after it.")
             .arg(queue);
     return server.error();
 }

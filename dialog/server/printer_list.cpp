@@ -20,7 +20,7 @@ namespace halvern {
 
 namespace {
 
-constexpr std::chrono::milliseconds kRest(2000);
+constexpr std::chrono::milliseconds kListRest(2000);
 constexpr std::chrono::milliseconds kRestWithoutEvents(4000);
 // Events may be lost.
 constexpr std::chrono::seconds kOldest(60);
@@ -30,7 +30,7 @@ constexpr qsizetype kMostNamed = 8;
 
 constexpr int kLongestUri = 1024;
 
-struct Words {
+struct PrinterListWords {
     Q_DECLARE_TR_FUNCTIONS(PrinterList)
 };
 
@@ -56,19 +56,19 @@ bool isAboutSupplies(const QString& reason)
 
 QString stateText(const PrinterInfo& printer)
 {
-    QString state = Words::tr("Ready");
+    QString state = PrinterListWords::tr("Ready");
     if (!printer.isAccepting)
-        state = Words::tr("Does not accept jobs");
+        state = PrinterListWords::tr("Does not accept jobs");
     else if (printer.state == PrinterState::stopped)
-        state = Words::tr("Paused");
+        state = PrinterListWords::tr("Paused");
     else if (printer.state == PrinterState::processing)
-        state = Words::tr("Printing");
+        state = PrinterListWords::tr("Printing");
     else if (printer.isSilent)
-        state = Words::tr("The printer does not answer");
+        state = PrinterListWords::tr("The printer does not answer");
     else if (printer.isDiscovered)
-        state = Words::tr("Found on the network");
+        state = PrinterListWords::tr("Found on the network");
     else if (stateSeverity(printer) == Severity::error)
-        state = Words::tr("Needs attention");
+        state = PrinterListWords::tr("Needs attention");
     QStringList reasons;
     for (const QString& reason : printer.reasons) {
         const QString text = reasonText(reason);
@@ -126,9 +126,9 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
     for (const PrinterInfo& printer : printers)
         names.append(printer.name);
     if (names.isEmpty())
-        return Words::tr("The print server has no printers. Add one, for example with lpadmin.");
+        return PrinterListWords::tr("The print server has no printers. Add one, for example with lpadmin.");
     if (name.isEmpty())
-        return Words::tr("The print server has no default printer. Name one with --printer.");
+        return PrinterListWords::tr("The print server has no default printer. Name one with --printer.");
     const qsizetype count = names.size();
     if (count > kMostNamed) {
         names = nearNames(name, names, kMostNamed) + names;
@@ -137,8 +137,9 @@ QString unknownPrinterText(const QString& name, const std::vector<PrinterInfo>& 
     }
     const QString list = listText(names);
     if (count == names.size())
-        return Words::tr("The print server has no printer \"%1\". It has: %2.").arg(name, list);
-    return Words::tr("The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
+        return PrinterListWords::tr("The print server has no printer \"%1\". It has: %2.").arg(name, list);
+    return PrinterListWords::tr(
+               "The print server has no printer \"%1\". It has: %2, and %3 more (lpstat -e).")
         .arg(name, list, QString::number(count - names.size()));
 }
 
@@ -255,7 +256,7 @@ void PrinterList::start()
         line->connect(stop);
         const ServerEvents::News news = line->look();
         const auto now = std::chrono::steady_clock::now();
-        const auto rest = news == ServerEvents::News::unknown ? kRestWithoutEvents : kRest;
+        const auto rest = news == ServerEvents::News::unknown ? kRestWithoutEvents : kListRest;
         if (news == ServerEvents::News::none && !isWanted && now - line->asked < kOldest)
             return rest;
         line->asked = now;

@@ -11,7 +11,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct PrinterQuestionsWords {
     Q_DECLARE_TR_FUNCTIONS(PrinterReport)
 };
 
@@ -49,12 +49,14 @@ cups::Ipp newQuestion(const PrinterPlace& place)
 QString whyNoAnswer(const cups::Connection& printer)
 {
     if (printer.wasTooMuch())
-        return Words::tr("The printer's answer about itself is too long to be true, and was not read.");
+        return PrinterQuestionsWords::tr(
+            "The printer's answer about itself is too long to be true, and was not read.");
     if (printer.wasForbidden())
-        return Words::tr("The printer does not tell strangers what is in it.");
+        return PrinterQuestionsWords::tr("The printer does not tell strangers what is in it.");
     if (!printer.isConnected() || printer.wasSilent())
-        return Words::tr("The printer does not answer. Is it switched on, and in this network?");
-    return Words::tr("The printer does not say what is in it.");
+        return PrinterQuestionsWords::tr(
+            "The printer does not answer. Is it switched on, and in this network?");
+    return PrinterQuestionsWords::tr("The printer does not say what is in it.");
 }
 
 PrinterReport askPrinter(cups::Connection& printer, const PrinterPlace& place)

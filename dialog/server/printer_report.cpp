@@ -17,13 +17,13 @@ namespace {
 
 constexpr int kMostReasons = 32;
 constexpr int kMostTrays = 32;
-constexpr int kMostMembers = 100;
+constexpr int kMostReported = 100;
 constexpr int kMostJobs = 100000;
-constexpr int kLongestKeyword = 120;
-constexpr int kLongestMessage = 160;
+constexpr int kLongestReportedKeyword = 120;
+constexpr int kLongestReportedMessage = 160;
 // In hundredths of a millimetre: half a centimetre to a roll of a hundred metres.
-constexpr int kLeastSide = 500;
-constexpr int kMostSide = 10000000;
+constexpr int kLeastReportedSide = 500;
+constexpr int kMostReportedSide = 10000000;
 constexpr int kMostSeconds = 366 * 24 * 3600;
 
 QStringList stringsOf(ipp_attribute_t* attribute, int most, bool* isCut)
@@ -32,7 +32,7 @@ QStringList stringsOf(ipp_attribute_t* attribute, int most, bool* isCut)
     const int count = attribute ? ippGetCount(attribute) : 0;
     *isCut = *isCut || count > most;
     for (int i = 0; i < std::min(count, most); ++i) {
-        const QString text = stringAt(attribute, i, kLongestKeyword);
+        const QString text = stringAt(attribute, i, kLongestReportedKeyword);
         if (!text.isEmpty() && text != QLatin1StringView("none"))
             all.append(text);
     }
@@ -47,10 +47,10 @@ double pointsOf(int hundredths)
 int sideOf(ipp_attribute_t* side)
 {
     if (!side || ippGetValueTag(side) != IPP_TAG_RANGE)
-        return integerAt(side, 0, kLeastSide, kMostSide, 0);
+        return integerAt(side, 0, kLeastReportedSide, kMostReportedSide, 0);
     int upper = 0;
     ippGetRange(side, 0, &upper);
-    return std::clamp(upper, 0, kMostSide);
+    return std::clamp(upper, 0, kMostReportedSide);
 }
 
 // One collection of media-col-ready.
@@ -65,13 +65,13 @@ std::optional<TrayPaper> readTray(ipp_t* media)
     paper.points = QSizeF(pointsOf(width), pointsOf(sideOf(length)));
     if (width == 0 || (!paper.isRoll && paper.points.height() <= 0.0))
         return std::nullopt;
-    paper.source = stringAt(findAttribute(media, "media-source"), 0, kLongestKeyword);
-    paper.type = stringAt(findAttribute(media, "media-type"), 0, kLongestKeyword);
+    paper.source = stringAt(findAttribute(media, "media-source"), 0, kLongestReportedKeyword);
+    paper.type = stringAt(findAttribute(media, "media-type"), 0, kLongestReportedKeyword);
     paper.isBorderless = true;
     for (const char* margin :
          {"media-top-margin", "media-bottom-margin", "media-left-margin", "media-right-margin"})
         paper.isBorderless =
-            paper.isBorderless && integerAt(findAttribute(media, margin), 0, 0, kMostSide, 1) == 0;
+            paper.isBorderless && integerAt(findAttribute(media, margin), 0, 0, kMostReportedSide, 1) == 0;
     return paper;
 }
 
@@ -79,11 +79,11 @@ std::optional<TrayPaper> readTray(ipp_t* media)
 std::optional<TrayPaper> readNamedSize(const QString& name)
 {
     const pwg_media_t* media = pwgMediaForPWG(name.toUtf8().constData());
-    if (!media || media->width < kLeastSide || media->length < kLeastSide)
+    if (!media || media->width < kLeastReportedSide || media->length < kLeastReportedSide)
         return std::nullopt;
     TrayPaper paper;
-    paper.points =
-        QSizeF(pointsOf(std::min(media->width, kMostSide)), pointsOf(std::min(media->length, kMostSide)));
+    paper.points = QSizeF(pointsOf(std::min(media->width, kMostReportedSide)),
+                          pointsOf(std::min(media->length, kMostReportedSide)));
     return paper;
 }
 
@@ -164,12 +164,12 @@ PrinterReport readReport(ipp_t* answer, bool isPrinter)
     report.state =
         stateOf(integerAt(findAttribute(answer, "printer-state"), 0, IPP_PSTATE_IDLE, IPP_PSTATE_STOPPED, 0));
     report.reasons = stringsOf(findAttribute(answer, "printer-state-reasons"), kMostReasons, &report.isCut);
-    report.message = stringAt(findAttribute(answer, "printer-state-message"), 0, kLongestMessage);
+    report.message = stringAt(findAttribute(answer, "printer-state-message"), 0, kLongestReportedMessage);
     report.since = readSince(answer);
     if (ipp_attribute_t* accepting = findAttribute(answer, "printer-is-accepting-jobs", IPP_TAG_BOOLEAN))
         report.isAccepting = ippGetBoolean(accepting, 0) != 0;
     report.jobs = integerAt(findAttribute(answer, "queued-job-count"), 0, 0, kMostJobs, 0);
-    report.members = stringsOf(findAttribute(answer, "member-names"), kMostMembers, &report.isCut);
+    report.members = stringsOf(findAttribute(answer, "member-names"), kMostReported, &report.isCut);
     readTrays(answer, isPrinter, report);
     report.supplies = readSupplies(answer, &report.isCut);
     return report;

@@ -15,7 +15,7 @@ namespace {
 
 constexpr char kDefaultEnding[] = "-default";
 
-struct Words {
+struct QueuePpdWords {
     Q_DECLARE_TR_FUNCTIONS(QueuePpd)
 };
 
@@ -70,7 +70,7 @@ void readQueue(ipp_t* answer, QueuePpd& result)
 QString whyNoPpd(const QString& queue, cups::Connection& server)
 {
     if (server.wasNotFound())
-        return Words::tr(
+        return QueuePpdWords::tr(
                    "The printer \"%1\" has no description on the print "
                    "server, and does not tell by itself what it can do. Install it with a driver, or choose "
                    "another printer.")
@@ -108,8 +108,8 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
             ppd::rememberText(queue, *text);
         result.file = std::make_shared<ppd::File>(std::move(file));
     } else
-        result.problem = Words::tr("The description of the printer \"%1\" is damaged: %2. "
-                                   "Install its driver again, or choose another printer.")
+        result.problem = QueuePpdWords::tr("The description of the printer \"%1\" is damaged: %2. "
+                                           "Install its driver again, or choose another printer.")
                              .arg(queue, why);
     return result;
 }

@@ -48,7 +48,7 @@ namespace {
 
 constexpr int kMilliseconds = 3000;
 
-struct Words {
+struct SecretStoreWords {
     Q_DECLARE_TR_FUNCTIONS(SecretStore)
 };
 
@@ -150,8 +150,9 @@ bool keep(const cups::Place& place, const cups::Login& login)
     BusAttributes attributes = attributesOf(place);
     attributes.insert(QStringLiteral("user"), login.user);
     const QString name = place.queue.isEmpty() ? place.host : place.queue;
-    const QVariantMap properties{{interfaceName("Item.Label"), Words::tr("Printing on %1").arg(name)},
-                                 {interfaceName("Item.Attributes"), QVariant::fromValue(attributes)}};
+    const QVariantMap properties{
+        {interfaceName("Item.Label"), SecretStoreWords::tr("Printing on %1").arg(name)},
+        {interfaceName("Item.Attributes"), QVariant::fromValue(attributes)}};
     const BusSecret secret{*session, {}, login.password.toUtf8(), QStringLiteral("text/plain; charset=utf8")};
     const QDBusMessage answer = call(kCollectionPath, interfaceName("Collection"), "CreateItem",
                                      {properties, QVariant::fromValue(secret), true});

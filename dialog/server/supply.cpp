@@ -25,7 +25,7 @@ constexpr int kUsualFull = 90;
 // A screen's pure black and its neighbours.
 constexpr int kDarkest = 0x40;
 
-struct Words {
+struct SupplyWords {
     Q_DECLARE_TR_FUNCTIONS(Supply)
 };
 
@@ -217,20 +217,21 @@ QString supplyName(const Supply& supply)
     if (!colours.isEmpty())
         return listText(colours);
     if (supply.fillsUp)
-        return Words::tr("Waste tank");
-    return isInk(supply) ? Words::tr("Ink") : Words::tr("Supply");
+        return SupplyWords::tr("Waste tank");
+    return isInk(supply) ? SupplyWords::tr("Ink") : SupplyWords::tr("Supply");
 }
 
 QString levelText(const Supply& supply)
 {
     if (!supply.level)
-        return Words::tr("not known");
+        return SupplyWords::tr("not known");
     if (isUsedUp(supply))
-        return supply.fillsUp ? Words::tr("full") : Words::tr("empty");
-    const QString share = Words::tr("%1 %").arg(*supply.level);
+        return supply.fillsUp ? SupplyWords::tr("full") : SupplyWords::tr("empty");
+    const QString share = SupplyWords::tr("%1 %").arg(*supply.level);
     if (supply.fillsUp)
-        return isLow(supply) ? Words::tr("%1, nearly full").arg(share) : Words::tr("%1 full").arg(share);
-    return isLow(supply) ? Words::tr("%1, low").arg(share) : share;
+        return isLow(supply) ? SupplyWords::tr("%1, nearly full").arg(share)
+                             : SupplyWords::tr("%1 full").arg(share);
+    return isLow(supply) ? SupplyWords::tr("%1, low").arg(share) : share;
 }
 
 bool isNeeded(const Supply& supply, bool inColour)
@@ -246,13 +247,13 @@ QString lowSupplies(const QList<Supply>& supplies, bool inColour)
         if (!isLow(supply) || !isNeeded(supply, inColour))
             continue;
         const QString name = isolated(supplyName(supply));
-        const QString share = Words::tr("%1 %").arg(*supply.level);
+        const QString share = SupplyWords::tr("%1 %").arg(*supply.level);
         if (isUsedUp(supply))
-            parts.append(supply.fillsUp ? Words::tr("%1 is full").arg(name)
-                                        : Words::tr("%1 is empty").arg(name));
+            parts.append(supply.fillsUp ? SupplyWords::tr("%1 is full").arg(name)
+                                        : SupplyWords::tr("%1 is empty").arg(name));
         else
-            parts.append(supply.fillsUp ? Words::tr("%1 is nearly full (%2)").arg(name, share)
-                                        : Words::tr("%1 is low (%2)").arg(name, share));
+            parts.append(supply.fillsUp ? SupplyWords::tr("%1 is nearly full (%2)").arg(name, share)
+                                        : SupplyWords::tr("%1 is low (%2)").arg(name, share));
     }
     return listText(parts);
 }

@@ -15,7 +15,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct BundleTrustWords {
     Q_DECLARE_TR_FUNCTIONS(PluginLoader)
 };
 
@@ -34,12 +34,12 @@ QString problemOf(const QString& path)
 {
     struct stat about = {};
     if (stat(QFile::encodeName(path).constData(), &about) != 0)
-        return Words::tr("%1 cannot be looked at").arg(path);
+        return BundleTrustWords::tr("%1 cannot be looked at").arg(path);
     if (about.st_uid != 0 && about.st_uid != getuid())
-        return Words::tr("%1 belongs to another user").arg(path);
+        return BundleTrustWords::tr("%1 belongs to another user").arg(path);
     const bool isOpenToGroup = (about.st_mode & S_IWGRP) != 0 && about.st_gid != 0;
     if ((about.st_mode & S_IWOTH) != 0 || (isOpenToGroup && !isOnlyTheUsers(about.st_gid)))
-        return Words::tr("%1 can be changed by other users").arg(path);
+        return BundleTrustWords::tr("%1 can be changed by other users").arg(path);
     return {};
 }
 

@@ -21,10 +21,10 @@ namespace halvern {
 
 namespace {
 
-constexpr qsizetype kLongestName = 60;
+constexpr qsizetype kLongestProfileName = 60;
 constexpr qsizetype kLongestShort = 40;
 
-struct Words {
+struct ColourManagementWords {
     Q_DECLARE_TR_FUNCTIONS(ColourManagement)
 };
 
@@ -150,8 +150,9 @@ PrinterProfile ColourManagement::profileFor(const ColourSettings& settings, cons
     if (!path.isEmpty())
         return shelf_->find(path);
     PrinterProfile none;
-    none.problem = Words::tr("No color profile of this printer is known. Choose one, or let the printer "
-                             "manage colors.");
+    none.problem =
+        ColourManagementWords::tr("No color profile of this printer is known. Choose one, or let the printer "
+                                  "manage colors.");
     return none;
 }
 
@@ -166,22 +167,25 @@ ColourPlan ColourManagement::planFor(const ColourSettings& settings, const PpdMo
 
 QString ColourManagement::shortly(const ColourSettings& settings, const PpdModel* model) const
 {
-    return Words::tr("colors for \"%1\"").arg(isolated(profileFor(settings, model).name, kLongestShort));
+    return ColourManagementWords::tr("colors for \"%1\"")
+        .arg(isolated(profileFor(settings, model).name, kLongestShort));
 }
 
 QString ColourManagement::inWords(const ColourSettings& settings, const PpdModel* model) const
 {
     if (!settings.isByDialog) {
         const bool isWide = model && wantsAdobeRgb(*model);
-        return Words::tr("The printer converts the colors: each photo goes to it in %1. No soft proof: only "
-                         "the printer knows what it makes of them.")
+        return ColourManagementWords::tr(
+                   "The printer converts the colors: each photo goes to it in %1. No soft proof: only "
+                   "the printer knows what it makes of them.")
             .arg(isWide ? QStringLiteral("Adobe RGB") : QStringLiteral("sRGB"));
     }
     const PrinterProfile profile = profileFor(settings, model);
     if (!profile.problem.isEmpty())
         return profile.problem;
-    QString sentence = Words::tr("This program converts the colors, from each photo's own to \"%1\".")
-                           .arg(isolated(profile.name, kLongestName));
+    QString sentence =
+        ColourManagementWords::tr("This program converts the colors, from each photo's own to \"%1\".")
+            .arg(isolated(profile.name, kLongestProfileName));
     OptionValues off = model ? withoutDriverColours(*model) : OptionValues();
     off.removeIf([&](const OptionValue& value) {
         return !ppd_lookup::listedChoice(model->file(), value.key, value.value);
@@ -189,14 +193,15 @@ QString ColourManagement::inWords(const ColourSettings& settings, const PpdModel
     const QStringList texts = [&] {
         QStringList list;
         for (const OptionValue& value : off)
-            list.append(Words::tr("%1: %2").arg(model->optionText(value.key),
-                                                model->choiceText(value.key, value.value)));
+            list.append(ColourManagementWords::tr("%1: %2").arg(model->optionText(value.key),
+                                                                model->choiceText(value.key, value.value)));
         return list;
     }();
-    sentence += QLatin1Char(' ') +
-                (texts.isEmpty()
-                     ? Words::tr("See that the printer's own color correction is off.")
-                     : Words::tr("The printer is told not to convert them again (%1).").arg(listText(texts)));
+    sentence +=
+        QLatin1Char(' ') +
+        (texts.isEmpty() ? ColourManagementWords::tr("See that the printer's own color correction is off.")
+                         : ColourManagementWords::tr("The printer is told not to convert them again (%1).")
+                               .arg(listText(texts)));
     const QString whyNoProof = this->whyNoProof(settings, model);
     return whyNoProof.isEmpty() ? sentence : sentence + QLatin1Char(' ') + whyNoProof;
 }
@@ -212,15 +217,17 @@ void ColourManagement::setProof(const ProofSettings& proof)
 QString ColourManagement::whyNoProof(const ColourSettings& settings, const PpdModel* model) const
 {
     if (!settings.isByDialog)
-        return Words::tr("Only the printer knows what it makes of the colors. Let this program manage them, "
-                         "for a profile, to see a soft proof.");
+        return ColourManagementWords::tr(
+            "Only the printer knows what it makes of the colors. Let this program manage them, "
+            "for a profile, to see a soft proof.");
     const PrinterProfile profile = profileFor(settings, model);
     if (!profile.problem.isEmpty())
         return profile.problem;
-    return profile.canProof ? QString()
-                            : Words::tr("\"%1\" does not say what its colors look like: with it there is "
-                                        "no soft proof.")
-                                  .arg(isolated(profile.name, kLongestName));
+    return profile.canProof
+               ? QString()
+               : ColourManagementWords::tr("\"%1\" does not say what its colors look like: with it there is "
+                                           "no soft proof.")
+                     .arg(isolated(profile.name, kLongestProfileName));
 }
 
 ScreenPlan ColourManagement::screenPlan(const ColourSettings& settings, const PpdModel* model) const
@@ -239,9 +246,10 @@ QString ColourManagement::proofInWords(const ColourSettings& settings, const Ppd
     const ScreenPlan plan = screenPlan(settings, model);
     if (!plan.proof)
         return {};
-    QString words = plan.showsPaper ? Words::tr("Soft proof with paper white") : Words::tr("Soft proof");
+    QString words = plan.showsPaper ? ColourManagementWords::tr("Soft proof with paper white")
+                                    : ColourManagementWords::tr("Soft proof");
     if (plan.marksGamut)
-        words += QStringLiteral("  ·  ") + Words::tr("pink cannot be printed");
+        words += QStringLiteral("  ·  ") + ColourManagementWords::tr("pink cannot be printed");
     return words;
 }
 
@@ -269,7 +277,7 @@ QString intentName(ColourIntent intent)
 {
     for (const IntentRow& row : kIntents) {
         if (row.intent == intent)
-            return Words::tr(row.name);
+            return ColourManagementWords::tr(row.name);
     }
     return {};
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/dialog_session.h"
+#include "dialog/session/paper_feed_keyword.h"
 
 #include "dialog/session/driver_colours.h"
 #include "dialog/session/starting_options.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr qsizetype kRecentNames = 5;
 constexpr char kExtensionKeyword[] = "HalvernDialogExtension";
-const QString kPaperFeed = QStringLiteral("PaperFeed");
 
 } // namespace
 
@@ -236,7 +236,7 @@ void DialogSession::loadPanels()
         Q_EMIT notice(problem);
     // The panel of the papers makes its view soon anyway, and settles on a feed then. Made now, the view
     // shows what is chosen before the papers come.
-    panels_.restore(request_.panelsChangeOptions ? kPaperFeed : QString());
+    panels_.restore(request_.panelsChangeOptions ? kPaperFeedKeyword : QString());
 }
 
 void DialogSession::setPage(const PageSettings& page)

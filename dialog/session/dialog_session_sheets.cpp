@@ -16,11 +16,11 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLongestName = 60;
+constexpr int kLongestTitle = 60;
 
 QString nameOf(const Photo& photo)
 {
-    return isolated(QFileInfo(photo.path).fileName(), kLongestName);
+    return isolated(QFileInfo(photo.path).fileName(), kLongestTitle);
 }
 
 } // namespace

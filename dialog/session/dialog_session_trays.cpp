@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What a printer that tells of its trays has to do with the options.
+#include "dialog/options/page_size_keyword.h"
 #include "dialog/session/dialog_session.h"
+#include "dialog/session/paper_feed_keyword.h"
 
 #include "dialog/session/seen_printers.h"
 #include "platform/foundation/display_text.h"
@@ -13,11 +15,9 @@ namespace halvern {
 
 namespace {
 
-const QString kPaperFeed = QStringLiteral("PaperFeed");
-const QString kPageSize = QStringLiteral("PageSize");
 const QString kMediaType = QStringLiteral("MediaType");
 
-struct Words {
+struct DialogSessionTraysWords {
     Q_DECLARE_TR_FUNCTIONS(RefilledTray)
 };
 
@@ -39,16 +39,18 @@ QString refilledInWords(const PpdModel& model, const TrayPaper& paper, bool hasC
     const QString followed = hasChanged ? followedInWords(model, paper) : QString();
     QString sentence =
         followed.isEmpty()
-            ? Words::tr("\"%1\" has other paper now.").arg(tray)
-            : Words::tr("\"%1\" has other paper now, and the page follows: %2.").arg(tray, followed);
+            ? DialogSessionTraysWords::tr("\"%1\" has other paper now.").arg(tray)
+            : DialogSessionTraysWords::tr("\"%1\" has other paper now, and the page follows: %2.")
+                  .arg(tray, followed);
     const QString kind = choiceFor(model, paper).type;
     const bool isOtherKind =
         !paper.type.isEmpty() && !model.value(kMediaType).isEmpty() && model.value(kMediaType) != kind;
     if (isOtherKind)
         sentence +=
-            QLatin1Char(' ') + Words::tr("Its kind, %1, could not be chosen: the paper type is still \"%2\".")
-                                   .arg(isolated(paperTypeText(model, paper)),
-                                        isolated(model.choiceText(kMediaType, model.value(kMediaType))));
+            QLatin1Char(' ') +
+            DialogSessionTraysWords::tr("Its kind, %1, could not be chosen: the paper type is still \"%2\".")
+                .arg(isolated(paperTypeText(model, paper)),
+                     isolated(model.choiceText(kMediaType, model.value(kMediaType))));
     return isOtherKind || !followed.isEmpty() ? sentence : QString();
 }
 
@@ -61,7 +63,7 @@ bool isSamePaper(const TrayPaper& a, const TrayPaper& b)
 
 QList<TrayPaper> DialogSession::trays() const
 {
-    const bool hasOwnFeed = model() && model()->choiceCount(kPaperFeed) > 0;
+    const bool hasOwnFeed = model() && model()->choiceCount(kPaperFeedKeyword) > 0;
     return model() && !hasOwnFeed ? report().trays : QList<TrayPaper>();
 }
 

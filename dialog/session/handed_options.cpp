@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/handed_options.h"
+#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/options/common_words.h"
 #include "dialog/options/ppd_lookup.h"
@@ -18,11 +19,10 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct HandedOptionsWords {
     Q_DECLARE_TR_FUNCTIONS(HandedOptions)
 };
 
-const QString kPageSize = QStringLiteral("PageSize");
 constexpr double kSamePoints = 1.5;
 
 bool hasMeasures(ppd_file_t* file, const QString& pageSize, const QSizeF& points)
@@ -102,8 +102,8 @@ std::optional<PresetEntry> withHanded(ppd_file_t* file, const QString& printer, 
         entry.preset.changed.insert(it.key());
     }
     entry.preset.basedOn.clear();
-    entry.preset.name = handed.giver.isEmpty() ? Words::tr("The application's settings")
-                                               : Words::tr("Settings of %1").arg(handed.giver);
+    entry.preset.name = handed.giver.isEmpty() ? HandedOptionsWords::tr("The application's settings")
+                                               : HandedOptionsWords::tr("Settings of %1").arg(handed.giver);
     return entry;
 }
 

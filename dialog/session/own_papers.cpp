@@ -11,23 +11,23 @@ namespace halvern {
 
 namespace {
 
-const QString kKey = QStringLiteral("OwnPaperSizes");
+const QString kOwnPapersKey = QStringLiteral("OwnPaperSizes");
 constexpr qsizetype kMostPapers = 50;
-constexpr int kLongestName = 60;
+constexpr int kLongestPaperName = 60;
 
 // "Custom.100x250mm Panorama"
 std::optional<OwnPaper> readPaper(const QString& line)
 {
     const qsizetype blank = line.indexOf(QLatin1Char(' '));
     const std::optional<QSizeF> points = customMeasures(line.left(blank));
-    const QString name = displayText(line.mid(blank + 1), kLongestName).trimmed();
+    const QString name = displayText(line.mid(blank + 1), kLongestPaperName).trimmed();
     return points && blank > 0 && !name.isEmpty() ? std::optional<OwnPaper>({name, *points}) : std::nullopt;
 }
 
 QList<OwnPaper> readPapers(const QVariantMap& values)
 {
     QList<OwnPaper> papers;
-    for (const QString& line : values.value(kKey).toStringList().mid(0, kMostPapers)) {
+    for (const QString& line : values.value(kOwnPapersKey).toStringList().mid(0, kMostPapers)) {
         if (const std::optional<OwnPaper> paper = readPaper(line))
             papers.append(*paper);
     }
@@ -42,7 +42,7 @@ template <typename Change> void changePapers(Change change)
         QStringList lines;
         for (const OwnPaper& paper : papers)
             lines.append(customKeyword(paper.points) + QLatin1Char(' ') + paper.name);
-        values.insert(kKey, lines);
+        values.insert(kOwnPapersKey, lines);
     });
 }
 
@@ -63,7 +63,7 @@ void keepOwnPaper(const OwnPaper& paper)
 {
     changePapers([&](QList<OwnPaper>& papers) {
         papers.removeIf([&](const OwnPaper& kept) { return isCalled(kept, paper.name); });
-        papers.prepend({displayText(paper.name, kLongestName).trimmed(), paper.points});
+        papers.prepend({displayText(paper.name, kLongestPaperName).trimmed(), paper.points});
     });
 }
 

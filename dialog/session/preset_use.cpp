@@ -16,7 +16,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct PresetUseWords {
     Q_DECLARE_TR_FUNCTIONS(Presets)
 };
 
@@ -48,7 +48,7 @@ constexpr std::array kParities{Word<PageParity>{PageParity::all, "all"},
                                Word<PageParity>{PageParity::odd, "odd"},
                                Word<PageParity>{PageParity::even, "even"}};
 
-template <typename Words, typename Value> QString wordOf(const Words& words, Value value)
+template <typename Table, typename Value> QString wordOf(const Table& words, Value value)
 {
     for (const auto& row : words) {
         if (row.value == value)
@@ -57,17 +57,12 @@ template <typename Words, typename Value> QString wordOf(const Words& words, Val
     return {};
 }
 
-template <typename Words, typename Value> void readWord(const Words& words, const QString& word, Value& value)
+template <typename Table, typename Value> void readWord(const Table& words, const QString& word, Value& value)
 {
     for (const auto& row : words) {
         if (word == QLatin1StringView(row.word))
             value = row.value;
     }
-}
-
-QString trueOrFalse(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 QMap<QString, QString> pageTexts(const PageSettings& page)
@@ -238,8 +233,8 @@ PresetOptions optionsOf(const PpdModel& model, const Preset& preset, const QMap<
         if (isPrinters(model, it.key()) && !isPages(it.key()))
             options.given.append({it.key(), it.value(), OptionOrigin::remembered});
         else
-            options.leftOut.append(
-                {OptionOrigin::remembered, Words::tr("The printer has no option \"%1\".").arg(it.key())});
+            options.leftOut.append({OptionOrigin::remembered,
+                                    PresetUseWords::tr("The printer has no option \"%1\".").arg(it.key())});
     }
     return options;
 }
@@ -356,8 +351,8 @@ QString leftOutSentence(const QString& title, const QList<LeftOut>& leftOut)
     for (const LeftOut& left : leftOut.mid(0, kMostSentences))
         sentences.append(left.sentence);
     if (leftOut.size() > kMostSentences)
-        sentences.append(Words::tr("And %1 more.").arg(leftOut.size() - kMostSentences));
-    return Words::tr("Not all of \"%1\" can be had now.").arg(title) + QLatin1Char(' ') +
+        sentences.append(PresetUseWords::tr("And %1 more.").arg(leftOut.size() - kMostSentences));
+    return PresetUseWords::tr("Not all of \"%1\" can be had now.").arg(title) + QLatin1Char(' ') +
            sentences.join(QLatin1Char(' '));
 }
 

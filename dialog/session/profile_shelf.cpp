@@ -21,7 +21,7 @@ namespace {
 constexpr qint64 kLargestProfile = 64 * 1024 * 1024;
 constexpr int kTryAgain = 1000; // milliseconds
 
-struct Words {
+struct ProfileShelfWords {
     Q_DECLARE_TR_FUNCTIONS(ColourManagement)
 };
 
@@ -36,7 +36,7 @@ PrinterProfile failed(const QString& path, const QString& problem)
 PrinterProfile beingRead(const QString& path)
 {
     PrinterProfile profile =
-        failed(path, Words::tr("The color profile \"%1\" is being read. Wait a moment."));
+        failed(path, ProfileShelfWords::tr("The color profile \"%1\" is being read. Wait a moment."));
     profile.isRead = false;
     return profile;
 }
@@ -47,13 +47,15 @@ PrinterProfile readPrinterProfile(const QString& path)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > kLargestProfile || !file.open(QIODevice::ReadOnly))
-        return failed(path, Words::tr("The color profile \"%1\" cannot be read. Choose another one, or let "
-                                      "the printer manage colors."));
+        return failed(
+            path, ProfileShelfWords::tr("The color profile \"%1\" cannot be read. Choose another one, or let "
+                                        "the printer manage colors."));
     const QByteArray bytes = file.readAll();
     const OpenProfile profile = openProfile(bytes);
     if (!profile || !canConvertTo(profile))
-        return failed(path, Words::tr("\"%1\" is no color profile of a printer. Choose another one, or let "
-                                      "the printer manage colors."));
+        return failed(
+            path, ProfileShelfWords::tr("\"%1\" is no color profile of a printer. Choose another one, or let "
+                                        "the printer manage colors."));
     const QString name = profileName(profile);
     return {bytes,
             path,

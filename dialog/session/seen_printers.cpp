@@ -7,13 +7,13 @@ namespace halvern {
 
 namespace {
 
-const QString kKey = QStringLiteral("PrintersSeen");
+const QString kSeenPrintersKey = QStringLiteral("PrintersSeen");
 constexpr qsizetype kMostPrinters = 100;
 
 // "2026-11-21 Name", the newest first.
 QStringList readLines(const QVariantMap& values)
 {
-    return values.value(kKey).toStringList().mid(0, kMostPrinters);
+    return values.value(kSeenPrintersKey).toStringList().mid(0, kMostPrinters);
 }
 
 QString nameIn(const QString& line)
@@ -32,7 +32,7 @@ void SeenPrinters::note(const QString& name)
         QStringList lines = readLines(values);
         lines.removeIf([&](const QString& line) { return nameIn(line) == name; });
         lines.prepend(today.toString(Qt::ISODate) + QLatin1Char(' ') + name);
-        values.insert(kKey, lines.mid(0, kMostPrinters));
+        values.insert(kSeenPrintersKey, lines.mid(0, kMostPrinters));
     });
 }
 

@@ -16,7 +16,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct SheetWordsWords {
     Q_DECLARE_TR_FUNCTIONS(SheetWords)
 };
 
@@ -30,11 +30,6 @@ const QString kMargin = QStringLiteral("margin");
 const QString kPhotoSize = QStringLiteral("photoSize");
 const QString kPercent = QStringLiteral("percent");
 const QString kCorner = QStringLiteral("corner");
-
-QString trueOrFalse(bool value)
-{
-    return value ? QStringLiteral("true") : QStringLiteral("false");
-}
 
 QString sizeText(const QSizeF& size)
 {
@@ -111,17 +106,17 @@ QString layoutInWords(const SheetSettings& settings, const LayoutLibrary& layout
     const std::optional<Layout> layout = layouts.find(settings.layout);
     if (layout && !layout->name.isEmpty())
         parts << layout->name
-              << (plan.sheets.size() == 1 ? Words::tr("1 sheet")
-                                          : Words::tr("%1 sheets").arg(plan.sheets.size()));
+              << (plan.sheets.size() == 1 ? SheetWordsWords::tr("1 sheet")
+                                          : SheetWordsWords::tr("%1 sheets").arg(plan.sheets.size()));
     else if (!settings.photo.isEmpty())
-        parts << Words::tr("photos in %1 × %2 mm")
+        parts << SheetWordsWords::tr("photos in %1 × %2 mm")
                      .arg(shortestDouble(settings.photo.width()), shortestDouble(settings.photo.height()));
     if (!settings.caption.isEmpty())
-        parts << Words::tr("with captions");
+        parts << SheetWordsWords::tr("with captions");
     if (settings.hasCutMarks)
-        parts << Words::tr("with cut marks");
+        parts << SheetWordsWords::tr("with cut marks");
     if (settings.border > 0.0)
-        parts << Words::tr("white border %1 mm").arg(shortestDouble(settings.border));
+        parts << SheetWordsWords::tr("white border %1 mm").arg(shortestDouble(settings.border));
     return listText(parts);
 }
 
@@ -191,7 +186,7 @@ QStringList sheetLines(const SheetPlan& plan, const std::vector<Photo>& photos)
     for (size_t i = 0; i < plan.sheets.size(); ++i) {
         for (const PlacedPhoto& placed : plan.sheets[i].photos) {
             const QRectF seen = placed.layout.visible();
-            lines.append(Words::tr("Sheet %1: %2, %3 x %4 mm at %5, %6 mm")
+            lines.append(SheetWordsWords::tr("Sheet %1: %2, %3 x %4 mm at %5, %6 mm")
                              .arg(QString::number(i + 1), QFileInfo(photos[placed.photo].path).fileName(),
                                   millimetres(seen.width()), millimetres(seen.height()),
                                   millimetres(seen.left()), millimetres(seen.top())));

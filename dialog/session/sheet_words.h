@@ -18,6 +18,12 @@ QStringList sheetWords(const SheetSettings& settings, Scaling scaling, const Lay
 /// As a user reads it: "4 on a page, 2 sheets, with captions"; empty for a photo a page as it always was.
 QString layoutInWords(const SheetSettings& settings, const LayoutLibrary& layouts, const SheetPlan& plan);
 
+/// A yes or no, as presets keep it.
+inline QString trueOrFalse(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
 /// As a preset keeps it, and back: what is not there, or cannot be, stays as it was.
 QMap<QString, QString> sheetTexts(const SheetSettings& settings);
 SheetSettings sheetsOf(const QMap<QString, QString>& texts, const SheetSettings& before);

@@ -14,7 +14,7 @@ namespace halvern {
 
 namespace {
 
-struct Words {
+struct StartingOptionsWords {
     Q_DECLARE_TR_FUNCTIONS(StartingOptions)
 };
 
@@ -60,10 +60,11 @@ AppliedLines applyBackLines(PpdModel& model, const QStringList& lines, const QSt
 {
     for (int number = 1; number <= lines.size(); ++number) {
         if (model.value(backLineSwitch(number)).isEmpty())
-            return {{Words::tr("The printer \"%1\" prints no text on the back of a picture. Leave "
-                               "--backprint out, or choose another printer.")
-                         .arg(printer)},
-                    {}};
+            return {
+                {StartingOptionsWords::tr("The printer \"%1\" prints no text on the back of a picture. Leave "
+                                          "--backprint out, or choose another printer.")
+                     .arg(printer)},
+                {}};
     }
     AppliedLines applied;
     for (const OptionValue& option : backLineOptions(lines)) {

@@ -19,8 +19,8 @@ namespace {
 
 constexpr std::array kIntents{ColourIntent::perceptual, ColourIntent::relative, ColourIntent::saturation,
                               ColourIntent::absolute};
-constexpr int kShortBox = 12;                // characters
-const QString kOther = QStringLiteral("\n"); // no path of a file that is offered
+constexpr int kShortBox = 12;                    // characters
+const QString kOtherFile = QStringLiteral("\n"); // no path of a file that is offered
 
 void select(QComboBox* box, const QVariant& value)
 {
@@ -134,7 +134,7 @@ void ColourRow::listProfiles()
                       QString());
     if (!colours.profile.isEmpty())
         profile_->addItem(itemText(nameOf(colours.profile)), colours.profile);
-    profile_->addItem(tr("Another file..."), kOther);
+    profile_->addItem(tr("Another file..."), kOtherFile);
     select(profile_, colours.profile);
 }
 
@@ -186,7 +186,7 @@ void ColourRow::choose()
 void ColourRow::chooseProfile()
 {
     const QString path = profile_->currentData().toString();
-    if (path == kOther)
+    if (path == kOtherFile)
         askForFile();
     else
         useProfile(path);

@@ -21,7 +21,7 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLongestName = 60;
+constexpr int kLongestPaperName = 60;
 
 } // namespace
 
@@ -44,7 +44,7 @@ CustomPaperRow::CustomPaperRow(QWidget* parent)
     photoLength_->setAutoDefault(false);
     name_->setObjectName(QStringLiteral("customName"));
     name_->setPlaceholderText(tr("Name, to find it again"));
-    name_->setMaxLength(kLongestName);
+    name_->setMaxLength(kLongestPaperName);
     setPlainName(name_, tr("Name of this paper size"));
     keep_->setObjectName(QStringLiteral("keepCustom"));
     keep_->setAutoDefault(false);

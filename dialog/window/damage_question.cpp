@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kMostNamed = 5;
 
-struct Words {
+struct DamageQuestionWords {
     Q_DECLARE_TR_FUNCTIONS(DamageQuestion)
 };
 
@@ -21,7 +21,7 @@ QString namedFiles(const QStringList& sentences)
 {
     QStringList lines = sentences.mid(0, kMostNamed);
     if (sentences.size() > kMostNamed)
-        lines.append(Words::tr("And %1 more.").arg(sentences.size() - kMostNamed));
+        lines.append(DamageQuestionWords::tr("And %1 more.").arg(sentences.size() - kMostNamed));
     return lines.join(QStringLiteral("\n\n"));
 }
 
@@ -31,18 +31,18 @@ QMessageBox* makeBox(const DialogSession& session, QWidget* parent)
     const bool hasDamaged = !session.damagedFiles().isEmpty();
     const QStringList sentences = session.unreadableFiles() + session.damagedFiles();
     auto* box = new QMessageBox(QMessageBox::Warning,
-                                hasDamaged ? Words::tr("Print damaged photos?")
-                                           : Words::tr("Print without these files?"),
+                                hasDamaged ? DamageQuestionWords::tr("Print damaged photos?")
+                                           : DamageQuestionWords::tr("Print without these files?"),
                                 namedFiles(sentences), QMessageBox::Cancel, parent);
     box->setObjectName(QStringLiteral("damageQuestion"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     if (sentences.size() > kMostNamed)
         box->setDetailedText(sentences.join(QStringLiteral("\n"))); // plain: a field for plain text shows it
-    box->setInformativeText(hasDamaged
-                                ? Words::tr("What is missing comes out gray, or smeared. Files that cannot "
-                                            "be read are left out.")
-                                : Words::tr("Files that cannot be read are left out."));
+    box->setInformativeText(
+        hasDamaged ? DamageQuestionWords::tr("What is missing comes out gray, or smeared. Files that cannot "
+                                             "be read are left out.")
+                   : DamageQuestionWords::tr("Files that cannot be read are left out."));
     box->setDefaultButton(QMessageBox::Cancel);
     return box;
 }
@@ -54,10 +54,11 @@ void askAboutDamagedPhotos(QWidget* parent, DialogSession& session, const std::f
     const bool hasDamaged = !session.damagedFiles().isEmpty();
     QMessageBox* box = makeBox(session, parent);
     const QPushButton* leaveOut =
-        hasDamaged ? box->addButton(Words::tr("&Leave Them Out"), QMessageBox::DestructiveRole)
-                   : box->addButton(Words::tr("&Print the Others"), QMessageBox::AcceptRole);
+        hasDamaged ? box->addButton(DamageQuestionWords::tr("&Leave Them Out"), QMessageBox::DestructiveRole)
+                   : box->addButton(DamageQuestionWords::tr("&Print the Others"), QMessageBox::AcceptRole);
     const QPushButton* print =
-        hasDamaged ? box->addButton(Words::tr("&Print All the Same"), QMessageBox::AcceptRole) : nullptr;
+        hasDamaged ? box->addButton(DamageQuestionWords::tr("&Print All the Same"), QMessageBox::AcceptRole)
+                   : nullptr;
     QObject::connect(box, &QMessageBox::buttonClicked, parent,
                      [leaveOut, print, &session, go](const QAbstractButton* button) {
                          if (button != leaveOut && button != print)

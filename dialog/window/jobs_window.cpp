@@ -22,7 +22,7 @@ namespace halvern {
 
 namespace {
 
-constexpr QSize kUsualSize(680, 340);
+constexpr QSize kUsualJobsSize(680, 340);
 // Two lines of words that the window keeps free, so that a refusal moves nothing.
 constexpr int kStateLines = 2;
 
@@ -76,7 +76,7 @@ JobsWindow::JobsWindow(const QString& queue, Printers printers, QWidget* parent)
     column->addWidget(state_);
     column->addLayout(makeButtons());
     column->addLayout(last);
-    resize(kUsualSize);
+    resize(kUsualJobsSize);
     connect(close, &QDialogButtonBox::rejected, this, &QDialog::close);
     connect(ended_, &QCheckBox::toggled, jobs_, &UserJobList::setWithEnded);
     connect(jobs_, &UserJobList::changed, this, &JobsWindow::showJobs);

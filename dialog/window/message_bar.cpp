@@ -17,7 +17,7 @@ namespace halvern {
 
 namespace {
 
-constexpr int kEdge = 18;
+constexpr int kIconEdge = 18;
 constexpr size_t kMostMessages = 50;
 
 QColor colourOf(MessageKind kind)
@@ -36,20 +36,20 @@ QColor colourOf(MessageKind kind)
 // The style's own marks belong to another set of icons than its colours.
 QPixmap markOf(MessageKind kind, qreal pixelRatio)
 {
-    QPixmap mark(QSize(kEdge, kEdge) * pixelRatio);
+    QPixmap mark(QSize(kIconEdge, kIconEdge) * pixelRatio);
     mark.setDevicePixelRatio(pixelRatio);
     mark.fill(Qt::transparent);
     QPainter painter(&mark);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colourOf(kind));
-    painter.drawEllipse(QRectF(0.5, 0.5, kEdge - 1, kEdge - 1));
+    painter.drawEllipse(QRectF(0.5, 0.5, kIconEdge - 1, kIconEdge - 1));
     painter.setPen(Qt::white);
     QFont font = painter.font();
     font.setBold(true);
     font.setPixelSize(13);
     painter.setFont(font);
-    painter.drawText(QRectF(0, 0, kEdge, kEdge), Qt::AlignCenter,
+    painter.drawText(QRectF(0, 0, kIconEdge, kIconEdge), Qt::AlignCenter,
                      kind == MessageKind::information ? QStringLiteral("i") : QStringLiteral("!"));
     return mark;
 }

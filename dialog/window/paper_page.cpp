@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/paper_page.h"
+#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/window/choice_list.h"
 #include "dialog/window/colour_row.h"
@@ -30,7 +31,6 @@ namespace {
 
 constexpr int kLeastScale = 10; // percent
 constexpr int kMostScale = 1000;
-const QString kPageSizeKey = QStringLiteral("PageSize");
 
 bool isSameRoom(const PaperRoom& a, const PaperRoom& b)
 {
@@ -232,7 +232,7 @@ void PaperPage::refreshPaper()
         listPapers();
     }
     paper_->setCurrentIndex(
-        papers_->rowOf(model ? model->value(kPageSizeKey) : QString(), session_.trayInUse()));
+        papers_->rowOf(model ? model->value(kPageSize) : QString(), session_.trayInUse()));
     setPlainToolTip(paper_, paper_->currentText());
 }
 
@@ -253,7 +253,7 @@ void PaperPage::refreshCustom()
 {
     const PpdModel* model = session_.model();
     const std::optional<PaperLimits> limits = model ? paperLimits(model->file()) : std::nullopt;
-    const std::optional<QSizeF> points = model ? customMeasures(model->value(kPageSizeKey)) : std::nullopt;
+    const std::optional<QSizeF> points = model ? customMeasures(model->value(kPageSize)) : std::nullopt;
     form_->setRowVisible(custom_, limits && points);
     if (!limits || !points)
         return;
@@ -305,7 +305,7 @@ void PaperPage::choosePaper()
     } else if (borderless_->isChecked() && !size.borderless.isEmpty()) {
         wanted = size.borderless;
     }
-    session_.changeOption(kPageSizeKey, wanted);
+    session_.changeOption(kPageSize, wanted);
     refresh(); // a refused choice goes back
 }
 
@@ -320,7 +320,7 @@ void PaperPage::chooseBorderless(bool isOn)
 
 void PaperPage::chooseCustom(const QSizeF& points)
 {
-    session_.changeOption(kPageSizeKey, customKeyword(points));
+    session_.changeOption(kPageSize, customKeyword(points));
     refresh();
 }
 

@@ -14,7 +14,7 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLongestName = 120;
+constexpr int kLongestPhotoName = 120;
 
 QString nameOf(const Photo& photo)
 {
@@ -142,7 +142,7 @@ QVariant PhotoListModel::data(const QModelIndex& index, int role) const
     const Row& row = rows_[size_t(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return itemText(displayText(nameOf(*photo(index.row())), kLongestName));
+        return itemText(displayText(nameOf(*photo(index.row())), kLongestPhotoName));
     case Qt::AccessibleTextRole:
         return words(index.row());
     case Qt::ToolTipRole:
@@ -168,7 +168,7 @@ QString PhotoListModel::words(int row) const
 {
     const Row& values = rows_[size_t(row)];
     QStringList words{tr("Photo %1 of %2").arg(row + 1).arg(rows_.size()),
-                      isolated(nameOf(*photo(row)), kLongestName),
+                      isolated(nameOf(*photo(row)), kLongestPhotoName),
                       values.copies == 1 ? tr("1 copy") : tr("%1 copies").arg(values.copies)};
     if (!values.isPrinted)
         words.append(tr("not printed"));

@@ -21,10 +21,10 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLongestName = 120;
+constexpr int kLongestFileName = 120;
 constexpr int kLeastHeight = 430; // with the photos in a row, or too little is left for the preview
 constexpr int kFoldMargin = 4;
-const QString kFoldedKey = QStringLiteral("PhotosFolded");
+const QString kPhotosFoldedKey = QStringLiteral("PhotosFolded");
 
 QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
 {
@@ -94,7 +94,7 @@ void PreviewSide::makeStrip(QHBoxLayout* row)
     fold_ = new QToolButton(this);
     fold_->setObjectName(QStringLiteral("foldPhotos"));
     fold_->setAutoRaise(true);
-    isFolded_ = UserDefaults::standardUserDefaults().objectForKey(kFoldedKey).toBool();
+    isFolded_ = UserDefaults::standardUserDefaults().objectForKey(kPhotosFoldedKey).toBool();
     fold_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     fold_->setToolTip(tr("Show the photos in a row, or not"));
     row->addSpacing(kFoldMargin);
@@ -103,7 +103,7 @@ void PreviewSide::makeStrip(QHBoxLayout* row)
     connect(fold_, &QToolButton::clicked, this, [this] {
         isFolded_ = !isFolded_;
         UserDefaults::standardUserDefaults().changeGlobal(
-            [isFolded = isFolded_](QVariantMap& values) { values.insert(kFoldedKey, isFolded); });
+            [isFolded = isFolded_](QVariantMap& values) { values.insert(kPhotosFoldedKey, isFolded); });
         showStrip();
     });
     connect(strip_, &PhotoStrip::photoChosen, this, &PreviewSide::showPhoto);
@@ -248,7 +248,7 @@ void PreviewSide::display(size_t place, PreviewPage page, const QString& number)
     page.overspill = session_.overspill();
     page.back = linesOnBack(session_.valuesToSend());
     preview_->showPage(page);
-    const QString name = isolated(QFileInfo(photo.path).fileName(), kLongestName);
+    const QString name = isolated(QFileInfo(photo.path).fileName(), kLongestFileName);
     const QString words =
         photo.pageNumber > 0 ? tr("%1, page %2").arg(name, QString::number(photo.pageNumber)) : name;
     setPlainText(pageNumber_, number + QStringLiteral("  ·  ") + words);

@@ -11,15 +11,15 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLongestName = 120;
-constexpr int kLongestState = 240;
+constexpr int kLongestRowName = 120;
+constexpr int kLongestRowState = 240;
 
 QString rowText(const PrinterInfo& printer)
 {
     return printer.info == printer.name
-               ? displayText(printer.name, kLongestName)
+               ? displayText(printer.name, kLongestRowName)
                : QStringLiteral("%1  \u2013  %2")
-                     .arg(isolated(printer.name), isolated(printer.info, kLongestName));
+                     .arg(isolated(printer.name), isolated(printer.info, kLongestRowName));
 }
 
 // A class is as well as the printers in it.
@@ -32,17 +32,17 @@ QString membersText(const PrinterInfo& printer, const std::vector<PrinterInfo>& 
                            ? isolated(name)
                            : PrinterRows::tr("%1: %2").arg(isolated(name), isolated(stateText(*member))));
     }
-    return displayText(listText(members), kLongestState);
+    return displayText(listText(members), kLongestRowState);
 }
 
 QString detailText(const PrinterInfo& printer, const std::vector<PrinterInfo>& all)
 {
-    QStringList parts{displayText(stateText(printer), kLongestState)};
+    QStringList parts{displayText(stateText(printer), kLongestRowState)};
     if (!printer.members.isEmpty())
         parts.append(membersText(printer, all));
     for (const QString& part : {printer.location, printer.makeAndModel}) {
         if (!part.isEmpty() && !part.startsWith(printer.info))
-            parts.append(isolated(part, kLongestName));
+            parts.append(isolated(part, kLongestRowName));
     }
     return parts.join(QStringLiteral("  \u00b7  "));
 }

@@ -12,7 +12,7 @@ namespace {
 
 const QString kReviewKey = QStringLiteral("ReviewBeforePrinting");
 
-struct Words {
+struct ReviewSwitchWords {
     Q_DECLARE_TR_FUNCTIONS(ReviewSwitch)
 };
 
@@ -25,10 +25,10 @@ bool reviewsDocuments()
 
 QCheckBox* makeReviewSwitch(QWidget* parent)
 {
-    auto* box = new QCheckBox(Words::tr("Re&view before printing"), parent);
+    auto* box = new QCheckBox(ReviewSwitchWords::tr("Re&view before printing"), parent);
     box->setObjectName(QStringLiteral("review"));
-    box->setToolTip(
-        Words::tr("Shows the pages as the application has made them, before they go to the printer"));
+    box->setToolTip(ReviewSwitchWords::tr(
+        "Shows the pages as the application has made them, before they go to the printer"));
     box->setChecked(reviewsDocuments());
     QObject::connect(box, &QCheckBox::toggled, box, [](bool isOn) {
         UserDefaults::standardUserDefaults().changeGlobal(

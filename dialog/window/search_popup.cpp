@@ -18,9 +18,9 @@ namespace halvern {
 
 namespace {
 
-constexpr int kLeastWidth = 400;
-constexpr int kMargin = 8;
-constexpr int kRowPadding = 5;
+constexpr int kLeastPopupWidth = 400;
+constexpr int kPopupMargin = 8;
+constexpr int kHitPadding = 5;
 constexpr int kHeadingPadding = 5;
 constexpr double kShareOfScreen = 0.6;
 
@@ -69,7 +69,7 @@ bool MatchingRows::filterAcceptsRow(int row, const QModelIndex& parent) const
 QSize SearchRow::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const int lines = rows_ == SearchBox::Rows::twoLines ? 2 : 1;
-    const int height = lines * option.fontMetrics.height() + 2 * kRowPadding;
+    const int height = lines * option.fontMetrics.height() + 2 * kHitPadding;
     return {0, height + (startsGroup(index) ? headingHeight(option.font) : 0)};
 }
 
@@ -78,7 +78,7 @@ void SearchRow::paint(QPainter* painter, const QStyleOptionViewItem& option, con
     QStyleOptionViewItem row = option;
     if (startsGroup(index)) {
         const int height = headingHeight(option.font);
-        const QRect place = option.rect.adjusted(kMargin, 0, -kMargin, 0);
+        const QRect place = option.rect.adjusted(kPopupMargin, 0, -kPopupMargin, 0);
         painter->setFont(headingFont(option.font));
         painter->setPen(paler(option.palette.color(QPalette::Text)));
         painter->drawText(QRect(place.topLeft(), QSize(place.width(), height)),
@@ -100,7 +100,7 @@ void SearchRow::paintTexts(QPainter* painter, const QStyleOptionViewItem& option
     const bool isEnabled = index.flags() & Qt::ItemIsEnabled;
     const QColor colour = option.palette.color(isEnabled ? QPalette::Normal : QPalette::Disabled,
                                                isSelected ? QPalette::HighlightedText : QPalette::Text);
-    QRect place = option.rect.adjusted(2 * kMargin, kRowPadding, -kMargin, -kRowPadding);
+    QRect place = option.rect.adjusted(2 * kPopupMargin, kHitPadding, -kPopupMargin, -kHitPadding);
     const QFontMetrics metrics(option.font);
     const auto draw = [&](const QRect& where, Qt::Alignment side, const QString& words, const QColor& pen) {
         painter->setPen(pen);
@@ -114,10 +114,10 @@ void SearchRow::paintTexts(QPainter* painter, const QStyleOptionViewItem& option
         draw(place.adjusted(0, half, 0, 0), Qt::AlignLeading, detail, paler(colour));
         return;
     }
-    const int wanted = std::min(metrics.horizontalAdvance(detail) + kMargin, place.width() / 2);
+    const int wanted = std::min(metrics.horizontalAdvance(detail) + kPopupMargin, place.width() / 2);
     const bool isMirrored = option.direction == Qt::RightToLeft;
     const QRect first =
-        place.adjusted(isMirrored ? wanted + kMargin : 0, 0, isMirrored ? 0 : -wanted - kMargin, 0);
+        place.adjusted(isMirrored ? wanted + kPopupMargin : 0, 0, isMirrored ? 0 : -wanted - kPopupMargin, 0);
     draw(first, Qt::AlignLeading, text, colour);
     draw(place, Qt::AlignTrailing,
          detail.isEmpty() ? QString() : metrics.elidedText(detail, Qt::ElideRight, wanted), paler(colour));
@@ -144,7 +144,7 @@ SearchPopup::SearchPopup(SearchBox& box, SearchBox::Rows rows, const QString& se
     list_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list_->setMouseTracking(true);
     setPlainName(list_, box.accessibleName());
-    nothing_->setMargin(2 * kMargin);
+    nothing_->setMargin(2 * kPopupMargin);
     nothing_->setWordWrap(true);
     nothing_->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     nothing_->setBackgroundRole(QPalette::Base);
@@ -154,7 +154,7 @@ SearchPopup::SearchPopup(SearchBox& box, SearchBox::Rows rows, const QString& se
     column->setContentsMargins(1, 1, 1, 1);
     column->setSpacing(0);
     auto* top = new QVBoxLayout;
-    top->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    top->setContentsMargins(kPopupMargin, kPopupMargin, kPopupMargin, kPopupMargin);
     top->addWidget(field_);
     column->addLayout(top);
     column->addWidget(nothing_, 1);
@@ -188,11 +188,12 @@ void SearchPopup::place()
     const QRect box(box_.mapToGlobal(QPoint()), box_.size());
     const int rowHeight = list_->sizeHintForRow(std::min(1, rows_->rowCount() - 1));
     const int wanted = rows_->rowCount() * rowHeight + 6 * headingHeight(list_->font()) +
-                       field_->sizeHint().height() + 2 * kMargin + 4;
+                       field_->sizeHint().height() + 2 * kPopupMargin + 4;
     const int below = screen.bottom() - box.bottom();
     const int above = box.top() - screen.top();
     const int most = std::min(std::max(below, above), int(screen.height() * kShareOfScreen));
-    const QSize size(std::min(std::max(box.width(), kLeastWidth), screen.width()), std::min(wanted, most));
+    const QSize size(std::min(std::max(box.width(), kLeastPopupWidth), screen.width()),
+                     std::min(wanted, most));
     const int x = std::clamp(box_.isRightToLeft() ? box.right() + 1 - size.width() : box.left(),
                              screen.left(), std::max(screen.right() + 1 - size.width(), screen.left()));
     const int y =

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/summary_page.h"
+#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/job/job_in_words.h"
 #include "dialog/preview/preview_widget.h"
@@ -25,8 +26,6 @@
 namespace halvern {
 
 namespace {
-
-const QString kPageSize = QStringLiteral("PageSize");
 
 // More than anybody reads, and few enough to be laid out at once.
 constexpr qsizetype kMostLines = 100;

@@ -16,7 +16,7 @@ namespace {
 constexpr int kBarHeight = 14;
 constexpr int kBarWidth = 140;
 constexpr double kRounding = 4.0;
-constexpr int kLongestName = 60;
+constexpr int kLongestSupplyName = 60;
 
 // As much of it is filled as is left; several colours lie one above the other. A level that nobody knows is
 // hatched.
@@ -96,7 +96,7 @@ void SupplyBars::setSupplies(const QList<Supply>& supplies)
 void SupplyBars::addRow(const Supply& supply, int row)
 {
     auto* name = new QLabel(rows_);
-    setPlainText(name, supplyName(supply), kLongestName);
+    setPlainText(name, supplyName(supply), kLongestSupplyName);
     auto* bar = new SupplyBar(supply, rows_);
     auto* level = new QLabel(rows_);
     setPlainText(level, levelText(supply));

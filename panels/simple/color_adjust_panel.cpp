@@ -11,7 +11,7 @@ namespace halvern {
 
 namespace {
 
-constexpr std::array<TaggedOption, 8> kOptions{{
+constexpr std::array<TaggedOption, 8> kAdjustOptions{{
     {"Brightness", 4},
     {"Contrast", 5},
     {"Saturation", 6},
@@ -27,7 +27,7 @@ constexpr std::array<TaggedOption, 8> kOptions{{
 QStringList RZColorAdjustPDEHalvern::supportedPPDOptionKeys()
 {
     if (!cachedSupportedPPDOptionKeys)
-        cachedSupportedPPDOptionKeys = keysOf(kOptions);
+        cachedSupportedPPDOptionKeys = keysOf(kAdjustOptions);
     return *cachedSupportedPPDOptionKeys;
 }
 
@@ -50,7 +50,7 @@ std::optional<QString> RZColorAdjustPDEHalvern::panelKind()
 
 std::optional<QString> RZColorAdjustPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    return keyForTag(kOptions, tags::withoutCompanionBits(tag));
+    return keyForTag(kAdjustOptions, tags::withoutCompanionBits(tag));
 }
 
 QVariant RZColorAdjustPDEHalvern::newChoiceForSender(QWidget* sender)

@@ -14,7 +14,7 @@ namespace halvern {
 
 namespace {
 
-constexpr std::array<TaggedOption, 3> kOptions{{
+constexpr std::array<TaggedOption, 3> kSharpnessOptions{{
     {"SharpnessEnabled", tags::kToggle},
     {"SharpnessIntensity", 2},
     {"SharpnessRadius", 1},
@@ -37,7 +37,7 @@ constexpr int kIntensityBit = 2;
 QStringList RZSharpnessPDEHalvern::supportedPPDOptionKeys()
 {
     if (!cachedSupportedPPDOptionKeys)
-        cachedSupportedPPDOptionKeys = keysOf(kOptions);
+        cachedSupportedPPDOptionKeys = keysOf(kSharpnessOptions);
     return *cachedSupportedPPDOptionKeys;
 }
 
@@ -60,7 +60,7 @@ std::optional<QString> RZSharpnessPDEHalvern::panelKind()
 
 std::optional<QString> RZSharpnessPDEHalvern::ppdOptionKeyForTag(int tag)
 {
-    return keyForTag(kOptions, tags::withoutCompanionBits(tag));
+    return keyForTag(kSharpnessOptions, tags::withoutCompanionBits(tag));
 }
 
 QVariant RZSharpnessPDEHalvern::ppdChoiceForTag(int tag)

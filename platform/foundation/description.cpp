@@ -95,21 +95,6 @@ void appendNested(QString& out, const QVariant& value)
     }
 }
 
-bool isNumber(const QVariant& value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool areSameNumbers(const QVariant& left, const QVariant& right)
 {
     // Wide enough for 64 bits with and without a sign, and for a double.
@@ -137,6 +122,21 @@ bool areSameLists(const QVariantList& left, const QVariantList& right)
 }
 
 } // namespace
+
+bool isNumber(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
 
 QString descriptionOf(const QVariant& value)
 {

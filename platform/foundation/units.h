@@ -8,6 +8,7 @@ namespace HALVERN_EXPORT halvern {
 
 inline constexpr double kPointsPerInch = 72.0;
 inline constexpr double kMillimetresPerInch = 25.4;
+inline constexpr double kMetresPerInch = kMillimetresPerInch / 1000.0;
 inline constexpr double kPointsPerMillimetre = kPointsPerInch / kMillimetresPerInch;
 
 /// A printer's dots per inch, where nobody says.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/maker/paper_index.h"
+#include "platform/foundation/description.h"
 
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/string_additions.h"
@@ -14,21 +15,6 @@ constexpr int kTenths = 10;
 
 // Up to here a real number becomes a whole one.
 constexpr double kWhole64 = 9.2e18;
-
-bool isNumber(const QVariant& value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-        return true;
-    default:
-        return false;
-    }
-}
 
 // The text of a number (or a text as it is); nothing for anything else.
 std::optional<QString> decimalText(const QVariant& value)
