@@ -123,10 +123,11 @@ void Access::wasWrong(const Place& place, const Login& login)
     wrong_.insert(place);
 }
 
-QString Access::jobOwner(const QString& host) const
+std::optional<QString> Access::jobOwner(const QString& host) const
 {
     const std::scoped_lock lock(mutex_);
-    return jobOwners_.value(host);
+    const auto found = jobOwners_.constFind(host);
+    return found == jobOwners_.cend() ? std::nullopt : std::optional(*found);
 }
 
 void Access::setJobOwner(const QString& host, const QString& user)

@@ -97,8 +97,9 @@ public:
     /// kept beyond the session does not answer the next question.
     void wasWrong(const Place& place, const Login& login);
 
-    /// The name under which the host has the jobs that this process sent to it; empty: the user's own.
-    QString jobOwner(const QString& host) const;
+    /// The name under which the host has the user's jobs, by what this process knows; empty: the user's own;
+    /// nothing: nobody has looked.
+    std::optional<QString> jobOwner(const QString& host) const;
 
     void setJobOwner(const QString& host, const QString& user);
 

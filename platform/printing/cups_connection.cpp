@@ -3,6 +3,7 @@
 
 #include "platform/printing/cups_ppd.h"
 #include "platform/printing/server_certificate.h"
+#include "platform/printing/server_files.h"
 
 #include <sys/socket.h>
 
@@ -20,6 +21,23 @@ const char* noPassword(const char*, http_t*, const char*, const char*, void*)
 {
     // Without this, libcups asks on the terminal.
     return nullptr;
+}
+
+// A program that has just started knows what the last one has learned.
+QString jobOwner(const QString& host)
+{
+    if (const std::optional<QString> known = Access::shared().jobOwner(host))
+        return *known;
+    const QString kept = keptJobOwner(host);
+    Access::shared().setJobOwner(host, kept);
+    return kept;
+}
+
+void setJobOwner(const QString& host, const QString& user)
+{
+    if (jobOwner(host) != user)
+        keepJobOwner(host, user);
+    Access::shared().setJobOwner(host, user);
 }
 
 ExchangeWatch::Clock::time_point fromNow(std::chrono::milliseconds time)
@@ -266,7 +284,7 @@ bool Connection::authenticate(const Question& question, ExchangeWatch& watch)
 // A server that wants a login for jobs has them under its name, and asks about them by that name only.
 void Connection::nameUser(ipp_t* request) const
 {
-    const QString owner = host_ ? QString() : Access::shared().jobOwner(hostName());
+    const QString owner = host_ ? QString() : jobOwner(hostName());
     ipp_attribute_t* name =
         owner.isEmpty() ? nullptr : ippFindAttribute(request, "requesting-user-name", IPP_TAG_NAME);
     if (name)
@@ -360,7 +378,7 @@ void Connection::takeSuccess(const Question& question)
         return;
     Access::shared().wasRight({hostName()}, *given_);
     if (question.ipp && ippGetOperation(question.ipp) == IPP_OP_CREATE_JOB)
-        Access::shared().setJobOwner(hostName(), given_->user);
+        setJobOwner(hostName(), given_->user);
 }
 
 int Connection::ask(const Question& question, ExchangeWatch& watch)

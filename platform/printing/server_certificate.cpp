@@ -4,12 +4,12 @@
 #include "platform/foundation/log.h"
 #include "platform/printing/access.h"
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/server_files.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <mutex>
@@ -56,29 +56,10 @@ private:
     cups_array_t* list_ = nullptr;
 };
 
-// Not libcups's own folder: for root that is where the certificates of a server on this computer are.
-QString folder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QStringLiteral("/halvern/servers");
-}
-
-// libcups's own way to make a file's name of a host's, so that it is known which one it takes.
-QByteArray fileName(const QString& host)
-{
-    QByteArray name = host.toUtf8();
-    for (char& c : name) {
-        const bool isPlain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-                             c == '-' || c == '.';
-        if (!isPlain)
-            c = '_';
-    }
-    return name;
-}
-
 QString filePath(const QString& host)
 {
-    return folder() + QLatin1Char('/') + QString::fromLatin1(fileName(host)) + QStringLiteral(".crt");
+    return serversFolder() + QLatin1Char('/') + QString::fromLatin1(serverFileName(host)) +
+           QStringLiteral(".crt");
 }
 
 /// What this process has seen, where it could not be written down.
@@ -117,7 +98,8 @@ Known knownOf(const QString& host)
             return {found, true};
     }
     auto read = std::make_shared<Certificates>();
-    httpLoadCredentials(QFile::encodeName(folder()).constData(), read->out(), fileName(host).constData());
+    httpLoadCredentials(QFile::encodeName(serversFolder()).constData(), read->out(),
+                        serverFileName(host).constData());
     if (!read->isEmpty())
         return {read, true};
     return {nullptr, QFile::exists(filePath(host))};
@@ -125,9 +107,10 @@ Known knownOf(const QString& host)
 
 void keep(const QString& host, const std::shared_ptr<const Certificates>& certificates)
 {
-    const QByteArray path = QFile::encodeName(folder());
-    const bool isKept = QDir().mkpath(folder()) && httpSaveCredentials(path.constData(), certificates->list(),
-                                                                       fileName(host).constData()) == 0;
+    const QByteArray path = QFile::encodeName(serversFolder());
+    const bool isKept =
+        QDir().mkpath(serversFolder()) &&
+        httpSaveCredentials(path.constData(), certificates->list(), serverFileName(host).constData()) == 0;
     Seen& seen = Seen::shared();
     const std::scoped_lock lock(seen.mutex);
     if (isKept) {
@@ -137,7 +120,7 @@ void keep(const QString& host, const std::shared_ptr<const Certificates>& certif
     seen.certificates.insert(host, certificates);
     logLine(QStringLiteral("the certificate of %1 cannot be kept in %2: another program, or the next run, "
                            "will not know it again")
-                .arg(host, folder()));
+                .arg(host, serversFolder()));
 }
 
 } // namespace
