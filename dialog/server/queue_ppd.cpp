@@ -61,6 +61,8 @@ void readQueue(ipp_t* answer, QueuePpd& result)
             result.jobs.hold = QString::fromUtf8(value);
         else if (name == QLatin1StringView("device-uri"))
             result.deviceUri = QString::fromUtf8(value);
+        else if (name == QLatin1StringView("printer-make-and-model"))
+            result.makeAndModel = QString::fromUtf8(value).simplified();
         else if (name.front().isUpper() && name.endsWith(QLatin1StringView(kDefaultEnding)))
             result.defaults.append(
                 {name.chopped(qsizetype(sizeof(kDefaultEnding)) - 1), QString::fromUtf8(value)});
@@ -90,10 +92,10 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
         return result;
     }
     std::optional<QByteArray> text = server.get(ppd::resourceOf(queue).constData());
-    const bool isWithoutPpd = !text && server.wasNotFound();
+    result.isWithoutPpd = !text && server.wasNotFound();
     if (!text)
         result.problem = whyNoPpd(queue, server);
-    if (isWithoutPpd)
+    if (result.isWithoutPpd)
         text = describeByIpp(server, queue, cancelled, &result.problem);
     if (!text)
         return result;
@@ -104,7 +106,7 @@ QueuePpd fetchQueuePpd(const QString& queue, const cups::CancelFlag& cancelled)
     QString why;
     ppd::File file = ppd::parse(*text, &why);
     if (file) {
-        if (!isWithoutPpd)
+        if (!result.isWithoutPpd)
             ppd::rememberText(queue, *text);
         result.file = std::make_shared<ppd::File>(std::move(file));
     } else

@@ -23,6 +23,8 @@ struct JobOffer {
 struct QueuePpd {
     std::shared_ptr<ppd::File> file; ///< shared only to travel between threads: take it out once
     QString deviceUri;               ///< empty if the queue has none
+    QString makeAndModel;            ///< what the server calls the printer; another one with another driver
+    bool isWithoutPpd = false;       ///< described by what it or its printer says over IPP
     /// What the administrator set for the queue beside the PPD, for keywords that the PPD does not list.
     OptionValues defaults;
     QString jobSheets; ///< the banner pages that the queue adds by itself; empty if none

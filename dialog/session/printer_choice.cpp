@@ -65,9 +65,24 @@ void PrinterChoice::noteOrigin()
         select(printerName_);
 }
 
+// Somebody has installed its driver meanwhile: what the printer says over IPP is its options no more.
+void PrinterChoice::noteDriver()
+{
+    const PrinterInfo* info = printers_->find(printerName_);
+    const bool isNews = isThere_ && modelWithoutPpd_ && info && !info->isDiscovered &&
+                        info->makeAndModel != *modelWithoutPpd_;
+    if (!isNews)
+        return;
+    isThere_ = false;
+    select(printerName_);
+    Q_EMIT notice(
+        tr("\"%1\" was set up anew on the print server. Its options were read again.").arg(printerName_));
+}
+
 void PrinterChoice::takePrinters()
 {
     noteOrigin();
+    noteDriver();
     // What another program remembers is nobody's word for a printer that is gone.
     const bool isLost = (request_.printer.isEmpty() || request_.handed) && request_.isAttended && !isThere_ &&
                         printers_->hasLookedRound() && printerName_ == queueOf(startedWith_) &&
@@ -135,6 +150,7 @@ void PrinterChoice::select(const QString& name)
 void PrinterChoice::takePpd(const FetchedPrinter& printer)
 {
     isThere_ = printer.model != nullptr;
+    modelWithoutPpd_ = printer.ppd.isWithoutPpd ? std::optional(printer.ppd.makeAndModel) : std::nullopt;
     Q_EMIT fetched(printer);
 }
 

@@ -66,6 +66,7 @@ Q_SIGNALS:
 private:
     QString originOf(const QString& name) const;
     void noteOrigin();
+    void noteDriver();
     void takePrinters();
     void takePpd(const FetchedPrinter& printer);
 
@@ -75,6 +76,7 @@ private:
     QString printerName_;
     QString startedWith_; ///< a queue or an instance; empty if nobody named one
     QString madeFrom_;    ///< the URI of a printer that was found and has no queue of its own
+    std::optional<QString> modelWithoutPpd_; ///< what the server called it then; nothing where it has a PPD
     bool isThere_ = false;
     bool isReadingOffer_ = false;
     bool readsOfferAgain_ = false;
