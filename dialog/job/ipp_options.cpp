@@ -49,6 +49,27 @@ bool isServerAttribute(const QString& name)
                                [&](const char* known) { return name == QLatin1StringView(known); });
 }
 
+bool isKeyword(const char* text)
+{
+    const QByteArrayView letters(text);
+    return std::ranges::all_of(letters, [](char letter) {
+        return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') ||
+               (letter >= '0' && letter <= '9') || QByteArrayView("-_.+").contains(letter);
+    });
+}
+
+// "My canvas, 340 g": the library takes it for a keyword like all others of the attribute.
+void callNamesNames(ipp_t* attributes, ipp_attribute_t* attribute)
+{
+    if (ippGetValueTag(attribute) == IPP_TAG_BEGIN_COLLECTION) {
+        ipp_t* members = ippGetCollection(attribute, 0);
+        for (ipp_attribute_t* a = ippFirstAttribute(members); a; a = ippNextAttribute(members))
+            callNamesNames(members, a);
+    } else if (ippGetValueTag(attribute) == IPP_TAG_KEYWORD &&
+               !isKeyword(ippGetString(attribute, 0, nullptr)))
+        ippSetValueTag(attributes, &attribute, IPP_TAG_NAME);
+}
+
 } // namespace
 
 QString addJobOption(_ipp_s* request, const OptionValue& option, Collections collections)
@@ -66,7 +87,9 @@ QString addJobOption(_ipp_s* request, const OptionValue& option, Collections col
     const bool isText = collections == Collections::asText && option.value.startsWith(QLatin1Char('{'));
     if (isServerAttribute(option.key) && !isText) {
         // It splits lists at commas and knows the attributes' types.
-        cupsEncodeOption(request, IPP_TAG_JOB, name.constData(), value.constData());
+        if (ipp_attribute_t* added =
+                cupsEncodeOption(request, IPP_TAG_JOB, name.constData(), value.constData()))
+            callNamesNames(request, added);
         return {};
     }
     const ipp_tag_t tag = value.size() > kLongestName ? IPP_TAG_TEXT : IPP_TAG_NAME;

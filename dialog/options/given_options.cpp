@@ -2,6 +2,7 @@
 #include "dialog/options/given_options.h"
 
 #include "dialog/options/custom_paper.h"
+#include "dialog/options/ipp_twins.h"
 #include "dialog/options/ppd_lookup.h"
 #include "platform/foundation/list_text.h"
 #include "platform/foundation/near_names.h"
@@ -160,7 +161,7 @@ public:
             takePageSet(option);
         else if (key == QLatin1StringView("outputorder") || key == QLatin1StringView("output-order"))
             takeOrder(option);
-        else if (!takeDecidedHere(option))
+        else if (!takeDecidedHere(option) && !takeOwnName(option))
             result.options.append(option);
     }
 
@@ -283,6 +284,17 @@ private:
                              "-l\" lists them.")
                              .arg(option.key));
         return true;
+    }
+
+    // "MediaType=My canvas, 340 g"
+    bool takeOwnName(const GivenOption& option)
+    {
+        const QString choice = ppd_lookup::listedChoice(file_, option.key, option.value)
+                                   ? QString()
+                                   : choiceOfIppValue(file_, option.key, option.value);
+        if (!choice.isEmpty())
+            takeAs(option, option.key, choice);
+        return !choice.isEmpty();
     }
 
     ppd_file_t* file_;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/ipp_twins.h"
 
+#include "dialog/options/ppd_lookup.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
 
 #include <QMap>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <cmath>
@@ -19,12 +21,24 @@ constexpr double kHundredthsPerMillimetre = 100.0;
 std::optional<QString> textOf(ppd_file_t* file, const char* keyword, const QString& name)
 {
     const ppd_attr_t* found = ppdFindAttr(file, keyword, name.toUtf8().constData());
-    return found ? std::optional(QString::fromUtf8(found->value)) : std::nullopt;
+    return found ? std::optional(fromTwin(found->value)) : std::nullopt;
 }
 
 int hundredths(float points)
 {
     return int(std::lround(double(points) * kMillimetresPerInch / kPointsPerInch * kHundredthsPerMillimetre));
+}
+
+// What is no keyword is a name, whose blanks and quotes are its own.
+QString asMember(const QString& value)
+{
+    static const QRegularExpression kPlain(QStringLiteral("^[A-Za-z0-9._+-]+$"));
+    if (value.startsWith(QLatin1Char('{')) || kPlain.match(value).hasMatch())
+        return value;
+    QString quoted = value;
+    quoted.replace(QLatin1Char('\\'), QLatin1StringView("\\\\"));
+    quoted.replace(QLatin1Char('\''), QLatin1StringView("\\'"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
 }
 
 // "Custom.100x150mm": what the printer does not list has its size in its name.
@@ -39,6 +53,16 @@ QString customSize(ppd_file_t* file, const QString& choice)
 
 } // namespace
 
+QByteArray asTwin(const QString& value)
+{
+    return value.toUtf8().replace("%", "%25").replace("\"", "%22");
+}
+
+QString fromTwin(const QByteArray& text)
+{
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(text));
+}
+
 bool takesCollectionsAsText(ppd_file_t* file)
 {
     return file && ppdFindAttr(file, kIppHandsOn, nullptr);
@@ -47,6 +71,17 @@ bool takesCollectionsAsText(ppd_file_t* file)
 QString ippValueOf(ppd_file_t* file, const QString& key, const QString& choice)
 {
     return textOf(file, kIppValue, key + QLatin1Char('.') + choice).value_or(choice);
+}
+
+QString choiceOfIppValue(ppd_file_t* file, const QString& key, const QString& value)
+{
+    const ppd_option_t* option = ppd_lookup::option(file, key);
+    for (int i = 0; option && i < option->num_choices; ++i) {
+        const QString choice = QString::fromUtf8(option->choices[i].choice);
+        if (ippValueOf(file, key, choice) == value)
+            return choice;
+    }
+    return {};
 }
 
 OptionValues asIppOptions(ppd_file_t* file, const OptionValues& options)
@@ -72,7 +107,7 @@ OptionValues asIppOptions(ppd_file_t* file, const OptionValues& options)
         if (member.isEmpty())
             result.append({*attribute, value});
         else
-            collections[collection].append(member + QLatin1Char('=') + value);
+            collections[collection].append(member + QLatin1Char('=') + asMember(value));
     }
     for (auto it = collections.cbegin(); it != collections.cend(); ++it)
         result.append({it.key(), QLatin1Char('{') + it->join(QLatin1Char(' ')) + QLatin1Char('}')});

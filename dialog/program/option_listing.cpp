@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/option_listing.h"
 
+#include "dialog/options/ipp_twins.h"
 #include "platform/printing/cups_ppd.h"
 #include "platform/printing/ppd.h"
 
@@ -86,6 +87,26 @@ QJsonArray customAsJson(const PpdModel& model, const QString& key)
     return array;
 }
 
+// What a name of the printer's is known by tells nobody what it is.
+QString choiceForm(const ChoiceItem& choice)
+{
+    return choice.keyword.startsWith(QLatin1StringView(kOwnName))
+               ? QStringLiteral("%1 (\"%2\")").arg(choice.keyword, choice.text)
+               : choice.keyword;
+}
+
+// A printer without a PPD may not tell what it does by itself.
+QString optionLine(const QString& value, const QString& byDefault, const OptionItem& option,
+                   const QString& all)
+{
+    if (option.isInstallable)
+        return OptionListingWords::tr("%1 (installed in the printer) \"%2\": %3")
+            .arg(value, option.text, all);
+    if (byDefault.isEmpty())
+        return OptionListingWords::tr("%1 (default not known) \"%2\": %3").arg(value, option.text, all);
+    return OptionListingWords::tr("%1 (default %2) \"%3\": %4").arg(value, byDefault, option.text, all);
+}
+
 } // namespace
 
 QStringList optionLines(const PpdModel& model, const QMap<QString, QString>& byDefault)
@@ -95,15 +116,11 @@ QStringList optionLines(const PpdModel& model, const QMap<QString, QString>& byD
         const OptionItem option = model.option(key);
         QStringList choices;
         for (const ChoiceItem& choice : option.choices)
-            choices.append(choice.keyword);
+            choices.append(choiceForm(choice));
         if (const QString custom = customForm(model, key); !custom.isEmpty())
             choices.append(custom);
         const QString value = key + QLatin1Char('=') + model.value(key);
-        const QString all = choices.join(QLatin1Char(' '));
-        lines.append(option.isInstallable ? OptionListingWords::tr("%1 (installed in the printer) \"%2\": %3")
-                                                .arg(value, option.text, all)
-                                          : OptionListingWords::tr("%1 (default %2) \"%3\": %4")
-                                                .arg(value, byDefault.value(key), option.text, all));
+        lines.append(optionLine(value, byDefault.value(key), option, choices.join(QLatin1Char(' '))));
     }
     return lines;
 }

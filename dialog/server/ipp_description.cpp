@@ -63,13 +63,14 @@ bool isKeyword(const QString& text)
     return text.size() <= kLongestKeyword && kKeyword.match(text).hasMatch();
 }
 
-// What can stand in a line of a PPD and in the text of a collection as it is.
+// What can stand in a line of a PPD; a collection's text counts braces, and knows no others.
 bool isSendable(const QString& value)
 {
-    const auto isPlain = [](QChar character) {
-        return character.isPrint() && !QStringLiteral("\"'\\{}").contains(character);
+    const auto isPossible = [](QChar character) {
+        return character.isPrint() && character != QLatin1Char('{') && character != QLatin1Char('}');
     };
-    return !value.isEmpty() && value.toUtf8().size() <= kLongestValue && std::ranges::all_of(value, isPlain);
+    return !value.isEmpty() && asTwin(value).size() <= kLongestValue &&
+           std::ranges::all_of(value, isPossible);
 }
 
 // What ends a text of a PPD, or a line, or is no character to be seen, is none of its characters.
@@ -112,7 +113,7 @@ QString ppdKeyword(const char* option, const QString& value)
     if (isKeyword(value))
         return value;
     const QByteArray hash = QCryptographicHash::hash(value.toUtf8(), QCryptographicHash::Sha1);
-    return QStringLiteral("own-") + QString::fromLatin1(hash.left(4).toHex());
+    return QLatin1StringView(kOwnName) + QString::fromLatin1(hash.left(4).toHex());
 }
 
 QString valueAt(ipp_attribute_t* attribute, int place)
@@ -217,14 +218,12 @@ public:
     {
         const QByteArray keyword = option.keyword.toUtf8();
         line("*" + QByteArray(kIppAttribute) + " " + keyword + ": \"" + option.attribute.toUtf8() + "\"");
-        const bool isMember = option.attribute.contains(QLatin1Char('/'));
         for (const Choice& choice : option.choices) {
             const QString name = option.keyword + QLatin1Char('.') + choice.keyword;
             if (choice.value == choice.keyword || name.size() > kLongestKeyword)
                 continue;
-            const QByteArray quote = isMember && !isKeyword(choice.value) ? "'" : "";
             line("*" + QByteArray(kIppValue) + " " + keyword + "." + choice.keyword.toUtf8() + ": \"" +
-                 quote + choice.value.toUtf8() + quote + "\"");
+                 asTwin(choice.value) + "\"");
         }
     }
 

@@ -1457,6 +1457,10 @@
         <translation>%1 (مثبّت في الطابعة) «⁨%2⁩»: %3</translation>
     </message>
     <message>
+        <source>%1 (default not known) &quot;%2&quot;: %3</source>
+        <translation>%1 (الافتراضي غير معروف) «⁨%2⁩»: %3</translation>
+    </message>
+    <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (الافتراضي %2) «⁨%3⁩»: %4</translation>
     </message>
@@ -4815,6 +4819,10 @@
     <message>
         <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
         <translation>لا تكفي الذاكرة لخيارات «⁨%1⁩». أغلق شيئًا ثم اختر الطابعة من جديد.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server. Its options were read again.</source>
+        <translation>أُعيد إعداد «⁨%1⁩» على خادم الطباعة، وأُعيدت قراءة خياراتها.</translation>
     </message>
 </context>
 <context>

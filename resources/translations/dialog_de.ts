@@ -1457,6 +1457,10 @@
         <translation>%1 (im Drucker eingebaut) „%2“: %3</translation>
     </message>
     <message>
+        <source>%1 (default not known) &quot;%2&quot;: %3</source>
+        <translation>%1 (Vorgabe nicht bekannt) „%2“: %3</translation>
+    </message>
+    <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (Vorgabe %2) „%3“: %4</translation>
     </message>
@@ -4815,6 +4819,10 @@
     <message>
         <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
         <translation>Der Speicher reicht nicht für die Optionen von „%1“. Schließen Sie etwas und wählen Sie den Drucker noch einmal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server. Its options were read again.</source>
+        <translation>„%1“ wurde auf dem Druckserver neu eingerichtet. Seine Optionen wurden neu gelesen.</translation>
     </message>
 </context>
 <context>

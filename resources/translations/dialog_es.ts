@@ -1457,6 +1457,10 @@
         <translation>%1 (instalado en la impresora) «%2»: %3</translation>
     </message>
     <message>
+        <source>%1 (default not known) &quot;%2&quot;: %3</source>
+        <translation>%1 (predeterminado: desconocido) «%2»: %3</translation>
+    </message>
+    <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (predeterminado: %2) «%3»: %4</translation>
     </message>
@@ -4815,6 +4819,10 @@
     <message>
         <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
         <translation>No hay memoria suficiente para las opciones de «%1». Cierre algo y vuelva a elegir la impresora.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server. Its options were read again.</source>
+        <translation>«%1» se ha configurado de nuevo en el servidor de impresión. Sus opciones se han vuelto a leer.</translation>
     </message>
 </context>
 <context>

@@ -1457,6 +1457,10 @@
         <translation>%1 (installé dans l’imprimante) « %2 » : %3</translation>
     </message>
     <message>
+        <source>%1 (default not known) &quot;%2&quot;: %3</source>
+        <translation>%1 (par défaut inconnu) « %2 » : %3</translation>
+    </message>
+    <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (par défaut %2) « %3 » : %4</translation>
     </message>
@@ -4815,6 +4819,10 @@
     <message>
         <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
         <translation>La mémoire ne suffit pas pour les options de « %1 ». Fermez quelque chose et choisissez à nouveau l’imprimante.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server. Its options were read again.</source>
+        <translation>« %1 » a été reconfigurée sur le serveur d’impression. Ses options ont été relues.</translation>
     </message>
 </context>
 <context>

@@ -1457,6 +1457,10 @@
         <translation>%1 (プリンターの装備)「%2」: %3</translation>
     </message>
     <message>
+        <source>%1 (default not known) &quot;%2&quot;: %3</source>
+        <translation>%1 (既定 不明)「%2」: %3</translation>
+    </message>
+    <message>
         <source>%1 (default %2) &quot;%3&quot;: %4</source>
         <translation>%1 (既定 %2)「%3」: %4</translation>
     </message>
@@ -4815,6 +4819,10 @@
     <message>
         <source>There is not enough memory for the options of &quot;%1&quot;. Close something, and choose the printer again.</source>
         <translation>「%1」のオプションのためのメモリが足りません。何かを閉じて、プリンターを選び直してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was set up anew on the print server. Its options were read again.</source>
+        <translation>「%1」はプリントサーバーで設定し直されました。オプションを読み直しました。</translation>
     </message>
 </context>
 <context>

@@ -2,16 +2,20 @@
 // Passwords for printers, and printers that have no PPD.
 #include "dialog/job/ipp_options.h"
 #include "dialog/job/job_submitter.h"
+#include "dialog/job/user_jobs.h"
 #include "dialog/options/custom_paper.h"
+#include "dialog/options/given_options.h"
 #include "dialog/options/ipp_twins.h"
 #include "dialog/options/loaded_trays.h"
 #include "dialog/options/paper_sizes.h"
 #include "dialog/options/ppd_model.h"
+#include "dialog/program/option_listing.h"
 #include "dialog/server/ipp_description.h"
 #include "dialog/server/local_queue.h"
 #include "dialog/window/access_dialogs.h"
 #include "platform/foundation/units.h"
 #include "platform/printing/cups_ppd.h"
+#include "platform/printing/server_files.h"
 #include "tests/support/scripted_server.h"
 #include "tests/support/test.h"
 
@@ -61,7 +65,7 @@ cups::Ipp photoPrinter()
         ippSetCollection(a, &all, i, media[i].get());
     ippAddCollection(a, IPP_TAG_PRINTER, "media-col-default", media[1].get());
     addKeywords(a, "media-type-supported",
-                {"stationery", "photographic-glossy", "\"/bad: word", "stationery", "My */canvas, 340 g"},
+                {"stationery", "photographic-glossy", "bad {word", "stationery", "My */\"canvas's\\, 34%"},
                 IPP_TAG_NAME);
     addKeywords(a, "media-source-supported", {"manual", "main"});
     const int dots[] = {300, 600, INT_MAX};
@@ -108,7 +112,14 @@ TEST(IppDescription, BecomesAModelWithSizesConflictsAndTheJobsOwnWords)
     EXPECT_EQ(model.choiceCount(q("PageSize")), 3);
     EXPECT_EQ(model.choiceCount(q("MediaType")), 3);
     const QString own = model.option(q("MediaType")).choices.value(2).keyword;
-    EXPECT_EQ(choiceFor(model, {{}, q("My */canvas, 340 g"), {}}).type, own);
+    const QString canvas = q("My */\"canvas's\\, 34%");
+    EXPECT_EQ(choiceFor(model, {{}, canvas, {}}).type, own);
+    const GivenOptions named = givenBy(OptionOrigin::typed, {{q("MediaType"), canvas}});
+    EXPECT_EQ(understand(model.file(), named).options.value(0).value, own);
+    const QStringList lines = optionLines(model, model.values());
+    EXPECT_EQ(lines.filter(q("MediaType=")).join(q("")).count(q("canvas's")), 1) << "a name for its hash";
+    EXPECT_TRUE(lines.filter(q("InputSlot= (default not known)")).size() == 1)
+        << qPrintable(lines.join(q("\n")));
     EXPECT_EQ(model.value(q("InputSlot")), QString()) << "only the printer knows which one it is set to";
     EXPECT_EQ(model.choiceCount(q("Resolution")), 2);
     EXPECT_EQ(model.resolution(), kUsualResolution);
@@ -134,11 +145,12 @@ TEST(IppDescription, BecomesAModelWithSizesConflictsAndTheJobsOwnWords)
                                   {q("media-col"),
                                    q("{media-size={x-dimension=10160 y-dimension=15240} media-left-margin=0 "
                                      "media-right-margin=0 media-top-margin=0 media-bottom-margin=0 "
-                                     "media-type='My */canvas, 340 g'}")}}));
+                                     "media-type='My */\"canvas\\'s\\\\, 34%'}")}}));
     const cups::Ipp job(ippNew());
     EXPECT_EQ(addJobOption(job.get(), sent.back(), Collections::whole), QString());
     ipp_attribute_t* type = ippFindAttribute(job.get(), "media-col/media-type", IPP_TAG_ZERO);
-    EXPECT_EQ(q(ippGetString(type, 0, nullptr)), q("My */canvas, 340 g"));
+    EXPECT_EQ(q(ippGetString(type, 0, nullptr)), canvas);
+    EXPECT_EQ(ippGetValueTag(type), IPP_TAG_NAME) << "it is no keyword";
     EXPECT_FALSE(describedAsPpd(cups::Ipp(ippNew()).get(), false));
 }
 
@@ -212,6 +224,21 @@ TEST(GettingIn, APrintersOwnPasswordTravelsBesideTheJobAndIsAskedForInADialogOnc
     worker.join();
     EXPECT_EQ(sent, 12);
     EXPECT_EQ(received, QStringList({q("ann"), q("secret"), q("ann"), q("secret")}));
+}
+
+TEST(GettingIn, ANewProgramAsksForTheJobsUnderTheNameThatTheServerWanted)
+{
+    QString asked;
+    const ScriptedServer server([&](ipp_t* request) {
+        asked = q(ippGetString(ippFindAttribute(request, "requesting-user-name", IPP_TAG_NAME), 0, nullptr));
+        return scriptedAnswer();
+    });
+    cups::Connection connection(cups::makeCancelFlag());
+    cups::keepJobOwner(connection.hostName(), q("ann"));
+    askUserJobs(connection, {}, false);
+    EXPECT_EQ(asked, q("ann"));
+    cups::keepJobOwner(connection.hostName(), q(cupsUser()));
+    EXPECT_EQ(cups::keptJobOwner(connection.hostName()), QString());
 }
 
 } // namespace halvern
