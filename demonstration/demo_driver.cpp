@@ -20,8 +20,9 @@ constexpr char kUsage[] =
     "A step a line: ready | page ID | click TARGET | type TARGET TEXT | choose TARGET CHOICE | slide TARGET "
     "VALUE\n"
     "| shown TARGET [TEXT] | gone TARGET | offers TARGET CHOICE | lacks TARGET CHOICE | run COMMAND\n"
-    "| screenshot NAME | print | dark | close. TARGET is name:OBJECT-NAME or tag:NUMBER. # begins a "
-    "comment.\n"
+    "| screenshot NAME [TARGET] | print | dark | close. TARGET is name:OBJECT-NAME or tag:NUMBER, CHOICE a "
+    "value, "
+    "a text or #ROW. # begins a comment.\n"
     "shown, gone, offers and lacks wait until it is so; run waits until the shell command has ended.\n";
 
 QStringList readSteps(const QString& path)

@@ -61,7 +61,7 @@ QString DemoSteps::run(const QString& step)
     if (verb == QLatin1StringView("page"))
         return showPage(first);
     if (verb == QLatin1StringView("screenshot"))
-        return screenshot(first);
+        return screenshot(first, step.section(QLatin1Char(' '), 2));
     if (verb == QLatin1StringView("print"))
         return print();
     if (verb == QLatin1StringView("dark")) {
@@ -168,7 +168,10 @@ QString DemoSteps::choose(QWidget& target, const QString& choice)
         return {};
     }
     auto* box = qobject_cast<QComboBox*>(&target);
-    const int row = box ? std::max(box->findData(choice), box->findText(choice)) : -1;
+    const bool isRow = choice.startsWith(QLatin1Char('#'));
+    const int row = !box    ? -1
+                    : isRow ? std::min(choice.mid(1).toInt(), box->count()) - 1
+                            : std::max(box->findData(choice), box->findText(choice));
     if (row < 0)
         return QStringLiteral("there is no choice %1").arg(choice);
     box->showPopup();
@@ -191,7 +194,7 @@ QString DemoSteps::slide(QWidget& target, const QString& value)
     };
     for (int i = 0; i < kMostKeys && !qFuzzyCompare(now() + 1.0, wanted + 1.0); ++i) {
         const double before = now();
-        QTest::keyClick(&target, before < wanted ? Qt::Key_Right : Qt::Key_Left);
+        QTest::keyClick(&target, (before < wanted) != target.isRightToLeft() ? Qt::Key_Right : Qt::Key_Left);
         if (qFuzzyCompare(before + 1.0, now() + 1.0) || (before < wanted) != (now() < wanted))
             break;
     }
@@ -232,7 +235,7 @@ QString DemoSteps::runCommand(const QString& command)
     return {};
 }
 
-QString DemoSteps::screenshot(const QString& name)
+QString DemoSteps::screenshot(const QString& name, const QString& target)
 {
     // Two rounds: what a step queues may queue a repaint.
     QTest::qWait(0);
@@ -241,7 +244,10 @@ QString DemoSteps::screenshot(const QString& name)
     if (!QTest::qWaitFor([&] { return !preview->isReadingDetail(); }, kPatienceMilliseconds))
         return QStringLiteral("the photo was not read");
     const QString path = QStringLiteral("%1/%2.png").arg(screens_, name);
-    if (!dialog_.grab().save(path))
+    QWidget* const shown = target.isEmpty() ? &dialog_ : find(target);
+    if (!shown)
+        return QStringLiteral("there is no visible control %1").arg(target);
+    if (!shown->grab().save(path))
         return QStringLiteral("%1 could not be written").arg(path);
     out_ << "Screenshot: " << path << Qt::endl;
     return {};

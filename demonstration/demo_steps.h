@@ -30,7 +30,7 @@ private:
     QString slide(QWidget& target, const QString& value);
     QString waitFor(const QString& verb, const QString& target, const QString& value);
     QString runCommand(const QString& command);
-    QString screenshot(const QString& name);
+    QString screenshot(const QString& name, const QString& target);
     QString print();
     QWidget* find(const QString& target) const;
 
