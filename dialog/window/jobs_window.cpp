@@ -2,6 +2,7 @@
 #include "dialog/window/jobs_window.h"
 
 #include "dialog/session/dialog_session.h"
+#include "dialog/window/help_window.h"
 #include "dialog/window/job_rows.h"
 #include "platform/toolkit/plain_text.h"
 
@@ -58,6 +59,7 @@ JobsWindow::JobsWindow(const QString& queue, Printers printers, QWidget* parent)
       targets_(new QMenu(this))
 {
     setObjectName(QStringLiteral("jobsWindow"));
+    HelpWindow::addKey(*this);
     setAttribute(Qt::WA_DeleteOnClose);
     setPlainTitle(this, tr("Your Jobs on %1").arg(isolated(queue)));
     setPlainName(table_, tr("Your jobs"));

@@ -2,6 +2,7 @@
 #include "dialog/window/login_dialog.h"
 
 #include "dialog/session/login_words.h"
+#include "dialog/window/help_window.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QCheckBox>
@@ -36,6 +37,7 @@ LoginDialog::LoginDialog(const cups::LoginQuestion& question, bool canKeep, QWid
       keep_(new QCheckBox(tr("&Remember it in the keyring"), this))
 {
     setObjectName(QStringLiteral("loginDialog"));
+    HelpWindow::addKey(*this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Sign In"));
     user_->setObjectName(QStringLiteral("loginName"));

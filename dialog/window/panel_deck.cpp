@@ -257,6 +257,11 @@ QStringList PanelDeck::identifiers() const
     return all;
 }
 
+QString PanelDeck::shownPage() const
+{
+    return identifiers().value(shownRow_);
+}
+
 bool PanelDeck::showPage(const QString& identifier)
 {
     const int row = int(identifiers().indexOf(identifier));

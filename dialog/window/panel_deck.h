@@ -58,6 +58,9 @@ public:
 
     QStringList identifiers() const;
 
+    /// The identifier of the page that is shown; empty before any is.
+    QString shownPage() const;
+
     /// The pages about the photo tell of this one from now on; `place` is its place among all.
     void setPhoto(const Photo& photo, size_t place);
 

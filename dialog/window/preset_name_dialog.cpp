@@ -3,6 +3,7 @@
 
 #include "dialog/options/back_lines.h"
 #include "dialog/session/dialog_session.h"
+#include "dialog/window/help_window.h"
 #include "platform/toolkit/plain_text.h"
 
 #include <QCheckBox>
@@ -29,6 +30,7 @@ PresetNameDialog::PresetNameDialog(Purpose purpose, DialogSession& session, QWid
 {
     const bool saves = purpose == Purpose::save;
     setObjectName(QStringLiteral("presetName"));
+    HelpWindow::addKey(*this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(saves ? tr("Save Preset") : tr("Rename Preset"));
     setMinimumWidth(kLeastWidth);

@@ -3,6 +3,7 @@
 #include "dialog/window/print_dialog.h"
 
 #include "dialog/window/damage_question.h"
+#include "dialog/window/help_window.h"
 #include "dialog/window/job_line.h"
 #include "dialog/window/message_bar.h"
 #include "dialog/window/output_menu.h"
@@ -171,7 +172,9 @@ void PrintDialog::clearOldOutcome()
 
 void PrintDialog::showHelp()
 {
-    if (deck_->showHelpOfShownPanel())
+    // The book has the maker's panels, too; a panel that it does not know may have help of its own.
+    if (HelpWindow::showFor(*this, deck_->shownPage()) || deck_->showHelpOfShownPanel() ||
+        HelpWindow::showStart(*this))
         return;
     message_->showMessage(
         MessageKind::information,

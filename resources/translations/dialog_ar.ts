@@ -3223,6 +3223,53 @@
     </message>
 </context>
 <context>
+    <name>halvern::HelpWindow</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>المساعدة</translation>
+    </message>
+    <message>
+        <source>Page of the help</source>
+        <translation>صفحة المساعدة</translation>
+    </message>
+    <message>
+        <source>Search the help (%1)</source>
+        <translation>البحث في المساعدة (%1)</translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation>البحث في المساعدة</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>المحتويات</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>النتائج</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>تقدم</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>عُثر على %1</translation>
+    </message>
+    <message>
+        <source>Help - %1</source>
+        <translation>المساعدة - %1</translation>
+    </message>
+</context>
+<context>
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>

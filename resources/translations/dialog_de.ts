@@ -3223,6 +3223,53 @@
     </message>
 </context>
 <context>
+    <name>halvern::HelpWindow</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Page of the help</source>
+        <translation>Seite der Hilfe</translation>
+    </message>
+    <message>
+        <source>Search the help (%1)</source>
+        <translation>Hilfe durchsuchen (%1)</translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation>Hilfe durchsuchen</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>Help - %1</source>
+        <translation>Hilfe - %1</translation>
+    </message>
+</context>
+<context>
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>

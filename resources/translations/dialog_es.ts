@@ -3223,6 +3223,53 @@
     </message>
 </context>
 <context>
+    <name>halvern::HelpWindow</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Page of the help</source>
+        <translation>Página de la ayuda</translation>
+    </message>
+    <message>
+        <source>Search the help (%1)</source>
+        <translation>Buscar en la ayuda (%1)</translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation>Buscar en la ayuda</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 encontrados</translation>
+    </message>
+    <message>
+        <source>Help - %1</source>
+        <translation>Ayuda - %1</translation>
+    </message>
+</context>
+<context>
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>

@@ -3223,6 +3223,53 @@
     </message>
 </context>
 <context>
+    <name>halvern::HelpWindow</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Page of the help</source>
+        <translation>Page de l’aide</translation>
+    </message>
+    <message>
+        <source>Search the help (%1)</source>
+        <translation>Chercher dans l’aide (%1)</translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation>Chercher dans l’aide</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Trouvé</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 trouvés</translation>
+    </message>
+    <message>
+        <source>Help - %1</source>
+        <translation>Aide - %1</translation>
+    </message>
+</context>
+<context>
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>

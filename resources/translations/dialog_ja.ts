@@ -3223,6 +3223,53 @@
     </message>
 </context>
 <context>
+    <name>halvern::HelpWindow</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Page of the help</source>
+        <translation>ヘルプのページ</translation>
+    </message>
+    <message>
+        <source>Search the help (%1)</source>
+        <translation>ヘルプを検索 (%1)</translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation>ヘルプを検索</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目次</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>見つかったもの</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>Help - %1</source>
+        <translation>ヘルプ - %1</translation>
+    </message>
+</context>
+<context>
     <name>halvern::HitList</name>
     <message>
         <source>%1: %2</source>
