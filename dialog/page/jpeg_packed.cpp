@@ -5,6 +5,8 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <cstring>
+#include <span>
 #include <utility>
 
 namespace halvern {
@@ -15,14 +17,12 @@ using namespace jpeg_marker;
 
 constexpr int kNone = JpegWalker::kNone;
 constexpr int kRestarts = 8;
-constexpr int kWordBytes = 8;
-constexpr int kEnough = 32; // bits: more than the longest step
 constexpr int kPlaces = 64; // in a block
 constexpr int kRoomForTwo = kPlaces - 17;
 constexpr int kMostBits = 10; // of a number that 8 bits of colour give
 constexpr int kMostFirstBits = 11;
 constexpr int kMostMeaning = 15; // of a code for a block's first number: decoders refuse a table with more
-constexpr int kHole = 480;       // bytes of zeros, nearly a sector of a disk or a card
+constexpr size_t kHole = 480;    // bytes of zeros, nearly a sector of a disk or a card
 
 // A meaning as a step without its code's length; 0 if no camera's file has it.
 quint32 stepFor(JpegCodes::Kind kind, int meaning)
@@ -37,111 +37,134 @@ quint32 stepFor(JpegCodes::Kind kind, int meaning)
     return places << JpegCodes::kBitsOfLength | bits;
 }
 
-bool hasPadding(quint64 word)
-{
-    constexpr quint64 kOnes = 0x0101010101010101U;
-    return ((~word - kOnes) & word & (kOnes << 7)) != 0;
-}
-
-/// The bits of a scan's packed data.
+/// The bits of a scan's packed data. The bytes that stand for padding are taken out beforehand, so that going
+/// over a block looks at nothing but its codes.
 class PackedBits {
 public:
-    explicit PackedBits(JpegWalker& walker) : walker_(walker) {}
+    explicit PackedBits(JpegWalker& walker)
+        : walker_(walker), plain_(kPiece + kMostOfBlock + kBehind), at_(plain_.data()), end_(at_)
+    {
+    }
 
     // Goes over one block; false if it cannot be right.
     bool skipBlock(const JpegCodes& first, const JpegCodes& others)
     {
+        if (end_ - at_ < kMostOfBlock && marker_ == kNone)
+            readOn();
         // Copies, which the compiler keeps in registers.
+        const uchar* at = at_;
         quint64 bits = bits_;
         int count = count_;
+        // Bits behind the last whole byte come in as well, and again next time. Enough for two steps.
+        const auto refill = [&] {
+            bits |= qFromBigEndian<quint64>(at) >> count;
+            at += (63 - count) / 8;
+            count |= 56;
+        };
         const auto take = [&](quint32 step) {
             const auto length = int(step & JpegCodes::kLengthMask);
             bits <<= length;
             count -= length;
             return int(step >> JpegCodes::kBitsOfLength);
         };
-        const auto fill = [&] {
-            if (count >= kEnough)
-                return;
-            bits_ = bits;
-            count_ = count;
-            refill();
-            bits = bits_;
-            count = count_;
-        };
-        fill();
+        refill();
         quint32 step = first.step(bits);
         int place = step != 0 ? take(step) : kPlaces;
-        for (; step != 0 && place < kRoomForTwo; place += take(step)) {
-            fill();
+        while (step != 0 && place < kRoomForTwo) {
+            refill();
+            place += take(others.twoSteps(bits));
+            if (place >= kRoomForTwo)
+                break;
             step = others.twoSteps(bits);
+            place += take(step);
         }
-        for (; step != 0 && place < kPlaces; place += take(step)) {
-            fill();
+        while (step != 0 && place < kPlaces) {
+            refill();
             step = others.step(bits);
+            place += take(step);
         }
+        at_ = at;
         bits_ = bits;
         count_ = count;
         const bool isFull = place == kPlaces || place >= int(JpegCodes::kRestIsZero);
-        return step != 0 && isFull && count >= 0 && zeros_ < kHole;
+        return step != 0 && isFull && bitsLeft() >= 0 && !hasHole_;
     }
 
     // The marker that follows at once, behind the bits that fill a byte; kNone if something else does.
     int takeMarker()
     {
-        if (count_ < kWordBytes)
-            refill();
-        if (count_ < 0 || count_ >= kWordBytes)
+        if (marker_ == kNone && end_ - at_ < kMostOfBlock)
+            readOn();
+        if (bitsLeft() < 0 || bitsLeft() >= 8)
             return kNone;
         bits_ = 0;
         count_ = 0;
+        at_ = end_;
         return std::exchange(marker_, kNone);
     }
 
 private:
-    void refill()
+    // Less than 0 once some were taken that are not there.
+    qint64 bitsLeft() const { return qint64(end_ - at_) * 8 + count_; }
+
+    void readOn()
     {
-        const uchar* bytes = marker_ == kNone ? walker_.ahead(kWordBytes) : nullptr;
-        const quint64 word = bytes ? qFromBigEndian<quint64>(bytes) : ~quint64(0);
-        if (hasPadding(word)) {
-            refillByBytes();
-            return;
+        uchar* end = std::copy(at_, end_, plain_.data());
+        at_ = plain_.data();
+        const uchar* const most = at_ + kPiece + kMostOfBlock;
+        while (end != most && marker_ == kNone) {
+            const std::span<const uchar> rest = walker_.rest(size_t(most - end));
+            const void* found = rest.empty() ? nullptr : std::memchr(rest.data(), kPadding, rest.size());
+            const auto* stop = found ? static_cast<const uchar*>(found) : rest.data() + rest.size();
+            lookForHole(rest.first(size_t(stop - rest.data())));
+            end = std::copy(rest.data(), stop, end);
+            walker_.advance(stop - rest.data());
+            if (found || rest.empty())
+                end = takePadding(end);
         }
-        // Bits behind the last whole byte come in as well, and again next time.
-        bits_ |= word >> count_;
-        const int whole = (64 - count_) / 8;
-        walker_.advance(whole);
-        count_ += 8 * whole;
-        zeros_ = word == 0 ? zeros_ + whole : 0;
+        end_ = end;
+        std::fill_n(end, kBehind, uchar(0));
     }
 
-    void refillByBytes()
+    uchar* takePadding(uchar* end)
     {
-        while (count_ <= 56 && marker_ == kNone) {
-            const int byte = walker_.next();
-            int behind = 0;
-            if (byte == kPadding) {
-                behind = walker_.next();
-                while (behind == kPadding)
-                    behind = walker_.next();
-            }
-            if (byte == kNone || behind != 0) {
-                marker_ = byte == kNone || behind == kNone ? kEnd : behind;
-                return;
-            }
-            bits_ |= quint64(byte) << (56 - count_);
-            count_ += 8;
-            zeros_ = byte == 0 ? zeros_ + 1 : 0;
+        walker_.next();
+        int behind = walker_.next();
+        while (behind == kPadding)
+            behind = walker_.next();
+        if (behind == 0)
+            *end++ = kPadding;
+        else
+            marker_ = behind == kNone ? kEnd : behind;
+        return end;
+    }
+
+    // As many looks as hit a hole wherever it begins: what they take for one by chance, a decoder reads.
+    void lookForHole(std::span<const uchar> bytes)
+    {
+        for (; nextLook_ < bytes.size(); nextLook_ += kHole / kLooks) {
+            zeros_ = bytes[nextLook_] == 0 ? zeros_ + 1 : 0;
+            hasHole_ = hasHole_ || zeros_ == kLooks;
         }
+        nextLook_ -= bytes.size();
     }
 
     static constexpr int kEnd = 0; // no marker is that
+    static constexpr int kPiece = 16 * 1024;
+    static constexpr int kMostOfBlock = 256; // bytes: 64 of the longest steps, and what is seen ahead
+    static constexpr int kBehind = 2 * kMostOfBlock;
+    static constexpr int kLooks = 4;
 
     JpegWalker& walker_;
-    quint64 bits_ = 0; // the next one is the highest
-    int count_ = 0;    // of those that are there; less than 0 once some were taken that are not
-    int marker_ = kNone;
-    int zeros_ = 0; // bytes of them in a row
+    std::vector<uchar> plain_; // without padding; zeros behind its end
+    const uchar* at_;
+    const uchar* end_;
+    quint64 bits_ = 0;   // the next one is the highest
+    int count_ = 0;      // of those that are there
+    int marker_ = kNone; // behind the end
+    size_t nextLook_ = 0;
+    int zeros_ = 0; // looks at them in a row
+    bool hasHole_ = false;
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <span>
 
 namespace halvern {
 
@@ -54,11 +55,13 @@ public:
         return bytes;
     }
 
-    /// Where the next `count` bytes lie, to be taken with advance(); null near the end of a piece.
-    const uchar* ahead(qint64 count) const
+    /// The next bytes, at most so many, to be taken with advance(); empty at the end only.
+    std::span<const uchar> rest(size_t most)
     {
-        const auto* bytes = reinterpret_cast<const uchar*>(piece_.constData());
-        return at_ + count <= piece_.size() ? bytes + at_ : nullptr;
+        if (at_ == piece_.size() && !refill())
+            return {};
+        const auto* bytes = reinterpret_cast<const uchar*>(piece_.constData()) + at_;
+        return {bytes, std::min(most, size_t(piece_.size() - at_))};
     }
 
     void advance(qint64 count) { at_ += count; }
