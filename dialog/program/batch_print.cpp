@@ -108,7 +108,7 @@ void BatchPrint::proceed()
     if (hasFailed_ || hasStarted_ || !isComplete)
         return;
     const QString choice = session_.chosenPages().problem;
-    if (const QString problem = choice.isEmpty() ? session_.sheetPlan().problem : choice;
+    if (const QString problem = choice.isEmpty() ? session_.sheetPlan()->problem : choice;
         !problem.isEmpty()) {
         fail(problem);
         return;
@@ -135,7 +135,7 @@ void BatchPrint::tellOptions()
     for (const OptionValue& option : options)
         writeLine(out_, option.key + QLatin1Char('=') + option.value);
     if (!(session_.page().sheets == SheetSettings()))
-        writeLines(err_, sheetLines(session_.sheetPlan(), session_.photos()).join(QLatin1Char('\n')));
+        writeLines(err_, sheetLines(*session_.sheetPlan(), session_.photos()).join(QLatin1Char('\n')));
     end(kExitPrinted);
 }
 

@@ -303,8 +303,8 @@ bool DialogSession::hostWillChange(const QString& key, const QVariant& choice)
 
 std::shared_ptr<PageFormat> DialogSession::hostPageFormat()
 {
-    const SheetPlan& plan = sheetPlan();
-    return model() ? page_.format(*model(), plan.sheets.empty() ? nullptr : &plan.sheets.front()) : nullptr;
+    const std::shared_ptr<const SheetPlan> plan = sheetPlan();
+    return model() ? page_.format(*model(), plan->sheets.empty() ? nullptr : &plan->sheets.front()) : nullptr;
 }
 
 void DialogSession::takeOffer(const PrinterOffer& offer)

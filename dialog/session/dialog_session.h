@@ -134,9 +134,12 @@ public:
     /// Those of them that are on a sheet that is printed.
     std::vector<size_t> printedPhotos() const;
 
-    /// The photos on their sheets, in the order of printing, or why there are none. Valid until something is
-    /// set, or a photo comes.
-    const SheetPlan& sheetPlan() const { return page_.plan(photos(), chosenPages().pages, model()); }
+    /// The photos on their sheets, in the order of printing, or why there are none; never null. Another one
+    /// is there once something is set, or a photo comes.
+    std::shared_ptr<const SheetPlan> sheetPlan() const
+    {
+        return page_.plan(photos(), chosenPages().pages, model());
+    }
 
     /// The layouts that can be chosen.
     LayoutLibrary& layouts() { return page_.layouts(); }

@@ -45,7 +45,7 @@ QString DialogSession::whyNotPrintable() const
         return tr("There is no photo to print. Open the dialog with one.");
     if (const QString problem = chosenPages().problem; !problem.isEmpty() || document())
         return problem;
-    const QString problem = sheetPlan().problem;
+    const QString problem = sheetPlan()->problem;
     return problem.isEmpty() ? colourProblem() : problem;
 }
 
@@ -63,7 +63,7 @@ PdfQuality DialogSession::quality() const
 JobInputs DialogSession::jobInputs() const
 {
     JobInputs inputs{
-        {}, options_.settings()->values(), page().copies, int(sheetPlan().sheets.size()), page().isCollated};
+        {}, options_.settings()->values(), page().copies, int(sheetPlan()->sheets.size()), page().isCollated};
     if (!model())
         return inputs;
     inputs.values = model()->values();
@@ -103,15 +103,14 @@ JobInWords DialogSession::jobInWords() const
     if (!model())
         return {};
     const JobValues values = valuesToSend();
-    const SheetPlan none;
-    const SheetPlan& plan = document() ? none : sheetPlan();
-    const QString layout = document() ? QString() : layoutInWords(page().sheets, page_.layouts(), plan);
+    const auto plan = document() ? std::make_shared<const SheetPlan>() : sheetPlan();
+    const QString layout = document() ? QString() : layoutInWords(page().sheets, page_.layouts(), *plan);
     JobInWords words =
         halvern::jobInWords({*model(), values, printerDefaults(), int(photos().size()), printedPhotos(),
                              page().pages.isReversed, isPageOnPaper(), layout});
     if (words.problem.isEmpty() && hasPhotos()) {
         const QString choice = chosenPages().problem;
-        words.problem = choice.isEmpty() ? plan.problem : choice;
+        words.problem = choice.isEmpty() ? plan->problem : choice;
     }
     if (words.problem.isEmpty())
         words.problem = colourProblem();

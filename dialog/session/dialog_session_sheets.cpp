@@ -125,7 +125,8 @@ std::vector<size_t> DialogSession::printedPhotos() const
     if (document() || (parity != PageParity::odd && parity != PageParity::even))
         return chosenPages().pages;
     std::set<size_t> printed;
-    for (const Sheet& sheet : sheetPlan().sheets) {
+    const std::shared_ptr<const SheetPlan> plan = sheetPlan();
+    for (const Sheet& sheet : plan->sheets) {
         for (const PlacedPhoto& placed : sheet.photos)
             printed.insert(placed.photo);
     }
@@ -184,12 +185,12 @@ double DialogSession::overspill() const
 std::vector<SheetToPrint> DialogSession::sheetsToPrint() const
 {
     std::vector<SheetToPrint> sheets;
-    SheetPlan plan = sheetPlan();
-    for (Sheet& sheet : plan.sheets) {
+    const std::shared_ptr<const SheetPlan> plan = sheetPlan();
+    for (const Sheet& sheet : plan->sheets) {
         SheetToPrint printed;
         for (const PlacedPhoto& placed : sheet.photos)
             printed.photos.push_back(photos()[placed.photo]);
-        printed.sheet = std::move(sheet);
+        printed.sheet = sheet;
         printed.caption = page().sheets.caption;
         sheets.push_back(std::move(printed));
     }

@@ -103,20 +103,23 @@ SheetRequest PageSetup::requestFor(const Layout& layout, const PpdModel* model) 
             model ? model->resolution() : kUsualResolution};
 }
 
-const SheetPlan& PageSetup::plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
-                                 const PpdModel* model) const
+std::shared_ptr<const SheetPlan> PageSetup::plan(const std::vector<Photo>& photos,
+                                                 const std::vector<size_t>& chosen,
+                                                 const PpdModel* model) const
 {
     const std::optional<Layout> layout = layouts_.find(settings_.sheets.layout);
     if (!layout) {
         planned_.reset();
-        plan_ = {{}, layouts_.unknownText(settings_.sheets.layout)};
+        plan_ =
+            std::make_shared<const SheetPlan>(SheetPlan{{}, layouts_.unknownText(settings_.sheets.layout)});
         return plan_;
     }
     PlanKey key{requestFor(*layout, model), settings_.pages, chosen, {}};
     for (const Photo& photo : photos)
         key.photos.push_back({photo.ownSize, photo.placement});
     if (planned_ != key) {
-        plan_ = withChosenSheets(planSheets(key.request, photos, chosen), settings_.pages);
+        plan_ = std::make_shared<const SheetPlan>(
+            withChosenSheets(planSheets(key.request, photos, chosen), settings_.pages));
         planned_ = std::move(key);
     }
     return plan_;

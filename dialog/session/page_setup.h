@@ -53,10 +53,10 @@ public:
     /// Chooses the same photos once only those at the places `left` of `count` are there.
     void keepChoice(const std::vector<size_t>& left, size_t count);
 
-    /// The photos on sheets of the model's current size, without a model on A4 to its edges. It is made
-    /// again only when something is different, and valid until then.
-    const SheetPlan& plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
-                          const PpdModel* model) const;
+    /// The photos on sheets of the model's current size, without a model on A4 to its edges; never null. It
+    /// is made again only when something is different.
+    std::shared_ptr<const SheetPlan> plan(const std::vector<Photo>& photos, const std::vector<size_t>& chosen,
+                                          const PpdModel* model) const;
 
     /// A photo alone on such a sheet.
     PageLayout layout(const Photo& photo, const PpdModel* model) const;
@@ -96,7 +96,7 @@ private:
     PageSettings settings_;
     bool hasTakenWishes_ = false;
     mutable std::optional<PlanKey> planned_;
-    mutable SheetPlan plan_;
+    mutable std::shared_ptr<const SheetPlan> plan_;
 };
 
 } // namespace halvern

@@ -7,18 +7,32 @@
 
 #include <QFileInfo>
 #include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace halvern {
+
+namespace {
+
+constexpr int kTellEvery = 100; // milliseconds
+
+} // namespace
 
 PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<PhotoPlacement> placements)
     : files_(std::move(files)),
       printDamaged_(printDamaged),
       placements_(std::move(placements)),
       filesLeft_(int(files_.size())),
+      telling_(new QTimer(this)),
       stop_(cups::makeCancelFlag())
 {
+    telling_->setSingleShot(true);
+    telling_->setInterval(kTellEvery);
+    connect(telling_, &QTimer::timeout, this, [this] {
+        if (hasNews_)
+            tellSoon();
+    });
 }
 
 PhotoLoader::~PhotoLoader()
@@ -84,6 +98,20 @@ void PhotoLoader::take(const PhotoFile& file)
     } else if (!file.problem.isEmpty()) {
         tellDamage(file.pages.front().path, file.problem);
     }
+    tellSoon();
+}
+
+// Laying a thousand photos out again for each that comes would keep the window from answering. The first one
+// and the last one do not wait.
+void PhotoLoader::tellSoon()
+{
+    hasNews_ = telling_->isActive() && !isDone();
+    if (hasNews_)
+        return;
+    if (isDone())
+        telling_->stop();
+    else
+        telling_->start();
     Q_EMIT changed();
 }
 

@@ -11,6 +11,8 @@
 
 #include <vector>
 
+class QTimer;
+
 namespace halvern {
 
 /// The photos of one dialog, read by workers and owned here. A file that cannot be read is told in a sentence
@@ -61,6 +63,7 @@ public:
     void settleDamaged(bool print);
 
 Q_SIGNALS:
+    /// As long as more photos come, one after the other, a few times a second.
     void changed();
     /// A file could not be read; a sentence.
     void failed(const QString& sentence);
@@ -70,6 +73,7 @@ Q_SIGNALS:
 private:
     void read(const QStringList& files);
     void take(const PhotoFile& file);
+    void tellSoon();
     void tellDamage(const QString& path, const QString& sentence);
 
     DecoderLease decoders_; // warm while photos may be read
@@ -83,6 +87,8 @@ private:
     QMap<QString, QString> openDamage_; // sentences, by the files' paths
     quint64 lastId_ = 0;
     int filesLeft_;
+    QTimer* telling_; // until it has run out, nothing is told
+    bool hasNews_ = false;
     cups::CancelFlag stop_;
     WorkQueue queue_; // one file after the other, in their order
 };

@@ -385,7 +385,7 @@ void LayoutPage::refresh()
     cutMarks_->setChecked(sheets.hasCutMarks);
     if (caption_->text() != sheets.caption)
         caption_->setText(sheets.caption); // plain: a field holds a value
-    const QString problem = session_.photos().empty() ? QString() : session_.sheetPlan().problem;
+    const QString problem = session_.photos().empty() ? QString() : session_.sheetPlan()->problem;
     const bool isDark = palette().color(QPalette::Window).lightness() < 128;
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, isDark ? QColor(255, 150, 110) : QColor(170, 60, 10));
@@ -410,10 +410,10 @@ std::optional<QSizeF> LayoutPage::usedPaper() const
     const std::optional<Layout> layout = session_.layouts().find(session_.page().sheets.layout);
     if (!limits || !layout || layout->kind != LayoutKind::pack)
         return std::nullopt;
-    const SheetPlan& plan = session_.sheetPlan();
-    if (plan.sheets.size() != 1 || plan.sheets.front().page.turned)
+    const std::shared_ptr<const SheetPlan> plan = session_.sheetPlan();
+    if (plan->sheets.size() != 1 || plan->sheets.front().page.turned)
         return std::nullopt;
-    const Sheet& sheet = plan.sheets.front();
+    const Sheet& sheet = plan->sheets.front();
     const QSizeF page = sheet.page.page;
     const SheetSettings& settings = session_.page().sheets;
     // The margin may hold the cut marks, and what the printer leaves free may not.

@@ -154,18 +154,19 @@ void PreviewSide::connectPreview()
 void PreviewSide::refresh()
 {
     const std::vector<Photo>& photos = session_.photos();
-    const SheetPlan plan = session_.sheetPlan();
-    const std::vector<Sheet>& sheets = plan.sheets;
+    // Kept: what is told of the photo that is shown may have them planned again.
+    const std::shared_ptr<const SheetPlan> plan = session_.sheetPlan();
+    const std::vector<Sheet>& sheets = plan->sheets;
     pager_->setVisible(sheets.size() > 1);
     shown_.reset();
     if (strip_)
         strip_->refresh();
     showStrip();
     if (sheets.empty()) {
-        preview_->showText(!session_.hasPhotos()    ? tr("Reading the photo...")
-                           : photos.empty()         ? tr("There is no photo to print.")
-                           : plan.problem.isEmpty() ? tr("No page is chosen.")
-                                                    : plan.problem);
+        preview_->showText(!session_.hasPhotos()     ? tr("Reading the photo...")
+                           : photos.empty()          ? tr("There is no photo to print.")
+                           : plan->problem.isEmpty() ? tr("No page is chosen.")
+                                                     : plan->problem);
         return;
     }
     showPlace(sheets);

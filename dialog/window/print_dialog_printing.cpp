@@ -43,7 +43,7 @@ void PrintDialog::updateButtons()
     copies_->setEnabled(!isBusy);
     collate_->setEnabled(!isBusy);
     collate_->setVisible(copies_->value() > 1 &&
-                         (session_.document() || session_.sheetPlan().sheets.size() > 1));
+                         (session_.document() || session_.sheetPlan()->sheets.size() > 1));
     cancelJob_->setVisible(isBusy);
     cancelJob_->setEnabled(isBusy && !run_->isCancelled());
     cancel_->setText(isBusy || hasPrinted_ ? tr("Close") : tr("Cancel"));

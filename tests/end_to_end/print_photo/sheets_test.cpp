@@ -118,7 +118,7 @@ TEST(PrintedSheets, SixPhotosOfThreeShapesAreWhereTheLayoutSays)
     settings.sheets.caption = q("[C]. [F]");
     settings.sheets.hasCutMarks = true;
     user.session.setPage(settings);
-    const SheetPlan plan = user.session.sheetPlan();
+    const SheetPlan plan = *user.session.sheetPlan();
     ASSERT_EQ(plan.sheets.size(), 2u);
     // The printer leaves 3.0, 3.0, 3.0 and 4.2 mm free; four millimetres are between two places.
     const QRectF first = inMillimetres(plan.sheets[0].photos[0].cell);
