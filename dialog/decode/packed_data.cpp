@@ -78,6 +78,25 @@ bool hasHole(FileBytes data, size_t least)
     return false;
 }
 
+bool hasLostSector(FileBytes file, size_t from, size_t to)
+{
+    constexpr size_t kSector = 512;
+    constexpr size_t kByChance = 2; // zeros that were there beside the hole
+    const auto isZero = [](uchar byte) { return byte == 0; };
+    size_t begin = (from + kSector - 1) / kSector * kSector;
+    while (begin + kSector <= to) {
+        const auto first = file.begin() + std::ptrdiff_t(begin);
+        const auto end =
+            size_t(std::find_if_not(first, file.begin() + std::ptrdiff_t(to), isZero) - file.begin());
+        const size_t before = std::min(begin - from, kByChance + 1);
+        const bool beginsHere = before == 0 || !std::all_of(first - std::ptrdiff_t(before), first, isZero);
+        if (end - begin >= kSector && beginsHere && (end == to || end % kSector <= kByChance))
+            return true;
+        begin = std::max(begin + kSector, end / kSector * kSector);
+    }
+    return false;
+}
+
 bool isDeflatedWhole(FileBytes data)
 {
     z_stream stream = {};

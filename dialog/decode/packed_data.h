@@ -12,6 +12,10 @@ inline constexpr size_t kHole = 480; // bytes
 /// colour are zeros in some.
 bool hasHole(FileBytes data, size_t least = kHole);
 
+/// Whether the bytes from `from` to `to` of a file have a hole that begins and ends where sectors do, or ends
+/// with them. For packings in which a flat area is zeros, too: those begin and end anywhere.
+bool hasLostSector(FileBytes file, size_t from, size_t to);
+
 /// Whether deflated data unpack to the checksum at their end.
 bool isDeflatedWhole(FileBytes data);
 

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "dialog/decode/packed_data.h"
 #include "dialog/decode/readers.h"
+
+#include <QtEndian>
 
 #include <algorithm>
 #include <cstring>
@@ -12,6 +15,23 @@
 namespace halvern {
 
 namespace {
+
+// Whether a picture's packed pixels were not copied whole: the library draws the rest as it comes.
+// Transparency may be there as plain numbers, zeros among them.
+bool hasWebpHole(FileBytes file, size_t at, size_t end)
+{
+    constexpr size_t kHead = 8;
+    constexpr int kMethod = 3; // of packing
+    while (end - at > kHead) {
+        const uchar* chunk = file.data() + at;
+        const bool isPlain = std::memcmp(chunk, "ALPH", 4) == 0 && (chunk[kHead] & kMethod) == 0;
+        const size_t size = std::min<size_t>(qFromLittleEndian<quint32>(chunk + 4), end - at - kHead);
+        if (!isPlain && hasLostSector(file, at + kHead, at + kHead + size))
+            return true;
+        at = std::min(at + kHead + size + size % 2, end);
+    }
+    return false;
+}
 
 struct DeleteDemuxer {
     void operator()(WebPDemuxer* demuxer) const { WebPDemuxDelete(demuxer); }
@@ -35,6 +55,8 @@ public:
             WebPDemuxReleaseChunkIterator(&chunk);
         }
         const WebPData pixels = frame.fragment;
+        const auto at = size_t(pixels.bytes - bytes.data());
+        isDamaged_ = isDamaged_ || hasWebpHole(bytes, at, at + pixels.size);
         WebPDemuxReleaseIterator(&frame);
         decode(pixels, leastEdge);
         picture_.orientation = notes.orientation;

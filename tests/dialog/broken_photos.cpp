@@ -180,11 +180,14 @@ BrokenPhoto broken(const Format& format, int number, std::minstd_rand& random)
     }
     default:
         how = "hole";
-        const auto from = qsizetype(random() % size);
+        const bool isOfSectors = QByteArray(format.name) == "webp"; // where a flat area may be zeros as well
+        auto from = qsizetype(random() % size);
+        from -= isOfSectors ? from % 512 : 0;
         photo.bytes.replace(from, qMin(qsizetype(4096), photo.bytes.size() - from),
                             QByteArray(qMin(qsizetype(4096), photo.bytes.size() - from), '\0'));
         // Whose packed data never have as many zeros.
-        photo.isCut = QByteArray("heic avif").indexOf(format.name) >= 0 && photo.bytes.size() - from >= 480;
+        photo.isCut = (isOfSectors || QByteArray("heic avif").indexOf(format.name) >= 0) &&
+                      photo.bytes.size() - from >= 512;
         break;
     }
     photo.name = q("%1-%2.%3").arg(q(how)).arg(number).arg(q(format.name));
