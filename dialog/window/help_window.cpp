@@ -25,7 +25,8 @@ namespace halvern {
 
 namespace {
 
-constexpr QSize kHelpSize(900, 680);
+// The book's pictures are 560 wide, and are seen whole.
+constexpr QSize kHelpSize(960, 700);
 constexpr int kListWidth = 250;
 constexpr int kPageMargin = 18;
 // Of a line, what stands before the first word that was found.
@@ -74,6 +75,9 @@ HelpWindow::HelpWindow(HelpBook book, QWidget* parent)
     page_->setAccessibleName(tr("Page of the help"));
     page_->setFrameShape(QFrame::NoFrame);
     page_->document()->setDocumentMargin(kPageMargin);
+    // Many dark palettes leave links as dark as on white.
+    if (palette().color(QPalette::Base).lightness() < 128)
+        page_->document()->setDefaultStyleSheet(QStringLiteral("a { color: #8ab8ff; }"));
     // Links are reached by the Tab key, and text can be marked by the keyboard.
     page_->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     auto* sides = new QHBoxLayout(this);
