@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A printer's answer about itself, from the bytes to the words. Run it on a copy of the seeds:
-//   mkdir -p build/fuzz/answers && cp tests/fuzz/seeds/*.ipp build/fuzz/answers
+//   mkdir -p build/fuzz/answers && cp tests/fuzz/seeds/{*.ipp,answers/*} build/fuzz/answers
 //   build/fuzz/bin/fuzz-printer-answer -max_total_time=600 -rss_limit_mb=500
 //       -max_len=65536 build/fuzz/answers
 
