@@ -62,6 +62,10 @@ private:
 
     static void tell(const char* what, const char* kind, std::vector<double>& figures)
     {
+        if (figures.empty()) {
+            std::printf("%-8s %-16s nothing: the photos' row needs a screen with more room\n", what, kind);
+            return;
+        }
         std::ranges::sort(figures);
         const auto at = [&](double share) { return figures[size_t(double(figures.size() - 1) * share)]; };
         std::printf("%-8s %-16s %6zu events: median %.2f ms, 99 %% %.2f ms, longest %.2f ms\n", what, kind,
