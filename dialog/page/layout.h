@@ -5,6 +5,7 @@
 
 #include <QJsonObject>
 #include <QList>
+#include <QSizeF>
 #include <QString>
 
 #include <optional>
@@ -49,10 +50,11 @@ struct Layout {
 };
 
 inline constexpr int kMostRows = 20;
-inline constexpr double kLeastPhoto = 10.0;  // millimetres
-inline constexpr double kMostPhoto = 2000.0; // millimetres
-inline constexpr double kMostBorder = 50.0;  // millimetres
-inline constexpr double kMostMargin = 200.0; // millimetres
+inline constexpr double kLeastPhoto = 10.0;        // millimetres
+inline constexpr double kMostPhoto = 2000.0;       // millimetres
+inline constexpr QSizeF kUsualPhoto(100.0, 150.0); // millimetres
+inline constexpr double kMostBorder = 50.0;        // millimetres
+inline constexpr double kMostMargin = 200.0;       // millimetres
 inline constexpr double kLeastPercent = 1.0;
 inline constexpr double kMostPercent = 1000.0;
 inline constexpr qsizetype kLongestCaption = 200;

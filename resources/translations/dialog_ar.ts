@@ -1154,6 +1154,17 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source> mm</source>
+        <translation> مم</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> بوصة</translation>
+    </message>
+</context>
+<context>
     <name>Layouts</name>
     <message>
         <source>&quot;%1&quot; is no number from %2 to %3.</source>
@@ -2918,6 +2929,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::CaptionRow</name>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>بلا؛ مثال: [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>شرح تحت كل صورة</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>عنصر نائب</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>إدراج (&amp;N)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
@@ -3469,6 +3499,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::KeepLayoutRow</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>احتفاظ (&amp;K)</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>اسم للعثور عليه لاحقًا</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>اسم التخطيط</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LayoutPage</name>
     <message>
         <source>Rows</source>
@@ -3489,26 +3538,6 @@
     <message>
         <source>&amp;Each photo fills its own sheet</source>
         <translation>تملأ كل صورة ورقتها (&amp;E)</translation>
-    </message>
-    <message>
-        <source>Width of the photo</source>
-        <translation>عرض الصورة</translation>
-    </message>
-    <message>
-        <source>Height of the photo</source>
-        <translation>ارتفاع الصورة</translation>
-    </message>
-    <message>
-        <source>Away from the corner:</source>
-        <translation>البعد عن الزاوية:</translation>
-    </message>
-    <message>
-        <source>From the left</source>
-        <translation>من اليسار</translation>
-    </message>
-    <message>
-        <source>From the top</source>
-        <translation>من الأعلى</translation>
     </message>
     <message>
         <source>Margin of the sheet</source>
@@ -3533,14 +3562,6 @@
     <message>
         <source>Same Crop for All</source>
         <translation>الاقتصاص نفسه للكل</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>احتفاظ (&amp;K)</translation>
-    </message>
-    <message>
-        <source>Forget</source>
-        <translation>إزالة</translation>
     </message>
     <message>
         <source>&amp;Layout:</source>
@@ -3575,14 +3596,6 @@
         <translation>كتخطيط خاص بي (&amp;Y):</translation>
     </message>
     <message>
-        <source> mm</source>
-        <translation> مم</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> بوصة</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>التخطيط</translation>
     </message>
@@ -3591,60 +3604,8 @@
         <translation>صفوف، في كل صف</translation>
     </message>
     <message>
-        <source>As large as the page</source>
-        <translation>بحجم الصفحة</translation>
-    </message>
-    <message>
-        <source>In</source>
-        <translation>ضمن</translation>
-    </message>
-    <message>
-        <source>Of its own size</source>
-        <translation>بحجمها الخاص</translation>
-    </message>
-    <message>
-        <source>Photo size</source>
-        <translation>حجم الصورة</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
-        <source>Percent of its own size</source>
-        <translation>نسبة مئوية من حجمها الخاص</translation>
-    </message>
-    <message>
-        <source>Without it the photo is in the middle of the sheet</source>
-        <translation>بدونه تكون الصورة في وسط الورقة</translation>
-    </message>
-    <message>
-        <source>None; for example [C]  [F]</source>
-        <translation>بلا؛ مثال: [C]  [F]</translation>
-    </message>
-    <message>
-        <source>Caption under each photo</source>
-        <translation>شرح تحت كل صورة</translation>
-    </message>
-    <message>
-        <source>Placeholder</source>
-        <translation>عنصر نائب</translation>
-    </message>
-    <message>
-        <source>I&amp;nsert</source>
-        <translation>إدراج (&amp;N)</translation>
-    </message>
-    <message>
         <source> copies</source>
         <translation> نسخة</translation>
-    </message>
-    <message>
-        <source>Name, to find it again</source>
-        <translation>اسم للعثور عليه لاحقًا</translation>
-    </message>
-    <message>
-        <source>Name of the layout</source>
-        <translation>اسم التخطيط</translation>
     </message>
     <message>
         <source>One photo on each page</source>
@@ -4260,6 +4221,60 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>رمادي بلا ملف تعريف؛ يُعدّ sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPlaceRow</name>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>البعد عن الزاوية:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>من اليسار</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>من الأعلى</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>بدونه تكون الصورة في وسط الورقة</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoSizeRow</name>
+    <message>
+        <source>Width of the photo</source>
+        <translation>عرض الصورة</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>ارتفاع الصورة</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>بحجم الصفحة</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>ضمن</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>بحجمها الخاص</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>حجم الصورة</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Percent of its own size</source>
+        <translation>نسبة مئوية من حجمها الخاص</translation>
     </message>
 </context>
 <context>

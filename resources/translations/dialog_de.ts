@@ -1154,6 +1154,17 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> Zoll</translation>
+    </message>
+</context>
+<context>
     <name>Layouts</name>
     <message>
         <source>&quot;%1&quot; is no number from %2 to %3.</source>
@@ -2918,6 +2929,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::CaptionRow</name>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>Keine; zum Beispiel [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>Beschriftung unter jedem Foto</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>Ei&amp;nfügen</translation>
+    </message>
+</context>
+<context>
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
@@ -3469,6 +3499,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::KeepLayoutRow</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;Merken</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>Name, um es wiederzufinden</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Name des Layouts</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LayoutPage</name>
     <message>
         <source>Rows</source>
@@ -3489,26 +3538,6 @@
     <message>
         <source>&amp;Each photo fills its own sheet</source>
         <translation>&amp;Jedes Foto füllt ein eigenes Blatt</translation>
-    </message>
-    <message>
-        <source>Width of the photo</source>
-        <translation>Breite des Fotos</translation>
-    </message>
-    <message>
-        <source>Height of the photo</source>
-        <translation>Höhe des Fotos</translation>
-    </message>
-    <message>
-        <source>Away from the corner:</source>
-        <translation>Von der Ecke entfernt:</translation>
-    </message>
-    <message>
-        <source>From the left</source>
-        <translation>Von links</translation>
-    </message>
-    <message>
-        <source>From the top</source>
-        <translation>Von oben</translation>
     </message>
     <message>
         <source>Margin of the sheet</source>
@@ -3533,14 +3562,6 @@
     <message>
         <source>Same Crop for All</source>
         <translation>Alle so zuschneiden</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>&amp;Merken</translation>
-    </message>
-    <message>
-        <source>Forget</source>
-        <translation>Vergessen</translation>
     </message>
     <message>
         <source>&amp;Layout:</source>
@@ -3575,14 +3596,6 @@
         <translation>Als mein La&amp;yout:</translation>
     </message>
     <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> Zoll</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Layout</translation>
     </message>
@@ -3591,60 +3604,8 @@
         <translation>Reihen zu</translation>
     </message>
     <message>
-        <source>As large as the page</source>
-        <translation>So groß wie die Seite</translation>
-    </message>
-    <message>
-        <source>In</source>
-        <translation>In</translation>
-    </message>
-    <message>
-        <source>Of its own size</source>
-        <translation>Der eigenen Größe</translation>
-    </message>
-    <message>
-        <source>Photo size</source>
-        <translation>Größe des Fotos</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
-        <source>Percent of its own size</source>
-        <translation>Prozent der eigenen Größe</translation>
-    </message>
-    <message>
-        <source>Without it the photo is in the middle of the sheet</source>
-        <translation>Sonst ist das Foto in der Mitte des Blattes</translation>
-    </message>
-    <message>
-        <source>None; for example [C]  [F]</source>
-        <translation>Keine; zum Beispiel [C]  [F]</translation>
-    </message>
-    <message>
-        <source>Caption under each photo</source>
-        <translation>Beschriftung unter jedem Foto</translation>
-    </message>
-    <message>
-        <source>Placeholder</source>
-        <translation>Platzhalter</translation>
-    </message>
-    <message>
-        <source>I&amp;nsert</source>
-        <translation>Ei&amp;nfügen</translation>
-    </message>
-    <message>
         <source> copies</source>
         <translation> Exemplare</translation>
-    </message>
-    <message>
-        <source>Name, to find it again</source>
-        <translation>Name, um es wiederzufinden</translation>
-    </message>
-    <message>
-        <source>Name of the layout</source>
-        <translation>Name des Layouts</translation>
     </message>
     <message>
         <source>One photo on each page</source>
@@ -4260,6 +4221,60 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>Grau ohne Profil; gilt als sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPlaceRow</name>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>Von der Ecke entfernt:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Von links</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>Von oben</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>Sonst ist das Foto in der Mitte des Blattes</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoSizeRow</name>
+    <message>
+        <source>Width of the photo</source>
+        <translation>Breite des Fotos</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>Höhe des Fotos</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>So groß wie die Seite</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>Der eigenen Größe</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Größe des Fotos</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Percent of its own size</source>
+        <translation>Prozent der eigenen Größe</translation>
     </message>
 </context>
 <context>

@@ -1154,6 +1154,17 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> pulg.</translation>
+    </message>
+</context>
+<context>
     <name>Layouts</name>
     <message>
         <source>&quot;%1&quot; is no number from %2 to %3.</source>
@@ -2918,6 +2929,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::CaptionRow</name>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>Ninguno; por ejemplo [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>Pie debajo de cada foto</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Marcador</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>I&amp;nsertar</translation>
+    </message>
+</context>
+<context>
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
@@ -3469,6 +3499,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::KeepLayoutRow</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>Conser&amp;var</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>Nombre, para volver a encontrarla</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Nombre de la disposición</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LayoutPage</name>
     <message>
         <source>Rows</source>
@@ -3489,26 +3538,6 @@
     <message>
         <source>&amp;Each photo fills its own sheet</source>
         <translation>&amp;Cada foto llena su propia hoja</translation>
-    </message>
-    <message>
-        <source>Width of the photo</source>
-        <translation>Ancho de la foto</translation>
-    </message>
-    <message>
-        <source>Height of the photo</source>
-        <translation>Alto de la foto</translation>
-    </message>
-    <message>
-        <source>Away from the corner:</source>
-        <translation>A esta distancia de la esquina:</translation>
-    </message>
-    <message>
-        <source>From the left</source>
-        <translation>Desde la izquierda</translation>
-    </message>
-    <message>
-        <source>From the top</source>
-        <translation>Desde arriba</translation>
     </message>
     <message>
         <source>Margin of the sheet</source>
@@ -3533,14 +3562,6 @@
     <message>
         <source>Same Crop for All</source>
         <translation>Mismo recorte para todas</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>Conser&amp;var</translation>
-    </message>
-    <message>
-        <source>Forget</source>
-        <translation>Olvidar</translation>
     </message>
     <message>
         <source>&amp;Layout:</source>
@@ -3575,14 +3596,6 @@
         <translation>Como m&amp;i disposición:</translation>
     </message>
     <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> pulg.</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Disposición</translation>
     </message>
@@ -3591,60 +3604,8 @@
         <translation>filas de</translation>
     </message>
     <message>
-        <source>As large as the page</source>
-        <translation>Tan grande como la página</translation>
-    </message>
-    <message>
-        <source>In</source>
-        <translation>En</translation>
-    </message>
-    <message>
-        <source>Of its own size</source>
-        <translation>De su propio tamaño</translation>
-    </message>
-    <message>
-        <source>Photo size</source>
-        <translation>Tamaño de la foto</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
-        <source>Percent of its own size</source>
-        <translation>Porcentaje de su propio tamaño</translation>
-    </message>
-    <message>
-        <source>Without it the photo is in the middle of the sheet</source>
-        <translation>Si no se indica, la foto está en el centro de la hoja</translation>
-    </message>
-    <message>
-        <source>None; for example [C]  [F]</source>
-        <translation>Ninguno; por ejemplo [C]  [F]</translation>
-    </message>
-    <message>
-        <source>Caption under each photo</source>
-        <translation>Pie debajo de cada foto</translation>
-    </message>
-    <message>
-        <source>Placeholder</source>
-        <translation>Marcador</translation>
-    </message>
-    <message>
-        <source>I&amp;nsert</source>
-        <translation>I&amp;nsertar</translation>
-    </message>
-    <message>
         <source> copies</source>
         <translation> copias</translation>
-    </message>
-    <message>
-        <source>Name, to find it again</source>
-        <translation>Nombre, para volver a encontrarla</translation>
-    </message>
-    <message>
-        <source>Name of the layout</source>
-        <translation>Nombre de la disposición</translation>
     </message>
     <message>
         <source>One photo on each page</source>
@@ -4260,6 +4221,60 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>Gris sin perfil; se toma como sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPlaceRow</name>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>A esta distancia de la esquina:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Desde la izquierda</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>Desde arriba</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>Si no se indica, la foto está en el centro de la hoja</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoSizeRow</name>
+    <message>
+        <source>Width of the photo</source>
+        <translation>Ancho de la foto</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>Alto de la foto</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>Tan grande como la página</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>En</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>De su propio tamaño</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Tamaño de la foto</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Percent of its own size</source>
+        <translation>Porcentaje de su propio tamaño</translation>
     </message>
 </context>
 <context>

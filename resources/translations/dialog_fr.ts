@@ -1154,6 +1154,17 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> po</translation>
+    </message>
+</context>
+<context>
     <name>Layouts</name>
     <message>
         <source>&quot;%1&quot; is no number from %2 to %3.</source>
@@ -2918,6 +2929,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::CaptionRow</name>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>Aucune ; par exemple [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>Légende sous chaque photo</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Repère</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>In&amp;sérer</translation>
+    </message>
+</context>
+<context>
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
@@ -3469,6 +3499,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::KeepLayoutRow</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>Co&amp;nserver</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>Nom, pour la retrouver</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>Nom de la mise en page</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LayoutPage</name>
     <message>
         <source>Rows</source>
@@ -3489,26 +3538,6 @@
     <message>
         <source>&amp;Each photo fills its own sheet</source>
         <translation>Chaque photo remplit s&amp;a propre feuille</translation>
-    </message>
-    <message>
-        <source>Width of the photo</source>
-        <translation>Largeur de la photo</translation>
-    </message>
-    <message>
-        <source>Height of the photo</source>
-        <translation>Hauteur de la photo</translation>
-    </message>
-    <message>
-        <source>Away from the corner:</source>
-        <translation>À distance du coin :</translation>
-    </message>
-    <message>
-        <source>From the left</source>
-        <translation>Depuis la gauche</translation>
-    </message>
-    <message>
-        <source>From the top</source>
-        <translation>Depuis le haut</translation>
     </message>
     <message>
         <source>Margin of the sheet</source>
@@ -3533,14 +3562,6 @@
     <message>
         <source>Same Crop for All</source>
         <translation>Même cadrage pour toutes</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>Co&amp;nserver</translation>
-    </message>
-    <message>
-        <source>Forget</source>
-        <translation>Oublier</translation>
     </message>
     <message>
         <source>&amp;Layout:</source>
@@ -3575,14 +3596,6 @@
         <translation>Comme ma mise &amp;en page :</translation>
     </message>
     <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> po</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>Mise en page</translation>
     </message>
@@ -3591,60 +3604,8 @@
         <translation>rangées de</translation>
     </message>
     <message>
-        <source>As large as the page</source>
-        <translation>Aussi grande que la page</translation>
-    </message>
-    <message>
-        <source>In</source>
-        <translation>En</translation>
-    </message>
-    <message>
-        <source>Of its own size</source>
-        <translation>De sa propre taille</translation>
-    </message>
-    <message>
-        <source>Photo size</source>
-        <translation>Taille de la photo</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
-        <source>Percent of its own size</source>
-        <translation>Pourcentage de sa propre taille</translation>
-    </message>
-    <message>
-        <source>Without it the photo is in the middle of the sheet</source>
-        <translation>Sinon, la photo est au milieu de la feuille</translation>
-    </message>
-    <message>
-        <source>None; for example [C]  [F]</source>
-        <translation>Aucune ; par exemple [C]  [F]</translation>
-    </message>
-    <message>
-        <source>Caption under each photo</source>
-        <translation>Légende sous chaque photo</translation>
-    </message>
-    <message>
-        <source>Placeholder</source>
-        <translation>Repère</translation>
-    </message>
-    <message>
-        <source>I&amp;nsert</source>
-        <translation>In&amp;sérer</translation>
-    </message>
-    <message>
         <source> copies</source>
         <translation> copies</translation>
-    </message>
-    <message>
-        <source>Name, to find it again</source>
-        <translation>Nom, pour la retrouver</translation>
-    </message>
-    <message>
-        <source>Name of the layout</source>
-        <translation>Nom de la mise en page</translation>
     </message>
     <message>
         <source>One photo on each page</source>
@@ -4260,6 +4221,60 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>Gris sans profil ; pris comme sRGB</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPlaceRow</name>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>À distance du coin :</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>Depuis la gauche</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>Depuis le haut</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>Sinon, la photo est au milieu de la feuille</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoSizeRow</name>
+    <message>
+        <source>Width of the photo</source>
+        <translation>Largeur de la photo</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>Hauteur de la photo</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>Aussi grande que la page</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>En</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>De sa propre taille</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>Taille de la photo</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Percent of its own size</source>
+        <translation>Pourcentage de sa propre taille</translation>
     </message>
 </context>
 <context>

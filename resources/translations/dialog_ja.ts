@@ -1154,6 +1154,17 @@
     </message>
 </context>
 <context>
+    <name>LayoutPage</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> インチ</translation>
+    </message>
+</context>
+<context>
     <name>Layouts</name>
     <message>
         <source>&quot;%1&quot; is no number from %2 to %3.</source>
@@ -2918,6 +2929,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::CaptionRow</name>
+    <message>
+        <source>None; for example [C]  [F]</source>
+        <translation>なし。例: [C]  [F]</translation>
+    </message>
+    <message>
+        <source>Caption under each photo</source>
+        <translation>各写真の下のキャプション</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>差し込み項目</translation>
+    </message>
+    <message>
+        <source>I&amp;nsert</source>
+        <translation>挿入(&amp;N)</translation>
+    </message>
+</context>
+<context>
     <name>halvern::ChoiceList</name>
     <message>
         <source>%1; %2</source>
@@ -3469,6 +3499,25 @@
     </message>
 </context>
 <context>
+    <name>halvern::KeepLayoutRow</name>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>登録(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>登録を解除</translation>
+    </message>
+    <message>
+        <source>Name, to find it again</source>
+        <translation>名前 (後で見つけるため)</translation>
+    </message>
+    <message>
+        <source>Name of the layout</source>
+        <translation>レイアウトの名前</translation>
+    </message>
+</context>
+<context>
     <name>halvern::LayoutPage</name>
     <message>
         <source>Rows</source>
@@ -3489,26 +3538,6 @@
     <message>
         <source>&amp;Each photo fills its own sheet</source>
         <translation>1 枚の用紙に同じ写真を並べる(&amp;E)</translation>
-    </message>
-    <message>
-        <source>Width of the photo</source>
-        <translation>写真の幅</translation>
-    </message>
-    <message>
-        <source>Height of the photo</source>
-        <translation>写真の高さ</translation>
-    </message>
-    <message>
-        <source>Away from the corner:</source>
-        <translation>角からの距離:</translation>
-    </message>
-    <message>
-        <source>From the left</source>
-        <translation>左から</translation>
-    </message>
-    <message>
-        <source>From the top</source>
-        <translation>上から</translation>
     </message>
     <message>
         <source>Margin of the sheet</source>
@@ -3533,14 +3562,6 @@
     <message>
         <source>Same Crop for All</source>
         <translation>すべて同じトリミング</translation>
-    </message>
-    <message>
-        <source>&amp;Keep</source>
-        <translation>登録(&amp;K)</translation>
-    </message>
-    <message>
-        <source>Forget</source>
-        <translation>登録を解除</translation>
     </message>
     <message>
         <source>&amp;Layout:</source>
@@ -3575,14 +3596,6 @@
         <translation>自分のレイアウトとして(&amp;Y):</translation>
     </message>
     <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> インチ</translation>
-    </message>
-    <message>
         <source>Layout</source>
         <translation>レイアウト</translation>
     </message>
@@ -3591,60 +3604,8 @@
         <translation>行 ×</translation>
     </message>
     <message>
-        <source>As large as the page</source>
-        <translation>ページと同じ大きさ</translation>
-    </message>
-    <message>
-        <source>In</source>
-        <translation>指定サイズ</translation>
-    </message>
-    <message>
-        <source>Of its own size</source>
-        <translation>元のサイズに対する割合</translation>
-    </message>
-    <message>
-        <source>Photo size</source>
-        <translation>写真のサイズ</translation>
-    </message>
-    <message>
-        <source> %</source>
-        <translation> %</translation>
-    </message>
-    <message>
-        <source>Percent of its own size</source>
-        <translation>元のサイズに対する割合 (%)</translation>
-    </message>
-    <message>
-        <source>Without it the photo is in the middle of the sheet</source>
-        <translation>指定しないと写真は用紙の中央になります</translation>
-    </message>
-    <message>
-        <source>None; for example [C]  [F]</source>
-        <translation>なし。例: [C]  [F]</translation>
-    </message>
-    <message>
-        <source>Caption under each photo</source>
-        <translation>各写真の下のキャプション</translation>
-    </message>
-    <message>
-        <source>Placeholder</source>
-        <translation>差し込み項目</translation>
-    </message>
-    <message>
-        <source>I&amp;nsert</source>
-        <translation>挿入(&amp;N)</translation>
-    </message>
-    <message>
         <source> copies</source>
         <translation> 枚</translation>
-    </message>
-    <message>
-        <source>Name, to find it again</source>
-        <translation>名前 (後で見つけるため)</translation>
-    </message>
-    <message>
-        <source>Name of the layout</source>
-        <translation>レイアウトの名前</translation>
     </message>
     <message>
         <source>One photo on each page</source>
@@ -4260,6 +4221,60 @@
     <message>
         <source>Gray without a profile; taken as sRGB</source>
         <translation>プロファイルなしのグレー (sRGB とみなします)</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoPlaceRow</name>
+    <message>
+        <source>Away from the corner:</source>
+        <translation>角からの距離:</translation>
+    </message>
+    <message>
+        <source>From the left</source>
+        <translation>左から</translation>
+    </message>
+    <message>
+        <source>From the top</source>
+        <translation>上から</translation>
+    </message>
+    <message>
+        <source>Without it the photo is in the middle of the sheet</source>
+        <translation>指定しないと写真は用紙の中央になります</translation>
+    </message>
+</context>
+<context>
+    <name>halvern::PhotoSizeRow</name>
+    <message>
+        <source>Width of the photo</source>
+        <translation>写真の幅</translation>
+    </message>
+    <message>
+        <source>Height of the photo</source>
+        <translation>写真の高さ</translation>
+    </message>
+    <message>
+        <source>As large as the page</source>
+        <translation>ページと同じ大きさ</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>指定サイズ</translation>
+    </message>
+    <message>
+        <source>Of its own size</source>
+        <translation>元のサイズに対する割合</translation>
+    </message>
+    <message>
+        <source>Photo size</source>
+        <translation>写真のサイズ</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Percent of its own size</source>
+        <translation>元のサイズに対する割合 (%)</translation>
     </message>
 </context>
 <context>
