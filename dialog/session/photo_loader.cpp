@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QPointer>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace halvern {
 namespace {
 
 constexpr int kTellEvery = 100; // milliseconds
+constexpr int kMostReaders = 4; // each may have a photo in memory
 
 } // namespace
 
@@ -25,7 +27,8 @@ PhotoLoader::PhotoLoader(QStringList files, bool printDamaged, QList<PhotoPlacem
       placements_(std::move(placements)),
       filesLeft_(int(files_.size())),
       telling_(new QTimer(this)),
-      stop_(cups::makeCancelFlag())
+      stop_(cups::makeCancelFlag()),
+      readers_(size_t(std::clamp(QThread::idealThreadCount(), 1, kMostReaders)))
 {
     telling_->setSingleShot(true);
     telling_->setInterval(kTellEvery);
@@ -56,23 +59,39 @@ void PhotoLoader::read(const QStringList& files)
 {
     QPointer<PhotoLoader> self(this);
     for (const QString& path : files) {
-        const bool isQueued = queue_.async([self, path, stop = stop_] {
+        const quint64 number = numberGiven_++;
+        const bool isQueued = readers_[number % readers_.size()].async([self, number, path, stop = stop_] {
             if (stop->load())
                 return;
             PhotoFile file = openPhotoFile(path);
-            mainQueue().async([self, file = std::move(file)] {
+            mainQueue().async([self, number, file = std::move(file)] {
                 if (self)
-                    self->take(file);
+                    self->takeInOrder(number, file);
             });
         });
         if (!isQueued)
-            mainQueue().async([self, path] {
+            mainQueue().async([self, number, path] {
                 if (self)
-                    self->take({{},
-                                tr("\"%1\" cannot be read now: the computer is too busy. Close something and "
-                                   "open it again.")
-                                    .arg(QFileInfo(path).fileName())});
+                    self->takeInOrder(
+                        number,
+                        {{},
+                         tr("\"%1\" cannot be read now: the computer is too busy. Close something and "
+                            "open it again.")
+                             .arg(QFileInfo(path).fileName())});
             });
+    }
+}
+
+// Several are read at a time, and one of them may take longer than the next: their order stays what was
+// given.
+void PhotoLoader::takeInOrder(quint64 number, const PhotoFile& file)
+{
+    early_.emplace(number, file);
+    const QPointer<PhotoLoader> self(this);
+    while (self && !early_.empty() && early_.begin()->first == numberTaken_) {
+        const PhotoFile next = std::move(early_.extract(early_.begin()).mapped());
+        ++numberTaken_;
+        take(next);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QMap>
 #include <QObject>
 
+#include <map>
 #include <vector>
 
 class QTimer;
@@ -72,6 +73,7 @@ Q_SIGNALS:
 
 private:
     void read(const QStringList& files);
+    void takeInOrder(quint64 number, const PhotoFile& file);
     void take(const PhotoFile& file);
     void tellSoon();
     void tellDamage(const QString& path, const QString& sentence);
@@ -90,7 +92,10 @@ private:
     QTimer* telling_; // until it has run out, nothing is told
     bool hasNews_ = false;
     cups::CancelFlag stop_;
-    WorkQueue queue_; // one file after the other, in their order
+    std::vector<WorkQueue> readers_; // the files are given to them in turn
+    quint64 numberGiven_ = 0;
+    quint64 numberTaken_ = 0;
+    std::map<quint64, PhotoFile> early_; // files that were read before those in front of them
 };
 
 } // namespace halvern

@@ -67,6 +67,17 @@ protected:
     void TearDown() override { qputenv("CUPS_SERVER", server); }
 };
 
+TEST_F(PhotoStripTest, PhotosKeepTheirOrderWhenTheFirstTakesLongest)
+{
+    QImage large(5000, 3000, QImage::Format_RGB32);
+    large.fill(Qt::red);
+    ASSERT_TRUE(large.save(request.files.first()));
+    DialogSession session(request, panels);
+    session.start();
+    ASSERT_TRUE(waitUntil([&] { return session.hasPhotos(); }));
+    EXPECT_EQ(fileNames(session.photos()), q("a b c d"));
+}
+
 TEST_F(PhotoStripTest, WhatIsChosenFollowsItsPhotosAndEachStepIsTakenBack)
 {
     DialogSession session(request, panels);
