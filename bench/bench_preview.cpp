@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// How long a moved slider takes until the preview shows it: works the real dialog on the default printer of
-// the server in use, and prints milliseconds, median and 95th percentile, from the key that moves the slider
-// until the preview has been painted. bench-preview FILE [STEPS]
+// How long a photo takes from being opened to the preview, and a moved slider or a dragged crop until it is
+// seen: works the real dialog on the default printer of the server in use, and prints milliseconds, median
+// and 95th percentile, from the key or the mouse until the widget has been painted. bench-preview FILE
+// [STEPS]
+#include "dialog/preview/crop_editor.h"
 #include "dialog/preview/preview_widget.h"
 #include "dialog/program/application.h"
 #include "dialog/session/plugin_loader.h"
@@ -20,6 +22,7 @@ using namespace halvern;
 
 constexpr int kPatience = 60'000;
 constexpr int kToggle = 0x200;
+constexpr int kLarger = 6; // presses of a key
 
 /// Sees that a widget was painted.
 class Painted : public QObject {
@@ -63,11 +66,30 @@ public:
         std::vector<double> times;
         for (int i = 0; i < steps_; ++i)
             times.push_back(timeOf(slider, i % 10 < 5 ? Qt::Key_Right : Qt::Key_Left));
-        std::sort(times.begin(), times.end());
-        out_ << qSetFieldWidth(34) << Qt::left << what << qSetFieldWidth(0)
-             << QString::asprintf("median %6.2f ms   p95 %6.2f ms   most %6.2f ms", times[times.size() / 2],
-                                  times[times.size() * 95 / 100], times.back())
-             << Qt::endl;
+        tell(what, std::move(times));
+    }
+
+    /// Drags the part of the photo that is printed, enlarged so that there is room for it.
+    void crop()
+    {
+        preview_.setFocus();
+        QTest::keyClick(&preview_, Qt::Key_C);
+        auto* editor = dialog_.findChild<CropEditor*>();
+        if (!editor || !QTest::qWaitFor([&] { return editor->isVisible(); }, kPatience))
+            qFatal("the crop cannot be chosen");
+        for (int i = 0; i < kLarger; ++i)
+            QTest::keyClick(editor, Qt::Key_Plus);
+        QCoreApplication::processEvents();
+        Painted painted(*editor);
+        QPoint at = editor->frameRect().center().toPoint();
+        QTest::mousePress(editor, Qt::LeftButton, {}, at);
+        std::vector<double> times;
+        for (int i = 0; i < steps_; ++i) {
+            at += i % 20 < 10 ? QPoint(2, 1) : QPoint(-2, -1);
+            times.push_back(timeUntil(painted, [&] { QTest::mouseMove(editor, at); }));
+        }
+        QTest::mouseRelease(editor, Qt::LeftButton, {}, at);
+        tell("crop dragged", std::move(times));
     }
 
     /// To 1:1, until the photo's own pixels are there.
@@ -86,6 +108,15 @@ public:
     }
 
 private:
+    void tell(const char* what, std::vector<double> times)
+    {
+        std::sort(times.begin(), times.end());
+        out_ << qSetFieldWidth(34) << Qt::left << what << qSetFieldWidth(0)
+             << QString::asprintf("median %6.2f ms   p95 %6.2f ms   most %6.2f ms", times[times.size() / 2],
+                                  times[times.size() * 95 / 100], times.back())
+             << Qt::endl;
+    }
+
     QWidget* control(int tag)
     {
         for (QWidget* widget : dialog_.findChildren<QWidget*>()) {
@@ -98,11 +129,17 @@ private:
 
     double timeOf(QWidget* slider, Qt::Key key)
     {
-        painted_.isSeen = false;
+        return timeUntil(painted_,
+                         [&] { QTest::sendKeyEvent(QTest::Click, slider, key, QString(), Qt::NoModifier); });
+    }
+
+    template <typename Deed> static double timeUntil(Painted& painted, const Deed& deed)
+    {
+        painted.isSeen = false;
         QElapsedTimer time;
         time.start();
-        QTest::sendKeyEvent(QTest::Click, slider, key, QString(), Qt::NoModifier);
-        while (!painted_.isSeen && time.elapsed() < kPatience)
+        deed();
+        while (!painted.isSeen && time.elapsed() < kPatience)
             QCoreApplication::processEvents();
         return double(time.nsecsElapsed()) / 1e6;
     }
@@ -132,8 +169,17 @@ int main(int argc, char** argv)
     PrintDialog dialog(session);
     dialog.resize(1240, 780); // the preview beside the pages, whatever the screen
     dialog.show();
+    auto* preview = dialog.findChild<PreviewWidget*>();
+    Painted seen(*preview);
+    QElapsedTimer opening;
+    opening.start();
     session.start();
-    if (!QTest::qWaitFor([&] { return session.canPrint() && session.hasCustomPanels(); }, kPatience)) {
+    const bool isThere = QTest::qWaitFor([&] { return session.hasPhotos(); }, kPatience);
+    seen.isSeen = false;
+    const bool isShown = isThere && QTest::qWaitFor([&] { return seen.isSeen; }, kPatience);
+    const double firstPreview = double(opening.nsecsElapsed()) / 1e6;
+    if (!isShown ||
+        !QTest::qWaitFor([&] { return session.canPrint() && session.hasCustomPanels(); }, kPatience)) {
         QTextStream(stderr) << "The printer, its panels or the photo did not come." << Qt::endl;
         return 1;
     }
@@ -141,7 +187,9 @@ int main(int argc, char** argv)
     out << QString::asprintf("%d x %d pixels, %d steps a slider, %s", pixels.width(), pixels.height(), steps,
                              qPrintable(QGuiApplication::platformName()))
         << Qt::endl;
+    out << QString::asprintf("%-34s%.0f ms", "opened to the first preview", firstPreview) << Qt::endl;
     Bench bench(dialog, out, steps);
+    bench.crop();
     bench.open("com.halvern.print.pde.coloradjust");
     bench.measure("brightness, whole page", 4);
     bench.measure("gamma, whole page", 7);
