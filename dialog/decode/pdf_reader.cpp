@@ -2,6 +2,7 @@
 #include "dialog/decode/image_source.h"
 #include "dialog/decode/packed_data.h"
 #include "dialog/decode/readers.h"
+#include "platform/foundation/units.h"
 
 #include <poppler-qt6.h>
 
@@ -14,7 +15,6 @@ namespace halvern {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
 constexpr double kMostPreviewResolution = 300.0;
 constexpr qsizetype kEndRange = 1024;
 constexpr double kMostDrawn = 200e6; // pixels of a page, which stand in memory as a whole
