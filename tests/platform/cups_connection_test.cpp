@@ -42,6 +42,18 @@ TEST(CupsConnection, AFaultOfTheServerEndsInASentenceBeforeTheServerLetsGo)
     }
 }
 
+TEST(CupsConnection, AServerThatTakesNoMoreOfADocumentIsNotWaitedForForEver)
+{
+    // How long a document takes is nobody's business, so it is the silence that ends this.
+    const ScriptedServer fault("HTTP/1.1 100 Continue\r\n\r\n", Then::stall);
+    cups::Connection server(nullptr, {200ms, 600s});
+    EXPECT_FALSE(server.request(cups::newRequest(IPP_OP_SEND_DOCUMENT, q("Photo")), "/printers/Photo",
+                                [] { return std::optional(QByteArray(64 * 1024, 'x')); }));
+    EXPECT_FALSE(fault.hasLetGo());
+    EXPECT_TRUE(server.failed(nullptr) && server.error().contains(q("does not answer")))
+        << qPrintable(server.error());
+}
+
 TEST(CupsConnection, ARaisedFlagEndsTheWait)
 {
     const ScriptedServer fault({}, Then::beSilent);

@@ -90,6 +90,8 @@ void ScriptedServer::misbehave(int client)
     // What it still asks is not answered.
     while (isHeard && then_ == Then::beSilent)
         isHeard = recv(client, question, sizeof question, 0) > 0;
+    if (then_ == Then::stall)
+        isHeard = isHeard && !hasLeft(-1);
     hasLetGo_ = hasLetGo_ || isHeard;
 }
 

@@ -18,8 +18,8 @@ public:
     using Script = std::function<cups::Ipp(_ipp_s* request)>;
 
     /// What one with a fault does until the client leaves, once it has read a question and answered it with
-    /// some bytes.
-    enum class Then { close, beSilent, drip, flood };
+    /// some bytes. A silent one hears what else is said, one that stalls does not.
+    enum class Then { close, beSilent, stall, drip, flood };
 
     explicit ScriptedServer(Script script) : ScriptedServer(std::move(script), {}, Then::close) {}
 
