@@ -2,6 +2,7 @@
 #include "dialog/options/custom_paper.h"
 #include "dialog/options/paper_sizes.h"
 #include "dialog/page/page_choice.h"
+#include "dialog/session/recent_names.h"
 #include "dialog/window/custom_paper_row.h"
 #include "dialog/window/paper_size_list.h"
 #include "dialog/window/printer_rows.h"
@@ -99,6 +100,7 @@ TEST(PaperSizes, AnOptionOfThePrintersOwnMayBeTheSwitch)
     const std::vector<PaperSize> sizes = paperSizes(*model);
     ASSERT_EQ(sizes.size(), 1u);
     EXPECT_EQ(sizes.front().borderless, q("TA4"));
+    EXPECT_EQ(sizes.front().group, PaperGroup::iso) << "in whole points it is still A4";
     EXPECT_EQ(borderlessSwitch(*model, sizes).key, q("StpFullBleed"));
     EXPECT_FALSE(paperLimits(model->file()));
 }
@@ -186,6 +188,17 @@ TEST(PrinterRows, ThoseUsedLastComeFirstAndAChangedStateMovesNothing)
     printers[1].isAccepting = false;
     rows.setPrinters(printers, {q("c")}, q("new"));
     EXPECT_TRUE(resets == 0 && changes == 1);
+}
+
+TEST(RecentNames, EachIsThereOnceTheNewestFirst)
+{
+    RecentNames names(q("NamesOfATest"), 3);
+    for (const char* name : {"a", "b", "a"})
+        names.use(q(name));
+    EXPECT_EQ(names.names(), (QStringList{q("a"), q("b")})) << "the one used again pushes no other out";
+    for (const char* name : {"c", "d"})
+        names.use(q(name));
+    EXPECT_EQ(RecentNames(q("NamesOfATest"), 3).names(), (QStringList{q("d"), q("c"), q("a")}));
 }
 
 } // namespace halvern

@@ -43,6 +43,7 @@ TEST(PageFit, APageThatCannotBeOnThePaperIsToldWithOneThatCan)
              Case{{{"PaperFeed", "Roll"}, {"PaperWidth", "2100"}, {"PageSize", "A4"}}, ""},
              Case{{{"PaperFeed", "Roll"}, {"PaperWidth", "1270"}, {"PageSize", "4x6"}}, ""},
              Case{{{"PaperName", "PhotoGloss102x152"}, {"PageSize", "A4"}}, "4x6"},
+             Case{{{"PaperName", "PhotoGloss102x152"}, {"PageSize", "Custom.288x576"}}, "4x6"},
              Case{{{"PaperName", "Photo Satin 127x178"}, {"PageSize", "Custom.400x505"}}, "5x7"},
              Case{{{"PaperName", "Photo Satin 127x178"}, {"PageSize", "5x7"}}, ""},
              Case{{{"PaperName", "PhotoGlossA4"}, {"PageSize", "4x6"}}, ""},

@@ -195,4 +195,15 @@ TEST(PrinterReport, ListsAPrinterThatWasFoundOnlyIfItHasNoQueue)
     EXPECT_EQ(names.join(u' '), q("Upstairs Old Aa New"));
 }
 
+TEST(PrinterReport, TheOnlyPrinterIsTheUsualOneAndOfSeveralTheServersDefault)
+{
+    std::vector<PrinterInfo> printers(1);
+    printers.front().name = q("Only");
+    EXPECT_EQ(usualPrinter({}, printers), q("Only"));
+    EXPECT_EQ(usualPrinter(q("Gone"), printers), q("Only"));
+    printers.emplace_back().name = q("Other");
+    EXPECT_EQ(usualPrinter({}, printers), QString()) << "nobody has said which";
+    EXPECT_EQ(usualPrinter(q("Other"), printers), q("Other"));
+}
+
 } // namespace halvern

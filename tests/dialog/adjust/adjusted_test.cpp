@@ -56,6 +56,7 @@ TEST(ColourPreview, EachControlDoesWhatItsNameSays)
     EXPECT_LT(toneWith(&ColorAdjustments::contrast, -50, 200), 200);
     EXPECT_EQ(toneWith(&ColorAdjustments::gamma, 2.0, 64), 128) << "255 * sqrt(64 / 255) = 127.7";
     EXPECT_EQ(toneWith(&ColorAdjustments::gamma, 0.5, 128), 64) << "255 * (128 / 255)^2 = 64.3";
+    EXPECT_EQ(toneWith(&ColorAdjustments::green, 100, 100), 141) << "half a stop: 100 * sqrt(2) = 141.4";
 }
 
 TEST(ColourPreview, AChannelMovesOnlyItself)
