@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/decode/image_source.h"
+
 #include "platform/foundation/units.h"
 
 #include <QColorSpace>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/job/job_in_words.h"
-#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/job/job_options.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/page/page_choice.h"
 #include "platform/foundation/numbers.h"

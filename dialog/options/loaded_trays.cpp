@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/loaded_trays.h"
-#include "dialog/options/page_size_keyword.h"
-#include "dialog/options/paper_shape.h"
 
 #include "dialog/options/ipp_twins.h"
+#include "dialog/options/paper_shape.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/options/tray_words.h"
 #include "platform/printing/cups_ppd.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/page_fit.h"
-#include "dialog/options/page_size_keyword.h"
-#include "dialog/options/paper_shape.h"
 
+#include "dialog/options/paper_shape.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/options/ppd_model.h"
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/numbers.h"
@@ -87,7 +87,7 @@ std::optional<QSizeF> sizeInName(const QString& name)
 PaperRoom paperRoom(const PrinterOffer& offer, const QMap<QString, QString>& choices,
                     const QString& sheetTitle)
 {
-    const QString feed = choices.value(QStringLiteral("PaperFeed"));
+    const QString feed = choices.value(kPaperFeed);
     if (feed == QLatin1StringView("Roll")) {
         const double width = tenthsOf(choices.value(kPaperWidth));
         return {width > 0.0 ? std::optional(width) : std::nullopt, std::nullopt, true};

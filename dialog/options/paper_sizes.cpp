@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/paper_sizes.h"
-#include "dialog/options/page_size_keyword.h"
-#include "dialog/options/paper_shape.h"
 
 #include "dialog/options/custom_paper.h"
+#include "dialog/options/paper_shape.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/options/ppd_model.h"
 #include "platform/foundation/list_text.h"
 #include "platform/foundation/units.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/options/ppd_model.h"
-#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/options/custom_paper.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/options/ppd_lookup.h"
 #include "platform/printing/cups_ppd.h"
 

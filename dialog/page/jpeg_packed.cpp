@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_packed.h"
+
 #include "dialog/page/jpeg_markers.h"
 
 #include <QtEndian>

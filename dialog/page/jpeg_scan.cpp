@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/page/jpeg_scan.h"
-#include "dialog/page/jpeg_markers.h"
 
+#include "dialog/page/jpeg_markers.h"
 #include "dialog/page/jpeg_packed.h"
 
 #include <QtEndian>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/application.h"
-#include "dialog/program/take_back.h"
 
 #include "dialog/job/pdf_output.h"
 #include "dialog/job/print_run.h"
 #include "dialog/program/exit_status.h"
+#include "dialog/program/take_back.h"
 #include "dialog/window/translations.h"
 #include "platform/foundation/display_text.h"
 #include "platform/foundation/threads/work_queue.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/program/batch_print.h"
-#include "dialog/program/take_back.h"
 
+#include "dialog/program/take_back.h"
 #include "dialog/session/sheet_words.h"
 #include "platform/foundation/display_text.h"
 

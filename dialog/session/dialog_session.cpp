@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/dialog_session.h"
-#include "dialog/session/paper_feed_keyword.h"
 
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/session/driver_colours.h"
 #include "dialog/session/starting_options.h"
 #include "platform/foundation/units.h"
@@ -236,7 +236,7 @@ void DialogSession::loadPanels()
         Q_EMIT notice(problem);
     // The panel of the papers makes its view soon anyway, and settles on a feed then. Made now, the view
     // shows what is chosen before the papers come.
-    panels_.restore(request_.panelsChangeOptions ? kPaperFeedKeyword : QString());
+    panels_.restore(request_.panelsChangeOptions ? kPaperFeed : QString());
 }
 
 void DialogSession::setPage(const PageSettings& page)

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a printer that tells of its trays has to do with the options.
-#include "dialog/options/page_size_keyword.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/session/dialog_session.h"
-#include "dialog/session/paper_feed_keyword.h"
 
 #include "dialog/session/seen_printers.h"
 #include "platform/foundation/display_text.h"
@@ -63,7 +62,7 @@ bool isSamePaper(const TrayPaper& a, const TrayPaper& b)
 
 QList<TrayPaper> DialogSession::trays() const
 {
-    const bool hasOwnFeed = model() && model()->choiceCount(kPaperFeedKeyword) > 0;
+    const bool hasOwnFeed = model() && model()->choiceCount(kPaperFeed) > 0;
     return model() && !hasOwnFeed ? report().trays : QList<TrayPaper>();
 }
 

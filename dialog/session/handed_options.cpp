@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/session/handed_options.h"
-#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/options/common_words.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/options/ppd_lookup.h"
 #include "dialog/options/ppd_model.h"
 #include "dialog/session/preset_use.h"

@@ -65,11 +65,12 @@ void PrinterChoice::noteOrigin()
         select(printerName_);
 }
 
-// Somebody has installed its driver meanwhile: what the printer says over IPP is its options no more.
+// Somebody has installed its driver meanwhile: what the printer says over IPP is its options no more. The
+// server's own queue for a discovered printer is called otherwise while it is made, and is nobody's news.
 void PrinterChoice::noteDriver()
 {
     const PrinterInfo* info = printers_->find(printerName_);
-    const bool isNews = isThere_ && modelWithoutPpd_ && info && !info->isDiscovered &&
+    const bool isNews = isThere_ && modelWithoutPpd_ && info && originOf(printerName_).isEmpty() &&
                         info->makeAndModel != *modelWithoutPpd_;
     if (!isNews)
         return;

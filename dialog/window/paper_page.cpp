@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/paper_page.h"
-#include "dialog/options/page_size_keyword.h"
 
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/window/choice_list.h"
 #include "dialog/window/colour_row.h"
 #include "dialog/window/custom_paper_row.h"

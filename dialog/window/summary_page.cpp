@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/window/summary_page.h"
-#include "dialog/options/page_size_keyword.h"
 
 #include "dialog/job/job_in_words.h"
+#include "dialog/options/ppd_keywords.h"
 #include "dialog/preview/preview_widget.h"
 #include "dialog/window/folded_list.h"
 #include "platform/foundation/list_text.h"

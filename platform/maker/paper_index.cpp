@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/maker/paper_index.h"
-#include "platform/foundation/description.h"
 
+#include "platform/foundation/description.h"
 #include "platform/foundation/numbers.h"
 #include "platform/foundation/string_additions.h"
 

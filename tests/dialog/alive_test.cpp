@@ -71,6 +71,25 @@ protected:
     FakePanels panels;
 };
 
+TEST_F(AliveTest, AQueueThatGetsItsDriverWhileItIsShownIsReadAgain)
+{
+    DriverlessPrinter printer;
+    const auto setUp = [](const QStringList& with) {
+        return runProgram(q("/usr/sbin/lpadmin"), QStringList{q("-p"), q("Late"), q("-E")} + with).status;
+    };
+    ASSERT_EQ(setUp({q("-v"), printer.uri}), 0);
+    DialogSession session(request("Late"), panels);
+    QStringList told;
+    QObject::connect(&session, &DialogSession::notice, [&](const QString& notice) { told.append(notice); });
+    session.start();
+    ASSERT_TRUE(waitUntil([&] { return session.canPrint(); }));
+    EXPECT_EQ(session.model()->choiceCount(q("PaperFeed")), 0);
+    ASSERT_EQ(setUp({q("-P"), q(HALVERN_TEST_SCRIPTS "/../printer/tessarin.ppd")}), 0);
+    EXPECT_TRUE(
+        waitUntil([&] { return session.canPrint() && session.model()->choiceCount(q("PaperFeed")) > 0; }));
+    EXPECT_EQ(told.filter(q("set up anew")).size(), 1) << told.join(u'\n').toStdString();
+}
+
 TEST_F(AliveTest, FollowsThePaperTheInkAndTheCover)
 {
     DriverlessPrinter printer;
